@@ -1,0 +1,75 @@
+# Compiler settings shared by every target, and the functions that declare a module and a test program.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+find_program(KTUI_CCACHE ccache)
+if(KTUI_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${KTUI_CCACHE})
+endif()
+
+add_library(ktui_settings INTERFACE)
+target_compile_options(ktui_settings INTERFACE -Wall -Wextra -Wshadow -Werror)
+if(WIN32)
+  target_compile_definitions(ktui_settings INTERFACE
+    UNICODE _UNICODE STRICT NOMINMAX _WIN32_WINNT=0x0A00 WINVER=0x0A00 _WIN32_IE=0x0A00)
+  # Message-map entries store member functions of many signatures under one type.
+  target_compile_options(ktui_settings INTERFACE -Wno-cast-function-type -Wno-unknown-pragmas)
+  target_compile_options(ktui_settings INTERFACE -g1)
+  if(KTUI_CHECKED)
+    target_compile_definitions(ktui_settings INTERFACE _GLIBCXX_ASSERTIONS)
+    target_compile_options(ktui_settings INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+  endif()
+else()
+  if(KTUI_SANITIZE)
+    target_compile_options(ktui_settings INTERFACE -fsanitize=${KTUI_SANITIZE} -fno-sanitize-recover=all
+                           -fno-omit-frame-pointer)
+    target_link_options(ktui_settings INTERFACE -fsanitize=${KTUI_SANITIZE})
+  endif()
+  if(KTUI_FUZZ)
+    target_compile_options(ktui_settings INTERFACE -fsanitize=fuzzer-no-link)
+  endif()
+  if(KTUI_COVERAGE)
+    target_compile_options(ktui_settings INTERFACE --coverage)
+    target_link_options(ktui_settings INTERFACE --coverage)
+  endif()
+endif()
+
+# ktui_module(name CORE unit.cpp ... WINDOW unit.cpp ... LINK target ... PRIVATE_LINK target ...)
+# Declares module `name`: NAME.dll of all units on Windows, a static library of the CORE units natively.
+# <NAME>_EXPORTS is defined while it is compiled on Windows. LINK edges are public and are the only include
+# directions the module has. A module without CORE units is not there natively.
+function(ktui_module name)
+  cmake_parse_arguments(M "" "" "CORE;WINDOW;LINK;WINDOW_LINK;SYSTEM" ${ARGN})
+  string(TOUPPER "${name}" upper)
+  if(WIN32)
+    add_library(${name} SHARED ${M_CORE} ${M_WINDOW})
+    set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib" DEFINE_SYMBOL ${upper}_EXPORTS)
+    target_link_libraries(${name} PUBLIC ${M_LINK} ${M_WINDOW_LINK} PRIVATE ${M_SYSTEM} $<BUILD_INTERFACE:ktui_settings>)
+  else()
+    if(NOT M_CORE)
+      return()
+    endif()
+    add_library(${name} STATIC ${M_CORE})
+    target_link_libraries(${name} PUBLIC ${M_LINK} PRIVATE $<BUILD_INTERFACE:ktui_settings>)
+  endif()
+endfunction()
+
+# ktui_test(name LABEL core|ui|journey SOURCES ... LINK target ...)
+# Declares the GoogleTest program `name`. Each of its tests becomes one CTest test when native; on Windows the
+# program is one CTest test, because starting a process costs more than most tests.
+function(ktui_test name)
+  cmake_parse_arguments(T "" "LABEL;TIMEOUT" "SOURCES;LINK" ${ARGN})
+  if(NOT T_TIMEOUT)
+    set(T_TIMEOUT 300)
+  endif()
+  add_executable(${name} ${T_SOURCES})
+  target_link_libraries(${name} PRIVATE ${T_LINK} ktui_gtest_main ktui_settings)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES LABELS ${T_LABEL} TIMEOUT ${T_TIMEOUT})
+endfunction()
