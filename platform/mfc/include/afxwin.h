@@ -1,0 +1,20 @@
+// Windows, menus, drawing, applications, frames, dialogs and the standard controls.
+#pragma once
+
+#include <afx.h>
+#include <afxcoll.h>
+#include <afxtempl.h>
+
+#include <shellapi.h>
+
+#include <kmfc/app.h>
+#include <kmfc/cmd_target.h>
+#include <kmfc/data_exchange.h>
+#include <kmfc/dialog.h>
+#include <kmfc/frame.h>
+#include <kmfc/gdi.h>
+#include <kmfc/menu.h>
+#include <kmfc/module_state.h>
+#include <kmfc/standard_controls.h>
+#include <kmfc/thread.h>
+#include <kmfc/wnd.h>

@@ -1,0 +1,77 @@
+// CWinApp: the application object; AfxMessageBox and the other services that go through it.
+#pragma once
+
+#include <kmfc/module_state.h>
+#include <kmfc/thread.h>
+
+class KMFC_API CWinApp : public CWinThread {
+    DECLARE_DYNAMIC(CWinApp)
+public:
+    explicit CWinApp(LPCTSTR lpszAppName = nullptr);
+    ~CWinApp() override;
+    CWinApp(const CWinApp&) = delete;
+    CWinApp& operator=(const CWinApp&) = delete;
+
+    HINSTANCE m_hInstance = nullptr;
+    LPTSTR m_lpCmdLine = nullptr;
+    int m_nCmdShow = SW_SHOWNORMAL;
+    LPCTSTR m_pszAppName = nullptr;
+    LPCTSTR m_pszExeName = nullptr;
+    LPCTSTR m_pszRegistryKey = nullptr; ///< company name after SetRegistryKey
+    LPCTSTR m_pszProfileName = nullptr; ///< application name after SetRegistryKey, otherwise an .INI file's name
+
+    BOOL InitInstance() override;
+    int Run() override;
+    int ExitInstance() override;
+    BOOL OnIdle(LONG lCount) override;
+    virtual BOOL InitApplication();
+    /// Shows a message box on behalf of AfxMessageBox.
+    virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
+    virtual void DoWaitCursor(int nCode); ///< 1 begins, 0 restores, -1 ends
+    virtual BOOL SaveAllModified() { return TRUE; }
+    virtual void EnableModeless(BOOL bEnable);
+
+    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
+    HCURSOR LoadCursor(UINT nIDResource) const;
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const { return ::LoadCursorW(nullptr, lpszCursorName); }
+    HICON LoadIcon(LPCTSTR lpszResourceName) const;
+    HICON LoadIcon(UINT nIDResource) const;
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const { return ::LoadIconW(nullptr, lpszIconName); }
+
+    /// From here on the profile functions use HKEY_CURRENT_USER\Software\<company>\<application>.
+    void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
+    BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
+    CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
+    /// A null entry deletes the section, a null value the entry.
+    BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    /// `*ppData` is allocated with new[] and belongs to the caller.
+    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+
+    afx_msg void OnAppExit();
+
+private:
+    CString m_strAppName, m_strExeName, m_strRegistryKey, m_strProfileName, m_strCmdLine;
+    int m_nWaitCursorCount = 0;
+    HCURSOR m_hcurWaitCursorRestore = nullptr;
+
+    friend KMFC_API int AfxWinMain(HINSTANCE, HINSTANCE, LPTSTR, int);
+    friend KMFC_API BOOL AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
+    DECLARE_MESSAGE_MAP()
+};
+
+KMFC_API CWinApp* AfxGetApp();
+KMFC_API LPCTSTR AfxGetAppName();
+KMFC_API BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
+KMFC_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
+KMFC_API void AfxWinTerm();
+
+KMFC_API int AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
+KMFC_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
+KMFC_API int AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
+/// Piece `iSubString` of a text of pieces separated by `chSep`; FALSE when there is none.
+KMFC_API BOOL AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString, TCHAR chSep = '\n');
+KMFC_API void AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1);
+KMFC_API void AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2);
+KMFC_API void AfxFormatStrings(CString& rString, LPCTSTR lpszFormat, LPCTSTR const* rglpsz, int nString);
