@@ -1,0 +1,267 @@
+// CDialog: modal and modeless dialog boxes.
+#include <kmfc/dialog.h>
+
+#include "thread_state.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
+    ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
+END_MESSAGE_MAP()
+
+CDialog::CDialog() = default;
+CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
+    : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
+    : m_nIDHelp(nIDTemplate), m_lpszTemplateName(MAKEINTRESOURCEW(nIDTemplate)), m_pParentWnd(pParentWnd) {}
+
+CDialog::~CDialog() {
+    if (m_hWnd != nullptr) DestroyWindow();
+}
+
+/// The platform's side of the dialog: it only asks for the initial focus.
+INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
+    if (message != WM_INITDIALOG) return 0;
+    auto* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hWnd));
+    return dialog != nullptr ? dialog->OnInitDialog() : 1;
+}
+
+BOOL CWnd::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
+    AfxHookWindowCreate(this);
+    HWND hWnd = ::CreateDialogIndirectParamW(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDlgProc, 0);
+    if (!AfxUnhookWindowCreate() && !(m_nFlags & WF_CONTINUEMODAL)) PostNcDestroy();
+    return hWnd != nullptr;
+}
+
+BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) { return Create(MAKEINTRESOURCEW(nIDTemplate), pParentWnd); }
+
+BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+    m_lpszTemplateName = lpszTemplateName;
+    if (IS_INTRESOURCE(lpszTemplateName) && m_nIDHelp == 0)
+        m_nIDHelp = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpszTemplateName));
+    HINSTANCE module = AfxFindResourceHandle(lpszTemplateName, RT_DIALOG);
+    HRSRC resource = ::FindResourceW(module, lpszTemplateName, RT_DIALOG);
+    if (resource == nullptr) return FALSE;
+    HGLOBAL loaded = ::LoadResource(module, resource);
+    return CreateIndirect(loaded, pParentWnd, module);
+}
+
+BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
+    auto* dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate));
+    return CreateFromTemplate(dialogTemplate, pParentWnd, hInst, nullptr);
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
+    return CreateFromTemplate(lpDialogTemplate, pParentWnd, nullptr, lpDialogInit);
+}
+
+BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst,
+                                 void* lpDialogInit) {
+    if (lpDialogTemplate == nullptr) return FALSE;
+    if (pParentWnd == nullptr) pParentWnd = AfxGetMainWnd();
+    m_lpDialogInit = lpDialogInit;
+    return CreateDlgIndirect(lpDialogTemplate, pParentWnd, hInst != nullptr ? hInst : AfxGetResourceHandle());
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
+    m_lpDialogTemplate = lpDialogTemplate;
+    m_lpDialogInit = lpDialogInit;
+    if (m_pParentWnd == nullptr) m_pParentWnd = pParentWnd;
+    return TRUE;
+}
+
+BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    m_hDialogTemplate = hDialogTemplate;
+    if (m_pParentWnd == nullptr) m_pParentWnd = pParentWnd;
+    return TRUE;
+}
+
+HWND CDialog::PreModal() {
+    CWinApp* app = AfxGetApp();
+    if (app != nullptr) app->EnableModeless(FALSE);
+    CWnd* owner = CWnd::GetSafeOwner(m_pParentWnd, &m_hWndTop);
+    return owner->GetSafeHwnd();
+}
+
+void CDialog::PostModal() {
+    Detach();
+    if (m_hWndTop != nullptr && ::IsWindow(m_hWndTop)) ::EnableWindow(m_hWndTop, TRUE);
+    m_hWndTop = nullptr;
+    if (CWinApp* app = AfxGetApp()) app->EnableModeless(TRUE);
+}
+
+INT_PTR CDialog::DoModal() {
+    LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
+    HGLOBAL loaded = m_hDialogTemplate;
+    HINSTANCE module = AfxGetResourceHandle();
+    if (m_lpszTemplateName != nullptr) {
+        module = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
+        HRSRC resource = ::FindResourceW(module, m_lpszTemplateName, RT_DIALOG);
+        loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+    }
+    if (loaded != nullptr) dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(loaded));
+    if (dialogTemplate == nullptr) return -1;
+
+    HWND parent = PreModal();
+    const bool enableParent = parent != nullptr && parent != ::GetDesktopWindow() && ::IsWindowEnabled(parent);
+    if (enableParent) ::EnableWindow(parent, FALSE);
+    m_nModalResult = -1;
+    m_nFlags |= WF_CONTINUEMODAL;
+    try {
+        if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(parent), module)) RunCreated(parent, enableParent);
+    } catch (CException* e) {
+        e->Delete();
+        m_nModalResult = -1;
+    }
+    m_nFlags &= ~WF_CONTINUEMODAL;
+    // The parent is enabled before the dialog goes, or the activation would go to another application.
+    if (enableParent) ::EnableWindow(parent, TRUE);
+    if (parent != nullptr && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(parent);
+    DestroyWindow();
+    PostModal();
+    return m_nModalResult;
+}
+
+int CDialog::RunCreated(HWND, BOOL) {
+    if (m_nFlags & WF_CONTINUEMODAL) {
+        DWORD flags = MLF_SHOWONIDLE;
+        if (GetStyle() & DS_NOIDLEMSG) flags |= MLF_NOIDLEMSG;
+        RunModalLoop(flags);
+    }
+    if (m_hWnd != nullptr)
+        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    return m_nModalResult;
+}
+
+void CDialog::EndDialog(int nResult) {
+    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) EndModalLoop(nResult);
+    if (m_hWnd != nullptr) ::EndDialog(m_hWnd, nResult);
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE)) EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() { EndDialog(IDCANCEL); }
+
+void CDialog::PreInitDialog() {}
+void CDialog::OnSetFont(CFont*) {}
+
+BOOL CDialog::CheckAutoCenter() {
+    // Only a modal dialog whose template leaves the place open is centred.
+    if (!(m_nFlags & WF_CONTINUEMODAL)) return FALSE;
+    return !(GetStyle() & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN));
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    PreInitDialog();
+    const BOOL ownInit = m_lpDialogInit != nullptr ? ExecuteDlgInit(m_lpDialogInit) : ExecuteDlgInit(m_lpszTemplateName);
+    if (!ownInit) {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return Default();
+}
+
+LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
+    OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
+    return Default();
+}
+
+LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM) { return FALSE; }
+
+BOOL CDialog::OnInitDialog() { return UpdateData(FALSE) ? TRUE : (EndDialog(-1), FALSE); }
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+    // Commands and their update requests go on to the owner; notifications of the dialog's controls do not.
+    if (nCode != CN_COMMAND && nCode != CN_UPDATE_COMMAND_UI) return FALSE;
+    if (nID >= 0xF000 || nID < 0x8000) return FALSE;
+    if (CWnd* owner = GetParent()) {
+        if (owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+    }
+    CWinThread* thread = AfxGetThread();
+    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+    const bool cancel = pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_ESCAPE || pMsg->wParam == VK_CANCEL);
+    if (cancel && (::GetWindowLongPtrW(pMsg->hwnd, GWL_STYLE) & ES_MULTILINE)) {
+        wchar_t name[10] = {};
+        ::GetClassNameW(pMsg->hwnd, name, 10);
+        if (::lstrcmpiW(name, L"Edit") == 0) {
+            // A multi-line edit would close the dialog outright; Cancel is asked for if it may be had.
+            HWND item = ::GetDlgItem(m_hWnd, IDCANCEL);
+            if (item == nullptr || ::IsWindowEnabled(item)) {
+                SendMessage(WM_COMMAND, IDCANCEL, 0);
+                return TRUE;
+            }
+        }
+    }
+    return PreTranslateInput(pMsg);
+}
+
+namespace {
+
+/// Message numbers in a dialog's initial data date from 16-bit Windows; what they stand for now.
+UINT current_init_message(WORD stored) {
+    switch (stored) {
+        case 0x0401:
+            return LB_ADDSTRING;
+        case 0x0403:
+            return CB_ADDSTRING;
+        case 0x1234:
+            return CBEM_INSERTITEMW;
+        default:
+            return stored;
+    }
+}
+
+LRESULT send_initial_text(HWND control, UINT message, const char* text) {
+    const CString wide(text);
+    if (message != CBEM_INSERTITEMW) return ::SendMessageW(control, message, 0, reinterpret_cast<LPARAM>(wide.GetString()));
+    COMBOBOXEXITEMW item = {};
+    item.mask = CBEIF_TEXT;
+    item.iItem = -1;
+    item.pszText = const_cast<LPWSTR>(wide.GetString());
+    return ::SendMessageW(control, message, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+} // namespace
+
+BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
+    if (lpszResourceName == nullptr) return ExecuteDlgInit(static_cast<LPVOID>(nullptr));
+    constexpr LPCWSTR kDialogInit = MAKEINTRESOURCEW(240);
+    HINSTANCE module = AfxFindResourceHandle(lpszResourceName, kDialogInit);
+    HRSRC resource = ::FindResourceW(module, lpszResourceName, kDialogInit);
+    HGLOBAL loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+    return ExecuteDlgInit(loaded != nullptr ? ::LockResource(loaded) : nullptr);
+}
+
+BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
+    BOOL success = TRUE;
+    // Records of id, message, length and that many bytes of text; an id of 0 ends them.
+    const auto* at = static_cast<const BYTE*>(lpResource);
+    while (success && at != nullptr) {
+        WORD id = 0, message = 0;
+        DWORD length = 0;
+        memcpy(&id, at, sizeof(id));
+        if (id == 0) break;
+        memcpy(&message, at + 2, sizeof(message));
+        memcpy(&length, at + 4, sizeof(length));
+        at += 8;
+        if (length > 0) {
+            const LRESULT added = send_initial_text(::GetDlgItem(m_hWnd, id), current_init_message(message),
+                                                    reinterpret_cast<const char*>(at));
+            if (added == CB_ERR || added == CB_ERRSPACE) success = FALSE;
+        }
+        at += length;
+    }
+    if (success) SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, FALSE, FALSE);
+    return success;
+}

@@ -1,0 +1,192 @@
+// CFrameWnd: menu, accelerators, messages, command routing, modal state.
+#include <kmfc/frame.h>
+
+#include "thread_state.h"
+
+const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
+
+IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+    ON_WM_ACTIVATE()
+    ON_WM_INITMENUPOPUP()
+    ON_WM_MENUSELECT()
+    ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+END_MESSAGE_MAP()
+
+CFrameWnd::CFrameWnd() = default;
+CFrameWnd::~CFrameWnd() = default;
+
+BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
+    if (cs.lpszClass == nullptr)
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
+                                           reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+    return TRUE;
+}
+
+BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName) {
+    m_hAccelTable =
+        ::LoadAcceleratorsW(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
+    return m_hAccelTable != nullptr;
+}
+
+BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                       CWnd* pParentWnd, LPCTSTR lpszMenuName, DWORD dwExStyle, void* pContext) {
+    HMENU menu = nullptr;
+    if (lpszMenuName != nullptr) {
+        menu = ::LoadMenuW(AfxFindResourceHandle(lpszMenuName, RT_MENU), lpszMenuName);
+        if (menu == nullptr) {
+            PostNcDestroy();
+            return FALSE;
+        }
+    }
+    m_strTitle = lpszWindowName;
+    if (CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, rect.right - rect.left,
+                 rect.bottom - rect.top, pParentWnd->GetSafeHwnd(), menu, pContext))
+        return TRUE;
+    if (menu != nullptr) ::DestroyMenu(menu);
+    return FALSE;
+}
+
+BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, void* pContext) {
+    CString full, title;
+    if (full.LoadString(nIDResource)) AfxExtractSubString(title, full, 0);
+    const LPCTSTR name = MAKEINTRESOURCEW(nIDResource);
+    HICON icon = ::LoadIconW(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
+                                                    reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon);
+    if (!Create(windowClass, title, dwDefaultStyle & ~FS_ADDTOTITLE, rectDefault, pParentWnd, name, 0, pContext))
+        return FALSE;
+    LoadAccelTable(name);
+    return TRUE;
+}
+
+int CFrameWnd::OnCreate(LPCREATESTRUCT) {
+    return Default() == -1 ? -1 : 0;
+}
+
+void CFrameWnd::OnClose() {
+    CWinApp* app = AfxGetApp();
+    if (app != nullptr && app->m_pMainWnd == this && !app->SaveAllModified()) return;
+    DestroyWindow();
+}
+
+void CFrameWnd::OnDestroy() {
+    // The menu belongs to the window and goes with it.
+    CWnd::OnDestroy();
+}
+
+void CFrameWnd::PostNcDestroy() { delete this; }
+
+void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
+    CWnd::OnActivate(nState, pWndOther, bMinimized);
+}
+
+void CFrameWnd::ActivateFrame(int nCmdShow) {
+    if (nCmdShow == -1) nCmdShow = IsIconic() ? SW_RESTORE : SW_SHOW;
+    BringWindowToTop();
+    ShowWindow(nCmdShow);
+    ::SetForegroundWindow(::GetLastActivePopup(m_hWnd));
+}
+
+BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+    const bool key = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
+    return key && m_hAccelTable != nullptr && ::TranslateAcceleratorW(m_hWnd, m_hAccelTable, pMsg);
+}
+
+BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+    CWinApp* app = AfxGetApp();
+    return app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+BOOL CFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
+    Default();
+    if (bSysMenu) return;
+    CCmdUI request;
+    request.m_pMenu = pPopupMenu;
+    request.m_nIndexMax = static_cast<UINT>(pPopupMenu->GetMenuItemCount());
+    for (request.m_nIndex = 0; request.m_nIndex < request.m_nIndexMax; ++request.m_nIndex) {
+        request.m_nID = pPopupMenu->GetMenuItemID(static_cast<int>(request.m_nIndex));
+        if (request.m_nID == 0) continue;
+        if (request.m_nID == static_cast<UINT>(-1)) {
+            // A popup is updated by its first item, which may enable or disable all of it.
+            request.m_pSubMenu = pPopupMenu->GetSubMenu(static_cast<int>(request.m_nIndex));
+            if (request.m_pSubMenu == nullptr) continue;
+            request.m_nID = request.m_pSubMenu->GetMenuItemID(0);
+            if (request.m_nID == 0 || request.m_nID == static_cast<UINT>(-1)) continue;
+            request.DoUpdate(this, FALSE);
+        } else {
+            request.m_pSubMenu = nullptr;
+            request.DoUpdate(this, m_bAutoMenuEnable && request.m_nID < 0xF000);
+        }
+        const UINT count = static_cast<UINT>(pPopupMenu->GetMenuItemCount());
+        if (count < request.m_nIndexMax) {
+            // The handler took items away; go on behind them.
+            request.m_nIndex -= request.m_nIndexMax - count;
+        }
+        request.m_nIndexMax = count;
+    }
+}
+
+void CFrameWnd::OnMenuSelect(UINT nItemID, UINT nFlags, HMENU) {
+    if (nFlags == 0xFFFF) {
+        m_nIDTracking = AFX_IDS_IDLEMESSAGE;
+        SendMessage(WM_SETMESSAGESTRING, m_nIDTracking);
+        return;
+    }
+    const bool none = nItemID == 0 || (nFlags & (MF_SEPARATOR | MF_POPUP)) != 0;
+    m_nIDTracking = none ? 0 : nItemID;
+    SendMessage(WM_SETMESSAGESTRING, m_nIDTracking);
+}
+
+void CFrameWnd::GetMessageString(UINT nID, CString& rMessage) const {
+    CString full;
+    rMessage.Empty();
+    if (full.LoadString(nID)) AfxExtractSubString(rMessage, full, 0);
+}
+
+LRESULT CFrameWnd::OnSetMessageString(WPARAM wParam, LPARAM lParam) {
+    const UINT previous = m_nIDLastMessage;
+    CString text;
+    if (lParam != 0)
+        text = reinterpret_cast<LPCTSTR>(lParam);
+    else if (wParam != 0)
+        GetMessageString(static_cast<UINT>(wParam), text);
+    if (CWnd* bar = GetMessageBar()) bar->SetWindowText(text);
+    m_nIDLastMessage = static_cast<UINT>(wParam);
+    return static_cast<LRESULT>(previous);
+}
+
+void CFrameWnd::SetMessageText(LPCTSTR lpszText) { SendMessage(WM_SETMESSAGESTRING, 0, reinterpret_cast<LPARAM>(lpszText)); }
+void CFrameWnd::SetMessageText(UINT nID) { SendMessage(WM_SETMESSAGESTRING, nID); }
+
+void CFrameWnd::BeginModalState() {
+    if (++m_cModalStack > 1) return;
+    for (HWND other = ::GetWindow(::GetDesktopWindow(), GW_CHILD); other != nullptr;
+         other = ::GetWindow(other, GW_HWNDNEXT)) {
+        CWnd* wnd = FromHandlePermanent(other);
+        if (wnd == nullptr || other == m_hWnd || !::IsWindowEnabled(other) || wnd->GetTopLevelOwner() != this) continue;
+        ::EnableWindow(other, FALSE);
+        m_disabledWindows.Add(static_cast<DWORD>(reinterpret_cast<UINT_PTR>(other)));
+    }
+    EnableWindow(FALSE);
+}
+
+void CFrameWnd::EndModalState() {
+    if (m_cModalStack == 0 || --m_cModalStack > 0) return;
+    for (INT_PTR i = 0; i < m_disabledWindows.GetSize(); ++i) {
+        HWND other = reinterpret_cast<HWND>(static_cast<UINT_PTR>(m_disabledWindows[i]));
+        if (::IsWindow(other)) ::EnableWindow(other, TRUE);
+    }
+    m_disabledWindows.RemoveAll();
+    EnableWindow(TRUE);
+}
