@@ -24,10 +24,14 @@ unsigned long long low_bytes(long long value, int size) {
 
 long long sign_extended(long long value, int size) {
     switch (size) {
-        case 1: return static_cast<signed char>(value);
-        case 2: return static_cast<short>(value);
-        case 4: return static_cast<int>(value);
-        default: return value;
+        case 1:
+            return static_cast<signed char>(value);
+        case 2:
+            return static_cast<short>(value);
+        case 4:
+            return static_cast<int>(value);
+        default:
+            return value;
     }
 }
 
@@ -83,12 +87,14 @@ NumberText integer_text(const FormatField& field, long long value) {
                                                 : low_bytes(value, field.integer_size);
     const bool hex = field.letter == 'x' || field.letter == 'X';
     if (is_signed) text.sign = sign_of(field, negative);
-    if (bits != 0 || field.precision != 0) text.digits = digits_of(bits, hex ? 16 : field.letter == 'o' ? 8 : 10);
+    if (bits != 0 || field.precision != 0)
+        text.digits = digits_of(bits, hex ? 16 : field.letter == 'o' ? 8 : 10);
     if (field.precision > static_cast<int>(text.digits.size())) {
         text.trailing_zeros = field.precision - static_cast<long long>(text.digits.size());
     }
     if (field.alternate && hex && bits != 0) text.sign = "0x";
-    if (field.alternate && field.letter == 'o' && text.trailing_zeros == 0 && (text.digits.empty() || text.digits[0] != '0')) {
+    if (field.alternate && field.letter == 'o' && text.trailing_zeros == 0 &&
+        (text.digits.empty() || text.digits[0] != '0')) {
         text.digits.insert(0, "0");
     }
     if (field.letter == 'X') {
@@ -105,7 +111,9 @@ NumberText real_text(const FormatField& field, double value) {
     text.sign = sign_of(field, std::signbit(value));
     const double magnitude = std::fabs(value);
     text.finite = std::isfinite(value);
-    const int asked = field.precision >= 0 ? field.precision : letter == 'a' ? kHexPrecision : kDefaultPrecision;
+    const int asked = field.precision >= 0 ? field.precision
+                      : letter == 'a'      ? kHexPrecision
+                                           : kDefaultPrecision;
     const int precision = std::min(asked, kMostDecimals);
     if (!text.finite) {
         text.digits = std::isnan(value) ? "nan" : "inf";
@@ -120,8 +128,9 @@ NumberText real_text(const FormatField& field, double value) {
         text.trailing_zeros = asked - precision;
     }
     if (text.finite && field.alternate) force_point(text.digits, letter == 'a' ? 'p' : 'e');
-    text.zeros_at = letter == 'f' || letter == 'g' ? text.digits.size()
-                                                   : std::min(text.digits.find(letter == 'a' ? 'p' : 'e'), text.digits.size());
+    text.zeros_at = letter == 'f' || letter == 'g'
+                        ? text.digits.size()
+                        : std::min(text.digits.find(letter == 'a' ? 'p' : 'e'), text.digits.size());
     if (upper) {
         to_upper(text.sign);
         to_upper(text.digits);

@@ -13,8 +13,8 @@ struct FormatField {
     bool alternate = false;  ///< '#'
     bool zeros = false;      ///< '0'
     int width = 0;
-    int precision = -1;       ///< -1 when absent
-    int integer_size = 4;     ///< bytes of an integer argument
+    int precision = -1;         ///< -1 when absent
+    int integer_size = 4;       ///< bytes of an integer argument
     bool narrow_asked = false;  ///< h before a text letter
     bool wide_asked = false;    ///< l or w before a text letter
     char letter = 0;
@@ -22,8 +22,8 @@ struct FormatField {
 
 /// A number in three pieces, so that zeros can be filled in between.
 struct NumberText {
-    std::string sign;    ///< "-", "+", " " or a base prefix
-    std::string digits;  ///< the digits, with point and exponent
+    std::string sign;              ///< "-", "+", " " or a base prefix
+    std::string digits;            ///< the digits, with point and exponent
     long long trailing_zeros = 0;  ///< zeros to add inside `digits` at `zeros_at`
     size_t zeros_at = 0;
     bool finite = true;  ///< false for inf and nan, which zeros must not fill

@@ -274,7 +274,8 @@ Ch* CSimpleStringT<Ch>::writable(int capacity) {
     if (!shared && capacity <= block->capacity) return m_pszData;
     int room = std::max(capacity, 1);
     if (block->length > 0 && capacity > block->length) {
-        room = std::max<int>(room, block->length < INT_MAX / 3 * 2 ? block->length + block->length / 2 : room);
+        room =
+            std::max<int>(room, block->length < INT_MAX / 3 * 2 ? block->length + block->length / 2 : room);
     }
     if (shared || block->capacity == 0) {
         StringHeader* copy = kmfc::allocate_string(room, sizeof(Ch));

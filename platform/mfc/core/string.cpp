@@ -230,7 +230,8 @@ int CStringT<Ch>::Delete(int iIndex, int nCount) {
     if (first >= length || nCount <= 0) return length;
     const int count = std::min(nCount, length - first);
     Ch* text = this->GetBuffer();
-    std::char_traits<Ch>::move(text + first, text + first + count, static_cast<size_t>(length - first - count));
+    std::char_traits<Ch>::move(text + first, text + first + count,
+                               static_cast<size_t>(length - first - count));
     this->ReleaseBufferSetLength(length - count);
     return GetLength();
 }

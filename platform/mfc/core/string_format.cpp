@@ -38,12 +38,18 @@ public:
 
     FormatArgument next(Wanted wanted) {
         switch (wanted) {
-            case Wanted::integer32: return FormatArgument::from(va_arg(m_arguments, int));
-            case Wanted::integer64: return FormatArgument::from(va_arg(m_arguments, long long));
-            case Wanted::real: return FormatArgument::from(va_arg(m_arguments, double));
-            case Wanted::narrow_text: return FormatArgument::from(va_arg(m_arguments, const char*));
-            case Wanted::wide_text: return FormatArgument::from(va_arg(m_arguments, const wchar_t*));
-            case Wanted::pointer: break;
+            case Wanted::integer32:
+                return FormatArgument::from(va_arg(m_arguments, int));
+            case Wanted::integer64:
+                return FormatArgument::from(va_arg(m_arguments, long long));
+            case Wanted::real:
+                return FormatArgument::from(va_arg(m_arguments, double));
+            case Wanted::narrow_text:
+                return FormatArgument::from(va_arg(m_arguments, const char*));
+            case Wanted::wide_text:
+                return FormatArgument::from(va_arg(m_arguments, const wchar_t*));
+            case Wanted::pointer:
+                break;
         }
         return FormatArgument::from(va_arg(m_arguments, const void*));
     }
@@ -101,12 +107,23 @@ private:
     void flags(FormatField& field) {
         for (;; ++m_at) {
             switch (*m_at) {
-                case '-': field.left = true; break;
-                case '+': field.plus = true; break;
-                case ' ': field.blank = true; break;
-                case '#': field.alternate = true; break;
-                case '0': field.zeros = true; break;
-                default: return;
+                case '-':
+                    field.left = true;
+                    break;
+                case '+':
+                    field.plus = true;
+                    break;
+                case ' ':
+                    field.blank = true;
+                    break;
+                case '#':
+                    field.alternate = true;
+                    break;
+                case '0':
+                    field.zeros = true;
+                    break;
+                default:
+                    return;
             }
         }
     }
@@ -163,16 +180,43 @@ private:
 
     bool write(const FormatField& field) {
         switch (field.letter) {
-            case '%': m_out.push_back(Ch('%')); return true;
-            case 'd': case 'i': case 'u': case 'o': case 'x': case 'X': write_integer(field); return true;
-            case 'e': case 'E': case 'f': case 'F': case 'g': case 'G': case 'a': case 'A':
+            case '%':
+                m_out.push_back(Ch('%'));
+                return true;
+            case 'd':
+            case 'i':
+            case 'u':
+            case 'o':
+            case 'x':
+            case 'X':
+                write_integer(field);
+                return true;
+            case 'e':
+            case 'E':
+            case 'f':
+            case 'F':
+            case 'g':
+            case 'G':
+            case 'a':
+            case 'A':
                 write_number(field, real_text(field, real_argument()));
                 return true;
-            case 'c': case 'C': write_character(field); return true;
-            case 's': case 'S': write_text(field); return true;
-            case 'p': write_pointer(field); return true;
-            case 'n': m_source.next(Wanted::pointer); return true;
-            default: return false;
+            case 'c':
+            case 'C':
+                write_character(field);
+                return true;
+            case 's':
+            case 'S':
+                write_text(field);
+                return true;
+            case 'p':
+                write_pointer(field);
+                return true;
+            case 'n':
+                m_source.next(Wanted::pointer);
+                return true;
+            default:
+                return false;
         }
     }
 
@@ -206,7 +250,8 @@ private:
         hex.alternate = false;
         hex.integer_size = 8;
         hex.precision = 2 * static_cast<int>(sizeof(void*));
-        write_number(hex, integer_text(hex, argument.kind == FormatArgument::Kind::integer ? argument.integer : address));
+        write_number(hex, integer_text(hex, argument.kind == FormatArgument::Kind::integer ? argument.integer
+                                                                                           : address));
     }
 
     void write_character(const FormatField& field) {
@@ -229,7 +274,10 @@ private:
         const bool wide = argument.kind == Kind::wide_text || (argument.kind == Kind::pointer && asked_wide);
         if (!argument.address) {
             const std::string_view null_text = "(null)";
-            pad(as_width(null_text.substr(0, field.precision < 0 ? null_text.size() : static_cast<size_t>(field.precision)), Ch()), field);
+            pad(as_width(null_text.substr(0, field.precision < 0 ? null_text.size()
+                                                                 : static_cast<size_t>(field.precision)),
+                         Ch()),
+                field);
         } else if (wide) {
             pad(as_width(bounded<wchar_t>(argument.address, field.precision), Ch()), field);
         } else {
@@ -258,7 +306,8 @@ private:
         const long long size =
             static_cast<long long>(number.sign.size() + number.digits.size()) + number.trailing_zeros;
         const bool is_integer = std::string_view("diuoxX").find(field.letter) != std::string_view::npos;
-        const bool zeros = field.zeros && !field.left && number.finite && !(is_integer && field.precision >= 0);
+        const bool zeros =
+            field.zeros && !field.left && number.finite && !(is_integer && field.precision >= 0);
         const long long missing = field.width - size;
         if (!field.left && !zeros) fill(Ch(' '), missing);
         ascii(number.sign);

@@ -2,7 +2,7 @@
 
 #ifdef _WIN32
 
-#include "kmfc/resource_handle.h"
+#include <kmfc/module_state.h>
 
 bool kmfc::read_string_resource(HINSTANCE module, UINT id, WORD language, std::wstring& text) {
     // Strings are kept in blocks of 16, each a length in characters followed by the characters.
@@ -18,8 +18,17 @@ bool kmfc::read_string_resource(HINSTANCE module, UINT id, WORD language, std::w
 }
 
 bool kmfc::load_string_resource(UINT id, std::wstring& text) {
-    HINSTANCE module = AfxFindStringResourceHandle(id);
-    return module && read_string_resource(module, id, MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL), text);
+    // A block of 16 strings may lie in several modules, so the string itself is looked for in each.
+    constexpr WORD kNeutral = MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL);
+    if (read_string_resource(AfxGetResourceHandle(), id, kNeutral, text)) return true;
+    for (const BOOL system : {FALSE, TRUE}) {
+        for (auto* library = AfxGetModuleState()->m_libraryList.m_pHead; library;
+             library = library->m_pNextDLL) {
+            if (!library->m_bSystem != !system || !library->m_hResource) continue;
+            if (read_string_resource(library->m_hResource, id, kNeutral, text)) return true;
+        }
+    }
+    return false;
 }
 
 #else

@@ -40,8 +40,8 @@
 #define ASSERT_NULL_OR_POINTER(pointer, type) ((void)0)
 
 /// Throws CInvalidArgException unless the condition holds.
-#define ENSURE(condition)                              \
-    do {                                               \
+#define ENSURE(condition)                                \
+    do {                                                 \
         if (!(condition)) AfxThrowInvalidArgException(); \
     } while (false)
 #define ENSURE_ARG(condition) ENSURE(condition)

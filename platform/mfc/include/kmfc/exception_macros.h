@@ -30,13 +30,13 @@ KMFC_API void AFXAPI AfxThrowLastCleanup();
 #define KMFC_JOIN2(a, b) a##b
 #define KMFC_JOIN(a, b) KMFC_JOIN2(a, b)
 
-#define TRY                                                        \
-    {                                                              \
+#define TRY                                                             \
+    {                                                                   \
         AFX_EXCEPTION_LINK KMFC_JOIN(afx_exception_link_, __COUNTER__); \
         try {
-#define CATCH(class_name, e)   \
-    }                          \
-    catch (class_name * e) {   \
+#define CATCH(class_name, e) \
+    }                        \
+    catch (class_name * e) { \
         AfxKeepCaught(e);
 #define AND_CATCH(class_name, e) CATCH(class_name, e)
 #define END_CATCH \

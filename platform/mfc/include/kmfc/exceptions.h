@@ -1,7 +1,7 @@
 // The exception classes that are thrown and caught as pointers, and the functions that throw them.
 //
-// An exception is deleted by whoever handles it, with Delete(): it frees those made on the heap and leaves the
-// shared ones, so a handler need not know which it has got. The CATCH macros do that by themselves.
+// An exception is deleted by whoever handles it, with Delete(): it frees those made on the heap and leaves
+// the shared ones, so a handler need not know which it has got. The CATCH macros do that by themselves.
 #pragma once
 
 #include "kmfc/object.h"
@@ -16,12 +16,12 @@ public:
 
     /// Frees the object if it was made on the heap.
     void Delete();
-    /// Copies a text for the user, cut to `nMaxError` characters with the closing zero. FALSE, and an empty text,
-    /// when there is none. `pnHelpContext`, if given, receives 0.
+    /// Copies a text for the user, cut to `nMaxError` characters with the closing zero. FALSE, and an empty
+    /// text, when there is none. `pnHelpContext`, if given, receives 0.
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const;
 #ifdef _WIN32
-    /// Shows the text (or that of string `nMessageID` when the exception has none) in a message box and answers
-    /// its result.
+    /// Shows the text (or that of string `nMessageID` when the exception has none) in a message box and
+    /// answers its result.
     virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 #endif
 
@@ -41,15 +41,15 @@ protected:
     virtual LPCTSTR message() const;
 };
 
-#define KMFC_DECLARE_SIMPLE_EXCEPTION(class_name)                          \
-    class KMFC_API class_name : public CSimpleException {                  \
-        DECLARE_DYNAMIC(class_name)                                        \
-    public:                                                                \
-        class_name() = default;                                            \
+#define KMFC_DECLARE_SIMPLE_EXCEPTION(class_name)                                \
+    class KMFC_API class_name : public CSimpleException {                        \
+        DECLARE_DYNAMIC(class_name)                                              \
+    public:                                                                      \
+        class_name() = default;                                                  \
         explicit class_name(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {} \
-                                                                           \
-    protected:                                                             \
-        LPCTSTR message() const override;                                  \
+                                                                                 \
+    protected:                                                                   \
+        LPCTSTR message() const override;                                        \
     };
 
 KMFC_DECLARE_SIMPLE_EXCEPTION(CMemoryException)        ///< memory is short

@@ -1,7 +1,7 @@
 // CPoint, CSize and CRect: the plain Windows structures with arithmetic.
 //
-// They add no data, so each converts to and from the structure it extends at no cost, and an array of one is an
-// array of the other. Units are whatever the caller counts in; the arithmetic is that of LONG.
+// They add no data, so each converts to and from the structure it extends at no cost, and an array of one is
+// an array of the other. Units are whatever the caller counts in; the arithmetic is that of LONG.
 #pragma once
 
 #include "kmfc/diagnostics.h"
@@ -137,10 +137,11 @@ public:
 
     /// Becomes the common part; empty and FALSE when there is none.
     BOOL IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept;
-    /// Becomes the smallest rectangle around both; an empty one counts for nothing. FALSE when both are empty.
+    /// Becomes the smallest rectangle around both; an empty one counts for nothing. FALSE when both are
+    /// empty.
     BOOL UnionRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept;
-    /// Becomes the first without the second, which is cut off only where it covers the first entirely along one
-    /// side. FALSE when nothing is left.
+    /// Becomes the first without the second, which is cut off only where it covers the first entirely along
+    /// one side. FALSE when nothing is left.
     BOOL SubtractRect(LPCRECT lpRectSrc1, LPCRECT lpRectSrc2) noexcept;
 
     void operator=(const RECT& srcRect) noexcept { CopyRect(&srcRect); }
@@ -164,7 +165,8 @@ public:
     CRect operator&(const RECT& rect2) const noexcept;
     CRect operator|(const RECT& rect2) const noexcept;
 
-    /// Every coordinate times `nMultiplier` over `nDivisor`, rounded to the nearest; -1 each when the divisor is 0.
+    /// Every coordinate times `nMultiplier` over `nDivisor`, rounded to the nearest; -1 each when the divisor
+    /// is 0.
     CRect MulDiv(int nMultiplier, int nDivisor) const noexcept;
 };
 

@@ -13,12 +13,12 @@ struct AFX_CLASSINIT;
 /// What is known of a class at run time. Objects are static data of the class they describe; never created
 /// or deleted by callers.
 struct KMFC_API CRuntimeClass {
-    LPCSTR m_lpszClassName;              ///< the class name as written in the source
-    int m_nObjectSize;                   ///< size of an object, in bytes
-    UINT m_wSchema;                      ///< schema number of IMPLEMENT_SERIAL, 0xFFFF when not serializable
+    LPCSTR m_lpszClassName;  ///< the class name as written in the source
+    int m_nObjectSize;       ///< size of an object, in bytes
+    UINT m_wSchema;          ///< schema number of IMPLEMENT_SERIAL, 0xFFFF when not serializable
     CObject*(PASCAL* m_pfnCreateObject)();  ///< makes an object with new; null when not dynamically creatable
     CRuntimeClass*(PASCAL* m_pfnGetBaseClass)();  ///< class of the base, null for CObject
-    CRuntimeClass* m_pNextClass;         ///< next class of the same module's list
+    CRuntimeClass* m_pNextClass;                  ///< next class of the same module's list
 
     /// A new object owned by the caller, or null when the class cannot be created or memory is short.
     CObject* CreateObject();
@@ -70,10 +70,10 @@ private:
 
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
 
-#define DECLARE_DYNAMIC(class_name)                   \
-public:                                               \
-    static CRuntimeClass class##class_name;           \
-    static CRuntimeClass* PASCAL GetThisClass();      \
+#define DECLARE_DYNAMIC(class_name)              \
+public:                                          \
+    static CRuntimeClass class##class_name;      \
+    static CRuntimeClass* PASCAL GetThisClass(); \
     CRuntimeClass* GetRuntimeClass() const override;
 
 #define DECLARE_DYNCREATE(class_name) \
@@ -84,26 +84,27 @@ public:                                               \
     DECLARE_DYNCREATE(class_name)  \
     friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 
-#define KMFC_IMPLEMENT_CLASS(class_name, base_class_name, schema, create)                                   \
-    CRuntimeClass class_name::class##class_name = {                                                         \
-        #class_name, static_cast<int>(sizeof(class_name)), schema, create, &base_class_name::GetThisClass, nullptr}; \
-    static const AFX_CLASSINIT afx_class_init_##class_name(RUNTIME_CLASS(class_name));                      \
-    CRuntimeClass* PASCAL class_name::GetThisClass() { return RUNTIME_CLASS(class_name); }                  \
+#define KMFC_IMPLEMENT_CLASS(class_name, base_class_name, schema, create)                  \
+    CRuntimeClass class_name::class##class_name = {                                        \
+        #class_name, static_cast<int>(sizeof(class_name)), schema,                         \
+        create,      &base_class_name::GetThisClass,       nullptr};                       \
+    static const AFX_CLASSINIT afx_class_init_##class_name(RUNTIME_CLASS(class_name));     \
+    CRuntimeClass* PASCAL class_name::GetThisClass() { return RUNTIME_CLASS(class_name); } \
     CRuntimeClass* class_name::GetRuntimeClass() const { return RUNTIME_CLASS(class_name); }
 
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name) \
     KMFC_IMPLEMENT_CLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
-#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                     \
-    CObject* PASCAL class_name::CreateObject() { return new class_name; }    \
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                  \
+    CObject* PASCAL class_name::CreateObject() { return new class_name; } \
     KMFC_IMPLEMENT_CLASS(class_name, base_class_name, 0xFFFF, class_name::CreateObject)
 
-#define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                                        \
-    CObject* PASCAL class_name::CreateObject() { return new class_name; }                            \
-    KMFC_IMPLEMENT_CLASS(class_name, base_class_name, schema, class_name::CreateObject)              \
-    CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                                    \
-        pOb = static_cast<class_name*>(ar.ReadObject(RUNTIME_CLASS(class_name)));                    \
-        return ar;                                                                                   \
+#define IMPLEMENT_SERIAL(class_name, base_class_name, schema)                           \
+    CObject* PASCAL class_name::CreateObject() { return new class_name; }               \
+    KMFC_IMPLEMENT_CLASS(class_name, base_class_name, schema, class_name::CreateObject) \
+    CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                       \
+        pOb = static_cast<class_name*>(ar.ReadObject(RUNTIME_CLASS(class_name)));       \
+        return ar;                                                                      \
     }
 
 /// Schema flag of IMPLEMENT_SERIAL: Serialize accepts older schema numbers and asks GetObjectSchema.

@@ -7,8 +7,8 @@
 
 #include "kmfc/string_storage.h"
 
-/// The storage side of a string. Copies share their characters until one of them is changed. Two threads may own
-/// copies of one string, but one object belongs to one thread at a time. Lengths are in characters.
+/// The storage side of a string. Copies share their characters until one of them is changed. Two threads may
+/// own copies of one string, but one object belongs to one thread at a time. Lengths are in characters.
 /// Functions that need memory throw CMemoryException; an index out of range throws CInvalidArgException.
 template <class Ch>
 class CSimpleStringT {

@@ -22,14 +22,14 @@ class CStringT : public CSimpleStringT<Ch> {
     using Base = CSimpleStringT<Ch>;
 
 public:
+    using Base::GetLength;
+    using Base::GetString;
     using typename Base::PCXSTR;
     using typename Base::PCYSTR;
     using typename Base::PXSTR;
     using typename Base::PYSTR;
     using typename Base::XCHAR;
     using typename Base::YCHAR;
-    using Base::GetLength;
-    using Base::GetString;
 
     CStringT() noexcept = default;
     CStringT(const CStringT&) = default;
@@ -84,8 +84,8 @@ public:
     /// Removes every occurrence of the character; answers how many there were.
     int Remove(XCHAR chRemove);
 
-    /// The part up to the next of the token characters from `iStart` on, which moves behind it. Separators at the
-    /// start are skipped. Empty and `iStart` -1 when nothing is left. A negative `iStart` throws.
+    /// The part up to the next of the token characters from `iStart` on, which moves behind it. Separators at
+    /// the start are skipped. Empty and `iStart` -1 when nothing is left. A negative `iStart` throws.
     CStringT Tokenize(PCXSTR pszTokens, int& iStart) const;
 
     int Find(XCHAR ch, int iStart = 0) const noexcept;
@@ -117,8 +117,8 @@ public:
     CStringT SpanIncluding(PCXSTR pszCharSet) const;
     CStringT SpanExcluding(PCXSTR pszCharSet) const;
 
-    /// Replaces the string by the formatted text (string_format.h has the letters). Strings may be passed as they
-    /// are, this one too.
+    /// Replaces the string by the formatted text (string_format.h has the letters). Strings may be passed as
+    /// they are, this one too.
     template <class... Args>
     void Format(PCXSTR pszFormat, Args... args) {
         const kmfc::FormatArgument list[sizeof...(Args) + 1] = {kmfc::FormatArgument::from(args)...};
@@ -153,8 +153,8 @@ public:
 #ifdef _WIN32
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
-    /// Replaces the string by a message text whose inserts are numbered (%1!d!, %2). Throws CMemoryException when
-    /// the system can't format it.
+    /// Replaces the string by a message text whose inserts are numbered (%1!d!, %2). Throws CMemoryException
+    /// when the system can't format it.
     template <class... Args>
     void FormatMessage(PCXSTR pszFormat, Args... args) {
         const DWORD_PTR list[sizeof...(Args) + 1] = {message_argument(args)...};
@@ -173,8 +173,12 @@ public:
     BOOL GetEnvironmentVariable(PCXSTR pszVar);
 #endif
 
-    friend CStringT operator+(const CStringT& a, const CStringT& b) { return concatenate(a, b, b.GetLength()); }
-    friend CStringT operator+(const CStringT& a, PCXSTR b) { return concatenate(a, b, Base::StringLength(b)); }
+    friend CStringT operator+(const CStringT& a, const CStringT& b) {
+        return concatenate(a, b, b.GetLength());
+    }
+    friend CStringT operator+(const CStringT& a, PCXSTR b) {
+        return concatenate(a, b, Base::StringLength(b));
+    }
     friend CStringT operator+(PCXSTR a, const CStringT& b) { return CStringT(Base(a)) += b; }
     friend CStringT operator+(const CStringT& a, PCYSTR b) { return CStringT(a) += b; }
     friend CStringT operator+(PCYSTR a, const CStringT& b) { return CStringT(a) += b; }
@@ -188,7 +192,9 @@ public:
     friend bool operator==(const CStringT& a, PCYSTR b) { return a.Compare(CStringT(b)) == 0; }
     friend bool operator==(const CStringT& a, XCHAR b) { return a.GetLength() == 1 && a.GetAt(0) == b; }
     friend bool operator==(const CStringT& a, YCHAR b) { return a == CStringT(b); }
-    friend std::strong_ordering operator<=>(const CStringT& a, const CStringT& b) { return a.Compare(b) <=> 0; }
+    friend std::strong_ordering operator<=>(const CStringT& a, const CStringT& b) {
+        return a.Compare(b) <=> 0;
+    }
     friend std::strong_ordering operator<=>(const CStringT& a, PCXSTR b) { return a.Compare(b) <=> 0; }
     friend std::strong_ordering operator<=>(const CStringT& a, PCYSTR b) {
         return a.Compare(CStringT(b)) <=> 0;

@@ -1,9 +1,10 @@
 // Formatting in the manner of printf with the platform's meaning of its letters, the same on every system.
 //
-// In a wide format %s and %c take wide text and %S and %C narrow text; in a narrow one it is the other way round.
-// h and l (or w) before the letter fix the width. I64, ll, I, z, t and j size integers; l means 32 bits.
-// Numbers are those of the C locale. A letter that has no meaning is copied as it stands and takes no argument;
-// a missing argument reads as zero, a text argument that is null or no text at all as "(null)"; %n writes nothing.
+// In a wide format %s and %c take wide text and %S and %C narrow text; in a narrow one it is the other way
+// round. h and l (or w) before the letter fix the width. I64, ll, I, z, t and j size integers; l means 32
+// bits. Numbers are those of the C locale. A letter that has no meaning is copied as it stands and takes no
+// argument; a missing argument reads as zero, a text argument that is null or no text at all as "(null)"; %n
+// writes nothing.
 #pragma once
 
 #include <cstdarg>

@@ -13,10 +13,12 @@ inline bool is_resource_id(const void* text) {
     const auto bits = reinterpret_cast<std::uintptr_t>(text);
     return bits != 0 && (bits >> 16) == 0;
 }
-inline UINT resource_id(const void* text) { return static_cast<UINT>(reinterpret_cast<std::uintptr_t>(text)); }
+inline UINT resource_id(const void* text) {
+    return static_cast<UINT>(reinterpret_cast<std::uintptr_t>(text));
+}
 
-/// Reads string `id` as the current module's resource chain finds it; false when there is none. Natively there
-/// are no resources.
+/// Reads string `id` as the current module's resource chain finds it; false when there is none. Natively
+/// there are no resources.
 KMFC_API bool load_string_resource(UINT id, std::wstring& text);
 
 #ifdef _WIN32

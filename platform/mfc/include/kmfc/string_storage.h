@@ -23,8 +23,8 @@ struct StringHeader {
 /// The header of the static block for empty strings; its character is zero at any character width.
 KMFC_API StringHeader* empty_string_header();
 
-/// A block of one owner with room for `capacity` (at least 1) characters of `unit` bytes each and length 0. Throws
-/// CMemoryException when memory is short or `capacity` is not positive.
+/// A block of one owner with room for `capacity` (at least 1) characters of `unit` bytes each and length 0.
+/// Throws CMemoryException when memory is short or `capacity` is not positive.
 KMFC_API StringHeader* allocate_string(int capacity, int unit);
 
 /// The block, moved if need be, with room for `capacity` characters. It must have one owner.
