@@ -298,5 +298,5 @@ void CSimpleStringT<Ch>::set_length(int length) {
     m_pszData[length] = Ch();
 }
 
-template class KMFC_API CSimpleStringT<wchar_t>;
-template class KMFC_API CSimpleStringT<char>;
+template class CSimpleStringT<wchar_t>;
+template class CSimpleStringT<char>;

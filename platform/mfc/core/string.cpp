@@ -544,5 +544,5 @@ BOOL CStringT<Ch>::GetEnvironmentVariable(PCXSTR pszVar) {
 
 #endif
 
-template class KMFC_API CStringT<wchar_t>;
-template class KMFC_API CStringT<char>;
+template class CStringT<wchar_t>;
+template class CStringT<char>;

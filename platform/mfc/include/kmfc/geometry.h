@@ -24,7 +24,7 @@ public:
     BOOL operator!=(SIZE size) const noexcept { return !(*this == size); }
     void operator+=(SIZE size) noexcept { cx += size.cx, cy += size.cy; }
     void operator-=(SIZE size) noexcept { cx -= size.cx, cy -= size.cy; }
-    void SetSize(int CX, int CY) noexcept { cx = CX, cy = CY; }
+    void SetSize(int newCX, int newCY) noexcept { cx = newCX, cy = newCY; }
 
     CSize operator+(SIZE size) const noexcept { return CSize(cx + size.cx, cy + size.cy); }
     CSize operator-(SIZE size) const noexcept { return CSize(cx - size.cx, cy - size.cy); }
@@ -49,7 +49,7 @@ public:
     void Offset(int xOffset, int yOffset) noexcept { x += xOffset, y += yOffset; }
     void Offset(POINT point) noexcept { x += point.x, y += point.y; }
     void Offset(SIZE size) noexcept { x += size.cx, y += size.cy; }
-    void SetPoint(int X, int Y) noexcept { x = X, y = Y; }
+    void SetPoint(int newX, int newY) noexcept { x = newX, y = newY; }
 
     BOOL operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
     BOOL operator!=(POINT point) const noexcept { return !(*this == point); }

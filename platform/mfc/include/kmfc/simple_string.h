@@ -11,7 +11,7 @@
 /// own copies of one string, but one object belongs to one thread at a time. Lengths are in characters.
 /// Functions that need memory throw CMemoryException; an index out of range throws CInvalidArgException.
 template <class Ch>
-class CSimpleStringT {
+class KMFC_API CSimpleStringT {
 public:
     using XCHAR = Ch;
     using YCHAR = std::conditional_t<std::is_same_v<Ch, wchar_t>, char, wchar_t>;
@@ -100,10 +100,5 @@ private:
     Ch* m_pszData;
 };
 
-#ifdef KMFC_EXPORTS
 extern template class CSimpleStringT<wchar_t>;
 extern template class CSimpleStringT<char>;
-#else
-extern template class KMFC_API CSimpleStringT<wchar_t>;
-extern template class KMFC_API CSimpleStringT<char>;
-#endif

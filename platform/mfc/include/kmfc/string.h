@@ -18,7 +18,7 @@
 /// "not found" is -1. Text of the other width is converted by the system's code page (UTF-8 natively).
 /// A null text argument counts as empty.
 template <class Ch>
-class CStringT : public CSimpleStringT<Ch> {
+class KMFC_API CStringT : public CSimpleStringT<Ch> {
     using Base = CSimpleStringT<Ch>;
 
 public:
@@ -220,13 +220,8 @@ private:
 #endif
 };
 
-#ifdef KMFC_EXPORTS
 extern template class CStringT<wchar_t>;
 extern template class CStringT<char>;
-#else
-extern template class KMFC_API CStringT<wchar_t>;
-extern template class KMFC_API CStringT<char>;
-#endif
 
 using CSimpleStringW = CSimpleStringT<wchar_t>;
 using CSimpleStringA = CSimpleStringT<char>;
