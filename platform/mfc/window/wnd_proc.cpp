@@ -162,10 +162,11 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     auto* header = reinterpret_cast<NMHDR*>(lParam);
     if (ReflectLastMsg(header->hwndFrom, pResult)) return TRUE;
+    // By the sender's own id, which is 0 for the tool-tip control, whatever its idFrom says.
     const UINT id = static_cast<UINT>(static_cast<WORD>(::GetDlgCtrlID(header->hwndFrom)));
     kmfc::NotifyContext context = {header, pResult};
     const int code = static_cast<int>(MAKELONG(header->code, WM_NOTIFY));
-    return OnCmdMsg(id != 0 ? id : static_cast<UINT>(header->idFrom), code, &context, nullptr);
+    return OnCmdMsg(id, code, &context, nullptr);
 }
 
 BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult) {

@@ -1,0 +1,200 @@
+#include <ktui/dialogs/base_dialog.h>
+
+#include <kh_system.h>
+#include <ktut.h>
+
+#include <ktui/host/help_path.h>
+#include <ktui/host/module.h>
+#include <ktui/tips/text_tip.h>
+
+namespace {
+
+const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
+constexpr UINT kDialogIcon = 1017;  // of the library's own file
+
+void showHostHelp() {
+    if (CKhUiHost* host = CKhSystem::instance()->uiHost()) host->showHelp(nullptr);
+}
+
+}  // namespace
+
+/// Kept: one saved handle per dialog, so a second DoModal inside the first is not provided for.
+class CKbUiBaseDialog::ResourceSwitch {
+public:
+    explicit ResourceSwitch(CKbUiBaseDialog& dialog) : m_dialog(dialog) {
+        if (m_dialog.m_resourceInstance == nullptr) return;
+        m_dialog.m_savedResource = AfxGetResourceHandle();
+        AfxSetResourceHandle(m_dialog.m_resourceInstance);
+    }
+    ~ResourceSwitch() {
+        if (m_dialog.m_resourceInstance == nullptr) return;
+        AfxSetResourceHandle(m_dialog.m_savedResource);
+        m_dialog.m_savedResource = nullptr;
+    }
+    ResourceSwitch(const ResourceSwitch&) = delete;
+    ResourceSwitch& operator=(const ResourceSwitch&) = delete;
+
+private:
+    CKbUiBaseDialog& m_dialog;
+};
+
+IMPLEMENT_DYNAMIC(CKbUiBaseDialog, CDialog)
+
+BEGIN_MESSAGE_MAP(CKbUiBaseDialog, CDialog)
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiBaseDialog::OnKbUiMessage)
+    ON_WM_HELPINFO()
+    ON_COMMAND(IDHELP, &CKbUiBaseDialog::OnHelp)
+    ON_NOTIFY_EX(TTN_NEEDTEXTW, 0, &CKbUiBaseDialog::OnNotify_ToolTipText)
+    ON_WM_ACTIVATE()
+    ON_MESSAGE(WM_TIMER, &CKbUiBaseDialog::OnKbUiTimer)
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+CKbUiBaseDialog::CKbUiBaseDialog(unsigned templateId, CWnd* parent, HINSTANCE resource)
+    : CDialog(templateId, parent), m_resourceInstance(resource) {
+    const OdString file = ktutProfileFileName();
+    const OdString root = ktutProfileRootName();
+    m_appRootKey.Format(L"%s\\%s\\%s\\Dialogs\\", file.c_str(), root.c_str(),
+                        CKhSystem::instance()->productInfo()->profileVersionKey());
+}
+
+CKbUiBaseDialog::~CKbUiBaseDialog() {
+    m_useTips = 0;
+    destroyTips();
+}
+
+BOOL CKbUiBaseDialog::Create(const wchar_t* templateName, CWnd* parent) {
+    ResourceSwitch resource(*this);
+    return CDialog::Create(templateName, parent);
+}
+
+BOOL CKbUiBaseDialog::Create(unsigned templateId, CWnd* parent) {
+    return Create(MAKEINTRESOURCEW(templateId), parent);
+}
+
+INT_PTR CKbUiBaseDialog::DoModal() {
+    m_isModal = 1;
+    INT_PTR result = 0;
+    {
+        ResourceSwitch resource(*this);
+        EnableFloatingWindows(0);
+        EnableMultiDocumentActivation(0);
+        result = CDialog::DoModal();
+        EnableMultiDocumentActivation(1);
+        EnableFloatingWindows(1);
+    }
+    m_isModal = 0;
+    return result;
+}
+
+BOOL CKbUiBaseDialog::OnInitDialog() {
+    OnInitDialogBegin();
+    const BOOL result = CDialog::OnInitDialog();
+    OnInitDialogFinish();
+    SetUseTips(m_useTips);
+    if (m_icon == nullptr) SetDialogIcon(::LoadIconW(KtUiOwnModule(), MAKEINTRESOURCEW(kDialogIcon)));
+    ModifyStyleEx(WS_EX_CONTEXTHELP, 0);
+    return result;
+}
+
+void CKbUiBaseDialog::SetDialogIcon(HICON icon) {
+    m_icon = icon;
+    SendMessage(WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
+    SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+}
+
+BOOL CKbUiBaseDialog::PreCreateWindow(CREATESTRUCT& create) { return CDialog::PreCreateWindow(create); }
+
+void CKbUiBaseDialog::PostNcDestroy() {
+    m_useTips = 0;
+    destroyTips();
+    CDialog::PostNcDestroy();
+}
+
+void CKbUiBaseDialog::DoDataExchange(CDataExchange*) {}
+
+LRESULT CKbUiBaseDialog::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
+    const unsigned id = KbUiNotifyId(wParam);
+    if (id != 0) {
+        if (CWnd* control = GetDlgItem(static_cast<int>(id))) {
+            LRESULT reply = control->SendMessage(kbUiMessage, wParam, lParam);
+            if (reply == kKbUiReplyNativeTip && m_toolTip != nullptr) reply = offerNativeTip(*control, id, lParam);
+            if (reply != 0) return static_cast<int>(reply);
+        }
+    }
+    return DoKbUiMessage(KbUiNotification(wParam), id, lParam);
+}
+
+KBUI_REPLY CKbUiBaseDialog::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) {
+    switch (notification) {
+        case kKbUiNotifyGeneric: return OnNotifyGeneric(id, data);
+        case kKbUiNotifyAppMainWindow: *reinterpret_cast<CWnd**>(data) = AppMainWindow(); return kKbUiReplyHandled;
+        case kKbUiNotifyAppResourceInstance:
+            *reinterpret_cast<HINSTANCE*>(data) = AppResourceInstance();
+            return kKbUiReplyHandled;
+        case kKbUiNotifyUpdateTip: return OnNotifyUpdateTip(reinterpret_cast<CWnd*>(data));
+        case kKbUiNotifyHideDialog:
+            if (IsWindowVisible()) ShowWindow(SW_HIDE);
+            return kKbUiReplyHandled;
+        case kKbUiNotifyShowDialog:
+            // A dialog inside an editor command of its own stays hidden when a child dialog's command ends.
+            if (!IsWindowVisible() && m_editorState != 1) ShowWindow(SW_RESTORE);
+            return kKbUiReplyHandled;
+        case kKbUiNotifyControlChange: return OnNotifyControlChange(id, data);
+        case kKbUiNotifyControlInvalid:
+        case kKbUiNotifyControlValid:
+            // Kept: the sender's datum is the verdict for both notifications.
+            return OnNotifyControlValid(id, static_cast<int>(data));
+        default: return kKbUiReplyNone;
+    }
+}
+
+KBUI_REPLY CKbUiBaseDialog::OnNotifyControlChange(unsigned, __int64) { return kKbUiReplyNone; }
+KBUI_REPLY CKbUiBaseDialog::OnNotifyControlValid(unsigned, int) { return kKbUiReplyNone; }
+KBUI_REPLY CKbUiBaseDialog::OnNotifyGeneric(unsigned, __int64) { return kKbUiReplyNone; }
+
+BOOL CKbUiBaseDialog::OnHelpInfo(HELPINFO* info) {
+    DoDialogHelp();
+    return CWnd::OnHelpInfo(info);
+}
+
+void CKbUiBaseDialog::OnHelp() { showHostHelp(); }
+
+// Kept: the question for a text is taken and left without one.
+BOOL CKbUiBaseDialog::OnNotify_ToolTipText(UINT, NMHDR*, LRESULT*) { return 1; }
+
+void CKbUiBaseDialog::OnActivate(UINT state, CWnd* other, BOOL minimized) {
+    CDialog::OnActivate(state, other, minimized);
+}
+
+LRESULT CKbUiBaseDialog::OnKbUiTimer(WPARAM, LPARAM) { return Default(); }
+
+HBRUSH CKbUiBaseDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) { return CWnd::OnCtlColor(dc, control, kind); }
+
+int CKbUiBaseDialog::FindContextHelpFullPath(const wchar_t* name, CString& path) {
+    return KbUiFindContextHelpFullPath(name, path);
+}
+
+void CKbUiBaseDialog::OnInitDialogBegin() {}
+void CKbUiBaseDialog::OnInitDialogFinish() {}
+
+CWnd* CKbUiBaseDialog::AppMainWindow() {
+    CKhUiHost* host = CKhSystem::instance()->uiHost();
+    CWinApp* application = host != nullptr ? host->application() : nullptr;
+    return application != nullptr ? application->m_pMainWnd : nullptr;
+}
+
+HINSTANCE CKbUiBaseDialog::AppResourceInstance() { return AfxGetResourceHandle(); }
+const wchar_t* CKbUiBaseDialog::AppRootKey() { return m_appRootKey; }
+
+// Kept: hooks for a host subclass, which decides what these mean.
+void CKbUiBaseDialog::EnableFloatingWindows(int) {}
+int CKbUiBaseDialog::IsMultiDocumentActivationEnabled() { return 0; }
+int CKbUiBaseDialog::EnableMultiDocumentActivation(int) { return 0; }
+
+int CKbUiBaseDialog::DoDialogHelp() {
+    showHostHelp();
+    return 1;
+}
+
+int CKbUiBaseDialog::ExchangeData(int save) { return CWnd::UpdateData(save); }

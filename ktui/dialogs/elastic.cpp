@@ -1,0 +1,57 @@
+#include <ktui/dialogs/elastic.h>
+
+#include <ktui/dialogs/dialog.h>
+
+KbUiElastic::KbUiElastic(CKbUiDialog* dialog) : m_dialog(dialog) {}
+
+KbUiElastic::~KbUiElastic() {
+    for (INT_PTR i = 0; i < m_tags.GetSize(); ++i) delete m_tags[i];
+}
+
+int KbUiElastic::Register(unsigned id, KBUI_ELASTIC_KIND kind, int percentX, int percentY) {
+    for (INT_PTR i = 0; i < m_tags.GetSize(); ++i) {
+        // Kept: only the first percentage of a pair of id and kind counts.
+        if (m_tags[i]->m_id == id && m_tags[i]->m_kind == kind) return 1;
+    }
+    auto* tag = new _SControlTag;
+    tag->m_id = id;
+    tag->m_kind = kind;
+    tag->m_percentX = percentX;
+    tag->m_percentY = percentY;
+    m_tags.Add(tag);
+    return 1;
+}
+
+void KbUiElastic::Resize(int cx, int cy) {
+    bool moved = false;
+    // Kept: minimising moves the controls by the full negative size and leaves (0, 0), and the next size change
+    // then moves nothing.
+    if (m_lastClient.cx > 0) {
+        const int dx = cx - m_lastClient.cx;
+        const int dy = cy - m_lastClient.cy;
+        for (INT_PTR i = 0; i < m_tags.GetSize(); ++i) {
+            if (m_tags[i] != nullptr && moveControl(*m_tags[i], dx, dy)) moved = true;
+        }
+    }
+    m_lastClient = CSize(cx, cy);
+    if (moved) m_dialog->InvalidateRect(nullptr, TRUE);
+}
+
+bool KbUiElastic::moveControl(_SControlTag& tag, int dx, int dy) {
+    const CSize step = AdvanceElasticTag(tag, dx, dy);
+    const HWND control = ::GetDlgItem(m_dialog->m_hWnd, static_cast<int>(tag.m_id));
+    if (control == nullptr) return false;
+    CRect rect;
+    ::GetWindowRect(control, &rect);
+    m_dialog->ScreenToClient(&rect);
+    if (!ApplyElasticStep(tag.m_kind, step, rect)) return false;
+    ::MoveWindow(control, rect.left, rect.top, rect.Width(), rect.Height(), FALSE);
+    return true;
+}
+
+void KbUiElastic::GetMinMaxInfo(MINMAXINFO& info) const {
+    if (m_minExtent.m_width >= 0) info.ptMinTrackSize.x = m_minExtent.m_width;
+    if (m_minExtent.m_height >= 0) info.ptMinTrackSize.y = m_minExtent.m_height;
+    if (m_maxExtent.m_width >= 0) info.ptMaxTrackSize.x = m_maxExtent.m_width;
+    if (m_maxExtent.m_height >= 0) info.ptMaxTrackSize.y = m_maxExtent.m_height;
+}
