@@ -59,7 +59,7 @@ public:
 
     static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
 
-    operator HWND() const { return this ? m_hWnd : nullptr; }
+    operator HWND() const { return m_hWnd; }
     BOOL operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
     HWND GetSafeHwnd() const { return IsNull(this) ? nullptr : m_hWnd; }
 

@@ -1,0 +1,47 @@
+#include "crash_report.h"
+
+#include <cstdio>
+
+#include <windows.h>
+
+namespace {
+
+void print_frame(int number, DWORD64 address) {
+    HMODULE module = nullptr;
+    char name[MAX_PATH] = "?";
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCSTR>(address), &module);
+    if (module != nullptr) ::GetModuleFileNameA(module, name, MAX_PATH);
+    // The offset is what addr2line wants, added to the image base of the file.
+    std::fprintf(stderr, "  #%d %s+0x%llx\n", number, name,
+                 static_cast<unsigned long long>(address - reinterpret_cast<DWORD64>(module)));
+}
+
+void print_stack(CONTEXT context) {
+    for (int number = 0; number < 40 && context.Rip != 0; ++number) {
+        print_frame(number, context.Rip);
+        DWORD64 base = 0;
+        PRUNTIME_FUNCTION function = ::RtlLookupFunctionEntry(context.Rip, &base, nullptr);
+        if (function == nullptr) {
+            context.Rip = *reinterpret_cast<DWORD64*>(context.Rsp);
+            context.Rsp += 8;
+            continue;
+        }
+        void* handlerData = nullptr;
+        DWORD64 frame = 0;
+        ::RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handlerData, &frame, nullptr);
+    }
+}
+
+LONG WINAPI report(EXCEPTION_POINTERS* exception) {
+    std::fprintf(stderr, "crash: exception %08lx\n", exception->ExceptionRecord->ExceptionCode);
+    print_stack(*exception->ContextRecord);
+    std::fflush(stderr);
+    std::fflush(stdout);
+    ::TerminateProcess(::GetCurrentProcess(), kCrashExitCode);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
+}  // namespace
+
+void install_crash_report() { ::SetUnhandledExceptionFilter(report); }
