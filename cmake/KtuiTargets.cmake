@@ -14,16 +14,16 @@ if(KTUI_CCACHE)
 endif()
 
 add_library(ktui_settings INTERFACE)
-target_compile_options(ktui_settings INTERFACE -Wall -Wextra -Wshadow -Werror)
+target_compile_options(ktui_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wshadow;-Werror>)
 if(WIN32)
   target_compile_definitions(ktui_settings INTERFACE
     UNICODE _UNICODE STRICT NOMINMAX _WIN32_WINNT=0x0A00 WINVER=0x0A00 _WIN32_IE=0x0A00)
   # Message-map entries store member functions of many signatures under one type.
-  target_compile_options(ktui_settings INTERFACE -Wno-cast-function-type -Wno-unknown-pragmas)
-  target_compile_options(ktui_settings INTERFACE -g1)
+  target_compile_options(ktui_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type;-Wno-unknown-pragmas;-g1>)
   if(KTUI_CHECKED)
     target_compile_definitions(ktui_settings INTERFACE _GLIBCXX_ASSERTIONS)
-    target_compile_options(ktui_settings INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+    target_compile_options(ktui_settings INTERFACE
+      $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined;-fno-sanitize=null,vptr;-fsanitize-undefined-trap-on-error>)
   endif()
 else()
   if(KTUI_SANITIZE)

@@ -118,7 +118,8 @@ LRESULT CKbUiBaseDialog::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
     if (id != 0) {
         if (CWnd* control = GetDlgItem(static_cast<int>(id))) {
             LRESULT reply = control->SendMessage(kbUiMessage, wParam, lParam);
-            if (reply == kKbUiReplyNativeTip && m_toolTip != nullptr) reply = offerNativeTip(*control, id, lParam);
+            if (reply == kKbUiReplyNativeTip && m_toolTip != nullptr)
+                reply = offerNativeTip(*control, id, lParam);
             if (reply != 0) return static_cast<int>(reply);
         }
     }
@@ -128,7 +129,9 @@ LRESULT CKbUiBaseDialog::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
 KBUI_REPLY CKbUiBaseDialog::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) {
     switch (notification) {
         case kKbUiNotifyGeneric: return OnNotifyGeneric(id, data);
-        case kKbUiNotifyAppMainWindow: *reinterpret_cast<CWnd**>(data) = AppMainWindow(); return kKbUiReplyHandled;
+        case kKbUiNotifyAppMainWindow:
+            *reinterpret_cast<CWnd**>(data) = AppMainWindow();
+            return kKbUiReplyHandled;
         case kKbUiNotifyAppResourceInstance:
             *reinterpret_cast<HINSTANCE*>(data) = AppResourceInstance();
             return kKbUiReplyHandled;
@@ -169,7 +172,9 @@ void CKbUiBaseDialog::OnActivate(UINT state, CWnd* other, BOOL minimized) {
 
 LRESULT CKbUiBaseDialog::OnKbUiTimer(WPARAM, LPARAM) { return Default(); }
 
-HBRUSH CKbUiBaseDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) { return CWnd::OnCtlColor(dc, control, kind); }
+HBRUSH CKbUiBaseDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
+    return CWnd::OnCtlColor(dc, control, kind);
+}
 
 int CKbUiBaseDialog::FindContextHelpFullPath(const wchar_t* name, CString& path) {
     return KbUiFindContextHelpFullPath(name, path);

@@ -85,7 +85,8 @@ KBUI_REPLY CKbUiBaseDialog::OnNotifyUpdateTip(CWnd* control) {
     if (sameItem && m_textTip->IsWindowVisible()) return kKbUiReplyNone;
     m_textTip->Hide();
     if (support == kKbUiReplyNone) return kKbUiReplyNone;
-    if (KbUiNotify(*control, id, kKbUiNotifyHitTipRect, datumOf(point)) == kKbUiReplyNone) return kKbUiReplyNone;
+    if (KbUiNotify(*control, id, kKbUiNotifyHitTipRect, datumOf(point)) == kKbUiReplyNone)
+        return kKbUiReplyNone;
     CRect rect(0, 0, 0, 0);
     const KBUI_REPLY found = KbUiNotify(*control, id, kKbUiNotifyGetTipRect, datumOf(rect));
     if (found == kKbUiReplyNone || rect.IsRectEmpty()) return kKbUiReplyNone;

@@ -14,7 +14,9 @@ BEGIN_MESSAGE_MAP(CKbUiDialog, CKbUiBaseDialog)
 END_MESSAGE_MAP()
 
 CKbUiDialog::CKbUiDialog(unsigned templateId, CWnd* parent, HINSTANCE resource)
-    : CKbUiBaseDialog(templateId, parent, resource), m_elastic(new KbUiElastic(this)), m_templateId(templateId) {}
+    : CKbUiBaseDialog(templateId, parent, resource),
+      m_elastic(new KbUiElastic(this)),
+      m_templateId(templateId) {}
 
 CKbUiDialog::~CKbUiDialog() {
     // The window's last messages still ask for the resize state.
@@ -79,18 +81,27 @@ void CKbUiDialog::OnDialogHelp() {}
 int CKbUiDialog::DoDialogHelp() { return CKbUiBaseDialog::DoDialogHelp(); }
 
 int CKbUiDialog::registerControl(unsigned id, unsigned kind, long percentX, long percentY) {
-    if (m_hWnd == nullptr || ::GetDlgItem(m_hWnd, static_cast<int>(id)) == nullptr || m_elastic == nullptr) return 0;
+    if (m_hWnd == nullptr || ::GetDlgItem(m_hWnd, static_cast<int>(id)) == nullptr || m_elastic == nullptr)
+        return 0;
     return m_elastic->Register(id, static_cast<KBUI_ELASTIC_KIND>(kind), static_cast<int>(percentX),
                                static_cast<int>(percentY));
 }
 
-int CKbUiDialog::MoveControlX(unsigned id, long percent) { return registerControl(id, kKbUiMoveX, percent, 0); }
-int CKbUiDialog::MoveControlY(unsigned id, long percent) { return registerControl(id, kKbUiMoveY, 0, percent); }
+int CKbUiDialog::MoveControlX(unsigned id, long percent) {
+    return registerControl(id, kKbUiMoveX, percent, 0);
+}
+int CKbUiDialog::MoveControlY(unsigned id, long percent) {
+    return registerControl(id, kKbUiMoveY, 0, percent);
+}
 int CKbUiDialog::MoveControlXY(unsigned id, long percentX, long percentY) {
     return registerControl(id, kKbUiMoveXY, percentX, percentY);
 }
-int CKbUiDialog::StretchControlX(unsigned id, long percent) { return registerControl(id, kKbUiStretchX, percent, 0); }
-int CKbUiDialog::StretchControlY(unsigned id, long percent) { return registerControl(id, kKbUiStretchY, 0, percent); }
+int CKbUiDialog::StretchControlX(unsigned id, long percent) {
+    return registerControl(id, kKbUiStretchX, percent, 0);
+}
+int CKbUiDialog::StretchControlY(unsigned id, long percent) {
+    return registerControl(id, kKbUiStretchY, 0, percent);
+}
 int CKbUiDialog::StretchControlXY(unsigned id, long percentX, long percentY) {
     return registerControl(id, kKbUiStretchXY, percentX, percentY);
 }
@@ -141,7 +152,9 @@ int CKbUiDialog::ForceControlResize(CWnd* control, RECT* rect) {
     return 1;
 }
 
-int CKbUiDialog::ForceControlRepaint(CWnd* control, int flag) { return control != nullptr && flag == 1 ? 1 : 0; }
+int CKbUiDialog::ForceControlRepaint(CWnd* control, int flag) {
+    return control != nullptr && flag == 1 ? 1 : 0;
+}
 
 void CKbUiDialog::SetElasticSize(CSize&, int) {}
 void CKbUiDialog::SetPersistency(int) {}

@@ -7,8 +7,8 @@
 //         return result;
 //     }
 //
-// A dialog with DS_MODALFRAME keeps its size and only has its position restored. Placement and columns are kept
-// per user in the registry; nothing is reported in words.
+// A dialog with DS_MODALFRAME keeps its size and only has its position restored. Placement and columns are
+// kept per user in the registry; nothing is reported in words.
 #pragma once
 
 #include <ktui/dialogs/base_dialog.h>
@@ -23,9 +23,9 @@ public:
     CKbUiDialog(unsigned templateId, CWnd* parent, HINSTANCE resource);
     ~CKbUiDialog() override;
 
-    // Registering a control that exists: how many per cent of a change of the dialog's size (pixels) its place or
-    // its size follows. 0 if there is no such control; 1 otherwise, also if the pair of id and kind was there
-    // already and keeps its first percentage. A percentage may be negative or above 100.
+    // Registering a control that exists: how many per cent of a change of the dialog's size (pixels) its
+    // place or its size follows. 0 if there is no such control; 1 otherwise, also if the pair of id and kind
+    // was there already and keeps its first percentage. A percentage may be negative or above 100.
     int MoveControlX(unsigned id, long percent);
     int MoveControlY(unsigned id, long percent);
     int MoveControlXY(unsigned id, long percentX, long percentY);
@@ -35,8 +35,8 @@ public:
     /// Registers `count` records of kinds 1, 2, 16 and 32; answers 1 whatever came of it.
     int SetControlProperty(_dlgControlTag* tags, unsigned long count);
 
-    // Limits of the window's size in pixels; a negative value is no limit. Set after OnInitDialog of this class,
-    // which makes the template's size the smallest.
+    // Limits of the window's size in pixels; a negative value is no limit. Set after OnInitDialog of this
+    // class, which makes the template's size the smallest.
     void SetDialogMinExtents(int width, int height);
     void SetDialogMaxExtents(int width, int height);
     /// Makes the present width, or height, the only one.
@@ -55,8 +55,8 @@ public:
     void SetDialogName(const wchar_t* name);
     void GetDialogHelpTag(CString& tag) const { tag = m_dialogHelpTag; }
     void SetDialogHelpTag(const wchar_t* tag) { m_dialogHelpTag = tag; }
-    /// The registry key of the dialog's data, below the current user, with a backslash at its end; 0 without a
-    /// name.
+    /// The registry key of the dialog's data, below the current user, with a backslash at its end; 0 without
+    /// a name.
     int GetDialogKey(CString& key);
     // One value of the dialog's data; 1 on success. A failed read gives 0, or the empty string.
     int GetDialogData(const wchar_t* value, CString& text);

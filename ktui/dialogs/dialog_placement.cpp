@@ -128,7 +128,8 @@ int CKbUiDialog::getColumnKey(CListCtrl* list, CString& key, int& count) {
     count = static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT));
     CString dialog;
     GetDialogKey(dialog);
-    // Kept: the dialog's key ends in a backslash and this piece begins with one; reader and writer agree on it.
+    // Kept: the dialog's key ends in a backslash and this piece begins with one; reader and writer agree on
+    // it.
     key.Format(L"%s\\ListView-%d", dialog.GetString(), list->GetDlgCtrlID());
     return 1;
 }
@@ -140,7 +141,8 @@ int CKbUiDialog::SaveColumnSizes(CListCtrl* list) {
     CKbUiRegistryWriteAccess access(HKEY_CURRENT_USER, key);
     for (int column = 0; column < count; ++column) {
         value.Format(L"Column%d", column + 1);
-        access.SetDWord(value, static_cast<DWORD>(list->SendMessage(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column))));
+        access.SetDWord(
+            value, static_cast<DWORD>(list->SendMessage(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column))));
     }
     return 1;
 }

@@ -24,8 +24,8 @@ int KbUiElastic::Register(unsigned id, KBUI_ELASTIC_KIND kind, int percentX, int
 
 void KbUiElastic::Resize(int cx, int cy) {
     bool moved = false;
-    // Kept: minimising moves the controls by the full negative size and leaves (0, 0), and the next size change
-    // then moves nothing.
+    // Kept: minimising moves the controls by the full negative size and leaves (0, 0), and the next size
+    // change then moves nothing.
     if (m_lastClient.cx > 0) {
         const int dx = cx - m_lastClient.cx;
         const int dy = cy - m_lastClient.cy;

@@ -23,26 +23,15 @@ CSize AdvanceElasticTag(_SControlTag& tag, int dx, int dy) {
 bool ApplyElasticStep(unsigned kind, CSize step, CRect& rect) {
     if (step.cx == 0 && step.cy == 0) return false;
     switch (kind) {
-        case kKbUiMoveX:
-            rect.OffsetRect(step.cx, 0);
-            return step.cx != 0;
-        case kKbUiMoveY:
-            rect.OffsetRect(0, step.cy);
-            return step.cy != 0;
-        case kKbUiMoveXY:
-            rect.OffsetRect(step.cx, step.cy);
-            return true;
-        case kKbUiStretchX:
-            rect.right += step.cx;
-            return step.cx != 0;
-        case kKbUiStretchY:
-            rect.bottom += step.cy;
-            return step.cy != 0;
+        case kKbUiMoveX: rect.OffsetRect(step.cx, 0); return step.cx != 0;
+        case kKbUiMoveY: rect.OffsetRect(0, step.cy); return step.cy != 0;
+        case kKbUiMoveXY: rect.OffsetRect(step.cx, step.cy); return true;
+        case kKbUiStretchX: rect.right += step.cx; return step.cx != 0;
+        case kKbUiStretchY: rect.bottom += step.cy; return step.cy != 0;
         case kKbUiStretchXY:
             rect.right += step.cx;
             rect.bottom += step.cy;
             return true;
-        default:
-            return false;
+        default: return false;
     }
 }

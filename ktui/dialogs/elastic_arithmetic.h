@@ -18,11 +18,12 @@ enum KBUI_ELASTIC_KIND : unsigned {
 
 /// One registration of one control.
 struct _SControlTag {
-    unsigned m_id = 0;     ///< control id
-    unsigned m_kind = 0;   ///< a KBUI_ELASTIC_KIND
-    int m_percentX = 0;    ///< per cent of a width change that applies; 0 when the kind has no X part
-    int m_percentY = 0;    ///< per cent of a height change that applies; 0 when the kind has no Y part
-    int m_remainderX = 0;  ///< hundredths of a pixel not yet applied, with the sign of the change they came from
+    unsigned m_id = 0;    ///< control id
+    unsigned m_kind = 0;  ///< a KBUI_ELASTIC_KIND
+    int m_percentX = 0;   ///< per cent of a width change that applies; 0 when the kind has no X part
+    int m_percentY = 0;   ///< per cent of a height change that applies; 0 when the kind has no Y part
+    int m_remainderX =
+        0;  ///< hundredths of a pixel not yet applied, with the sign of the change they came from
     int m_remainderY = 0;
 };
 

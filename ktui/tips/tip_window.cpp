@@ -6,7 +6,7 @@ namespace {
 
 const wchar_t* const kTipWindowClass = L"CKbUiTipWindow";
 constexpr UINT_PTR kTipTimer = 1;
-constexpr UINT kTipPeriod = 50;  // milliseconds between two looks at the pointer
+constexpr UINT kTipPeriod = 50;           // milliseconds between two looks at the pointer
 constexpr COLORREF kTipInk = 0x4B4846;    // border and text
 constexpr COLORREF kTipPaper = 0xF9F9F9;  // background
 
@@ -75,11 +75,17 @@ void CKbUiTipWindow::OnNcDestroy() {
 }
 
 void CKbUiTipWindow::OnLButtonDown(UINT flags, CPoint point) { forwardButton(WM_LBUTTONDOWN, flags, point); }
-void CKbUiTipWindow::OnLButtonDblClk(UINT flags, CPoint point) { forwardButton(WM_LBUTTONDBLCLK, flags, point); }
+void CKbUiTipWindow::OnLButtonDblClk(UINT flags, CPoint point) {
+    forwardButton(WM_LBUTTONDBLCLK, flags, point);
+}
 void CKbUiTipWindow::OnRButtonDown(UINT flags, CPoint point) { forwardButton(WM_RBUTTONDOWN, flags, point); }
-void CKbUiTipWindow::OnRButtonDblClk(UINT flags, CPoint point) { forwardButton(WM_RBUTTONDBLCLK, flags, point); }
+void CKbUiTipWindow::OnRButtonDblClk(UINT flags, CPoint point) {
+    forwardButton(WM_RBUTTONDBLCLK, flags, point);
+}
 void CKbUiTipWindow::OnMButtonDown(UINT flags, CPoint point) { forwardButton(WM_MBUTTONDOWN, flags, point); }
-void CKbUiTipWindow::OnMButtonDblClk(UINT flags, CPoint point) { forwardButton(WM_MBUTTONDBLCLK, flags, point); }
+void CKbUiTipWindow::OnMButtonDblClk(UINT flags, CPoint point) {
+    forwardButton(WM_MBUTTONDBLCLK, flags, point);
+}
 
 void CKbUiTipWindow::forwardButton(UINT message, UINT flags, CPoint point) {
     Hide();
@@ -126,7 +132,8 @@ void CKbUiTipWindow::DrawContent(CDC& dc, CRect& rect) {
 BOOL CKbUiTipWindow::Create(CWnd* owner) {
     registerTipClass();
     const CRect empty(0, 0, 0, 0);
-    if (!CreateEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kTipWindowClass, nullptr, WS_POPUP, empty, owner, 0)) return FALSE;
+    if (!CreateEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kTipWindowClass, nullptr, WS_POPUP, empty, owner, 0))
+        return FALSE;
     m_owner = owner;
     return TRUE;
 }

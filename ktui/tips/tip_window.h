@@ -1,8 +1,8 @@
 // CKbUiTipWindow: a small popup that lies exactly over a control and shows what the control cannot.
 //
 // It takes no focus, hands clicks on to the control beneath, and goes as soon as the mouse leaves. A dialog
-// holds one for all its controls; CKbUiTextTip is the kind it uses. Shown only while some window of the thread
-// has the focus; timer 1 runs exactly while it is shown.
+// holds one for all its controls; CKbUiTextTip is the kind it uses. Shown only while some window of the
+// thread has the focus; timer 1 runs exactly while it is shown.
 #pragma once
 
 #include <afxwin.h>
@@ -34,7 +34,8 @@ public:
     /// CResourceException if the window class cannot be registered.
     virtual BOOL Create(CWnd* owner);
     virtual void Hide();
-    /// Shows the tip on top of all windows, without activating it; nothing happens in an inactive application.
+    /// Shows the tip on top of all windows, without activating it; nothing happens in an inactive
+    /// application.
     virtual void Show();
 
 protected:

@@ -9,8 +9,9 @@ namespace {
 void print_frame(int number, DWORD64 address) {
     HMODULE module = nullptr;
     char name[MAX_PATH] = "?";
-    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                         reinterpret_cast<LPCSTR>(address), &module);
+    ::GetModuleHandleExA(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<LPCSTR>(address), &module);
     if (module != nullptr) ::GetModuleFileNameA(module, name, MAX_PATH);
     // The offset is what addr2line wants, added to the image base of the file.
     std::fprintf(stderr, "  #%d %s+0x%llx\n", number, name,
@@ -29,7 +30,8 @@ void print_stack(CONTEXT context) {
         }
         void* handlerData = nullptr;
         DWORD64 frame = 0;
-        ::RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handlerData, &frame, nullptr);
+        ::RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handlerData, &frame,
+                           nullptr);
     }
 }
 

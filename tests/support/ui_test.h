@@ -15,13 +15,14 @@ void pump();
 /// Dispatches messages until `done` answers true; false when `milliseconds` have passed first.
 bool pump_until(const std::function<bool()>& done, unsigned milliseconds = 3000);
 
-/// Runs `action` once from the message loop that is innermost when `milliseconds` have passed, which is how a test
-/// acts on a modal dialog that it is about to open.
+/// Runs `action` once from the message loop that is innermost when `milliseconds` have passed, which is how a
+/// test acts on a modal dialog that it is about to open.
 void later(std::function<void()> action, unsigned milliseconds = 1);
 
-/// Runs `action` with the first visible top-level window of this thread for which `wanted` holds, as soon as it is
-/// there; gives up after `milliseconds` and fails the test.
-void when_window(std::function<bool(HWND)> wanted, std::function<void(HWND)> action, unsigned milliseconds = 5000);
+/// Runs `action` with the first visible top-level window of this thread for which `wanted` holds, as soon as
+/// it is there; gives up after `milliseconds` and fails the test.
+void when_window(std::function<bool(HWND)> wanted, std::function<void(HWND)> action,
+                 unsigned milliseconds = 5000);
 
 /// The same for a message box or dialog by its title ("" fits every dialog).
 void when_dialog(const wchar_t* title, std::function<void(HWND)> action);

@@ -20,7 +20,8 @@ public:
 
     static ProfileKey Create(HKEY parent, const CString& path) {
         HKEY key = nullptr;
-        ::RegCreateKeyExW(parent, path, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr, &key, nullptr);
+        ::RegCreateKeyExW(parent, path, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr,
+                          &key, nullptr);
         return ProfileKey(key);
     }
 
@@ -39,19 +40,22 @@ ProfileKey section_key(const CWinApp& app, LPCTSTR section) {
 /// The bytes of a value, empty when it is missing.
 std::vector<BYTE> read_value(const ProfileKey& key, LPCTSTR entry, DWORD wantedType) {
     DWORD type = 0, size = 0;
-    if (!key || ::RegQueryValueExW(key.get(), entry, nullptr, &type, nullptr, &size) != ERROR_SUCCESS) return {};
+    if (!key || ::RegQueryValueExW(key.get(), entry, nullptr, &type, nullptr, &size) != ERROR_SUCCESS)
+        return {};
     if (type != wantedType) return {};
     std::vector<BYTE> bytes(size + sizeof(wchar_t));
-    if (::RegQueryValueExW(key.get(), entry, nullptr, nullptr, bytes.data(), &size) != ERROR_SUCCESS) return {};
+    if (::RegQueryValueExW(key.get(), entry, nullptr, nullptr, bytes.data(), &size) != ERROR_SUCCESS)
+        return {};
     bytes.resize(size);
     return bytes;
 }
 
 BOOL write_value(const ProfileKey& key, LPCTSTR entry, DWORD type, const void* data, DWORD size) {
-    return key && ::RegSetValueExW(key.get(), entry, 0, type, static_cast<const BYTE*>(data), size) == ERROR_SUCCESS;
+    return key &&
+           ::RegSetValueExW(key.get(), entry, 0, type, static_cast<const BYTE*>(data), size) == ERROR_SUCCESS;
 }
 
-} // namespace
+}  // namespace
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey) {
     m_strRegistryKey = lpszRegistryKey;
@@ -85,7 +89,8 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
     }
     const ProfileKey key = section_key(*this, lpszSection);
     DWORD type = 0;
-    if (!key || ::RegQueryValueExW(key.get(), lpszEntry, nullptr, &type, nullptr, nullptr) != ERROR_SUCCESS || type != REG_SZ)
+    if (!key || ::RegQueryValueExW(key.get(), lpszEntry, nullptr, &type, nullptr, nullptr) != ERROR_SUCCESS ||
+        type != REG_SZ)
         return fallback;
     std::vector<BYTE> bytes = read_value(key, lpszEntry, REG_SZ);
     bytes.resize(bytes.size() / sizeof(wchar_t) * sizeof(wchar_t) + sizeof(wchar_t), 0);
@@ -93,14 +98,16 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
 }
 
 BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue) {
-    if (m_pszRegistryKey == nullptr) return ::WritePrivateProfileStringW(lpszSection, lpszEntry, lpszValue, m_pszProfileName);
+    if (m_pszRegistryKey == nullptr)
+        return ::WritePrivateProfileStringW(lpszSection, lpszEntry, lpszValue, m_pszProfileName);
     if (lpszEntry == nullptr) {
         const ProfileKey application = ProfileKey::Create(HKEY_CURRENT_USER, application_path(*this));
         return application && ::RegDeleteTreeW(application.get(), lpszSection) == ERROR_SUCCESS;
     }
     const ProfileKey key = section_key(*this, lpszSection);
     if (lpszValue == nullptr) return key && ::RegDeleteValueW(key.get(), lpszEntry) == ERROR_SUCCESS;
-    return write_value(key, lpszEntry, REG_SZ, lpszValue, static_cast<DWORD>((wcslen(lpszValue) + 1) * sizeof(wchar_t)));
+    return write_value(key, lpszEntry, REG_SZ, lpszValue,
+                       static_cast<DWORD>((wcslen(lpszValue) + 1) * sizeof(wchar_t)));
 }
 
 BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes) {
@@ -116,5 +123,6 @@ BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* p
 }
 
 BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes) {
-    return m_pszRegistryKey != nullptr && write_value(section_key(*this, lpszSection), lpszEntry, REG_BINARY, pData, nBytes);
+    return m_pszRegistryKey != nullptr &&
+           write_value(section_key(*this, lpszSection), lpszEntry, REG_BINARY, pData, nBytes);
 }

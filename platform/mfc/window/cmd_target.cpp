@@ -18,14 +18,16 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     UINT message = WM_COMMAND;
     if (nCode != CN_UPDATE_COMMAND_UI) {
         if (HIWORD(nCode) != 0) message = HIWORD(nCode);
-        nCode = message == WM_NOTIFY || message == WM_REFLECT_BASE + WM_NOTIFY ? static_cast<int>(static_cast<short>(LOWORD(nCode)))
-                                                                               : LOWORD(nCode);
+        nCode = message == WM_NOTIFY || message == WM_REFLECT_BASE + WM_NOTIFY
+                    ? static_cast<int>(static_cast<short>(LOWORD(nCode)))
+                    : LOWORD(nCode);
     }
     for (const AFX_MSGMAP* map = GetMessageMap(); map != nullptr;
          map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
         const AFX_MSGMAP_ENTRY* entry =
             kmfc::find_command_entry(map->lpEntries, message, static_cast<UINT>(nCode), nID);
-        if (entry != nullptr) return kmfc::invoke_command_handler(this, nID, nCode, *entry, pExtra, pHandlerInfo);
+        if (entry != nullptr)
+            return kmfc::invoke_command_handler(this, nID, nCode, *entry, pExtra, pHandlerInfo);
     }
     return FALSE;
 }
@@ -54,7 +56,8 @@ void CCmdUI::Enable(BOOL bOn) {
     m_bEnableChanged = TRUE;
     if (m_pMenu != nullptr) {
         if (m_pSubMenu != nullptr) return;
-        ::EnableMenuItem(m_pMenu->m_hMenu, m_nIndex, MF_BYPOSITION | (bOn ? MF_ENABLED : MF_DISABLED | MF_GRAYED));
+        ::EnableMenuItem(m_pMenu->m_hMenu, m_nIndex,
+                         MF_BYPOSITION | (bOn ? MF_ENABLED : MF_DISABLED | MF_GRAYED));
         return;
     }
     if (!bOn && ::GetFocus() == m_pOther->m_hWnd) m_pOther->GetParent()->NextDlgCtrl();

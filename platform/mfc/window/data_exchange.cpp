@@ -54,7 +54,7 @@ CString control_text(HWND control) {
 [[noreturn]] void refuse(CDataExchange* exchange, UINT prompt) {
     AfxMessageBox(prompt, MB_ICONEXCLAMATION);
     exchange->Fail();
-    throw; // Fail throws.
+    throw;  // Fail throws.
 }
 
 /// Whether only blanks follow.
@@ -102,14 +102,26 @@ void exchange_real(CDataExchange* exchange, int id, T& value, int digits) {
     value = static_cast<T>(parsed);
 }
 
-} // namespace
+}  // namespace
 
-void DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value) { exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_BYTE); }
-void DDX_Text(CDataExchange* pDX, int nIDC, short& value) { exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT); }
-void DDX_Text(CDataExchange* pDX, int nIDC, int& value) { exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT); }
-void DDX_Text(CDataExchange* pDX, int nIDC, UINT& value) { exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_UINT); }
-void DDX_Text(CDataExchange* pDX, int nIDC, long& value) { exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT); }
-void DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value) { exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_UINT); }
+void DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_BYTE);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, short& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, int& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, UINT& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, long& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
+}
 void DDX_Text(CDataExchange* pDX, int nIDC, float& value) { exchange_real(pDX, nIDC, value, FLT_DIG); }
 void DDX_Text(CDataExchange* pDX, int nIDC, double& value) { exchange_real(pDX, nIDC, value, DBL_DIG); }
 
@@ -154,14 +166,17 @@ namespace {
 struct ListMessages {
     UINT getSelection, setSelection, getText, getTextLength, selectString, findExact;
 };
-constexpr ListMessages kListBox = {LB_GETCURSEL, LB_SETCURSEL, LB_GETTEXT, LB_GETTEXTLEN, LB_SELECTSTRING, LB_FINDSTRINGEXACT};
-constexpr ListMessages kComboBox = {CB_GETCURSEL, CB_SETCURSEL, CB_GETLBTEXT, CB_GETLBTEXTLEN, CB_SELECTSTRING, CB_FINDSTRINGEXACT};
+constexpr ListMessages kListBox = {LB_GETCURSEL,  LB_SETCURSEL,    LB_GETTEXT,
+                                   LB_GETTEXTLEN, LB_SELECTSTRING, LB_FINDSTRINGEXACT};
+constexpr ListMessages kComboBox = {CB_GETCURSEL,    CB_SETCURSEL,    CB_GETLBTEXT,
+                                    CB_GETLBTEXTLEN, CB_SELECTSTRING, CB_FINDSTRINGEXACT};
 
 CString selected_text(HWND control, const ListMessages& m) {
     CString text;
     const LRESULT index = ::SendMessageW(control, m.getSelection, 0, 0);
     if (index < 0) return text;
-    const int length = static_cast<int>(::SendMessageW(control, m.getTextLength, static_cast<WPARAM>(index), 0));
+    const int length =
+        static_cast<int>(::SendMessageW(control, m.getTextLength, static_cast<WPARAM>(index), 0));
     ::SendMessageW(control, m.getText, static_cast<WPARAM>(index),
                    reinterpret_cast<LPARAM>(text.GetBufferSetLength(length)));
     text.ReleaseBuffer();
@@ -177,11 +192,12 @@ void exchange_index(CDataExchange* exchange, int id, int& index, const ListMessa
 }
 
 void select_exact(HWND control, const CString& value, const ListMessages& m) {
-    const LRESULT found = ::SendMessageW(control, m.findExact, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(value.GetString()));
+    const LRESULT found = ::SendMessageW(control, m.findExact, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(value.GetString()));
     if (found >= 0) ::SendMessageW(control, m.setSelection, static_cast<WPARAM>(found), 0);
 }
 
-} // namespace
+}  // namespace
 
 void DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index) { exchange_index(pDX, nIDC, index, kListBox); }
 void DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index) { exchange_index(pDX, nIDC, index, kComboBox); }
@@ -191,7 +207,8 @@ void DDX_LBString(CDataExchange* pDX, int nIDC, CString& value) {
     if (pDX->m_bSaveAndValidate)
         value = selected_text(control, kListBox);
     else
-        ::SendMessageW(control, LB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(value.GetString()));
+        ::SendMessageW(control, LB_SELECTSTRING, static_cast<WPARAM>(-1),
+                       reinterpret_cast<LPARAM>(value.GetString()));
 }
 
 void DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
@@ -206,7 +223,8 @@ void DDX_CBString(CDataExchange* pDX, int nIDC, CString& value) {
     HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
         value = control_text(control);
-    } else if (::SendMessageW(control, CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(value.GetString())) == CB_ERR) {
+    } else if (::SendMessageW(control, CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                              reinterpret_cast<LPARAM>(value.GetString())) == CB_ERR) {
         AfxSetWindowText(control, value);
     }
 }
@@ -254,14 +272,26 @@ void check_integer_range(CDataExchange* exchange, long long value, long long min
     check_range<long long>(exchange, value, minimum, maximum, AFX_IDP_PARSE_INT_RANGE, L"%lld");
 }
 
-} // namespace
+}  // namespace
 
-void DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal) { check_integer_range(pDX, value, minVal, maxVal); }
-void DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal) { check_integer_range(pDX, value, minVal, maxVal); }
-void DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) { check_integer_range(pDX, value, minVal, maxVal); }
-void DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal) { check_integer_range(pDX, value, minVal, maxVal); }
-void DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) { check_integer_range(pDX, value, minVal, maxVal); }
-void DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) { check_integer_range(pDX, value, minVal, maxVal); }
+void DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
 void DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float maxVal) {
     check_range<double>(pDX, value, minVal, maxVal, AFX_IDP_PARSE_REAL_RANGE, L"%.6g");
 }

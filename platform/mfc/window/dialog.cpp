@@ -32,12 +32,15 @@ INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
 
 BOOL CWnd::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
     AfxHookWindowCreate(this);
-    HWND hWnd = ::CreateDialogIndirectParamW(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDlgProc, 0);
+    HWND hWnd =
+        ::CreateDialogIndirectParamW(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDlgProc, 0);
     if (!AfxUnhookWindowCreate() && !(m_nFlags & WF_CONTINUEMODAL)) PostNcDestroy();
     return hWnd != nullptr;
 }
 
-BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) { return Create(MAKEINTRESOURCEW(nIDTemplate), pParentWnd); }
+BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
+    return Create(MAKEINTRESOURCEW(nIDTemplate), pParentWnd);
+}
 
 BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     m_lpszTemplateName = lpszTemplateName;
@@ -107,12 +110,14 @@ INT_PTR CDialog::DoModal() {
     if (dialogTemplate == nullptr) return -1;
 
     HWND parent = PreModal();
-    const bool enableParent = parent != nullptr && parent != ::GetDesktopWindow() && ::IsWindowEnabled(parent);
+    const bool enableParent =
+        parent != nullptr && parent != ::GetDesktopWindow() && ::IsWindowEnabled(parent);
     if (enableParent) ::EnableWindow(parent, FALSE);
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;
     try {
-        if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(parent), module)) RunCreated(parent, enableParent);
+        if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(parent), module))
+            RunCreated(parent, enableParent);
     } catch (CException* e) {
         e->Delete();
         m_nModalResult = -1;
@@ -133,7 +138,8 @@ int CDialog::RunCreated(HWND, BOOL) {
         RunModalLoop(flags);
     }
     if (m_hWnd != nullptr)
-        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     return m_nModalResult;
 }
 
@@ -159,7 +165,8 @@ BOOL CDialog::CheckAutoCenter() {
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     PreInitDialog();
-    const BOOL ownInit = m_lpDialogInit != nullptr ? ExecuteDlgInit(m_lpDialogInit) : ExecuteDlgInit(m_lpszTemplateName);
+    const BOOL ownInit =
+        m_lpDialogInit != nullptr ? ExecuteDlgInit(m_lpDialogInit) : ExecuteDlgInit(m_lpszTemplateName);
     if (!ownInit) {
         EndDialog(-1);
         return FALSE;
@@ -190,7 +197,8 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
     if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
-    const bool cancel = pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_ESCAPE || pMsg->wParam == VK_CANCEL);
+    const bool cancel =
+        pMsg->message == WM_KEYDOWN && (pMsg->wParam == VK_ESCAPE || pMsg->wParam == VK_CANCEL);
     if (cancel && (::GetWindowLongPtrW(pMsg->hwnd, GWL_STYLE) & ES_MULTILINE)) {
         wchar_t name[10] = {};
         ::GetClassNameW(pMsg->hwnd, name, 10);
@@ -211,20 +219,17 @@ namespace {
 /// Message numbers in a dialog's initial data date from 16-bit Windows; what they stand for now.
 UINT current_init_message(WORD stored) {
     switch (stored) {
-        case 0x0401:
-            return LB_ADDSTRING;
-        case 0x0403:
-            return CB_ADDSTRING;
-        case 0x1234:
-            return CBEM_INSERTITEMW;
-        default:
-            return stored;
+        case 0x0401: return LB_ADDSTRING;
+        case 0x0403: return CB_ADDSTRING;
+        case 0x1234: return CBEM_INSERTITEMW;
+        default: return stored;
     }
 }
 
 LRESULT send_initial_text(HWND control, UINT message, const char* text) {
     const CString wide(text);
-    if (message != CBEM_INSERTITEMW) return ::SendMessageW(control, message, 0, reinterpret_cast<LPARAM>(wide.GetString()));
+    if (message != CBEM_INSERTITEMW)
+        return ::SendMessageW(control, message, 0, reinterpret_cast<LPARAM>(wide.GetString()));
     COMBOBOXEXITEMW item = {};
     item.mask = CBEIF_TEXT;
     item.iItem = -1;
@@ -232,11 +237,11 @@ LRESULT send_initial_text(HWND control, UINT message, const char* text) {
     return ::SendMessageW(control, message, 0, reinterpret_cast<LPARAM>(&item));
 }
 
-} // namespace
+}  // namespace
 
 BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
     if (lpszResourceName == nullptr) return ExecuteDlgInit(static_cast<LPVOID>(nullptr));
-    constexpr LPCWSTR kDialogInit = MAKEINTRESOURCEW(240);
+    const LPCWSTR kDialogInit = MAKEINTRESOURCEW(240);
     HINSTANCE module = AfxFindResourceHandle(lpszResourceName, kDialogInit);
     HRSRC resource = ::FindResourceW(module, lpszResourceName, kDialogInit);
     HGLOBAL loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;

@@ -44,8 +44,8 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
         }
     }
     m_strTitle = lpszWindowName;
-    if (CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, rect.right - rect.left,
-                 rect.bottom - rect.top, pParentWnd->GetSafeHwnd(), menu, pContext))
+    if (CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
+                 rect.right - rect.left, rect.bottom - rect.top, pParentWnd->GetSafeHwnd(), menu, pContext))
         return TRUE;
     if (menu != nullptr) ::DestroyMenu(menu);
     return FALSE;
@@ -58,15 +58,14 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
     HICON icon = ::LoadIconW(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
                                                     reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon);
-    if (!Create(windowClass, title, dwDefaultStyle & ~FS_ADDTOTITLE, rectDefault, pParentWnd, name, 0, pContext))
+    if (!Create(windowClass, title, dwDefaultStyle & ~FS_ADDTOTITLE, rectDefault, pParentWnd, name, 0,
+                pContext))
         return FALSE;
     LoadAccelTable(name);
     return TRUE;
 }
 
-int CFrameWnd::OnCreate(LPCREATESTRUCT) {
-    return Default() == -1 ? -1 : 0;
-}
+int CFrameWnd::OnCreate(LPCREATESTRUCT) { return Default() == -1 ? -1 : 0; }
 
 void CFrameWnd::OnClose() {
     CWinApp* app = AfxGetApp();
@@ -104,9 +103,7 @@ BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
     return app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
-BOOL CFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    return CWnd::OnCommand(wParam, lParam);
-}
+BOOL CFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam) { return CWnd::OnCommand(wParam, lParam); }
 
 void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
     Default();
@@ -166,7 +163,9 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM wParam, LPARAM lParam) {
     return static_cast<LRESULT>(previous);
 }
 
-void CFrameWnd::SetMessageText(LPCTSTR lpszText) { SendMessage(WM_SETMESSAGESTRING, 0, reinterpret_cast<LPARAM>(lpszText)); }
+void CFrameWnd::SetMessageText(LPCTSTR lpszText) {
+    SendMessage(WM_SETMESSAGESTRING, 0, reinterpret_cast<LPARAM>(lpszText));
+}
 void CFrameWnd::SetMessageText(UINT nID) { SendMessage(WM_SETMESSAGESTRING, nID); }
 
 void CFrameWnd::BeginModalState() {
@@ -174,7 +173,8 @@ void CFrameWnd::BeginModalState() {
     for (HWND other = ::GetWindow(::GetDesktopWindow(), GW_CHILD); other != nullptr;
          other = ::GetWindow(other, GW_HWNDNEXT)) {
         CWnd* wnd = FromHandlePermanent(other);
-        if (wnd == nullptr || other == m_hWnd || !::IsWindowEnabled(other) || wnd->GetTopLevelOwner() != this) continue;
+        if (wnd == nullptr || other == m_hWnd || !::IsWindowEnabled(other) || wnd->GetTopLevelOwner() != this)
+            continue;
         ::EnableWindow(other, FALSE);
         m_disabledWindows.Add(static_cast<DWORD>(reinterpret_cast<UINT_PTR>(other)));
     }

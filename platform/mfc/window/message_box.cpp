@@ -47,7 +47,8 @@ BOOL AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubStrin
         ++lpszFullString;
     }
     const wchar_t* end = wcschr(lpszFullString, chSep);
-    rString = end != nullptr ? CString(lpszFullString, static_cast<int>(end - lpszFullString)) : CString(lpszFullString);
+    rString = end != nullptr ? CString(lpszFullString, static_cast<int>(end - lpszFullString))
+                             : CString(lpszFullString);
     return TRUE;
 }
 

@@ -27,8 +27,9 @@ CWnd* wnd_of(LPARAM handle) { return CWnd::FromHandle(reinterpret_cast<HWND>(han
 UINT low(LPARAM value) { return LOWORD(value); }
 UINT high(LPARAM value) { return HIWORD(value); }
 
-#define INVOKER [](CWnd * wnd, AFX_PMSG f, [[maybe_unused]] UINT m, [[maybe_unused]] WPARAM w, \
-                   [[maybe_unused]] LPARAM l) -> LRESULT
+#define INVOKER                                                                    \
+    [](CWnd * wnd, AFX_PMSG f, [[maybe_unused]] UINT m, [[maybe_unused]] WPARAM w, \
+       [[maybe_unused]] LPARAM l) -> LRESULT
 
 /// Fills the rows of the plain signatures: no parameter, or numbers straight out of wParam and lParam.
 void fill_plain(std::array<WindowInvoker, AfxSig_window_count>& t) {
@@ -51,23 +52,32 @@ void fill_plain(std::array<WindowInvoker, AfxSig_window_count>& t) {
                0;
     };
     t[AfxSig_v_uint_ptr] = INVOKER { return call<void, UINT_PTR>(wnd, f, w), 0; };
-    t[AfxSig_v_key] = INVOKER { return call<void, UINT, UINT, UINT>(wnd, f, static_cast<UINT>(w), low(l), high(l)), 0; };
+    t[AfxSig_v_key] = INVOKER {
+        return call<void, UINT, UINT, UINT>(wnd, f, static_cast<UINT>(w), low(l), high(l)), 0;
+    };
     t[AfxSig_v_syscommand] = INVOKER { return call<void, UINT, LPARAM>(wnd, f, static_cast<UINT>(w), l), 0; };
-    t[AfxSig_v_parentnotify] = INVOKER { return call<void, UINT, LPARAM>(wnd, f, static_cast<UINT>(w), l), 0; };
+    t[AfxSig_v_parentnotify] = INVOKER {
+        return call<void, UINT, LPARAM>(wnd, f, static_cast<UINT>(w), l), 0;
+    };
     t[AfxSig_v_settingchange] = INVOKER {
         return call<void, UINT, LPCTSTR>(wnd, f, static_cast<UINT>(w), reinterpret_cast<LPCTSTR>(l)), 0;
     };
-    t[AfxSig_v_activateapp] = INVOKER { return call<void, BOOL, DWORD>(wnd, f, w != 0, static_cast<DWORD>(l)), 0; };
+    t[AfxSig_v_activateapp] = INVOKER {
+        return call<void, BOOL, DWORD>(wnd, f, w != 0, static_cast<DWORD>(l)), 0;
+    };
     t[AfxSig_l_w_l] = INVOKER { return call<LRESULT, WPARAM, LPARAM>(wnd, f, w, l); };
 }
 
 /// Mouse, focus and other windows.
 void fill_input(std::array<WindowInvoker, AfxSig_window_count>& t) {
-    t[AfxSig_v_u_point] = INVOKER { return call<void, UINT, CPoint>(wnd, f, static_cast<UINT>(w), point_of(l)), 0; };
+    t[AfxSig_v_u_point] = INVOKER {
+        return call<void, UINT, CPoint>(wnd, f, static_cast<UINT>(w), point_of(l)), 0;
+    };
     t[AfxSig_v_nchit_point] = t[AfxSig_v_u_point];
     t[AfxSig_l_point] = INVOKER { return call<LRESULT, CPoint>(wnd, f, point_of(l)); };
     t[AfxSig_b_wheel] = INVOKER {
-        return call<BOOL, UINT, short, CPoint>(wnd, f, GET_KEYSTATE_WPARAM(w), GET_WHEEL_DELTA_WPARAM(w), point_of(l));
+        return call<BOOL, UINT, short, CPoint>(wnd, f, GET_KEYSTATE_WPARAM(w), GET_WHEEL_DELTA_WPARAM(w),
+                                               point_of(l));
     };
     t[AfxSig_v_wnd] = INVOKER { return call<void, CWnd*>(wnd, f, wnd_of(w)), 0; };
     t[AfxSig_v_wnd_l] = INVOKER { return call<void, CWnd*>(wnd, f, wnd_of(l)), 0; };
@@ -75,8 +85,12 @@ void fill_input(std::array<WindowInvoker, AfxSig_window_count>& t) {
     t[AfxSig_v_activate] = INVOKER {
         return call<void, UINT, CWnd*, BOOL>(wnd, f, LOWORD(w), wnd_of(l), HIWORD(w) != 0), 0;
     };
-    t[AfxSig_b_setcursor] = INVOKER { return call<BOOL, CWnd*, UINT, UINT>(wnd, f, wnd_of(w), low(l), high(l)); };
-    t[AfxSig_i_mouseactivate] = INVOKER { return call<int, CWnd*, UINT, UINT>(wnd, f, wnd_of(w), low(l), high(l)); };
+    t[AfxSig_b_setcursor] = INVOKER {
+        return call<BOOL, CWnd*, UINT, UINT>(wnd, f, wnd_of(w), low(l), high(l));
+    };
+    t[AfxSig_i_mouseactivate] = INVOKER {
+        return call<int, CWnd*, UINT, UINT>(wnd, f, wnd_of(w), low(l), high(l));
+    };
     t[AfxSig_b_copydata] = INVOKER {
         return call<BOOL, CWnd*, COPYDATASTRUCT*>(wnd, f, wnd_of(w), reinterpret_cast<COPYDATASTRUCT*>(l));
     };
@@ -88,7 +102,8 @@ void fill_input(std::array<WindowInvoker, AfxSig_window_count>& t) {
     };
     t[AfxSig_v_scroll_reflect] = INVOKER { return call<void, UINT, UINT>(wnd, f, LOWORD(w), HIWORD(w)), 0; };
     t[AfxSig_i_u_wnd_u] = INVOKER {
-        return call<int, UINT, CListBox*, UINT>(wnd, f, LOWORD(w), static_cast<CListBox*>(wnd_of(l)), HIWORD(w));
+        return call<int, UINT, CListBox*, UINT>(wnd, f, LOWORD(w), static_cast<CListBox*>(wnd_of(l)),
+                                                HIWORD(w));
     };
 }
 
@@ -100,10 +115,12 @@ void fill_structures(std::array<WindowInvoker, AfxSig_window_count>& t) {
             wnd, f, CDC::FromHandle(reinterpret_cast<HDC>(w)), wnd_of(l), m - WM_CTLCOLORMSGBOX));
     };
     t[AfxSig_h_ctlcolor_reflect] = INVOKER {
-        return reinterpret_cast<LRESULT>(
-            call<HBRUSH, CDC*, UINT>(wnd, f, CDC::FromHandle(reinterpret_cast<HDC>(w)), static_cast<UINT>(l)));
+        return reinterpret_cast<LRESULT>(call<HBRUSH, CDC*, UINT>(
+            wnd, f, CDC::FromHandle(reinterpret_cast<HDC>(w)), static_cast<UINT>(l)));
     };
-    t[AfxSig_v_menu] = INVOKER { return call<void, CMenu*>(wnd, f, CMenu::FromHandle(reinterpret_cast<HMENU>(w))), 0; };
+    t[AfxSig_v_menu] = INVOKER {
+        return call<void, CMenu*>(wnd, f, CMenu::FromHandle(reinterpret_cast<HMENU>(w))), 0;
+    };
     t[AfxSig_v_initmenupopup] = INVOKER {
         return call<void, CMenu*, UINT, BOOL>(wnd, f, CMenu::FromHandle(reinterpret_cast<HMENU>(w)), low(l),
                                               high(l) != 0),
@@ -116,23 +133,35 @@ void fill_structures(std::array<WindowInvoker, AfxSig_window_count>& t) {
         return call<LRESULT, UINT, UINT, CMenu*>(wnd, f, LOWORD(w), HIWORD(w),
                                                  CMenu::FromHandle(reinterpret_cast<HMENU>(l)));
     };
-    t[AfxSig_i_create] = INVOKER { return call<int, LPCREATESTRUCT>(wnd, f, reinterpret_cast<LPCREATESTRUCT>(l)); };
-    t[AfxSig_b_create] = INVOKER { return call<BOOL, LPCREATESTRUCT>(wnd, f, reinterpret_cast<LPCREATESTRUCT>(l)); };
-    t[AfxSig_v_minmaxinfo] = INVOKER { return call<void, MINMAXINFO*>(wnd, f, reinterpret_cast<MINMAXINFO*>(l)), 0; };
-    t[AfxSig_v_windowpos] = INVOKER { return call<void, WINDOWPOS*>(wnd, f, reinterpret_cast<WINDOWPOS*>(l)), 0; };
+    t[AfxSig_i_create] = INVOKER {
+        return call<int, LPCREATESTRUCT>(wnd, f, reinterpret_cast<LPCREATESTRUCT>(l));
+    };
+    t[AfxSig_b_create] = INVOKER {
+        return call<BOOL, LPCREATESTRUCT>(wnd, f, reinterpret_cast<LPCREATESTRUCT>(l));
+    };
+    t[AfxSig_v_minmaxinfo] = INVOKER {
+        return call<void, MINMAXINFO*>(wnd, f, reinterpret_cast<MINMAXINFO*>(l)), 0;
+    };
+    t[AfxSig_v_windowpos] = INVOKER {
+        return call<void, WINDOWPOS*>(wnd, f, reinterpret_cast<WINDOWPOS*>(l)), 0;
+    };
     t[AfxSig_b_help] = INVOKER { return call<BOOL, HELPINFO*>(wnd, f, reinterpret_cast<HELPINFO*>(l)); };
     t[AfxSig_v_b_nccalc] = INVOKER {
-        return call<void, BOOL, NCCALCSIZE_PARAMS*>(wnd, f, w != 0, reinterpret_cast<NCCALCSIZE_PARAMS*>(l)), 0;
+        return call<void, BOOL, NCCALCSIZE_PARAMS*>(wnd, f, w != 0, reinterpret_cast<NCCALCSIZE_PARAMS*>(l)),
+               0;
     };
     t[AfxSig_v_stylechange] = INVOKER {
-        return call<void, int, LPSTYLESTRUCT>(wnd, f, static_cast<int>(w), reinterpret_cast<LPSTYLESTRUCT>(l)), 0;
+        return call<void, int, LPSTYLESTRUCT>(wnd, f, static_cast<int>(w),
+                                              reinterpret_cast<LPSTYLESTRUCT>(l)),
+               0;
     };
 }
 
 /// Owner-draw messages, as the parent and as the control itself receives them.
 void fill_owner_draw(std::array<WindowInvoker, AfxSig_window_count>& t) {
     t[AfxSig_v_int_drawitem] = INVOKER {
-        return call<void, int, LPDRAWITEMSTRUCT>(wnd, f, static_cast<int>(w), reinterpret_cast<LPDRAWITEMSTRUCT>(l)),
+        return call<void, int, LPDRAWITEMSTRUCT>(wnd, f, static_cast<int>(w),
+                                                 reinterpret_cast<LPDRAWITEMSTRUCT>(l)),
                TRUE;
     };
     t[AfxSig_v_int_measureitem] = INVOKER {
@@ -190,7 +219,7 @@ const AFX_MSGMAP_ENTRY* search_maps(const AFX_MSGMAP* map, UINT message) {
     return nullptr;
 }
 
-} // namespace
+}  // namespace
 
 const AFX_MSGMAP_ENTRY* MessageCache::Find(const AFX_MSGMAP* map, UINT message) {
     const size_t hash = (reinterpret_cast<size_t>(map) >> 4) ^ message;
@@ -199,14 +228,17 @@ const AFX_MSGMAP_ENTRY* MessageCache::Find(const AFX_MSGMAP* map, UINT message) 
     return slot.entry;
 }
 
-LRESULT invoke_window_handler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT invoke_window_handler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam,
+                              LPARAM lParam) {
     const UINT_PTR signature = entry.nMessage == 0xC000 ? AfxSig_l_w_l : entry.nSig;
     return window_invokers()[signature](wnd, entry.pfn, message, wParam, lParam);
 }
 
-const AFX_MSGMAP_ENTRY* find_command_entry(const AFX_MSGMAP_ENTRY* entries, UINT message, UINT code, UINT id) {
+const AFX_MSGMAP_ENTRY* find_command_entry(const AFX_MSGMAP_ENTRY* entries, UINT message, UINT code,
+                                           UINT id) {
     for (; entries->nSig != AfxSig_end; ++entries) {
-        if (entries->nMessage == message && entries->nCode == code && id >= entries->nID && id <= entries->nLastID)
+        if (entries->nMessage == message && entries->nCode == code && id >= entries->nID &&
+            id <= entries->nLastID)
             return entries;
     }
     return nullptr;
@@ -227,13 +259,11 @@ BOOL invoke_notify(CCmdTarget* target, UINT id, const AFX_MSGMAP_ENTRY& entry, v
         case AfxSigNotify_v:
             call_command<void, NMHDR*, LRESULT*>(target, entry.pfn, header, result);
             return TRUE;
-        case AfxSigNotify_b:
-            return call_command<BOOL, NMHDR*, LRESULT*>(target, entry.pfn, header, result);
+        case AfxSigNotify_b: return call_command<BOOL, NMHDR*, LRESULT*>(target, entry.pfn, header, result);
         case AfxSigNotify_RANGE:
             call_command<void, UINT, NMHDR*, LRESULT*>(target, entry.pfn, id, header, result);
             return TRUE;
-        default:
-            return call_command<BOOL, UINT, NMHDR*, LRESULT*>(target, entry.pfn, id, header, result);
+        default: return call_command<BOOL, UINT, NMHDR*, LRESULT*>(target, entry.pfn, id, header, result);
     }
 }
 
@@ -244,7 +274,7 @@ BOOL invoke_update(CCmdTarget* target, const AFX_MSGMAP_ENTRY& entry, void* extr
     return !request->m_bContinueRouting;
 }
 
-} // namespace
+}  // namespace
 
 BOOL invoke_command_handler(CCmdTarget* target, UINT id, int, const AFX_MSGMAP_ENTRY& entry, void* extra,
                             AFX_CMDHANDLERINFO* info) {
@@ -253,22 +283,14 @@ BOOL invoke_command_handler(CCmdTarget* target, UINT id, int, const AFX_MSGMAP_E
         return TRUE;
     }
     switch (entry.nSig) {
-        case AfxSigCmd_v:
-            call_command<void>(target, entry.pfn);
-            return TRUE;
-        case AfxSigCmd_b:
-            return call_command<BOOL>(target, entry.pfn);
-        case AfxSigCmd_RANGE:
-            call_command<void, UINT>(target, entry.pfn, id);
-            return TRUE;
-        case AfxSigCmd_EX:
-            return call_command<BOOL, UINT>(target, entry.pfn, id);
+        case AfxSigCmd_v: call_command<void>(target, entry.pfn); return TRUE;
+        case AfxSigCmd_b: return call_command<BOOL>(target, entry.pfn);
+        case AfxSigCmd_RANGE: call_command<void, UINT>(target, entry.pfn, id); return TRUE;
+        case AfxSigCmd_EX: return call_command<BOOL, UINT>(target, entry.pfn, id);
         case AfxSigCmdUI:
-        case AfxSigCmdUI_RANGE:
-            return invoke_update(target, entry, extra);
-        default:
-            return invoke_notify(target, id, entry, extra);
+        case AfxSigCmdUI_RANGE: return invoke_update(target, entry, extra);
+        default: return invoke_notify(target, id, entry, extra);
     }
 }
 
-} // namespace kmfc
+}  // namespace kmfc

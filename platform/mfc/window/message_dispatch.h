@@ -5,8 +5,10 @@
 
 namespace kmfc {
 
-/// Calls the window handler of `entry`. `message` is the message as it arrived (WM_CTLCOLOREDIT, not WM_CTLCOLOR).
-LRESULT invoke_window_handler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam, LPARAM lParam);
+/// Calls the window handler of `entry`. `message` is the message as it arrived (WM_CTLCOLOREDIT, not
+/// WM_CTLCOLOR).
+LRESULT invoke_window_handler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam,
+                              LPARAM lParam);
 
 /// A notification in flight through OnCmdMsg.
 struct NotifyContext {
@@ -22,4 +24,4 @@ BOOL invoke_command_handler(CCmdTarget* target, UINT id, int code, const AFX_MSG
 /// First entry of `entries` for `message`, control notification `code` and control `id`; null when none fits.
 const AFX_MSGMAP_ENTRY* find_command_entry(const AFX_MSGMAP_ENTRY* entries, UINT message, UINT code, UINT id);
 
-} // namespace kmfc
+}  // namespace kmfc

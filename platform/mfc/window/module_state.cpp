@@ -38,13 +38,14 @@ BOOL HasResource(HMODULE module, LPCTSTR name, LPCTSTR type) {
 HMODULE FindInLibraries(LPCTSTR name, LPCTSTR type, BOOL system) {
     for (CDynLinkLibrary* library = AfxGetModuleState()->m_libraryList.GetHead(); library != nullptr;
          library = library->m_pNextDLL) {
-        if ((library->m_bSystem != FALSE) == (system != FALSE) && HasResource(library->m_hResource, name, type))
+        if ((library->m_bSystem != FALSE) == (system != FALSE) &&
+            HasResource(library->m_hResource, name, type))
             return library->m_hResource;
     }
     return nullptr;
 }
 
-} // namespace
+}  // namespace
 
 AFX_MODULE_STATE* AfxGetModuleState() {
     static AFX_MODULE_STATE* const state = [] {

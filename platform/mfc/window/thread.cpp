@@ -46,8 +46,9 @@ CWinThread::~CWinThread() {
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
     AfxThreadStart start = {this, ::CreateEventW(nullptr, TRUE, FALSE, nullptr)};
     if (start.started == nullptr) return FALSE;
-    m_hThread = reinterpret_cast<HANDLE>(_beginthreadex(lpSecurityAttrs, nStackSize, &AfxThreadStart::Entry, &start,
-                                                        CREATE_SUSPENDED, reinterpret_cast<unsigned*>(&m_nThreadID)));
+    m_hThread =
+        reinterpret_cast<HANDLE>(_beginthreadex(lpSecurityAttrs, nStackSize, &AfxThreadStart::Entry, &start,
+                                                CREATE_SUSPENDED, reinterpret_cast<unsigned*>(&m_nThreadID)));
     if (m_hThread != nullptr) {
         ::ResumeThread(m_hThread);
         ::WaitForSingleObject(start.started, INFINITE);
@@ -64,7 +65,8 @@ int CWinThread::Run() {
     LONG idleCount = 0;
     for (;;) {
         MSG waiting;
-        while (idle && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE)) idle = OnIdle(idleCount++) != FALSE;
+        while (idle && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+            idle = OnIdle(idleCount++) != FALSE;
         if (!PumpMessage()) return ExitInstance();
         if (IsIdleMessage(&thread_state().m_msgCur)) {
             idle = true;

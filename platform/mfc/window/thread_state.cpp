@@ -25,7 +25,7 @@ private:
     DWORD m_index;
 };
 
-} // namespace
+}  // namespace
 
 ThreadState::ThreadState() = default;
 
@@ -38,4 +38,4 @@ ThreadState& thread_state() {
     return slot.Get();
 }
 
-} // namespace kmfc
+}  // namespace kmfc

@@ -19,7 +19,7 @@ public:
     const AFX_MSGMAP_ENTRY* Find(const AFX_MSGMAP* map, UINT message);
 
 private:
-    static constexpr size_t kSlots = 512; // a power of two
+    static constexpr size_t kSlots = 512;  // a power of two
     struct Slot {
         const AFX_MSGMAP* map = nullptr;
         UINT message = 0;
@@ -38,21 +38,21 @@ struct ThreadState {
     CWinThread* m_pCurrentWinThread = nullptr;
     WindowMap m_windows;
     MessageCache m_cache;
-    MSG m_msgCur = {};      ///< last message taken from the queue
-    MSG m_lastSentMsg = {}; ///< message in hand of the innermost window procedure
+    MSG m_msgCur = {};       ///< last message taken from the queue
+    MSG m_lastSentMsg = {};  ///< message in hand of the innermost window procedure
 
-    CWnd* m_pWndInit = nullptr; ///< waiting for its handle, see AfxHookWindowCreate
+    CWnd* m_pWndInit = nullptr;  ///< waiting for its handle, see AfxHookWindowCreate
     HHOOK m_hHookCreate = nullptr;
 
-    HWND m_hToolTip = nullptr;      ///< the framework's own tip control, owned by m_hToolTipOwner
-    HWND m_hToolTipOwner = nullptr; ///< window whose tools it shows
-    INT_PTR m_nToolTipHit = -1;     ///< id of the tool under the pointer, -1 without one
-    TOOLINFO m_toolTipInfo = {};    ///< that tool as registered with the control
+    HWND m_hToolTip = nullptr;       ///< the framework's own tip control, owned by m_hToolTipOwner
+    HWND m_hToolTipOwner = nullptr;  ///< window whose tools it shows
+    INT_PTR m_nToolTipHit = -1;      ///< id of the tool under the pointer, -1 without one
+    TOOLINFO m_toolTipInfo = {};     ///< that tool as registered with the control
 
-    UINT m_cModalLoops = 0; ///< modal loops on the stack
+    UINT m_cModalLoops = 0;  ///< modal loops on the stack
 };
 
 /// The calling thread's state; never null.
 ThreadState& thread_state();
 
-} // namespace kmfc
+}  // namespace kmfc

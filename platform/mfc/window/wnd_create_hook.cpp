@@ -24,18 +24,19 @@ void adopt(HWND hWnd) {
     wnd->Attach(hWnd);
     wnd->PreSubclassWindow();
     WNDPROC* super = wnd->GetSuperWndProcAddr();
-    auto previous =
-        reinterpret_cast<WNDPROC>(::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
+    auto previous = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
     if (previous != AfxWndProc) *super = previous;
 }
 
 LRESULT CALLBACK creation_hook(int code, WPARAM wParam, LPARAM lParam) {
     HWND hWnd = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && thread_state().m_pWndInit != nullptr && !is_input_method_window(hWnd)) adopt(hWnd);
+    if (code == HCBT_CREATEWND && thread_state().m_pWndInit != nullptr && !is_input_method_window(hWnd))
+        adopt(hWnd);
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-} // namespace
+}  // namespace
 
 void AfxHookWindowCreate(CWnd* pWnd) {
     kmfc::ThreadState& state = thread_state();

@@ -10,11 +10,14 @@ namespace {
 /// A message Windows sends itself to blink the caret; its arrival shows that the user waits.
 constexpr UINT kSystemTimer = 0x0118;
 
-/// The idle side of a modal loop: shows the window when first idle, tells owner and window that nothing is due.
+/// The idle side of a modal loop: shows the window when first idle, tells owner and window that nothing is
+/// due.
 class ModalIdle {
 public:
     ModalIdle(CWnd* wnd, DWORD flags)
-        : m_wnd(wnd), m_owner(::GetParent(wnd->m_hWnd)), m_flags(flags),
+        : m_wnd(wnd),
+          m_owner(::GetParent(wnd->m_hWnd)),
+          m_flags(flags),
           m_showWhenIdle((flags & MLF_SHOWONIDLE) && !(wnd->GetStyle() & WS_VISIBLE)) {}
 
     /// One step; TRUE when another is wanted.
@@ -41,7 +44,7 @@ private:
     LPARAM m_count = 0;
 };
 
-} // namespace
+}  // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
     kmfc::ThreadState& state = thread_state();
@@ -51,7 +54,8 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     MSG waiting;
     bool moreIdle = true;
     while (ContinueModal()) {
-        while (moreIdle && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE)) moreIdle = idle.Step() != FALSE;
+        while (moreIdle && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+            moreIdle = idle.Step() != FALSE;
         if (!AfxPumpMessage()) {
             // The application is quitting: hand the request on to the loop outside.
             AfxPostQuitMessage(static_cast<int>(state.m_msgCur.wParam));
@@ -77,7 +81,7 @@ void CWnd::EndModalLoop(int nResult) {
     m_nModalResult = nResult;
     if (!(m_nFlags & WF_CONTINUEMODAL)) return;
     m_nFlags &= ~WF_CONTINUEMODAL;
-    PostMessage(WM_NULL); // Wakes the loop.
+    PostMessage(WM_NULL);  // Wakes the loop.
 }
 
 BOOL CWnd::PreTranslateMessage(MSG* pMsg) {

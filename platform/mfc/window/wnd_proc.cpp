@@ -25,7 +25,8 @@ public:
 
     LRESULT Report(CException* e) {
         LRESULT result = 0;
-        if (CWinThread* thread = AfxGetThread()) result = thread->ProcessWndProcException(e, &m_state.m_lastSentMsg);
+        if (CWinThread* thread = AfxGetThread())
+            result = thread->ProcessWndProcException(e, &m_state.m_lastSentMsg);
         e->Delete();
         return result;
     }
@@ -47,7 +48,7 @@ void announce_activation(CWnd* wnd, WPARAM wParam, CWnd* other) {
     top->SendMessage(WM_ACTIVATETOPLEVEL, wParam, reinterpret_cast<LPARAM>(windows));
 }
 
-} // namespace
+}  // namespace
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     if (nMsg == WM_QUERYAFXWNDPROC) return 1;
@@ -63,7 +64,8 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
         const bool initialising = nMsg == WM_INITDIALOG;
         if (initialising) ::GetWindowRect(hWnd, &before);
         LRESULT result = pWnd->WindowProc(nMsg, wParam, lParam);
-        if (initialising && ::IsWindow(hWnd) && !(::GetWindowLongPtrW(hWnd, GWL_STYLE) & (WS_VISIBLE | WS_CHILD))) {
+        if (initialising && ::IsWindow(hWnd) &&
+            !(::GetWindowLongPtrW(hWnd, GWL_STYLE) & (WS_VISIBLE | WS_CHILD))) {
             CRect after;
             ::GetWindowRect(hWnd, &after);
             if (before.TopLeft() == after.TopLeft() && pWnd->CheckAutoCenter()) pWnd->CenterWindow();
@@ -109,7 +111,8 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     }
     if (message == WM_NOTIFY) {
         auto* header = reinterpret_cast<NMHDR*>(lParam);
-        if (header == nullptr || header->hwndFrom == nullptr || !OnNotify(wParam, lParam, &result)) return FALSE;
+        if (header == nullptr || header->hwndFrom == nullptr || !OnNotify(wParam, lParam, &result))
+            return FALSE;
         if (pResult != nullptr) *pResult = result;
         return TRUE;
     }
@@ -183,7 +186,8 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     }
     if (is_ctl_color(message)) {
         LRESULT brush = 0;
-        const BOOL handled = OnWndMsg(WM_REFLECT_BASE + WM_CTLCOLOR, wParam, message - WM_CTLCOLORMSGBOX, &brush);
+        const BOOL handled =
+            OnWndMsg(WM_REFLECT_BASE + WM_CTLCOLOR, wParam, message - WM_CTLCOLORMSGBOX, &brush);
         if (pResult != nullptr) *pResult = brush;
         return handled && brush != 0;
     }
@@ -198,7 +202,8 @@ BOOL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
 BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult) {
     const MSG message = thread_state().m_lastSentMsg;
     LRESULT result = 0;
-    return OnChildNotify(message.message, message.wParam, message.lParam, pResult != nullptr ? pResult : &result);
+    return OnChildNotify(message.message, message.wParam, message.lParam,
+                         pResult != nullptr ? pResult : &result);
 }
 
 int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct) {
@@ -245,11 +250,14 @@ void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar) {
     Default();
 }
 
-void CWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) { CWnd::OnHScroll(nSBCode, nPos, pScrollBar); }
+void CWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
+    CWnd::OnHScroll(nSBCode, nPos, pScrollBar);
+}
 
 int CWnd::OnVKeyToItem(UINT, CListBox* pListBox, UINT) {
     LRESULT result = 0;
-    if (ReflectLastMsg(reinterpret_cast<CWnd*>(pListBox)->GetSafeHwnd(), &result)) return static_cast<int>(result);
+    if (ReflectLastMsg(reinterpret_cast<CWnd*>(pListBox)->GetSafeHwnd(), &result))
+        return static_cast<int>(result);
     return static_cast<int>(Default());
 }
 
@@ -258,7 +266,8 @@ int CWnd::OnCharToItem(UINT nChar, CListBox* pListBox, UINT nIndex) {
 }
 
 void CWnd::OnParentNotify(UINT message, LPARAM lParam) {
-    if ((LOWORD(message) == WM_CREATE || LOWORD(message) == WM_DESTROY) && ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+    if ((LOWORD(message) == WM_CREATE || LOWORD(message) == WM_DESTROY) &&
+        ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
         return;
     Default();
 }

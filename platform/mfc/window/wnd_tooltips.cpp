@@ -27,9 +27,9 @@ void destroy_tip(kmfc::ThreadState& state) {
 HWND tip_for(kmfc::ThreadState& state, HWND owner) {
     if (state.m_hToolTipOwner == owner && ::IsWindow(state.m_hToolTip)) return state.m_hToolTip;
     destroy_tip(state);
-    state.m_hToolTip = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                                         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr,
-                                         nullptr, nullptr);
+    state.m_hToolTip = ::CreateWindowExW(
+        WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, nullptr, nullptr);
     state.m_hToolTipOwner = owner;
     return state.m_hToolTip;
 }
@@ -38,7 +38,7 @@ bool buttons_up() {
     return ::GetKeyState(VK_LBUTTON) >= 0 && ::GetKeyState(VK_RBUTTON) >= 0 && ::GetKeyState(VK_MBUTTON) >= 0;
 }
 
-} // namespace
+}  // namespace
 
 BOOL CWnd::EnableToolTips(BOOL bEnable) {
     kmfc::ThreadState& state = thread_state();

@@ -35,7 +35,8 @@ BOOL modify_style(HWND hWnd, int index, DWORD remove, DWORD add, UINT flags) {
     if (style == changed) return FALSE;
     ::SetWindowLongPtrW(hWnd, index, static_cast<LONG_PTR>(changed));
     if (flags != 0)
-        ::SetWindowPos(hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
+        ::SetWindowPos(hWnd, nullptr, 0, 0, 0, 0,
+                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
     return TRUE;
 }
 
@@ -47,10 +48,11 @@ HWND climb(HWND hWnd, Next next) {
 }
 
 HWND parent_owner(HWND hWnd) {
-    return (::GetWindowLongPtrW(hWnd, GWL_STYLE) & WS_CHILD) ? ::GetParent(hWnd) : ::GetWindow(hWnd, GW_OWNER);
+    return (::GetWindowLongPtrW(hWnd, GWL_STYLE) & WS_CHILD) ? ::GetParent(hWnd)
+                                                             : ::GetWindow(hWnd, GW_OWNER);
 }
 
-} // namespace
+}  // namespace
 
 BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
     return modify_style(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
@@ -62,10 +64,12 @@ BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
 void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
     ::SendMessageW(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(pFont->GetSafeHandle()), bRedraw);
 }
-CFont* CWnd::GetFont() const { return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0))); }
+CFont* CWnd::GetFont() const {
+    return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
+}
 HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon) {
-    return reinterpret_cast<HICON>(
-        ::SendMessageW(m_hWnd, WM_SETICON, bBigIcon ? ICON_BIG : ICON_SMALL, reinterpret_cast<LPARAM>(hIcon)));
+    return reinterpret_cast<HICON>(::SendMessageW(m_hWnd, WM_SETICON, bBigIcon ? ICON_BIG : ICON_SMALL,
+                                                  reinterpret_cast<LPARAM>(hIcon)));
 }
 HICON CWnd::GetIcon(BOOL bBigIcon) const {
     return reinterpret_cast<HICON>(::SendMessageW(m_hWnd, WM_GETICON, bBigIcon ? ICON_BIG : ICON_SMALL, 0));
@@ -94,7 +98,8 @@ BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags) {
     return ::RedrawWindow(m_hWnd, lpRectUpdate, static_cast<HRGN>(prgnUpdate->GetSafeHandle()), flags);
 }
 void CWnd::Print(CDC* pDC, DWORD dwFlags) const {
-    ::SendMessageW(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()), static_cast<LPARAM>(dwFlags));
+    ::SendMessageW(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()),
+                   static_cast<LPARAM>(dwFlags));
 }
 
 BOOL CWnd::SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
@@ -133,7 +138,7 @@ CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const {
         CWnd* wnd = bOnlyPerm ? FromHandlePermanent(item) : FromHandle(item);
         if (wnd != nullptr) return wnd;
     }
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetNextWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         CWnd childWnd(child);
         CWnd* found = childWnd.GetDescendantWindow(nID, bOnlyPerm);
         childWnd.m_hWnd = nullptr;
@@ -143,7 +148,7 @@ CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const {
 }
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetNextWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         if (!bOnlyPerm) {
             ::SendMessageW(child, message, wParam, lParam);
         } else if (CWnd* wnd = FromHandlePermanent(child)) {
@@ -157,14 +162,15 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
 }
 
 void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetNextWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         CCmdUI request;
         request.m_nID = LOWORD(::GetDlgCtrlID(child));
         request.m_pOther = FromHandle(child);
         CWnd* permanent = FromHandlePermanent(child);
         if (permanent != nullptr && permanent->OnCmdMsg(0, CN_UPDATE_COMMAND_UI, &request, nullptr)) continue;
         // Only push buttons are disabled for want of a handler.
-        const bool push = (::SendMessageW(child, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+        const bool push =
+            (::SendMessageW(child, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
         request.DoUpdate(pTarget, bDisableIfNoHndler && push);
     }
 }
@@ -189,7 +195,9 @@ CFrameWnd* CWnd::GetParentFrame() const {
 }
 
 CFrameWnd* CWnd::GetTopLevelFrame() const {
-    CFrameWnd* frame = const_cast<CWnd*>(this)->IsFrameWnd() ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this)) : GetParentFrame();
+    CFrameWnd* frame = const_cast<CWnd*>(this)->IsFrameWnd()
+                           ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this))
+                           : GetParentFrame();
     while (frame != nullptr) {
         CFrameWnd* outer = frame->GetParentFrame();
         if (outer == nullptr) break;
@@ -231,7 +239,8 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
         const bool ownerShows = owner != nullptr && ::IsWindowVisible(owner) && !::IsIconic(owner);
         MONITORINFO monitor = {};
         monitor.cbSize = sizeof(monitor);
-        ::GetMonitorInfoW(::MonitorFromWindow(owner != nullptr ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY), &monitor);
+        ::GetMonitorInfoW(::MonitorFromWindow(owner != nullptr ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY),
+                          &monitor);
         area = monitor.rcWork;
         if (ownerShows)
             ::GetWindowRect(owner, &center);

@@ -1,6 +1,7 @@
 // CWinApp: the application object; AfxMessageBox and the other services that go through it.
 #pragma once
 
+#include <afxres.h>
 #include <kmfc/module_state.h>
 #include <kmfc/thread.h>
 
@@ -17,8 +18,9 @@ public:
     int m_nCmdShow = SW_SHOWNORMAL;
     LPCTSTR m_pszAppName = nullptr;
     LPCTSTR m_pszExeName = nullptr;
-    LPCTSTR m_pszRegistryKey = nullptr; ///< company name after SetRegistryKey
-    LPCTSTR m_pszProfileName = nullptr; ///< application name after SetRegistryKey, otherwise an .INI file's name
+    LPCTSTR m_pszRegistryKey = nullptr;  ///< company name after SetRegistryKey
+    LPCTSTR m_pszProfileName =
+        nullptr;  ///< application name after SetRegistryKey, otherwise an .INI file's name
 
     BOOL InitInstance() override;
     int Run() override;
@@ -27,13 +29,15 @@ public:
     virtual BOOL InitApplication();
     /// Shows a message box on behalf of AfxMessageBox.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
-    virtual void DoWaitCursor(int nCode); ///< 1 begins, 0 restores, -1 ends
+    virtual void DoWaitCursor(int nCode);  ///< 1 begins, 0 restores, -1 ends
     virtual BOOL SaveAllModified() { return TRUE; }
     virtual void EnableModeless(BOOL bEnable);
 
     HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
     HCURSOR LoadCursor(UINT nIDResource) const;
-    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const { return ::LoadCursorW(nullptr, lpszCursorName); }
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const {
+        return ::LoadCursorW(nullptr, lpszCursorName);
+    }
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
     HICON LoadIcon(UINT nIDResource) const;
     HICON LoadStandardIcon(LPCTSTR lpszIconName) const { return ::LoadIconW(nullptr, lpszIconName); }
@@ -71,7 +75,8 @@ KMFC_API int AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 
 KMFC_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
 KMFC_API int AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 /// Piece `iSubString` of a text of pieces separated by `chSep`; FALSE when there is none.
-KMFC_API BOOL AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString, TCHAR chSep = '\n');
+KMFC_API BOOL AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString,
+                                  TCHAR chSep = '\n');
 KMFC_API void AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1);
 KMFC_API void AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2);
 KMFC_API void AfxFormatStrings(CString& rString, LPCTSTR lpszFormat, LPCTSTR const* rglpsz, int nString);

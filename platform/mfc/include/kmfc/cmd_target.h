@@ -25,8 +25,8 @@ public:
     CCmdTarget() = default;
 
     /// Offers command `nID` with notification `nCode` to this object's message map, most derived class first.
-    /// `nCode` carries the message in its high word (WM_COMMAND when that is 0). With `pHandlerInfo` the handler
-    /// is only reported. Returns TRUE when a handler took the command.
+    /// `nCode` carries the message in its high word (WM_COMMAND when that is 0). With `pHandlerInfo` the
+    /// handler is only reported. Returns TRUE when a handler took the command.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
     void BeginWaitCursor();
@@ -47,12 +47,12 @@ public:
     CCmdUI() = default;
     virtual ~CCmdUI() = default;
 
-    UINT m_nID = 0;              ///< command of the item
-    UINT m_nIndex = 0;           ///< its place in the menu
-    CMenu* m_pMenu = nullptr;    ///< the menu that holds it, or null
-    CMenu* m_pSubMenu = nullptr; ///< the submenu it opens, or null
+    UINT m_nID = 0;               ///< command of the item
+    UINT m_nIndex = 0;            ///< its place in the menu
+    CMenu* m_pMenu = nullptr;     ///< the menu that holds it, or null
+    CMenu* m_pSubMenu = nullptr;  ///< the submenu it opens, or null
     CMenu* m_pParentMenu = nullptr;
-    CWnd* m_pOther = nullptr;    ///< the window that holds it when it is no menu item
+    CWnd* m_pOther = nullptr;  ///< the window that holds it when it is no menu item
     BOOL m_bEnableChanged = FALSE;
     BOOL m_bContinueRouting = FALSE;
     UINT m_nIndexMax = 0;

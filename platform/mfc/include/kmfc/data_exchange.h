@@ -16,7 +16,8 @@ public:
     HWND m_hWndLastControl = nullptr;
     BOOL m_bEditLastControl = FALSE;
 
-    /// The control's handle, remembered for Fail. Throws CNotSupportedException when the dialog has no such control.
+    /// The control's handle, remembered for Fail. Throws CNotSupportedException when the dialog has no such
+    /// control.
     HWND PrepareCtrl(int nIDC);
     HWND PrepareEditCtrl(int nIDC);
     /// Puts the focus to the last prepared control and throws CUserException.

@@ -16,12 +16,15 @@ public:
     virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
                                 void* lpDialogInit = nullptr);
-    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr, HINSTANCE hInst = nullptr);
+    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr,
+                                HINSTANCE hInst = nullptr);
     /// Prepares a modal dialog of a template in memory for DoModal.
-    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr);
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
+                           void* lpDialogInit = nullptr);
     BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
 
-    /// Runs the dialog until EndDialog; its result, -1 when it could not be created, IDABORT on a failure inside.
+    /// Runs the dialog until EndDialog; its result, -1 when it could not be created, IDABORT on a failure
+    /// inside.
     virtual INT_PTR DoModal();
     void EndDialog(int nResult);
 
@@ -38,8 +41,8 @@ public:
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
 protected:
-    virtual void OnOK();     ///< UpdateData(TRUE), then EndDialog(IDOK)
-    virtual void OnCancel(); ///< EndDialog(IDCANCEL)
+    virtual void OnOK();      ///< UpdateData(TRUE), then EndDialog(IDOK)
+    virtual void OnCancel();  ///< EndDialog(IDCANCEL)
     virtual void PreInitDialog();
     virtual BOOL SetOccDialogInfo(void*) { return TRUE; }
     BOOL CheckAutoCenter() override;
@@ -62,7 +65,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    BOOL CreateFromTemplate(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst, void* lpDialogInit);
+    BOOL CreateFromTemplate(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst,
+                            void* lpDialogInit);
     int RunCreated(HWND hWndParent, BOOL bEnableParent);
 
     friend INT_PTR CALLBACK AfxDlgProc(HWND, UINT, WPARAM, LPARAM);

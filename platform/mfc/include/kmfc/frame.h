@@ -1,6 +1,7 @@
 // CFrameWnd: a main window with menu, accelerators, status messages and command routing.
 #pragma once
 
+#include <afxcoll.h>
 #include <kmfc/app.h>
 
 class KMFC_API CFrameWnd : public CWnd {
@@ -11,7 +12,7 @@ public:
 
     static const CRect rectDefault;
     HACCEL m_hAccelTable = nullptr;
-    BOOL m_bAutoMenuEnable = TRUE; ///< menu items without a handler are disabled
+    BOOL m_bAutoMenuEnable = TRUE;  ///< menu items without a handler are disabled
     UINT m_nIdleFlags = 0;
     BOOL m_bStayDisabled = FALSE;
 
@@ -59,7 +60,7 @@ protected:
     UINT m_nIDTracking = 0;
     UINT m_nIDLastMessage = 0;
     int m_cModalStack = 0;
-    CDWordArray m_disabledWindows; ///< windows that BeginModalState disabled (low words of their handles)
+    CDWordArray m_disabledWindows;  ///< windows that BeginModalState disabled (low words of their handles)
 
     DECLARE_MESSAGE_MAP()
 };

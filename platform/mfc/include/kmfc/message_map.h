@@ -19,11 +19,11 @@ enum AfxSig : UINT_PTR;
 
 /// One handler of a class.
 struct AFX_MSGMAP_ENTRY {
-    UINT nMessage; ///< window message
-    UINT nCode;    ///< control notification code, or WM_NOTIFY code
-    UINT nID;      ///< control id, first of a range
-    UINT nLastID;  ///< last of the range
-    UINT_PTR nSig; ///< an AfxSig, or for registered messages the address of the message variable
+    UINT nMessage;  ///< window message
+    UINT nCode;     ///< control notification code, or WM_NOTIFY code
+    UINT nID;       ///< control id, first of a range
+    UINT nLastID;   ///< last of the range
+    UINT_PTR nSig;  ///< an AfxSig, or for registered messages the address of the message variable
     AFX_PMSG pfn;
 };
 
@@ -33,22 +33,23 @@ struct AFX_MSGMAP {
     const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
-#define DECLARE_MESSAGE_MAP()                        \
-protected:                                           \
-    static const AFX_MSGMAP* GetThisMessageMap();    \
+#define DECLARE_MESSAGE_MAP()                     \
+protected:                                        \
+    static const AFX_MSGMAP* GetThisMessageMap(); \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                      \
-    const AFX_MSGMAP* theClass::GetMessageMap() const { return theClass::GetThisMessageMap(); }     \
-    const AFX_MSGMAP* theClass::GetThisMessageMap() {                                               \
-        using ThisClass = theClass;                                                                 \
-        using TheBaseClass = baseClass;                                                             \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                  \
+    const AFX_MSGMAP* theClass::GetMessageMap() const { return theClass::GetThisMessageMap(); } \
+    const AFX_MSGMAP* theClass::GetThisMessageMap() {                                           \
+        using ThisClass [[maybe_unused]] = theClass;                                            \
+        using TheBaseClass = baseClass;                                                         \
         static const AFX_MSGMAP_ENTRY entries[] = {
-
-#define END_MESSAGE_MAP()                                                                           \
-        {0, 0, 0, 0, AfxSig_end, nullptr}};                                                         \
-        static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries};                  \
-        return &map;                                                                                \
+#define END_MESSAGE_MAP()                                                      \
+    { 0, 0, 0, 0, AfxSig_end, nullptr }                                        \
+    }                                                                          \
+    ;                                                                          \
+    static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries}; \
+    return &map;                                                               \
     }
 
 /// A message of WM_REFLECT_BASE + m is message m as its sender itself may handle it.
@@ -66,69 +67,69 @@ enum AfxSig : UINT_PTR {
     AfxSig_u_v,
     AfxSig_v_b,
     AfxSig_v_u,
-    AfxSig_v_u_point,       // OnMouseMove(UINT, CPoint)
-    AfxSig_v_u_int_int,     // OnSize(UINT, int, int)
-    AfxSig_v_int_int,       // OnMove(int, int)
-    AfxSig_v_wnd,           // OnSetFocus(CWnd*)
-    AfxSig_v_uint_ptr,      // OnTimer(UINT_PTR)
-    AfxSig_v_activate,      // OnActivate(UINT, CWnd*, BOOL)
-    AfxSig_v_activateapp,   // OnActivateApp(BOOL, DWORD)
-    AfxSig_v_key,           // OnKeyDown(UINT, UINT, UINT)
-    AfxSig_b_dc,            // OnEraseBkgnd(CDC*)
-    AfxSig_h_ctlcolor,      // OnCtlColor(CDC*, CWnd*, UINT)
-    AfxSig_h_ctlcolor_reflect, // CtlColor(CDC*, UINT)
-    AfxSig_i_create,        // OnCreate(LPCREATESTRUCT)
-    AfxSig_b_create,        // OnNcCreate(LPCREATESTRUCT)
-    AfxSig_v_scroll,        // OnHScroll(UINT, UINT, CScrollBar*)
-    AfxSig_v_scroll_reflect, // HScroll(UINT, UINT)
-    AfxSig_b_wheel,         // OnMouseWheel(UINT, short, CPoint)
-    AfxSig_v_wnd_point,     // OnContextMenu(CWnd*, CPoint)
-    AfxSig_b_setcursor,     // OnSetCursor(CWnd*, UINT, UINT)
-    AfxSig_i_mouseactivate, // OnMouseActivate(CWnd*, UINT, UINT)
-    AfxSig_l_point,         // OnNcHitTest(CPoint)
-    AfxSig_v_initmenupopup, // OnInitMenuPopup(CMenu*, UINT, BOOL)
-    AfxSig_v_menu,          // OnInitMenu(CMenu*)
-    AfxSig_v_menuselect,    // OnMenuSelect(UINT, UINT, HMENU)
-    AfxSig_l_menuchar,      // OnMenuChar(UINT, UINT, CMenu*)
-    AfxSig_v_minmaxinfo,    // OnGetMinMaxInfo(MINMAXINFO*)
-    AfxSig_v_windowpos,     // OnWindowPosChanged(WINDOWPOS*)
-    AfxSig_v_int_drawitem,  // OnDrawItem(int, LPDRAWITEMSTRUCT)
+    AfxSig_v_u_point,           // OnMouseMove(UINT, CPoint)
+    AfxSig_v_u_int_int,         // OnSize(UINT, int, int)
+    AfxSig_v_int_int,           // OnMove(int, int)
+    AfxSig_v_wnd,               // OnSetFocus(CWnd*)
+    AfxSig_v_uint_ptr,          // OnTimer(UINT_PTR)
+    AfxSig_v_activate,          // OnActivate(UINT, CWnd*, BOOL)
+    AfxSig_v_activateapp,       // OnActivateApp(BOOL, DWORD)
+    AfxSig_v_key,               // OnKeyDown(UINT, UINT, UINT)
+    AfxSig_b_dc,                // OnEraseBkgnd(CDC*)
+    AfxSig_h_ctlcolor,          // OnCtlColor(CDC*, CWnd*, UINT)
+    AfxSig_h_ctlcolor_reflect,  // CtlColor(CDC*, UINT)
+    AfxSig_i_create,            // OnCreate(LPCREATESTRUCT)
+    AfxSig_b_create,            // OnNcCreate(LPCREATESTRUCT)
+    AfxSig_v_scroll,            // OnHScroll(UINT, UINT, CScrollBar*)
+    AfxSig_v_scroll_reflect,    // HScroll(UINT, UINT)
+    AfxSig_b_wheel,             // OnMouseWheel(UINT, short, CPoint)
+    AfxSig_v_wnd_point,         // OnContextMenu(CWnd*, CPoint)
+    AfxSig_b_setcursor,         // OnSetCursor(CWnd*, UINT, UINT)
+    AfxSig_i_mouseactivate,     // OnMouseActivate(CWnd*, UINT, UINT)
+    AfxSig_l_point,             // OnNcHitTest(CPoint)
+    AfxSig_v_initmenupopup,     // OnInitMenuPopup(CMenu*, UINT, BOOL)
+    AfxSig_v_menu,              // OnInitMenu(CMenu*)
+    AfxSig_v_menuselect,        // OnMenuSelect(UINT, UINT, HMENU)
+    AfxSig_l_menuchar,          // OnMenuChar(UINT, UINT, CMenu*)
+    AfxSig_v_minmaxinfo,        // OnGetMinMaxInfo(MINMAXINFO*)
+    AfxSig_v_windowpos,         // OnWindowPosChanged(WINDOWPOS*)
+    AfxSig_v_int_drawitem,      // OnDrawItem(int, LPDRAWITEMSTRUCT)
     AfxSig_v_int_measureitem,
     AfxSig_v_int_deleteitem,
     AfxSig_i_int_compareitem,
-    AfxSig_b_help,          // OnHelpInfo(HELPINFO*)
-    AfxSig_b_b,             // OnNcActivate(BOOL)
-    AfxSig_b_copydata,      // OnCopyData(CWnd*, COPYDATASTRUCT*)
-    AfxSig_v_b_nccalc,      // OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*)
-    AfxSig_v_nchit_point,   // OnNcMouseMove(UINT, CPoint)
-    AfxSig_v_parentnotify,  // OnParentNotify(UINT, LPARAM)
-    AfxSig_v_b_u,           // OnShowWindow(BOOL, UINT)
-    AfxSig_v_settingchange, // OnSettingChange(UINT, LPCTSTR)
-    AfxSig_v_syscommand,    // OnSysCommand(UINT, LPARAM)
-    AfxSig_v_stylechange,   // OnStyleChanged(int, LPSTYLESTRUCT)
-    AfxSig_v_hdrop,         // OnDropFiles(HDROP)
-    AfxSig_v_wnd_l,         // OnCaptureChanged(CWnd*): the window is in lParam
-    AfxSig_l_v,             // OnThemeChanged()
-    AfxSig_v_drawitem,      // DrawItem(LPDRAWITEMSTRUCT) of the control itself
+    AfxSig_b_help,           // OnHelpInfo(HELPINFO*)
+    AfxSig_b_b,              // OnNcActivate(BOOL)
+    AfxSig_b_copydata,       // OnCopyData(CWnd*, COPYDATASTRUCT*)
+    AfxSig_v_b_nccalc,       // OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*)
+    AfxSig_v_nchit_point,    // OnNcMouseMove(UINT, CPoint)
+    AfxSig_v_parentnotify,   // OnParentNotify(UINT, LPARAM)
+    AfxSig_v_b_u,            // OnShowWindow(BOOL, UINT)
+    AfxSig_v_settingchange,  // OnSettingChange(UINT, LPCTSTR)
+    AfxSig_v_syscommand,     // OnSysCommand(UINT, LPARAM)
+    AfxSig_v_stylechange,    // OnStyleChanged(int, LPSTYLESTRUCT)
+    AfxSig_v_hdrop,          // OnDropFiles(HDROP)
+    AfxSig_v_wnd_l,          // OnCaptureChanged(CWnd*): the window is in lParam
+    AfxSig_l_v,              // OnThemeChanged()
+    AfxSig_v_drawitem,       // DrawItem(LPDRAWITEMSTRUCT) of the control itself
     AfxSig_v_measureitem,
     AfxSig_v_deleteitem,
     AfxSig_i_compareitem,
-    AfxSig_i_u_wnd_u,       // OnVKeyToItem(UINT, CListBox*, UINT)
-    AfxSig_l_w_l,           // LRESULT handler(WPARAM, LPARAM): ON_MESSAGE and registered messages
+    AfxSig_i_u_wnd_u,  // OnVKeyToItem(UINT, CListBox*, UINT)
+    AfxSig_l_w_l,      // LRESULT handler(WPARAM, LPARAM): ON_MESSAGE and registered messages
     AfxSig_window_count,
 
     // Commands and notifications.
-    AfxSigCmd_v,            // void handler()
-    AfxSigCmd_b,            // BOOL handler()
-    AfxSigCmd_RANGE,        // void handler(UINT)
-    AfxSigCmd_EX,           // BOOL handler(UINT)
-    AfxSigNotify_v,         // void handler(NMHDR*, LRESULT*)
-    AfxSigNotify_b,         // BOOL handler(NMHDR*, LRESULT*)
-    AfxSigNotify_RANGE,     // void handler(UINT, NMHDR*, LRESULT*)
-    AfxSigNotify_EX,        // BOOL handler(UINT, NMHDR*, LRESULT*)
-    AfxSigCmdUI,            // void handler(CCmdUI*)
-    AfxSigCmdUI_RANGE,      // void handler(CCmdUI*)
-    AfxSigThread_w_l,       // void handler(WPARAM, LPARAM) of a thread message
+    AfxSigCmd_v,         // void handler()
+    AfxSigCmd_b,         // BOOL handler()
+    AfxSigCmd_RANGE,     // void handler(UINT)
+    AfxSigCmd_EX,        // BOOL handler(UINT)
+    AfxSigNotify_v,      // void handler(NMHDR*, LRESULT*)
+    AfxSigNotify_b,      // BOOL handler(NMHDR*, LRESULT*)
+    AfxSigNotify_RANGE,  // void handler(UINT, NMHDR*, LRESULT*)
+    AfxSigNotify_EX,     // BOOL handler(UINT, NMHDR*, LRESULT*)
+    AfxSigCmdUI,         // void handler(CCmdUI*)
+    AfxSigCmdUI_RANGE,   // void handler(CCmdUI*)
+    AfxSigThread_w_l,    // void handler(WPARAM, LPARAM) of a thread message
 };
 
 #include <kmfc/message_macros.h>

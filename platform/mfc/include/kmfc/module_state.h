@@ -23,15 +23,15 @@ struct CSimpleHeadList {
 class KMFC_API AFX_MODULE_STATE {
 public:
     HINSTANCE m_hCurrentInstanceHandle = nullptr;
-    HINSTANCE m_hCurrentResourceHandle = nullptr; ///< where AfxFindResourceHandle looks first
+    HINSTANCE m_hCurrentResourceHandle = nullptr;  ///< where AfxFindResourceHandle looks first
     LPCTSTR m_lpszCurrentAppName = nullptr;
     CWinApp* m_pCurrentWinApp = nullptr;
 
-    CRuntimeClass* m_pClassInit = nullptr; ///< head of the list before an extension module's classes joined
+    CRuntimeClass* m_pClassInit = nullptr;  ///< head of the list before an extension module's classes joined
     CSimpleHeadList<CRuntimeClass> m_classList;
     COleObjectFactory* m_pFactoryInit = nullptr;
     CSimpleHeadList<COleObjectFactory> m_factoryList;
-    CSimpleHeadList<CDynLinkLibrary> m_libraryList; ///< newest first
+    CSimpleHeadList<CDynLinkLibrary> m_libraryList;  ///< newest first
 };
 
 /// What an extension module keeps about itself between AfxInitExtensionModule and AfxTermExtensionModule.
@@ -56,7 +56,7 @@ public:
     HMODULE m_hResource;
     CSimpleHeadList<CRuntimeClass> m_classList;
     CSimpleHeadList<COleObjectFactory> m_factoryList;
-    BOOL m_bSystem; ///< system modules are searched after the application itself
+    BOOL m_bSystem;  ///< system modules are searched after the application itself
     CDynLinkLibrary* m_pNextDLL;
 };
 
@@ -70,6 +70,6 @@ KMFC_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FA
 KMFC_API HINSTANCE AfxGetInstanceHandle();
 KMFC_API HINSTANCE AfxGetResourceHandle();
 KMFC_API void AfxSetResourceHandle(HINSTANCE hInstResource);
-/// The first module that holds resource `lpszName` of `lpszType`: the current resource module, then the extension
-/// modules newest first, then the system ones; the current resource module when none does.
+/// The first module that holds resource `lpszName` of `lpszType`: the current resource module, then the
+/// extension modules newest first, then the system ones; the current resource module when none does.
 KMFC_API HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);

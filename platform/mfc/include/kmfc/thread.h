@@ -12,14 +12,15 @@ public:
     CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam);
     ~CWinThread() override;
 
-    CWnd* m_pMainWnd = nullptr;   ///< closing it ends the pump
-    CWnd* m_pActiveWnd = nullptr; ///< main window while another takes its place, as in an OLE server
-    BOOL m_bAutoDelete = TRUE;    ///< deleted when the thread ends
+    CWnd* m_pMainWnd = nullptr;    ///< closing it ends the pump
+    CWnd* m_pActiveWnd = nullptr;  ///< main window while another takes its place, as in an OLE server
+    BOOL m_bAutoDelete = TRUE;     ///< deleted when the thread ends
     HANDLE m_hThread = nullptr;
     DWORD m_nThreadID = 0;
 
     operator HANDLE() const { return m_hThread; }
-    BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0, LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+    BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
+                      LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
     int GetThreadPriority() { return ::GetThreadPriority(m_hThread); }
     BOOL SetThreadPriority(int nPriority) { return ::SetThreadPriority(m_hThread, nPriority); }
     DWORD SuspendThread() { return ::SuspendThread(m_hThread); }

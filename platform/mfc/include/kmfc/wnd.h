@@ -8,6 +8,10 @@
 #include <kmfc/cmd_target.h>
 #include <kmfc/gdi.h>
 #include <kmfc/menu.h>
+#include <shellapi.h>
+
+// CWnd has a member function of the name of this macro of the platform.
+#undef GetNextWindow
 
 class CDataExchange;
 class CFrameWnd;
@@ -20,18 +24,18 @@ class CWndHandleMap;
 
 /// Bits of CWnd::m_nFlags.
 enum : UINT {
-    WF_TOOLTIPS = 0x0001,           ///< EnableToolTips is on
-    WF_STAYDISABLED = 0x0004,       ///< stay disabled when the frame's modal state ends
-    WF_CONTINUEMODAL = 0x0008,      ///< RunModalLoop goes on while this is set
-    WF_MODALLOOP = 0x0010,          ///< RunModalLoop is on the stack for this window
+    WF_TOOLTIPS = 0x0001,       ///< EnableToolTips is on
+    WF_STAYDISABLED = 0x0004,   ///< stay disabled when the frame's modal state ends
+    WF_CONTINUEMODAL = 0x0008,  ///< RunModalLoop goes on while this is set
+    WF_MODALLOOP = 0x0010,      ///< RunModalLoop is on the stack for this window
     WF_TRACKINGTOOLTIPS = 0x0400,
 };
 
 /// Flags of CWnd::RunModalLoop.
 enum : DWORD {
-    MLF_NOIDLEMSG = 0x0001,     ///< send no WM_ENTERIDLE
-    MLF_NOKICKIDLE = 0x0002,    ///< send no WM_KICKIDLE
-    MLF_SHOWONIDLE = 0x0004,    ///< show the window when first idle
+    MLF_NOIDLEMSG = 0x0001,   ///< send no WM_ENTERIDLE
+    MLF_NOKICKIDLE = 0x0002,  ///< send no WM_KICKIDLE
+    MLF_SHOWONIDLE = 0x0004,  ///< show the window when first idle
 };
 
 /// Sent once per idle step of a modal loop; and to every window when it should bring its items up to date.
@@ -53,8 +57,8 @@ public:
     CWnd& operator=(const CWnd&) = delete;
 
     HWND m_hWnd = nullptr;
-    HWND m_hWndOwner = nullptr; ///< set by SetOwner
-    UINT m_nFlags = 0;          ///< WF_… bits
+    HWND m_hWndOwner = nullptr;  ///< set by SetOwner
+    UINT m_nFlags = 0;           ///< WF_… bits
     BOOL m_bIsTouchWindowRegistered = FALSE;
 
     static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
@@ -77,11 +81,11 @@ public:
     // Creation.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
-    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
-                          int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                          int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
                           LPVOID lpParam = nullptr);
-    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                  CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
+    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                  const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
     virtual BOOL DestroyWindow();
     BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
@@ -116,7 +120,8 @@ public:
         ::MoveWindow(m_hWnd, x, y, nWidth, nHeight, bRepaint);
     }
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE) {
-        MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top, bRepaint);
+        MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top,
+                   bRepaint);
     }
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
         return ::SetWindowPos(m_hWnd, pWndInsertAfter->GetSafeHwnd(), x, y, cx, cy, nFlags);
@@ -130,7 +135,8 @@ public:
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     void ShowOwnedPopups(BOOL bShow = TRUE) { ::ShowOwnedPopups(m_hWnd, bShow); }
-    /// Centres the window over `pAlternateOwner`, or else its owner (or parent, for a child), inside the monitor.
+    /// Centres the window over `pAlternateOwner`, or else its owner (or parent, for a child), inside the
+    /// monitor.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
     BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags) {
         return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
@@ -192,7 +198,9 @@ public:
         return static_cast<int>(::GetDlgItemTextW(m_hWnd, nID, lpStr, nMaxCount));
     }
     int GetDlgItemText(int nID, CString& rString) const;
-    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE) { ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned); }
+    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE) {
+        ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned);
+    }
     UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const {
         return ::GetDlgItemInt(m_hWnd, nID, lpTrans, bSigned);
     }
@@ -214,7 +222,9 @@ public:
     void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
 
     // Other windows.
-    CWnd* ChildWindowFromPoint(POINT point) const { return FromHandle(::ChildWindowFromPoint(m_hWnd, point)); }
+    CWnd* ChildWindowFromPoint(POINT point) const {
+        return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
+    }
     CWnd* ChildWindowFromPoint(POINT point, UINT nFlags) const {
         return FromHandle(::ChildWindowFromPointEx(m_hWnd, point, nFlags));
     }
@@ -228,7 +238,9 @@ public:
     BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd->GetSafeHwnd()); }
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetAncestor(UINT gaFlags) const { return FromHandle(::GetAncestor(m_hWnd, gaFlags)); }
-    CWnd* SetParent(CWnd* pWndNewParent) { return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd())); }
+    CWnd* SetParent(CWnd* pWndNewParent) {
+        return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd()));
+    }
     static CWnd* WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
     CWnd* GetOwner() const;
     void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd->GetSafeHwnd(); }
@@ -263,7 +275,9 @@ public:
 
     // Scrolling.
     int GetScrollPos(int nBar) const { return ::GetScrollPos(m_hWnd, nBar); }
-    int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE) { return ::SetScrollPos(m_hWnd, nBar, nPos, bRedraw); }
+    int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE) {
+        return ::SetScrollPos(m_hWnd, nBar, nPos, bRedraw);
+    }
     void GetScrollRange(int nBar, LPINT lpMinPos, LPINT lpMaxPos) const {
         ::GetScrollRange(m_hWnd, nBar, lpMinPos, lpMaxPos);
     }
@@ -272,7 +286,9 @@ public:
     }
     BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    void ShowScrollBar(UINT nBar, BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow); }
+    void ShowScrollBar(UINT nBar, BOOL bShow = TRUE) {
+        ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow);
+    }
     void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
     void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = nullptr, LPCRECT lpClipRect = nullptr) {
@@ -415,12 +431,13 @@ KMFC_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam 
 
 /// Registers a class of the given looks once per process and returns its name (kept by the framework).
 /// Throws CResourceException when registration fails.
-KMFC_API LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr, HBRUSH hbrBackground = nullptr,
-                                     HICON hIcon = nullptr);
+KMFC_API LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
+                                     HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 /// Registers `lpWndClass` unless the module has it already; FALSE on failure.
 KMFC_API BOOL AfxRegisterClass(WNDCLASS* lpWndClass);
 
-/// The window that the next handle created on this thread belongs to; must be matched by AfxUnhookWindowCreate.
+/// The window that the next handle created on this thread belongs to; must be matched by
+/// AfxUnhookWindowCreate.
 KMFC_API void AfxHookWindowCreate(CWnd* pWnd);
 /// Returns FALSE when no handle came (creation failed before WM_NCCREATE).
 KMFC_API BOOL AfxUnhookWindowCreate();
