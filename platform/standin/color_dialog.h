@@ -1,0 +1,48 @@
+// The stand-in host's colour dialog: the indexed palette to click on, ByLayer and ByBlock, a number, and for true
+// colours red, green and blue. Internal to the module.
+#pragma once
+
+#include <afxwin.h>
+#include <od_cm_color.h>
+
+/// What the dialog starts from and offers.
+struct ColorDialogSettings {
+    OdCmColor color;       ///< to start from; receives the choice
+    OdCmColor layerColor;  ///< shown for ByLayer
+    bool allowMeta = false;
+    bool allowTrueColor = false;
+    const std::uint32_t* palette = nullptr;  ///< 256 colours that the indexes are shown by
+};
+
+class CStandinColorDialog : public CDialog {
+    DECLARE_DYNAMIC(CStandinColorDialog)
+
+public:
+    CStandinColorDialog(ColorDialogSettings& settings, CWnd* parent);
+
+protected:
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item);
+    afx_msg void OnPalette();
+    afx_msg void OnByLayer();
+    afx_msg void OnByBlock();
+    afx_msg void OnIndexChange();
+    afx_msg void OnRgbChange();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void choose(const OdCmColor& color);
+    void showColor();
+    void drawPalette(CDC& dc, const CRect& area);
+    /// The index under a place of the palette, 0 for none.
+    int indexAt(CPoint point, const CRect& area) const;
+    CRect cellOf(int index, const CRect& area) const;
+    COLORREF shown(const OdCmColor& color) const;
+
+    ColorDialogSettings& m_settings;
+    OdCmColor m_color;
+    bool m_valid = true;     ///< the fields hold a colour
+    bool m_filling = false;  ///< the dialog itself writes to the fields
+};

@@ -1,0 +1,287 @@
+#include "drawing_view.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+#include "dash_pattern.h"
+
+namespace {
+
+constexpr COLORREF kBackground = RGB(33, 40, 48);
+constexpr COLORREF kSelected = RGB(90, 170, 255);
+constexpr int kPickDistance = 5;       // pixels
+constexpr double kZoomStep = 1.25;     // for one notch of the wheel
+constexpr double kMargin = 0.92;       // of the window that the drawing fills
+constexpr int kPanStep = 48;           // pixels for an arrow key
+constexpr double kPixelsPerMillimetre = 96 / 25.4;
+constexpr double kCapitalShare = 0.72;  // height of capitals in that of a font
+
+double distanceToSegment(CPoint at, CPoint from, CPoint to) {
+    const double dx = to.x - from.x, dy = to.y - from.y;
+    const double length = dx * dx + dy * dy;
+    double along = length > 0 ? ((at.x - from.x) * dx + (at.y - from.y) * dy) / length : 0;
+    along = std::clamp(along, 0.0, 1.0);
+    return std::hypot(at.x - from.x - along * dx, at.y - from.y - along * dy);
+}
+
+/// Pen width in pixels of a lineweight in hundredths of a millimetre.
+int penWidth(int lineWeight) {
+    return std::max(1, static_cast<int>(std::lround(lineWeight / 100.0 * kPixelsPerMillimetre)));
+}
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CDrawingView, CWnd)
+
+BEGIN_MESSAGE_MAP(CDrawingView, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MBUTTONDOWN()
+    ON_WM_MBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_KEYDOWN()
+END_MESSAGE_MAP()
+
+BOOL CDrawingView::CreateView(CWnd* parent, UINT id) {
+    const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_CROSS));
+    return Create(name, L"drawing", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), parent, id);
+}
+
+void CDrawingView::SetScene(Scene scene, bool keepPlace) {
+    m_scene = std::move(scene);
+    if (!keepPlace) {
+        m_selection.clear();
+        ZoomExtents();
+    }
+    Invalidate();
+}
+
+void CDrawingView::SetSelection(std::set<OdDbObjectId> selection) {
+    m_selection = std::move(selection);
+    Invalidate();
+    GetParent()->PostMessage(WM_DRAFTER_SELECTION);
+}
+
+void CDrawingView::ZoomExtents() {
+    CRect client;
+    GetClientRect(&client);
+    const SceneExtents extents = m_scene.extents();
+    m_fitPending = client.IsRectEmpty();
+    if (m_fitPending || extents.isEmpty()) return;
+    m_center = {(extents.low.x + extents.high.x) / 2, (extents.low.y + extents.high.y) / 2};
+    const double width = std::max(extents.high.x - extents.low.x, 1e-9);
+    const double height = std::max(extents.high.y - extents.low.y, 1e-9);
+    m_scale = std::min(client.Width() / width, client.Height() / height) * kMargin;
+    Invalidate();
+}
+
+void CDrawingView::Zoom(double factor) {
+    CRect client;
+    GetClientRect(&client);
+    zoomAt(client.CenterPoint(), factor);
+}
+
+CPoint CDrawingView::ToPixel(const OdGePoint2d& point) const {
+    CRect client;
+    GetClientRect(&client);
+    const auto pixel = [](double value) { return static_cast<int>(std::lround(std::clamp(value, -1e7, 1e7))); };
+    return CPoint(pixel(client.Width() / 2.0 + (point.x - m_center.x) * m_scale),
+                  pixel(client.Height() / 2.0 - (point.y - m_center.y) * m_scale));
+}
+
+OdGePoint2d CDrawingView::FromPixel(CPoint pixel) const {
+    CRect client;
+    GetClientRect(&client);
+    return {m_center.x + (pixel.x - client.Width() / 2.0) / m_scale,
+            m_center.y - (pixel.y - client.Height() / 2.0) / m_scale};
+}
+
+void CDrawingView::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    if (client.IsRectEmpty()) return;
+    CDC memory;
+    CBitmap bitmap;
+    memory.CreateCompatibleDC(&dc);
+    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
+    CBitmap* former = memory.SelectObject(&bitmap);
+    memory.FillSolidRect(&client, kBackground);
+    paint(memory);
+    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
+    memory.SelectObject(former);
+}
+
+BOOL CDrawingView::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CDrawingView::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+    if (m_fitPending) ZoomExtents();
+    Invalidate();
+}
+
+void CDrawingView::OnLButtonDown(UINT flags, CPoint point) {
+    SetFocus();
+    const OdDbObjectId entity = entityAt(point);
+    std::set<OdDbObjectId> selection;
+    if (flags & (MK_CONTROL | MK_SHIFT)) selection = m_selection;
+    if (!entity.isNull()) {
+        if ((flags & MK_CONTROL) && selection.contains(entity))
+            selection.erase(entity);
+        else
+            selection.insert(entity);
+    }
+    SetSelection(std::move(selection));
+}
+
+void CDrawingView::OnMButtonDown(UINT, CPoint point) {
+    m_panning = true;
+    m_lastPan = point;
+    SetCapture();
+}
+
+void CDrawingView::OnMButtonUp(UINT, CPoint) {
+    m_panning = false;
+    ::ReleaseCapture();
+}
+
+void CDrawingView::OnMouseMove(UINT, CPoint point) {
+    if (m_panning) {
+        panBy(CSize(point.x - m_lastPan.x, point.y - m_lastPan.y));
+        m_lastPan = point;
+    }
+    m_pointer = FromPixel(point);
+    GetParent()->PostMessage(WM_DRAFTER_POINTER);
+}
+
+BOOL CDrawingView::OnMouseWheel(UINT, short delta, CPoint point) {
+    ScreenToClient(&point);
+    zoomAt(point, std::pow(kZoomStep, delta / static_cast<double>(WHEEL_DELTA)));
+    return TRUE;
+}
+
+void CDrawingView::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    switch (key) {
+        case VK_ESCAPE: SetSelection({}); break;
+        case VK_LEFT: panBy(CSize(kPanStep, 0)); break;
+        case VK_RIGHT: panBy(CSize(-kPanStep, 0)); break;
+        case VK_UP: panBy(CSize(0, kPanStep)); break;
+        case VK_DOWN: panBy(CSize(0, -kPanStep)); break;
+        case VK_ADD:
+        case VK_OEM_PLUS: Zoom(kZoomStep); break;
+        case VK_SUBTRACT:
+        case VK_OEM_MINUS: Zoom(1 / kZoomStep); break;
+        default: CWnd::OnKeyDown(key, repeat, flags);
+    }
+}
+
+void CDrawingView::zoomAt(CPoint pixel, double factor) {
+    const OdGePoint2d fixed = FromPixel(pixel);
+    m_scale = std::clamp(m_scale * factor, 1e-9, 1e9);
+    const OdGePoint2d moved = FromPixel(pixel);
+    m_center.x += fixed.x - moved.x;
+    m_center.y += fixed.y - moved.y;
+    Invalidate();
+}
+
+void CDrawingView::panBy(CSize pixels) {
+    m_center.x -= pixels.cx / m_scale;
+    m_center.y += pixels.cy / m_scale;
+    Invalidate();
+}
+
+COLORREF CDrawingView::colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const {
+    if (m_selection.contains(entity)) return kSelected;
+    return style.color.color();
+}
+
+void CDrawingView::paint(CDC& dc) {
+    for (const ScenePath& path : m_scene.paths) drawPath(dc, path);
+    for (const SceneText& text : m_scene.texts) drawText(dc, text);
+}
+
+void CDrawingView::drawPath(CDC& dc, const ScenePath& path) {
+    const COLORREF color = colorOf(path.style, path.entity);
+    std::vector<CPoint> pixels;
+    pixels.reserve(path.points.size());
+    for (const OdGePoint2d& point : path.points) pixels.push_back(ToPixel(point));
+    if (path.filled) {
+        CBrush brush(color);
+        CPen pen(PS_SOLID, 1, color);
+        CBrush* formerBrush = dc.SelectObject(&brush);
+        CPen* formerPen = dc.SelectObject(&pen);
+        dc.Polygon(pixels.data(), static_cast<int>(pixels.size()));
+        dc.SelectObject(formerPen);
+        dc.SelectObject(formerBrush);
+        return;
+    }
+    int width = penWidth(path.style.lineWeight);
+    if (m_selection.contains(path.entity)) ++width;
+    LOGBRUSH brush = {BS_SOLID, color, 0};
+    CPen pen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_FLAT | PS_JOIN_ROUND, width, &brush);
+    CPen* former = dc.SelectObject(&pen);
+    DrawDashedPath(dc, pixels, path.style.dashes, m_scale);
+    dc.SelectObject(former);
+}
+
+void CDrawingView::drawText(CDC& dc, const SceneText& text) {
+    const int height = static_cast<int>(std::lround(text.height * m_scale / kCapitalShare));
+    if (height < 3) return;  // too small to read
+    LOGFONT look = {};
+    look.lfHeight = -std::min(height, 4000);
+    look.lfEscapement = look.lfOrientation = static_cast<LONG>(std::lround(text.rotation * 1800 / std::numbers::pi));
+    look.lfCharSet = DEFAULT_CHARSET;
+    look.lfQuality = ANTIALIASED_QUALITY;
+    wcscpy(look.lfFaceName, L"Tahoma");
+    CFont font;
+    font.CreateFontIndirect(&look);
+    CFont* former = dc.SelectObject(&font);
+    constexpr UINT kHorizontal[] = {TA_LEFT, TA_CENTER, TA_RIGHT};
+    const CPoint at = ToPixel(text.position);
+    TEXTMETRIC metrics;
+    dc.GetTextMetrics(&metrics);
+    // The alignment of GDI is by base line; the other rows are found from the metrics.
+    double rise = 0;
+    if (text.vertical == 2) rise = -text.height * m_scale / 2;
+    if (text.vertical == 3) rise = -text.height * m_scale;
+    const double down = -rise;
+    const int x = at.x + static_cast<int>(std::lround(down * std::sin(text.rotation)));
+    const int y = at.y + static_cast<int>(std::lround(down * std::cos(text.rotation)));
+    dc.SetTextAlign(kHorizontal[std::clamp(text.horizontal, 0, 2)] | TA_BASELINE);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(colorOf(text.style, text.entity));
+    dc.TextOut(x, y, text.text, text.text.length());
+    dc.SelectObject(former);
+}
+
+OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {
+    OdDbObjectId found;
+    double nearest = kPickDistance;
+    for (const ScenePath& path : m_scene.paths) {
+        for (std::size_t i = 1; i < path.points.size(); ++i) {
+            const double distance = distanceToSegment(pixel, ToPixel(path.points[i - 1]), ToPixel(path.points[i]));
+            if (distance > nearest) continue;
+            nearest = distance;
+            found = path.entity;
+        }
+    }
+    if (!found.isNull()) return found;
+    for (const SceneText& text : m_scene.texts) {
+        // A text is hit inside its box, turned back to the horizontal.
+        const CPoint at = ToPixel(text.position);
+        const double dx = pixel.x - at.x, dy = at.y - pixel.y;
+        const double c = std::cos(text.rotation), s = std::sin(text.rotation);
+        const double along = dx * c + dy * s, above = -dx * s + dy * c;
+        const double width = text.text.length() * text.height * m_scale * 0.8;
+        const double left = -width * text.horizontal / 2, low = text.vertical == 2 ? -0.5 : text.vertical == 3 ? -1 : 0;
+        const double height = text.height * m_scale;
+        if (along >= left && along <= left + width && above >= low * height && above <= (low + 1) * height)
+            return text.entity;
+    }
+    return found;
+}

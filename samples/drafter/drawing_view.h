@@ -1,0 +1,66 @@
+// CDrawingView: shows a scene; zoom with the wheel, pan with the middle button or the arrow keys, select by click.
+#pragma once
+
+#include <set>
+
+#include <afxwin.h>
+
+#include "scene.h"
+
+/// Posted to the parent when the selection changed, and when the pointer moved (its place is pointer()).
+constexpr UINT WM_DRAFTER_SELECTION = WM_APP + 1;
+constexpr UINT WM_DRAFTER_POINTER = WM_APP + 2;
+
+class CDrawingView : public CWnd {
+    DECLARE_DYNAMIC(CDrawingView)
+
+public:
+    /// Makes the view as the whole client area of `parent`.
+    BOOL CreateView(CWnd* parent, UINT id);
+
+    /// Shows another scene; `keepPlace` leaves zoom and centre as they are.
+    void SetScene(Scene scene, bool keepPlace);
+    void ZoomExtents();
+    /// Enlarges by `factor` about the middle of the window.
+    void Zoom(double factor);
+
+    const std::set<OdDbObjectId>& selection() const { return m_selection; }
+    void SetSelection(std::set<OdDbObjectId> selection);
+    /// Place of the pointer in drawing units.
+    OdGePoint2d pointer() const { return m_pointer; }
+
+    /// Client pixels of a place in the drawing, and back.
+    CPoint ToPixel(const OdGePoint2d& point) const;
+    OdGePoint2d FromPixel(CPoint pixel) const;
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void paint(CDC& dc);
+    void drawPath(CDC& dc, const ScenePath& path);
+    void drawText(CDC& dc, const SceneText& text);
+    COLORREF colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const;
+    /// The entity whose line is nearest to a pixel; null when none is near.
+    OdDbObjectId entityAt(CPoint pixel) const;
+    void zoomAt(CPoint pixel, double factor);
+    void panBy(CSize pixels);
+
+    Scene m_scene;
+    std::set<OdDbObjectId> m_selection;
+    OdGePoint2d m_center;
+    double m_scale = 1;  ///< pixels for one drawing unit
+    bool m_panning = false;
+    CPoint m_lastPan;
+    OdGePoint2d m_pointer;
+    bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
+};
