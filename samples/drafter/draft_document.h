@@ -1,0 +1,35 @@
+// CDraftDocument: the open drawing as the toolkit sees it.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include <kh_system.h>
+#include <od_db.h>
+
+class CDraftDocument final : public KtApDocument, private CKhVariableStore {
+public:
+    CDraftDocument();
+
+    OdDbDatabase* database() override { return m_drawing.get(); }
+    CKhDrawingView* drawingView() override { return nullptr; }
+    CKhVariableStore* variables() override { return this; }
+
+    /// Replaces the drawing by that of a file; on failure nothing changes and `error` says why.
+    bool Open(const wchar_t* path, OdDbDxfError& error);
+    bool Save(const wchar_t* path);
+
+    /// Full path of the file, empty for a new drawing.
+    OdString path() const { return m_drawing->getFilename(); }
+    /// Name to show for the drawing, empty for a new one.
+    OdString name() const;
+
+private:
+    bool getInt(const wchar_t* name, int& value) override;
+    bool setInt(const wchar_t* name, int value) override;
+    bool getBool(const wchar_t* name, bool& value) override;
+    bool setBool(const wchar_t* name, bool value) override;
+
+    OdDbDatabasePtr m_drawing;
+    std::map<std::wstring, int> m_numbers;
+};

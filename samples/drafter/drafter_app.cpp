@@ -1,0 +1,45 @@
+// The drafter: a small host that shows the toolkit at work on a drawing.
+//
+//     drafter.exe [drawing.dxf]
+#include <afxwin.h>
+#include <standin_host.h>
+
+#include <ktui/ktui.h>
+
+#include "main_frame.h"
+#include "resource.h"
+
+namespace {
+
+class CDrafterApp : public CWinApp {
+public:
+    CDrafterApp() : CWinApp(L"Drafter") {}
+
+    BOOL InitInstance() override {
+        InitKtUiDLL();
+        // Loading the toolkit has made its resource library the current one; this program's own come first again.
+        AfxSetResourceHandle(m_hInstance);
+        m_host = std::make_unique<CStandinHost>(*this);
+        auto* frame = new CMainFrame(*m_host);
+        m_pMainWnd = frame;
+        if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
+        frame->ShowWindow(m_nCmdShow);
+        frame->UpdateWindow();
+        CString path = m_lpCmdLine;
+        path.Trim(L" \"");
+        if (!path.IsEmpty()) frame->OpenDrawing(path);
+        return TRUE;
+    }
+
+    int ExitInstance() override {
+        m_host.reset();
+        return CWinApp::ExitInstance();
+    }
+
+private:
+    std::unique_ptr<CStandinHost> m_host;
+};
+
+CDrafterApp theApp;
+
+}  // namespace

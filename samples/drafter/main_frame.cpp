@@ -1,0 +1,207 @@
+#include "main_frame.h"
+
+#include <commdlg.h>
+#include <ktdb.h>
+#include <ktut.h>
+#include <standin_host.h>
+
+#include "properties_dialog.h"
+#include "resource.h"
+
+namespace {
+
+constexpr UINT kViewId = AFX_IDW_PANE_FIRST;
+constexpr int kPointerPane = 1, kSelectionPane = 2;
+constexpr int kPointerWidth = 200, kSelectionWidth = 120;  // pixels
+constexpr double kZoomStep = 1.25;
+
+CString textOf(UINT id) {
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_WM_CLOSE()
+    ON_WM_SETFOCUS()
+    ON_MESSAGE(WM_DRAFTER_SELECTION, &CMainFrame::OnSelection)
+    ON_MESSAGE(WM_DRAFTER_POINTER, &CMainFrame::OnPointer)
+    ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
+    ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
+    ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
+    ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
+    ON_COMMAND(ID_EDIT_DESELECT, &CMainFrame::OnDeselect)
+    ON_COMMAND(ID_VIEW_EXTENTS, &CMainFrame::OnZoomExtents)
+    ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
+    ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
+    ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
+    ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
+END_MESSAGE_MAP()
+
+CMainFrame::CMainFrame(CStandinHost& host) : m_host(host), m_document(std::make_unique<CDraftDocument>()) {
+    m_host.SetCurrentDocument(m_document.get());
+}
+
+CMainFrame::~CMainFrame() { m_host.SetCurrentDocument(nullptr); }
+
+int CMainFrame::OnCreate(LPCREATESTRUCT create) {
+    if (CFrameWnd::OnCreate(create) == -1) return -1;
+    if (!m_view.CreateView(this, kViewId)) return -1;
+    if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this, AFX_IDW_STATUS_BAR)) return -1;
+    showDrawing(false);
+    return 0;
+}
+
+void CMainFrame::OnSize(UINT type, int cx, int cy) {
+    CFrameWnd::OnSize(type, cx, cy);
+    if (m_status.m_hWnd == nullptr) return;
+    m_status.SendMessage(WM_SIZE);
+    CRect status;
+    m_status.GetWindowRect(&status);
+    int edges[3] = {cx - kPointerWidth - kSelectionWidth, cx - kSelectionWidth, -1};
+    m_status.SetParts(3, edges);
+    m_view.MoveWindow(0, 0, cx, cy - status.Height());
+}
+
+void CMainFrame::OnClose() {
+    if (mayDiscard()) CFrameWnd::OnClose();
+}
+
+void CMainFrame::OnSetFocus(CWnd*) { m_view.SetFocus(); }
+
+LRESULT CMainFrame::OnSelection(WPARAM, LPARAM) {
+    CString text = textOf(IDS_STATUS_NONE);
+    const int count = static_cast<int>(m_view.selection().size());
+    if (count > 0) text.Format(IDS_STATUS_SELECTION, count);
+    m_status.SetText(text, kSelectionPane, 0);
+    return 0;
+}
+
+LRESULT CMainFrame::OnPointer(WPARAM, LPARAM) {
+    wchar_t x[kKtdbBufferSize] = {}, y[kKtdbBufferSize] = {};
+    ktdbRToS(m_view.pointer().x, -1, -1, x);
+    ktdbRToS(m_view.pointer().y, -1, -1, y);
+    CString text;
+    text.Format(L"%s, %s", x, y);
+    m_status.SetText(text, kPointerPane, 0);
+    return 0;
+}
+
+bool CMainFrame::OpenDrawing(const CString& path) {
+    auto document = std::make_unique<CDraftDocument>();
+    OdDbDxfError error;
+    if (!document->Open(path, error)) {
+        CString text;
+        text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
+        AfxMessageBox(text, MB_ICONEXCLAMATION);
+        return false;
+    }
+    m_host.SetCurrentDocument(document.get());
+    m_view.SetScene({}, false);
+    m_document = std::move(document);
+    showDrawing(false);
+    return true;
+}
+
+void CMainFrame::showDrawing(bool keepPlace) {
+    OdDbDatabase& drawing = *m_document->database();
+    m_view.SetScene(BuildScene(drawing, drawing.currentSpaceId()), keepPlace);
+    showTitle();
+    m_status.SetText(textOf(IDS_READY), 0, 0);
+    OnSelection(0, 0);
+}
+
+void CMainFrame::showTitle() {
+    CString name = m_document->name().c_str();
+    if (name.IsEmpty()) name = textOf(IDS_UNTITLED);
+    SetWindowText(name + (m_document->database()->isModified() ? L"* - " : L" - ") + GetTitle());
+}
+
+bool CMainFrame::saveTo(const CString& path) {
+    if (m_document->Save(path)) {
+        showTitle();
+        return true;
+    }
+    CString text;
+    text.Format(IDS_WRITE_FAILED, path.GetString());
+    AfxMessageBox(text, MB_ICONEXCLAMATION);
+    return false;
+}
+
+bool CMainFrame::mayDiscard() {
+    if (!m_document->database()->isModified()) return true;
+    CString name = m_document->name().c_str(), text;
+    if (name.IsEmpty()) name = textOf(IDS_UNTITLED);
+    text.Format(IDS_SAVE_CHANGES, name.GetString());
+    const int answer = AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION);
+    if (answer == IDCANCEL) return false;
+    if (answer == IDNO) return true;
+    const CString path = m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
+    return !path.IsEmpty() && saveTo(path);
+}
+
+CString CMainFrame::askFileName(bool forSaving) {
+    wchar_t path[MAX_PATH] = {};
+    CString filter = textOf(IDS_FILE_FILTER);
+    filter.Replace(L'|', L'\0');
+    OPENFILENAMEW request = {};
+    request.lStructSize = sizeof(request);
+    request.hwndOwner = m_hWnd;
+    request.lpstrFilter = filter;
+    request.lpstrFile = path;
+    request.nMaxFile = MAX_PATH;
+    request.lpstrDefExt = L"dxf";
+    request.Flags = OFN_HIDEREADONLY | (forSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
+    const BOOL chosen = forSaving ? ::GetSaveFileNameW(&request) : ::GetOpenFileNameW(&request);
+    return chosen ? CString(path) : CString();
+}
+
+void CMainFrame::OnFileOpen() {
+    if (!mayDiscard()) return;
+    const CString path = askFileName(false);
+    if (!path.IsEmpty()) OpenDrawing(path);
+}
+
+void CMainFrame::OnFileSave() {
+    const CString path = m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
+    if (!path.IsEmpty()) saveTo(path);
+}
+
+void CMainFrame::OnFileSaveAs() {
+    const CString path = askFileName(true);
+    if (!path.IsEmpty()) saveTo(path);
+}
+
+void CMainFrame::OnSelectAll() {
+    std::set<OdDbObjectId> all;
+    const auto space = m_document->database()->currentSpaceId().open<OdDbBlockTableRecord>();
+    for (const OdDbEntity* entity : space->entities())
+        if (!entity->isErased()) all.insert(entity->objectId());
+    m_view.SetSelection(std::move(all));
+}
+
+void CMainFrame::OnDeselect() { m_view.SetSelection({}); }
+void CMainFrame::OnZoomExtents() { m_view.ZoomExtents(); }
+void CMainFrame::OnZoomIn() { m_view.Zoom(kZoomStep); }
+void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
+
+void CMainFrame::OnProperties() {
+    const std::vector<OdDbObjectId> objects(m_view.selection().begin(), m_view.selection().end());
+    CPropertiesDialog dialog(*m_document->database(), objects, this);
+    if (dialog.DoModal() == IDOK) {
+        showDrawing(true);
+        OnSelection(0, 0);
+    }
+    m_view.SetFocus();
+}
+
+void CMainFrame::OnAbout() { AfxMessageBox(textOf(IDS_ABOUT), MB_ICONINFORMATION); }
+
+void CMainFrame::OnUpdateHasSelection(CCmdUI* item) { item->Enable(!m_view.selection().empty()); }

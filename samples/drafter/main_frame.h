@@ -1,0 +1,57 @@
+// The drafter's main window: menu, drawing view, status line.
+#pragma once
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include "draft_document.h"
+#include "drawing_view.h"
+
+class CStandinHost;
+
+class CMainFrame : public CFrameWnd {
+    DECLARE_DYNAMIC(CMainFrame)
+
+public:
+    explicit CMainFrame(CStandinHost& host);
+    ~CMainFrame() override;
+
+    /// Shows the drawing in `path`; tells the user why if it cannot be read, and the present drawing stays.
+    bool OpenDrawing(const CString& path);
+
+protected:
+    CWnd* GetMessageBar() override { return &m_status; }
+
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnClose();
+    afx_msg void OnSetFocus(CWnd* former);
+    afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnFileOpen();
+    afx_msg void OnFileSave();
+    afx_msg void OnFileSaveAs();
+    afx_msg void OnSelectAll();
+    afx_msg void OnDeselect();
+    afx_msg void OnZoomExtents();
+    afx_msg void OnZoomIn();
+    afx_msg void OnZoomOut();
+    afx_msg void OnProperties();
+    afx_msg void OnAbout();
+    afx_msg void OnUpdateHasSelection(CCmdUI* item);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void showDrawing(bool keepPlace);
+    void showTitle();
+    bool saveTo(const CString& path);
+    /// Asks whether changes are to be saved; false if the user thought better of it.
+    bool mayDiscard();
+    /// Asks for a file name; empty if cancelled.
+    CString askFileName(bool forSaving);
+
+    CStandinHost& m_host;
+    std::unique_ptr<CDraftDocument> m_document;
+    CDrawingView m_view;
+    CStatusBarCtrl m_status;
+};

@@ -1,0 +1,108 @@
+#include "property_values.h"
+
+namespace {
+
+/// Keeps a value while all objects agree on it.
+template <class T>
+class Common {
+public:
+    void add(const T& value) {
+        if (!m_any)
+            m_value = value;
+        else if (m_value && !(*m_value == value))
+            m_value.reset();
+        m_any = true;
+    }
+    const std::optional<T>& value() const { return m_value; }
+
+private:
+    std::optional<T> m_value;
+    bool m_any = false;
+};
+
+/// Calls `action` with the object as the class that has a rotation; false if it has none.
+template <class Action>
+bool withRotation(OdDbEntity& entity, Action action) {
+    if (auto* text = dynamic_cast<OdDbText*>(&entity))
+        action(*text);
+    else if (auto* paragraph = dynamic_cast<OdDbMText*>(&entity))
+        action(*paragraph);
+    else if (auto* reference = dynamic_cast<OdDbBlockReference*>(&entity))
+        action(*reference);
+    else
+        return false;
+    return true;
+}
+
+PropertyValues readCurrent(OdDbDatabase& drawing) {
+    PropertyValues values;
+    values.color = drawing.cecolor();
+    if (const auto layer = drawing.clayer().open<OdDbLayerTableRecord>()) values.layer = layer->getName();
+    values.elevation = drawing.getELEVATION();
+    values.thickness = drawing.getTHICKNESS();
+    values.hasHyperlink = false;
+    return values;
+}
+
+OdDbObjectId layerNamed(OdDbDatabase& drawing, const OdString& name) {
+    OdDbLayerTablePtr table;
+    drawing.getLayerTable(table, OdDb::kForWrite);
+    OdDbObjectId id = table->getAt(name);
+    if (!id.isNull()) return id;
+    const OdDbSymbolTableRecordPtr layer = table->newRecord();
+    layer->setName(name);
+    table->add(layer, &id);
+    return id;
+}
+
+void writeCurrent(OdDbDatabase& drawing, const PropertyValues& values) {
+    if (values.color) drawing.setCecolor(*values.color);
+    if (values.layer) drawing.setClayer(layerNamed(drawing, *values.layer));
+    if (values.elevation) drawing.setELEVATION(*values.elevation);
+    if (values.thickness) drawing.setTHICKNESS(*values.thickness);
+}
+
+}  // namespace
+
+PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects) {
+    if (objects.empty()) return readCurrent(drawing);
+    Common<OdCmColor> color;
+    Common<OdString> layer, hyperlink;
+    Common<double> elevation, thickness, rotation;
+    PropertyValues values;
+    for (const OdDbObjectId& id : objects) {
+        const auto entity = id.open<OdDbEntity>();
+        if (!entity) continue;
+        color.add(entity->color());
+        layer.add(entity->layer());
+        hyperlink.add(entity->hyperlink());
+        elevation.add(entity->elevation());
+        thickness.add(entity->thickness());
+        if (withRotation(*entity, [&](auto& turned) { rotation.add(turned.rotation()); })) values.hasRotation = true;
+    }
+    values.color = color.value();
+    values.layer = layer.value();
+    values.hyperlink = hyperlink.value();
+    values.elevation = elevation.value();
+    values.thickness = thickness.value();
+    values.rotation = rotation.value();
+    return values;
+}
+
+void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects, const PropertyValues& values) {
+    if (objects.empty()) {
+        writeCurrent(drawing, values);
+        return;
+    }
+    const OdDbObjectId layer = values.layer ? layerNamed(drawing, *values.layer) : OdDbObjectId();
+    for (const OdDbObjectId& id : objects) {
+        const auto entity = id.open<OdDbEntity>(OdDb::kForWrite);
+        if (!entity) continue;
+        if (values.color) entity->setColor(*values.color);
+        if (values.layer) entity->setLayer(layer);
+        if (values.hyperlink) entity->setHyperlink(*values.hyperlink);
+        if (values.elevation) entity->setElevation(*values.elevation);
+        if (values.thickness) entity->setThickness(*values.thickness);
+        if (values.rotation) withRotation(*entity, [&](auto& turned) { turned.setRotation(*values.rotation); });
+    }
+}
