@@ -1,8 +1,8 @@
 // What every header of the class layer starts from: the Windows types, and the import/export marker.
 //
 // On Windows this is <windows.h> itself. In the native build, where only the units without windows are
-// compiled, it supplies the handful of Windows names that their signatures mention, with the same meaning and,
-// where a size matters to callers, the same size. wchar_t keeps the compiler's own width there.
+// compiled, it supplies the handful of Windows names that their signatures mention, with the same meaning
+// and, where a size matters to callers, the same size. wchar_t keeps the compiler's own width there.
 #pragma once
 
 #ifdef _WIN32
@@ -48,9 +48,15 @@ using LPVOID = void*;
 using LPCVOID = const void*;
 using HRESULT = std::int32_t;
 
-struct POINT { LONG x, y; };
-struct SIZE { LONG cx, cy; };
-struct RECT { LONG left, top, right, bottom; };
+struct POINT {
+    LONG x, y;
+};
+struct SIZE {
+    LONG cx, cy;
+};
+struct RECT {
+    LONG left, top, right, bottom;
+};
 using LPPOINT = POINT*;
 using LPSIZE = SIZE*;
 using LPRECT = RECT*;
