@@ -27,6 +27,7 @@ private:
 /// Named references to objects. Names are looked up without regard to case.
 class ODRT_API OdDbDictionary : public OdDbObject {
 public:
+    OdDbDictionary() { m_groups.addText(100, "AcDbDictionary"); }
     const char* dxfName() const override { return m_hasDefault ? "ACDBDICTIONARYWDFLT" : "DICTIONARY"; }
 
     /// A walk over the entries; never null. Entries whose object is gone or erased are passed over.

@@ -47,6 +47,10 @@ public:
     /// Size of the packed groups in bytes; also the place just behind the last one.
     std::uint32_t size() const { return m_block ? m_block->used : 0; }
     void clear();
+    /// Empties the list but keeps its memory for what comes next.
+    void restart() {
+        if (m_block) m_block->used = 0;
+    }
     /// Gives back memory that growing has left over.
     void shrink();
     friend bool operator==(const OdGroupList& a, const OdGroupList& b) { return a.bytes() == b.bytes(); }
@@ -85,6 +89,9 @@ public:
     OdString text(int code) const;
     OdDbHandle handle(int code) const;
     OdGePoint3d point(int code, const OdGePoint3d& absent = {}) const;
+
+    /// The text (group 1000) number `index` of a list of extended data; empty if there are fewer.
+    OdString xDataText(int index) const;
 
     /// Replace the first own group with `code`, or append it behind the own groups.
     void setReal(int code, double value);

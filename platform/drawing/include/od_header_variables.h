@@ -6,9 +6,11 @@
 // Values are as in a file, except that ANGBASE is in radians at the getter and setter.
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+
 #include <vector>
 #include "od_group_list.h"
 
@@ -125,7 +127,8 @@ private:
     int codeOf(std::string_view name) const;
     void refreshUnits();
     std::vector<Variable> m_variables;
-    std::unordered_map<std::string, int> m_byName;
+    std::map<std::string, int, std::less<>> m_byName;
     std::vector<int> m_fileOrder;
+    bool m_loading = false;
     OdDbUnitSettings m_units;
 };
