@@ -5,6 +5,8 @@
 // escaped stay as they are. For the same reason \U+ with the number of a printable ASCII character is no
 // escape.
 
+#include <cstdint>
+
 #include "od_code_page.h"
 #include "od_string.h"
 
@@ -108,7 +110,22 @@ std::wstring wideOf(std::string_view value, int codePage, bool utf8) {
     return text;
 }
 
-void appendUnicodeEscape(wchar_t unit, std::string& out) {
+/// The UTF-16 units of a character, whatever the width of wchar_t is.
+std::u16string utf16Of(std::wstring_view character) {
+    std::u16string units;
+    for (const wchar_t c : character) {
+        const auto value = static_cast<std::uint32_t>(c);
+        if (value > 0xFFFF) {
+            units += static_cast<char16_t>(0xD800 + ((value - 0x10000) >> 10));
+            units += static_cast<char16_t>(0xDC00 + ((value - 0x10000) & 0x3FF));
+        } else {
+            units += static_cast<char16_t>(value);
+        }
+    }
+    return units;
+}
+
+void appendUnicodeEscape(char16_t unit, std::string& out) {
     constexpr char kDigits[] = "0123456789ABCDEF";
     out += "\\U+";
     for (int shift = 12; shift >= 0; shift -= 4) out += kDigits[(static_cast<unsigned>(unit) >> shift) & 15];
@@ -125,12 +142,8 @@ void appendCharacter(std::wstring_view character, int codePage, bool utf8, std::
         out += odUtf8(character);
     } else if (!lone && odEncodeCharacter(codePage, character, bytes)) {
         out += bytes;
-    } else if (sizeof(wchar_t) > 2 && static_cast<char32_t>(character[0]) > 0xFFFF) {
-        const char32_t above = static_cast<char32_t>(character[0]) - 0x10000;
-        appendUnicodeEscape(static_cast<wchar_t>(0xD800 + (above >> 10)), out);
-        appendUnicodeEscape(static_cast<wchar_t>(0xDC00 + (above & 0x3FF)), out);
     } else {
-        for (const wchar_t unit : character) appendUnicodeEscape(unit, out);
+        for (const char16_t unit : utf16Of(character)) appendUnicodeEscape(unit, out);
     }
 }
 
