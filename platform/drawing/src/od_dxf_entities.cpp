@@ -1,0 +1,115 @@
+#include "od_dxf_entities.h"
+
+#include "od_dxf_markers.h"
+
+namespace {
+
+template <class T>
+OdDbEntityPtr make() {
+    return OdDbEntityPtr(new T);
+}
+
+struct EntityMaker {
+    const char* type;
+    OdDbEntityPtr (*make)();
+};
+
+constexpr EntityMaker kMakers[] = {{"LINE", make<OdDbLine>},
+                                   {"CIRCLE", make<OdDbCircle>},
+                                   {"ARC", make<OdDbArc>},
+                                   {"LWPOLYLINE", make<OdDbPolyline>},
+                                   {"TEXT", make<OdDbText>},
+                                   {"INSERT", make<OdDbBlockReference>},
+                                   {"VERTEX", make<OdDbVertex>},
+                                   {"SEQEND", make<OdDbSequenceEnd>},
+                                   {"POLYLINE", make<OdDb2dPolyline>},
+                                   {"ATTRIB", make<OdDbAttribute>},
+                                   {"MTEXT", make<OdDbMText>},
+                                   {"POINT", make<OdDbPoint>},
+                                   {"ELLIPSE", make<OdDbEllipse>},
+                                   {"SOLID", make<OdDbSolid>},
+                                   {"SPLINE", make<OdDbSpline>},
+                                   {"DIMENSION", make<OdDbDimension>}};
+
+bool endsSection(const OdDxfScanner& scanner) {
+    return scanner.isRecord("ENDSEC") || scanner.isRecord("SECTION") || scanner.isRecord("EOF") ||
+           scanner.isRecord("BLOCK") || scanner.isRecord("ENDBLK");
+}
+
+}  // namespace
+
+OdDbEntityPtr odMakeEntity(std::string_view type) {
+    for (const EntityMaker& maker : kMakers)
+        if (type == maker.type) return maker.make();
+    return new OdDbUnknownEntity(type);
+}
+
+OdDbObjectPtr odMakeObject(std::string_view type) {
+    if (type == "DICTIONARY" || type == "ACDBDICTIONARYWDFLT") return new OdDbDictionary;
+    if (type == "LAYOUT") return new OdDbLayout;
+    if (type == "PLOTSETTINGS") return new OdDbPlotSettings;
+    if (type == "ACDBPLACEHOLDER") return new OdDbPlaceHolder;
+    return new OdDbUnknownObject(std::string(type));
+}
+
+void odTakeDictionaryEntries(OdDbStore& store, OdDbDictionary& dictionary, OdGroupList& groups) {
+    OdGroup name, handle;
+    std::uint32_t at = 0;
+    while (groups.find(3, name, at)) {
+        const bool paired = groups.read(name.end, handle) && handle.kind == OdGroupKind::kHandle;
+        if (!paired) {
+            at = name.end;
+            continue;
+        }
+        store.entriesOf(dictionary).push_back({name.wide(), handle.handle(), handle.code});
+        at = name.begin;
+        groups.replace(name.begin, handle.end, OdGroupList());
+    }
+}
+
+OdDbBlockTableRecord& OdDxfEntityReader::blockFor(OdDbHandle block) const {
+    if (!block) {
+        auto* owner = m_store.object<OdDbBlockTableRecord>(m_record.owner);
+        if (owner) return *owner;
+    }
+    if (auto* given = m_store.object<OdDbBlockTableRecord>(block)) return *given;
+    const wchar_t* space = m_record.paperSpace ? L"*Paper_Space" : L"*Model_Space";
+    return static_cast<OdDbBlockTableRecord&>(*m_store.needRecord(kBlockTable, space));
+}
+
+OdDbEntityPtr OdDxfEntityReader::take(OdDbHandle owner) {
+    const OdDbEntityPtr entity = odMakeEntity(m_record.type);
+    odCompleteEntityMarkers(m_record.type, m_record.groups);
+    m_store.groupsOf(*entity) = m_record.groups;
+    m_store.layerOf(*entity) = m_store.layerHandle(m_record.layer);
+    if (!m_record.linetype.empty()) m_store.linetypeOf(*entity) = m_store.linetypeHandle(m_record.linetype);
+    m_store.adopt(OdDbObjectPtr(entity.get()), m_record.handle, owner);
+    return entity;
+}
+
+bool OdDxfEntityReader::readParts(OdDbEntity& whole) {
+    const bool polyline = std::string_view(whole.dxfName()) == "POLYLINE";
+    OdDxfScanner& scanner = m_records.scanner();
+    std::vector<OdDbEntityPtr>& parts = *m_store.partsOf(whole);
+    while (scanner.isRecord(polyline ? "VERTEX" : "ATTRIB")) {
+        if (!m_records.read(OdDxfRecordKind::kEntity, m_record)) return false;
+        parts.push_back(take(whole.handle()));
+    }
+    if (!scanner.isRecord("SEQEND")) return true;
+    if (!m_records.read(OdDxfRecordKind::kEntity, m_record)) return false;
+    parts.push_back(take(whole.handle()));
+    parts.shrink_to_fit();
+    return true;
+}
+
+bool OdDxfEntityReader::readUntil(std::string_view end, OdDbHandle block) {
+    OdDxfScanner& scanner = m_records.scanner();
+    while (scanner.code() == 0 && !scanner.isRecord(end) && !endsSection(scanner)) {
+        if (!m_records.read(OdDxfRecordKind::kEntity, m_record)) return false;
+        OdDbBlockTableRecord& target = blockFor(block);
+        const OdDbEntityPtr entity = take(target.handle());
+        m_store.entitiesOf(target).push_back(entity.get());
+        if (m_store.partsOf(*entity) && !readParts(*entity)) return false;
+    }
+    return true;
+}

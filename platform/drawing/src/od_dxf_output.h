@@ -1,0 +1,42 @@
+// The lowest layer of writing a DXF file: pairs of lines, in the encoding and with the groups of one version.
+#pragma once
+
+#include <string>
+#include "od_group_list.h"
+
+/// What the groups that are being written belong to; it decides which of them a version has.
+enum class OdDxfPart { kHeader, kCommon, kEntity, kRecord, kObject };
+
+/// Appends pairs to a text.
+class OdDxfOutput {
+public:
+    OdDxfOutput(OdDb::DwgVersion version, int codePage) : m_version(version), m_codePage(codePage) {}
+
+    OdDb::DwgVersion version() const { return m_version; }
+    bool isR12() const { return m_version <= OdDb::kDHL_1009; }
+    std::string& text() { return m_text; }
+    /// The greatest handle that was written as an object's own.
+    OdDbHandle greatestHandle() const { return m_greatest; }
+
+    void put(int code, std::string_view asciiValue);
+    void putText(int code, std::string_view utf8);
+    void putText(int code, const OdString& value) { putText(code, odUtf8(value.view())); }
+    void putReal(int code, double value);
+    void putInteger(int code, std::int64_t value);
+    void putHandle(int code, OdDbHandle value);
+    /// The object's own handle: group 5 or the one given.
+    void putOwnHandle(OdDbHandle value, int code = 5);
+    void putGroup(const OdGroup& group);
+    /// The groups from `begin` to `end` that the version has.
+    void putGroups(const OdGroupList& groups, OdDxfPart part, std::uint32_t begin = 0,
+                   std::uint32_t end = UINT32_MAX);
+    /// Whether the version has groups with this code in this part.
+    bool has(int code, OdDxfPart part) const;
+
+private:
+    void putCode(int code);
+    OdDb::DwgVersion m_version;
+    int m_codePage;
+    OdDbHandle m_greatest = 0;
+    std::string m_text;
+};

@@ -1,0 +1,95 @@
+#include "od_dxf_record.h"
+
+bool OdDxfRecordReader::append(OdGroupList& groups) {
+    const int code = m_scanner.code();
+    switch (odGroupKind(code)) {
+        case OdGroupKind::kReal: {
+            double value = 0;
+            if (!m_scanner.real(value)) return false;
+            groups.addReal(code, value);
+            return true;
+        }
+        case OdGroupKind::kInteger: {
+            std::int64_t value = 0;
+            if (!m_scanner.integer(value)) return false;
+            groups.addInteger(code, value);
+            return true;
+        }
+        case OdGroupKind::kHandle: {
+            OdDbHandle value = 0;
+            if (!m_scanner.handle(value)) return false;
+            groups.addHandle(code, value);
+            return true;
+        }
+        default:
+            groups.addText(code, text());
+            return true;
+    }
+}
+
+bool OdDxfRecordReader::takeOutOfEntity(OdDxfRecord& record) {
+    constexpr int kAttributesFollow = 66;
+    const int code = m_scanner.code();
+    if (code == kAttributesFollow && (record.type == "INSERT" || record.type == "POLYLINE")) return true;
+    if (m_markers > 1) return false;
+    if (code == 8) {
+        record.layer = text();
+    } else if (code == 6) {
+        record.linetype = text();
+    } else if (code == 67) {
+        std::int64_t value = 0;
+        record.paperSpace = m_scanner.integer(value) && value != 0;
+    } else {
+        return code == 410;
+    }
+    return true;
+}
+
+/// Whether the scanner's pair went into a field of the record.
+bool OdDxfRecordReader::takeOut(OdDxfRecordKind kind, OdDxfRecord& record) {
+    constexpr int kDimensionStyleHandle = 105;
+    const int code = m_scanner.code();
+    const int handleCode = record.type == "DIMSTYLE" ? kDimensionStyleHandle : 5;
+    if (code == handleCode && record.handle == 0) {
+        record.handle = odHandleFromText(m_scanner.value());
+        return true;
+    }
+    if (code == 330 && m_markers == 0 && !m_ownerTaken) {
+        m_ownerTaken = true;
+        record.owner = odHandleFromText(m_scanner.value());
+        return true;
+    }
+    if (kind == OdDxfRecordKind::kEntity) return takeOutOfEntity(record);
+    const bool named = kind == OdDxfRecordKind::kTableRecord || kind == OdDxfRecordKind::kBlock;
+    if (named && code == 2 && record.name.isEmpty()) {
+        record.name = odWide(text());
+        return true;
+    }
+    return kind == OdDxfRecordKind::kBlock && code == 3;
+}
+
+bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
+    constexpr int kEmbeddedObject = 101;
+    constexpr int kFirstExtendedData = 1000;
+    record.type = m_scanner.word();
+    record.line = m_scanner.line();
+    record.groups.restart();
+    record.handle = record.owner = 0;
+    record.layer.clear();
+    record.linetype.clear();
+    record.paperSpace = false;
+    record.name.empty();
+    m_markers = 0;
+    m_inside = m_foreign = m_ownerTaken = false;
+    while (m_scanner.next() && m_scanner.code() != 0) {
+        const int code = m_scanner.code();
+        if (code == kEmbeddedObject || code >= kFirstExtendedData) m_foreign = true;
+        if (code == 102 && !m_foreign) m_inside = !m_scanner.word().empty() && m_scanner.word()[0] == '{';
+        if (code == 100 && !m_inside && !m_foreign) ++m_markers;
+        if (!m_inside && !m_foreign && takeOut(kind, record)) continue;
+        if (!append(record.groups)) return false;
+    }
+    if (m_scanner.failed()) return false;
+    if (m_scanner.code() == 0) return true;
+    return m_scanner.fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
+}

@@ -1,0 +1,180 @@
+#include "od_dxf_scanner.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int kComment = 999;
+constexpr std::string_view kBinaryMark = "AutoCAD Binary DXF";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr OdDbHandle kGreatestHandle = OdDbHandle{1} << 60;
+
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\f' || c == '\v'; }
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+    return text;
+}
+
+template <class T>
+bool parseWhole(std::string_view digits, T& value, int base) {
+    const auto [end, problem] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
+    return problem == std::errc() && end == digits.data() + digits.size();
+}
+
+bool parseReal(std::string_view word, double& value) {
+    if (!word.empty() && word.front() == '+') word.remove_prefix(1);
+    const auto [end, problem] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (end != word.data() + word.size() || word.empty()) return false;
+    // Numbers too small to tell from zero are legal; too large ones aren't.
+    if (problem == std::errc::result_out_of_range) {
+        const std::size_t exponent = word.find_first_of("eE");
+        value = 0;
+        return exponent != std::string_view::npos && exponent + 1 < word.size() && word[exponent + 1] == '-';
+    }
+    return problem == std::errc() && std::isfinite(value);
+}
+
+struct VersionName {
+    int number;
+    OdDb::DwgVersion version;
+};
+
+constexpr VersionName kVersions[] = {
+    {1032, OdDb::kDHL_1032}, {1027, OdDb::kDHL_1027}, {1024, OdDb::kDHL_1024},
+    {1021, OdDb::kDHL_1021}, {1018, OdDb::kDHL_1018}, {1015, OdDb::kDHL_1015},
+    {1014, OdDb::kDHL_1014}, {1010, OdDb::kDHL_1012}, {1009, OdDb::kDHL_1009}};
+
+/// The version that "AC1015" and the like name; versions between two releases count as the older one.
+OdDb::DwgVersion versionNamed(std::string_view name) {
+    int number = 0;
+    if (name.substr(0, 2) != "AC" || !parseWhole(name.substr(2), number, 10)) return OdDb::kDHL_Unknown;
+    for (const VersionName& entry : kVersions)
+        if (number >= entry.number) return entry.version;
+    return OdDb::kDHL_Unknown;
+}
+
+/// Takes note of the header variables that the rest of the reading depends on.
+bool noteHeader(OdDxfScanner& scanner, std::string_view variable, OdDxfOverview& overview) {
+    if (variable == "$ACADVER" && scanner.code() == 1) {
+        overview.version = versionNamed(scanner.word());
+        if (overview.version == OdDb::kDHL_Unknown)
+            return scanner.fail(OdDxfErrorCode::kUnsupportedVersion,
+                                L"The file's version is older than R12.");
+    } else if (variable == "$DWGCODEPAGE") {
+        overview.codePageName = scanner.word();
+    }
+    return true;
+}
+
+bool finishOverview(OdDxfScanner& scanner, bool ended, OdDbDxfError& error) {
+    if (!scanner.failed() && !ended)
+        scanner.fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
+    error = scanner.error();
+    return !scanner.failed();
+}
+
+bool refuseAtOnce(std::string_view text, OdDbDxfError& error) {
+    if (trimmed(text).find_first_not_of("\r\n") == std::string_view::npos)
+        error = {OdDxfErrorCode::kEmpty, 0, L"The file is empty.", 0};
+    else if (text.substr(0, kBinaryMark.size()) == kBinaryMark)
+        error = {OdDxfErrorCode::kBinary, 1, L"Binary DXF files can't be read.", 0};
+    else
+        return false;
+    return true;
+}
+
+}  // namespace
+
+bool OdDxfScanner::takeLine(std::string_view& line) {
+    if (m_rest.empty()) return false;
+    const std::size_t end = m_rest.find('\n');
+    line = m_rest.substr(0, end);
+    m_rest.remove_prefix(end == std::string_view::npos ? m_rest.size() : end + 1);
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    ++m_line;
+    return true;
+}
+
+bool OdDxfScanner::next() {
+    if (m_line == 0 && m_rest.substr(0, kByteOrderMark.size()) == kByteOrderMark)
+        m_rest.remove_prefix(kByteOrderMark.size());
+    do {
+        std::string_view line;
+        if (failed() || !takeLine(line)) return false;
+        if (!parseWhole(trimmed(line), m_code, 10) || m_code < -5 || m_code > 1071) {
+            if (trimmed(line).empty() && m_rest.find_first_not_of(" \t\r\n\x1A") == std::string_view::npos)
+                return false;
+            return fail(m_line == 1 ? OdDxfErrorCode::kNotDxf : OdDxfErrorCode::kBadGroupCode,
+                        L"A group code was expected.");
+        }
+        if (!takeLine(m_value))
+            return fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
+    } while (m_code == kComment);
+    return true;
+}
+
+std::string_view OdDxfScanner::word() const { return trimmed(m_value); }
+
+bool OdDxfScanner::real(double& value) {
+    return parseReal(word(), value) || fail(OdDxfErrorCode::kBadNumber, L"A number was expected.");
+}
+
+bool OdDxfScanner::integer(std::int64_t& value) {
+    std::string_view digits = word();
+    if (!digits.empty() && digits.front() == '+') digits.remove_prefix(1);
+    if (parseWhole(digits, value, 10)) return true;
+    double whole = 0;
+    constexpr double kLimit = 9e15;
+    if (parseReal(digits, whole) && std::fabs(whole) < kLimit && whole == std::floor(whole)) {
+        value = static_cast<std::int64_t>(whole);
+        return true;
+    }
+    return fail(OdDxfErrorCode::kBadNumber, L"A whole number was expected.");
+}
+
+bool OdDxfScanner::handle(OdDbHandle& value) {
+    if (parseWhole(word(), value, 16)) return true;
+    return fail(OdDxfErrorCode::kBadNumber, L"A handle was expected.");
+}
+
+bool OdDxfScanner::fail(OdDxfErrorCode code, const wchar_t* text) {
+    if (!failed()) m_error = {code, m_line, text, 0};
+    return false;
+}
+
+OdDbHandle odHandleFromText(std::string_view digits) {
+    OdDbHandle value = 0;
+    return parseWhole(trimmed(digits), value, 16) && value < kGreatestHandle ? value : 0;
+}
+
+bool odOverviewDxf(std::string_view text, OdDxfOverview& overview, OdDbDxfError& error) {
+    constexpr int kVariableName = 9;
+    if (refuseAtOnce(text, error)) return false;
+    OdDxfScanner scanner(text);
+    std::string_view variable;
+    bool ended = false;
+    for (bool first = true; !ended && scanner.next(); first = false) {
+        if (first && !scanner.isRecord("SECTION") && !scanner.isRecord("EOF")) {
+            scanner.fail(OdDxfErrorCode::kNotDxf, L"The file doesn't begin like a DXF file.");
+            break;
+        }
+        if (scanner.code() == kVariableName) variable = scanner.word();
+        if (scanner.code() == 0) {
+            variable = {};
+            ended = scanner.word() == "EOF";
+            ++overview.records;
+        } else if (!variable.empty()) {
+            if (!noteHeader(scanner, variable, overview)) break;
+        }
+        if (scanner.code() == 5 || scanner.code() == 105) {
+            const OdDbHandle handle = odHandleFromText(scanner.value());
+            const OdDbHandle free = variable == "$HANDSEED" ? handle : handle + 1;
+            if (free > overview.firstFreeHandle) overview.firstFreeHandle = free;
+        }
+    }
+    return finishOverview(scanner, ended, error);
+}
