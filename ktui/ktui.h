@@ -5,6 +5,7 @@
 #include <ktui/controls/kbui_list_box.h>
 #include <ktui/controls/kbui_list_ctrl.h>
 #include <ktui/host/draw_tip_text.h>
+#include <ktui/host/help_path.h>
 #include <ktui/host/host_services.h>
 #include <ktui/host/message_box.h>
 #include <ktui/host/module.h>
@@ -27,4 +28,4 @@
 #include <ktui/text/dialog_data.h>
 #include <ktui/text/ktui_string.h>
 #include <ktui/text/ktui_string_exp.h>
-#include <ktui/text/kbui_registry_access.h>
+#include <ktui/text/registry_access.h>

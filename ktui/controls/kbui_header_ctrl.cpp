@@ -15,8 +15,8 @@ constexpr int kItemTextSize = 255;  // characters, terminator included
 IMPLEMENT_DYNAMIC(CKbUiHeaderCtrl, CHeaderCtrl)
 
 BEGIN_MESSAGE_MAP(CKbUiHeaderCtrl, CHeaderCtrl)
-ON_WM_MOUSEMOVE()
-ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiHeaderCtrl::OnKbUiMessage)
+    ON_WM_MOUSEMOVE()
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiHeaderCtrl::OnKbUiMessage)
 END_MESSAGE_MAP()
 
 CKbUiHeaderCtrl::CKbUiHeaderCtrl() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}

@@ -18,9 +18,9 @@ constexpr COLORREF kDrawnTipFill = 0xF9F9F9;
 IMPLEMENT_DYNAMIC(CKbUiListBox, CListBox)
 
 BEGIN_MESSAGE_MAP(CKbUiListBox, CListBox)
-ON_WM_MOUSEMOVE()
-ON_WM_DESTROY()
-ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiListBox::OnKbUiMessage)
+    ON_WM_MOUSEMOVE()
+    ON_WM_DESTROY()
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiListBox::OnKbUiMessage)
 END_MESSAGE_MAP()
 
 CKbUiListBox::CKbUiListBox() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}

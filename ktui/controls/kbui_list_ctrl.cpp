@@ -13,8 +13,8 @@ const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 IMPLEMENT_DYNAMIC(CKbUiListCtrl, CListCtrl)
 
 BEGIN_MESSAGE_MAP(CKbUiListCtrl, CListCtrl)
-ON_WM_MOUSEMOVE()
-ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiListCtrl::OnKbUiMessage)
+    ON_WM_MOUSEMOVE()
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiListCtrl::OnKbUiMessage)
 END_MESSAGE_MAP()
 
 CKbUiListCtrl::CKbUiListCtrl() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}

@@ -41,12 +41,4 @@ void ktuiSetCompositionWindow(HWND window, const POINT& point) {
     ::ImmSetCompositionWindow(context.get(), &form);
 }
 
-int KbUiFindContextHelpFullPath(const wchar_t* name, CString& path) {
-    OdString found;
-    CKhSystem::instance()->runtimeHost()->findFile(found, name, nullptr, 0);
-    if (found.isEmpty()) return 0;
-    path = found.c_str();
-    return 1;
-}
-
 void KbUiSubstituteShellFont(CWnd&, CFont&) {}

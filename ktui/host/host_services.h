@@ -19,9 +19,5 @@ KTUI_API int KtUiEnableToolTips();
 /// a null window or one without an input context.
 KTUI_API void ktuiSetCompositionWindow(HWND window, const POINT& point);
 
-/// Looks a help file up in the application's search folders. Answers 1 with its full path in `path`, or 0
-/// with `path` untouched.
-KTUI_API int KbUiFindContextHelpFullPath(const wchar_t* name, CString& path);
-
 /// Does nothing. Clients call it; no control depends on it changing a font.
 KTUI_API void KbUiSubstituteShellFont(CWnd& window, CFont& font);

@@ -109,6 +109,8 @@ const ToolkitModule& LoadedToolkit() { return toolkit; }
 
 HMODULE StringLibrary() { return stringLibrary; }
 
+HMODULE KtUiOwnModule() { return toolkit.own.hModule; }
+
 HINSTANCE OwnResourceModule() { return toolkit.own.hModule ? toolkit.own.hModule : toolkit.resourceLibrary; }
 
 void InitKtUiDLL() {}
@@ -119,12 +121,8 @@ HINSTANCE KtUiAppResourceInstance() { return AfxGetModuleState()->m_hCurrentReso
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     switch (reason) {
-        case DLL_PROCESS_ATTACH:
-            return Attach(instance);
-        case DLL_PROCESS_DETACH:
-            Detach();
-            return TRUE;
-        default:
-            return TRUE;
+        case DLL_PROCESS_ATTACH: return Attach(instance);
+        case DLL_PROCESS_DETACH: Detach(); return TRUE;
+        default: return TRUE;
     }
 }

@@ -29,7 +29,10 @@ const ToolkitModule& LoadedToolkit();
 /// missing.
 HMODULE StringLibrary();
 
-/// The module that the library's own bitmaps and icons come from, or the resource library if that is unknown.
+/// The library itself, which its own bitmaps and icons are loaded from.
+HMODULE KtUiOwnModule();
+
+/// The library itself as a source of resources, or the resource library while that is unknown.
 HINSTANCE OwnResourceModule();
 
 /// Creates a link-time dependency on the library and does nothing. May be called at any time, any number of

@@ -16,21 +16,13 @@ struct TipDispatch {
     static KBUI_REPLY serve(Control& control, KBUI_NOTIFY notification, __int64 datum) {
         if (datum == 0) return kKbUiReplyNone;
         switch (notification) {
-            case kKbUiNotifyGetTipSupport:
-                return control.OnGetTipSupport(at<CPoint>(datum));
-            case kKbUiNotifyGetTipText:
-                return handledIf(control.OnGetTipText(at<CString>(datum)));
-            case kKbUiNotifyGetTipRect:
-                return handledIf(control.OnGetTipRect(at<CRect>(datum)));
-            case kKbUiNotifyHitTipRect:
-                return handledIf(control.OnHitTipRect(at<CPoint>(datum)));
-            case kKbUiNotifyDrawTip:
-                control.OnDrawTip(at<CDC>(datum));
-                return kKbUiReplyHandled;
-            case kKbUiNotifyDrawTipText:
-                return handledIf(control.OnDrawTipText(at<CKbUiDrawTipText>(datum)));
-            default:
-                return kKbUiReplyNone;
+            case kKbUiNotifyGetTipSupport: return control.OnGetTipSupport(at<CPoint>(datum));
+            case kKbUiNotifyGetTipText: return handledIf(control.OnGetTipText(at<CString>(datum)));
+            case kKbUiNotifyGetTipRect: return handledIf(control.OnGetTipRect(at<CRect>(datum)));
+            case kKbUiNotifyHitTipRect: return handledIf(control.OnHitTipRect(at<CPoint>(datum)));
+            case kKbUiNotifyDrawTip: control.OnDrawTip(at<CDC>(datum)); return kKbUiReplyHandled;
+            case kKbUiNotifyDrawTipText: return handledIf(control.OnDrawTipText(at<CKbUiDrawTipText>(datum)));
+            default: return kKbUiReplyNone;
         }
     }
 

@@ -25,9 +25,9 @@ constexpr int kTextHeightMargin = 2;  // pixels
 IMPLEMENT_DYNAMIC(CKbUiComboBox, CComboBox)
 
 BEGIN_MESSAGE_MAP(CKbUiComboBox, CComboBox)
-ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiComboBox::OnKbUiMessage)
-ON_WM_CTLCOLOR()
-ON_WM_MOUSEMOVE()
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiComboBox::OnKbUiMessage)
+    ON_WM_CTLCOLOR()
+    ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
 CKbUiComboBox::CKbUiComboBox() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}
@@ -192,9 +192,7 @@ LRESULT CKbUiComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
-        case CB_SETCURSEL:
-            Invalidate(TRUE);
-            break;
+        case CB_SETCURSEL: Invalidate(TRUE); break;
         case WM_PAINT:
             if (!isThemedFace()) break;
             OnPaint();
@@ -203,8 +201,7 @@ LRESULT CKbUiComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             releaseListBox();
             releaseEditBox();
             break;
-        default:
-            break;
+        default: break;
     }
     return CComboBox::WindowProc(message, wParam, lParam);
 }

@@ -13,8 +13,8 @@ const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 IMPLEMENT_DYNAMIC(CKbUiEdit, CEdit)
 
 BEGIN_MESSAGE_MAP(CKbUiEdit, CEdit)
-ON_WM_MOUSEMOVE()
-ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiEdit::OnKbUiMessage)
+    ON_WM_MOUSEMOVE()
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CKbUiEdit::OnKbUiMessage)
 END_MESSAGE_MAP()
 
 CKbUiEdit::CKbUiEdit() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}

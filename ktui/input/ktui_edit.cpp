@@ -5,9 +5,9 @@
 IMPLEMENT_DYNAMIC(CKtUiEdit, CKbUiEdit)
 
 BEGIN_MESSAGE_MAP(CKtUiEdit, CKbUiEdit)
-ON_WM_KILLFOCUS()
-ON_CONTROL_REFLECT_EX(EN_CHANGE, &CKtUiEdit::OnChange)
-ON_CONTROL_REFLECT_EX(EN_ERRSPACE, &CKtUiEdit::OnErrSpace)
+    ON_WM_KILLFOCUS()
+    ON_CONTROL_REFLECT_EX(EN_CHANGE, &CKtUiEdit::OnChange)
+    ON_CONTROL_REFLECT_EX(EN_ERRSPACE, &CKtUiEdit::OnErrSpace)
 END_MESSAGE_MAP()
 
 CKtUiEdit::CKtUiEdit() = default;
@@ -79,12 +79,9 @@ void CKtUiEdit::Convert() {
 
 KBUI_REPLY CKtUiEdit::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum) {
     switch (notification) {
-        case kKbUiNotifySetFocusToControl:
-            return takeFocus();
-        case kKbUiNotifyValidate:
-            return validateForHolder();
-        default:
-            return CKbUiEdit::DoKbUiMessage(notification, id, datum);
+        case kKbUiNotifySetFocusToControl: return takeFocus();
+        case kKbUiNotifyValidate: return validateForHolder();
+        default: return CKbUiEdit::DoKbUiMessage(notification, id, datum);
     }
 }
 

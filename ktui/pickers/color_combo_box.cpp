@@ -80,20 +80,10 @@ int CKtUiColorComboBox::OnSelectOther(int, int lastSel, int& newIndex) {
 void CKtUiColorComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     SwatchPainter swatch(dc, rect);
     switch (cargo) {
-        case kCargoOther:
-            swatch.fillRamp([this](int index) { return GetColorFromIndex(index); });
-            break;
-        case kForegroundIndex:
-            swatch.fillDiagonal();
-            break;
-        case kByLayerIndex:
-            swatch.fillSolid(GetColorFromIndex(GetCurrentLayerColorIndex()));
-            break;
-        case kByBlockIndex:
-            swatch.fillSolid(GetColorFromIndex(m_blockColorIndex));
-            break;
-        default:
-            swatch.fillSolid(GetColorFromIndex(static_cast<int>(cargo)));
-            break;
+        case kCargoOther: swatch.fillRamp([this](int index) { return GetColorFromIndex(index); }); break;
+        case kForegroundIndex: swatch.fillDiagonal(); break;
+        case kByLayerIndex: swatch.fillSolid(GetColorFromIndex(GetCurrentLayerColorIndex())); break;
+        case kByBlockIndex: swatch.fillSolid(GetColorFromIndex(m_blockColorIndex)); break;
+        default: swatch.fillSolid(GetColorFromIndex(static_cast<int>(cargo))); break;
     }
 }

@@ -14,10 +14,10 @@ constexpr int kTipHeightMargin = 4;   // pixels at the top and at the bottom
 IMPLEMENT_DYNAMIC(CKtUiMRUComboBox, CKtUiComboBox)
 
 BEGIN_MESSAGE_MAP(CKtUiMRUComboBox, CKtUiComboBox)
-ON_WM_CREATE()
-ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CKtUiMRUComboBox::OnDropDown)
-ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &CKtUiMRUComboBox::OnCloseUp)
-ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &CKtUiMRUComboBox::OnSelEndOk)
+    ON_WM_CREATE()
+    ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CKtUiMRUComboBox::OnDropDown)
+    ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &CKtUiMRUComboBox::OnCloseUp)
+    ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &CKtUiMRUComboBox::OnSelEndOk)
 END_MESSAGE_MAP()
 
 CKtUiMRUComboBox::CKtUiMRUComboBox() { SetListBox(new CKtUiMRUListBox, TRUE); }

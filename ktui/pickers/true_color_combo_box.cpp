@@ -192,23 +192,15 @@ int CKtUiTrueColorComboBox::OnSelectOther(int which, int lastSel, int& newIndex)
 void CKtUiTrueColorComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     SwatchPainter swatch(dc, rect);
     switch (cargo) {
-        case kCargoOther:
-            swatch.fillRamp([this](int index) { return GetColorFromIndex(index); });
-            break;
-        case kForegroundEntry:
-            swatch.fillDiagonal();
-            break;
+        case kCargoOther: swatch.fillRamp([this](int index) { return GetColorFromIndex(index); }); break;
+        case kForegroundEntry: swatch.fillDiagonal(); break;
         case kByLayerEntry: {
             OdCmColor layerColor;
             GetCurrentLayerColor(layerColor);
             swatch.fillSolid(getColorData(layerColor));
             break;
         }
-        case kByBlockEntry:
-            swatch.fillSolid(getColorData(m_blockColor));
-            break;
-        default:
-            swatch.fillSolid(getColorByCargo(static_cast<int>(cargo)));
-            break;
+        case kByBlockEntry: swatch.fillSolid(getColorData(m_blockColor)); break;
+        default: swatch.fillSolid(getColorByCargo(static_cast<int>(cargo))); break;
     }
 }

@@ -2,7 +2,7 @@
 
 #include <kh_system.h>
 #include <ktut.h>
-#include <ktui/text/kbui_registry_access.h>
+#include <ktui/text/registry_access.h>
 
 namespace {
 

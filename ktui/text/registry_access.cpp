@@ -1,4 +1,4 @@
-#include <ktui/text/kbui_registry_access.h>
+#include <ktui/text/registry_access.h>
 
 #include <vector>
 
