@@ -1,0 +1,31 @@
+// Everything a client of the toolkit needs. Include it, or the header of a single class.
+#pragma once
+
+#include <ktui/controls/kbui_header_ctrl.h>
+#include <ktui/controls/kbui_list_box.h>
+#include <ktui/controls/kbui_list_ctrl.h>
+#include <ktui/host/draw_tip_text.h>
+#include <ktui/host/help_path.h>
+#include <ktui/host/host_services.h>
+#include <ktui/host/message_box.h>
+#include <ktui/host/module.h>
+#include <ktui/host/notification.h>
+#include <ktui/host/resource_scope.h>
+#include <ktui/host/runtime_module.h>
+#include <ktui/host/theme_api.h>
+#include <ktui/input/kbui_combo_box.h>
+#include <ktui/input/kbui_edit.h>
+#include <ktui/input/ktui_typed_combo_boxes.h>
+#include <ktui/input/ktui_typed_edits.h>
+#include <ktui/input/ktui_combo_box.h>
+#include <ktui/input/ktui_edit.h>
+#include <ktui/pickers/color_combo_box.h>
+#include <ktui/pickers/mru_combo_box.h>
+#include <ktui/pickers/mru_list_box.h>
+#include <ktui/pickers/page_setup_color_combo_box.h>
+#include <ktui/pickers/true_color_combo_box.h>
+#include <ktui/pickers/white_black_color_combo_box.h>
+#include <ktui/text/dialog_data.h>
+#include <ktui/text/ktui_string.h>
+#include <ktui/text/ktui_string_exp.h>
+#include <ktui/text/registry_access.h>

@@ -1,0 +1,30 @@
+#include <ktui/text/dialog_data.h>
+
+#include <kh_system.h>
+#include <ktut.h>
+#include <ktui/text/registry_access.h>
+
+namespace {
+
+CString DialogKey(const CString& rootKey, const CString& dialogName) {
+    CString key;
+    if (!rootKey.IsEmpty()) {
+        key.Format(L"%s%s\\", rootKey.GetString(), dialogName.GetString());
+        return key;
+    }
+    const OdString fileName = ktutProfileFileName();
+    const OdString rootName = ktutProfileRootName();
+    key.Format(L"%s\\%s\\%s\\Dialogs\\%s\\", fileName.c_str(), rootName.c_str(),
+               CKhSystem::instance()->productInfo()->profileVersionKey(), dialogName.GetString());
+    return key;
+}
+
+}  // namespace
+
+int KtUiSetDialogData(const wchar_t* rootKey, const wchar_t* dialogName, const wchar_t* valueName,
+                      const wchar_t* value) {
+    const CString name = dialogName;
+    if (name.IsEmpty()) return 0;
+    CKbUiRegistryWriteAccess key(HKEY_CURRENT_USER, DialogKey(rootKey, name));
+    return key.SetString(valueName, value) ? 1 : 0;
+}

@@ -1,0 +1,90 @@
+#!/usr/bin/env python3
+"""Draws the toolkit's own bitmaps and icons into ktui/res, so that each is a few lines to read and change.
+
+Run it after a change; the files it writes are kept in the tree.
+"""
+import pathlib
+import struct
+
+RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
+MASK = (255, 0, 255)
+
+
+def write_bmp(path, rows):
+    """Writes rows of (r, g, b) pixels, top row first, as a 24-bit bitmap."""
+    width, height = len(rows[0]), len(rows)
+    pad = b"\0" * (-width * 3 % 4)
+    data = b"".join(b"".join(bytes((b, g, r)) for r, g, b in row) + pad for row in reversed(rows))
+    header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(data), 2835, 2835, 0, 0)
+    path.write_bytes(b"BM" + struct.pack("<IHHI", 54 + len(data), 0, 0, 54) + header + data)
+
+
+def dib_with_alpha(rows):
+    """An icon image: 32-bit pixels (r, g, b, a), then a mask derived from the alpha."""
+    width, height = len(rows[0]), len(rows)
+    pixels = b"".join(bytes((b, g, r, a)) for row in reversed(rows) for r, g, b, a in row)
+    mask = b""
+    for row in reversed(rows):
+        bits = "".join("0" if pixel[3] >= 128 else "1" for pixel in row)
+        bits += "0" * (-len(bits) % 32)
+        mask += int(bits, 2).to_bytes(len(bits) // 8, "big")
+    return struct.pack("<IiiHHIIiiII", 40, width, 2 * height, 1, 32, 0, 0, 0, 0, 0, 0) + pixels + mask
+
+
+def write_ico(path, images):
+    """Writes one icon of several images, each a square of (r, g, b, a) rows."""
+    dibs = [dib_with_alpha(rows) for rows in images]
+    offset = 6 + 16 * len(dibs)
+    directory = struct.pack("<HHH", 0, 1, len(dibs))
+    for rows, dib in zip(images, dibs):
+        size = len(rows) % 256
+        directory += struct.pack("<BBBBHHII", size, size, 0, 0, 1, 32, len(dib), offset)
+        offset += len(dib)
+    path.write_bytes(directory + b"".join(dibs))
+
+
+def drop_arrow(ink):
+    """A 9 by 9 cell with a triangle that points down."""
+    cell = [[MASK] * 9 for _ in range(9)]
+    for row in range(4):
+        for column in range(1 + row, 8 - row):
+            cell[3 + row][column] = ink
+    return cell
+
+
+def side_by_side(*cells):
+    return [sum(rows, []) for rows in zip(*cells)]
+
+
+def dialog_icon(size):
+    """A drawing sheet with a polyline and its node, the mark of the product's dialogs."""
+    scale = size / 16
+    clear, paper, edge = (0, 0, 0, 0), (250, 250, 252, 255), (72, 84, 104, 255)
+    line, node = (0, 102, 184, 255), (230, 108, 44, 255)
+
+    def near_segment(x, y, x0, y0, x1, y1, reach):
+        dx, dy = x1 - x0, y1 - y0
+        t = max(0.0, min(1.0, ((x - x0) * dx + (y - y0) * dy) / (dx * dx + dy * dy)))
+        return (x - x0 - t * dx) ** 2 + (y - y0 - t * dy) ** 2 <= reach * reach
+
+    def pixel(x, y):
+        if (x - 10.5) ** 2 + (y - 5.0) ** 2 <= 1.8 ** 2:
+            return node
+        if near_segment(x, y, 4.0, 11.5, 10.5, 5.0, 0.75) or near_segment(x, y, 4.0, 11.5, 12.0, 11.5, 0.75):
+            return line
+        if not (1.5 <= x <= 14.5 and 1.5 <= y <= 14.5):
+            return clear
+        border = min(x - 1.5, 14.5 - x, y - 1.5, 14.5 - y) < max(1.0, 1.0 / scale)
+        return edge if border else paper
+
+    return [[pixel((x + 0.5) / scale, (y + 0.5) / scale) for x in range(size)] for y in range(size)]
+
+
+def main():
+    RES.mkdir(parents=True, exist_ok=True)
+    write_bmp(RES / "drop_arrows.bmp", side_by_side(drop_arrow((0, 0, 0)), drop_arrow((128, 128, 128))))
+    write_ico(RES / "dialog.ico", [dialog_icon(size) for size in (16, 32, 48)])
+
+
+if __name__ == "__main__":
+    main()
