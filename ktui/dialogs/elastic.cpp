@@ -1,6 +1,6 @@
 #include <ktui/dialogs/elastic.h>
 
-#include <ktui/dialogs/dialog.h>
+#include <ktui/dialogs/kbui_dialog.h>
 
 KbUiElastic::KbUiElastic(CKbUiDialog* dialog) : m_dialog(dialog) {}
 

@@ -11,7 +11,7 @@
 // kept per user in the registry; nothing is reported in words.
 #pragma once
 
-#include <ktui/dialogs/base_dialog.h>
+#include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/elastic_arithmetic.h>
 
 class KbUiElastic;

@@ -1,5 +1,5 @@
 // What a dialog remembers between its showings: its name and key in the registry, placement, list columns.
-#include <ktui/dialogs/dialog.h>
+#include <ktui/dialogs/kbui_dialog.h>
 
 #include <ktui/dialogs/elastic.h>
 #include <ktui/text/registry_access.h>

@@ -1,4 +1,4 @@
-#include <ktui/tips/tip_window.h>
+#include <ktui/tips/kbui_tip_window.h>
 
 #include <ktui/host/control_font.h>
 

@@ -1,4 +1,4 @@
-#include <ktui/tips/text_tip.h>
+#include <ktui/tips/kbui_text_tip.h>
 
 IMPLEMENT_DYNAMIC(CKbUiTextTip, CKbUiTipWindow)
 

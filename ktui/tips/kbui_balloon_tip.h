@@ -1,7 +1,7 @@
 // CKbUiBalloonTip: a tip window without focus test and timer, and the balloon functions that clients link.
 #pragma once
 
-#include <ktui/tips/tip_window.h>
+#include <ktui/tips/kbui_tip_window.h>
 
 class KTUI_API CKbUiBalloonTip : public CKbUiTipWindow {
     DECLARE_DYNAMIC(CKbUiBalloonTip)

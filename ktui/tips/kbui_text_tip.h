@@ -1,7 +1,7 @@
 // CKbUiTextTip: the tip window that a dialog shows for its controls.
 #pragma once
 
-#include <ktui/tips/tip_window.h>
+#include <ktui/tips/kbui_tip_window.h>
 
 class KTUI_API CKbUiTextTip : public CKbUiTipWindow {
     DECLARE_DYNAMIC(CKbUiTextTip)

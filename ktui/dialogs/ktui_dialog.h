@@ -1,7 +1,7 @@
 // CKtUiDialog: the resizable, remembering dialog bound to the host application.
 #pragma once
 
-#include <ktui/dialogs/dialog.h>
+#include <ktui/dialogs/kbui_dialog.h>
 
 class KTUI_API CKtUiDialog : public CKbUiDialog {
     DECLARE_DYNAMIC(CKtUiDialog)

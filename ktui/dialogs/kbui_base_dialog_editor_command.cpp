@@ -1,7 +1,7 @@
 // The editor command protocol: a dialog and its parents step aside while the user works in the drawing.
-#include <ktui/dialogs/base_dialog.h>
+#include <ktui/dialogs/kbui_base_dialog.h>
 
-#include <ktui/tips/text_tip.h>
+#include <ktui/tips/kbui_text_tip.h>
 
 bool CKbUiBaseDialog::isInModalLoop() {
     CWnd* window = this;

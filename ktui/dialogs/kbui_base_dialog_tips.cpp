@@ -1,7 +1,7 @@
 // The tips of a dialog: the decision which tip to show, and the windows that show it.
-#include <ktui/dialogs/base_dialog.h>
+#include <ktui/dialogs/kbui_base_dialog.h>
 
-#include <ktui/tips/text_tip.h>
+#include <ktui/tips/kbui_text_tip.h>
 
 namespace {
 

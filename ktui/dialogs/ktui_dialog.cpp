@@ -1,4 +1,4 @@
-#include <ktui/dialogs/application_dialog.h>
+#include <ktui/dialogs/ktui_dialog.h>
 
 #include <kh_system.h>
 

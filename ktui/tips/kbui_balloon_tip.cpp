@@ -1,4 +1,4 @@
-#include <ktui/tips/balloon_tip.h>
+#include <ktui/tips/kbui_balloon_tip.h>
 
 #include <afxcmn.h>
 

@@ -1,4 +1,4 @@
-#include <ktui/dialogs/dialog.h>
+#include <ktui/dialogs/kbui_dialog.h>
 
 #include <kh_system.h>
 

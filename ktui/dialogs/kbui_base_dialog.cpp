@@ -1,11 +1,11 @@
-#include <ktui/dialogs/base_dialog.h>
+#include <ktui/dialogs/kbui_base_dialog.h>
 
 #include <kh_system.h>
 #include <ktut.h>
 
 #include <ktui/host/help_path.h>
 #include <ktui/host/module.h>
-#include <ktui/tips/text_tip.h>
+#include <ktui/tips/kbui_text_tip.h>
 
 namespace {
 
