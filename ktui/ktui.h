@@ -4,6 +4,9 @@
 #include <ktui/controls/kbui_header_ctrl.h>
 #include <ktui/controls/kbui_list_box.h>
 #include <ktui/controls/kbui_list_ctrl.h>
+#include <ktui/dialogs/kbui_base_dialog.h>
+#include <ktui/dialogs/kbui_dialog.h>
+#include <ktui/dialogs/ktui_dialog.h>
 #include <ktui/host/draw_tip_text.h>
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_services.h>
@@ -29,3 +32,6 @@
 #include <ktui/text/ktui_string.h>
 #include <ktui/text/ktui_string_exp.h>
 #include <ktui/text/registry_access.h>
+#include <ktui/tips/kbui_balloon_tip.h>
+#include <ktui/tips/kbui_text_tip.h>
+#include <ktui/tips/kbui_tip_window.h>

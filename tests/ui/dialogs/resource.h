@@ -1,0 +1,14 @@
+// Dialog templates of the dialog tests.
+#ifndef DIALOGS_TEST_RESOURCE_H
+#define DIALOGS_TEST_RESOURCE_H
+
+#define IDD_ELASTIC 200
+#define IDD_FIXED 201
+
+#define IDC_FIRST 1001
+#define IDC_SECOND 1002
+#define IDC_THIRD 1003
+#define IDC_LIST 1004
+#define IDC_BARE_LIST 1005
+
+#endif
