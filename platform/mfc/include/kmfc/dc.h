@@ -296,4 +296,5 @@ protected:
 private:
     template <class F>
     auto on_both(F function);
+    void follow_position();
 };

@@ -4,6 +4,7 @@
 #include <afx.h>
 
 class CDC;
+class CWnd;
 
 /// Base of the wrappers of GDI handles. The destructor deletes the handle; Detach gives it to the caller.
 /// FromHandle makes a temporary object that lasts until the thread is idle and never deletes its handle.
