@@ -2,8 +2,14 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <iterator>
 
 #include "kmfc/exception_macros.h"
+
+#ifdef _WIN32
+#include <afxres.h>
+#include <kmfc/app.h>
+#endif
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -72,3 +78,13 @@ AFX_EXCEPTION_LINK::~AFX_EXCEPTION_LINK() {
 
 void AFXAPI AfxKeepCaught(CException* pException) { innermost_link->m_pException = pException; }
 void AFXAPI AfxThrowLastCleanup() { innermost_link->m_pException = nullptr; }
+
+#ifdef _WIN32
+
+int CException::ReportError(UINT nType, UINT nMessageID) {
+    wchar_t text[512];
+    if (GetErrorMessage(text, static_cast<UINT>(std::size(text)))) return AfxMessageBox(text, nType);
+    return AfxMessageBox(nMessageID != 0 ? nMessageID : AFX_IDP_INTERNAL_FAILURE, nType);
+}
+
+#endif

@@ -7,6 +7,8 @@
 #include <afxwin.h>
 #include <kmfc/handle_map.h>
 
+#include "../gdi/gdi_maps.h"
+
 namespace kmfc {
 
 /// The permanent and temporary CWnd objects of a thread.
@@ -37,6 +39,7 @@ struct ThreadState {
 
     CWinThread* m_pCurrentWinThread = nullptr;
     WindowMap m_windows;
+    GdiMaps m_gdi;
     MessageCache m_cache;
     MSG m_msgCur = {};       ///< last message taken from the queue
     MSG m_lastSentMsg = {};  ///< message in hand of the innermost window procedure

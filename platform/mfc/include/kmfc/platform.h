@@ -8,6 +8,8 @@
 #ifdef _WIN32
 #include <windows.h>
 #include <commctrl.h>
+// A macro of two arguments that would swallow CWnd::GetNextWindow.
+#undef GetNextWindow
 #ifdef KMFC_EXPORTS
 #define KMFC_API __declspec(dllexport)
 #else

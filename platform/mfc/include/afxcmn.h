@@ -1,0 +1,14 @@
+// The common controls.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/combo_box_ex.h>
+#include <kmfc/header_ctrl.h>
+#include <kmfc/image_list.h>
+#include <kmfc/list_ctrl.h>
+#include <kmfc/range_controls.h>
+#include <kmfc/status_bar_ctrl.h>
+#include <kmfc/tab_ctrl.h>
+#include <kmfc/tool_tip_ctrl.h>
+#include <kmfc/tree_ctrl.h>

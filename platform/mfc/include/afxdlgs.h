@@ -1,0 +1,6 @@
+// The system's dialogs.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/common_dialogs.h>
