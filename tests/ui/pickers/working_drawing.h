@@ -25,8 +25,6 @@ public:
         color.setColorIndex(index);
         setCurrentLayerColor(color);
     }
-    /// Erases the current layer's record, so that only its id is left.
-    void eraseCurrentLayer() { m_drawing->clayer().open<OdDbLayerTableRecord>(OdDb::kForWrite)->erase(); }
 
 private:
     OdSmartPtr<OdDbDatabase> m_drawing;
