@@ -166,7 +166,7 @@ TEST(ColorSwatches, GeometryOfASixteenPixelImage) {
 
 TEST(ColorSwatches, SixPixelImageHasNoPixelOfRampOrDiagonal) {
     InHolder<Picker> in;
-    for (const __int64 cargo : {static_cast<__int64>(kCargoOther), __int64{7}}) {
+    for (const int cargo : {kCargoOther, 7}) {
         Canvas canvas(6, 6, kUntouched);
         CRect rect(0, 0, 6, 6);
         in.host.askedColors.clear();
