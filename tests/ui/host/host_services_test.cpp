@@ -1,0 +1,114 @@
+#include <ktui/host/help_path.h>
+#include <ktui/host/host_services.h>
+#include <ktui/host/message_box.h>
+#include <ktui/host/resource_scope.h>
+
+#include <imm.h>
+#include <od_host_services.h>
+
+#include <stdexcept>
+
+#include "test_host.h"
+#include "ui_test.h"
+
+using ui_test::ParentWindow;
+using ui_test::TestHost;
+
+TEST(HostServices, MainWindowIsTheDockingFrameAndNotTheDialogParent) {
+    TestHost host;
+    ParentWindow frame;
+    ParentWindow dialogParent;
+    host.frame = &frame;
+    AfxGetApp()->m_pMainWnd = &dialogParent;
+    EXPECT_EQ(KtUiMainWindow(), &frame);
+    AfxGetApp()->m_pMainWnd = nullptr;
+}
+
+TEST(HostServices, RootKeyIsLeftAloneWithoutRuntimeServices) {
+    CString key = L"as it was";
+    OdDbHostAppServices* former = oddbHostApplicationServices();
+    oddbSetHostApplicationServices(nullptr);
+    KtUiRootKey(key);
+    EXPECT_STREQ(key, L"as it was");
+    OdDbHostAppServices services;
+    oddbSetHostApplicationServices(&services);
+    KtUiRootKey(key);
+    EXPECT_STREQ(key, services.registryProductRootKey().c_str());
+    oddbSetHostApplicationServices(former);
+}
+
+TEST(HostServices, ToolTipsAnswerTwo) { EXPECT_EQ(KtUiEnableToolTips(), 2); }
+
+TEST(HostServices, HelpFileIsFoundThroughTheHost) {
+    TestHost host;
+    host.files[L"dialogs.chm"] = L"C:\\Help\\dialogs.chm";
+    CString path = L"old";
+    EXPECT_EQ(KbUiFindContextHelpFullPath(L"missing.chm", path), 0);
+    EXPECT_STREQ(path, L"old");
+    EXPECT_EQ(KbUiFindContextHelpFullPath(L"dialogs.chm", path), 1);
+    EXPECT_STREQ(path, L"C:\\Help\\dialogs.chm");
+}
+
+TEST(HostServices, SubstituteShellFontLeavesTheFont) {
+    ParentWindow window;
+    CFont font;
+    KbUiSubstituteShellFont(window, font);
+    EXPECT_EQ(font.GetSafeHandle(), nullptr);
+    EXPECT_EQ(window.GetFont(), nullptr);
+}
+
+TEST(HostServices, CompositionWindowMovesToThePoint) {
+    ParentWindow window;
+    const HIMC context = ::ImmGetContext(window.m_hWnd);
+    ASSERT_NE(context, nullptr);
+    ktuiSetCompositionWindow(window.m_hWnd, POINT{31, 17});
+    COMPOSITIONFORM form = {};
+    ::ImmGetCompositionWindow(context, &form);
+    EXPECT_EQ(form.dwStyle, static_cast<DWORD>(CFS_POINT));
+    EXPECT_EQ(form.ptCurrentPos.x, 31);
+    EXPECT_EQ(form.ptCurrentPos.y, 17);
+    ktuiSetCompositionWindow(nullptr, POINT{5, 5});
+    ::ImmGetCompositionWindow(context, &form);
+    EXPECT_EQ(form.ptCurrentPos.x, 31) << "a null window makes no call";
+    ::ImmReleaseContext(window.m_hWnd, context);
+}
+
+TEST(ResourceScope, PopsWhatItPushed) {
+    TestHost host;
+    const HINSTANCE before = AfxGetResourceHandle();
+    {
+        const ResourceScope outer(::GetModuleHandleW(L"user32.dll"));
+        EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandleW(L"user32.dll"));
+        {
+            const ResourceScope inner(::GetModuleHandleW(L"gdi32.dll"));
+            EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandleW(L"gdi32.dll"));
+        }
+        EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandleW(L"user32.dll"));
+    }
+    EXPECT_EQ(AfxGetResourceHandle(), before);
+    EXPECT_EQ(host.pushes, 2);
+    EXPECT_EQ(host.pops, 2);
+}
+
+TEST(ResourceScope, PopsWhenAnExceptionLeavesIt) {
+    TestHost host;
+    EXPECT_THROW(
+        {
+            const ResourceScope scope(::GetModuleHandleW(L"user32.dll"));
+            throw std::runtime_error("leave");
+        },
+        std::runtime_error);
+    EXPECT_EQ(host.pops, 1);
+    EXPECT_TRUE(host.resourceStack.empty());
+}
+
+TEST(MessageBox, AnswersTheButtonThatWasPressed) {
+    TestHost host;
+    CString shown;
+    ui_test::when_dialog(L"", [&](HWND box) {
+        const HWND text = ::GetDlgItem(box, 0xFFFF);
+        if (text) shown = ui_test::text_of(text);
+        ::PostMessageW(box, WM_COMMAND, IDNO, 0);
+    });
+    EXPECT_EQ(KtUiMessageBox(L"caption", L"Save the drawing?", MB_YESNO | MB_ICONQUESTION), IDNO);
+}
