@@ -70,15 +70,15 @@ private:
 
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
 
-#define DECLARE_DYNAMIC(class_name)              \
-public:                                          \
-    static CRuntimeClass class##class_name;      \
-    static CRuntimeClass* PASCAL GetThisClass(); \
-    CRuntimeClass* GetRuntimeClass() const override;
+#define DECLARE_DYNAMIC(class_name)                               \
+public:                                                           \
+    static CRuntimeClass class##class_name;                       \
+    [[maybe_unused]] static CRuntimeClass* PASCAL GetThisClass(); \
+    [[maybe_unused]] CRuntimeClass* GetRuntimeClass() const override;
 
 #define DECLARE_DYNCREATE(class_name) \
     DECLARE_DYNAMIC(class_name)       \
-    static CObject* PASCAL CreateObject();
+    [[maybe_unused]] static CObject* PASCAL CreateObject();
 
 #define DECLARE_SERIAL(class_name) \
     DECLARE_DYNCREATE(class_name)  \
