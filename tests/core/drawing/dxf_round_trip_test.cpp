@@ -10,7 +10,8 @@ void expectStable(OdDbDatabase& drawing, OdDb::DwgVersion version) {
     const std::string first = drawing.writeDxfBytes(version);
     OdDbDatabasePtr again(new OdDbDatabase);
     OdDbDxfError error;
-    ASSERT_EQ(again->readDxfBytes(first, &error), kOdOk) << odUtf8(error.text.view()) << " line " << error.line;
+    ASSERT_EQ(again->readDxfBytes(first, &error), kOdOk)
+        << odUtf8(error.text.view()) << " line " << error.line;
     EXPECT_EQ(again->originalFileVersion(), version);
     EXPECT_EQ(again->writeDxfBytes(), first) << "version " << version;
 }
@@ -32,7 +33,8 @@ const char kEveryKind[] =
 const char kBlocks[] =
     "0|SECTION\n2|BLOCKS\n0|BLOCK\n8|0\n2|DOOR\n70|0\n10|0\n20|0\n30|0\n3|DOOR\n"
     "0|LINE\n8|0\n10|0\n20|0\n11|1\n21|0\n0|ENDBLK\n8|0\n"
-    "0|BLOCK\n8|0\n2|*D1\n70|1\n10|0\n20|0\n30|0\n0|LINE\n8|0\n10|0\n20|0\n11|4\n21|0\n0|ENDBLK\n8|0\n0|ENDSEC\n";
+    "0|BLOCK\n8|0\n2|*D1\n70|1\n10|0\n20|0\n30|0\n0|LINE\n8|0\n10|0\n20|0\n11|4\n21|0\n0|ENDBLK\n8|0\n0|"
+    "ENDSEC\n";
 
 std::string everyKindR12() {
     return dxf(header("AC1009") + kBlocks + "0|SECTION\n2|ENTITIES\n" + kEveryKind + "0|ENDSEC\n0|EOF");
@@ -40,19 +42,25 @@ std::string everyKindR12() {
 
 /// Entities that R12 doesn't have.
 const char kNewerKinds[] =
-    "0|LWPOLYLINE\n100|AcDbEntity\n8|0\n420|16711680\n370|50\n100|AcDbPolyline\n90|3\n70|1\n43|0\n10|0\n20|0\n"
+    "0|LWPOLYLINE\n100|AcDbEntity\n8|0\n420|16711680\n370|50\n100|AcDbPolyline\n90|3\n70|1\n43|0\n10|0\n20|"
+    "0\n"
     "10|4\n20|0\n42|1\n10|4\n20|3\n"
-    "0|ELLIPSE\n100|AcDbEntity\n8|0\n100|AcDbEllipse\n10|0\n20|0\n30|0\n11|4\n21|0\n31|0\n210|0\n220|0\n230|1\n"
+    "0|ELLIPSE\n100|AcDbEntity\n8|0\n100|AcDbEllipse\n10|0\n20|0\n30|0\n11|4\n21|0\n31|0\n210|0\n220|0\n230|"
+    "1\n"
     "40|0.5\n41|0\n42|3.1\n"
-    "0|SPLINE\n100|AcDbEntity\n8|0\n100|AcDbSpline\n70|8\n71|3\n72|8\n73|4\n74|0\n40|0\n40|0\n40|0\n40|0\n40|1\n40|1\n"
+    "0|SPLINE\n100|AcDbEntity\n8|0\n100|AcDbSpline\n70|8\n71|3\n72|8\n73|4\n74|0\n40|0\n40|0\n40|0\n40|0\n40|"
+    "1\n40|1\n"
     "40|1\n40|1\n10|0\n20|0\n30|0\n10|1\n20|2\n30|0\n10|3\n20|2\n30|0\n10|4\n20|0\n30|0\n"
-    "0|MTEXT\n100|AcDbEntity\n8|0\n100|AcDbMText\n10|0\n20|9\n30|0\n40|2.5\n41|60\n71|1\n3|first \n1|second\\Pline\n"
-    "0|HATCH\n100|AcDbEntity\n8|0\n100|AcDbHatch\n10|0\n20|0\n30|0\n2|SOLID\n70|1\n71|0\n91|0\n75|0\n76|1\n98|0\n";
+    "0|MTEXT\n100|AcDbEntity\n8|0\n100|AcDbMText\n10|0\n20|9\n30|0\n40|2.5\n41|60\n71|1\n3|first "
+    "\n1|second\\Pline\n"
+    "0|HATCH\n100|AcDbEntity\n8|0\n100|AcDbHatch\n10|0\n20|0\n30|0\n2|SOLID\n70|1\n71|0\n91|0\n75|0\n76|"
+    "1\n98|0\n";
 
 }  // namespace
 
 TEST(DxfRoundTrip, AnEmptyDrawingIsStableInEveryVersion) {
-    for (const OdDb::DwgVersion version : kAllVersions) expectStable(*OdDbDatabasePtr(new OdDbDatabase), version);
+    for (const OdDb::DwgVersion version : kAllVersions)
+        expectStable(*OdDbDatabasePtr(new OdDbDatabase), version);
 }
 
 TEST(DxfRoundTrip, EveryKindOfAnR12FileIsStableInEveryVersion) {
@@ -129,18 +137,19 @@ TEST(DxfRoundTrip, MarkersAreMadeForTheVersionsThatWantThem) {
 }
 
 TEST(DxfRoundTrip, NumbersKeepEveryBit) {
-    const OdDbDatabasePtr drawing = readDrawing(
-        withEntities("0|LINE\n8|0\n10|0.1\n20|1e-300\n30|-0\n11|123456789.123456789\n21|3.3333333333333335\n31|1E+20\n"));
+    const OdDbDatabasePtr drawing = readDrawing(withEntities(
+        "0|LINE\n8|0\n10|0.1\n20|1e-300\n30|-0\n11|123456789.123456789\n21|3.3333333333333335\n31|1E+20\n"));
     ASSERT_TRUE(drawing);
     const OdDbDatabasePtr again = readDrawing(drawing->writeDxfBytes());
     EXPECT_EQ(firstEntity<OdDbLine>(*again)->startPoint(), (OdGePoint3d{0.1, 1e-300, -0.0}));
-    EXPECT_EQ(firstEntity<OdDbLine>(*again)->endPoint(), (OdGePoint3d{123456789.123456789, 3.3333333333333335, 1e20}));
+    EXPECT_EQ(firstEntity<OdDbLine>(*again)->endPoint(),
+              (OdGePoint3d{123456789.123456789, 3.3333333333333335, 1e20}));
 }
 
 TEST(DxfRoundTrip, HandlesStayAndNewOnesAreFree) {
-    const OdDbDatabasePtr drawing =
-        readDrawing(withEntities("0|LINE\n5|ABC\n8|0\n10|0\n20|0\n11|1\n21|0\n0|LINE\n8|0\n10|0\n20|0\n11|1\n21|0\n"
-                                 "0|LINE\n5|ABC\n8|0\n10|0\n20|0\n11|1\n21|0\n"));
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|LINE\n5|ABC\n8|0\n10|0\n20|0\n11|1\n21|0\n0|LINE\n8|0\n10|0\n20|0\n11|1\n21|0\n"
+                     "0|LINE\n5|ABC\n8|0\n10|0\n20|0\n11|1\n21|0\n"));
     ASSERT_TRUE(drawing);
     const auto lines = modelEntities(*drawing);
     EXPECT_EQ(lines[0]->handle(), 0xABCu);

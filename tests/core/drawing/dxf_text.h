@@ -51,6 +51,6 @@ T* firstEntity(OdDbDatabase& drawing) {
 }
 
 /// Every version that can be written.
-inline constexpr OdDb::DwgVersion kAllVersions[] = {
-    OdDb::kDHL_1009, OdDb::kDHL_1012, OdDb::kDHL_1014, OdDb::kDHL_1015, OdDb::kDHL_1018,
-    OdDb::kDHL_1021, OdDb::kDHL_1024, OdDb::kDHL_1027, OdDb::kDHL_1032};
+inline constexpr OdDb::DwgVersion kAllVersions[] = {OdDb::kDHL_1009, OdDb::kDHL_1012, OdDb::kDHL_1014,
+                                                    OdDb::kDHL_1015, OdDb::kDHL_1018, OdDb::kDHL_1021,
+                                                    OdDb::kDHL_1024, OdDb::kDHL_1027, OdDb::kDHL_1032};

@@ -1,0 +1,136 @@
+// What the runtime doesn't understand survives reading and writing.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+
+#include "dxf_text.h"
+
+namespace {
+
+/// Whether the pairs occur one after the other in a written text.
+bool has(const std::string& text, const std::string& pairs) {
+    std::string flat;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = text.find("\r\n", at);
+        std::string line = text.substr(at, end - at);
+        line.erase(0, line.find_first_not_of(' ') == std::string::npos ? 0 : line.find_first_not_of(' '));
+        flat += line + "\n";
+        at = end + 2;
+    }
+    return flat.find("\n" + dxf(pairs)) != std::string::npos;
+}
+
+std::string rewritten(const std::string& text, OdDb::DwgVersion version = OdDb::kDHL_Unknown) {
+    const OdDbDatabasePtr drawing = readDrawing(text);
+    return drawing ? drawing->writeDxfBytes(version) : "(refused)";
+}
+
+}  // namespace
+
+TEST(DxfKeeps, UnknownHeaderVariables) {
+    const std::string text =
+        rewritten(dxf("0|SECTION\n2|HEADER\n9|$ACADVER\n1|AC1032\n9|$FUTUREVAR\n70|42\n9|$ODDPOINT\n10|1\n20|"
+                      "2\n0|ENDSEC\n0|EOF"));
+    EXPECT_TRUE(has(text, "9|$FUTUREVAR\n70|42\n9|$ODDPOINT\n10|1.0\n20|2.0"));
+}
+
+TEST(DxfKeeps, HeaderVariablesInFileOrder) {
+    const std::string text =
+        rewritten(dxf("0|SECTION\n2|HEADER\n9|$ACADVER\n1|AC1032\n9|$LUPREC\n70|2\n9|$XYZ\n1|a\n9|$"
+                      "LUNITS\n70|4\n0|ENDSEC\n0|EOF"));
+    EXPECT_TRUE(has(text, "9|$LUPREC\n70|2\n9|$XYZ\n1|a\n9|$LUNITS\n70|4"));
+}
+
+TEST(DxfKeeps, UnknownEntitiesGroupByGroup) {
+    const std::string body =
+        "100|AcDbFutureThing\n90|7\n1|text with  blanks \n10|1.0\n310|FFEE00\n360|1F\n290|1\n40|-0.5";
+    const std::string text =
+        rewritten(withEntities("0|FUTURETHING\n5|A0\n330|1F\n100|AcDbEntity\n8|0\n62|5\n" + body + "\n"));
+    EXPECT_TRUE(has(text, "100|AcDbEntity\n8|0\n62|5\n" + body));
+}
+
+TEST(DxfKeeps, UnknownGroupsOfKnownEntities) {
+    const std::string text = rewritten(withEntities(
+        "0|LINE\n5|A0\n100|AcDbEntity\n8|0\n100|AcDbLine\n10|0\n20|0\n11|1\n21|1\n298|1\n470|new\n"));
+    EXPECT_TRUE(has(text, "21|1.0\n298|1\n470|new"));
+}
+
+TEST(DxfKeeps, ExtendedDataReactorsAndEmbeddedObjects) {
+    const std::string text = rewritten(withEntities(
+        "0|MTEXT\n5|A0\n102|{ACAD_REACTORS\n330|BB\n102|}\n330|1F\n100|AcDbEntity\n8|0\n100|AcDbMText\n10|"
+        "0\n20|0\n40|1\n1|x\n"
+        "101|Embedded Object\n70|1\n10|1\n1001|ACAD\n1000|note\n1002|{\n1040|1.5\n1071|-9\n1005|A0\n1002|}\n",
+        "AC1032"));
+    EXPECT_TRUE(has(text, "5|A0\n102|{ACAD_REACTORS\n330|BB\n102|}"));
+    EXPECT_TRUE(
+        has(text,
+            "101|Embedded "
+            "Object\n70|1\n10|1.0\n1001|ACAD\n1000|note\n1002|{\n1040|1.5\n1071|-9\n1005|A0\n1002|}"));
+    EXPECT_FALSE(has(rewritten(text, OdDb::kDHL_1015), "101|Embedded Object"))
+        << "older versions have no embedded objects";
+}
+
+TEST(DxfKeeps, UnknownObjectsSectionsTablesAndClasses) {
+    const std::string text = rewritten(dxf(
+        header("AC1032") +
+        "0|SECTION\n2|CLASSES\n0|CLASS\n1|FUTURETHING\n2|AcDbFuture\n3|app\n90|1\n280|0\n281|1\n0|ENDSEC\n"
+        "0|SECTION\n2|TABLES\n0|TABLE\n2|FUTURE\n5|F0\n70|1\n0|FUTURE\n5|F1\n2|rec\n0|ENDTAB\n0|ENDSEC\n"
+        "0|SECTION\n2|OBJECTS\n0|DICTIONARY\n5|C\n330|0\n100|AcDbDictionary\n281|1\n3|MINE\n350|D0\n"
+        "0|MYOBJECT\n5|D0\n330|C\n100|MyObject\n1|kept\n90|3\n0|ENDSEC\n"
+        "0|SECTION\n2|ACDSDATA\n70|2\n0|ACDSSCHEMA\n90|0\n1|x\n0|ENDSEC\n"
+        "0|SECTION\n2|THUMBNAILIMAGE\n90|3\n310|A1B2C3\n0|ENDSEC\n0|EOF"));
+    EXPECT_TRUE(has(text, "0|CLASS\n1|FUTURETHING\n2|AcDbFuture\n3|app\n90|1\n280|0\n281|1"));
+    EXPECT_TRUE(has(text, "0|TABLE\n2|FUTURE\n5|F0\n70|1\n0|FUTURE\n5|F1\n2|rec\n0|ENDTAB"));
+    EXPECT_TRUE(has(text, "3|MINE\n350|D0"));
+    EXPECT_TRUE(has(text, "0|MYOBJECT\n5|D0\n330|C\n100|MyObject\n1|kept\n90|3"));
+    EXPECT_TRUE(has(text, "2|ACDSDATA\n70|2\n0|ACDSSCHEMA\n90|0\n1|x"));
+    EXPECT_TRUE(has(text, "2|THUMBNAILIMAGE\n90|3\n310|A1B2C3"));
+    EXPECT_EQ(readDrawing(text)->thumbnail(), "\xA1\xB2\xC3");
+}
+
+TEST(DxfKeeps, TablesThatHaveNoClass) {
+    const std::string text = rewritten(dxf(
+        header("AC1015") +
+        "0|SECTION\n2|TABLES\n0|TABLE\n2|VIEW\n5|6\n330|0\n100|AcDbSymbolTable\n70|1\n0|VIEW\n5|77\n330|6\n"
+        "100|AcDbSymbolTableRecord\n100|AcDbViewTableRecord\n2|FRONT\n70|0\n40|10\n10|1\n20|2\n0|ENDTAB\n"
+        "0|TABLE\n2|DIMSTYLE\n5|A\n100|AcDbSymbolTable\n70|1\n100|AcDbDimStyleTable\n71|1\n0|DIMSTYLE\n105|"
+        "78\n330|A\n"
+        "100|AcDbSymbolTableRecord\n100|AcDbDimStyleTableRecord\n2|ISO-25\n70|0\n41|2.5\n371|-2\n0|ENDTAB\n0|"
+        "ENDSEC\n0|EOF"));
+    EXPECT_TRUE(has(text,
+                    "0|VIEW\n5|77\n330|6\n100|AcDbSymbolTableRecord\n100|AcDbViewTableRecord\n2|FRONT\n70|"
+                    "0\n40|10.0\n10|1.0\n20|2.0"));
+    EXPECT_TRUE(has(text, "100|AcDbDimStyleTable\n71|1\n0|DIMSTYLE\n105|78"));
+    EXPECT_TRUE(has(text, "2|ISO-25\n70|0\n41|2.5\n371|-2"));
+}
+
+TEST(DxfKeeps, ArrowBlocksOfDimensionStylesAcrossVersions) {
+    const std::string r12 = dxf(
+        header("AC1009") +
+        "0|SECTION\n2|TABLES\n0|TABLE\n2|DIMSTYLE\n70|1\n0|DIMSTYLE\n2|ARROWS\n70|0\n5|TICK\n6|\n7|\n40|1\n"
+        "0|ENDTAB\n0|ENDSEC\n0|SECTION\n2|BLOCKS\n0|BLOCK\n8|0\n2|TICK\n70|0\n10|0\n20|0\n0|ENDBLK\n0|"
+        "ENDSEC\n0|EOF");
+    const std::string modern = rewritten(r12, OdDb::kDHL_1015);
+    EXPECT_NE(modern.find("342\r\n"), std::string::npos);
+    EXPECT_TRUE(has(rewritten(modern, OdDb::kDHL_1009), "2|ARROWS\n70|0\n5|TICK\n40|1.0"));
+}
+
+TEST(DxfKeeps, TheFileOnDiskWhenWritingFailsAndNothingElseBesideIt) {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "odrt_keeps_test";
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder / "target.dxf" / "inside");
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    EXPECT_NE(drawing->writeDxf((folder / "target.dxf").wstring().c_str()), kOdOk)
+        << "a folder is in the way";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1) << "no left-over file";
+    const std::wstring path = (folder / "part.dxf").wstring();
+    ASSERT_EQ(drawing->writeDxf(path.c_str()), kOdOk);
+    ASSERT_EQ(drawing->writeDxf(path.c_str()), kOdOk) << "over an older file";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2);
+    OdDbDatabasePtr again(new OdDbDatabase);
+    ASSERT_EQ(again->readDxf(path.c_str()), kOdOk);
+    EXPECT_EQ(again->getFilename(), path.c_str());
+    EXPECT_EQ(again->writeDxfBytes(), drawing->writeDxfBytes());
+    std::filesystem::remove_all(folder);
+}
