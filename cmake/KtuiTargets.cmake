@@ -6,7 +6,22 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+# The compiler's run-time DLLs go beside ours: exceptions cross our DLLs, so all of them share one copy.
+if(WIN32)
+  set(KTUI_RUNTIME_DLLS "")
+  foreach(runtime libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime} OUTPUT_VARIABLE found
+                    OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT IS_ABSOLUTE "${found}")
+      set(found /usr/x86_64-w64-mingw32/lib/${runtime})
+    endif()
+    list(APPEND KTUI_RUNTIME_DLLS "${found}")
+    file(COPY_FILE "${found}" "${CMAKE_BINARY_DIR}/bin/${runtime}" ONLY_IF_DIFFERENT)
+  endforeach()
+endif()
 
 find_program(KTUI_CCACHE ccache)
 if(KTUI_CCACHE)

@@ -80,7 +80,7 @@ TEST_F(BaseDialog, TheRootKeyIsMadeOfProfileAndVersion) {
         using CKtUiDialog::AppRootKey;
     } plain;
     const CString key = plain.AppRootKey();
-    EXPECT_EQ(key.Right(14), L"\\9.1\\Dialogs\\") << CStringA(key).GetString();
+    EXPECT_EQ(key.Right(13), L"\\9.1\\Dialogs\\") << CStringA(key).GetString();
     plain.SetAppRootKey(L"other\\");
     EXPECT_STREQ(plain.AppRootKey(), L"other\\");
 }
