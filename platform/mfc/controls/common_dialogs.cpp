@@ -27,17 +27,18 @@ UINT color_ok_message() {
     return message;
 }
 
-/// The system calls this first of all: it asks the dialog's object to initialize itself. Other messages reach that
-/// object by themselves.
-UINT_PTR CALLBACK dialog_hook(HWND window, UINT message, WPARAM, LPARAM) {
-    if (message != WM_INITDIALOG) return 0;
-    auto* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(window));
-    return dialog ? static_cast<UINT_PTR>(dialog->OnInitDialog()) : TRUE;
-}
-
 }  // namespace
 
 CCommonDialog::CCommonDialog(CWnd* pParentWnd) { m_pParentWnd = pParentWnd; }
+
+UINT_PTR CALLBACK CCommonDialog::dialog_hook(HWND window, UINT message, WPARAM, LPARAM) {
+    auto* dialog = DYNAMIC_DOWNCAST(CCommonDialog, CWnd::FromHandlePermanent(window));
+    return dialog ? dialog->answer_hook(message) : 0;
+}
+
+UINT_PTR CCommonDialog::answer_hook(UINT message) {
+    return message == WM_INITDIALOG ? static_cast<UINT_PTR>(OnInitDialog()) : 0;
+}
 
 // The system's own dialog procedure ends the dialog, so the buttons are passed on to it.
 void CCommonDialog::OnOK() {
@@ -77,9 +78,9 @@ void CColorDialog::SetCurrentColor(COLORREF clr) {
 
 BOOL CColorDialog::OnColorOK() { return FALSE; }
 
-LRESULT CColorDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == color_ok_message()) return OnColorOK();
-    return CCommonDialog::WindowProc(message, wParam, lParam);
+UINT_PTR CColorDialog::answer_hook(UINT message) {
+    if (message == color_ok_message()) return static_cast<UINT_PTR>(OnColorOK());
+    return CCommonDialog::answer_hook(message);
 }
 
 COLORREF* PASCAL CColorDialog::GetSavedCustomColors() {

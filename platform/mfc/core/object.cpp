@@ -21,8 +21,7 @@ CRuntimeClass* next_process_class(CRuntimeClass* previous) {
     return previous ? previous->m_pNextClass : process_classes;
 }
 
-kmfc::ClassListHead class_list_head = process_class_list;
-kmfc::ClassWalker class_walker = next_process_class;
+kmfc::ClassListHooks hooks = {process_class_list, next_process_class};
 
 /// Class names are identifiers, so anything else than ASCII cannot match.
 std::string narrow_name(LPCWSTR name) {
@@ -33,13 +32,14 @@ std::string narrow_name(LPCWSTR name) {
 
 }  // namespace
 
-void kmfc::set_class_list_hooks(ClassListHead head, ClassWalker walker) {
-    class_list_head = head ? head : process_class_list;
-    class_walker = walker ? walker : next_process_class;
+kmfc::ClassListHooks kmfc::set_class_list_hooks(ClassListHead head, ClassWalker walker) {
+    const ClassListHooks previous = hooks;
+    hooks = {head ? head : process_class_list, walker ? walker : next_process_class};
+    return previous;
 }
 
 void kmfc::unregister_class(CRuntimeClass* runtime_class) {
-    for (CRuntimeClass** link = class_list_head(); *link; link = &(*link)->m_pNextClass) {
+    for (CRuntimeClass** link = hooks.head(); *link; link = &(*link)->m_pNextClass) {
         if (*link == runtime_class) {
             *link = runtime_class->m_pNextClass;
             return;
@@ -48,7 +48,7 @@ void kmfc::unregister_class(CRuntimeClass* runtime_class) {
 }
 
 void AFXAPI AfxClassInit(CRuntimeClass* pNewClass) {
-    CRuntimeClass** head = class_list_head();
+    CRuntimeClass** head = hooks.head();
     pNewClass->m_pNextClass = *head;
     *head = pNewClass;
 }
@@ -77,7 +77,7 @@ CObject* PASCAL CRuntimeClass::CreateObject(LPCWSTR lpszClassName) {
 
 CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCSTR lpszClassName) {
     if (!lpszClassName) return nullptr;
-    for (CRuntimeClass* c = class_walker(nullptr); c; c = class_walker(c)) {
+    for (CRuntimeClass* c = hooks.walker(nullptr); c; c = hooks.walker(c)) {
         if (std::strcmp(c->m_lpszClassName, lpszClassName) == 0) return c;
     }
     return nullptr;

@@ -77,13 +77,13 @@ TEST(RuntimeClass, HooksDecideWhereClassesAreEntered) {
     static CRuntimeClass* module_list;
     module_list = nullptr;
     CRuntimeClass entered = {"CEntered", 8, 0xFFFF, nullptr, &CObject::GetThisClass, nullptr};
-    kmfc::set_class_list_hooks([] { return &module_list; },
-                               [](CRuntimeClass* at) { return at ? at->m_pNextClass : module_list; });
+    const kmfc::ClassListHooks before = kmfc::set_class_list_hooks(
+        [] { return &module_list; }, [](CRuntimeClass* at) { return at ? at->m_pNextClass : module_list; });
     AfxClassInit(&entered);
     EXPECT_EQ(module_list, &entered);
     EXPECT_EQ(CRuntimeClass::FromName("CEntered"), &entered);
     EXPECT_EQ(CRuntimeClass::FromName("CCircle"), nullptr);
-    kmfc::set_class_list_hooks(nullptr, nullptr);
+    kmfc::set_class_list_hooks(before.head, before.walker);
     EXPECT_EQ(CRuntimeClass::FromName("CEntered"), nullptr);
     EXPECT_EQ(CRuntimeClass::FromName("CCircle"), RUNTIME_CLASS(CCircle));
 }

@@ -85,9 +85,8 @@ TEST(StringFormat, IntegerSizesAreThoseOfThePlatform) {
 }
 
 TEST(StringFormat, AgreesWithTheCLibraryOnIntegers) {
-    for (const char* letters :
-         {"d",  "5d", "-5d|", "05d", "+d", " d",   ".3d",   "8.3d", "08.3d", ".0d",  "x",
-          "#x", "X",  "#X",   "o",   "#o", "#.0o", "#010x", "u",    "-#8x|", "+.0d", "+05d"}) {
+    for (const char* letters : {"d",  "5d", "-5d|", "05d", "+d", " d",    ".3d", "8.3d",  "08.3d", ".0d", "x",
+                                "#x", "X",  "#X",   "o",   "#o", "#010x", "u",   "-#8x|", "+.0d",  "+05d"}) {
         const std::string format = std::string("%") + letters;
         for (int value : {0, 1, -1, 42, -12345, INT_MAX, INT_MIN}) {
             char expected[64];
@@ -97,6 +96,8 @@ TEST(StringFormat, AgreesWithTheCLibraryOnIntegers) {
         }
     }
 }
+
+TEST(StringFormat, AlternateOctalOfNothingIsStillAZero) { EXPECT_EQ(formatted(L"%#.0o|%.0o", 0, 0), L"0|"); }
 
 TEST(StringFormat, AgreesWithTheCLibraryOnReals) {
     for (const char* letters : {"f",   ".0f",  "#.0f", "10.3f",  "-10.3f|", "+f",    " f",    "010.2f", "e",

@@ -268,7 +268,7 @@ TEST(Menu, LoadsAndAnswersItsItems) {
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->GetMenuItemCount(), 3);
     CString text;
-    EXPECT_EQ(file->GetMenuString(101, text, MF_BYCOMMAND), text.GetLength());
+    EXPECT_EQ(file->GetMenuString(101, text, MF_BYCOMMAND), 12);
     EXPECT_EQ(text, L"&Open\tCtrl+O");
     EXPECT_EQ(CMenu::FromHandle(menu), &menu);
     EXPECT_EQ(CMenu::FromHandlePermanent(file->m_hMenu), nullptr);

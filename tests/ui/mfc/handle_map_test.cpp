@@ -24,13 +24,14 @@ thread_local int allocations = -1;  // counted while not negative
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Kept out of line: inlined, the compiler takes malloc and free for a mismatched pair.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     if (allocations >= 0) ++allocations;
     if (void* memory = std::malloc(size)) return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 TEST(HandleMap, AHandleKeepsItsTemporaryObjectUntilIdle) {
     CHandleMap<Item> map;

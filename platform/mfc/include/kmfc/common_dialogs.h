@@ -15,6 +15,10 @@ protected:
     void OnOK() override;
     void OnCancel() override;
     INT_PTR run(BOOL (*show)(void* data), void* data, HWND& owner);
+    /// The hook that the system's dialogs call first of all; asks the dialog's object by answer_hook.
+    static UINT_PTR CALLBACK dialog_hook(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    /// Answers what the system tells the hook; 0 leaves it to the system. Starts OnInitDialog.
+    virtual UINT_PTR answer_hook(UINT message);
     DECLARE_MESSAGE_MAP()
 };
 
@@ -37,7 +41,7 @@ public:
 protected:
     /// Asked before the dialog closes; TRUE keeps it open.
     virtual BOOL OnColorOK();
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    UINT_PTR answer_hook(UINT message) override;
     DECLARE_MESSAGE_MAP()
 };
 

@@ -9,7 +9,11 @@
 #ifdef _WIN32
 #define AFXAPI __stdcall
 #define AFX_CDECL __cdecl
+#ifdef _AFXEXT
 #define AFX_EXT_CLASS __declspec(dllexport)
+#else
+#define AFX_EXT_CLASS __declspec(dllimport)
+#endif
 #else
 #define AFXAPI
 #define AFX_CDECL

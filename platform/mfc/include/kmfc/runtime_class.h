@@ -48,9 +48,15 @@ using ClassWalker = CRuntimeClass* (*)(CRuntimeClass* previous);
 /// Answers the head of the list that new classes are linked into.
 using ClassListHead = CRuntimeClass** (*)();
 
-/// Replaces where new classes are entered, and how all classes are walked. Null restores one list for the
-/// whole process. Used by the module state, which keeps a list per module.
-KMFC_API void set_class_list_hooks(ClassListHead head, ClassWalker walker);
+/// How classes are entered and walked.
+struct ClassListHooks {
+    ClassListHead head;
+    ClassWalker walker;
+};
+
+/// Replaces where new classes are entered, and how all classes are walked; answers what was in force. Null
+/// restores one list for the whole process. Used by the module state, which keeps a list per module.
+KMFC_API ClassListHooks set_class_list_hooks(ClassListHead head, ClassWalker walker);
 
 /// Takes a class out of the list it is in, if it is in the current one.
 KMFC_API void unregister_class(CRuntimeClass* runtime_class);
