@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include <ktui/ktui_api.h>
+
 /// First system version with themes, as `platform << 16 | major << 8 | minor`.
 constexpr std::uint32_t kFirstSystemWithThemes = 0x020501;
 /// First version of the common controls with themes, as `major << 16 | minor`.
@@ -74,5 +76,5 @@ struct ThemeResolution {
 /// `controlsVersion`. Below either first version with themes the library isn't even loaded. A missing window
 /// entry frees it again and leaves no entry at all; a missing animation entry costs only the animation
 /// entries.
-ThemeResolution ResolveThemeEntries(std::uint32_t osVersion, std::uint32_t controlsVersion,
-                                    ThemeLibrary& library);
+KTUI_API ThemeResolution ResolveThemeEntries(std::uint32_t osVersion, std::uint32_t controlsVersion,
+                                             ThemeLibrary& library);
