@@ -45,7 +45,7 @@ enum ThemeSlot : std::size_t {
 constexpr std::size_t kFirstAnimationSlot = kThemeBeginBufferedAnimation;
 
 /// Export names, by ThemeSlot.
-KTUI_API extern const std::array<const char*, kThemeSlotCount> kThemeEntryNames;
+extern const std::array<const char*, kThemeSlotCount> kThemeEntryNames;
 
 /// An entry whose signature is not known here.
 using ThemeEntry = void (*)();
@@ -77,4 +77,4 @@ struct ThemeResolution {
 /// entry frees it again and leaves no entry at all; a missing animation entry costs only the animation
 /// entries.
 KTUI_API ThemeResolution ResolveThemeEntries(std::uint32_t osVersion, std::uint32_t controlsVersion,
-                                    ThemeLibrary& library);
+                                             ThemeLibrary& library);

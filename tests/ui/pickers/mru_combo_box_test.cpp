@@ -24,6 +24,7 @@ public:
     int acceptedIndex = -1;
     std::vector<__int64> imagesDrawn;
     CRect imageRect;
+    std::vector<std::pair<int, int>> heightsSet;  ///< index and height of each CB_SETITEMHEIGHT
 
     int lastSelection() const { return m_lastSelection; }
     unsigned flags() const { return m_mruFlags; }
@@ -50,6 +51,13 @@ public:
     void DrawItemImage(CDC&, CRect& rect, __int64 cargo) override {
         imagesDrawn.push_back(cargo);
         imageRect = rect;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == CB_SETITEMHEIGHT)
+            heightsSet.emplace_back(static_cast<int>(wParam), static_cast<int>(lParam));
+        return CKtUiMRUComboBox::WindowProc(message, wParam, lParam);
     }
 };
 
@@ -109,7 +117,9 @@ TEST(MruPicker, ItemHeightFollowsTheIconTitleFont) {
     EXPECT_EQ(in.picker.ImageWidth(), expected) << "the image is square";
     EXPECT_EQ(in.picker.ExtraWidth(), expected);
     EXPECT_EQ(in.picker.GetItemHeight(0), expected);
-    EXPECT_EQ(in.picker.GetItemHeight(-1), expected);
+    using Set = std::pair<int, int>;
+    EXPECT_EQ(in.picker.heightsSet, (std::vector<Set>{{0, expected}, {-1, expected}}))
+        << "the list first, then the selection field";
     MEASUREITEMSTRUCT measure = {};
     in.picker.MeasureItem(&measure);
     EXPECT_EQ(measure.itemHeight, static_cast<UINT>(expected));

@@ -14,6 +14,12 @@ namespace ui_test {
 constexpr UINT kPickerId = 61;
 constexpr DWORD kPickerStyle = CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_VSCROLL;
 
+/// Lets the application idle, which frees the temporary objects of the class layer.
+inline void idle() {
+    for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
+    }
+}
+
 /// A picker of class `Class`, made by Create unless told otherwise.
 template <class Class>
 struct InHolder {

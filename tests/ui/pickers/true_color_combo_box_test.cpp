@@ -275,9 +275,11 @@ TEST(TrueColorPicker, OpeningAndClosingLeavesNothingBehind) {
         in.dropDown();
         in.closeUp();
     };
-    for (int i = 0; i < 5; ++i) openAndClose();
+    for (int i = 0; i < 50; ++i) openAndClose();
+    ui_test::idle();
     const HeldObjects before = count_held_objects();
     for (int i = 0; i < 50; ++i) openAndClose();
+    ui_test::idle();
     const HeldObjects after = count_held_objects();
     EXPECT_LE(after.gdiObjects, before.gdiObjects);
     EXPECT_LE(after.windows, before.windows);
