@@ -15,10 +15,12 @@ bool has(const std::string& text, const std::string& pairs) {
         const std::size_t end = text.find("\r\n", at);
         std::string line = text.substr(at, end - at);
         line.erase(0, line.find_first_not_of(' ') == std::string::npos ? 0 : line.find_first_not_of(' '));
-        flat += line + "\n";
+        flat.append(line).append(1, '\n');
         at = end + 2;
     }
-    return flat.find("\n" + dxf(pairs)) != std::string::npos;
+    const std::string wanted = dxf(pairs);
+    const std::size_t at = flat.find(wanted);
+    return at != std::string::npos && (at == 0 || flat[at - 1] == '\n');
 }
 
 std::string rewritten(const std::string& text, OdDb::DwgVersion version = OdDb::kDHL_Unknown) {
