@@ -66,7 +66,8 @@ namespace ui_test {
 
 void pump() {
     MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+    // A window that never validates its update region would keep the queue full for ever.
+    for (int left = 2000; left > 0 && ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE); --left) {
         if (!AfxPumpMessage()) return;
     }
 }

@@ -154,6 +154,7 @@ TEST_F(TipWindow, WithoutAControlNothingIsPainted) {
     tip.SendMessage(WM_PAINT);
     RECT pending;
     EXPECT_TRUE(::GetUpdateRect(tip.m_hWnd, &pending, FALSE));
+    tip.Hide();
 }
 
 TEST_F(TipWindow, MeasuresInTheOwnersFont) {
@@ -166,6 +167,7 @@ TEST_F(TipWindow, MeasuresInTheOwnersFont) {
 TEST_F(TipWindow, ABalloonShowsInAnUnfocusedApplicationAndStays) {
     CKbUiBalloonTip balloon;
     ASSERT_TRUE(balloon.Create(&parent));
+    balloon.SetControl(&target);
     balloon.MoveWindow(&area, FALSE);
     ::SetFocus(nullptr);
     balloon.Show();
