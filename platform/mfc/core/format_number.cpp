@@ -24,14 +24,10 @@ unsigned long long low_bytes(long long value, int size) {
 
 long long sign_extended(long long value, int size) {
     switch (size) {
-        case 1:
-            return static_cast<signed char>(value);
-        case 2:
-            return static_cast<short>(value);
-        case 4:
-            return static_cast<int>(value);
-        default:
-            return value;
+        case 1: return static_cast<signed char>(value);
+        case 2: return static_cast<short>(value);
+        case 4: return static_cast<int>(value);
+        default: return value;
     }
 }
 

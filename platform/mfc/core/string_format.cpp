@@ -38,18 +38,12 @@ public:
 
     FormatArgument next(Wanted wanted) {
         switch (wanted) {
-            case Wanted::integer32:
-                return FormatArgument::from(va_arg(m_arguments, int));
-            case Wanted::integer64:
-                return FormatArgument::from(va_arg(m_arguments, long long));
-            case Wanted::real:
-                return FormatArgument::from(va_arg(m_arguments, double));
-            case Wanted::narrow_text:
-                return FormatArgument::from(va_arg(m_arguments, const char*));
-            case Wanted::wide_text:
-                return FormatArgument::from(va_arg(m_arguments, const wchar_t*));
-            case Wanted::pointer:
-                break;
+            case Wanted::integer32: return FormatArgument::from(va_arg(m_arguments, int));
+            case Wanted::integer64: return FormatArgument::from(va_arg(m_arguments, long long));
+            case Wanted::real: return FormatArgument::from(va_arg(m_arguments, double));
+            case Wanted::narrow_text: return FormatArgument::from(va_arg(m_arguments, const char*));
+            case Wanted::wide_text: return FormatArgument::from(va_arg(m_arguments, const wchar_t*));
+            case Wanted::pointer: break;
         }
         return FormatArgument::from(va_arg(m_arguments, const void*));
     }
@@ -107,23 +101,12 @@ private:
     void flags(FormatField& field) {
         for (;; ++m_at) {
             switch (*m_at) {
-                case '-':
-                    field.left = true;
-                    break;
-                case '+':
-                    field.plus = true;
-                    break;
-                case ' ':
-                    field.blank = true;
-                    break;
-                case '#':
-                    field.alternate = true;
-                    break;
-                case '0':
-                    field.zeros = true;
-                    break;
-                default:
-                    return;
+                case '-': field.left = true; break;
+                case '+': field.plus = true; break;
+                case ' ': field.blank = true; break;
+                case '#': field.alternate = true; break;
+                case '0': field.zeros = true; break;
+                default: return;
             }
         }
     }
@@ -180,17 +163,13 @@ private:
 
     bool write(const FormatField& field) {
         switch (field.letter) {
-            case '%':
-                m_out.push_back(Ch('%'));
-                return true;
+            case '%': m_out.push_back(Ch('%')); return true;
             case 'd':
             case 'i':
             case 'u':
             case 'o':
             case 'x':
-            case 'X':
-                write_integer(field);
-                return true;
+            case 'X': write_integer(field); return true;
             case 'e':
             case 'E':
             case 'f':
@@ -198,25 +177,14 @@ private:
             case 'g':
             case 'G':
             case 'a':
-            case 'A':
-                write_number(field, real_text(field, real_argument()));
-                return true;
+            case 'A': write_number(field, real_text(field, real_argument())); return true;
             case 'c':
-            case 'C':
-                write_character(field);
-                return true;
+            case 'C': write_character(field); return true;
             case 's':
-            case 'S':
-                write_text(field);
-                return true;
-            case 'p':
-                write_pointer(field);
-                return true;
-            case 'n':
-                m_source.next(Wanted::pointer);
-                return true;
-            default:
-                return false;
+            case 'S': write_text(field); return true;
+            case 'p': write_pointer(field); return true;
+            case 'n': m_source.next(Wanted::pointer); return true;
+            default: return false;
         }
     }
 

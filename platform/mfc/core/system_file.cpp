@@ -7,25 +7,18 @@ namespace {
 
 DWORD access_of(UINT flags) {
     switch (flags & 3) {
-        case CFile::modeWrite:
-            return GENERIC_WRITE;
-        case CFile::modeReadWrite:
-            return GENERIC_READ | GENERIC_WRITE;
-        default:
-            return GENERIC_READ;
+        case CFile::modeWrite: return GENERIC_WRITE;
+        case CFile::modeReadWrite: return GENERIC_READ | GENERIC_WRITE;
+        default: return GENERIC_READ;
     }
 }
 
 DWORD sharing_of(UINT flags) {
     switch (flags & 0x70) {
-        case CFile::shareDenyWrite:
-            return FILE_SHARE_READ;
-        case CFile::shareDenyRead:
-            return FILE_SHARE_WRITE;
-        case CFile::shareDenyNone:
-            return FILE_SHARE_READ | FILE_SHARE_WRITE;
-        default:
-            return 0;
+        case CFile::shareDenyWrite: return FILE_SHARE_READ;
+        case CFile::shareDenyRead: return FILE_SHARE_WRITE;
+        case CFile::shareDenyNone: return FILE_SHARE_READ | FILE_SHARE_WRITE;
+        default: return 0;
     }
 }
 
@@ -90,45 +83,31 @@ CString full_path(LPCTSTR path) {
 
 int PASCAL CFileException::OsErrorToException(LONG lOsError) {
     switch (lOsError) {
-        case ERROR_SUCCESS:
-            return none;
-        case ERROR_FILE_NOT_FOUND:
-            return fileNotFound;
+        case ERROR_SUCCESS: return none;
+        case ERROR_FILE_NOT_FOUND: return fileNotFound;
         case ERROR_PATH_NOT_FOUND:
         case ERROR_INVALID_NAME:
         case ERROR_BAD_PATHNAME:
-        case ERROR_INVALID_DRIVE:
-            return badPath;
-        case ERROR_TOO_MANY_OPEN_FILES:
-            return tooManyOpenFiles;
+        case ERROR_INVALID_DRIVE: return badPath;
+        case ERROR_TOO_MANY_OPEN_FILES: return tooManyOpenFiles;
         case ERROR_ACCESS_DENIED:
         case ERROR_WRITE_PROTECT:
         case ERROR_FILE_EXISTS:
-        case ERROR_ALREADY_EXISTS:
-            return accessDenied;
-        case ERROR_INVALID_HANDLE:
-            return invalidFile;
-        case ERROR_CURRENT_DIRECTORY:
-            return removeCurrentDir;
+        case ERROR_ALREADY_EXISTS: return accessDenied;
+        case ERROR_INVALID_HANDLE: return invalidFile;
+        case ERROR_CURRENT_DIRECTORY: return removeCurrentDir;
         case ERROR_NEGATIVE_SEEK:
-        case ERROR_SEEK:
-            return badSeek;
-        case ERROR_SHARING_VIOLATION:
-            return sharingViolation;
-        case ERROR_LOCK_VIOLATION:
-            return lockViolation;
+        case ERROR_SEEK: return badSeek;
+        case ERROR_SHARING_VIOLATION: return sharingViolation;
+        case ERROR_LOCK_VIOLATION: return lockViolation;
         case ERROR_DISK_FULL:
-        case ERROR_HANDLE_DISK_FULL:
-            return diskFull;
-        case ERROR_HANDLE_EOF:
-            return endOfFile;
+        case ERROR_HANDLE_DISK_FULL: return diskFull;
+        case ERROR_HANDLE_EOF: return endOfFile;
         case ERROR_CRC:
         case ERROR_NOT_READY:
         case ERROR_READ_FAULT:
-        case ERROR_WRITE_FAULT:
-            return hardIO;
-        default:
-            return genericException;
+        case ERROR_WRITE_FAULT: return hardIO;
+        default: return genericException;
     }
 }
 
@@ -201,31 +180,21 @@ CString full_path(LPCTSTR path) { return path; }
 
 int PASCAL CFileException::OsErrorToException(LONG lOsError) {
     switch (lOsError) {
-        case 0:
-            return none;
-        case ENOENT:
-            return fileNotFound;
+        case 0: return none;
+        case ENOENT: return fileNotFound;
         case ENOTDIR:
-        case ENAMETOOLONG:
-            return badPath;
+        case ENAMETOOLONG: return badPath;
         case EMFILE:
-        case ENFILE:
-            return tooManyOpenFiles;
+        case ENFILE: return tooManyOpenFiles;
         case EACCES:
         case EPERM:
         case EROFS:
-        case EISDIR:
-            return accessDenied;
-        case EBADF:
-            return invalidFile;
-        case EINVAL:
-            return badSeek;
-        case ENOSPC:
-            return diskFull;
-        case EIO:
-            return hardIO;
-        default:
-            return genericException;
+        case EISDIR: return accessDenied;
+        case EBADF: return invalidFile;
+        case EINVAL: return badSeek;
+        case ENOSPC: return diskFull;
+        case EIO: return hardIO;
+        default: return genericException;
     }
 }
 
