@@ -66,6 +66,7 @@ TEST(NotificationRouting, WindowOutsideTheProtocolRepliesNone) {
 
 TEST(NotificationRouting, IdZeroGoesStraightToTheReceiver) {
     Nest nest;
+    ::SetWindowLongPtrW(nest.child.m_hWnd, GWLP_ID, 0);
     EXPECT_EQ(KbUiNotify(nest.edit, 0, kKbUiNotifyGeneric, 5), kKbUiReplyHandled);
     EXPECT_TRUE(nest.child.heard.empty());
     ASSERT_EQ(nest.edit.own.size(), 1u);
