@@ -1,4 +1,7 @@
 #include <ktui/host/notification.h>
+#include <ktui/controls/kbui_list_box.h>
+#include <ktui/controls/kbui_list_ctrl.h>
+#include <ktui/input/kbui_combo_box.h>
 #include <ktui/input/kbui_edit.h>
 
 #include "recording_holder.h"
@@ -63,6 +66,7 @@ TEST(NotificationRouting, WindowOutsideTheProtocolRepliesNone) {
 
 TEST(NotificationRouting, IdZeroGoesStraightToTheReceiver) {
     Nest nest;
+    ::SetWindowLongPtrW(nest.child.m_hWnd, GWLP_ID, 0);
     EXPECT_EQ(KbUiNotify(nest.edit, 0, kKbUiNotifyGeneric, 5), kKbUiReplyHandled);
     EXPECT_TRUE(nest.child.heard.empty());
     ASSERT_EQ(nest.edit.own.size(), 1u);
@@ -98,12 +102,23 @@ TEST(NotificationRouting, NegativeReplyKeepsItsSign) {
     EXPECT_EQ(nest.edit.SendMessage(KbUiMessage(), PackKbUiNotification(0, kKbUiNotifyGeneric), 0), -2);
 }
 
-TEST(NotificationRouting, UnknownNotificationsReplyNone) {
+TEST(NotificationRouting, UnknownNotificationsReplyNoneEverywhere) {
     RecordingHolder top;
     CKbUiEdit edit;
-    edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &top, 7);
+    CKbUiListBox list;
+    CKbUiComboBox combo;
+    CKbUiListCtrl table;
+    CKbUiHeaderCtrl header;
+    edit.Create(WS_CHILD, CRect(0, 0, 100, 20), &top, 7);
+    list.Create(WS_CHILD, CRect(0, 0, 100, 20), &top, 8);
+    combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 20), &top, 9);
+    table.Create(WS_CHILD, CRect(0, 0, 100, 20), &top, 10);
+    header.Create(WS_CHILD, CRect(0, 0, 100, 20), &top, 11);
     CPoint somewhere(1, 1);
     const auto datum = reinterpret_cast<unsigned __int64>(&somewhere);
-    for (const int value : {0, 1, 2, 3, 4, 5, 12, 13, 14, 16, 17, 18, 20, 21, 0xFFFF})
-        EXPECT_EQ(KbUiNotify(edit, 0, static_cast<KBUI_NOTIFY>(value), datum), kKbUiReplyNone) << value;
+    for (CWnd* control : {static_cast<CWnd*>(&edit), static_cast<CWnd*>(&list), static_cast<CWnd*>(&combo),
+                          static_cast<CWnd*>(&table), static_cast<CWnd*>(&header)})
+        for (const int value : {0, 1, 2, 3, 4, 5, 12, 13, 14, 16, 17, 18, 20, 21, 0xFFFF})
+            EXPECT_EQ(KbUiNotify(control, 0, static_cast<KBUI_NOTIFY>(value), datum), kKbUiReplyNone)
+                << value;
 }

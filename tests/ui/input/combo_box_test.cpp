@@ -93,11 +93,14 @@ TEST(ComboParts, ConvertDataIsFalseForATextEdit) {
 
 TEST(ComboParts, ClearingDeletesAnOwnedPartAndKeepsTheOwnedBit) {
     using Edit = Counted<CKbUiEdit>;
-    CKbUiComboBox combo;
+    struct FlaggedCombo : CKbUiComboBox {
+        bool ownsEdit() const { return (m_flags & 1) != 0; }
+    } combo;
     combo.SetEditBox(new Edit, TRUE);
     EXPECT_EQ(Edit::alive, 1);
     combo.SetEditBox(nullptr, FALSE);
     EXPECT_EQ(Edit::alive, 0);
+    EXPECT_TRUE(combo.ownsEdit());
     EXPECT_EQ(combo.GetEditBox(), nullptr);
     Edit kept;
     combo.SetEditBox(&kept, FALSE);

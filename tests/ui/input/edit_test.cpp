@@ -255,6 +255,15 @@ TEST(ValueEdit, ValidationByMessageRepliesAndLeavesTheText) {
     EXPECT_FALSE(in.edit.isValid());
 }
 
+TEST(ValueEdit, ValidationByMessageJudgesTheCanonicalSpelling) {
+    InHolder<MarkedEdit> in;
+    in.edit.SetStyleMask(kKtUiEditNoZero);
+    in.edit.SetWindowText(L"0.00001");
+    EXPECT_TRUE(in.edit.Validate()) << "as typed it isn't zero";
+    EXPECT_EQ(in.ask(kKbUiNotifyValidate, nullptr), kKbUiReplyInvalid) << "in four places it is";
+    EXPECT_STREQ(ui_test::text_of(in.edit), L"0.00001");
+}
+
 TEST(EditTip, TextThatFitsGivesNone) {
     InHolder<CKbUiEdit> in;
     in.edit.SetWindowText(L"ok");
