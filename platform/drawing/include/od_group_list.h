@@ -106,9 +106,10 @@ private:
     struct Block {
         std::uint32_t used;
         std::uint32_t capacity;
-        char bytes[8];
+        /// The packed groups, right behind the block's head.
+        char* data() { return reinterpret_cast<char*>(this + 1); }
     };
-    std::string_view bytes() const { return m_block ? std::string_view(m_block->bytes, m_block->used) : ""; }
+    std::string_view bytes() const { return m_block ? std::string_view(m_block->data(), m_block->used) : ""; }
     char* grow(std::uint32_t count);
     char* putCode(int code, std::uint32_t payload);
     void set(int code, const OdGroupList& value);

@@ -106,10 +106,13 @@ bool OdDxfEntityReader::readUntil(std::string_view end, OdDbHandle block) {
     OdDxfScanner& scanner = m_records.scanner();
     while (scanner.code() == 0 && !scanner.isRecord(end) && !endsSection(scanner)) {
         if (!m_records.read(OdDxfRecordKind::kEntity, m_record)) return false;
+        // The end of a list that never began says nothing.
+        if (m_record.type == "SEQEND") continue;
+        const bool partsFollow = m_record.partsFollow || m_record.type == "POLYLINE";
         OdDbBlockTableRecord& target = blockFor(block);
         const OdDbEntityPtr entity = take(target.handle());
         m_store.entitiesOf(target).push_back(entity.get());
-        if (m_store.partsOf(*entity) && !readParts(*entity)) return false;
+        if (partsFollow && m_store.partsOf(*entity) && !readParts(*entity)) return false;
     }
     return true;
 }

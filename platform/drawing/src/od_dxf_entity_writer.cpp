@@ -103,7 +103,7 @@ void OdDxfEntityWriter::written(OdDbEntity& entity, const Common& common, OdDbHa
         else
             hasParts = true;
     }
-    m_out.putText(0, type);
+    m_out.put(0, type);
     m_out.putOwnHandle(handle);
     body(m_out.isR12() ? unmarkedForm(type, entity.groups()) : entity.groups(), common,
          type == "POLYLINE" || (parts && hasParts));
@@ -198,7 +198,7 @@ void OdDxfEntityWriter::dictionaryEntries(OdDbDictionary& dictionary) {
 
 void OdDxfEntityWriter::object(OdDbObject& object) {
     if (!hasObject(object)) return;
-    m_out.putText(0, object.dxfName());
+    m_out.put(0, object.dxfName());
     m_out.putOwnHandle(object.handle());
     const OdGroupList& groups = object.groups();
     OdGroup first, second;

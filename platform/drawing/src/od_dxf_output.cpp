@@ -57,9 +57,9 @@ void OdDxfOutput::putCode(int code) {
     m_text += kLineEnd;
 }
 
-void OdDxfOutput::put(int code, std::string_view asciiValue) {
+void OdDxfOutput::put(int code, std::string_view value) {
     putCode(code);
-    m_text += asciiValue;
+    m_text += value;
     m_text += kLineEnd;
 }
 

@@ -18,7 +18,8 @@ public:
     /// The greatest handle that was written as an object's own.
     OdDbHandle greatestHandle() const { return m_greatest; }
 
-    void put(int code, std::string_view asciiValue);
+    /// A value as it stands: numbers, names of record types, and words that were read without decoding.
+    void put(int code, std::string_view value);
     void putText(int code, std::string_view utf8);
     void putText(int code, const OdString& value) { putText(code, odUtf8(value.view())); }
     void putReal(int code, double value);

@@ -49,6 +49,12 @@ private:
                scanner().fail(OdDxfErrorCode::kBadStructure, L"The section doesn't end where it must.");
     }
 
+    /// Whether no more records of the section can come.
+    bool atSectionEdge() {
+        return scanner().code() != 0 || scanner().isRecord("ENDSEC") || scanner().isRecord("SECTION") ||
+               scanner().isRecord("EOF");
+    }
+
     /// The groups before the first record.
     bool lead(OdGroupList& groups) {
         while (scanner().code() != 0)
@@ -58,8 +64,7 @@ private:
     }
 
     bool rawRecords(std::vector<OdRawRecord>& records) {
-        while (scanner().code() == 0 && !scanner().isRecord("ENDSEC")) {
-            if (scanner().isRecord("SECTION") || scanner().isRecord("EOF")) break;
+        while (!atSectionEdge()) {
             OdRawRecord record{std::string(scanner().word()), {}};
             if (!scanner().next() || !lead(record.groups)) return false;
             records.push_back(std::move(record));
@@ -99,7 +104,7 @@ private:
         if (m_record.handle) unknown.lead.addText(5, odHandleText(m_record.handle));
         if (m_record.owner) unknown.lead.addHandle(330, m_record.owner);
         unknown.lead.add(m_record.groups);
-        while (scanner().code() == 0 && !scanner().isRecord("ENDTAB") && !scanner().isRecord("ENDSEC")) {
+        while (!scanner().isRecord("ENDTAB") && !atSectionEdge()) {
             OdRawRecord record{std::string(scanner().word()), {}};
             if (!scanner().next() || !lead(record.groups)) return false;
             unknown.records.push_back(std::move(record));
@@ -158,10 +163,8 @@ private:
     }
 
     bool objects() {
-        while (scanner().code() == 0 && !scanner().isRecord("ENDSEC")) {
-            if (scanner().isRecord("SECTION") || scanner().isRecord("EOF")) break;
+        while (!atSectionEdge())
             if (!object()) return false;
-        }
         return sectionEnd();
     }
 
@@ -200,6 +203,8 @@ bool odReadDxf(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
     store.objects.reserve(overview.records);
     Reader reader(text, store);
     const bool done = reader.run();
+    // The first look found an end mark, but the sections don't lead to it.
+    if (!done) reader.scanner().fail(OdDxfErrorCode::kBadStructure, L"The file ends within a section.");
     error = reader.scanner().error();
     return done;
 }

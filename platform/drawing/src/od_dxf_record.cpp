@@ -28,9 +28,13 @@ bool OdDxfRecordReader::append(OdGroupList& groups) {
 }
 
 bool OdDxfRecordReader::takeOutOfEntity(OdDxfRecord& record) {
-    constexpr int kAttributesFollow = 66;
+    constexpr int kPartsFollow = 66;
     const int code = m_scanner.code();
-    if (code == kAttributesFollow && (record.type == "INSERT" || record.type == "POLYLINE")) return true;
+    if (code == kPartsFollow && (record.type == "INSERT" || record.type == "POLYLINE")) {
+        std::int64_t value = 0;
+        record.partsFollow = m_scanner.integer(value) && value != 0;
+        return true;
+    }
     if (m_markers > 1) return false;
     if (code == 8) {
         record.layer = text();
@@ -49,7 +53,8 @@ bool OdDxfRecordReader::takeOutOfEntity(OdDxfRecord& record) {
 bool OdDxfRecordReader::takeOut(OdDxfRecordKind kind, OdDxfRecord& record) {
     constexpr int kDimensionStyleHandle = 105;
     const int code = m_scanner.code();
-    const int handleCode = record.type == "DIMSTYLE" ? kDimensionStyleHandle : 5;
+    const bool dimensionStyle = kind == OdDxfRecordKind::kTableRecord && record.type == "DIMSTYLE";
+    const int handleCode = dimensionStyle ? kDimensionStyleHandle : 5;
     if (code == handleCode && record.handle == 0) {
         record.handle = odHandleFromText(m_scanner.value());
         return true;
@@ -77,19 +82,23 @@ bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
     record.handle = record.owner = 0;
     record.layer.clear();
     record.linetype.clear();
-    record.paperSpace = false;
+    record.paperSpace = record.partsFollow = false;
     record.name.empty();
     m_markers = 0;
     m_inside = m_foreign = m_ownerTaken = false;
     while (m_scanner.next() && m_scanner.code() != 0) {
         const int code = m_scanner.code();
         if (code == kEmbeddedObject || code >= kFirstExtendedData) m_foreign = true;
+        if (m_foreign && m_inside) break;
         if (code == 102 && !m_foreign) m_inside = !m_scanner.word().empty() && m_scanner.word()[0] == '{';
         if (code == 100 && !m_inside && !m_foreign) ++m_markers;
         if (!m_inside && !m_foreign && takeOut(kind, record)) continue;
         if (!append(record.groups)) return false;
     }
     if (m_scanner.failed()) return false;
+    if (m_inside)
+        return m_scanner.fail(OdDxfErrorCode::kBadStructure,
+                              L"A block of application data doesn't end where it must.");
     if (m_scanner.code() == 0) return true;
     return m_scanner.fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
 }

@@ -10,13 +10,14 @@
 struct OdDxfRecord {
     std::string type;
     OdGroupList groups;
-    OdDbHandle handle = 0;    ///< group 5, or 105 of a dimension style
-    OdDbHandle owner = 0;     ///< group 330 before the first subclass marker
-    std::string layer;        ///< group 8 of an entity
-    std::string linetype;     ///< group 6 of an entity
-    bool paperSpace = false;  ///< group 67 of an entity
-    OdString name;            ///< group 2 of a table record or block
-    int line = 0;             ///< where the record begins
+    OdDbHandle handle = 0;     ///< group 5, or 105 of a dimension style
+    OdDbHandle owner = 0;      ///< group 330 before the first subclass marker
+    std::string layer;         ///< group 8 of an entity
+    std::string linetype;      ///< group 6 of an entity
+    bool paperSpace = false;   ///< group 67 of an entity
+    bool partsFollow = false;  ///< group 66 of an insertion or polyline
+    OdString name;             ///< group 2 of a table record or block
+    int line = 0;              ///< where the record begins
 };
 
 /// What is taken out of a record's groups besides handle and owner.

@@ -157,13 +157,18 @@ bool odOverviewDxf(std::string_view text, OdDxfOverview& overview, OdDbDxfError&
     OdDxfScanner scanner(text);
     std::string_view variable;
     bool ended = false;
+    bool opening = false;
+    bool inHeader = false;
     for (bool first = true; !ended && scanner.next(); first = false) {
         if (first && !scanner.isRecord("SECTION") && !scanner.isRecord("EOF")) {
             scanner.fail(OdDxfErrorCode::kNotDxf, L"The file doesn't begin like a DXF file.");
             break;
         }
-        if (scanner.code() == kVariableName) variable = scanner.word();
+        if (opening) inHeader = scanner.code() == 2 && scanner.word() == "HEADER";
+        opening = scanner.isRecord("SECTION");
+        if (inHeader && scanner.code() == kVariableName) variable = scanner.word();
         if (scanner.code() == 0) {
+            inHeader = false;
             variable = {};
             ended = scanner.word() == "EOF";
             ++overview.records;

@@ -58,7 +58,7 @@ public:
 private:
     void beginSection(std::string_view name) {
         m_out.put(0, "SECTION");
-        m_out.putText(2, name);
+        m_out.put(2, name);
     }
     void endSection() { m_out.put(0, "ENDSEC"); }
 
@@ -67,12 +67,12 @@ private:
         m_out.put(9, "$ACADVER");
         m_out.put(1, versionName(m_out.version()));
         m_out.put(9, "$DWGCODEPAGE");
-        m_out.putText(3, m_store.codePageName);
+        m_out.put(3, m_store.codePageName);
         for (const OdDbHeader::Variable& variable : m_store.header.variables()) {
             if (variable.firstVersion > m_out.version()) continue;
             const bool foreign = !variable.firstVersion && !odIsR12Variable(variable.name);
             if (m_out.isR12() && foreign && m_store.version > OdDb::kDHL_1009) continue;
-            m_out.putText(9, "$" + variable.name);
+            m_out.put(9, "$" + variable.name);
             putVariable(variable);
         }
         m_out.put(9, "$HANDSEED");
@@ -101,7 +101,7 @@ private:
     }
 
     void rawRecord(const OdRawRecord& record) {
-        m_out.putText(0, record.type);
+        m_out.put(0, record.type);
         OdGroup group;
         for (std::uint32_t at = 0; record.groups.read(at, group); at = group.end) m_out.putGroup(group);
     }

@@ -1,6 +1,5 @@
 #include "od_group_list.h"
 
-#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -95,7 +94,7 @@ void OdGroupList::shrink() {
         clear();
         return;
     }
-    if (void* smaller = std::realloc(m_block, offsetof(Block, bytes) + m_block->used)) {
+    if (void* smaller = std::realloc(m_block, sizeof(Block) + m_block->used)) {
         m_block = static_cast<Block*>(smaller);
         m_block->capacity = m_block->used;
     }
@@ -105,13 +104,13 @@ char* OdGroupList::grow(std::uint32_t count) {
     const std::uint32_t used = size();
     if (!m_block || used + count > m_block->capacity) {
         const std::uint32_t capacity = m_block ? (used + count) + (used + count) / 2 : count;
-        void* larger = std::realloc(m_block, offsetof(Block, bytes) + capacity);
+        void* larger = std::realloc(m_block, sizeof(Block) + capacity);
         if (!larger) throw std::bad_alloc();
         m_block = static_cast<Block*>(larger);
         m_block->capacity = capacity;
     }
     m_block->used = used + count;
-    return m_block->bytes + used;
+    return m_block->data() + used;
 }
 
 char* OdGroupList::putCode(int code, std::uint32_t payload) {
@@ -123,7 +122,7 @@ char* OdGroupList::putCode(int code, std::uint32_t payload) {
 
 bool OdGroupList::read(std::uint32_t at, OdGroup& group) const {
     if (at >= size()) return false;
-    const char* in = m_block->bytes + at;
+    const char* in = m_block->data() + at;
     std::int16_t code;
     std::memcpy(&code, in, 2);
     in += 2;
@@ -147,7 +146,7 @@ bool OdGroupList::read(std::uint32_t at, OdGroup& group) const {
                 group.kind == OdGroupKind::kInteger ? unzigzag(number) : static_cast<std::int64_t>(number);
             break;
     }
-    group.end = static_cast<std::uint32_t>(in - m_block->bytes);
+    group.end = static_cast<std::uint32_t>(in - m_block->data());
     return true;
 }
 
@@ -210,8 +209,8 @@ void OdGroupList::replace(std::uint32_t begin, std::uint32_t end, const OdGroupL
     const auto count = static_cast<std::uint32_t>(added.size());
     if (count > end - begin) grow(count - (end - begin));
     if (!m_block) return;
-    if (tail) std::memmove(m_block->bytes + begin + count, m_block->bytes + end, tail);
-    if (count) std::memcpy(m_block->bytes + begin, added.data(), count);
+    if (tail) std::memmove(m_block->data() + begin + count, m_block->data() + end, tail);
+    if (count) std::memcpy(m_block->data() + begin, added.data(), count);
     m_block->used = begin + count + tail;
 }
 
