@@ -45,7 +45,7 @@ enum ThemeSlot : std::size_t {
 constexpr std::size_t kFirstAnimationSlot = kThemeBeginBufferedAnimation;
 
 /// Export names, by ThemeSlot.
-extern const std::array<const char*, kThemeSlotCount> kThemeEntryNames;
+KTUI_API extern const std::array<const char*, kThemeSlotCount> kThemeEntryNames;
 
 /// An entry whose signature is not known here.
 using ThemeEntry = void (*)();
