@@ -63,14 +63,15 @@ TEST_F(TipWindow, ShowWithoutAFocusWindowChangesNothing) {
     EXPECT_FALSE(tip.IsWindowVisible());
 }
 
-TEST_F(TipWindow, ShowTakesNoFocusAndHideGivesUpTheTopmostPlace) {
+TEST_F(TipWindow, ShowTakesNoFocusAndIsOnTopEachTime) {
     tip.Show();
     EXPECT_TRUE(tip.IsWindowVisible());
     EXPECT_TRUE(tip.GetExStyle() & WS_EX_TOPMOST);
     EXPECT_EQ(::GetFocus(), parent.m_hWnd);
     tip.Hide();
     EXPECT_FALSE(tip.IsWindowVisible());
-    EXPECT_FALSE(tip.GetExStyle() & WS_EX_TOPMOST);
+    tip.Show();
+    EXPECT_TRUE(tip.GetExStyle() & WS_EX_TOPMOST);
 }
 
 TEST_F(TipWindow, StaysWhileThePointerIsOverTheControl) {
