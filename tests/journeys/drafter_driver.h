@@ -1,0 +1,83 @@
+// Drives the drafter sample from outside with real keystrokes and mouse clicks, and reads what it shows.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <windows.h>
+
+namespace journey {
+
+/// A running drafter. Every wait has a deadline; a wait that fails answers null, false or an empty text.
+class Drafter {
+public:
+    /// Starts drafter.exe, which lies beside this program, on `drawing` (a path, or empty for none).
+    explicit Drafter(const std::wstring& drawing);
+    /// Closes the program without saving.
+    ~Drafter();
+    Drafter(const Drafter&) = delete;
+    Drafter& operator=(const Drafter&) = delete;
+
+    HWND frame() const { return m_frame; }
+    HWND view() const;
+    /// Whether the program still runs.
+    bool isRunning() const;
+
+    /// The visible dialog whose title begins with `title`, as soon as there is one.
+    HWND waitForDialog(const std::wstring& title);
+    /// Whether `window` has gone, as soon as it has.
+    bool waitUntilGone(HWND window);
+
+    /// Brings `window` to the front so that it gets the keys.
+    void activate(HWND window);
+    void type(const std::wstring& text);
+    void key(WORD virtualKey, bool control = false, bool alt = false, bool shift = false);
+    /// Clicks with the left button at a client point of `window`, or at its middle.
+    void click(HWND window, POINT client);
+    void click(HWND window);
+    /// Moves the pointer to a client point of `window`.
+    void hover(HWND window, POINT client);
+    /// Gives the control the focus by a click and replaces its text.
+    void replaceText(HWND control, const std::wstring& text);
+    /// Opens the drop-down of a combo box, goes to its last entry and takes it.
+    void pickLast(HWND combo);
+    /// Opens the drop-down, goes to entry `index` and takes it.
+    void pick(HWND combo, int index);
+    /// Moves a top-level window as a user would, by its system menu and keys being too slow: to screen pixels.
+    void place(HWND window, RECT screen);
+
+    /// Opens Format > Properties by its key and answers the dialog.
+    HWND openProperties();
+
+private:
+    HWND findWindow(const std::function<bool(HWND)>& wanted) const;
+
+    PROCESS_INFORMATION m_process = {};
+    HWND m_frame = nullptr;
+};
+
+/// Waits until `done`; false when `milliseconds` have passed first.
+bool waitUntil(const std::function<bool()>& done, unsigned milliseconds = 8000);
+
+std::wstring textOf(HWND window);
+HWND item(HWND dialog, int id);
+RECT rectOf(HWND window);
+/// The text of the current entry of a combo box of another process.
+std::wstring currentEntry(HWND combo);
+int entryCount(HWND combo);
+
+/// Asks the surrounding script for a picture of the screen under `name` and waits for it. Without a script that
+/// takes pictures (the environment variable KTUI_PICTURES names its folder) nothing happens.
+void picture(const std::string& name);
+
+/// The folder of the sample's drawings, and a scratch copy of one of them.
+std::wstring drawingsFolder();
+std::wstring scratchCopy(const std::wstring& drawing);
+
+/// Settings of the sample's dialogs in the registry: forgets them, and reads one number (`found` tells whether it is
+/// there).
+void forgetSettings();
+int setting(const std::wstring& dialog, const std::wstring& value, bool& found);
+void storeSetting(const std::wstring& dialog, const std::wstring& value, int number);
+
+}  // namespace journey
