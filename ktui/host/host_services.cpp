@@ -22,7 +22,10 @@ private:
 
 }  // namespace
 
-CWnd* KtUiMainWindow() { return CKhSystem::instance()->uiHost()->mainFrame(); }
+CWnd* KtUiMainWindow() {
+    CKhUiHost* host = CKhSystem::instance()->uiHost();
+    return host ? host->mainFrame() : nullptr;
+}
 
 void KtUiRootKey(CString& key) {
     if (OdDbHostAppServices* services = oddbHostApplicationServices())

@@ -70,7 +70,8 @@ BOOL CKtUiEdit::Validate() {
 }
 
 void CKtUiEdit::Convert() {
-    if (!m_hWnd || !IsNumberMask(GetStyleMask())) return;
+    // Kept: may be called through a null pointer. Callers convert whatever edit a dialog happens to have.
+    if (!GetSafeHwnd() || !IsNumberMask(GetStyleMask())) return;
     CString text;
     GetWindowText(text);
     ValidateData(text);

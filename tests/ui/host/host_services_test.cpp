@@ -21,6 +21,8 @@ TEST(HostServices, MainWindowIsTheDockingFrameAndNotTheDialogParent) {
     host.frame = &frame;
     AfxGetApp()->m_pMainWnd = &dialogParent;
     EXPECT_EQ(KtUiMainWindow(), &frame);
+    host.hasUiHost = false;
+    EXPECT_EQ(KtUiMainWindow(), nullptr) << "while the application shuts down";
     AfxGetApp()->m_pMainWnd = nullptr;
 }
 
