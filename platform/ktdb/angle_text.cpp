@@ -84,8 +84,7 @@ bool hasValue(std::string_view text) { return text.find_first_of("123456789") !=
 
 bool addAngle(StackText& out, double radians, int mode, int precision) {
     switch (mode) {
-        case kDegrees:
-            return out.addFixed(degreesOf(radians), precision);
+        case kDegrees: return out.addFixed(degreesOf(radians), precision);
         case kDegMinSec: {
             const Steps steps = stepsFor(precision);
             addSteps(out, std::llround(degreesOf(radians) * static_cast<double>(steps.perDegree)), steps);

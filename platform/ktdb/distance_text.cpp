@@ -132,8 +132,7 @@ bool addSize(StackText& out, double size, int mode, int precision, bool inputFor
             }
             return true;
         }
-        case kDecimal:
-            return out.addFixed(size, precision);
+        case kDecimal: return out.addFixed(size, precision);
         case kEngineering: {
             StackText inches;
             if (!inches.addFixed(size, precision)) return false;
@@ -142,9 +141,7 @@ bool addSize(StackText& out, double size, int mode, int precision, bool inputFor
             addFeet(out, text.substr(0, point), text.substr(point), false, inputForm);
             return true;
         }
-        default:
-            addInFractions(out, size, mode, precision, inputForm);
-            return true;
+        default: addInFractions(out, size, mode, precision, inputForm); return true;
     }
 }
 

@@ -16,7 +16,8 @@ BOOL CChoiceDialog::OnInitDialog() {
     CString title;
     if (title.LoadString(m_titleId)) SetWindowText(title);
     CWnd* list = GetDlgItem(IDC_CHOICE_LIST);
-    for (const CString& name : m_names) list->SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.GetString()));
+    for (const CString& name : m_names)
+        list->SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.GetString()));
     list->SendMessage(LB_SETCURSEL, static_cast<WPARAM>(m_current));
     return TRUE;
 }

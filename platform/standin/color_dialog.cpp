@@ -109,7 +109,8 @@ void CStandinColorDialog::OnIndexChange() {
     else if (m_settings.allowMeta && text.CompareNoCase(L"ByBlock") == 0)
         m_valid = m_color.setColorIndex(OdCmColor::kByBlockIndex);
     else
-        m_valid = !text.IsEmpty() && *end == 0 && index >= 1 && index <= 255 && m_color.setColorIndex(static_cast<int>(index));
+        m_valid = !text.IsEmpty() && *end == 0 && index >= 1 && index <= 255 &&
+                  m_color.setColorIndex(static_cast<int>(index));
     GetDlgItem(IDC_COLOR_SAMPLE)->Invalidate();
     GetDlgItem(IDC_COLOR_PALETTE)->Invalidate(FALSE);
 }
@@ -160,7 +161,8 @@ void CStandinColorDialog::showColor() {
 COLORREF CStandinColorDialog::shown(const OdCmColor& color) const {
     const OdCmColor& visible = color.isByLayer() ? m_settings.layerColor : color;
     if (!visible.isByACI()) return visible.color();
-    const int index = visible.isByBlock() || visible.isByLayer() ? OdCmColor::kForeground : visible.colorIndex();
+    const int index =
+        visible.isByBlock() || visible.isByLayer() ? OdCmColor::kForeground : visible.colorIndex();
     return odcmLookupRGB(index, m_settings.palette);
 }
 

@@ -1,5 +1,5 @@
-// The stand-in host's colour dialog: the indexed palette to click on, ByLayer and ByBlock, a number, and for true
-// colours red, green and blue. Internal to the module.
+// The stand-in host's colour dialog: the indexed palette to click on, ByLayer and ByBlock, a number, and for
+// true colours red, green and blue. Internal to the module.
 #pragma once
 
 #include <afxwin.h>

@@ -9,7 +9,8 @@ constexpr double kFinestPattern = 3;  // pixels; a shorter pattern looks like a 
 /// Walks a path and alternates between pen down and pen up as the pattern says, across corners.
 class DashWalker {
 public:
-    DashWalker(CDC& dc, const std::vector<double>& dashes, double scale) : m_dc(dc), m_dashes(dashes), m_scale(scale) {
+    DashWalker(CDC& dc, const std::vector<double>& dashes, double scale)
+        : m_dc(dc), m_dashes(dashes), m_scale(scale) {
         m_left = std::abs(m_dashes[0]) * m_scale;
     }
 
@@ -50,7 +51,8 @@ private:
 
 }  // namespace
 
-void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vector<double>& dashes, double scale) {
+void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vector<double>& dashes,
+                    double scale) {
     if (points.empty()) return;
     double total = 0;
     for (const double dash : dashes) total += std::abs(dash) * scale;

@@ -7,8 +7,8 @@
 
 #include "standin_api.h"
 
-/// Draws the line through `points` (pixels of `dc`) with the pen that is selected into `dc`. `dashes` are lengths in
-/// drawing units, positive for a dash, negative for a gap, 0 for a dot; `scale` is pixels for a drawing unit. Empty
-/// dashes, and a pattern too fine to see, give a continuous line.
+/// Draws the line through `points` (pixels of `dc`) with the pen that is selected into `dc`. `dashes` are
+/// lengths in drawing units, positive for a dash, negative for a gap, 0 for a dot; `scale` is pixels for a
+/// drawing unit. Empty dashes, and a pattern too fine to see, give a continuous line.
 STANDIN_API void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vector<double>& dashes,
                                 double scale);

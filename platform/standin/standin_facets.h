@@ -100,7 +100,8 @@ public:
     bool showColorIndexDialog(int& index, bool allowMeta, int layerIndex) override;
     bool showTrueColorDialog(OdCmColor& color, bool allowMeta, const OdCmColor& layerColor,
                              const std::uint32_t* palette) override;
-    bool showPlotStyleDialog(const wchar_t* currentName, bool allowByLayerByBlock, const wchar_t*& chosenName) override;
+    bool showPlotStyleDialog(const wchar_t* currentName, bool allowByLayerByBlock,
+                             const wchar_t*& chosenName) override;
     bool showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId& chosen, int mode) override;
     void showHelp(const wchar_t* topic) override;
     int getPathVariable(const wchar_t* name, wchar_t (&value)[kKhPathLength]) override;

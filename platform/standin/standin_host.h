@@ -1,10 +1,11 @@
-// CStandinHost: a complete host object for applications that have none of their own yet, for samples and tests.
+// CStandinHost: a complete host object for applications that have none of their own yet, for samples and
+// tests.
 //
 //     CStandinHost host(theApp);          // installs itself; the destructor puts the former host back
 //     host.SetCurrentDocument(&document);
 //
-// Settings go to the registry below ktutProfileFileName(); colours are the indexed palette for a dark background;
-// dialogs are this module's own. A single facet can be replaced, as tests do.
+// Settings go to the registry below ktutProfileFileName(); colours are the indexed palette for a dark
+// background; dialogs are this module's own. A single facet can be replaced, as tests do.
 #pragma once
 
 #include <memory>
@@ -35,8 +36,8 @@ public:
     CKhUiHost* uiHost() override;
     CKhPaletteHost* paletteHost() override;
 
-    /// The document that currentDocument answers, and whose drawing becomes the working database; null for none. Not
-    /// owned: take it away before it goes.
+    /// The document that currentDocument answers, and whose drawing becomes the working database; null for
+    /// none. Not owned: take it away before it goes.
     void SetCurrentDocument(KtApDocument* document);
     /// Folders in which findFile looks, first to last, behind the document's own folder.
     void SetSupportDirectories(std::vector<CString> folders);
@@ -45,7 +46,8 @@ public:
     /// Makes the host answer `service` to serviceManager()->getService(name); null takes it away. Not owned.
     void SetService(const wchar_t* name, CKhService* service);
 
-    // Replacing a facet: `facet` (not owned) answers from now on, also null where the interface lets a facet be null.
+    // Replacing a facet: `facet` (not owned) answers from now on, also null where the interface lets a facet
+    // be null.
     void ReplaceUiHost(CKhUiHost* facet);
     void ReplaceColorServices(CKhColorServices* facet);
     /// Puts the host's own facets back.

@@ -40,8 +40,9 @@ bool fileExists(const CString& path) {
 bool StandinProfileStore::getProfileInt(const wchar_t* section, const wchar_t* key, int& value, int) {
     const SettingsKey settings(section, KEY_READ);
     DWORD stored = 0, size = sizeof(stored), type = 0;
-    if (settings.get() == nullptr || ::RegQueryValueExW(settings.get(), key, nullptr, &type,
-                                                        reinterpret_cast<BYTE*>(&stored), &size) != ERROR_SUCCESS ||
+    if (settings.get() == nullptr ||
+        ::RegQueryValueExW(settings.get(), key, nullptr, &type, reinterpret_cast<BYTE*>(&stored), &size) !=
+            ERROR_SUCCESS ||
         type != REG_DWORD)
         return false;
     value = static_cast<int>(stored);
@@ -53,7 +54,8 @@ bool StandinProfileStore::getProfileString(const wchar_t* section, const wchar_t
     wchar_t text[1024] = {};
     DWORD size = sizeof(text) - sizeof(wchar_t), type = 0;
     if (settings.get() == nullptr ||
-        ::RegQueryValueExW(settings.get(), key, nullptr, &type, reinterpret_cast<BYTE*>(text), &size) != ERROR_SUCCESS ||
+        ::RegQueryValueExW(settings.get(), key, nullptr, &type, reinterpret_cast<BYTE*>(text), &size) !=
+            ERROR_SUCCESS ||
         type != REG_SZ)
         return false;
     value = text;
@@ -62,9 +64,9 @@ bool StandinProfileStore::getProfileString(const wchar_t* section, const wchar_t
 
 bool StandinProfileStore::setProfileInt(const wchar_t* section, const wchar_t* key, int value, int) {
     const SettingsKey settings(section, KEY_READ | KEY_WRITE);
-    return settings.get() != nullptr && ::RegSetValueExW(settings.get(), key, 0, REG_DWORD,
-                                                         reinterpret_cast<const BYTE*>(&value),
-                                                         sizeof(value)) == ERROR_SUCCESS;
+    return settings.get() != nullptr &&
+           ::RegSetValueExW(settings.get(), key, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value),
+                            sizeof(value)) == ERROR_SUCCESS;
 }
 
 COLORREF StandinColorServices::colorOfIndex(int index) { return odcmLookupRGB(index, odcmAcadDarkPalette()); }
@@ -132,8 +134,8 @@ void StandinPaletteSizing::fillBackground(HDC dc, const RECT& rect) {
     ::FillRect(dc, &rect, ::GetSysColorBrush(COLOR_BTNFACE));
 }
 
-void StandinLinetypePreview::drawLinetype(HDC dc, const RECT& rect, const OdDbObjectId& id, COLORREF foreground,
-                                          COLORREF background) {
+void StandinLinetypePreview::drawLinetype(HDC dc, const RECT& rect, const OdDbObjectId& id,
+                                          COLORREF foreground, COLORREF background) {
     if (dc == nullptr) return;
     CDC* target = CDC::FromHandle(dc);
     target->FillSolidRect(&rect, background);

@@ -57,7 +57,8 @@ bool StandinUiHost::showPlotStyleDialog(const wchar_t* currentName, bool allowBy
     OdDbDatabase* drawing = oddbHostApplicationServices()->workingDatabase();
     OdDbDictionaryPtr styles;
     if (drawing != nullptr && drawing->getPlotStyleNameDictionary(styles) == kOdOk)
-        for (auto entry = styles->newIterator(); !entry->done(); entry->next()) names.push_back(entry->name().c_str());
+        for (auto entry = styles->newIterator(); !entry->done(); entry->next())
+            names.push_back(entry->name().c_str());
     int current = -1;
     for (size_t i = 0; i < names.size(); ++i)
         if (names[i].CompareNoCase(currentName) == 0) current = static_cast<int>(i);

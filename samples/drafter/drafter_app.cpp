@@ -17,7 +17,8 @@ public:
 
     BOOL InitInstance() override {
         InitKtUiDLL();
-        // Loading the toolkit has made its resource library the current one; this program's own come first again.
+        // Loading the toolkit has made its resource library the current one; this program's own come first
+        // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
         auto* frame = new CMainFrame(*m_host);

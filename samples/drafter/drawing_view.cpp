@@ -11,10 +11,10 @@ namespace {
 
 constexpr COLORREF kBackground = RGB(33, 40, 48);
 constexpr COLORREF kSelected = RGB(90, 170, 255);
-constexpr int kPickDistance = 5;       // pixels
-constexpr double kZoomStep = 1.25;     // for one notch of the wheel
-constexpr double kMargin = 0.92;       // of the window that the drawing fills
-constexpr int kPanStep = 48;           // pixels for an arrow key
+constexpr int kPickDistance = 5;    // pixels
+constexpr double kZoomStep = 1.25;  // for one notch of the wheel
+constexpr double kMargin = 0.92;    // of the window that the drawing fills
+constexpr int kPanStep = 48;        // pixels for an arrow key
 constexpr double kPixelsPerMillimetre = 96 / 25.4;
 constexpr double kCapitalShare = 0.72;  // height of capitals in that of a font
 
@@ -89,7 +89,9 @@ void CDrawingView::Zoom(double factor) {
 CPoint CDrawingView::ToPixel(const OdGePoint2d& point) const {
     CRect client;
     GetClientRect(&client);
-    const auto pixel = [](double value) { return static_cast<int>(std::lround(std::clamp(value, -1e7, 1e7))); };
+    const auto pixel = [](double value) {
+        return static_cast<int>(std::lround(std::clamp(value, -1e7, 1e7)));
+    };
     return CPoint(pixel(client.Width() / 2.0 + (point.x - m_center.x) * m_scale),
                   pixel(client.Height() / 2.0 - (point.y - m_center.y) * m_scale));
 }
@@ -234,7 +236,8 @@ void CDrawingView::drawText(CDC& dc, const SceneText& text) {
     if (height < 3) return;  // too small to read
     LOGFONT look = {};
     look.lfHeight = -std::min(height, 4000);
-    look.lfEscapement = look.lfOrientation = static_cast<LONG>(std::lround(text.rotation * 1800 / std::numbers::pi));
+    look.lfEscapement = look.lfOrientation =
+        static_cast<LONG>(std::lround(text.rotation * 1800 / std::numbers::pi));
     look.lfCharSet = DEFAULT_CHARSET;
     look.lfQuality = ANTIALIASED_QUALITY;
     wcscpy(look.lfFaceName, L"Tahoma");
@@ -264,7 +267,8 @@ OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {
     double nearest = kPickDistance;
     for (const ScenePath& path : m_scene.paths) {
         for (std::size_t i = 1; i < path.points.size(); ++i) {
-            const double distance = distanceToSegment(pixel, ToPixel(path.points[i - 1]), ToPixel(path.points[i]));
+            const double distance =
+                distanceToSegment(pixel, ToPixel(path.points[i - 1]), ToPixel(path.points[i]));
             if (distance > nearest) continue;
             nearest = distance;
             found = path.entity;
@@ -278,7 +282,9 @@ OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {
         const double c = std::cos(text.rotation), s = std::sin(text.rotation);
         const double along = dx * c + dy * s, above = -dx * s + dy * c;
         const double width = text.text.length() * text.height * m_scale * 0.8;
-        const double left = -width * text.horizontal / 2, low = text.vertical == 2 ? -0.5 : text.vertical == 3 ? -1 : 0;
+        const double left = -width * text.horizontal / 2, low = text.vertical == 2   ? -0.5
+                                                                : text.vertical == 3 ? -1
+                                                                                     : 0;
         const double height = text.height * m_scale;
         if (along >= left && along <= left + width && above >= low * height && above <= (low + 1) * height)
             return text.entity;

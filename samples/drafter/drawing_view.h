@@ -1,4 +1,5 @@
-// CDrawingView: shows a scene; zoom with the wheel, pan with the middle button or the arrow keys, select by click.
+// CDrawingView: shows a scene; zoom with the wheel, pan with the middle button or the arrow keys, select by
+// click.
 #pragma once
 
 #include <set>

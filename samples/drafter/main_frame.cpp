@@ -54,7 +54,8 @@ CMainFrame::~CMainFrame() { m_host.SetCurrentDocument(nullptr); }
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.CreateView(this, kViewId)) return -1;
-    if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this, AFX_IDW_STATUS_BAR)) return -1;
+    if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this, AFX_IDW_STATUS_BAR))
+        return -1;
     showDrawing(false);
     return 0;
 }
@@ -143,7 +144,8 @@ bool CMainFrame::mayDiscard() {
     const int answer = AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION);
     if (answer == IDCANCEL) return false;
     if (answer == IDNO) return true;
-    const CString path = m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
+    const CString path =
+        m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
     return !path.IsEmpty() && saveTo(path);
 }
 
@@ -170,7 +172,8 @@ void CMainFrame::OnFileOpen() {
 }
 
 void CMainFrame::OnFileSave() {
-    const CString path = m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
+    const CString path =
+        m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
     if (!path.IsEmpty()) saveTo(path);
 }
 

@@ -100,7 +100,10 @@ void CPropertiesDialog::fillLayers() {
     constexpr struct {
         UINT title;
         int width;
-    } kColumns[] = {{IDS_COLUMN_LAYER, 110}, {IDS_COLUMN_COLOR, 80}, {IDS_COLUMN_LINETYPE, 90}, {IDS_COLUMN_DESCRIPTION, 80}};
+    } kColumns[] = {{IDS_COLUMN_LAYER, 110},
+                    {IDS_COLUMN_COLOR, 80},
+                    {IDS_COLUMN_LINETYPE, 90},
+                    {IDS_COLUMN_DESCRIPTION, 80}};
     int column = 0;
     for (const auto& each : kColumns) {
         CString title;

@@ -1,8 +1,8 @@
-// Format > Properties: colour, layer, hyperlink, elevation, thickness and rotation of the selected objects, or of
-// the current settings, and the list of layers.
+// Format > Properties: colour, layer, hyperlink, elevation, thickness and rotation of the selected objects,
+// or of the current settings, and the list of layers.
 //
-// A field that the user leaves alone is not written, so objects that differ in it keep their own values. An invalid
-// field turns red while it is typed in; OK refuses, says why in words, and puts the focus there.
+// A field that the user leaves alone is not written, so objects that differ in it keep their own values. An
+// invalid field turns red while it is typed in; OK refuses, says why in words, and puts the focus there.
 #pragma once
 
 #include <vector>

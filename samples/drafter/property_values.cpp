@@ -78,7 +78,8 @@ PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjec
         hyperlink.add(entity->hyperlink());
         elevation.add(entity->elevation());
         thickness.add(entity->thickness());
-        if (withRotation(*entity, [&](auto& turned) { rotation.add(turned.rotation()); })) values.hasRotation = true;
+        if (withRotation(*entity, [&](auto& turned) { rotation.add(turned.rotation()); }))
+            values.hasRotation = true;
     }
     values.color = color.value();
     values.layer = layer.value();
@@ -89,7 +90,8 @@ PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjec
     return values;
 }
 
-void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects, const PropertyValues& values) {
+void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects,
+                     const PropertyValues& values) {
     if (objects.empty()) {
         writeCurrent(drawing, values);
         return;
@@ -103,6 +105,7 @@ void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& obj
         if (values.hyperlink) entity->setHyperlink(*values.hyperlink);
         if (values.elevation) entity->setElevation(*values.elevation);
         if (values.thickness) entity->setThickness(*values.thickness);
-        if (values.rotation) withRotation(*entity, [&](auto& turned) { turned.setRotation(*values.rotation); });
+        if (values.rotation)
+            withRotation(*entity, [&](auto& turned) { turned.setRotation(*values.rotation); });
     }
 }

@@ -1,5 +1,5 @@
-// The properties that the dialog edits: read from the selected objects or from the current settings, and written
-// back. A property that differs between the objects has no value. Knows no window.
+// The properties that the dialog edits: read from the selected objects or from the current settings, and
+// written back. A property that differs between the objects has no value. Knows no window.
 #pragma once
 
 #include <optional>
@@ -21,6 +21,7 @@ struct PropertyValues {
 /// The values that `objects` share; those of the current settings without objects.
 PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects);
 
-/// Writes the values that are there to `objects`, or to the current settings without objects. A layer that the
-/// drawing lacks is made.
-void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects, const PropertyValues& values);
+/// Writes the values that are there to `objects`, or to the current settings without objects. A layer that
+/// the drawing lacks is made.
+void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects,
+                     const PropertyValues& values);

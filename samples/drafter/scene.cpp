@@ -19,7 +19,8 @@ SceneExtents Scene::extents() const {
     for (const SceneText& text : texts) {
         const double width = text.text.length() * text.height * text.widthFactor;
         result.add(text.position);
-        result.add({text.position.x + width * std::cos(text.rotation), text.position.y + width * std::sin(text.rotation)});
+        result.add({text.position.x + width * std::cos(text.rotation),
+                    text.position.y + width * std::sin(text.rotation)});
     }
     return result;
 }

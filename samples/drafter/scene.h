@@ -8,9 +8,10 @@
 
 /// How a piece of the scene is drawn. "By layer" and "by block" are resolved already.
 struct DisplayStyle {
-    OdCmColor color;             ///< never by layer or by block
-    std::vector<double> dashes;  ///< drawing units: positive a dash, negative a gap, 0 a dot; empty for continuous
-    int lineWeight = 0;          ///< hundredths of a millimetre
+    OdCmColor color;  ///< never by layer or by block
+    std::vector<double>
+        dashes;          ///< drawing units: positive a dash, negative a gap, 0 a dot; empty for continuous
+    int lineWeight = 0;  ///< hundredths of a millimetre
 };
 
 /// A line through points, or a filled area within them.

@@ -46,7 +46,8 @@ std::vector<OdGePoint2d> pointsOf(const std::vector<Corner>& corners, bool close
 
 std::vector<Corner> cornersOf(const OdDbPolyline& polyline) {
     std::vector<Corner> corners;
-    for (const OdDbPolylineVertex& vertex : polyline.vertices()) corners.push_back({vertex.point, vertex.bulge});
+    for (const OdDbPolylineVertex& vertex : polyline.vertices())
+        corners.push_back({vertex.point, vertex.bulge});
     return corners;
 }
 
@@ -63,14 +64,19 @@ std::vector<Corner> cornersOf(const OdDb2dPolyline& polyline) {
 
 PlaneTransform PlaneTransform::after(const PlaneTransform& inner) const {
     const OdGePoint2d origin = apply(inner.x, inner.y);
-    return {xx * inner.xx + xy * inner.yx, xx * inner.xy + xy * inner.yy, yx * inner.xx + yy * inner.yx,
-            yx * inner.xy + yy * inner.yy, origin.x, origin.y};
+    return {xx * inner.xx + xy * inner.yx,
+            xx * inner.xy + xy * inner.yy,
+            yx * inner.xx + yy * inner.yx,
+            yx * inner.xy + yy * inner.yy,
+            origin.x,
+            origin.y};
 }
 
 double PlaneTransform::scale() const { return std::sqrt(std::abs(xx * yy - xy * yx)); }
 double PlaneTransform::rotation() const { return std::atan2(yx, xx); }
 
-SceneBuilder::SceneBuilder(OdDbDatabase& drawing) : m_drawing(drawing), m_linetypeScale(drawing.getLTSCALE()) {}
+SceneBuilder::SceneBuilder(OdDbDatabase& drawing)
+    : m_drawing(drawing), m_linetypeScale(drawing.getLTSCALE()) {}
 
 void SceneBuilder::addBlock(const OdDbObjectId& block) { addEntities(block, Context()); }
 
@@ -160,26 +166,32 @@ void SceneBuilder::addPath(std::vector<OdGePoint2d> points, const Context& conte
     m_scene.paths.push_back({std::move(points), filled, style, context.entity});
 }
 
-void SceneBuilder::addArc(const OdGePoint3d& center, double radius, double start, double sweep, const Context& context,
-                          const DisplayStyle& style) {
+void SceneBuilder::addArc(const OdGePoint3d& center, double radius, double start, double sweep,
+                          const Context& context, const DisplayStyle& style) {
     const int steps = std::max(2, static_cast<int>(std::ceil(sweep / kArcStep)));
     std::vector<OdGePoint2d> points;
     for (int i = 0; i <= steps; ++i) {
         const double angle = start + sweep * i / steps;
-        points.push_back(context.transform.apply(center.x + radius * std::cos(angle), center.y + radius * std::sin(angle)));
+        points.push_back(context.transform.apply(center.x + radius * std::cos(angle),
+                                                 center.y + radius * std::sin(angle)));
     }
     addPath(std::move(points), context, style);
 }
 
-void SceneBuilder::addReference(OdDbBlockReference& reference, const Context& context, const DisplayStyle& style) {
+void SceneBuilder::addReference(OdDbBlockReference& reference, const Context& context,
+                                const DisplayStyle& style) {
     const OdGePoint3d position = reference.position(), factors = reference.scaleFactors();
     const double c = std::cos(reference.rotation()), s = std::sin(reference.rotation());
     const int rows = std::max(1, reference.rows()), columns = std::max(1, reference.columns());
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
             const double dx = column * reference.columnSpacing(), dy = row * reference.rowSpacing();
-            const PlaneTransform placed{c * factors.x, -s * factors.y, s * factors.x, c * factors.y,
-                                        position.x + c * dx - s * dy, position.y + s * dx + c * dy};
+            const PlaneTransform placed{c * factors.x,
+                                        -s * factors.y,
+                                        s * factors.x,
+                                        c * factors.y,
+                                        position.x + c * dx - s * dy,
+                                        position.y + s * dx + c * dy};
             Context inner = context;
             inner.transform = context.transform.after(placed);
             inner.byBlock = &style;
@@ -227,7 +239,8 @@ void SceneBuilder::addMText(const OdDbMText& text, const Context& context, const
         SceneText item;
         item.text = line;
         item.horizontal = attachment % 3;
-        item.position = context.transform.apply(at.x + std::sin(rotation) * down, at.y - std::cos(rotation) * down);
+        item.position =
+            context.transform.apply(at.x + std::sin(rotation) * down, at.y - std::cos(rotation) * down);
         item.height = height * context.transform.scale();
         item.rotation = rotation + context.transform.rotation();
         item.style = style;

@@ -40,7 +40,8 @@ private:
     void addReference(OdDbBlockReference& reference, const Context& context, const DisplayStyle& style);
     void addText(const OdDbText& text, const Context& context, const DisplayStyle& style);
     void addMText(const OdDbMText& text, const Context& context, const DisplayStyle& style);
-    void addPath(std::vector<OdGePoint2d> points, const Context& context, const DisplayStyle& style, bool filled = false);
+    void addPath(std::vector<OdGePoint2d> points, const Context& context, const DisplayStyle& style,
+                 bool filled = false);
     void addArc(const OdGePoint3d& center, double radius, double start, double sweep, const Context& context,
                 const DisplayStyle& style);
     DisplayStyle styleOf(const OdDbEntity& entity, const Context& context) const;

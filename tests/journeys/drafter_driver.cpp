@@ -24,8 +24,14 @@ void sendKey(WORD virtualKey, bool up) {
     input.ki.wScan = static_cast<WORD>(::MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC));
     input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
     switch (virtualKey) {
-        case VK_UP: case VK_DOWN: case VK_LEFT: case VK_RIGHT: case VK_HOME: case VK_END: case VK_DELETE:
-            input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
+        case VK_UP:
+        case VK_DOWN:
+        case VK_LEFT:
+        case VK_RIGHT:
+        case VK_HOME:
+        case VK_END:
+        case VK_DELETE: input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY; break;
+        default: break;
     }
     ::SendInput(1, &input, sizeof(input));
 }
@@ -72,12 +78,13 @@ Drafter::Drafter(const std::wstring& drawing) {
     if (!drawing.empty()) command += L" \"" + drawing + L"\"";
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
-    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &m_process))
+    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                          &m_process))
         return;
     waitUntil([this] {
         m_frame = findWindow([](HWND window) {
-            return ::GetWindow(window, GW_OWNER) == nullptr && textOf(window).find(L"Drafter") != std::wstring::npos &&
-                   ::GetMenu(window) != nullptr;
+            return ::GetWindow(window, GW_OWNER) == nullptr &&
+                   textOf(window).find(L"Drafter") != std::wstring::npos && ::GetMenu(window) != nullptr;
         });
         return m_frame != nullptr;
     });
@@ -182,6 +189,10 @@ void Drafter::hover(HWND window, POINT client) {
 }
 
 void Drafter::click(HWND window, POINT client) {
+    // Two clicks in quick succession would be a double click.
+    const ULONGLONG quiet = m_lastClick + ::GetDoubleClickTime() + kPoll, now = ::GetTickCount64();
+    if (now < quiet) ::Sleep(static_cast<DWORD>(quiet - now));
+    m_lastClick = ::GetTickCount64();
     hover(window, client);
     ::ClientToScreen(window, &client);
     sendMouse(client, MOUSEEVENTF_LEFTDOWN);
@@ -205,24 +216,30 @@ void Drafter::replaceText(HWND control, const std::wstring& text) {
     type(text);
 }
 
-void Drafter::pick(HWND combo, int index) {
+void Drafter::drop(HWND combo) {
+    const auto isDropped = [=] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; };
     click(combo);
-    waitUntil([=] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }, 2000);
+    // A click that was lost is made good by the key.
+    if (!waitUntil(isDropped, 400)) key(VK_F4);
+    waitUntil(isDropped, 2000);
+}
+
+void Drafter::pick(HWND combo, int index) {
+    drop(combo);
     key(VK_HOME);
     for (int i = 0; i < index; ++i) key(VK_DOWN);
     key(VK_RETURN);
 }
 
 void Drafter::pickLast(HWND combo) {
-    click(combo);
-    waitUntil([=] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }, 2000);
+    drop(combo);
     key(VK_END);
     key(VK_RETURN);
 }
 
 void Drafter::place(HWND window, RECT screen) {
-    ::SetWindowPos(window, nullptr, screen.left, screen.top, screen.right - screen.left, screen.bottom - screen.top,
-                   SWP_NOZORDER);
+    ::SetWindowPos(window, nullptr, screen.left, screen.top, screen.right - screen.left,
+                   screen.bottom - screen.top, SWP_NOZORDER);
     settle(window);
 }
 
@@ -275,17 +292,20 @@ std::wstring scratchCopy(const std::wstring& drawing) {
     return copy;
 }
 
-void forgetSettings() { ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs"); }
+void forgetSettings() {
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs");
+}
 
 int setting(const std::wstring& dialog, const std::wstring& value, bool& found) {
     DWORD number = 0, size = sizeof(number);
-    found = ::RegGetValueW(HKEY_CURRENT_USER, (kDialogs + dialog).c_str(), value.c_str(), RRF_RT_REG_DWORD, nullptr,
-                           &number, &size) == ERROR_SUCCESS;
+    found = ::RegGetValueW(HKEY_CURRENT_USER, (kDialogs + dialog).c_str(), value.c_str(), RRF_RT_REG_DWORD,
+                           nullptr, &number, &size) == ERROR_SUCCESS;
     return static_cast<int>(number);
 }
 
 void storeSetting(const std::wstring& dialog, const std::wstring& value, int number) {
-    ::RegSetKeyValueW(HKEY_CURRENT_USER, (kDialogs + dialog).c_str(), value.c_str(), REG_DWORD, &number, sizeof(DWORD));
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, (kDialogs + dialog).c_str(), value.c_str(), REG_DWORD, &number,
+                      sizeof(DWORD));
 }
 
 }  // namespace journey

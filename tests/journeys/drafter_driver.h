@@ -39,11 +39,14 @@ public:
     void hover(HWND window, POINT client);
     /// Gives the control the focus by a click and replaces its text.
     void replaceText(HWND control, const std::wstring& text);
-    /// Opens the drop-down of a combo box, goes to its last entry and takes it.
+    /// Opens the drop-down of a combo box by a click.
+    void drop(HWND combo);
+    /// Opens the drop-down, goes to its last entry and takes it.
     void pickLast(HWND combo);
     /// Opens the drop-down, goes to entry `index` and takes it.
     void pick(HWND combo, int index);
-    /// Moves a top-level window as a user would, by its system menu and keys being too slow: to screen pixels.
+    /// Moves a top-level window as a user would, by its system menu and keys being too slow: to screen
+    /// pixels.
     void place(HWND window, RECT screen);
 
     /// Opens Format > Properties by its key and answers the dialog.
@@ -54,6 +57,7 @@ private:
 
     PROCESS_INFORMATION m_process = {};
     HWND m_frame = nullptr;
+    ULONGLONG m_lastClick = 0;  ///< tick count
 };
 
 /// Waits until `done`; false when `milliseconds` have passed first.
@@ -66,16 +70,16 @@ RECT rectOf(HWND window);
 std::wstring currentEntry(HWND combo);
 int entryCount(HWND combo);
 
-/// Asks the surrounding script for a picture of the screen under `name` and waits for it. Without a script that
-/// takes pictures (the environment variable KTUI_PICTURES names its folder) nothing happens.
+/// Asks the surrounding script for a picture of the screen under `name` and waits for it. Without a script
+/// that takes pictures (the environment variable KTUI_PICTURES names its folder) nothing happens.
 void picture(const std::string& name);
 
 /// The folder of the sample's drawings, and a scratch copy of one of them.
 std::wstring drawingsFolder();
 std::wstring scratchCopy(const std::wstring& drawing);
 
-/// Settings of the sample's dialogs in the registry: forgets them, and reads one number (`found` tells whether it is
-/// there).
+/// Settings of the sample's dialogs in the registry: forgets them, and reads one number (`found` tells
+/// whether it is there).
 void forgetSettings();
 int setting(const std::wstring& dialog, const std::wstring& value, bool& found);
 void storeSetting(const std::wstring& dialog, const std::wstring& value, int number);

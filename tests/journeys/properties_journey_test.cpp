@@ -196,7 +196,8 @@ TEST_F(Properties, TheDialogComesBackWhereItWasLeft) {
     HWND dialog = openOnAll();
     ASSERT_NE(dialog, nullptr);
     const RECT before = rectOf(dialog), list = rectOf(item(dialog, IDC_LAYER_LIST));
-    const RECT wanted = {60, 40, 60 + (before.right - before.left) + 120, 40 + (before.bottom - before.top) + 80};
+    const RECT wanted = {60, 40, 60 + (before.right - before.left) + 120,
+                         40 + (before.bottom - before.top) + 80};
     drafter->place(dialog, wanted);
     const RECT stretched = rectOf(item(dialog, IDC_LAYER_LIST));
     EXPECT_EQ(stretched.right - stretched.left, list.right - list.left + 120);
@@ -236,11 +237,14 @@ TEST_F(Properties, AClippedLayerNameShowsATip) {
     drafter->hover(list, {8, 34});
     drafter->hover(list, {10, 36});
     HWND tip = nullptr;
-    EXPECT_TRUE(waitUntil([&] {
-        tip = ::FindWindowW(L"CKbUiTipWindow", nullptr);
-        while (tip != nullptr && !::IsWindowVisible(tip)) tip = ::FindWindowExW(nullptr, tip, L"CKbUiTipWindow", nullptr);
-        return tip != nullptr;
-    }, 3000));
+    EXPECT_TRUE(waitUntil(
+        [&] {
+            tip = ::FindWindowW(L"CKbUiTipWindow", nullptr);
+            while (tip != nullptr && !::IsWindowVisible(tip))
+                tip = ::FindWindowExW(nullptr, tip, L"CKbUiTipWindow", nullptr);
+            return tip != nullptr;
+        },
+        3000));
     picture("journey-tip");
     drafter->hover(dialog, {3, 3});
     EXPECT_TRUE(waitUntil([&] { return !::IsWindowVisible(tip); }, 2000)) << "the tip goes with the pointer";
@@ -251,11 +255,13 @@ TEST_F(Properties, ADamagedDrawingIsRefusedInWordsAndTheProgramGoesOn) {
     const std::wstring bad = scratchCopy(L"bracket.dxf") + L".bad.dxf";
     HANDLE file = ::CreateFileW(bad.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
-    ::WriteFile(file, "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n  0\r\nLINE\r\n 10\r\nnonsense\r\n", 56, &written, nullptr);
+    ::WriteFile(file, "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n  0\r\nLINE\r\n 10\r\nnonsense\r\n", 56, &written,
+                nullptr);
     ::CloseHandle(file);
     Drafter second(bad);
     HWND message = second.waitForDialog(L"Drafter");
     ASSERT_NE(message, nullptr);
+    second.activate(message);
     second.key(VK_RETURN);
     EXPECT_TRUE(second.waitUntilGone(message));
     EXPECT_TRUE(second.isRunning());

@@ -1,6 +1,6 @@
-// A scripted tour through the drafter: opens a drawing, edits an object's properties with real keys and clicks, and
-// prints what was typed, what the control made of it and what was stored. Pictures are taken by the script that
-// starts it.
+// A scripted tour through the drafter: opens a drawing, edits an object's properties with real keys and
+// clicks, and prints what was typed, what the control made of it and what was stored. Pictures are taken by
+// the script that starts it.
 //
 //     drafter_tour.exe [drawing.dxf]
 #include <cstdio>
@@ -28,12 +28,14 @@ void tell(const char* name, const std::wstring& text) {
 }
 
 /// Types into a field and leaves it; tells what became of the text.
-void enter(Drafter& drafter, HWND dialog, int id, const wchar_t* label, const char* name, const std::wstring& text) {
+void enter(Drafter& drafter, HWND dialog, int id, const wchar_t* label, const char* name,
+           const std::wstring& text) {
     HWND field = item(dialog, id);
     drafter.replaceText(field, text);
     drafter.key(VK_TAB);
     const std::wstring problem = textOf(item(dialog, IDC_MESSAGE));
-    std::wstring line = std::wstring(label) + L": typed \"" + text + L"\", the control shows \"" + textOf(field) + L"\"";
+    std::wstring line =
+        std::wstring(label) + L": typed \"" + text + L"\", the control shows \"" + textOf(field) + L"\"";
     if (!problem.empty()) line += L" - " + problem;
     tell(name, line);
 }
@@ -67,7 +69,7 @@ int run(const std::wstring& source) {
     enter(drafter, dialog, IDC_LAYER, L"Layer", "layer-invalid", L"walls|old?");
     enter(drafter, dialog, IDC_LAYER, L"Layer", "layer", L"Tour");
     HWND color = item(dialog, IDC_TRUE_COLOR);
-    drafter.click(color);
+    drafter.drop(color);
     tell("color-list", L"Dropped the colour list: " + std::to_wstring(entryCount(color)) + L" entries");
     drafter.key(VK_END);
     drafter.key(VK_RETURN);
@@ -98,13 +100,14 @@ int run(const std::wstring& source) {
         return 1;
     }
     const OdDbEntity* entity = drawing->modelSpaceId().open<OdDbBlockTableRecord>()->entities().front();
-    std::printf("    stored: layer %s, thickness %g, colour index %d\n", odUtf8(entity->layer().view()).c_str(),
-                entity->thickness(), entity->colorIndex());
+    std::printf("    stored: layer %s, thickness %g, colour index %d\n",
+                odUtf8(entity->layer().view()).c_str(), entity->thickness(), entity->colorIndex());
     dialog = drafter.openProperties();
     tell("reopened", L"Opened the dialog again: it stands where it was left");
     drafter.key(VK_ESCAPE);
     drafter.waitUntilGone(dialog);
-    const bool stored = entity->layer() == L"Tour" && entity->thickness() == 2.5 && entity->colorIndex() == 40;
+    const bool stored =
+        entity->layer() == L"Tour" && entity->thickness() == 2.5 && entity->colorIndex() == 40;
     std::printf("%s\n", stored ? "The tour is complete." : "error: what was stored is not what was entered");
     return stored ? 0 : 1;
 }

@@ -25,18 +25,12 @@ std::uint32_t hueColor(int aci) {
     const int rising = channel(value, saturation, step);
     const int falling = channel(value, saturation, 1.0 - step);
     switch (hue / 4) {
-        case 0:
-            return packed(high, rising, low);
-        case 1:
-            return packed(falling, high, low);
-        case 2:
-            return packed(low, high, rising);
-        case 3:
-            return packed(low, falling, high);
-        case 4:
-            return packed(rising, low, high);
-        default:
-            return packed(high, low, falling);
+        case 0: return packed(high, rising, low);
+        case 1: return packed(falling, high, low);
+        case 2: return packed(low, high, rising);
+        case 3: return packed(low, falling, high);
+        case 4: return packed(rising, low, high);
+        default: return packed(high, low, falling);
     }
 }
 

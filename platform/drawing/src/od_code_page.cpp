@@ -66,22 +66,14 @@ private:
 std::string systemName(int page) {
     if (page >= 28591 && page <= 28599) return "ISO-8859-" + std::to_string(page - 28590);
     switch (page) {
-        case 932:
-            return "CP932";
-        case 936:
-            return "GBK";
-        case 949:
-            return "CP949";
-        case 950:
-            return "CP950";
-        case 1361:
-            return "JOHAB";
-        case 10000:
-            return "MACINTOSH";
-        case 65001:
-            return "UTF-8";
-        default:
-            return "CP" + std::to_string(page);
+        case 932: return "CP932";
+        case 936: return "GBK";
+        case 949: return "CP949";
+        case 950: return "CP950";
+        case 1361: return "JOHAB";
+        case 10000: return "MACINTOSH";
+        case 65001: return "UTF-8";
+        default: return "CP" + std::to_string(page);
     }
 }
 

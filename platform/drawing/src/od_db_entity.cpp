@@ -126,14 +126,10 @@ OdDb::PlotStyleNameType OdDbEntity::plotStyleNameType() const {
 
 OdString OdDbEntity::plotStyleName() const {
     switch (plotStyleNameType()) {
-        case OdDb::kPlotStyleNameByLayer:
-            return L"ByLayer";
-        case OdDb::kPlotStyleNameByBlock:
-            return L"ByBlock";
-        case OdDb::kPlotStyleNameIsDictDefault:
-            return L"Normal";
-        default:
-            break;
+        case OdDb::kPlotStyleNameByLayer: return L"ByLayer";
+        case OdDb::kPlotStyleNameByBlock: return L"ByBlock";
+        case OdDb::kPlotStyleNameIsDictDefault: return L"Normal";
+        default: break;
     }
     OdDbDictionaryPtr names;
     OdGroup group;

@@ -9,16 +9,11 @@ const char* const kRecordNames[kTableCount] = {"VPORT", "LTYPE", "LAYER",    "ST
 
 OdDbSymbolTablePtr makeTable(int kind) {
     switch (kind) {
-        case kLinetypeTable:
-            return new OdDbLinetypeTable;
-        case kLayerTable:
-            return new OdDbLayerTable;
-        case kTextStyleTable:
-            return new OdDbTextStyleTable;
-        case kBlockTable:
-            return new OdDbBlockTable;
-        default:
-            return new OdDbSymbolTable(kRecordNames[kind]);
+        case kLinetypeTable: return new OdDbLinetypeTable;
+        case kLayerTable: return new OdDbLayerTable;
+        case kTextStyleTable: return new OdDbTextStyleTable;
+        case kBlockTable: return new OdDbBlockTable;
+        default: return new OdDbSymbolTable(kRecordNames[kind]);
     }
 }
 

@@ -40,10 +40,8 @@ bool isComplexLinetypeCode(int code) {
         case 46:
         case 50:
         case 74:
-        case 75:
-            return true;
-        default:
-            return false;
+        case 75: return true;
+        default: return false;
     }
 }
 

@@ -58,18 +58,12 @@ std::vector<Subclass> dimensionSubclasses(std::int64_t type) {
             return {{"AcDbDimension", {}},
                     {"AcDbAlignedDimension", {13, 14, 50, 52}},
                     {"AcDbRotatedDimension", {-1}}};
-        case 1:
-            return {{"AcDbDimension", {}}, {"AcDbAlignedDimension", {13, 14, 52}}};
-        case 2:
-            return {{"AcDbDimension", {}}, {"AcDb2LineAngularDimension", {13, 14, 15, 16}}};
-        case 3:
-            return {{"AcDbDimension", {}}, {"AcDbDiametricDimension", {15, 40}}};
-        case 4:
-            return {{"AcDbDimension", {}}, {"AcDbRadialDimension", {15, 40}}};
-        case 5:
-            return {{"AcDbDimension", {}}, {"AcDb3PointAngularDimension", {13, 14, 15}}};
-        default:
-            return {{"AcDbDimension", {}}, {"AcDbOrdinateDimension", {13, 14}}};
+        case 1: return {{"AcDbDimension", {}}, {"AcDbAlignedDimension", {13, 14, 52}}};
+        case 2: return {{"AcDbDimension", {}}, {"AcDb2LineAngularDimension", {13, 14, 15, 16}}};
+        case 3: return {{"AcDbDimension", {}}, {"AcDbDiametricDimension", {15, 40}}};
+        case 4: return {{"AcDbDimension", {}}, {"AcDbRadialDimension", {15, 40}}};
+        case 5: return {{"AcDbDimension", {}}, {"AcDb3PointAngularDimension", {13, 14, 15}}};
+        default: return {{"AcDbDimension", {}}, {"AcDbOrdinateDimension", {13, 14}}};
     }
 }
 
@@ -194,10 +188,8 @@ bool odIsCommonEntityCode(int code) {
         case 410:
         case 420:
         case 430:
-        case 440:
-            return true;
-        default:
-            return false;
+        case 440: return true;
+        default: return false;
     }
 }
 

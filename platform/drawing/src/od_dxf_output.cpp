@@ -22,18 +22,14 @@ OdDb::DwgVersion firstVersionOf(int code) {
         case 290:
         case 370:
         case 380:
-        case 390:
-            return OdDb::kDHL_1015;
+        case 390: return OdDb::kDHL_1015;
         case 420:
         case 430:
-        case 440:
-            return OdDb::kDHL_1018;
+        case 440: return OdDb::kDHL_1018;
         case 284:
         case 347:
-        case 348:
-            return OdDb::kDHL_1021;
-        default:
-            return OdDb::kDHL_1009;
+        case 348: return OdDb::kDHL_1021;
+        default: return OdDb::kDHL_1009;
     }
 }
 
@@ -95,18 +91,10 @@ void OdDxfOutput::putOwnHandle(OdDbHandle value, int code) {
 
 void OdDxfOutput::putGroup(const OdGroup& group) {
     switch (group.kind) {
-        case OdGroupKind::kReal:
-            putReal(group.code, group.real);
-            break;
-        case OdGroupKind::kInteger:
-            putInteger(group.code, group.integer);
-            break;
-        case OdGroupKind::kHandle:
-            putHandle(group.code, group.handle());
-            break;
-        case OdGroupKind::kText:
-            putText(group.code, group.text);
-            break;
+        case OdGroupKind::kReal: putReal(group.code, group.real); break;
+        case OdGroupKind::kInteger: putInteger(group.code, group.integer); break;
+        case OdGroupKind::kHandle: putHandle(group.code, group.handle()); break;
+        case OdGroupKind::kText: putText(group.code, group.text); break;
     }
 }
 

@@ -21,9 +21,7 @@ bool OdDxfRecordReader::append(OdGroupList& groups) {
             groups.addHandle(code, value);
             return true;
         }
-        default:
-            groups.addText(code, text());
-            return true;
+        default: groups.addText(code, text()); return true;
     }
 }
 

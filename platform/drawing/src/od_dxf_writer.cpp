@@ -9,24 +9,15 @@ namespace {
 
 const char* versionName(OdDb::DwgVersion version) {
     switch (version) {
-        case OdDb::kDHL_1009:
-            return "AC1009";
-        case OdDb::kDHL_1012:
-            return "AC1012";
-        case OdDb::kDHL_1014:
-            return "AC1014";
-        case OdDb::kDHL_1015:
-            return "AC1015";
-        case OdDb::kDHL_1018:
-            return "AC1018";
-        case OdDb::kDHL_1021:
-            return "AC1021";
-        case OdDb::kDHL_1024:
-            return "AC1024";
-        case OdDb::kDHL_1027:
-            return "AC1027";
-        default:
-            return "AC1032";
+        case OdDb::kDHL_1009: return "AC1009";
+        case OdDb::kDHL_1012: return "AC1012";
+        case OdDb::kDHL_1014: return "AC1014";
+        case OdDb::kDHL_1015: return "AC1015";
+        case OdDb::kDHL_1018: return "AC1018";
+        case OdDb::kDHL_1021: return "AC1021";
+        case OdDb::kDHL_1024: return "AC1024";
+        case OdDb::kDHL_1027: return "AC1027";
+        default: return "AC1032";
     }
 }
 

@@ -182,18 +182,10 @@ void OdGroupList::addPoint(int code, const OdGePoint3d& point, bool flat) {
 
 void OdGroupList::add(const OdGroup& group) {
     switch (group.kind) {
-        case OdGroupKind::kReal:
-            addReal(group.code, group.real);
-            break;
-        case OdGroupKind::kText:
-            addText(group.code, group.text);
-            break;
-        case OdGroupKind::kInteger:
-            addInteger(group.code, group.integer);
-            break;
-        case OdGroupKind::kHandle:
-            addHandle(group.code, group.handle());
-            break;
+        case OdGroupKind::kReal: addReal(group.code, group.real); break;
+        case OdGroupKind::kText: addText(group.code, group.text); break;
+        case OdGroupKind::kInteger: addInteger(group.code, group.integer); break;
+        case OdGroupKind::kHandle: addHandle(group.code, group.handle()); break;
     }
 }
 

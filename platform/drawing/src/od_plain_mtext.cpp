@@ -31,20 +31,12 @@ private:
         const wchar_t c = take();
         switch (c) {
             case L'P':
-            case L'N':
-                m_out += L'\n';
-                break;
-            case L'~':
-                m_out += L' ';
-                break;
+            case L'N': m_out += L'\n'; break;
+            case L'~': m_out += L' '; break;
             case L'\\':
             case L'{':
-            case L'}':
-                m_out += c;
-                break;
-            case L'S':
-                stack();
-                break;
+            case L'}': m_out += c; break;
+            case L'S': stack(); break;
             case L'A':
             case L'C':
             case L'c':
@@ -54,19 +46,14 @@ private:
             case L'p':
             case L'Q':
             case L'T':
-            case L'W':
-                argument();
-                break;
+            case L'W': argument(); break;
             case L'L':
             case L'l':
             case L'O':
             case L'o':
             case L'K':
-            case L'k':
-                break;
-            default:
-                (m_out += L'\\') += c;
-                break;
+            case L'k': break;
+            default: (m_out += L'\\') += c; break;
         }
     }
 

@@ -1,4 +1,5 @@
-// A toolkit dialog that opens its protected operations to the tests, and a clean place in the registry for it.
+// A toolkit dialog that opens its protected operations to the tests, and a clean place in the registry for
+// it.
 #pragma once
 
 #include <ktui/dialogs/ktui_dialog.h>
@@ -12,7 +13,8 @@ constexpr const wchar_t* kTestRoot = L"Software\\ktui test\\Dialogs\\";
 
 class OpenDialog : public CKtUiDialog {
 public:
-    explicit OpenDialog(unsigned templateId = IDD_ELASTIC, CWnd* parent = nullptr) : CKtUiDialog(templateId, parent) {
+    explicit OpenDialog(unsigned templateId = IDD_ELASTIC, CWnd* parent = nullptr)
+        : CKtUiDialog(templateId, parent) {
         SetAppRootKey(kTestRoot);
     }
 
@@ -51,11 +53,14 @@ public:
     /// Makes the client area larger by (dx, dy) pixels.
     void grow(int dx, int dy) {
         CRect rect = windowRect();
-        SetWindowPos(nullptr, 0, 0, rect.Width() + dx, rect.Height() + dy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(nullptr, 0, 0, rect.Width() + dx, rect.Height() + dy,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 
 protected:
-    CWnd* AppMainWindow() override { return mainWindow != nullptr ? mainWindow : CKtUiDialog::AppMainWindow(); }
+    CWnd* AppMainWindow() override {
+        return mainWindow != nullptr ? mainWindow : CKtUiDialog::AppMainWindow();
+    }
     BOOL OnInitDialog() override {
         calls.push_back("init");
         const BOOL result = CKtUiDialog::OnInitDialog();
@@ -107,7 +112,8 @@ protected:
         const struct {
             const wchar_t* value;
             int number;
-        } values[] = {{L"X", rect.left}, {L"Y", rect.top}, {L"Width", rect.Width()}, {L"Height", rect.Height()}};
+        } values[] = {
+            {L"X", rect.left}, {L"Y", rect.top}, {L"Width", rect.Width()}, {L"Height", rect.Height()}};
         for (const auto& each : values)
             ::RegSetKeyValueW(HKEY_CURRENT_USER, key, each.value, REG_DWORD, &each.number, sizeof(DWORD));
     }

@@ -124,7 +124,9 @@ TEST_F(BaseDialog, TheIconIsTheLibrarysUnlessOneWasSetBefore) {
     EXPECT_EQ(dialog.GetIcon(FALSE), dialog.GetDialogIcon());
     class Own : public OpenDialog {
     public:
-        explicit Own(CWnd* parent) : OpenDialog(IDD_ELASTIC, parent) { m_icon = ::LoadIconW(nullptr, IDI_WARNING); }
+        explicit Own(CWnd* parent) : OpenDialog(IDD_ELASTIC, parent) {
+            m_icon = ::LoadIconW(nullptr, IDI_WARNING);
+        }
     } own(&parent);
     own.Create(IDD_ELASTIC, &parent);
     EXPECT_EQ(own.GetDialogIcon(), ::LoadIconW(nullptr, IDI_WARNING));

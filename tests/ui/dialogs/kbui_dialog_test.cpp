@@ -49,7 +49,8 @@ TEST_F(ElasticDialog, TwoTagsOnOneControlAddUp) {
     dialog.StretchControlX(IDC_SECOND, 50);
     dialog.StretchControlY(IDC_SECOND, 100);
     dialog.grow(20, 8);
-    EXPECT_EQ(dialog.rectOf(IDC_SECOND), CRect(before.left + 10, before.top, before.right + 20, before.bottom + 8));
+    EXPECT_EQ(dialog.rectOf(IDC_SECOND),
+              CRect(before.left + 10, before.top, before.right + 20, before.bottom + 8));
 }
 
 TEST_F(ElasticDialog, XAndYInOneTagMoveAndStretch) {
@@ -62,7 +63,8 @@ TEST_F(ElasticDialog, XAndYInOneTagMoveAndStretch) {
 }
 
 TEST_F(ElasticDialog, ABatchRecordOfTwoAxesIsSkippedAndTheResultIsStillOne) {
-    const CRect first = dialog.rectOf(IDC_FIRST), second = dialog.rectOf(IDC_SECOND), third = dialog.rectOf(IDC_THIRD);
+    const CRect first = dialog.rectOf(IDC_FIRST), second = dialog.rectOf(IDC_SECOND),
+                third = dialog.rectOf(IDC_THIRD);
     _dlgControlTag tags[] = {{IDC_FIRST, 3, 100}, {IDC_SECOND, 1, 100}, {IDC_THIRD, 48, 100}, {4711, 1, 100}};
     EXPECT_EQ(dialog.SetControlProperty(tags, 4), 1);
     dialog.grow(10, 10);
@@ -177,8 +179,8 @@ TEST_F(PlacedDialog, OkStoresThePlacementAndTheNextShowingTakesIt) {
         OpenDialog dialog(IDD_ELASTIC, &parent);
         dialog.SetDialogName(L"kept");
         later([&] {
-            dialog.SetWindowPos(nullptr, 130, 90, dialog.windowRect().Width() + 40, dialog.windowRect().Height() + 30,
-                                SWP_NOZORDER);
+            dialog.SetWindowPos(nullptr, 130, 90, dialog.windowRect().Width() + 40,
+                                dialog.windowRect().Height() + 30, SWP_NOZORDER);
             placed = dialog.windowRect();
             dialog.SendMessage(WM_COMMAND, IDOK);
         });
@@ -354,7 +356,8 @@ TEST_F(PlacedDialog, ColumnWidthsComeBackUnderTheDoubledBackslash) {
     list.SetColumnWidth(0, 20);
     list.SetColumnWidth(1, 20);
     const DWORD zero = 0;
-    ::RegSetKeyValueW(HKEY_CURRENT_USER, CString(kTestRoot) + key, L"Column2", REG_DWORD, &zero, sizeof(zero));
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, CString(kTestRoot) + key, L"Column2", REG_DWORD, &zero,
+                      sizeof(zero));
     EXPECT_EQ(dialog.GetColumnSizes(&list), 1);
     EXPECT_EQ(list.GetColumnWidth(0), 61);
     EXPECT_EQ(list.GetColumnWidth(1), 20) << "a stored 0 leaves the column";

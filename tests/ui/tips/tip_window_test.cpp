@@ -28,7 +28,8 @@ protected:
 class TipWindow : public ::testing::Test {
 protected:
     TipWindow() {
-        target.Create(AfxRegisterWndClass(0), L"target", WS_CHILD | WS_VISIBLE, CRect(20, 30, 220, 60), &parent, 7);
+        target.Create(AfxRegisterWndClass(0), L"target", WS_CHILD | WS_VISIBLE, CRect(20, 30, 220, 60),
+                      &parent, 7);
         tip.Create(&parent);
         tip.SetControl(&target);
         parent.SetFocus();
@@ -98,8 +99,8 @@ TEST_F(TipWindow, GoesWhenTheApplicationBecomesInactive) {
 }
 
 TEST_F(TipWindow, EveryButtonReachesTheControlAtItsOwnCoordinates) {
-    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, WM_MBUTTONDOWN,
-                               WM_MBUTTONDBLCLK}) {
+    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONDBLCLK,
+                               WM_MBUTTONDOWN, WM_MBUTTONDBLCLK}) {
         tip.MoveWindow(area.left + 10, area.top + 5, 50, 20);
         tip.Show();
         tip.SendMessage(message, MK_SHIFT, MAKELPARAM(3, 4));
