@@ -55,6 +55,17 @@ else()
   endif()
 endif()
 
+# ktui_public_headers(target folder destination)
+# Makes the headers in `folder` the target's public ones, and installs the target and them (on Windows).
+function(ktui_public_headers target folder destination)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${folder}> $<INSTALL_INTERFACE:${destination}>)
+  if(WIN32)
+    install(TARGETS ${target} EXPORT ktui)
+    install(DIRECTORY ${folder}/ DESTINATION ${destination} FILES_MATCHING PATTERN *.h
+            PATTERN standin_facets.h EXCLUDE PATTERN resource.h EXCLUDE PATTERN *_dialog.h EXCLUDE)
+  endif()
+endfunction()
+
 # ktui_precompile(target header ...)
 # Compiles the headers once for a Windows target; <windows.h> behind them costs seconds a unit otherwise.
 function(ktui_precompile target)
