@@ -83,6 +83,7 @@ void OdDxfEntityWriter::body(const OdGroupList& groups, const Common& common, bo
         if (marked) m_out.putGroup(first);
     }
     commonProperties(common);
+    if (attributesFollow && split == groups.size()) m_out.putInteger(66, 1);
     m_out.putGroups(groups, OdDxfPart::kCommon, marked ? first.end : 0, split);
     if (split == groups.size()) return;
     if (!m_out.isR12()) m_out.putGroup(second);

@@ -279,18 +279,17 @@ void odGiveNewLayoutGroups(OdGroupList& groups, const wchar_t* name, OdDbHandle 
 
 void odCompleteBlockEdge(bool begin, OdGroupList& groups) {
     OdGroup group;
-    if (!hasMarker(groups)) {
-        const std::uint32_t from = groups.applicationDataEnd();
-        OdGroupList sorted;
-        appendRange(sorted, groups, 0, from);
-        sorted.addText(100, "AcDbEntity");
-        if (!groups.find(8, group)) sorted.addText(8, "0");
-        appendOwn(sorted, groups, from, odIsCommonEntityCode);
-        sorted.addText(100, begin ? "AcDbBlockBegin" : "AcDbBlockEnd");
-        appendOwn(sorted, groups, from, [](int code) { return !odIsCommonEntityCode(code); });
-        appendRange(sorted, groups, groups.ownEnd(), groups.size());
-        groups = std::move(sorted);
-    }
+    groups.remove(100);
+    const std::uint32_t from = groups.applicationDataEnd();
+    OdGroupList sorted;
+    appendRange(sorted, groups, 0, from);
+    sorted.addText(100, "AcDbEntity");
+    if (!groups.find(8, group)) sorted.addText(8, "0");
+    appendOwn(sorted, groups, from, odIsCommonEntityCode);
+    sorted.addText(100, begin ? "AcDbBlockBegin" : "AcDbBlockEnd");
+    appendOwn(sorted, groups, from, [](int code) { return !odIsCommonEntityCode(code); });
+    appendRange(sorted, groups, groups.ownEnd(), groups.size());
+    groups = std::move(sorted);
     if (begin && !groups.find(70, group)) groups.setInteger(70, 0);
     if (begin && !groups.find(10, group)) groups.setPoint(10, {0, 0, 0});
     groups.shrink();

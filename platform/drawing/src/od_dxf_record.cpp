@@ -56,7 +56,8 @@ bool OdDxfRecordReader::takeOut(OdDxfRecordKind kind, OdDxfRecord& record) {
     const bool dimensionStyle = kind == OdDxfRecordKind::kTableRecord && record.type == "DIMSTYLE";
     const int handleCode = dimensionStyle ? kDimensionStyleHandle : 5;
     const bool named = kind == OdDxfRecordKind::kTableRecord || kind == OdDxfRecordKind::kBlock;
-    // R12 writes these records without handles, so that a second one must not be left to be taken for the first.
+    // R12 writes these records without handles, so that a second one must not be left to be taken for the
+    // first.
     if (code == handleCode && (record.handle == 0 || named)) {
         if (record.handle == 0) record.handle = odHandleFromText(m_scanner.value());
         return true;
