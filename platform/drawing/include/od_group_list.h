@@ -80,6 +80,8 @@ public:
     bool findIn(const char* marker, int code, OdGroup& group) const;
     /// Place behind the last own group: where embedded objects or extended data begin.
     std::uint32_t ownEnd() const;
+    /// Place behind the blocks of application data at the start.
+    std::uint32_t applicationDataEnd() const;
     /// Place of the first subclass marker of this name, or false.
     bool findMarker(std::string_view marker, OdGroup& group, std::uint32_t from = 0) const;
 

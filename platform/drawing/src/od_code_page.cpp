@@ -1,6 +1,8 @@
 #include "od_code_page.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -23,6 +25,11 @@ constexpr NamedPage kPages[] = {{"ASCII", 1252},      {"ISO8859-1", 28591}, {"IS
                                 {"ISO8859-9", 28599}, {"GB2312", 936},      {"BIG5", 950},
                                 {"KSC5601", 949},     {"JOHAB", 1361},      {"MACINTOSH", 10000},
                                 {"UTF-8", 65001},     {"UTF8", 65001}};
+
+/// The pages that names with a number may mean; others (those with shift states among them) are no drawing's.
+constexpr int kNumberedPages[] = {437,  720,  737,  775,  850,  852,  855,  857,  860, 861, 862,
+                                  863,  864,  865,  866,  869,  874,  932,  936,  949, 950, 1250,
+                                  1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258, 1361};
 
 std::string upperAscii(std::string_view text) {
     std::string upper(text);
@@ -99,7 +106,9 @@ int odCodePageFromName(std::string_view name) {
         return 1252;
     int page = 0;
     std::from_chars(upper.data() + digits, upper.data() + upper.size(), page);
-    return page > 0 && page < 65536 ? page : 1252;
+    const bool known =
+        std::find(std::begin(kNumberedPages), std::end(kNumberedPages), page) != std::end(kNumberedPages);
+    return known ? page : 1252;
 }
 
 #ifdef _WIN32

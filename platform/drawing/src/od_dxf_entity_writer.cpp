@@ -1,5 +1,7 @@
 #include "od_dxf_entity_writer.h"
 
+#include <algorithm>
+
 #include "od_dxf_markers.h"
 #include "od_dxf_r12.h"
 #include "od_dxf_writer.h"
@@ -61,6 +63,13 @@ void OdDxfEntityWriter::commonProperties(const Common& common) {
     if (common.linetype) m_out.putText(6, recordName(common.linetype));
 }
 
+void OdDxfEntityWriter::ownerAmong(const OdGroupList& groups, OdDbHandle owner, std::uint32_t end) {
+    const std::uint32_t data = std::min(groups.applicationDataEnd(), end);
+    m_out.putGroups(groups, OdDxfPart::kObject, 0, data);
+    m_out.putHandle(330, owner);
+    m_out.putGroups(groups, OdDxfPart::kObject, data, end);
+}
+
 void OdDxfEntityWriter::body(const OdGroupList& groups, const Common& common, bool attributesFollow) {
     OdGroup first, second;
     const bool marked = groups.find(100, first);
@@ -68,11 +77,11 @@ void OdDxfEntityWriter::body(const OdGroupList& groups, const Common& common, bo
     std::uint32_t split = groups.size();
     if (marked && groups.find(100, second, first.end)) split = second.begin;
     if (!m_out.isR12()) {
-        m_out.putGroups(groups, OdDxfPart::kObject, 0, head);
-        m_out.putHandle(330, common.owner);
+        ownerAmong(groups, common.owner, head);
         if (marked) m_out.putGroup(first);
     }
     commonProperties(common);
+    if (attributesFollow && split == groups.size()) m_out.putInteger(66, 1);
     m_out.putGroups(groups, OdDxfPart::kCommon, marked ? first.end : 0, split);
     if (split == groups.size()) return;
     if (!m_out.isR12()) m_out.putGroup(second);
@@ -157,8 +166,7 @@ void OdDxfEntityWriter::blockEdge(bool begin, OdDbHandle handle, OdDbBlockTableR
     const std::uint32_t body = split ? second.end : marked ? first.end : 0;
     if (!m_out.isR12()) {
         m_out.putOwnHandle(handle);
-        m_out.putGroups(groups, OdDxfPart::kObject, 0, head);
-        m_out.putHandle(330, block.handle());
+        ownerAmong(groups, block.handle(), head);
     }
     m_out.putGroups(groups, OdDxfPart::kCommon, head, body);
     if (begin) {
@@ -202,8 +210,7 @@ void OdDxfEntityWriter::object(OdDbObject& object) {
     OdGroup first, second;
     const bool marked = groups.find(100, first);
     const std::uint32_t head = marked ? first.begin : 0;
-    m_out.putGroups(groups, OdDxfPart::kObject, 0, head);
-    m_out.putHandle(330, m_store.ownerOf(object));
+    ownerAmong(groups, m_store.ownerOf(object), head);
     auto* dictionary = dynamic_cast<OdDbDictionary*>(&object);
     if (!dictionary) {
         m_out.putGroups(groups, OdDxfPart::kObject, head);

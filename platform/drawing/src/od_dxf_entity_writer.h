@@ -19,6 +19,9 @@ public:
     void object(OdDbObject& object);
     /// The groups of a table record with what differs between versions settled.
     OdGroupList recordForm(OdTableKind kind, const OdGroupList& groups) const;
+    /// The groups up to `end`, which stand before the first marker, with the owner behind their application
+    /// data.
+    void ownerAmong(const OdGroupList& groups, OdDbHandle owner, std::uint32_t end);
     /// Count of the entities that the version has no form for.
     int leftOut() const { return m_leftOut; }
 

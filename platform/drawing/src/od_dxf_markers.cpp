@@ -103,19 +103,6 @@ void appendOwn(OdGroupList& out, const OdGroupList& groups, std::uint32_t from, 
         if (wanted(group.code)) out.add(group);
 }
 
-/// Place behind the blocks of application data at the start.
-std::uint32_t applicationDataEnd(const OdGroupList& groups) {
-    OdGroup group;
-    std::uint32_t end = 0;
-    bool inside = false;
-    for (std::uint32_t at = 0; groups.read(at, group) && (inside || group.code == 102); at = group.end)
-        if (group.code == 102) {
-            inside = !group.text.empty() && group.text[0] == '{';
-            if (!inside) end = group.end;
-        }
-    return end;
-}
-
 void appendRange(OdGroupList& out, const OdGroupList& groups, std::uint32_t from, std::uint32_t to) {
     OdGroup group;
     for (std::uint32_t at = from; at < to && groups.read(at, group); at = group.end) out.add(group);
@@ -198,7 +185,7 @@ void odCompleteEntityMarkers(std::string_view type, OdGroupList& groups) {
     bool known = false;
     const std::vector<Subclass> parts = subclassesOf(type, groups, known);
     if (!known) return;
-    const std::uint32_t from = applicationDataEnd(groups);
+    const std::uint32_t from = groups.applicationDataEnd();
     OdGroupList sorted;
     appendRange(sorted, groups, 0, from);
     sorted.addText(100, "AcDbEntity");
@@ -222,7 +209,7 @@ void odCompleteRecordMarkers(std::string_view type, OdGroupList& groups) {
     for (const RecordType& entry : kRecordTypes) {
         if (type != entry.type) continue;
         OdGroupList marked;
-        const std::uint32_t from = applicationDataEnd(groups);
+        const std::uint32_t from = groups.applicationDataEnd();
         appendRange(marked, groups, 0, from);
         marked.addText(100, "AcDbSymbolTableRecord");
         marked.addText(100, entry.marker);
@@ -284,18 +271,17 @@ void odGiveNewLayoutGroups(OdGroupList& groups, const wchar_t* name, OdDbHandle 
 
 void odCompleteBlockEdge(bool begin, OdGroupList& groups) {
     OdGroup group;
-    if (!hasMarker(groups)) {
-        const std::uint32_t from = applicationDataEnd(groups);
-        OdGroupList sorted;
-        appendRange(sorted, groups, 0, from);
-        sorted.addText(100, "AcDbEntity");
-        if (!groups.find(8, group)) sorted.addText(8, "0");
-        appendOwn(sorted, groups, from, odIsCommonEntityCode);
-        sorted.addText(100, begin ? "AcDbBlockBegin" : "AcDbBlockEnd");
-        appendOwn(sorted, groups, from, [](int code) { return !odIsCommonEntityCode(code); });
-        appendRange(sorted, groups, groups.ownEnd(), groups.size());
-        groups = std::move(sorted);
-    }
+    groups.remove(100);
+    const std::uint32_t from = groups.applicationDataEnd();
+    OdGroupList sorted;
+    appendRange(sorted, groups, 0, from);
+    sorted.addText(100, "AcDbEntity");
+    if (!groups.find(8, group)) sorted.addText(8, "0");
+    appendOwn(sorted, groups, from, odIsCommonEntityCode);
+    sorted.addText(100, begin ? "AcDbBlockBegin" : "AcDbBlockEnd");
+    appendOwn(sorted, groups, from, [](int code) { return !odIsCommonEntityCode(code); });
+    appendRange(sorted, groups, groups.ownEnd(), groups.size());
+    groups = std::move(sorted);
     if (begin && !groups.find(70, group)) groups.setInteger(70, 0);
     if (begin && !groups.find(10, group)) groups.setPoint(10, {0, 0, 0});
     groups.shrink();

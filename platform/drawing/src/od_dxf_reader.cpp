@@ -156,7 +156,7 @@ private:
         if (!m_entities.readUntil("ENDBLK", record.handle())) return false;
         if (!scanner().isRecord("ENDBLK"))
             return scanner().fail(OdDxfErrorCode::kBadStructure, L"The block doesn't end where it must.");
-        if (!m_records.read(OdDxfRecordKind::kObject, m_record)) return false;
+        if (!m_records.read(OdDxfRecordKind::kBlock, m_record)) return false;
         m_store.blockEnd(record) = m_record.groups;
         m_store.blockEndHandle(record) = m_record.handle;
         return true;

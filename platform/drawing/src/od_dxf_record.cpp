@@ -35,9 +35,9 @@ bool OdDxfRecordReader::takeOutOfEntity(OdDxfRecord& record) {
     }
     if (m_markers > 1) return false;
     if (code == 8) {
-        record.layer = text();
+        record.layer = name();
     } else if (code == 6) {
-        record.linetype = text();
+        record.linetype = name();
     } else if (code == 67) {
         std::int64_t value = 0;
         record.paperSpace = m_scanner.integer(value) && value != 0;
@@ -53,8 +53,11 @@ bool OdDxfRecordReader::takeOut(OdDxfRecordKind kind, OdDxfRecord& record) {
     const int code = m_scanner.code();
     const bool dimensionStyle = kind == OdDxfRecordKind::kTableRecord && record.type == "DIMSTYLE";
     const int handleCode = dimensionStyle ? kDimensionStyleHandle : 5;
-    if (code == handleCode && record.handle == 0) {
-        record.handle = odHandleFromText(m_scanner.value());
+    const bool named = kind == OdDxfRecordKind::kTableRecord || kind == OdDxfRecordKind::kBlock;
+    // R12 writes these records without handles, so that a second one must not be left to be taken for the
+    // first.
+    if (code == handleCode && (record.handle == 0 || named)) {
+        if (record.handle == 0) record.handle = odHandleFromText(m_scanner.value());
         return true;
     }
     if (code == 330 && m_markers == 0 && !m_ownerTaken) {
@@ -63,9 +66,8 @@ bool OdDxfRecordReader::takeOut(OdDxfRecordKind kind, OdDxfRecord& record) {
         return true;
     }
     if (kind == OdDxfRecordKind::kEntity) return takeOutOfEntity(record);
-    const bool named = kind == OdDxfRecordKind::kTableRecord || kind == OdDxfRecordKind::kBlock;
     if (named && code == 2 && record.name.isEmpty()) {
-        record.name = odWide(text());
+        record.name = odWide(name());
         return true;
     }
     return kind == OdDxfRecordKind::kBlock && code == 3;

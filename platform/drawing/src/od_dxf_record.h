@@ -36,6 +36,11 @@ public:
     bool append(OdGroupList& groups);
     /// The value of a text group, decoded.
     std::string_view text() { return m_decoder.decode(m_scanner.value()); }
+    /// The same of a name, which ends at a zero character.
+    std::string_view name() {
+        const std::string_view whole = text();
+        return whole.substr(0, whole.find('\0'));
+    }
 
 private:
     bool takeOut(OdDxfRecordKind kind, OdDxfRecord& record);

@@ -117,7 +117,10 @@ bool OdDxfScanner::next() {
     return true;
 }
 
-std::string_view OdDxfScanner::word() const { return trimmed(m_value); }
+std::string_view OdDxfScanner::word() const {
+    // Words become zero-terminated names, so that they end where one does.
+    return trimmed(m_value.substr(0, m_value.find('\0')));
+}
 
 bool OdDxfScanner::real(double& value) {
     return parseReal(word(), value) || fail(OdDxfErrorCode::kBadNumber, L"A number was expected.");

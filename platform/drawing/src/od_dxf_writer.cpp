@@ -129,8 +129,7 @@ private:
         const bool marked = groups.findMarker("AcDbSymbolTable", marker);
         if (!m_out.isR12()) {
             m_out.putOwnHandle(symbols.handle());
-            m_out.putGroups(groups, OdDxfPart::kObject, 0, marked ? marker.begin : 0);
-            m_out.put(330, "0");
+            m_entities.ownerAmong(groups, 0, marked ? marker.begin : 0);
             m_out.put(100, "AcDbSymbolTable");
         }
         m_out.putInteger(70, symbols.count());
@@ -152,8 +151,7 @@ private:
         }
         if (!m_out.isR12()) {
             m_out.putOwnHandle(record.handle(), kind == kDimStyleTable ? 105 : 5);
-            m_out.putGroups(groups, OdDxfPart::kObject, 0, head);
-            m_out.putHandle(330, symbols.handle());
+            m_entities.ownerAmong(groups, symbols.handle(), head);
             m_out.putGroups(groups, OdDxfPart::kObject, head, body);
         }
         m_out.putText(2, record.getName());

@@ -240,6 +240,18 @@ std::uint32_t OdGroupList::ownEnd() const {
     return at;
 }
 
+std::uint32_t OdGroupList::applicationDataEnd() const {
+    OdGroup group;
+    std::uint32_t end = 0;
+    bool inside = false;
+    for (std::uint32_t at = 0; read(at, group) && (inside || group.code == kApplicationData); at = group.end)
+        if (group.code == kApplicationData) {
+            inside = !group.text.empty() && group.text[0] == '{';
+            if (!inside) end = group.end;
+        }
+    return end;
+}
+
 double OdGroupList::real(int code, double absent) const {
     OdGroup group;
     return find(code, group) && group.kind == OdGroupKind::kReal ? group.real : absent;

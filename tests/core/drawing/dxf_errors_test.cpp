@@ -76,6 +76,13 @@ TEST(DxfErrors, BrokenStructureIsTold) {
         EXPECT_EQ(errorOf(text).code, OdDxfErrorCode::kBadStructure) << text;
 }
 
+TEST(DxfErrors, AnOpenBlockOfApplicationDataIsTold) {
+    EXPECT_EQ(errorOf(withEntities("0|LINE\n102|{ACAD_REACTORS\n330|BB\n8|0\n")).code,
+              OdDxfErrorCode::kBadStructure);
+    EXPECT_EQ(errorOf(withEntities("0|LINE\n102|{ACAD_REACTORS\n1001|ACAD\n102|}\n")).code,
+              OdDxfErrorCode::kBadStructure);
+}
+
 TEST(DxfErrors, VersionsBeforeR12AreRefused) {
     EXPECT_EQ(errorOf(dxf(header("AC1006") + "0|EOF")).code, OdDxfErrorCode::kUnsupportedVersion);
     EXPECT_EQ(errorOf(dxf(header("MC0.0") + "0|EOF")).code, OdDxfErrorCode::kUnsupportedVersion);

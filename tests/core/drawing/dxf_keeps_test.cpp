@@ -136,3 +136,36 @@ TEST(DxfKeeps, TheFileOnDiskWhenWritingFailsAndNothingElseBesideIt) {
     EXPECT_EQ(again->writeDxfBytes(), drawing->writeDxfBytes());
     std::filesystem::remove_all(folder);
 }
+
+TEST(DxfKeeps, AHeaderVariableOutsideTheHeaderSaysNothingAboutTheFile) {
+    const OdDbDatabasePtr drawing = readDrawing(
+        dxf(header("AC1032") +
+            "0|SECTION\n2|FUTURE\n9|$ACADVER\n1|AC1009\n9|$DWGCODEPAGE\n3|ANSI_936\n0|ENDSEC\n0|EOF"));
+    EXPECT_EQ(drawing->originalFileVersion(), OdDb::kDHL_1032);
+}
+
+TEST(DxfKeeps, AStrayEndOfAListIsNotTakenForAnInsertionsOwn) {
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|INSERT\n8|0\n2|A\n10|0\n20|0\n0|SEQEND\n8|0\n0|POINT\n8|0\n10|0\n20|0\n"));
+    EXPECT_EQ(modelEntities(*drawing).size(), 2u);
+    EXPECT_EQ(drawing->writeDxfBytes().find("SEQEND"), std::string::npos);
+}
+
+TEST(DxfKeeps, AnEntityThatIsCalledLikeATableRecordHasItsHandle) {
+    const OdDbDatabasePtr drawing = readDrawing(withEntities("0|DIMSTYLE\n5|ABC\n100|AcDbEntity\n8|0\n"));
+    EXPECT_EQ(modelEntities(*drawing)[0]->handle(), 0xABCu);
+}
+
+TEST(DxfKeeps, GroupsThatLookLikeTheOwnerStayBehindIt) {
+    const std::string text =
+        rewritten(withEntities("0|LINE\n5|A0\n102|{ACAD_REACTORS\n330|BB\n102|}\n330|1F\n330|CC\n100|"
+                               "AcDbEntity\n8|0\n100|AcDbLine\n"));
+    EXPECT_TRUE(has(text, "330|CC\n100|AcDbEntity"));
+    EXPECT_EQ(rewritten(text), text);
+}
+
+TEST(DxfKeeps, NamesEndAtAZeroCharacter) {
+    const std::string zero(1, '\0');
+    const OdDbDatabasePtr drawing = readDrawing(withEntities("0|POINT\n8|WALLS" + zero + "X\n10|0\n20|0\n"));
+    EXPECT_EQ(modelEntities(*drawing)[0]->layer(), L"WALLS");
+}
