@@ -4,6 +4,8 @@
 
 #include <kmfc/module_state.h>
 
+extern "C" IMAGE_DOS_HEADER __ImageBase;
+
 bool kmfc::read_string_resource(HINSTANCE module, UINT id, WORD language, std::wstring& text) {
     // Strings are kept in blocks of 16, each a length in characters followed by the characters.
     HRSRC block = ::FindResourceExW(module, RT_STRING, MAKEINTRESOURCEW((id >> 4) + 1), language);
@@ -17,18 +19,27 @@ bool kmfc::read_string_resource(HINSTANCE module, UINT id, WORD language, std::w
     return true;
 }
 
-bool kmfc::load_string_resource(UINT id, std::wstring& text) {
-    // A block of 16 strings may lie in several modules, so the string itself is looked for in each.
-    constexpr WORD kNeutral = MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL);
-    if (read_string_resource(AfxGetResourceHandle(), id, kNeutral, text)) return true;
-    for (const BOOL system : {FALSE, TRUE}) {
-        for (auto* library = AfxGetModuleState()->m_libraryList.m_pHead; library;
-             library = library->m_pNextDLL) {
-            if (!library->m_bSystem != !system || !library->m_hResource) continue;
-            if (read_string_resource(library->m_hResource, id, kNeutral, text)) return true;
-        }
+namespace {
+
+constexpr WORD kNeutral = MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL);
+
+bool read_from_libraries(bool system, UINT id, std::wstring& text) {
+    for (auto* library = AfxGetModuleState()->m_libraryList.m_pHead; library; library = library->m_pNextDLL) {
+        if ((library->m_bSystem != FALSE) != system || !library->m_hResource) continue;
+        if (kmfc::read_string_resource(library->m_hResource, id, kNeutral, text)) return true;
     }
     return false;
+}
+
+}  // namespace
+
+bool kmfc::load_string_resource(UINT id, std::wstring& text) {
+    // A block of 16 strings may lie in several modules, so the string itself is looked for in each.
+    const auto own = reinterpret_cast<HINSTANCE>(&__ImageBase);
+    return read_string_resource(AfxGetResourceHandle(), id, kNeutral, text) ||
+           read_from_libraries(false, id, text) ||
+           read_string_resource(AfxGetInstanceHandle(), id, kNeutral, text) ||
+           read_from_libraries(true, id, text) || read_string_resource(own, id, kNeutral, text);
 }
 
 #else

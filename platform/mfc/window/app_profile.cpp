@@ -55,6 +55,35 @@ BOOL write_value(const ProfileKey& key, LPCTSTR entry, DWORD type, const void* d
            ::RegSetValueExW(key.get(), entry, 0, type, static_cast<const BYTE*>(data), size) == ERROR_SUCCESS;
 }
 
+/// An entry of an .INI file, however long.
+CString read_file_entry(LPCTSTR file, LPCTSTR section, LPCTSTR entry, LPCTSTR fallback) {
+    std::vector<wchar_t> text(256);
+    for (;;) {
+        const auto room = static_cast<DWORD>(text.size());
+        // One less than the room there is tells that the text was cut.
+        if (::GetPrivateProfileStringW(section, entry, fallback, text.data(), room, file) + 1 < room)
+            return text.data();
+        text.resize(text.size() * 2);
+    }
+}
+
+/// Bytes as letters from A to P, the low half of each first: a text file holds no others.
+CString encode_bytes(const BYTE* data, UINT count) {
+    CString text;
+    for (UINT i = 0; i < count; ++i) {
+        text += static_cast<wchar_t>(L'A' + (data[i] & 0xF));
+        text += static_cast<wchar_t>(L'A' + (data[i] >> 4));
+    }
+    return text;
+}
+
+std::vector<BYTE> decode_bytes(const CString& text) {
+    std::vector<BYTE> bytes;
+    for (int i = 0; i + 1 < text.GetLength(); i += 2)
+        bytes.push_back(static_cast<BYTE>(((text[i] - L'A') & 0xF) | ((text[i + 1] - L'A') & 0xF) << 4));
+    return bytes;
+}
+
 }  // namespace
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey) {
@@ -83,9 +112,7 @@ BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue
 CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault) {
     const LPCTSTR fallback = lpszDefault != nullptr ? lpszDefault : L"";
     if (m_pszRegistryKey == nullptr) {
-        wchar_t text[4096];
-        ::GetPrivateProfileStringW(lpszSection, lpszEntry, fallback, text, 4096, m_pszProfileName);
-        return text;
+        return read_file_entry(m_pszProfileName, lpszSection, lpszEntry, fallback);
     }
     const ProfileKey key = section_key(*this, lpszSection);
     DWORD type = 0;
@@ -113,8 +140,10 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
 BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes) {
     *ppData = nullptr;
     *pBytes = 0;
-    if (m_pszRegistryKey == nullptr) return FALSE;
-    const std::vector<BYTE> bytes = read_value(section_key(*this, lpszSection), lpszEntry, REG_BINARY);
+    const std::vector<BYTE> bytes =
+        m_pszRegistryKey != nullptr
+            ? read_value(section_key(*this, lpszSection), lpszEntry, REG_BINARY)
+            : decode_bytes(read_file_entry(m_pszProfileName, lpszSection, lpszEntry, L""));
     if (bytes.empty()) return FALSE;
     *ppData = new BYTE[bytes.size()];
     memcpy(*ppData, bytes.data(), bytes.size());
@@ -123,6 +152,8 @@ BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* p
 }
 
 BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes) {
-    return m_pszRegistryKey != nullptr &&
-           write_value(section_key(*this, lpszSection), lpszEntry, REG_BINARY, pData, nBytes);
+    if (m_pszRegistryKey != nullptr)
+        return write_value(section_key(*this, lpszSection), lpszEntry, REG_BINARY, pData, nBytes);
+    return ::WritePrivateProfileStringW(lpszSection, lpszEntry, encode_bytes(pData, nBytes),
+                                        m_pszProfileName);
 }

@@ -98,7 +98,9 @@ void exchange_real(CDataExchange* exchange, int id, T& value, int digits) {
     const CString text = control_text(control);
     wchar_t* end = nullptr;
     const double parsed = wcstod(text, &end);
-    if (end == text.GetString() || !at_end(end)) refuse(exchange, AFX_IDP_PARSE_REAL);
+    // Neither the words for infinity and no number, nor what T cannot hold.
+    const bool fits = std::isfinite(parsed) && std::abs(parsed) <= std::numeric_limits<T>::max();
+    if (end == text.GetString() || !at_end(end) || !fits) refuse(exchange, AFX_IDP_PARSE_REAL);
     value = static_cast<T>(parsed);
 }
 

@@ -13,6 +13,31 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
 END_MESSAGE_MAP()
 
+namespace {
+
+struct FoundTemplate {
+    HINSTANCE module;
+    LPCDLGTEMPLATE bytes;  ///< null when there is no such resource
+};
+
+FoundTemplate find_template(LPCTSTR name) {
+    HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
+    HRSRC resource = ::FindResourceW(module, name, RT_DIALOG);
+    HGLOBAL loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+    return {module, loaded != nullptr ? static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)) : nullptr};
+}
+
+/// Whether a template gives the dialog no place of its own.
+bool leaves_place_open(LPCDLGTEMPLATE bytes) {
+    // An extended template starts with version 1 and a signature of ones; its place comes later.
+    const auto* words = reinterpret_cast<const WORD*>(bytes);
+    const bool extended = words[0] == 1 && words[1] == 0xFFFF;
+    const size_t place = extended ? 9 : 5;  // words before x and y
+    return words[place] == 0 && words[place + 1] == 0;
+}
+
+}  // namespace
+
 CDialog::CDialog() = default;
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
     : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
@@ -46,11 +71,8 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     m_lpszTemplateName = lpszTemplateName;
     if (IS_INTRESOURCE(lpszTemplateName) && m_nIDHelp == 0)
         m_nIDHelp = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpszTemplateName));
-    HINSTANCE module = AfxFindResourceHandle(lpszTemplateName, RT_DIALOG);
-    HRSRC resource = ::FindResourceW(module, lpszTemplateName, RT_DIALOG);
-    if (resource == nullptr) return FALSE;
-    HGLOBAL loaded = ::LoadResource(module, resource);
-    return CreateIndirect(loaded, pParentWnd, module);
+    const FoundTemplate found = find_template(lpszTemplateName);
+    return CreateFromTemplate(found.bytes, pParentWnd, found.module, nullptr);
 }
 
 BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
@@ -99,14 +121,14 @@ void CDialog::PostModal() {
 
 INT_PTR CDialog::DoModal() {
     LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
-    HGLOBAL loaded = m_hDialogTemplate;
     HINSTANCE module = AfxGetResourceHandle();
     if (m_lpszTemplateName != nullptr) {
-        module = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
-        HRSRC resource = ::FindResourceW(module, m_lpszTemplateName, RT_DIALOG);
-        loaded = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+        const FoundTemplate found = find_template(m_lpszTemplateName);
+        module = found.module;
+        dialogTemplate = found.bytes;
+    } else if (m_hDialogTemplate != nullptr) {
+        dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(m_hDialogTemplate));
     }
-    if (loaded != nullptr) dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(loaded));
     if (dialogTemplate == nullptr) return -1;
 
     HWND parent = PreModal();
@@ -127,6 +149,8 @@ INT_PTR CDialog::DoModal() {
     if (enableParent) ::EnableWindow(parent, TRUE);
     if (parent != nullptr && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(parent);
     DestroyWindow();
+    // EndDialog enables the owner even if it was disabled before the dialog came.
+    if (parent != nullptr && !enableParent && parent != ::GetDesktopWindow()) ::EnableWindow(parent, FALSE);
     PostModal();
     return m_nModalResult;
 }
@@ -160,7 +184,11 @@ void CDialog::OnSetFont(CFont*) {}
 BOOL CDialog::CheckAutoCenter() {
     // Only a modal dialog whose template leaves the place open is centred.
     if (!(m_nFlags & WF_CONTINUEMODAL)) return FALSE;
-    return !(GetStyle() & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN));
+    if (GetStyle() & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) return FALSE;
+    LPCDLGTEMPLATE bytes = m_lpDialogTemplate;
+    if (m_lpszTemplateName != nullptr) bytes = find_template(m_lpszTemplateName).bytes;
+    if (bytes == nullptr) bytes = static_cast<LPCDLGTEMPLATE>(::LockResource(m_hDialogTemplate));
+    return bytes != nullptr && leaves_place_open(bytes);
 }
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {

@@ -3,6 +3,8 @@
 
 #include <kmfc/app.h>
 
+extern "C" IMAGE_DOS_HEADER __ImageBase;
+
 namespace {
 
 CRuntimeClass** current_class_list() { return &AfxGetModuleState()->m_classList.m_pHead; }
@@ -30,6 +32,9 @@ struct ClassListHooks {
     ClassListHooks() { kmfc::set_class_list_hooks(&current_class_list, &next_class); }
 };
 __attribute__((init_priority(150))) const ClassListHooks class_list_hooks;
+
+/// The class layer's own library, which holds the texts of its messages.
+HMODULE own_module() { return reinterpret_cast<HMODULE>(&__ImageBase); }
 
 BOOL HasResource(HMODULE module, LPCTSTR name, LPCTSTR type) {
     return module != nullptr && ::FindResourceW(module, name, type) != nullptr;
@@ -81,6 +86,42 @@ CDynLinkLibrary::~CDynLinkLibrary() {
     if (*link == this) *link = m_pNextDLL;
 }
 
+namespace {
+
+/// Whether `address` lies in the image of `module`.
+bool lies_in(HMODULE module, const void* address) {
+    MEMORY_BASIC_INFORMATION memory = {};
+    return ::VirtualQuery(address, &memory, sizeof(memory)) != 0 && memory.AllocationBase == module;
+}
+
+/// Takes the classes of `module` out of `list` and puts them before `owned`, both in their order; the new
+/// head of `owned`.
+CRuntimeClass* take_classes(HMODULE module, CRuntimeClass*& list, CRuntimeClass* owned) {
+    CRuntimeClass* taken = nullptr;
+    CRuntimeClass** end = &taken;
+    for (CRuntimeClass** link = &list; *link != nullptr;) {
+        CRuntimeClass* each = *link;
+        if (!lies_in(module, each)) {
+            link = &each->m_pNextClass;
+            continue;
+        }
+        *link = each->m_pNextClass;
+        *end = each;
+        end = &each->m_pNextClass;
+    }
+    *end = owned;
+    return taken;
+}
+
+/// Puts `more` behind the last class of `list`.
+void append_classes(CRuntimeClass*& list, CRuntimeClass* more) {
+    CRuntimeClass** end = &list;
+    while (*end != nullptr) end = &(*end)->m_pNextClass;
+    *end = more;
+}
+
+}  // namespace
+
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hMod) {
     if (hMod == nullptr) return FALSE;
     if (state.bInitialized) return TRUE;
@@ -88,9 +129,11 @@ BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hMod) {
     state.hModule = hMod;
     if (state.hResource == nullptr) state.hResource = hMod;
     AFX_MODULE_STATE* module = AfxGetModuleState();
-    state.pFirstSharedClass = module->m_classList.m_pHead;
-    module->m_classList.m_pHead = module->m_pClassInit;
+    // What was set aside comes back first; then the module's own classes leave, wherever they stand, and
+    // nobody else's. A module that joins again still has those it took the first time.
+    append_classes(module->m_classList.m_pHead, module->m_pClassInit);
     module->m_pClassInit = nullptr;
+    state.pFirstSharedClass = take_classes(hMod, module->m_classList.m_pHead, state.pFirstSharedClass);
     state.pFirstSharedFactory = module->m_factoryList.m_pHead;
     module->m_factoryList.m_pHead = module->m_pFactoryInit;
     module->m_pFactoryInit = nullptr;
@@ -122,5 +165,5 @@ HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
     HINSTANCE application = AfxGetInstanceHandle();
     if (application != current && HasResource(application, lpszName, lpszType)) return application;
     if (HMODULE found = FindInLibraries(lpszName, lpszType, TRUE)) return found;
-    return current;
+    return HasResource(own_module(), lpszName, lpszType) ? own_module() : current;
 }

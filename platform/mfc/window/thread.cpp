@@ -14,16 +14,24 @@ IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
 END_MESSAGE_MAP()
 
-/// Hands a new thread its object, and what it reports back before CreateThread returns.
+/// Hands a new thread its object. The thread reports that it has started, and does nothing else before its
+/// creator says so: until then the creator may still suspend it, and its object is there.
 struct AfxThreadStart {
     CWinThread* thread;
     HANDLE started;
+    HANDLE released;
 
     static unsigned __stdcall Entry(void* argument) {
         auto* start = static_cast<AfxThreadStart*>(argument);
         CWinThread* thread = start->thread;
+        HANDLE released = start->released;
         thread_state().m_pCurrentWinThread = thread;
-        ::SetEvent(start->started);
+        // The queue is made here, so that a message posted at once is not lost.
+        MSG message;
+        ::PeekMessageW(&message, nullptr, WM_USER, WM_USER, PM_NOREMOVE);
+        ::SetEvent(start->started);  // `start` is the creator's and may be gone from here on.
+        ::WaitForSingleObject(released, INFINITE);
+        ::CloseHandle(released);
         UINT code = 0;
         if (thread->m_pfnThreadProc != nullptr)
             code = thread->m_pfnThreadProc(thread->m_pThreadParams);
@@ -44,8 +52,8 @@ CWinThread::~CWinThread() {
 }
 
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
-    AfxThreadStart start = {this, ::CreateEventW(nullptr, TRUE, FALSE, nullptr)};
-    if (start.started == nullptr) return FALSE;
+    AfxThreadStart start = {this, ::CreateEventW(nullptr, TRUE, FALSE, nullptr),
+                            ::CreateEventW(nullptr, TRUE, FALSE, nullptr)};
     m_hThread =
         reinterpret_cast<HANDLE>(_beginthreadex(lpSecurityAttrs, nStackSize, &AfxThreadStart::Entry, &start,
                                                 CREATE_SUSPENDED, reinterpret_cast<unsigned*>(&m_nThreadID)));
@@ -53,9 +61,14 @@ BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_A
         ::ResumeThread(m_hThread);
         ::WaitForSingleObject(start.started, INFINITE);
         if (dwCreateFlags & CREATE_SUSPENDED) ::SuspendThread(m_hThread);
+        ::CloseHandle(start.started);
+        // A thread that is not suspended may end, and its object with it, at any time from here on.
+        ::SetEvent(start.released);
+        return TRUE;
     }
     ::CloseHandle(start.started);
-    return m_hThread != nullptr;
+    ::CloseHandle(start.released);
+    return FALSE;
 }
 
 BOOL CWinThread::InitInstance() { return FALSE; }

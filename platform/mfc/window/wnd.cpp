@@ -143,7 +143,7 @@ void CWnd::OnNcDestroy() {
     if (CWinThread* thread = AfxGetThread(); thread != nullptr) {
         if (thread->m_pMainWnd == this) {
             thread->m_pMainWnd = nullptr;
-            if (thread == AfxGetApp()) AfxPostQuitMessage(0);
+            AfxPostQuitMessage(0);
         }
         if (thread->m_pActiveWnd == this) thread->m_pActiveWnd = nullptr;
     }

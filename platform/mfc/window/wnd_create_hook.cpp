@@ -1,5 +1,6 @@
 // How a CWnd gets hold of its handle before the first message, and window class registration.
 #include <map>
+#include <mutex>
 #include <string>
 
 #include <kmfc/app.h>
@@ -59,14 +60,17 @@ BOOL AfxUnhookWindowCreate() {
 BOOL AfxRegisterClass(WNDCLASS* lpWndClass) {
     WNDCLASS existing;
     if (::GetClassInfoW(lpWndClass->hInstance, lpWndClass->lpszClassName, &existing)) return TRUE;
-    return ::RegisterClassW(lpWndClass) != 0;
+    // Another thread may have been faster.
+    return ::RegisterClassW(lpWndClass) != 0 || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }
 
 LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
+    static std::mutex guard;
     static std::map<std::wstring, bool> names;
     wchar_t name[96];
     HINSTANCE instance = AfxGetInstanceHandle();
     ::wsprintfW(name, L"Afx:%Ix:%x:%Ix:%Ix:%Ix", instance, nClassStyle, hCursor, hbrBackground, hIcon);
+    const std::lock_guard lock(guard);
     auto [place, added] = names.try_emplace(name, false);
     if (!place->second) {
         WNDCLASS wc = {};
