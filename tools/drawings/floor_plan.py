@@ -215,7 +215,7 @@ def annotation(d):
     room(d, 120, 130, "LIVING ROOM", "16'-6\" x 13'-6\"")
     room(d, 100, 284, "KITCHEN", "16'-6\" x 13'-1 1/2\"")
     room(d, 228, 212, "HALL", None)
-    room(d, V1 + 32, 282, "BATH", None)
+    room(d, V1 + 38, 282, "BATH", None)
     room(d, 400, 52, "BEDROOM 1", "15'-1 1/2\" x 13'-6\"")
     room(d, 400, 210, "BEDROOM 2", "15'-1 1/2\" x 13'-1 1/2\"")
     d.layer = "A-GRID"
