@@ -50,6 +50,7 @@ void CKbUiBaseDialog::destroyTips() {
     }
     if (m_toolTip != nullptr) {
         m_toolTip->DestroyToolTipCtrl();
+        delete m_toolTip;
         m_toolTip = nullptr;
     }
 }

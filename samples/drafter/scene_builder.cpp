@@ -29,6 +29,30 @@ void appendBulge(std::vector<OdGePoint2d>& points, OdGePoint2d from, OdGePoint2d
     points.push_back(to);
 }
 
+/// The text with the codes for degree, plus-minus and diameter resolved; underlining is left out.
+OdString readableText(const OdString& text) {
+    OdString result;
+    const std::wstring_view view = text.view();
+    for (std::size_t i = 0; i < view.size(); ++i) {
+        if (view.substr(i, 2) != L"%%" || i + 2 >= view.size()) {
+            result += view[i];
+            continue;
+        }
+        switch (view[i + 2]) {
+            case L'd':
+            case L'D': result += L'\x00B0'; break;
+            case L'p':
+            case L'P': result += L'\x00B1'; break;
+            case L'c':
+            case L'C': result += L'\x00D8'; break;
+            case L'%': result += L'%'; break;
+            default: break;
+        }
+        i += 2;
+    }
+    return result;
+}
+
 struct Corner {
     OdGePoint2d point;
     double bulge;
@@ -206,7 +230,7 @@ void SceneBuilder::addReference(OdDbBlockReference& reference, const Context& co
 
 void SceneBuilder::addText(const OdDbText& text, const Context& context, const DisplayStyle& style) {
     SceneText item;
-    item.text = text.textString();
+    item.text = readableText(text.textString());
     item.horizontal = text.horizontalMode() == 4 ? 1 : std::min(text.horizontalMode(), 2);
     item.vertical = text.horizontalMode() == 4 ? 2 : text.verticalMode();
     const bool aligned = text.horizontalMode() != 0 || text.verticalMode() != 0;

@@ -220,7 +220,7 @@ void Drafter::drop(HWND combo) {
     const auto isDropped = [=] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; };
     click(combo);
     // A click that was lost is made good by the key.
-    if (!waitUntil(isDropped, 400)) key(VK_F4);
+    if (!waitUntil(isDropped, 1500)) key(VK_F4);
     waitUntil(isDropped, 2000);
 }
 
@@ -233,6 +233,8 @@ void Drafter::pick(HWND combo, int index) {
 
 void Drafter::pickLast(HWND combo) {
     drop(combo);
+    // Without a current entry the first key of any kind goes to the first one.
+    key(VK_HOME);
     key(VK_END);
     key(VK_RETURN);
 }

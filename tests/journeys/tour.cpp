@@ -71,6 +71,7 @@ int run(const std::wstring& source) {
     HWND color = item(dialog, IDC_TRUE_COLOR);
     drafter.drop(color);
     tell("color-list", L"Dropped the colour list: " + std::to_wstring(entryCount(color)) + L" entries");
+    drafter.key(VK_HOME);
     drafter.key(VK_END);
     drafter.key(VK_RETURN);
     HWND other = drafter.waitForDialog(L"Select Color");

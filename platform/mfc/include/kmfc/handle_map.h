@@ -75,6 +75,7 @@ public:
             auto node = m_temporary.extract(m_temporary.begin());
             T* object = node.mapped().get();
             set_handle(*object, nullptr);
+            if (m_spare.size() == kMostSpare) continue;
             std::destroy_at(object);
             std::construct_at(object);
             m_spare.push_back(std::move(node));
@@ -85,6 +86,8 @@ public:
     size_t TemporaryCount() const { return m_temporary.size(); }
 
 private:
+    static constexpr size_t kMostSpare = 64;  // more than one idle step's messages need
+
     using Temporaries = std::unordered_map<Handle, std::unique_ptr<T>>;
 
     static void set_handle(T& object, Handle handle) {
