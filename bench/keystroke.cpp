@@ -45,8 +45,8 @@ void measure(const char* what, bool visible, double goal) {
     ours.Create(style, place, &holder, 1);
     HWND parent = bench::make_bare_window(L"parsing parent", parsing_parent);
     ::SetWindowPos(parent, nullptr, 600, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    HWND peer = ::CreateWindowExW(0, L"EDIT", L"", style, place.left, place.top, place.Width(), place.Height(),
-                                  parent, reinterpret_cast<HMENU>(1), nullptr, nullptr);
+    HWND peer = ::CreateWindowExW(0, L"EDIT", L"", style, place.left, place.top, place.Width(),
+                                  place.Height(), parent, reinterpret_cast<HMENU>(1), nullptr, nullptr);
     bench::report(what,
                   bench::compare(
                       kRounds, kSequences * kKeyCount, [&] { return type_into(ours.m_hWnd); },

@@ -9,7 +9,8 @@ namespace {
 
 constexpr int kEntries = 1000;
 constexpr int kRounds = 31;
-constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+constexpr DWORD kStyle =
+    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
 
 LRESULT CALLBACK measuring_parent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_MEASUREITEM) {
