@@ -3,6 +3,8 @@
 // Made and freed by its CKbUiDialog. Private to the library; clients see it through the dialog only.
 #pragma once
 
+#include <vector>
+
 #include <afxtempl.h>
 #include <afxwin.h>
 
@@ -40,6 +42,20 @@ public:
     ElasticExtent m_maxExtent;
 
 private:
-    /// Moves one control by what the change comes to; false if it stays.
-    bool moveControl(_SControlTag& tag, int dx, int dy);
+    /// Where the control of a tag stands and goes in one change of size. Tags of one id share the first's.
+    struct Place {
+        size_t m_owner = 0;          ///< index of the first tag of this id
+        HWND m_control = nullptr;    ///< as last found; may be gone by now
+        CRect m_before{0, 0, 0, 0};  ///< in client coordinates
+        CRect m_rect{0, 0, 0, 0};
+        bool m_isRead = false;  ///< whether the rectangles are of this change
+    };
+
+    /// Moves the controls by what the change comes to; false if all stay.
+    bool moveControls(int dx, int dy);
+    /// The control with `id`: the one found last if it is still there. Null if there is none.
+    HWND findControl(Place& place, unsigned id) const;
+    bool readPlace(Place& place, unsigned id) const;
+
+    std::vector<Place> m_places;  ///< in step with m_tags
 };

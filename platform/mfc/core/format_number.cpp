@@ -68,7 +68,7 @@ std::string general_with_zeros(double value, int precision) {
 /// Puts the point in that '#' asks for, before the exponent if there is one.
 void force_point(std::string& digits, char exponent_letter) {
     if (digits.find('.') != std::string::npos) return;
-    digits.insert(std::min(digits.find(exponent_letter), digits.size()), ".");
+    digits.insert(std::min(digits.find(exponent_letter), digits.size()), 1, '.');
 }
 
 }  // namespace
@@ -91,7 +91,7 @@ NumberText integer_text(const FormatField& field, long long value) {
     if (field.alternate && hex && bits != 0) text.sign = "0x";
     if (field.alternate && field.letter == 'o' && text.trailing_zeros == 0 &&
         (text.digits.empty() || text.digits[0] != '0')) {
-        text.digits.insert(0, "0");
+        text.digits = std::string(1, '0').append(text.digits);
     }
     if (field.letter == 'X') {
         to_upper(text.sign);

@@ -71,5 +71,6 @@ KMFC_API HINSTANCE AfxGetInstanceHandle();
 KMFC_API HINSTANCE AfxGetResourceHandle();
 KMFC_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 /// The first module that holds resource `lpszName` of `lpszType`: the current resource module, then the
-/// extension modules newest first, then the system ones; the current resource module when none does.
+/// extension modules newest first, the application, the system modules and the class layer itself; the
+/// current resource module when none does.
 KMFC_API HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);

@@ -1,0 +1,62 @@
+#include "window_bench.h"
+
+#include <string>
+#include <vector>
+
+#include <ktui/pickers/mru_combo_box.h>
+
+namespace {
+
+constexpr int kEntries = 1000;
+constexpr int kRounds = 31;
+constexpr DWORD kStyle =
+    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+
+LRESULT CALLBACK measuring_parent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_MEASUREITEM) {
+        reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 15;
+        return TRUE;
+    }
+    return message == WM_DRAWITEM ? TRUE : ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+std::vector<std::wstring> make_names() {
+    std::vector<std::wstring> names;
+    for (int i = 0; i < kEntries; ++i) names.push_back(L"layer " + std::to_wstring(i * 7919 % kEntries));
+    return names;
+}
+
+}  // namespace
+
+void bench::measure_picker() {
+    const std::vector<std::wstring> names = make_names();
+    CWnd holder;
+    holder.CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), L"",
+                    WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), nullptr, 0);
+    CKtUiMRUComboBox ours;
+    ours.Create(kStyle, CRect(10, 10, 200, 200), &holder, 1);
+    HWND parent = make_bare_window(L"measuring parent", measuring_parent);
+    HWND peer = ::CreateWindowExW(0, L"COMBOBOX", L"", kStyle, 10, 10, 190, 190, parent,
+                                  reinterpret_cast<HMENU>(1), nullptr, nullptr);
+    const auto fillOurs = [&] {
+        ours.ResetContent();
+        drain_queue();
+        return seconds_of([&] {
+            for (int i = 0; i < kEntries; ++i) ours.AddItemToList(names[static_cast<size_t>(i)].c_str(), i);
+        });
+    };
+    const auto fillPeer = [&] {
+        ::SendMessageW(peer, CB_RESETCONTENT, 0, 0);
+        drain_queue();
+        return seconds_of([&] {
+            for (int i = 0; i < kEntries; ++i) {
+                const auto text = reinterpret_cast<LPARAM>(names[static_cast<size_t>(i)].c_str());
+                const LRESULT at = ::SendMessageW(peer, CB_INSERTSTRING, static_cast<WPARAM>(-1), text);
+                ::SendMessageW(peer, CB_SETITEMDATA, static_cast<WPARAM>(at), i);
+            }
+        });
+    };
+    report("filling a picker with 1,000 entries", compare(kRounds, 1, fillOurs, fillPeer), 1.05);
+    ::DestroyWindow(parent);
+    holder.DestroyWindow();
+}

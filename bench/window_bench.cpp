@@ -1,0 +1,45 @@
+// The benchmarks with windows; bench/run starts it.
+#include "window_bench.h"
+
+#include <cstring>
+
+#include <kmfc/app.h>
+#include <standin_host.h>
+
+namespace {
+
+class BenchApplication : public CWinApp {
+public:
+    BenchApplication() : CWinApp(L"ktui bench") {}
+};
+
+BenchApplication application;
+
+struct Row {
+    const char* name;
+    void (*measure)();
+};
+
+constexpr Row kRows[] = {
+    {"keystroke", bench::measure_keystroke},
+    {"picker", bench::measure_picker},
+    {"dialog", bench::measure_dialog},
+    {"resize", bench::measure_resize},
+};
+
+}  // namespace
+
+/// Measures every row, or those named on the command line.
+int main(int argc, char** argv) {
+    AfxWinInit(::GetModuleHandleW(nullptr), nullptr, const_cast<LPWSTR>(L""), SW_SHOWNORMAL);
+    {
+        CStandinHost host(application);
+        for (const Row& row : kRows) {
+            bool wanted = argc < 2;
+            for (int i = 1; i < argc; ++i) wanted = wanted || std::strcmp(argv[i], row.name) == 0;
+            if (wanted) row.measure();
+        }
+    }
+    AfxWinTerm();
+    return 0;
+}
