@@ -121,7 +121,8 @@ bool TestHost::showPlotStyleDialog(const wchar_t* currentName, bool allowByLayer
     return true;
 }
 
-bool TestHost::showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId& chosen, int) {
+bool TestHost::showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId& chosen, int mode) {
+    linetypeDialogMode = mode;
     return onLinetypeDialog && onLinetypeDialog(current, chosen);
 }
 

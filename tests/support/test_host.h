@@ -63,6 +63,7 @@ public:
     int pushes = 0;
     int pops = 0;
     int helpCalls = 0;
+    int linetypeDialogMode = 0;  ///< as the last call gave it
     int filledBackgrounds = 0;
 
     // CKhSystem
