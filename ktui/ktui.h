@@ -23,6 +23,10 @@
 #include <ktui/input/ktui_combo_box.h>
 #include <ktui/input/ktui_edit.h>
 #include <ktui/pickers/color_combo_box.h>
+#include <ktui/pickers/config_util.h>
+#include <ktui/pickers/line_type_combo_box.h>
+#include <ktui/pickers/line_weight_combo_box.h>
+#include <ktui/pickers/lweight_util.h>
 #include <ktui/pickers/mru_combo_box.h>
 #include <ktui/pickers/mru_list_box.h>
 #include <ktui/pickers/page_setup_color_combo_box.h>

@@ -6,10 +6,15 @@
 
 namespace {
 
-/// The current layer of the working drawing; null if there is none.
-OdDbObjectId CurrentLayerId() {
-    OdDbHostAppServices* services = oddbHostApplicationServices();
-    OdDbDatabase* drawing = services ? services->workingDatabase() : nullptr;
+/// The working drawing; null if there is none.
+const OdDbDatabase* WorkingDrawing() {
+    const OdDbHostAppServices* services = oddbHostApplicationServices();
+    return services ? services->workingDatabase() : nullptr;
+}
+
+/// The current layer of `drawing`, null for the working drawing; null if there is none.
+OdDbObjectId CurrentLayerId(const OdDbDatabase* drawing = nullptr) {
+    if (!drawing) drawing = WorkingDrawing();
     return drawing ? drawing->clayer() : OdDbObjectId();
 }
 
@@ -25,4 +30,9 @@ bool CurrentLayerColor(OdCmColor& color) {
     if (id.isNull()) return false;
     if (const OdDbLayerTableRecordPtr layer = id.open<OdDbLayerTableRecord>()) color = layer->color();
     return true;
+}
+
+OdDb::LineWeight CurrentLayerLineWeight(const OdDbDatabase* drawing) {
+    const OdDbLayerTableRecordPtr layer = CurrentLayerId(drawing).open<OdDbLayerTableRecord>();
+    return layer ? layer->lineWeight() : OdDb::kLnWt000;
 }

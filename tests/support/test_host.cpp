@@ -79,7 +79,7 @@ bool TestHost::saveFormatAt(int index, int& format, OdString& name) {
     const auto& [code, text] = saveFormats[static_cast<std::size_t>(index)];
     format = code;
     name = text.c_str();
-    return true;
+    return unlistedSaveFormats.count(code) == 0;
 }
 
 bool TestHost::saveFormatName(int format, OdString& name) {
@@ -121,7 +121,8 @@ bool TestHost::showPlotStyleDialog(const wchar_t* currentName, bool allowByLayer
     return true;
 }
 
-bool TestHost::showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId& chosen, int) {
+bool TestHost::showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId& chosen, int mode) {
+    linetypeDialogMode = mode;
     return onLinetypeDialog && onLinetypeDialog(current, chosen);
 }
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -46,6 +47,7 @@ public:
     KtApDocument* document = nullptr;
     CKhDrawingView* view = nullptr;
     std::vector<std::pair<int, std::wstring>> saveFormats;
+    std::set<int> unlistedSaveFormats;  ///< codes that saveFormatAt answers false for
     std::function<COLORREF(int)>
         colorOf;  ///< at first: the index in the green byte, its ninth bit in the blue
     std::map<int, COLORREF> roleColors;
@@ -63,6 +65,7 @@ public:
     int pushes = 0;
     int pops = 0;
     int helpCalls = 0;
+    int linetypeDialogMode = 0;  ///< as the last call gave it
     int filledBackgrounds = 0;
 
     // CKhSystem

@@ -17,6 +17,9 @@ public:
     WorkingDrawing(const WorkingDrawing&) = delete;
     WorkingDrawing& operator=(const WorkingDrawing&) = delete;
 
+    OdDbDatabase* database() { return m_drawing.get(); }
+    OdDbHostAppServices& services() { return m_services; }
+
     void setCurrentLayerColor(const OdCmColor& color) {
         m_drawing->clayer().open<OdDbLayerTableRecord>(OdDb::kForWrite)->setColor(color);
     }
