@@ -1,11 +1,15 @@
 #include "standin_host.h"
 
+#include <ktut.h>
+
 #include "standin_facets.h"
 
 CStandinHost::CStandinHost(CWinApp& application) : m_facets(std::make_unique<StandinFacets>(application)) {
     m_facets->formerServices = oddbHostApplicationServices();
     oddbSetHostApplicationServices(&m_facets->services);
     m_former = CKhSystem::install(this);
+    const bool chinese = PRIMARYLANGID(LANGIDFROMLCID(::GetThreadLocale())) == LANG_CHINESE;
+    ktutSetLanguage(chinese ? KtutLanguage::kChinese : KtutLanguage::kEnglish);
 }
 
 CStandinHost::~CStandinHost() {
