@@ -22,6 +22,7 @@
 #include <ktui/input/ktui_typed_edits.h>
 #include <ktui/input/ktui_combo_box.h>
 #include <ktui/input/ktui_edit.h>
+#include <ktui/pickers/arrow_head_combo_box.h>
 #include <ktui/pickers/color_combo_box.h>
 #include <ktui/pickers/config_util.h>
 #include <ktui/pickers/line_type_combo_box.h>
@@ -30,6 +31,7 @@
 #include <ktui/pickers/mru_combo_box.h>
 #include <ktui/pickers/mru_list_box.h>
 #include <ktui/pickers/page_setup_color_combo_box.h>
+#include <ktui/pickers/predef_block_combo_box.h>
 #include <ktui/pickers/true_color_combo_box.h>
 #include <ktui/pickers/white_black_color_combo_box.h>
 #include <ktui/text/dialog_data.h>

@@ -6,6 +6,8 @@ Run it after a change; the files it writes are kept in the tree.
 import pathlib
 import struct
 
+import picker_strips
+
 RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
 MASK = (255, 0, 255)
 
@@ -83,6 +85,8 @@ def dialog_icon(size):
 def main():
     RES.mkdir(parents=True, exist_ok=True)
     write_bmp(RES / "drop_arrows.bmp", side_by_side(drop_arrow((0, 0, 0)), drop_arrow((128, 128, 128))))
+    write_bmp(RES / "arrowheads.bmp", picker_strips.arrowhead_strip())
+    write_bmp(RES / "blocks.bmp", picker_strips.block_strip())
     write_ico(RES / "dialog.ico", [dialog_icon(size) for size in (16, 32, 48)])
 
 

@@ -1,0 +1,25 @@
+// The predefined callout blocks as their picker lists them, and where the picture of each stands in the
+// strip. Without any window.
+#pragma once
+
+#include <array>
+
+#include <ktui/ktui_api.h>
+
+constexpr int kPicturedBlockCount = 6;
+constexpr int kBlockPictureWidth = 16;   ///< pixels
+constexpr int kBlockPictureHeight = 17;  ///< pixels
+
+/// One block, or the entry that leads to a block of the user's.
+struct PredefBlock {
+    int cargo;
+    unsigned textId;      ///< of the resource library
+    const wchar_t* text;  ///< what serves when the library has none
+};
+
+/// The blocks in the order of the list, the entry for the user's own last.
+KTUI_API const std::array<PredefBlock, kPicturedBlockCount + 1>& PredefBlocks();
+
+/// Top of the picture of `cargo` in the strip, in pixels; -1 for a cargo without a picture. The entry for the
+/// user's own block has the row below the last picture.
+KTUI_API int BlockStripTop(int cargo);
