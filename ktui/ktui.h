@@ -31,6 +31,8 @@
 #include <ktui/pickers/mru_combo_box.h>
 #include <ktui/pickers/mru_list_box.h>
 #include <ktui/pickers/page_setup_color_combo_box.h>
+#include <ktui/pickers/plot_style_names_combo_box.h>
+#include <ktui/pickers/plot_style_tables_combo_box.h>
 #include <ktui/pickers/predef_block_combo_box.h>
 #include <ktui/pickers/true_color_combo_box.h>
 #include <ktui/pickers/white_black_color_combo_box.h>
