@@ -25,13 +25,17 @@
 #include <ktui/pickers/arrow_head_combo_box.h>
 #include <ktui/pickers/color_combo_box.h>
 #include <ktui/pickers/config_util.h>
+#include <ktui/pickers/font_combo_box.h>
 #include <ktui/pickers/line_type_combo_box.h>
 #include <ktui/pickers/line_weight_combo_box.h>
 #include <ktui/pickers/lweight_util.h>
 #include <ktui/pickers/mru_combo_box.h>
 #include <ktui/pickers/mru_list_box.h>
 #include <ktui/pickers/page_setup_color_combo_box.h>
+#include <ktui/pickers/plot_style_names_combo_box.h>
+#include <ktui/pickers/plot_style_tables_combo_box.h>
 #include <ktui/pickers/predef_block_combo_box.h>
+#include <ktui/pickers/shx_font_list.h>
 #include <ktui/pickers/true_color_combo_box.h>
 #include <ktui/pickers/white_black_color_combo_box.h>
 #include <ktui/text/dialog_data.h>

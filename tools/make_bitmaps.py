@@ -82,12 +82,66 @@ def dialog_icon(size):
     return [[pixel((x + 0.5) / scale, (y + 0.5) / scale) for x in range(size)] for y in range(size)]
 
 
+FONT_INK = (72, 84, 104, 255)
+FONT_LINE = (0, 102, 184, 255)
+CLEAR = (0, 0, 0, 0)
+
+
+def icon_of(drawing, ink):
+    """An icon image from rows of text: '#' is ink, all else is clear."""
+    return [[ink if mark == "#" else CLEAR for mark in row] for row in drawing]
+
+
+def true_type_icon():
+    """Two overlapping letters T with serifs, the usual mark of an outline font."""
+    return icon_of((
+        "...............",
+        ".##########....",
+        ".#...##...#....",
+        ".....##........",
+        ".....##########",
+        ".....##..##...#",
+        ".....##..##....",
+        ".....##..##....",
+        ".....##..##....",
+        "....####.##....",
+        ".........##....",
+        ".........##....",
+        ".........##....",
+        "........####...",
+        "...............",
+    ), FONT_INK)
+
+
+def shape_font_icon():
+    """A letter A of single strokes, as a shape font draws it."""
+    return icon_of((
+        "...............",
+        ".......#.......",
+        "......#.#......",
+        "......#.#......",
+        ".....#...#.....",
+        ".....#...#.....",
+        "....#.....#....",
+        "....#.....#....",
+        "...#########...",
+        "...#.......#...",
+        "..#.........#..",
+        "..#.........#..",
+        ".#...........#.",
+        ".#...........#.",
+        "...............",
+    ), FONT_LINE)
+
+
 def main():
     RES.mkdir(parents=True, exist_ok=True)
     write_bmp(RES / "drop_arrows.bmp", side_by_side(drop_arrow((0, 0, 0)), drop_arrow((128, 128, 128))))
     write_bmp(RES / "arrowheads.bmp", picker_strips.arrowhead_strip())
     write_bmp(RES / "blocks.bmp", picker_strips.block_strip())
     write_ico(RES / "dialog.ico", [dialog_icon(size) for size in (16, 32, 48)])
+    write_ico(RES / "true_type.ico", [true_type_icon()])
+    write_ico(RES / "shape_font.ico", [shape_font_icon()])
 
 
 if __name__ == "__main__":

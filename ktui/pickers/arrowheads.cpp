@@ -23,7 +23,7 @@ const std::array<Arrowhead, kArrowheadCount>& Arrowheads() {
         {16, IDS_DATUM_TRIANGLE, L"基准三角形", 17},
         {17, IDS_DATUM_TRIANGLE_FILLED, L"实心基准三角形", 16},
         {18, IDS_INTEGRAL, L"积分", 18},
-        {19, IDS_NO_ARROWHEAD, L"无", 11},
+        {19, IDS_NONE, L"无", 11},
     }};
     return kArrowheads;
 }

@@ -117,7 +117,7 @@ bool TestHost::showPlotStyleDialog(const wchar_t* currentName, bool allowByLayer
     m_chosenPlotStyle.clear();
     if (!onPlotStyleDialog || !onPlotStyleDialog(currentName, allowByLayerByBlock, m_chosenPlotStyle))
         return false;
-    chosenName = m_chosenPlotStyle.c_str();
+    if (!plotStyleDialogNamesNone) chosenName = m_chosenPlotStyle.c_str();
     return true;
 }
 

@@ -57,6 +57,7 @@ public:
                        const std::uint32_t* palette)>
         onTrueColorDialog;
     std::function<bool(std::wstring current, bool allow, std::wstring& chosen)> onPlotStyleDialog;
+    bool plotStyleDialogNamesNone = false;  ///< an accepted dialog leaves the chosen name alone
     std::function<bool(const OdDbObjectId& current, OdDbObjectId& chosen)> onLinetypeDialog;
 
     // Calls.

@@ -1,0 +1,12 @@
+#include <ktui/pickers/font_icon.h>
+
+#include <ktui/host/module.h>
+
+HICON LoadFontIcon(UINT id, UINT flags) {
+    return static_cast<HICON>(
+        ::LoadImageW(KtUiOwnModule(), MAKEINTRESOURCEW(id), IMAGE_ICON, kFontIconSize, kFontIconSize, flags));
+}
+
+void DrawFontIcon(CDC& dc, CPoint corner, int size, HICON icon) {
+    dc.DrawState(corner, CSize(size, size), icon, DST_ICON, static_cast<HBRUSH>(nullptr));
+}
