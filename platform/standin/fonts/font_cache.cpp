@@ -20,7 +20,7 @@ constexpr std::uint32_t kMostFaces = 256;
 
 std::uint64_t checksumOf(std::string_view bytes) {
     std::uint64_t sum = 0xCBF29CE484222325u;
-    for (const char byte : bytes) sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3u;
+    for (const char one : bytes) sum = (sum ^ static_cast<unsigned char>(one)) * 0x100000001B3u;
     return sum;
 }
 

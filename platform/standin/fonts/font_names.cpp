@@ -98,7 +98,7 @@ std::wstring fromUtf16(std::string_view bytes) {
 
 std::wstring fromRoman(std::string_view bytes) {
     std::wstring text;
-    for (const char byte : bytes) append(text, macRomanCharacter(static_cast<unsigned char>(byte)));
+    for (const char one : bytes) append(text, macRomanCharacter(static_cast<unsigned char>(one)));
     return text;
 }
 

@@ -18,4 +18,4 @@ constexpr char16_t kUpperHalf[128] = {
 
 }  // namespace
 
-char32_t macRomanCharacter(unsigned char byte) { return byte < 0x80 ? byte : kUpperHalf[byte - 0x80]; }
+char32_t macRomanCharacter(unsigned char code) { return code < 0x80 ? code : kUpperHalf[code - 0x80]; }
