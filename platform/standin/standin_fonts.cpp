@@ -55,7 +55,9 @@ CKhFontStyle* StandinRuntimeHost::loadFontFile(const wchar_t* name, CString& mes
         return nullptr;
     }
     m_fonts.addFile(std::wstring(path.view()));
-    return shxFontList()->find(path);
+    CKhFontStyle* style = shxFontList()->find(path);
+    if (!style) message = describe(FontProblem::kUnreadable, path);
+    return style;
 }
 
 void CStandinHost::SetFontFolders(std::vector<CString> folders) { m_facets->runtime.setFontFolders(folders); }

@@ -9,6 +9,7 @@ namespace {
 
 constexpr UINT kStartDelay = 200;            // milliseconds
 constexpr ULONGLONG kLookAgainAfter = 1000;  // milliseconds
+constexpr ULONGLONG kSameQuestion = 50;      // milliseconds: a dialog that opens asks several times
 constexpr DWORD kCursorDelay = 100;          // milliseconds of waiting before the cursor says so
 constexpr int kMostAtOnce = 100;             // messages
 
@@ -107,6 +108,10 @@ CKhFontList* FontService::list() {
 
 /// Drops what is under way and plans a first look.
 void FontService::restart() {
+    if (m_isWaiting) {
+        m_isOutdated = true;
+        return;
+    }
     if (m_job) {
         m_job->stop();
         m_cache = std::move(m_job->cache);
@@ -156,12 +161,16 @@ void FontService::take() {
     }
     m_cache = std::move(m_job->cache);
     m_stamps = std::move(m_job->stamps);
-    m_listedAt = m_job->endedAt;
-    m_isListed = true;
+    m_listedAt = m_askedAt = m_job->endedAt;
+    m_isListed = !m_isOutdated;
+    m_isOutdated = false;
     if (m_job->isFinished()) m_list.assign(std::move(m_job->catalogue));
     m_job.reset();
 }
 
-bool FontService::hasChanged() const {
-    return ::GetTickCount64() - m_listedAt >= kLookAgainAfter || !m_stamps.isCurrent();
+bool FontService::hasChanged() {
+    const ULONGLONG now = ::GetTickCount64();
+    if (now - m_askedAt < kSameQuestion) return false;
+    m_askedAt = now;
+    return now - m_listedAt >= kLookAgainAfter || !m_stamps.isCurrent();
 }

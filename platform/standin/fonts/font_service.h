@@ -28,9 +28,10 @@ public:
     void addFile(const std::wstring& path);
 
     /// The fonts as they are now: folders and registry are asked at each call, the single files once a second
-    /// at most. While a look is under way the call waits; windows of this thread are painted meanwhile and
-    /// messages sent to them are answered, but nothing is taken from the keyboard and the mouse. What asks
-    /// for the list during that gets the list as it was, empty at first.
+    /// at most; calls that follow each other within some hundredths of a second count as one. While a look is
+    /// under way the call waits; windows of this thread are painted meanwhile and messages sent to them are
+    /// answered, but nothing is taken from the keyboard and the mouse. What asks for the list during that
+    /// gets the list as it was, empty at first.
     CKhFontList* list();
 
 private:
@@ -40,7 +41,7 @@ private:
     void stopTimer();
     void start();
     void take();
-    bool hasChanged() const;
+    bool hasChanged();
 
     bool m_usesSystem = true;
     std::vector<std::wstring> m_folders;         // set by setFolders
@@ -53,8 +54,10 @@ private:
     FontList m_list;
     FontScanStamps m_stamps;
     ULONGLONG m_listedAt = 0;
+    ULONGLONG m_askedAt = 0;
     bool m_isListed = false;
     bool m_isWaiting = false;
+    bool m_isOutdated = false;  // the settings changed while a call waited
     UINT_PTR m_timer = 0;
     std::unique_ptr<FontScanJob> m_job;
 };

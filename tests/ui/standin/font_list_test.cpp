@@ -1,8 +1,9 @@
 // The host's fonts, from files on disk.
 #include <algorithm>
-#include <chrono>
+#include <functional>
 
 #include "font_folder.h"
+#include "leak_count.h"
 
 using ui_test::FontFolder;
 using ui_test::FontHost;
@@ -36,14 +37,14 @@ public:
     int inputs = 0;
     int sent = 0;
     HCURSOR lastCursor = nullptr;  ///< other than the arrow, when a message was sent
-    CKhFontList* listDuringPaint = nullptr;
-    bool asksForTheList = false;
+    std::function<void()> onPaint;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_PAINT) {
             ++paints;
-            if (asksForTheList) listDuringPaint = CKhSystem::instance()->runtimeHost()->shxFontList();
+            const auto action = onPaint;  // it may take itself away
+            if (action) action();
         }
         if (message == WM_KEYDOWN || message == WM_LBUTTONDOWN || message == WM_APP) ++inputs;
         if (message == WM_APP + 1) {
@@ -207,7 +208,8 @@ TEST(StandinFonts, WindowsArePaintedWhileTheCallWaits) {
     FontHost of({folder.path()});
     Witness witness;
     witness.paints = 0;
-    witness.asksForTheList = true;
+    CKhFontList* listDuringPaint = nullptr;
+    witness.onPaint = [&] { listDuringPaint = of.list(); };
     witness.Invalidate();
     witness.PostMessage(WM_APP);
     ::PostMessageW(witness.m_hWnd, WM_KEYDOWN, 'A', 0);
@@ -215,11 +217,30 @@ TEST(StandinFonts, WindowsArePaintedWhileTheCallWaits) {
     CKhFontList* list = of.list();
     EXPECT_GE(witness.paints, 1);
     EXPECT_EQ(witness.inputs, 0) << "input and posted messages wait";
-    EXPECT_EQ(witness.listDuringPaint, list) << "asked from inside, the list is there, as it was";
+    EXPECT_EQ(listDuringPaint, list) << "asked from inside, the list is there, as it was";
     EXPECT_EQ(list->count(), kMany);
-    witness.asksForTheList = false;
+    witness.onPaint = nullptr;
     ui_test::pump();
     EXPECT_EQ(witness.inputs, 3) << "and come when it is over";
+}
+
+TEST(StandinFonts, SettingsMayChangeWhileTheCallWaits) {
+    const FontFolder many(L"before"), other(L"after");
+    fillWithMany(many);
+    other.writeOutline(L"a.ttf", "Alpha", "Regular");
+    FontHost of({many.path()});
+    Witness witness;
+    bool failed = false;
+    witness.onPaint = [&] {
+        of.host.SetFontFolders({other.path()});
+        CString message;
+        failed = !of.host.LoadFontFile(other.file(L"a.ttf"), message) && !message.IsEmpty();
+        witness.onPaint = nullptr;
+    };
+    witness.Invalidate();
+    of.list();
+    EXPECT_TRUE(failed) << "the list can't grow while somebody waits for it";
+    EXPECT_EQ(of.names(), Texts{L"Alpha"});
 }
 
 namespace {
@@ -347,4 +368,24 @@ TEST(StandinFonts, FontsOfTheSystemHaveTheNamesThatTheSystemGivesThem) {
     CKhFontStyle* bold = style->font()->styleByName(L"Bold");
     ASSERT_NE(bold, nullptr);
     EXPECT_STREQ(bold->fileName(), L"tahomabd.ttf");
+}
+
+TEST(StandinFonts, LookingAgainAndAgainLeavesNothingBehind) {
+    const FontFolder folder(L"leaks");
+    for (int i = 0; i < 20; ++i)
+        folder.writeOutline(L"f" + std::to_wstring(i) + L".ttf", "F" + std::to_string(i), "Regular");
+    const CString cache = folder.file(L"fonts.cache");
+    const auto look = [&] {
+        FontHost of({folder.path()}, cache);
+        EXPECT_EQ(of.list()->count(), 20);
+        of.host.SetFontFolders({folder.path()});
+        EXPECT_EQ(of.list()->count(), 20);
+    };
+    for (int i = 0; i < 20; ++i) look();
+    const HeldObjects before = count_held_objects();
+    for (int i = 0; i < 50; ++i) look();
+    const HeldObjects after = count_held_objects();
+    EXPECT_LE(after.heapBlocks, before.heapBlocks + 20);
+    EXPECT_LE(after.windows, before.windows);
+    EXPECT_LE(after.kernelHandles, before.kernelHandles + 2);
 }
