@@ -21,6 +21,7 @@ public:
         // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
+        m_host->SetSupportDirectories({FontFolder()});
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
@@ -38,6 +39,14 @@ public:
     }
 
 private:
+    /// The stroke fonts that come with the program.
+    static CString FontFolder() {
+        wchar_t path[MAX_PATH] = {};
+        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+        CString folder = path;
+        return folder.Left(folder.ReverseFind(L'\\') + 1) + L"fonts";
+    }
+
     std::unique_ptr<CStandinHost> m_host;
 };
 

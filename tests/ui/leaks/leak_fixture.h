@@ -72,6 +72,9 @@ class Leaks : public ::testing::Test {
 protected:
     Leaks() : host(*AfxGetApp()), drawing(new OdDbDatabase) {
         oddbHostApplicationServices()->setWorkingDatabase(drawing.get());
+        // No look for fonts in the background, which would count as growth.
+        host.SetFontFolders({});
+        host.SetFontCacheFile(nullptr);
         AfxGetApp()->m_pMainWnd = &parent;
     }
     ~Leaks() override {
