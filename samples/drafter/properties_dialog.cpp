@@ -47,7 +47,7 @@ void CPropertiesDialog::DoDataExchange(CDataExchange* exchange) {
 BOOL CPropertiesDialog::OnInitDialog() {
     const BOOL result = CFieldsDialog::OnInitDialog();
     showTitle();
-    m_linetypeScale.SetStyleMask(kKtUiEditValidateOnKillFocus | kKtUiEditNoNegative | kKtUiEditNoZero);
+    m_linetypeScale.SetStyleMask(kKtUiEditNoNegative | kKtUiEditNoZero);
     m_layer.SetStyleMask(kKtUiEditNoBlank);
     m_elevation.SetStyleMask(kKtUiEditValidateOnKillFocus);
     m_thickness.SetStyleMask(kKtUiEditValidateOnKillFocus | kKtUiEditNoNegative);
@@ -71,7 +71,7 @@ void CPropertiesDialog::showTitle() {
 void CPropertiesDialog::fillFields() {
     const PropertyValues values = ReadProperties(m_drawing, m_objects);
     m_pickers.Show(m_drawing, values);
-    if (values.linetypeScale) FillField(IDC_LINETYPE_SCALE, FormatDistance(*values.linetypeScale));
+    if (values.linetypeScale) FillField(IDC_LINETYPE_SCALE, FormatNumber(*values.linetypeScale));
     if (values.layer) FillField(IDC_LAYER, values.layer->c_str());
     if (values.hyperlink) FillField(IDC_HYPERLINK, values.hyperlink->c_str());
     if (values.elevation) FillField(IDC_ELEVATION, FormatDistance(*values.elevation));

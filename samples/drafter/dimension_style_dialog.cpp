@@ -1,0 +1,112 @@
+#include "dimension_style_dialog.h"
+
+#include "resource.h"
+#include "unit_texts.h"
+
+IMPLEMENT_DYNAMIC(CDimensionStyleDialog, CStyleDialog)
+
+BEGIN_MESSAGE_MAP(CDimensionStyleDialog, CStyleDialog)
+    ON_CONTROL_RANGE(CBN_SELENDOK, IDC_FIRST_ARROW, IDC_CALLOUT, &CDimensionStyleDialog::OnPickedRange)
+    ON_CONTROL_RANGE(CBN_CLOSEUP, IDC_FIRST_ARROW, IDC_DIMENSION_LINETYPE,
+                     &CDimensionStyleDialog::OnPickedRange)
+    ON_CBN_CLOSEUP(IDC_CALLOUT, &CDimensionStyleDialog::OnCalloutClosed)
+    ON_EN_CHANGE(IDC_ARROW_SIZE, &CDimensionStyleDialog::OnPicked)
+END_MESSAGE_MAP()
+
+CDimensionStyleDialog::CDimensionStyleDialog(OdDbDatabase& drawing, CWnd* parent)
+    : CStyleDialog(IDD_DIMENSION_STYLE, L"DimensionStyle", parent),
+      m_drawing(drawing),
+      m_before(ReadDimensionStyles(drawing)),
+      m_styles(m_before) {
+    // A drawing whose styles all belong to references still gets one to edit.
+    if (m_styles.empty()) m_styles.emplace_back().name = L"Standard-1";
+    AddField(IDC_ARROW_SIZE, m_size, IDS_BAD_ARROW_SIZE, FormatDistance(2.5));
+    m_lineWeight.SetUseDefault(0);
+}
+
+void CDimensionStyleDialog::DoDataExchange(CDataExchange* exchange) {
+    CStyleDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_FIRST_ARROW, m_first);
+    DDX_Control(exchange, IDC_SECOND_ARROW, m_second);
+    DDX_Control(exchange, IDC_LEADER_ARROW, m_leader);
+    DDX_Control(exchange, IDC_DIMENSION_COLOR, m_lineColor);
+    DDX_Control(exchange, IDC_DIMENSION_WEIGHT, m_lineWeight);
+    DDX_Control(exchange, IDC_DIMENSION_LINETYPE, m_linetype);
+    DDX_Control(exchange, IDC_CALLOUT, m_callout);
+    DDX_Control(exchange, IDC_SAMPLE, m_sample);
+}
+
+BOOL CDimensionStyleDialog::OnInitDialog() {
+    const BOOL result = CStyleDialog::OnInitDialog();
+    m_size.SetStyleMask(kKtUiEditValidateOnKillFocus | kKtUiEditNoNegative);
+    const auto style = m_drawing.dimstyle().open<OdDbDimStyleTableRecord>();
+    ListStyles(style ? style->getName() : OdString());
+    ResizeStyleRow();
+    StretchControlXY(IDC_SAMPLE, 100, 100);
+    ResizeFrame({IDC_CALLOUT});
+    return result;
+}
+
+std::vector<OdString> CDimensionStyleDialog::StyleNames() const {
+    std::vector<OdString> names;
+    for (const DimensionValues& style : m_styles) names.push_back(style.name);
+    return names;
+}
+
+void CDimensionStyleDialog::ShowStyle(std::size_t index) {
+    const DimensionValues& style = m_styles[index];
+    m_first.Show(style.first);
+    m_second.Show(style.second);
+    m_leader.Show(style.leader);
+    m_shownSize = style.arrowSize;
+    FillField(IDC_ARROW_SIZE, FormatDistance(style.arrowSize));
+    m_lineColor.SetCurSel(m_lineColor.AddColorToMRU(style.lineColor.colorIndex()));
+    m_lineWeight.Show(style.lineWeight);
+    m_linetype.Show(style.linetype);
+    m_callout.Show(style.callout);
+    showSample();
+}
+
+void CDimensionStyleDialog::KeepStyle(std::size_t index) {
+    DimensionValues& style = m_styles[index];
+    style.first = m_first.Picked();
+    style.second = m_second.Picked();
+    style.leader = m_leader.Picked();
+    if (m_size.Validate()) style.arrowSize = EditedDistance(IDC_ARROW_SIZE).value_or(m_shownSize);
+    const __int64 color = m_lineColor.GetCurrentItemColorIndex();
+    if (color >= 0) style.lineColor.setColorIndex(static_cast<int>(color));
+    style.lineWeight = m_lineWeight.Picked().value_or(style.lineWeight);
+    style.linetype = m_linetype.Picked().value_or(style.linetype);
+    style.callout = m_callout.Picked();
+}
+
+void CDimensionStyleDialog::CopyStyle(std::size_t index, const OdString& name) {
+    DimensionValues copy = m_styles[index];
+    copy.name = name;
+    m_styles.push_back(copy);
+}
+
+void CDimensionStyleDialog::ApplyStyles(std::size_t index) {
+    for (std::size_t i = 0; i < m_styles.size(); ++i)
+        if (i >= m_before.size() || !(m_styles[i] == m_before[i]))
+            WriteDimensionStyle(m_drawing, m_styles[i]);
+    SetCurrentDimensionStyle(m_drawing, m_styles[index].name);
+}
+
+void CDimensionStyleDialog::showSample() {
+    m_sample.SetScene(DimensionSample(m_drawing, m_styles[current()]));
+}
+
+void CDimensionStyleDialog::OnPicked() {
+    // The size reports before the first style is shown.
+    if (m_sample.m_hWnd == nullptr || m_callout.m_hWnd == nullptr) return;
+    KeepStyle(current());
+    showSample();
+}
+
+void CDimensionStyleDialog::OnPickedRange(UINT) { OnPicked(); }
+
+void CDimensionStyleDialog::OnCalloutClosed() {
+    m_callout.OnClosed();
+    OnPicked();
+}

@@ -1,0 +1,40 @@
+// CStyleDialog: a dialog over the named styles of a drawing, of which one is shown at a time (IDC_STYLE) and
+// new ones are made as copies (IDC_NEW_STYLE). Everything is written by OK, and the style shown becomes the
+// current one; Cancel changes nothing.
+#pragma once
+
+#include "fields_dialog.h"
+
+class CStyleDialog : public CFieldsDialog {
+    DECLARE_DYNAMIC(CStyleDialog)
+
+public:
+    using CFieldsDialog::CFieldsDialog;
+
+protected:
+    /// Names of the styles, those made by this dialog included.
+    virtual std::vector<OdString> StyleNames() const = 0;
+    /// Fills the controls from style `index`.
+    virtual void ShowStyle(std::size_t index) = 0;
+    /// Takes what the controls show into style `index`; the fields are valid.
+    virtual void KeepStyle(std::size_t index) = 0;
+    /// Appends a copy of style `index` under another name.
+    virtual void CopyStyle(std::size_t index, const OdString& name) = 0;
+    /// Writes all styles and makes style `index` the current one.
+    virtual void ApplyStyles(std::size_t index) = 0;
+
+    /// Lists the styles and shows that of this name; after the controls are bound.
+    void ListStyles(const OdString& name);
+    std::size_t current() const { return m_current; }
+    /// Resizing of the row of styles.
+    void ResizeStyleRow();
+
+    void Apply() override;
+
+    afx_msg void OnStyle();
+    afx_msg void OnNewStyle();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    std::size_t m_current = 0;
+};
