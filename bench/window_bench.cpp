@@ -23,6 +23,7 @@ struct Row {
 constexpr Row kRows[] = {
     {"keystroke", bench::measure_keystroke},
     {"picker", bench::measure_picker},
+    {"drawing_pickers", bench::measure_drawing_pickers},
     {"dialog", bench::measure_dialog},
     {"resize", bench::measure_resize},
 };

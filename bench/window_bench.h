@@ -11,6 +11,8 @@ namespace bench {
 void measure_keystroke();
 /// Filling a picker against filling a bare combo box of the same looks.
 void measure_picker();
+/// Filling, dropping and painting each picker of a drawing property against a bare combo box with its texts.
+void measure_drawing_pickers();
 /// Opening and closing a dialog of forty controls against the bare function with the same template.
 void measure_dialog();
 /// One step of resizing two hundred controls against moving them one by one.

@@ -28,9 +28,8 @@ CKtUiLTypeRecord* makeRecord(const OdDbObjectId& id) {
     const OdDbLinetypeTableRecordPtr linetype = id.open<OdDbLinetypeTableRecord>();
     OdString name;
     if (!linetype || linetype->isDependent() || linetype->getName(name) != kOdOk) return nullptr;
-    CString shown;
-    shown.Format(L"%s", name.c_str());
-    return new CKtUiLTypeRecord(shown, id);
+    // Kept: the name ends at a terminator within it. Owners rely on the list showing what the record says.
+    return new CKtUiLTypeRecord(name.c_str(), id);
 }
 
 /// The view of the current document, else that of the host; null if there is neither.

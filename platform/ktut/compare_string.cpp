@@ -37,9 +37,11 @@ int compareNatural(std::wstring_view a, std::wstring_view b) {
             if (!zeros && x.size() != y.size()) zeros = x.size() < y.size() ? -1 : 1;
             continue;
         }
-        const wchar_t x = odFoldCase(a.front());
-        const wchar_t y = odFoldCase(b.front());
-        if (x != y) return x < y ? -1 : 1;
+        if (a.front() != b.front()) {
+            const wchar_t x = odFoldCase(a.front());
+            const wchar_t y = odFoldCase(b.front());
+            if (x != y) return x < y ? -1 : 1;
+        }
         a.remove_prefix(1);
         b.remove_prefix(1);
     }

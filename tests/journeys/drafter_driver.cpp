@@ -138,6 +138,20 @@ HWND Drafter::waitForDialog(const std::wstring& title) {
     return found;
 }
 
+HWND Drafter::waitForDialogOf(HWND owner) {
+    HWND found = nullptr;
+    waitUntil([&] {
+        found = findWindow([&](HWND window) {
+            wchar_t name[16] = {};
+            ::GetClassNameW(window, name, 16);
+            return std::wstring(name) == L"#32770" && ::GetWindow(window, GW_OWNER) == owner;
+        });
+        return found != nullptr;
+    });
+    if (found != nullptr) settle(found);
+    return found;
+}
+
 bool Drafter::waitUntilGone(HWND window) {
     const bool gone = waitUntil([=] { return !::IsWindow(window) || !::IsWindowVisible(window); });
     settle(m_frame);

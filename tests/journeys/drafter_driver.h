@@ -25,6 +25,8 @@ public:
 
     /// The visible dialog whose title begins with `title`, as soon as there is one.
     HWND waitForDialog(const std::wstring& title);
+    /// The visible dialog that belongs to `owner`, whatever its title, as soon as there is one.
+    HWND waitForDialogOf(HWND owner);
     /// Whether `window` has gone, as soon as it has.
     bool waitUntilGone(HWND window);
 
