@@ -98,8 +98,7 @@ void CDimensionStyleDialog::showSample() {
 }
 
 void CDimensionStyleDialog::OnPicked() {
-    // The size reports before the first style is shown.
-    if (m_sample.m_hWnd == nullptr || m_callout.m_hWnd == nullptr) return;
+    if (isShowing()) return;
     KeepStyle(current());
     showSample();
 }

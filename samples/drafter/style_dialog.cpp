@@ -21,7 +21,14 @@ void CStyleDialog::ListStyles(const OdString& name) {
         ++index;
     }
     list->SendMessage(CB_SETCURSEL, m_current);
-    ShowStyle(m_current);
+    show(m_current);
+}
+
+void CStyleDialog::show(std::size_t index) {
+    m_current = index;
+    m_isShowing = true;
+    ShowStyle(index);
+    m_isShowing = false;
 }
 
 void CStyleDialog::OnStyle() {
@@ -33,8 +40,7 @@ void CStyleDialog::OnStyle() {
         return;
     }
     KeepStyle(m_current);
-    m_current = static_cast<std::size_t>(chosen);
-    ShowStyle(m_current);
+    show(static_cast<std::size_t>(chosen));
 }
 
 void CStyleDialog::OnNewStyle() {

@@ -26,6 +26,8 @@ protected:
     /// Lists the styles and shows that of this name; after the controls are bound.
     void ListStyles(const OdString& name);
     std::size_t current() const { return m_current; }
+    /// Whether the controls are being filled: what they report then is no choice of the user's.
+    bool isShowing() const { return m_isShowing; }
     /// Resizing of the row of styles.
     void ResizeStyleRow();
 
@@ -36,5 +38,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void show(std::size_t index);
+
     std::size_t m_current = 0;
+    bool m_isShowing = true;  ///< from the start, until the first style is shown
 };

@@ -206,8 +206,7 @@ void CTextStyleDialog::OnUseBigFont() {
 }
 
 void CTextStyleDialog::OnChanged() {
-    // The fields report before the first style is shown.
-    if (m_sample.m_hWnd == nullptr || GetDlgItem(IDC_STYLE)->SendMessage(CB_GETCURSEL) < 0) return;
+    if (isShowing()) return;
     KeepStyle(current());
     showSample();
 }

@@ -125,11 +125,16 @@ TEST_F(Styles, ABadArrowSizeIsRefusedAlsoWhenAnotherStyleIsChosen) {
     EXPECT_TRUE(::IsWindowVisible(dialog));
     EXPECT_EQ(focusOf(dialog), item(dialog, IDC_ARROW_SIZE));
     drafter->replaceText(item(dialog, IDC_ARROW_SIZE), L"2");
+    drafter->pickByMouse(item(dialog, IDC_DIMENSION_COLOR), L"green");
     drafter->pickByMouse(item(dialog, IDC_STYLE), L"Standard");
     EXPECT_EQ(currentEntry(item(dialog, IDC_FIRST_ARROW)), L"Closed filled");
+    EXPECT_EQ(currentEntry(item(dialog, IDC_DIMENSION_COLOR)), L"ByBlock");
     ok(dialog);
     const OdDbDatabasePtr drawing = saved();
     EXPECT_EQ(dimStyle(*drawing, L"SURVEY")->dimasz(), 2) << "what was entered before the change counts";
+    EXPECT_EQ(dimStyle(*drawing, L"SURVEY")->dimclrd().colorIndex(), 3);
+    EXPECT_TRUE(dimStyle(*drawing, L"Standard")->dimclrd().isByBlock())
+        << "one style's color is not another's";
     EXPECT_EQ(drawing->dimstyle(), dimStyle(*drawing, L"Standard")->objectId());
 }
 
