@@ -93,8 +93,9 @@ private:
         arrowhead(m_values.leader, x, y, std::acos(-1.0) - kLeaderAngle);
         const double shelf = endX + 2 * m_unit, size = 1.6 * m_unit;
         line(endX, endY, shelf, endY, m_line);
-        if (!m_values.callout.isEmpty()) named(m_values.callout, shelf + 1.4 * size, endY, 0, size);
-        if (m_values.callout.isEmpty()) text(shelf + m_unit, endY - m_unit / 2, L"A");
+        const bool hasCallout = !m_values.callout.isEmpty();
+        if (hasCallout) named(m_values.callout, shelf + 1.4 * size, endY, 0, size);
+        text(shelf + (hasCallout ? 1.4 * size : m_unit), endY - m_unit / 2, L"A");
     }
 
     OdDbDatabase& m_drawing;
