@@ -175,6 +175,43 @@ TEST_F(Styles, ATextStylesSizesAreEditedMarkedAndStored) {
     EXPECT_EQ(drawing->textstyle(), style->objectId());
 }
 
+TEST_F(Styles, HelpIsAtHandInEachDialogByKeyAndButton) {
+    for (const WORD letter : {WORD{'1'}, WORD{'D'}, WORD{'T'}}) {
+        HWND dialog = openByKey(letter);
+        ASSERT_NE(dialog, nullptr);
+        drafter->key(VK_F1);
+        HWND help = drafter->waitForDialogOf(dialog);
+        ASSERT_NE(help, nullptr) << static_cast<char>(letter);
+        cancel(help);
+        drafter->click(item(dialog, IDHELP));
+        help = drafter->waitForDialogOf(dialog);
+        ASSERT_NE(help, nullptr) << static_cast<char>(letter);
+        cancel(help);
+        cancel(dialog);
+    }
+}
+
+TEST_F(Styles, BothDialogsGrowAndComeBackWhereTheyWereLeft) {
+    for (const WORD letter : {WORD{'D'}, WORD{'T'}}) {
+        HWND dialog = openByKey(letter);
+        ASSERT_NE(dialog, nullptr);
+        const RECT before = rectOf(dialog), sample = rectOf(item(dialog, IDC_SAMPLE));
+        const RECT wanted = {50, 30, 50 + before.right - before.left + 90,
+                             30 + before.bottom - before.top + 60};
+        drafter->place(dialog, wanted);
+        const RECT grown = rectOf(item(dialog, IDC_SAMPLE));
+        EXPECT_EQ(grown.right - grown.left, sample.right - sample.left + 90);
+        EXPECT_EQ(grown.bottom - grown.top, sample.bottom - sample.top + 60);
+        picture(letter == 'D' ? "journey-dimension-resized" : "journey-text-resized");
+        ok(dialog);
+        dialog = openByKey(letter);
+        ASSERT_NE(dialog, nullptr);
+        const RECT again = rectOf(dialog);
+        EXPECT_TRUE(::EqualRect(&again, &wanted)) << static_cast<char>(letter);
+        cancel(dialog);
+    }
+}
+
 TEST_F(OwnBlocks, WithoutBlocksTheUserIsToldSo) {
     const OdDbDatabasePtr drawing(new OdDbDatabase);
     open(*drawing, L"no_blocks.dxf");
