@@ -14,14 +14,9 @@ BEGIN_MESSAGE_MAP(CDimensionStyleDialog, CStyleDialog)
 END_MESSAGE_MAP()
 
 CDimensionStyleDialog::CDimensionStyleDialog(OdDbDatabase& drawing, CWnd* parent)
-    : CStyleDialog(IDD_DIMENSION_STYLE, L"DimensionStyle", parent),
-      m_drawing(drawing),
-      m_before(ReadDimensionStyles(drawing)),
-      m_styles(m_before) {
-    // A drawing whose styles all belong to references still gets one to edit.
-    if (m_styles.empty()) m_styles.emplace_back().name = L"Standard-1";
+    : CStyleValuesDialog(IDD_DIMENSION_STYLE, L"DimensionStyle", ReadDimensionStyles(drawing), parent),
+      m_drawing(drawing) {
     AddField(IDC_ARROW_SIZE, m_size, IDS_BAD_ARROW_SIZE, FormatDistance(2.5));
-    m_lineWeight.SetUseDefault(0);
 }
 
 void CDimensionStyleDialog::DoDataExchange(CDataExchange* exchange) {
@@ -45,12 +40,6 @@ BOOL CDimensionStyleDialog::OnInitDialog() {
     StretchControlXY(IDC_SAMPLE, 100, 100);
     ResizeFrame({IDC_CALLOUT});
     return result;
-}
-
-std::vector<OdString> CDimensionStyleDialog::StyleNames() const {
-    std::vector<OdString> names;
-    for (const DimensionValues& style : m_styles) names.push_back(style.name);
-    return names;
 }
 
 void CDimensionStyleDialog::ShowStyle(std::size_t index) {
@@ -78,19 +67,6 @@ void CDimensionStyleDialog::KeepStyle(std::size_t index) {
     style.lineWeight = m_lineWeight.Picked().value_or(style.lineWeight);
     style.linetype = m_linetype.Picked().value_or(style.linetype);
     style.callout = m_callout.Picked();
-}
-
-void CDimensionStyleDialog::CopyStyle(std::size_t index, const OdString& name) {
-    DimensionValues copy = m_styles[index];
-    copy.name = name;
-    m_styles.push_back(copy);
-}
-
-void CDimensionStyleDialog::ApplyStyles(std::size_t index) {
-    for (std::size_t i = 0; i < m_styles.size(); ++i)
-        if (i >= m_before.size() || !(m_styles[i] == m_before[i]))
-            WriteDimensionStyle(m_drawing, m_styles[i]);
-    SetCurrentDimensionStyle(m_drawing, m_styles[index].name);
 }
 
 void CDimensionStyleDialog::showSample() {

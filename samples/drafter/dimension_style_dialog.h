@@ -8,7 +8,7 @@
 #include "scene_preview.h"
 #include "style_dialog.h"
 
-class CDimensionStyleDialog : public CStyleDialog {
+class CDimensionStyleDialog : public CStyleValuesDialog<DimensionValues> {
     DECLARE_DYNAMIC(CDimensionStyleDialog)
 
 public:
@@ -17,11 +17,10 @@ public:
 protected:
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* exchange) override;
-    std::vector<OdString> StyleNames() const override;
     void ShowStyle(std::size_t index) override;
     void KeepStyle(std::size_t index) override;
-    void CopyStyle(std::size_t index, const OdString& name) override;
-    void ApplyStyles(std::size_t index) override;
+    void WriteStyle(const DimensionValues& style) override { WriteDimensionStyle(m_drawing, style); }
+    void MakeCurrent(const OdString& name) override { SetCurrentDimensionStyle(m_drawing, name); }
 
     afx_msg void OnPicked();
     afx_msg void OnPickedRange(UINT id);
@@ -32,8 +31,6 @@ private:
     void showSample();
 
     OdDbDatabase& m_drawing;
-    std::vector<DimensionValues> m_before;  ///< as read
-    std::vector<DimensionValues> m_styles;
     CArrowheadPicker m_first, m_second, m_leader;
     CReportingEdit<CKtUiNumericEdit> m_size;
     double m_shownSize = 0;  ///< what the size field began with

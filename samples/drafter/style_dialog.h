@@ -43,3 +43,37 @@ private:
     std::size_t m_current = 0;
     bool m_isShowing = true;  ///< from the start, until the first style is shown
 };
+
+/// A dialog over styles that are read into `Values`, which have a name and can be compared.
+template <class Values>
+class CStyleValuesDialog : public CStyleDialog {
+public:
+    CStyleValuesDialog(UINT templateId, const wchar_t* name, std::vector<Values> styles, CWnd* parent)
+        : CStyleDialog(templateId, name, parent), m_before(std::move(styles)), m_styles(m_before) {
+        // A drawing whose styles all belong to references still gets one to edit.
+        if (m_styles.empty()) m_styles.emplace_back().name = L"Standard-1";
+    }
+
+protected:
+    virtual void WriteStyle(const Values& style) = 0;
+    virtual void MakeCurrent(const OdString& name) = 0;
+
+    std::vector<OdString> StyleNames() const override {
+        std::vector<OdString> names;
+        for (const Values& style : m_styles) names.push_back(style.name);
+        return names;
+    }
+    void CopyStyle(std::size_t index, const OdString& name) override {
+        Values copy = m_styles[index];
+        copy.name = name;
+        m_styles.push_back(std::move(copy));
+    }
+    void ApplyStyles(std::size_t index) override {
+        for (std::size_t i = 0; i < m_styles.size(); ++i)
+            if (i >= m_before.size() || !(m_styles[i] == m_before[i])) WriteStyle(m_styles[i]);
+        MakeCurrent(m_styles[index].name);
+    }
+
+    std::vector<Values> m_before;  ///< as read
+    std::vector<Values> m_styles;
+};

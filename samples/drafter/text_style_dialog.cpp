@@ -33,12 +33,7 @@ BEGIN_MESSAGE_MAP(CTextStyleDialog, CStyleDialog)
 END_MESSAGE_MAP()
 
 CTextStyleDialog::CTextStyleDialog(OdDbDatabase& drawing, CWnd* parent)
-    : CStyleDialog(IDD_TEXT_STYLE, L"TextStyle", parent),
-      m_drawing(drawing),
-      m_before(ReadTextStyles(drawing)),
-      m_styles(m_before) {
-    // A drawing whose styles all belong to references still gets one to edit.
-    if (m_styles.empty()) m_styles.emplace_back().name = L"Standard-1";
+    : CStyleValuesDialog(IDD_TEXT_STYLE, L"TextStyle", ReadTextStyles(drawing), parent), m_drawing(drawing) {
     AddField(IDC_TEXT_HEIGHT, m_height, IDS_BAD_TEXT_HEIGHT, FormatDistance(2.5));
     AddField(IDC_TEXT_WIDTH, m_width, IDS_BAD_TEXT_WIDTH);
     AddField(IDC_TEXT_SLANT, m_slant, IDS_BAD_TEXT_SLANT, FormatTilt(15 * kDegree));
@@ -68,12 +63,6 @@ BOOL CTextStyleDialog::OnInitDialog() {
     StretchControlXY(IDC_SAMPLE, 100, 100);
     ResizeFrame({IDC_GROUP_FONT, IDC_GROUP_SIZE, IDC_BIG_FONTS});
     return result;
-}
-
-std::vector<OdString> CTextStyleDialog::StyleNames() const {
-    std::vector<OdString> names;
-    for (const TextStyleValues& style : m_styles) names.push_back(style.name);
-    return names;
 }
 
 CKhFont* CTextStyleDialog::selectedFont() {
@@ -163,18 +152,6 @@ void CTextStyleDialog::KeepStyle(std::size_t index) {
     if (m_height.Validate()) style.height = EditedDistance(IDC_TEXT_HEIGHT).value_or(m_shown.height);
     if (m_width.Validate()) style.width = EditedDistance(IDC_TEXT_WIDTH).value_or(m_shown.width);
     if (m_slant.Validate()) style.slant = EditedAngle(IDC_TEXT_SLANT).value_or(m_shown.slant);
-}
-
-void CTextStyleDialog::CopyStyle(std::size_t index, const OdString& name) {
-    TextStyleValues copy = m_styles[index];
-    copy.name = name;
-    m_styles.push_back(copy);
-}
-
-void CTextStyleDialog::ApplyStyles(std::size_t index) {
-    for (std::size_t i = 0; i < m_styles.size(); ++i)
-        if (i >= m_before.size() || !(m_styles[i] == m_before[i])) WriteTextStyle(m_drawing, m_styles[i]);
-    SetCurrentTextStyle(m_drawing, m_styles[index].name);
 }
 
 void CTextStyleDialog::showSample() {

@@ -7,7 +7,7 @@
 
 class CKhFont;
 
-class CTextStyleDialog : public CStyleDialog {
+class CTextStyleDialog : public CStyleValuesDialog<TextStyleValues> {
     DECLARE_DYNAMIC(CTextStyleDialog)
 
 public:
@@ -16,11 +16,10 @@ public:
 protected:
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* exchange) override;
-    std::vector<OdString> StyleNames() const override;
     void ShowStyle(std::size_t index) override;
     void KeepStyle(std::size_t index) override;
-    void CopyStyle(std::size_t index, const OdString& name) override;
-    void ApplyStyles(std::size_t index) override;
+    void WriteStyle(const TextStyleValues& style) override { WriteTextStyle(m_drawing, style); }
+    void MakeCurrent(const OdString& name) override { SetCurrentTextStyle(m_drawing, name); }
 
     afx_msg void OnFont();
     afx_msg void OnChanged();
@@ -40,8 +39,6 @@ private:
     void showSample();
 
     OdDbDatabase& m_drawing;
-    std::vector<TextStyleValues> m_before;  ///< as read
-    std::vector<TextStyleValues> m_styles;
     TextStyleValues m_shown;  ///< what the controls began with
     CString m_shownFont;      ///< what the font controls answered then
     CKtUiFontComboBox m_font;
