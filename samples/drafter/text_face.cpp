@@ -7,10 +7,20 @@ namespace {
 
 constexpr const wchar_t* kStandIn = L"Tahoma";
 
-/// The family of a font file, when the host knows it; empty for a shape font.
+/// Whether a file name is that of an outline font.
+bool isOutlineFont(const OdString& file) {
+    const CString name = file.c_str();
+    const CString extension = name.Mid(name.ReverseFind(L'.') + 1);
+    for (const wchar_t* each : {L"ttf", L"otf", L"ttc"})
+        if (extension.CompareNoCase(each) == 0) return true;
+    return false;
+}
+
+/// The family of an outline font's file, when the host knows it; empty for any other file.
 OdString familyOfFile(const OdString& file) {
-    CKhFontList* fonts = CKhSystem::instance()->runtimeHost()->shxFontList();
-    const CKhFontStyle* style = fonts != nullptr && !file.isEmpty() ? fonts->find(file) : nullptr;
+    // A shape font has no family, so painting doesn't wait for the host to have found its fonts.
+    CKhFontList* fonts = isOutlineFont(file) ? CKhSystem::instance()->runtimeHost()->shxFontList() : nullptr;
+    const CKhFontStyle* style = fonts != nullptr ? fonts->find(file) : nullptr;
     return style != nullptr && style->font()->isTrueType() ? OdString(style->font()->name()) : OdString();
 }
 
