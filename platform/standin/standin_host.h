@@ -41,9 +41,11 @@ public:
     void SetCurrentDocument(KtApDocument* document);
     /// Folders in which findFile looks, first to last, behind the document's own folder.
     void SetSupportDirectories(std::vector<CString> folders);
-    /// Value of a path variable such as "PrinterStyleSheetDir"; folders are separated by semicolons.
+    /// Value of a path variable such as "PrinterStyleSheetDir", which is the folder "Plot Styles" below the
+    /// program's until it is set; folders are separated by semicolons.
     void SetPathVariable(const wchar_t* name, const wchar_t* value);
     /// Makes the host answer `service` to serviceManager()->getService(name); null takes it away. Not owned.
+    /// At first there is "CKhPlotStyle", which reads the style sheets in the folders of that path variable.
     void SetService(const wchar_t* name, CKhService* service);
 
     // Replacing a facet: `facet` (not owned) answers from now on, also null where the interface lets a facet
