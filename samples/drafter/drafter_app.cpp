@@ -21,6 +21,7 @@ public:
         // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
+        m_host->SetSupportDirectories({programFolder() + L"support"});
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
@@ -38,6 +39,14 @@ public:
     }
 
 private:
+    /// Folder of this program's file, with a backslash at the end.
+    static CString programFolder() {
+        wchar_t file[MAX_PATH] = {};
+        ::GetModuleFileNameW(nullptr, file, MAX_PATH - 1);
+        const CString path = file;
+        return path.Left(path.ReverseFind(L'\\') + 1);
+    }
+
     std::unique_ptr<CStandinHost> m_host;
 };
 
