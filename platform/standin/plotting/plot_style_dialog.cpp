@@ -45,6 +45,8 @@ BOOL CStandinPlotStyleDialog::OnInitDialog() {
     readSheet();
     collectNames();
     fill();
+    // Whoever asks the service while the dialog is open may make it read the sheet anew.
+    m_table = nullptr;
     GetDlgItem(IDC_PLOT_STYLE_LIST)->SetFocus();
     return FALSE;
 }

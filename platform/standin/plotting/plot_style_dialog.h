@@ -40,6 +40,6 @@ private:
     StandinStyleSheets& m_sheets;
     CString m_chosen;
     bool m_allowMeta;
-    const PlotStyleTable* m_table = nullptr;  ///< null when every style counts
+    const PlotStyleTable* m_table = nullptr;  ///< null when every style counts; only while the dialog starts
     std::vector<CString> m_names;             ///< of the entries, in their order
 };
