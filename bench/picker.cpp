@@ -12,14 +12,6 @@ constexpr int kRounds = 31;
 constexpr DWORD kStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
 
-LRESULT CALLBACK measuring_parent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_MEASUREITEM) {
-        reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 15;
-        return TRUE;
-    }
-    return message == WM_DRAWITEM ? TRUE : ::DefWindowProcW(window, message, wParam, lParam);
-}
-
 std::vector<std::wstring> make_names() {
     std::vector<std::wstring> names;
     for (int i = 0; i < kEntries; ++i) names.push_back(L"layer " + std::to_wstring(i * 7919 % kEntries));
@@ -35,9 +27,8 @@ void bench::measure_picker() {
                     WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), nullptr, 0);
     CKtUiMRUComboBox ours;
     ours.Create(kStyle, CRect(10, 10, 200, 200), &holder, 1);
-    HWND parent = make_bare_window(L"measuring parent", measuring_parent);
-    HWND peer = ::CreateWindowExW(0, L"COMBOBOX", L"", kStyle, 10, 10, 190, 190, parent,
-                                  reinterpret_cast<HMENU>(1), nullptr, nullptr);
+    const BareCombo bare(kStyle);
+    HWND peer = bare.get();
     const auto fillOurs = [&] {
         ours.ResetContent();
         drain_queue();
@@ -57,6 +48,5 @@ void bench::measure_picker() {
         });
     };
     report("filling a picker with 1,000 entries", compare(kRounds, 1, fillOurs, fillPeer), 1.05);
-    ::DestroyWindow(parent);
     holder.DestroyWindow();
 }

@@ -1,10 +1,12 @@
-// Import/export marker of ktstandin.dll; nothing in a native build.
+// Import/export marker of ktstandin.dll. Natively its readers are a static library and need none.
 #pragma once
 
-#ifndef _WIN32
-#define STANDIN_API
-#elif defined(STANDIN_EXPORTS)
+#ifdef _WIN32
+#ifdef STANDIN_EXPORTS
 #define STANDIN_API __declspec(dllexport)
 #else
 #define STANDIN_API __declspec(dllimport)
+#endif
+#else
+#define STANDIN_API
 #endif

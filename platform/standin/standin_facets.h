@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "fonts/font_service.h"
 #include "plotting/style_sheets.h"
 #include "standin_host.h"
 
@@ -73,9 +74,16 @@ private:
 class StandinRuntimeHost final : public CKhRuntimeHost {
 public:
     void findFile(OdString& path, const wchar_t* name, const OdDbDatabase* drawing, int hint) override;
-    CKhFontList* shxFontList() override { return nullptr; }
+    CKhFontList* shxFontList() override { return m_fonts.list(); }
     int supportDirectories(wchar_t (*buffer)[kKhPathLength], int count) override;
 
+    void setSupportFolders(std::vector<CString> folders);
+    void setFontFolders(const std::vector<CString>& folders);
+    CKhFontStyle* loadFontFile(const wchar_t* name, CString& message);
+
+    FontService m_fonts;
+
+private:
     std::vector<CString> m_folders;
 };
 

@@ -32,7 +32,7 @@ void CStandinHost::SetCurrentDocument(KtApDocument* document) {
 }
 
 void CStandinHost::SetSupportDirectories(std::vector<CString> folders) {
-    m_facets->runtime.m_folders = std::move(folders);
+    m_facets->runtime.setSupportFolders(std::move(folders));
 }
 
 void CStandinHost::SetPathVariable(const wchar_t* name, const wchar_t* value) {

@@ -17,6 +17,7 @@
 
 #include "standin_api.h"
 
+class CKhFontStyle;
 struct StandinFacets;
 
 class STANDIN_API CStandinHost : public CKhSystem {
@@ -39,8 +40,21 @@ public:
     /// The document that currentDocument answers, and whose drawing becomes the working database; null for
     /// none. Not owned: take it away before it goes.
     void SetCurrentDocument(KtApDocument* document);
-    /// Folders in which findFile looks, first to last, behind the document's own folder.
+    /// Folders in which findFile looks, first to last, behind the document's own folder, and in which fonts
+    /// are looked for.
     void SetSupportDirectories(std::vector<CString> folders);
+    /// Folders in which fonts are looked for, earlier ones first, in the place of all others: the system's
+    /// and the user's fonts folder, the fonts that the registry lists, and the support directories. None for
+    /// a host without fonts. Folders below them aren't looked through.
+    void SetFontFolders(std::vector<CString> folders);
+    /// The file that remembers what was read from font files; null or empty for none. At first one in the
+    /// user's local application data.
+    void SetFontCacheFile(const wchar_t* path);
+    /// Makes the font file `name`, which the user asked for, one of the fonts, wherever it is: a path, or a
+    /// name that is looked for in the support directories and among the fonts. Answers its first style, owned
+    /// by the font list; null if there is no such file or it is no font, with `message` the reason to show,
+    /// in the user's language. `message` stays if the file is a font.
+    CKhFontStyle* LoadFontFile(const wchar_t* name, CString& message);
     /// Value of a path variable such as "PrinterStyleSheetDir", which is the folder "Plot Styles" below the
     /// program's until it is set; folders are separated by semicolons.
     void SetPathVariable(const wchar_t* name, const wchar_t* value);

@@ -21,7 +21,8 @@ public:
         // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
-        m_host->SetSupportDirectories({programFolder() + L"support"});
+        const CString folder = ProgramFolder();
+        m_host->SetSupportDirectories({folder + L"fonts", folder + L"support"});
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
@@ -40,7 +41,7 @@ public:
 
 private:
     /// Folder of this program's file, with a backslash at the end.
-    static CString programFolder() {
+    static CString ProgramFolder() {
         wchar_t file[MAX_PATH] = {};
         ::GetModuleFileNameW(nullptr, file, MAX_PATH - 1);
         const CString path = file;

@@ -2,21 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <numbers>
-
-#include "dash_pattern.h"
 
 namespace {
 
-constexpr COLORREF kBackground = RGB(33, 40, 48);
-constexpr COLORREF kSelected = RGB(90, 170, 255);
 constexpr int kPickDistance = 5;    // pixels
 constexpr double kZoomStep = 1.25;  // for one notch of the wheel
-constexpr double kMargin = 0.92;    // of the window that the drawing fills
 constexpr int kPanStep = 48;        // pixels for an arrow key
-constexpr double kPixelsPerMillimetre = 96 / 25.4;
-constexpr double kCapitalShare = 0.72;  // height of capitals in that of a font
 
 double distanceToSegment(CPoint at, CPoint from, CPoint to) {
     const double dx = to.x - from.x, dy = to.y - from.y;
@@ -24,11 +15,6 @@ double distanceToSegment(CPoint at, CPoint from, CPoint to) {
     double along = length > 0 ? ((at.x - from.x) * dx + (at.y - from.y) * dy) / length : 0;
     along = std::clamp(along, 0.0, 1.0);
     return std::hypot(at.x - from.x - along * dx, at.y - from.y - along * dy);
-}
-
-/// Pen width in pixels of a lineweight in hundredths of a millimetre.
-int penWidth(int lineWeight) {
-    return std::max(1, static_cast<int>(std::lround(lineWeight / 100.0 * kPixelsPerMillimetre)));
 }
 
 }  // namespace
@@ -70,13 +56,11 @@ void CDrawingView::SetSelection(std::set<OdDbObjectId> selection) {
 void CDrawingView::ZoomExtents() {
     CRect client;
     GetClientRect(&client);
-    const SceneExtents extents = m_scene.extents();
     m_fitPending = client.IsRectEmpty();
-    if (m_fitPending || extents.isEmpty()) return;
-    m_center = {(extents.low.x + extents.high.x) / 2, (extents.low.y + extents.high.y) / 2};
-    const double width = std::max(extents.high.x - extents.low.x, 1e-9);
-    const double height = std::max(extents.high.y - extents.low.y, 1e-9);
-    m_scale = std::min(client.Width() / width, client.Height() / height) * kMargin;
+    ScenePlace shown = place();
+    shown.Fit(m_scene.extents());
+    m_center = shown.center;
+    m_scale = shown.scale;
     Invalidate();
 }
 
@@ -86,22 +70,14 @@ void CDrawingView::Zoom(double factor) {
     zoomAt(client.CenterPoint(), factor);
 }
 
-CPoint CDrawingView::ToPixel(const OdGePoint2d& point) const {
+ScenePlace CDrawingView::place() const {
     CRect client;
     GetClientRect(&client);
-    const auto pixel = [](double value) {
-        return static_cast<int>(std::lround(std::clamp(value, -1e7, 1e7)));
-    };
-    return CPoint(pixel(client.Width() / 2.0 + (point.x - m_center.x) * m_scale),
-                  pixel(client.Height() / 2.0 - (point.y - m_center.y) * m_scale));
+    return {m_center, m_scale, client.Size()};
 }
 
-OdGePoint2d CDrawingView::FromPixel(CPoint pixel) const {
-    CRect client;
-    GetClientRect(&client);
-    return {m_center.x + (pixel.x - client.Width() / 2.0) / m_scale,
-            m_center.y - (pixel.y - client.Height() / 2.0) / m_scale};
-}
+CPoint CDrawingView::ToPixel(const OdGePoint2d& point) const { return place().ToPixel(point); }
+OdGePoint2d CDrawingView::FromPixel(CPoint pixel) const { return place().FromPixel(pixel); }
 
 void CDrawingView::OnPaint() {
     CPaintDC dc(this);
@@ -113,8 +89,8 @@ void CDrawingView::OnPaint() {
     memory.CreateCompatibleDC(&dc);
     bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
     CBitmap* former = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(&client, kBackground);
-    paint(memory);
+    memory.FillSolidRect(&client, kDrawingPaper);
+    PaintScene(memory, m_scene, place(), m_selection);
     dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
     memory.SelectObject(former);
 }
@@ -195,71 +171,6 @@ void CDrawingView::panBy(CSize pixels) {
     m_center.x -= pixels.cx / m_scale;
     m_center.y += pixels.cy / m_scale;
     Invalidate();
-}
-
-COLORREF CDrawingView::colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const {
-    if (m_selection.contains(entity)) return kSelected;
-    return style.color.color();
-}
-
-void CDrawingView::paint(CDC& dc) {
-    for (const ScenePath& path : m_scene.paths) drawPath(dc, path);
-    for (const SceneText& text : m_scene.texts) drawText(dc, text);
-}
-
-void CDrawingView::drawPath(CDC& dc, const ScenePath& path) {
-    const COLORREF color = colorOf(path.style, path.entity);
-    std::vector<CPoint> pixels;
-    pixels.reserve(path.points.size());
-    for (const OdGePoint2d& point : path.points) pixels.push_back(ToPixel(point));
-    if (path.filled) {
-        CBrush brush(color);
-        CPen pen(PS_SOLID, 1, color);
-        CBrush* formerBrush = dc.SelectObject(&brush);
-        CPen* formerPen = dc.SelectObject(&pen);
-        dc.Polygon(pixels.data(), static_cast<int>(pixels.size()));
-        dc.SelectObject(formerPen);
-        dc.SelectObject(formerBrush);
-        return;
-    }
-    int width = penWidth(path.style.lineWeight);
-    if (m_selection.contains(path.entity)) ++width;
-    LOGBRUSH brush = {BS_SOLID, color, 0};
-    CPen pen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_FLAT | PS_JOIN_ROUND, width, &brush);
-    CPen* former = dc.SelectObject(&pen);
-    DrawDashedPath(dc, pixels, path.style.dashes, m_scale);
-    dc.SelectObject(former);
-}
-
-void CDrawingView::drawText(CDC& dc, const SceneText& text) {
-    const int height = static_cast<int>(std::lround(text.height * m_scale / kCapitalShare));
-    if (height < 3) return;  // too small to read
-    LOGFONT look = {};
-    look.lfHeight = -std::min(height, 4000);
-    look.lfEscapement = look.lfOrientation =
-        static_cast<LONG>(std::lround(text.rotation * 1800 / std::numbers::pi));
-    look.lfCharSet = DEFAULT_CHARSET;
-    look.lfQuality = ANTIALIASED_QUALITY;
-    wcscpy(look.lfFaceName, L"Tahoma");
-    CFont font;
-    font.CreateFontIndirect(&look);
-    CFont* former = dc.SelectObject(&font);
-    constexpr UINT kHorizontal[] = {TA_LEFT, TA_CENTER, TA_RIGHT};
-    const CPoint at = ToPixel(text.position);
-    TEXTMETRIC metrics;
-    dc.GetTextMetrics(&metrics);
-    // The alignment of GDI is by base line; the other rows are found from the metrics.
-    double rise = 0;
-    if (text.vertical == 2) rise = -text.height * m_scale / 2;
-    if (text.vertical == 3) rise = -text.height * m_scale;
-    const double down = -rise;
-    const int x = at.x + static_cast<int>(std::lround(down * std::sin(text.rotation)));
-    const int y = at.y + static_cast<int>(std::lround(down * std::cos(text.rotation)));
-    dc.SetTextAlign(kHorizontal[std::clamp(text.horizontal, 0, 2)] | TA_BASELINE);
-    dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(colorOf(text.style, text.entity));
-    dc.TextOut(x, y, text.text, text.text.length());
-    dc.SelectObject(former);
 }
 
 OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {

@@ -6,7 +6,7 @@
 
 #include <afxwin.h>
 
-#include "scene.h"
+#include "scene_painter.h"
 
 /// Posted to the parent when the selection changed, and when the pointer moved (its place is pointer()).
 constexpr UINT WM_DRAFTER_SELECTION = WM_APP + 1;
@@ -47,10 +47,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void paint(CDC& dc);
-    void drawPath(CDC& dc, const ScenePath& path);
-    void drawText(CDC& dc, const SceneText& text);
-    COLORREF colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const;
+    ScenePlace place() const;
     /// The entity whose line is nearest to a pixel; null when none is near.
     OdDbObjectId entityAt(CPoint pixel) const;
     void zoomAt(CPoint pixel, double factor);

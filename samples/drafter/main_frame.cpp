@@ -5,8 +5,10 @@
 #include <ktut.h>
 #include <standin_host.h>
 
+#include "dimension_style_dialog.h"
 #include "properties_dialog.h"
 #include "resource.h"
+#include "text_style_dialog.h"
 
 namespace {
 
@@ -41,6 +43,8 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
     ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
+    ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CMainFrame::OnDimensionStyle)
+    ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
 END_MESSAGE_MAP()
@@ -198,10 +202,24 @@ void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
 void CMainFrame::OnProperties() {
     const std::vector<OdDbObjectId> objects(m_view.selection().begin(), m_view.selection().end());
     CPropertiesDialog dialog(*m_document->database(), objects, this);
-    if (dialog.DoModal() == IDOK) {
-        showDrawing(true);
-        OnSelection(0, 0);
-    }
+    runDialog(dialog);
+}
+
+void CMainFrame::OnDimensionStyle() {
+    CDimensionStyleDialog dialog(*m_document->database(), this);
+    runDialog(dialog);
+}
+
+void CMainFrame::OnTextStyle() {
+    CTextStyleDialog dialog(*m_document->database(), this);
+    runDialog(dialog);
+}
+
+void CMainFrame::runDialog(CDialog& dialog) {
+    // A cancelled dialog may have changed the drawing as well: the linetype manager behind a picker does.
+    dialog.DoModal();
+    showDrawing(true);
+    OnSelection(0, 0);
     m_view.SetFocus();
 }
 

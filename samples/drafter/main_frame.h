@@ -37,12 +37,16 @@ protected:
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnProperties();
+    afx_msg void OnDimensionStyle();
+    afx_msg void OnTextStyle();
     afx_msg void OnAbout();
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
 private:
     void showDrawing(bool keepPlace);
+    /// Shows a dialog that edits the drawing, and the drawing as it is afterwards.
+    void runDialog(CDialog& dialog);
     void showTitle();
     bool saveTo(const CString& path);
     /// Asks whether changes are to be saved; false if the user thought better of it.

@@ -1,37 +1,14 @@
-// Format > Properties: colour, layer, hyperlink, elevation, thickness and rotation of the selected objects,
-// or of the current settings, and the list of layers.
+// Format > Properties: colour, linetype, lineweight, plot style, linetype scale, layer, hyperlink, elevation,
+// thickness and rotation of the selected objects, or of the current settings, and the list of layers.
 //
-// A field that the user leaves alone is not written, so objects that differ in it keep their own values. An
-// invalid field turns red while it is typed in; OK refuses, says why in words, and puts the focus there.
+// A field or picker that the user leaves alone is not written, so objects that differ in it keep their own
+// values.
 #pragma once
 
-#include <vector>
+#include "fields_dialog.h"
+#include "property_pickers.h"
 
-#include <ktui/ktui.h>
-
-#include "property_values.h"
-
-/// An edit control that tells its dialog when its text becomes valid or invalid.
-template <class Edit>
-class CReportingEdit : public Edit {
-protected:
-    KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum) override {
-        if (notification != kKbUiNotifyControlValid && notification != kKbUiNotifyControlInvalid)
-            return Edit::DoKbUiMessage(notification, id, datum);
-        // The dialog offers the message to this very control first, which leaves it to the dialog then.
-        if (m_reporting) return kKbUiReplyNone;
-        m_reporting = true;
-        const KBUI_REPLY reply =
-            KbUiNotify(this->GetParent(), id, notification, notification == kKbUiNotifyControlValid);
-        m_reporting = false;
-        return reply;
-    }
-
-private:
-    bool m_reporting = false;
-};
-
-class CPropertiesDialog : public CKtUiDialog {
+class CPropertiesDialog : public CFieldsDialog {
     DECLARE_DYNAMIC(CPropertiesDialog)
 
 public:
@@ -40,48 +17,27 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
-    void OnOK() override;
     void DoDataExchange(CDataExchange* exchange) override;
-    KBUI_REPLY OnNotifyControlValid(unsigned id, int valid) override;
+    void Apply() override;
 
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
-    afx_msg void OnTrueColor();
-    afx_msg void OnIndexColor();
+    afx_msg void OnTrueColor() { m_pickers.OnTrueColor(); }
+    afx_msg void OnIndexColor() { m_pickers.OnIndexColor(); }
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// One typed field: its control, the text it began with, and the words for a bad value.
-    struct Field {
-        unsigned id;
-        CKtUiEdit* edit;
-        UINT badText;
-        const wchar_t* example;
-        CString before;
-    };
-
+    void showTitle();
     void fillFields();
     void fillLayers();
     void registerResizing();
-    Field& fieldOf(unsigned id);
-    CString textOf(const Field& field) const;
-    bool isEdited(const Field& field) const { return textOf(field) != field.before; }
-    void showProblem(const Field& field);
-    /// The first edited field whose text is not valid; null if all are.
-    Field* firstInvalid();
-    void showColor(const OdCmColor& color);
-    PropertyValues editedValues();
 
     OdDbDatabase& m_drawing;
     std::vector<OdDbObjectId> m_objects;
-    CKtUiTrueColorComboBox m_trueColor;
-    CKtUiColorComboBox m_indexColor;
+    CPropertyPickers m_pickers;
+    CReportingEdit<CKtUiNumericEdit> m_linetypeScale;
     CReportingEdit<CKtUiSymbolEdit> m_layer;
     CReportingEdit<CKtUiStringEdit> m_hyperlink;
     CReportingEdit<CKtUiNumericEdit> m_elevation;
     CReportingEdit<CKtUiNumericEdit> m_thickness;
     CReportingEdit<CKtUiAngleEdit> m_rotation;
     CKbUiListCtrl m_layers;
-    std::vector<Field> m_fields;
-    bool m_colorPicked = false;
-    CBrush m_invalidBrush;
 };

@@ -34,9 +34,16 @@ bool withRotation(OdDbEntity& entity, Action action) {
     return true;
 }
 
+/// Whether objects have plot styles by name; in a colour-dependent drawing they follow the colour.
+bool hasPlotStyles(const OdDbDatabase& drawing) { return drawing.getPSTYLEMODE() == 0; }
+
 PropertyValues readCurrent(OdDbDatabase& drawing) {
     PropertyValues values;
     values.color = drawing.cecolor();
+    values.linetype = drawing.celtype();
+    values.linetypeScale = drawing.getCELTSCALE();
+    values.lineWeight = drawing.celweight();
+    if (hasPlotStyles(drawing)) values.plotStyle = drawing.currentPlotStyleName();
     if (const auto layer = drawing.clayer().open<OdDbLayerTableRecord>()) values.layer = layer->getName();
     values.elevation = drawing.getELEVATION();
     values.thickness = drawing.getTHICKNESS();
@@ -55,8 +62,20 @@ OdDbObjectId layerNamed(OdDbDatabase& drawing, const OdString& name) {
     return id;
 }
 
+/// Makes the plot style known to the drawing; the two that stand for another's need no entry.
+void needPlotStyle(OdDbDatabase& drawing, const OdString& name) {
+    OdDbDictionaryPtr names;
+    if (name.iCompare(L"ByLayer") == 0 || name.iCompare(L"ByBlock") == 0) return;
+    if (drawing.getPlotStyleNameDictionary(names, OdDb::kForWrite) == kOdOk && !names->has(name))
+        names->setAt(name, new OdDbPlaceHolder);
+}
+
 void writeCurrent(OdDbDatabase& drawing, const PropertyValues& values) {
     if (values.color) drawing.setCecolor(*values.color);
+    if (values.linetype) drawing.setCeltype(*values.linetype);
+    if (values.linetypeScale) drawing.setCELTSCALE(*values.linetypeScale);
+    if (values.lineWeight) drawing.setCelweight(*values.lineWeight);
+    if (values.plotStyle) drawing.setCurrentPlotStyleName(*values.plotStyle);
     if (values.layer) drawing.setClayer(layerNamed(drawing, *values.layer));
     if (values.elevation) drawing.setELEVATION(*values.elevation);
     if (values.thickness) drawing.setTHICKNESS(*values.thickness);
@@ -67,13 +86,19 @@ void writeCurrent(OdDbDatabase& drawing, const PropertyValues& values) {
 PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects) {
     if (objects.empty()) return readCurrent(drawing);
     Common<OdCmColor> color;
-    Common<OdString> layer, hyperlink;
-    Common<double> elevation, thickness, rotation;
+    Common<OdDbObjectId> linetype;
+    Common<OdDb::LineWeight> lineWeight;
+    Common<OdString> plotStyle, layer, hyperlink;
+    Common<double> linetypeScale, elevation, thickness, rotation;
     PropertyValues values;
     for (const OdDbObjectId& id : objects) {
         const auto entity = id.open<OdDbEntity>();
         if (!entity) continue;
         color.add(entity->color());
+        linetype.add(entity->linetypeId());
+        linetypeScale.add(entity->linetypeScale());
+        lineWeight.add(entity->lineWeight());
+        plotStyle.add(entity->plotStyleName());
         layer.add(entity->layer());
         hyperlink.add(entity->hyperlink());
         elevation.add(entity->elevation());
@@ -82,6 +107,10 @@ PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjec
             values.hasRotation = true;
     }
     values.color = color.value();
+    values.linetype = linetype.value();
+    values.linetypeScale = linetypeScale.value();
+    values.lineWeight = lineWeight.value();
+    if (hasPlotStyles(drawing)) values.plotStyle = plotStyle.value();
     values.layer = layer.value();
     values.hyperlink = hyperlink.value();
     values.elevation = elevation.value();
@@ -92,6 +121,7 @@ PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjec
 
 void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects,
                      const PropertyValues& values) {
+    if (values.plotStyle) needPlotStyle(drawing, *values.plotStyle);
     if (objects.empty()) {
         writeCurrent(drawing, values);
         return;
@@ -101,6 +131,10 @@ void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& obj
         const auto entity = id.open<OdDbEntity>(OdDb::kForWrite);
         if (!entity) continue;
         if (values.color) entity->setColor(*values.color);
+        if (values.linetype) entity->setLinetype(*values.linetype);
+        if (values.linetypeScale) entity->setLinetypeScale(*values.linetypeScale);
+        if (values.lineWeight) entity->setLineWeight(*values.lineWeight);
+        if (values.plotStyle) entity->setPlotStyleName(*values.plotStyle);
         if (values.layer) entity->setLayer(layer);
         if (values.hyperlink) entity->setHyperlink(*values.hyperlink);
         if (values.elevation) entity->setElevation(*values.elevation);

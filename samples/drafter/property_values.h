@@ -9,6 +9,10 @@
 
 struct PropertyValues {
     std::optional<OdCmColor> color;
+    std::optional<OdDbObjectId> linetype;
+    std::optional<double> linetypeScale;
+    std::optional<OdDb::LineWeight> lineWeight;
+    std::optional<OdString> plotStyle;  ///< ByLayer, ByBlock or a name; none in a colour-dependent drawing
     std::optional<OdString> layer;
     std::optional<OdString> hyperlink;
     std::optional<double> elevation;
@@ -21,7 +25,7 @@ struct PropertyValues {
 /// The values that `objects` share; those of the current settings without objects.
 PropertyValues ReadProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects);
 
-/// Writes the values that are there to `objects`, or to the current settings without objects. A layer that
-/// the drawing lacks is made.
+/// Writes the values that are there to `objects`, or to the current settings without objects. A layer or
+/// plot style that the drawing lacks is made.
 void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects,
                      const PropertyValues& values);

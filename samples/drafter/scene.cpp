@@ -18,9 +18,12 @@ SceneExtents Scene::extents() const {
         for (const OdGePoint2d& point : path.points) result.add(point);
     for (const SceneText& text : texts) {
         const double width = text.text.length() * text.height * text.widthFactor;
-        result.add(text.position);
-        result.add({text.position.x + width * std::cos(text.rotation),
-                    text.position.y + width * std::sin(text.rotation)});
+        const double left = -width * text.horizontal / 2;
+        const double low = text.vertical == 2 ? -text.height / 2 : text.vertical == 3 ? -text.height : 0;
+        const double c = std::cos(text.rotation), s = std::sin(text.rotation);
+        for (const double u : {left, left + width})
+            for (const double v : {low, low + text.height})
+                result.add({text.position.x + u * c - v * s, text.position.y + u * s + v * c});
     }
     return result;
 }

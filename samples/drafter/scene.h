@@ -22,6 +22,15 @@ struct ScenePath {
     OdDbObjectId entity;  ///< the entity of the space that it belongs to
 };
 
+/// The font of a text, from its style.
+struct SceneFont {
+    OdString family;  ///< of a TrueType font, where the style names it
+    OdString file;
+    bool bold = false;
+    bool italic = false;
+    double oblique = 0;  ///< slant in radians, to the right above 0
+};
+
 /// One line of text.
 struct SceneText {
     OdString text;
@@ -31,8 +40,9 @@ struct SceneText {
     double widthFactor = 1;
     int horizontal = 0;  ///< 0 left, 1 centre, 2 right
     int vertical = 0;    ///< 0 base line, 1 bottom, 2 middle, 3 top
+    SceneFont font;
     DisplayStyle style;
-    OdDbObjectId entity;
+    OdDbObjectId entity;  ///< the entity of the space that it belongs to
 };
 
 /// A rectangle in drawing units; empty until something is added.

@@ -53,6 +53,19 @@ OdString readableText(const OdString& text) {
     return result;
 }
 
+/// The font of a style; `oblique` is the text's own slant, which counts instead of the style's.
+SceneFont fontOf(const OdDbObjectId& style, double oblique) {
+    SceneFont font;
+    font.oblique = oblique;
+    const auto record = style.open<OdDbTextStyleTableRecord>();
+    if (!record) return font;
+    font.family = record->typeFace();
+    font.file = record->fileName();
+    font.bold = record->isBold();
+    font.italic = record->isItalic();
+    return font;
+}
+
 struct Corner {
     OdGePoint2d point;
     double bulge;
@@ -102,7 +115,13 @@ double PlaneTransform::rotation() const { return std::atan2(yx, xx); }
 SceneBuilder::SceneBuilder(OdDbDatabase& drawing)
     : m_drawing(drawing), m_linetypeScale(drawing.getLTSCALE()) {}
 
-void SceneBuilder::addBlock(const OdDbObjectId& block) { addEntities(block, Context()); }
+void SceneBuilder::addBlock(const OdDbObjectId& block, const PlaneTransform& transform,
+                            const DisplayStyle* byBlock) {
+    Context context;
+    context.transform = transform;
+    context.byBlock = byBlock;
+    addEntities(block, context);
+}
 
 void SceneBuilder::addEntities(const OdDbObjectId& block, const Context& context) {
     if (context.depth > kMaximumDepth) return;
@@ -238,6 +257,7 @@ void SceneBuilder::addText(const OdDbText& text, const Context& context, const D
     item.height = text.height() * context.transform.scale();
     item.rotation = text.rotation() + context.transform.rotation();
     item.widthFactor = text.widthFactor();
+    item.font = fontOf(text.textStyle(), text.oblique());
     item.style = style;
     item.entity = context.entity;
     m_scene.texts.push_back(std::move(item));
@@ -257,6 +277,8 @@ void SceneBuilder::addMText(const OdDbMText& text, const Context& context, const
     const double block = height + spacing * static_cast<double>(lines.size() - 1);
     // Distance from the attachment point to the top line's base line, by the row of the attachment.
     double down = height - block * (attachment / 3) / 2;
+    const auto record = text.textStyle().open<OdDbTextStyleTableRecord>();
+    const SceneFont font = fontOf(text.textStyle(), record ? record->obliquingAngle() : 0);
     const double rotation = text.rotation();
     for (const OdString& line : lines) {
         const OdGePoint3d at = text.location();
@@ -267,6 +289,7 @@ void SceneBuilder::addMText(const OdDbMText& text, const Context& context, const
             context.transform.apply(at.x + std::sin(rotation) * down, at.y - std::cos(rotation) * down);
         item.height = height * context.transform.scale();
         item.rotation = rotation + context.transform.rotation();
+        item.font = font;
         item.style = style;
         item.entity = context.entity;
         m_scene.texts.push_back(std::move(item));

@@ -20,8 +20,10 @@ class SceneBuilder {
 public:
     explicit SceneBuilder(OdDbDatabase& drawing);
 
-    /// Adds the entities of a block in place.
-    void addBlock(const OdDbObjectId& block);
+    /// Adds the entities of a block in place, or where `transform` puts them; what is by block in them looks
+    /// like `byBlock`, null for the usual look.
+    void addBlock(const OdDbObjectId& block, const PlaneTransform& transform = {},
+                  const DisplayStyle* byBlock = nullptr);
     Scene take() { return std::move(m_scene); }
 
 private:

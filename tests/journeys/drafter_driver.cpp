@@ -46,13 +46,6 @@ void sendMouse(POINT screen, DWORD flags) {
     ::SendInput(1, &input, sizeof(input));
 }
 
-HWND focusOf(HWND window) {
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof(info);
-    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
-    return info.hwndFocus;
-}
-
 /// Waits until the window's thread has taken its input so far.
 void settle(HWND window) {
     ::Sleep(2 * kPoll);
@@ -63,6 +56,13 @@ void settle(HWND window) {
 }  // namespace
 
 namespace journey {
+
+HWND focusOf(HWND window) {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
+    return info.hwndFocus;
+}
 
 bool waitUntil(const std::function<bool()>& done, unsigned milliseconds) {
     const ULONGLONG deadline = ::GetTickCount64() + milliseconds;
@@ -131,6 +131,20 @@ HWND Drafter::waitForDialog(const std::wstring& title) {
             wchar_t name[16] = {};
             ::GetClassNameW(window, name, 16);
             return std::wstring(name) == L"#32770" && textOf(window).rfind(title, 0) == 0;
+        });
+        return found != nullptr;
+    });
+    if (found != nullptr) settle(found);
+    return found;
+}
+
+HWND Drafter::waitForDialogOf(HWND owner) {
+    HWND found = nullptr;
+    waitUntil([&] {
+        found = findWindow([&](HWND window) {
+            wchar_t name[16] = {};
+            ::GetClassNameW(window, name, 16);
+            return std::wstring(name) == L"#32770" && ::GetWindow(window, GW_OWNER) == owner;
         });
         return found != nullptr;
     });
@@ -231,6 +245,29 @@ void Drafter::pick(HWND combo, int index) {
     key(VK_RETURN);
 }
 
+void Drafter::pickByKeys(HWND combo, const std::wstring& text) {
+    key(VK_F4);
+    waitUntil([=] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }, 2000);
+    key(VK_HOME);
+    const int index = entryOf(combo, text);
+    for (int i = 0; i < index; ++i) key(VK_DOWN);
+    key(VK_RETURN);
+}
+
+void Drafter::pickByMouse(HWND combo, const std::wstring& text) {
+    drop(combo);
+    HWND list = findWindow([](HWND window) {
+        wchar_t name[16] = {};
+        ::GetClassNameW(window, name, 16);
+        return std::wstring(name) == L"ComboLBox";
+    });
+    const auto index = static_cast<WPARAM>(entryOf(combo, text));
+    ::SendMessageW(list, LB_SETTOPINDEX, index, 0);
+    RECT row = {};
+    ::SendMessageW(list, LB_GETITEMRECT, index, reinterpret_cast<LPARAM>(&row));
+    click(list, {(row.left + row.right) / 2, (row.top + row.bottom) / 2});
+}
+
 void Drafter::pickLast(HWND combo) {
     drop(combo);
     // Without a current entry the first key of any kind goes to the first one.
@@ -243,6 +280,15 @@ void Drafter::place(HWND window, RECT screen) {
     ::SetWindowPos(window, nullptr, screen.left, screen.top, screen.right - screen.left,
                    screen.bottom - screen.top, SWP_NOZORDER);
     settle(window);
+}
+
+void Drafter::openDrawing(const std::wstring& path) {
+    activate(m_frame);
+    key('O', true);
+    HWND dialog = waitForDialog(L"Open");
+    type(path);
+    key(VK_RETURN);
+    waitUntilGone(dialog);
 }
 
 HWND Drafter::openProperties() {
@@ -275,6 +321,11 @@ std::wstring currentEntry(HWND combo) {
 
 int entryCount(HWND combo) { return static_cast<int>(::SendMessageW(combo, CB_GETCOUNT, 0, 0)); }
 
+int entryOf(HWND combo, const std::wstring& text) {
+    return static_cast<int>(::SendMessageW(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                           reinterpret_cast<LPARAM>(text.c_str())));
+}
+
 void picture(const std::string& name) {
     const char* folder = std::getenv("KTUI_PICTURES");
     if (folder == nullptr) return;
@@ -286,10 +337,14 @@ void picture(const std::string& name) {
 
 std::wstring drawingsFolder() { return KTUI_DRAWINGS; }
 
-std::wstring scratchCopy(const std::wstring& drawing) {
+std::wstring scratchPath(const std::wstring& name) {
     wchar_t folder[MAX_PATH] = {};
     ::GetTempPathW(MAX_PATH, folder);
-    const std::wstring copy = folder + drawing;
+    return folder + name;
+}
+
+std::wstring scratchCopy(const std::wstring& drawing) {
+    const std::wstring copy = scratchPath(drawing);
     ::CopyFileW((drawingsFolder() + drawing).c_str(), copy.c_str(), FALSE);
     return copy;
 }

@@ -25,6 +25,8 @@ public:
 
     /// The visible dialog whose title begins with `title`, as soon as there is one.
     HWND waitForDialog(const std::wstring& title);
+    /// The visible dialog that belongs to `owner`, whatever its title, as soon as there is one.
+    HWND waitForDialogOf(HWND owner);
     /// Whether `window` has gone, as soon as it has.
     bool waitUntilGone(HWND window);
 
@@ -45,10 +47,16 @@ public:
     void pickLast(HWND combo);
     /// Opens the drop-down, goes to entry `index` and takes it.
     void pick(HWND combo, int index);
+    /// The same by keys alone, for the control that has the focus.
+    void pickByKeys(HWND combo, const std::wstring& text);
+    /// Opens the drop-down and clicks the entry with this text.
+    void pickByMouse(HWND combo, const std::wstring& text);
     /// Moves a top-level window as a user would, by its system menu and keys being too slow: to screen
     /// pixels.
     void place(HWND window, RECT screen);
 
+    /// Opens another drawing by File > Open.
+    void openDrawing(const std::wstring& path);
     /// Opens Format > Properties by its key and answers the dialog.
     HWND openProperties();
 
@@ -69,6 +77,10 @@ RECT rectOf(HWND window);
 /// The text of the current entry of a combo box of another process.
 std::wstring currentEntry(HWND combo);
 int entryCount(HWND combo);
+/// Index of the entry with exactly this text, or -1.
+int entryOf(HWND combo, const std::wstring& text);
+/// The control that has the focus in the window's thread.
+HWND focusOf(HWND window);
 
 /// Asks the surrounding script for a picture of the screen under `name` and waits for it. Without a script
 /// that takes pictures (the environment variable KTUI_PICTURES names its folder) nothing happens.
@@ -77,6 +89,7 @@ void picture(const std::string& name);
 /// The folder of the sample's drawings, and a scratch copy of one of them.
 std::wstring drawingsFolder();
 std::wstring scratchCopy(const std::wstring& drawing);
+std::wstring scratchPath(const std::wstring& name);
 
 /// Settings of the sample's dialogs in the registry: forgets them, and reads one number (`found` tells
 /// whether it is there).

@@ -1,51 +1,16 @@
 // A draughtsman edits objects through Format > Properties, start to end.
 #include <windows.h>
 #include <commctrl.h>
-#include <gtest/gtest.h>
-#include <od_db.h>
 
-#include "../../samples/drafter/resource.h"
-#include "drafter_driver.h"
+#include "journey_fixture.h"
 
 using namespace journey;
 
 namespace {
 
-class Properties : public ::testing::Test {
+class Properties : public Journey {
 protected:
-    Properties() {
-        forgetSettings();
-        path = scratchCopy(L"bracket.dxf");
-        drafter = std::make_unique<Drafter>(path);
-    }
-    /// Opens the dialog on everything in the drawing.
-    HWND openOnAll() {
-        drafter->activate(drafter->frame());
-        drafter->click(drafter->view(), {4, 4});
-        drafter->key('A', true);
-        return drafter->openProperties();
-    }
-    void ok(HWND dialog) { drafter->click(item(dialog, IDOK)); }
-    void cancel(HWND dialog) {
-        drafter->key(VK_ESCAPE);
-        EXPECT_TRUE(drafter->waitUntilGone(dialog));
-    }
-    /// Saves the drawing and reads it back.
-    OdDbDatabasePtr saved() {
-        drafter->activate(drafter->frame());
-        drafter->key('S', true);
-        waitUntil([this] { return textOf(drafter->frame()).find(L'*') == std::wstring::npos; });
-        OdDbDatabasePtr drawing(new OdDbDatabase);
-        EXPECT_EQ(drawing->readDxf(path.c_str()), kOdOk);
-        return drawing;
-    }
-    /// The first entity of model space.
-    static OdDbEntity* firstOf(OdDbDatabase& drawing) {
-        return drawing.modelSpaceId().open<OdDbBlockTableRecord>()->entities().front();
-    }
-
-    std::wstring path;
-    std::unique_ptr<Drafter> drafter;
+    Properties() : Journey(L"bracket.dxf") {}
 };
 
 TEST_F(Properties, TheFrameIsTitledAfterTheDrawing) {
@@ -63,7 +28,6 @@ TEST_F(Properties, AGoodValueBecomesCanonicalWhenTheFieldIsLeftAndIsStored) {
     EXPECT_NE(textOf(thickness), L"2.5000000");
     EXPECT_EQ(textOf(item(dialog, IDC_MESSAGE)), L"");
     ok(dialog);
-    EXPECT_TRUE(drafter->waitUntilGone(dialog));
     EXPECT_NE(textOf(drafter->frame()).find(L'*'), std::wstring::npos) << "the drawing counts as changed";
     EXPECT_DOUBLE_EQ(firstOf(*saved())->thickness(), 2.5);
 }
@@ -77,7 +41,7 @@ TEST_F(Properties, ABadValueIsMarkedOkRefusesAndTheFocusGoesThere) {
     drafter->key(VK_TAB);
     EXPECT_EQ(textOf(thickness), L"-3") << "bad text stays as typed";
     picture("journey-invalid-thickness");
-    ok(dialog);
+    drafter->click(item(dialog, IDOK));
     EXPECT_TRUE(::IsWindowVisible(dialog)) << "OK refuses";
     GUITHREADINFO info = {};
     info.cbSize = sizeof(info);
@@ -87,7 +51,6 @@ TEST_F(Properties, ABadValueIsMarkedOkRefusesAndTheFocusGoesThere) {
     EXPECT_EQ(textOf(thickness), L"4") << "the text was selected";
     EXPECT_EQ(textOf(item(dialog, IDC_MESSAGE)), L"");
     ok(dialog);
-    EXPECT_TRUE(drafter->waitUntilGone(dialog));
     EXPECT_DOUBLE_EQ(firstOf(*saved())->thickness(), 4);
 }
 
@@ -95,16 +58,15 @@ TEST_F(Properties, LettersInANumberAndAnIllegalLayerNameAreRefused) {
     HWND dialog = openOnAll();
     ASSERT_NE(dialog, nullptr);
     drafter->replaceText(item(dialog, IDC_ELEVATION), L"abc");
-    ok(dialog);
+    drafter->click(item(dialog, IDOK));
     EXPECT_TRUE(::IsWindowVisible(dialog));
     drafter->replaceText(item(dialog, IDC_ELEVATION), L"1");
     drafter->replaceText(item(dialog, IDC_LAYER), L"a<b");
-    ok(dialog);
+    drafter->click(item(dialog, IDOK));
     EXPECT_TRUE(::IsWindowVisible(dialog));
     EXPECT_NE(textOf(item(dialog, IDC_MESSAGE)), L"");
     drafter->replaceText(item(dialog, IDC_LAYER), L"Journey");
     ok(dialog);
-    EXPECT_TRUE(drafter->waitUntilGone(dialog));
     EXPECT_EQ(firstOf(*saved())->layer(), L"Journey");
 }
 
@@ -127,7 +89,6 @@ TEST_F(Properties, AStandardColourIsPickedByMouseAndKeysAndApplied) {
     EXPECT_EQ(currentEntry(color), L"red");
     EXPECT_EQ(currentEntry(item(dialog, IDC_INDEX_COLOR)), L"red") << "both pickers show the choice";
     ok(dialog);
-    EXPECT_TRUE(drafter->waitUntilGone(dialog));
     EXPECT_EQ(firstOf(*saved())->colorIndex(), 1);
 }
 
@@ -204,7 +165,6 @@ TEST_F(Properties, TheDialogComesBackWhereItWasLeft) {
     EXPECT_EQ(stretched.bottom - stretched.top, list.bottom - list.top + 80);
     picture("journey-resized");
     ok(dialog);
-    EXPECT_TRUE(drafter->waitUntilGone(dialog));
     dialog = drafter->openProperties();
     ASSERT_NE(dialog, nullptr);
     const RECT again = rectOf(dialog);

@@ -1,8 +1,9 @@
 // A scripted tour through the drafter: opens a drawing, edits an object's properties with real keys and
-// clicks, and prints what was typed, what the control made of it and what was stored. Pictures are taken by
-// the script that starts it.
+// clicks, and prints what was typed, what the control made of it and what was stored; then shows every picker
+// and dialog. Pictures are taken by the script that starts it.
 //
-//     drafter_tour.exe [drawing.dxf]
+//     drafter_tour.exe [drawing.dxf]    the whole tour
+//     drafter_tour.exe --dialogs        the pickers and dialogs only, in whatever language
 #include <cstdio>
 
 #include <windows.h>
@@ -11,21 +12,11 @@
 
 #include "../../samples/drafter/resource.h"
 #include "drafter_driver.h"
+#include "tour_steps.h"
 
 using namespace journey;
 
 namespace {
-
-int step = 0;
-
-/// Announces a step and takes its picture once `action` has run.
-void tell(const char* name, const std::wstring& text) {
-    std::printf("%2d. %s\n", ++step, odUtf8(text).c_str());
-    std::fflush(stdout);
-    char file[64];
-    std::snprintf(file, sizeof(file), "%02d-%s", step, name);
-    picture(file);
-}
 
 /// Types into a field and leaves it; tells what became of the text.
 void enter(Drafter& drafter, HWND dialog, int id, const wchar_t* label, const char* name,
@@ -109,12 +100,14 @@ int run(const std::wstring& source) {
     drafter.waitUntilGone(dialog);
     const bool stored =
         entity->layer() == L"Tour" && entity->thickness() == 2.5 && entity->colorIndex() == 40;
-    std::printf("%s\n", stored ? "The tour is complete." : "error: what was stored is not what was entered");
+    if (!stored) std::printf("error: what was stored is not what was entered\n");
     return stored ? 0 : 1;
 }
 
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
-    return run(count > 1 ? arguments[1] : drawingsFolder() + L"bracket.dxf");
+    const std::wstring what = count > 1 ? arguments[1] : drawingsFolder() + L"bracket.dxf";
+    const int result = what == L"--dialogs" ? 0 : run(what);
+    return result != 0 ? result : ShowDialogs();
 }

@@ -42,7 +42,9 @@ class Drawing:
         self.layer = "0"
         for name, words in (("ByBlock", ""), ("ByLayer", ""), ("Continuous", "Solid line")):
             self.linetype(name, words)
-        self.dim = {"text": 2.5, "arrow": 2.5, "gap": 1.0, "beyond": 1.25, "format": lambda v: f"{v:g}"}
+        self.dim = {"text": 2.5, "arrow": 2.5, "gap": 1.0, "beyond": 1.25, "format": lambda v: f"{v:g}", "style": "Standard",
+                    "heads": ("", "")}
+        self.dim_styles = []
 
     def handle(self):
         self.next_handle += 1
@@ -56,8 +58,36 @@ class Drawing:
     def add_layer(self, name, color=7, linetype="Continuous", weight=-3, true_color=None, plot_style="Normal", flags=0):
         self.layers.append((name, self.handle(), color, linetype, weight, true_color, plot_style, flags))
 
-    def style(self, name, font, height=0.0, width=1.0):
-        self.styles.append((name, self.handle(), font, height, width))
+    def style(self, name, font, height=0.0, width=1.0, big="", family="", slant=0.0):
+        """`big` is the font for Asian characters, `family` the name of a TrueType font's family."""
+        self.styles.append((name, self.handle(), font, height, width, big, family, slant))
+
+    def dim_style(self, name, first, second, leader=""):
+        """A dimension style with arrowheads, named as their blocks are, in which the dimensions to come are drawn."""
+        for head in {first, second, leader} - {""}:
+            self._arrow_block(head)
+        self.dim.update(style=name, heads=(first, second))
+        self.dim_styles.append((name, self.handle(), first, second, leader))
+
+    def _arrow_block(self, name):
+        if any(b.name == name for b in self.blocks):
+            return
+        before, self.open = self.open, self.block(name)
+        self._arrow_shape(0, 0, 0, name, 1.0)
+        self.line(-1, 0, 0 if name == "_ArchTick" else -0.5, 0, layer="0", color=0)
+        self.open = before
+
+    def _arrow_shape(self, x, y, direction, name, size):
+        c, s = math.cos(direction) * size, math.sin(direction) * size
+        at = lambda u, v: (x + u * c - v * s, y + u * s + v * c)
+        if name == "_ArchTick":
+            self.solid([at(-0.55, -0.45), at(-0.45, -0.55), at(0.55, 0.45), at(0.45, 0.55)], layer="0", color=0)
+        elif name == "_Dot":
+            ring = [at(0.5 * math.cos(math.pi * i / 8), 0.5 * math.sin(math.pi * i / 8)) for i in range(17)]
+            for i in range(0, 16, 2):
+                self.solid([at(0, 0), ring[i], ring[i + 1], ring[i + 2]], layer="0", color=0)
+        else:
+            self.solid([at(0, 0), at(-1, -1 / 6), at(-1, 1 / 6)], layer="0", color=0)
 
     def plot_style(self, name):
         self.style_objects[name] = self.handle()
@@ -183,12 +213,8 @@ class Drawing:
 
     # ---- dimensions ----
 
-    def _arrow(self, x, y, direction, block):
-        size = self.dim["arrow"]
-        c, s = math.cos(direction), math.sin(direction)
-        bx, by = x - size * c, y - size * s
-        block.append(lambda: self.solid([(x, y), (bx - s * size / 6, by + c * size / 6), (bx + s * size / 6, by - c * size / 6)],
-                                        layer="0", color=0))
+    def _arrow(self, x, y, direction, block, head=""):
+        block.append(lambda: self._arrow_shape(x, y, direction, head, self.dim["arrow"]))
 
     def linear(self, x1, y1, x2, y2, offset, angle=0.0, words=None, layer="DIMENSIONS"):
         """A dimension between two points, measured along `angle`; `offset` is the way from the second point's side to
@@ -211,8 +237,8 @@ class Drawing:
         p1, p2 = back(u1, v), back(u2, v)
         steps.append(lambda: self.line(*p1, *p2, layer="0", color=0))
         heading = a if u2 >= u1 else a + math.pi
-        self._arrow(*p2, heading, steps)
-        self._arrow(*p1, heading + math.pi, steps)
+        self._arrow(*p2, heading, steps, self.dim["heads"][1])
+        self._arrow(*p1, heading + math.pi, steps, self.dim["heads"][0])
         turn = angle % 180 if angle % 180 <= 90 else angle % 180 - 180
         middle = back((u1 + u2) / 2, v)
         r = math.radians(turn)
@@ -247,7 +273,7 @@ class Drawing:
             step()
         self.open = before
         head = [(2, name)] + self.point3(10, *definition) + self.point3(11, *at) + \
-            [(70, kind), (1, words), (71, 5), (42, float(measured)), (3, "Standard")]
+            [(70, kind), (1, words), (71, 5), (42, float(measured)), (3, self.dim["style"])]
         self.entity("DIMENSION", [("AcDbDimension", head)] + pairs, layer=layer)
 
     # ---- the file ----
@@ -326,18 +352,31 @@ class Drawing:
         yield from self._table("LTYPE", map(self._linetype_record, self.linetypes))
         yield from self._table("LAYER", map(self._layer_record, self.layers))
         yield from self._table("STYLE", (self._record("STYLE", "STYLE", own, "AcDbTextStyleTableRecord", [
-            (2, name), (70, 0), (40, float(height)), (41, float(width)), (50, 0.0), (71, 0), (42, 2.5), (3, font), (4, "")])
-            for name, own, font, height, width in self.styles))
+            (2, name), (70, 0), (40, float(height)), (41, float(width)), (50, float(slant)), (71, 0), (42, 2.5), (3, font), (4, big)] +
+            ([(1001, "ACAD"), (1000, family), (1071, 34)] if family else []))
+            for name, own, font, height, width, big, family, slant in self.styles))
         yield from self._table("VIEW", [])
         yield from self._table("UCS", [])
         yield from self._table("APPID", (self._record("APPID", "APPID", self.handle(), "AcDbRegAppTableRecord",
                                                       [(2, name), (70, 0)]) for name in self.applications))
-        yield from self._table("DIMSTYLE", [self._record("DIMSTYLE", "DIMSTYLE", self.handle(), "AcDbDimStyleTableRecord", [
-            (2, "Standard"), (70, 0), (41, float(self.dim["arrow"])), (42, float(self.dim["gap"])),
-            (44, float(self.dim["beyond"])), (140, float(self.dim["text"]))])])
+        standard = [("Standard", self.handle(), "", "", "")]
+        yield from self._table("DIMSTYLE", map(self._dim_style_record, standard + self.dim_styles))
         yield from self._table("BLOCK_RECORD", (self._record("BLOCK_RECORD", "BLOCK_RECORD", b.record, "AcDbBlockTableRecord", [
             (2, b.name), (340, b.layout or "0")]) for b in self.blocks))
         yield (0, "ENDSEC")
+
+    def _dim_style_record(self, entry):
+        name, own, first, second, leader = entry
+        records = {b.name: b.record for b in self.blocks}
+        pairs = [(2, name), (70, 0), (41, float(self.dim["arrow"])), (42, float(self.dim["gap"])),
+                 (44, float(self.dim["beyond"])), (140, float(self.dim["text"]))]
+        if first != second:
+            pairs.append((173, 1))
+        # One arrowhead for both ends, and one for each.
+        for code, block in ((341, leader), (342, first), (343, first), (344, second)):
+            if block:
+                pairs.append((code, records[block]))
+        return self._record("DIMSTYLE", "DIMSTYLE", own, "AcDbDimStyleTableRecord", pairs)
 
     def _linetype_record(self, entry):
         name, own, words, dashes, flags = entry

@@ -19,10 +19,11 @@ def feet(value):
 
 def make():
     d = Drawing("AC1015", LUNITS=4, LUPREC=4, AUNITS=1, AUPREC=2, MEASUREMENT=0, INSUNITS=1, LTSCALE=24.0, CLAYER="A-WALL",
-                CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="Standard", PSTYLEMODE=1,
+                CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="ARCHITECTURAL", PSTYLEMODE=1,
                 LWDISPLAY=1, TEXTSIZE=6.0, DIMTXT=5.0, DIMASZ=4.0)
     d.style("Standard", "romans.shx")
     d.style("ROOMS", "romand.shx")
+    d.style("TITLE", "tahoma.ttf", family="Tahoma")
     d.linetype("DASHED", "Dashed __ __ __ __", 0.5, -0.25)
     d.linetype("CENTER", "Center ____ _ ____ _", 1.25, -0.25, 0.25, -0.25)
     d.linetype("HIDDEN", "Hidden _ _ _ _ _", 0.25, -0.125)
@@ -31,6 +32,7 @@ def make():
                   ("A-FURN", 30, "Continuous", 13), ("A-GRID", 1, "CENTER", 13), ("A-ROOF-OVHD", 8, "DASHED", 13),
                   ("DIMENSIONS", 5, "Continuous", 13), ("A-ANNO", 7, "Continuous", 25)):
         d.add_layer(*layer)
+    d.dim_style("ARCHITECTURAL", "_ArchTick", "_ArchTick", "_Dot")
     d.dim.update(text=5.0, arrow=4.0, gap=3.0, beyond=3.0, format=feet)
     blocks(d)
     walls(d)
@@ -238,7 +240,7 @@ def annotation(d):
         d.linear(a, 0, b, 0, -30)
     d.polyline([(-24, -24), (WIDTH + 24, -24), (WIDTH + 24, DEPTH + 24), (-24, DEPTH + 24)], closed=True, layer="A-ROOF-OVHD")
     d.layer = "A-ANNO"
-    d.text(WIDTH / 2, -78, 14, "GROUND FLOOR PLAN", align=1, style="ROOMS")
+    d.text(WIDTH / 2, -78, 14, "GROUND FLOOR PLAN", align=1, style="TITLE")
     d.line(WIDTH / 2 - 110, -84, WIDTH / 2 + 110, -84, weight=70)
     d.text(WIDTH / 2, -96, 6, "SCALE 1/4\" = 1'-0\"", align=1)
     x, y = WIDTH + 66, DEPTH + 30

@@ -9,9 +9,11 @@ CORNERS = [(12.0, 10.0), (118.0, 6.0), (132.0, 58.0), (96.0, 92.0), (18.0, 84.0)
 
 def make():
     d = Drawing("AC1015", LUNITS=2, LUPREC=3, AUNITS=4, AUPREC=4, MEASUREMENT=1, INSUNITS=6, LTSCALE=1.0, CLAYER="C-SITE",
-                CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="Standard", PSTYLEMODE=0,
+                CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="SURVEY", PSTYLEMODE=0,
                 LWDISPLAY=1, TEXTSIZE=1.5, DIMTXT=1.2, DIMASZ=1.0)
     d.style("Standard", "romans.shx")
+    d.style("TITLES", "arial.ttf", family="Arial")
+    d.style("NOTES", "romans.shx", big="gbcbig.shx", slant=10.0)
     d.linetype("BOUNDARY", "Boundary ____ ____ . ____ ____ .", 3, -0.8, 3, -0.8, 0, -0.8)
     d.linetype("CENTER", "Center ____ _ ____ _", 3, -0.6, 0.6, -0.6)
     d.linetype("DASHED", "Dashed __ __ __", 1.2, -0.6)
@@ -29,6 +31,7 @@ def make():
                   ("DIMENSIONS", 6, "Continuous", 13, None, "Thin Grey"), ("SURVEY|FENCE", 9, "SURVEY|FENCE", 18, None, "Normal", 16),
                   ("UTILITIES|WATER", 150, "UTILITIES|WATER", 18, None, "Thin Grey", 16)):
         d.add_layer(*layer)
+    d.dim_style("SURVEY", "_Dot", "_ArchTick", "_Dot")
     d.dim.update(text=1.2, arrow=1.0, gap=0.5, beyond=0.6, format=lambda v: f"{v:.2f}")
     trees(d)
     boundary(d)
@@ -164,7 +167,7 @@ def planting(d):
 
 def titles(d):
     d.layer = "C-ANNO"
-    d.text(70, 104, 4, "SITE PLAN - MILL LANE COMMUNITY CENTRE", align=1, middle=True)
+    d.text(70, 104, 4, "SITE PLAN - MILL LANE COMMUNITY CENTRE", align=1, middle=True, style="TITLES")
     x, y = 142, 84
     d.circle(x, y, 5)
     d.solid([(x, y + 7), (x - 2, y - 4), (x, y - 2)])
@@ -177,7 +180,7 @@ def titles(d):
             d.solid(corners)
         d.text(124 + 5 * i, -20, 1.2, str(5 * i), align=1)
     d.text(144, -20, 1.2, "20 m", align=1)
-    d.paragraph(-10, 100, 1.5, 26, "LEVELS IN METRES\\PABOVE DATUM.\\P\\PBOUNDARY FROM\\PSURVEY 2023-11.\\P\\P16 PARKING SPACES")
+    d.paragraph(-10, 100, 1.5, 26, "LEVELS IN METRES\\PABOVE DATUM.\\P\\PBOUNDARY FROM\\PSURVEY 2023-11.\\P\\P16 PARKING SPACES", style="NOTES")
 
 
 def layouts(d):

@@ -8,6 +8,7 @@
 #include "od_db_curves.h"
 #include "od_db_database.h"
 #include "od_db_dictionary.h"
+#include "od_db_dim_style_table.h"
 #include "od_db_entity.h"
 #include "od_db_layer_table.h"
 #include "od_db_layout.h"

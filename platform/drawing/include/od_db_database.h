@@ -14,6 +14,7 @@
 #include <string_view>
 #include "od_db_block_table.h"
 #include "od_db_dictionary.h"
+#include "od_db_dim_style_table.h"
 #include "od_db_layer_table.h"
 #include "od_db_layout.h"
 #include "od_db_linetype_table.h"
@@ -57,7 +58,7 @@ public:
     OdResult getLinetypeTable(OdDbLinetypeTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
     OdResult getTextStyleTable(OdDbTextStyleTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
     OdResult getBlockTable(OdDbBlockTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
-    OdResult getDimStyleTable(OdDbSymbolTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
+    OdResult getDimStyleTable(OdDbDimStyleTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
     OdResult getViewTable(OdDbSymbolTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
     OdResult getUCSTable(OdDbSymbolTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
     OdResult getViewportTable(OdDbSymbolTablePtr& table, OdDb::OpenMode mode = OdDb::kForRead);
@@ -86,9 +87,16 @@ public:
     OdResult setCeltype(const OdDbObjectId& id);
     OdDb::LineWeight celweight() const;
     OdResult setCelweight(OdDb::LineWeight weight);
+    /// The current plot style for new entities, by the names of OdDbEntity::plotStyleName.
+    OdString currentPlotStyleName() const;
+    /// kOdKeyNotFound for a name that the plot style name dictionary lacks.
+    OdResult setCurrentPlotStyleName(const wchar_t* name);
     /// The current text style.
     OdDbObjectId textstyle() const;
     OdResult setTextstyle(const OdDbObjectId& id);
+    /// The current dimension style; that of Standard if the header names one that isn't there.
+    OdDbObjectId dimstyle() const;
+    OdResult setDimstyle(const OdDbObjectId& id);
 
     /// A getter and a setter for each known header variable.
 #define ODDB_DECLARE_INTEGER(name, code, value, version)                        \

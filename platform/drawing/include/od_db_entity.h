@@ -66,7 +66,8 @@ public:
     /// Whether the entity lies in a paper space.
     bool isInPaperSpace() const;
 
-    /// Takes the drawing's current layer, colour, linetype, linetype scale and lineweight.
+    /// Takes the drawing's current layer, colour, linetype, linetype scale and lineweight; once it is in the
+    /// drawing, also its current plot style.
     void setDatabaseDefaults(OdDbDatabase* database);
 
     /// The entities that are part of this one (attributes, vertices, the closing SEQEND), in order; null if

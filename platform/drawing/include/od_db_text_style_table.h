@@ -16,6 +16,11 @@ public:
     void setBigFontFileName(const wchar_t* name);
     /// The TrueType family, where the style names one; may be empty.
     OdString typeFace() const;
+    /// Whether the style asks for the bold or the italic cut of its TrueType family.
+    bool isBold() const;
+    bool isItalic() const;
+    /// Names the TrueType family and its cut; an empty name makes it a style of the font file alone.
+    void setFont(const wchar_t* typeFace, bool bold, bool italic);
     /// Fixed text height in drawing units; 0 when each text has its own.
     double textSize() const;
     void setTextSize(double height);
@@ -24,6 +29,7 @@ public:
     void setXScale(double factor);
     /// Slant in radians, to the right above 0.
     double obliquingAngle() const;
+    void setObliquingAngle(double radians);
     /// Whether the record only makes a shape file known.
     bool isShapeFile() const { return (flags() & 1) != 0; }
 };

@@ -88,7 +88,7 @@ ODRT_TABLE_GETTER(getLayerTable, OdDbLayerTable, kLayerTable)
 ODRT_TABLE_GETTER(getLinetypeTable, OdDbLinetypeTable, kLinetypeTable)
 ODRT_TABLE_GETTER(getTextStyleTable, OdDbTextStyleTable, kTextStyleTable)
 ODRT_TABLE_GETTER(getBlockTable, OdDbBlockTable, kBlockTable)
-ODRT_TABLE_GETTER(getDimStyleTable, OdDbSymbolTable, kDimStyleTable)
+ODRT_TABLE_GETTER(getDimStyleTable, OdDbDimStyleTable, kDimStyleTable)
 ODRT_TABLE_GETTER(getViewTable, OdDbSymbolTable, kViewTable)
 ODRT_TABLE_GETTER(getUCSTable, OdDbSymbolTable, kUcsTable)
 ODRT_TABLE_GETTER(getViewportTable, OdDbSymbolTable, kViewportTable)
@@ -181,6 +181,51 @@ OdResult OdDbDatabase::setTextstyle(const OdDbObjectId& id) {
     const auto record = id.open<OdDbTextStyleTableRecord>();
     if (!record || id.database() != this) return kOdInvalidInput;
     editHeader().setText("TEXTSTYLE", record->getName());
+    return kOdOk;
+}
+
+OdDbObjectId OdDbDatabase::dimstyle() const {
+    const OdDbObjectId id = m_store->tables[kDimStyleTable]->getAt(header().text("DIMSTYLE"));
+    return id.isNull() ? m_store->tables[kDimStyleTable]->getAt(L"Standard") : id;
+}
+
+OdResult OdDbDatabase::setDimstyle(const OdDbObjectId& id) {
+    const auto record = id.open<OdDbDimStyleTableRecord>();
+    if (!record || id.database() != this) return kOdInvalidInput;
+    editHeader().setText("DIMSTYLE", record->getName());
+    return kOdOk;
+}
+
+OdString OdDbDatabase::currentPlotStyleName() const {
+    switch (getCEPSNTYPE()) {
+        case OdDb::kPlotStyleNameByBlock: return L"ByBlock";
+        case OdDb::kPlotStyleNameIsDictDefault: return L"Normal";
+        case OdDb::kPlotStyleNameById: break;
+        default: return L"ByLayer";
+    }
+    const OdGroupList* style = header().find("CEPSNID");
+    const auto* names = dynamic_cast<const OdDbDictionary*>(m_store->named(L"ACAD_PLOTSTYLENAME"));
+    const OdString name = style && names ? names->nameAt(m_store->id(style->handle(390))) : OdString();
+    return name.isEmpty() ? OdString(L"ByLayer") : name;
+}
+
+OdResult OdDbDatabase::setCurrentPlotStyleName(const wchar_t* name) {
+    const OdString wanted(name);
+    OdGroupList style;
+    int type = OdDb::kPlotStyleNameByLayer;
+    if (wanted.iCompare(L"ByBlock") == 0) {
+        type = OdDb::kPlotStyleNameByBlock;
+    } else if (wanted.iCompare(L"ByLayer") != 0) {
+        const auto* names = dynamic_cast<const OdDbDictionary*>(m_store->named(L"ACAD_PLOTSTYLENAME"));
+        const OdDbObjectId id = names ? names->getAt(wanted) : OdDbObjectId();
+        if (id.isNull()) return kOdKeyNotFound;
+        type = OdDb::kPlotStyleNameById;
+        style.addHandle(390, id.handle());
+    }
+    // Without a style of its own the variable stays, as files have it: a null handle.
+    if (type != OdDb::kPlotStyleNameById && header().find("CEPSNID")) style.addHandle(390, 0);
+    setCEPSNTYPE(type);
+    if (!style.isEmpty()) editHeader().set("CEPSNID", std::move(style));
     return kOdOk;
 }
 

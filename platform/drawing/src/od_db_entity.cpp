@@ -213,6 +213,8 @@ void OdDbEntity::setDatabaseDefaults(OdDbDatabase* database) {
     setLinetype(database->celtype());
     setLinetypeScale(database->getCELTSCALE());
     setLineWeight(database->celweight());
+    // Only an entity of the drawing can refer to its plot styles.
+    if (this->database() == database) setPlotStyleName(database->currentPlotStyleName());
 }
 
 OdDbUnknownEntity::OdDbUnknownEntity(std::string_view type) {

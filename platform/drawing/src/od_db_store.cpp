@@ -12,6 +12,7 @@ OdDbSymbolTablePtr makeTable(int kind) {
         case kLinetypeTable: return new OdDbLinetypeTable;
         case kLayerTable: return new OdDbLayerTable;
         case kTextStyleTable: return new OdDbTextStyleTable;
+        case kDimStyleTable: return new OdDbDimStyleTable;
         case kBlockTable: return new OdDbBlockTable;
         default: return new OdDbSymbolTable(kRecordNames[kind]);
     }

@@ -20,13 +20,18 @@ bool r12Has(int code, OdDxfPart part) {
 OdDb::DwgVersion firstVersionOf(int code) {
     switch (code) {
         case 290:
+        case 341:
         case 370:
+        case 371:
+        case 372:
         case 380:
         case 390: return OdDb::kDHL_1015;
         case 420:
         case 430:
         case 440: return OdDb::kDHL_1018;
         case 284:
+        case 345:
+        case 346:
         case 347:
         case 348: return OdDb::kDHL_1021;
         default: return OdDb::kDHL_1009;

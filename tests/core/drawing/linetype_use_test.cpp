@@ -104,7 +104,7 @@ TEST_F(LinetypeUse, PartsOfEntitiesCount) {
 }
 
 TEST_F(LinetypeUse, RecordsThatNameItByHandleCount) {
-    OdDbSymbolTablePtr styles;
+    OdDbDimStyleTablePtr styles;
     drawing->getDimStyleTable(styles);
     const auto standard = styles->getAt(L"Standard").open<OdDbSymbolTableRecord>(OdDb::kForWrite);
     standard->editGroups().addHandle(345, table->getAt(L"DASHED").handle());

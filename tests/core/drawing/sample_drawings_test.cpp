@@ -96,3 +96,22 @@ TEST(SampleDrawings, TheSitePlanHasReferencesPlotStylesAndLayouts) {
     EXPECT_EQ(layers->getAt(L"C-BLDG").open<OdDbLayerTableRecord>()->plotStyleName(), L"Heavy");
     EXPECT_TRUE(drawing->modelSpaceId().open<OdDbBlockTableRecord>()->count() > 100);
 }
+
+TEST(SampleDrawings, DimensionAndTextStylesDiffer) {
+    const OdDbDatabasePtr plan = sample("floor_plan.dxf"), site = sample("site_plan.dxf");
+    const auto ticks = plan->dimstyle().open<OdDbDimStyleTableRecord>();
+    EXPECT_EQ(ticks->getName(), L"ARCHITECTURAL");
+    EXPECT_EQ(ticks->dimblk(), L"_ArchTick");
+    EXPECT_FALSE(ticks->dimsah());
+    const auto survey = site->dimstyle().open<OdDbDimStyleTableRecord>();
+    EXPECT_TRUE(survey->dimsah());
+    EXPECT_EQ(survey->dimblk1(), L"_Dot");
+    EXPECT_EQ(survey->dimblk2(), L"_ArchTick");
+    OdDbTextStyleTablePtr styles;
+    site->getTextStyleTable(styles);
+    const auto titles = styles->getAt(L"TITLES").open<OdDbTextStyleTableRecord>();
+    EXPECT_EQ(titles->typeFace(), L"Arial");
+    const auto notes = styles->getAt(L"NOTES").open<OdDbTextStyleTableRecord>();
+    EXPECT_EQ(notes->fileName(), L"romans.shx");
+    EXPECT_EQ(notes->bigFontFileName(), L"gbcbig.shx");
+}

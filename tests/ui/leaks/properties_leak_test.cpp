@@ -11,19 +11,6 @@ using namespace leaks;
 
 using PropertiesLeaks = leaks::Leaks;
 
-/// The same template and the windows of its tips, by the system alone. This Wine keeps a small block for each
-/// window of some classes.
-void open_bare_dialog(HWND parent) {
-    HINSTANCE module = AfxGetInstanceHandle();
-    HRSRC resource = ::FindResourceW(module, MAKEINTRESOURCEW(IDD_PROPERTIES), RT_DIALOG);
-    auto* dialog_template = static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(module, resource)));
-    HWND dialog = ::CreateDialogIndirectParamW(
-        module, dialog_template, parent, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return 0; }, 0);
-    ::CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0, 0, dialog, nullptr,
-                      nullptr, nullptr);
-    ::DestroyWindow(dialog);
-}
-
 /// The sample's dialog with its settings apart from the user's.
 class Properties : public CPropertiesDialog {
 public:
@@ -34,7 +21,7 @@ public:
 
 TEST_F(PropertiesLeaks, AThousandPropertiesDialogsLeaveNothing) {
     int opened = 0;
-    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd); });
+    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_PROPERTIES); });
     const auto open_once = [&] {
         Properties dialog(*drawing, &parent);
         // In turn confirmed and cancelled.

@@ -114,7 +114,7 @@ TEST_F(LinetypeDialog, WhatIsInUseCanNotBeDeletedAndTheReasonIsTold) {
     drawing->clayer()
         .open<OdDbLayerTableRecord>(OdDb::kForWrite)
         ->setLinetypeObjectId(table->getAt(L"DOT10"));
-    OdDbSymbolTablePtr styles;
+    OdDbDimStyleTablePtr styles;
     drawing->getDimStyleTable(styles);
     styles->getAt(L"Standard").openObject()->editGroups().addHandle(345, table->getAt(L"DOT10").handle());
     drawing->setCeltype(table->getAt(L"ZIGZAG"));

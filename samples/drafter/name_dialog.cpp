@@ -1,0 +1,38 @@
+#include "name_dialog.h"
+
+#include "resource.h"
+
+IMPLEMENT_DYNAMIC(CNameDialog, CFieldsDialog)
+
+CNameDialog::CNameDialog(std::vector<OdString> taken, CWnd* parent)
+    : CFieldsDialog(IDD_STYLE_NAME, L"StyleName", parent), m_taken(std::move(taken)) {
+    AddField(IDC_STYLE_NAME, m_edit, IDS_BAD_STYLE_NAME);
+}
+
+BOOL CNameDialog::OnInitDialog() {
+    const BOOL result = CFieldsDialog::OnInitDialog();
+    m_edit.SetStyleMask(kKtUiEditNoBlank);
+    ResizeFrame({IDC_STYLE_NAME});
+    LockDialogHeight();
+    return result;
+}
+
+bool CNameDialog::isTaken(const CString& name) const {
+    for (const OdString& each : m_taken)
+        if (name.CompareNoCase(each) == 0) return true;
+    return false;
+}
+
+void CNameDialog::OnOK() {
+    const CString name = FieldText(IDC_STYLE_NAME);
+    if (name.IsEmpty() || isTaken(name)) {
+        CString text;
+        text.LoadString(name.IsEmpty() ? IDS_BAD_STYLE_NAME : IDS_TAKEN_STYLE_NAME);
+        ShowMessage(text);
+        m_edit.SetFocus();
+        return;
+    }
+    CFieldsDialog::OnOK();
+}
+
+void CNameDialog::Apply() { m_name = OdString(FieldText(IDC_STYLE_NAME)); }

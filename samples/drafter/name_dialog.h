@@ -1,0 +1,25 @@
+// Asks for the name of a new style: a symbol name that is not taken.
+#pragma once
+
+#include "fields_dialog.h"
+
+class CNameDialog : public CFieldsDialog {
+    DECLARE_DYNAMIC(CNameDialog)
+
+public:
+    CNameDialog(std::vector<OdString> taken, CWnd* parent);
+    /// The name after DoModal has answered IDOK.
+    const OdString& name() const { return m_name; }
+
+protected:
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+    void Apply() override;
+
+private:
+    bool isTaken(const CString& name) const;
+
+    std::vector<OdString> m_taken;
+    OdString m_name;
+    CReportingEdit<CKtUiSymbolEdit> m_edit;
+};

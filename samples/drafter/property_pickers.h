@@ -1,0 +1,56 @@
+// The pickers of Format > Properties: colour, linetype, lineweight and plot style, filled from property
+// values and read back into them. A value that differs between objects shows an empty picker, and what is
+// picked counts only if it differs from what was shown.
+#pragma once
+
+#include <ktui/ktui.h>
+
+#include "property_values.h"
+
+/// A linetype picker whose ByLayer sample is that of the drawing's current layer.
+class CLayerLineTypePicker : public CKtUiLineTypeComboBox {
+    DECLARE_DYNAMIC(CLayerLineTypePicker)
+
+public:
+    bool GetCurrentLayerLineType(OdDbObjectId& id) override;
+    /// Selects the linetype, or nothing.
+    void Show(const std::optional<OdDbObjectId>& linetype);
+    /// The linetype picked; nothing while the list shows none.
+    std::optional<OdDbObjectId> Picked();
+};
+
+/// A lineweight picker that shows a weight or nothing.
+class CLineWeightPicker : public CKtUiLineWeightComboBox {
+    DECLARE_DYNAMIC(CLineWeightPicker)
+
+public:
+    void Show(const std::optional<OdDb::LineWeight>& weight);
+    std::optional<OdDb::LineWeight> Picked();
+};
+
+class CPropertyPickers {
+public:
+    /// Binds the controls IDC_TRUE_COLOR, IDC_INDEX_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT and IDC_PLOT_STYLE.
+    void Exchange(CDataExchange* exchange);
+    /// Shows the values of the drawing's objects or settings.
+    void Show(const OdDbDatabase& drawing, const PropertyValues& values);
+    /// Puts what was picked into `values`.
+    void Collect(PropertyValues& values);
+
+    // What the owner calls when a colour was picked: the other colour picker follows.
+    void OnTrueColor();
+    void OnIndexColor();
+
+private:
+    void showColor(const OdCmColor& color);
+    void showPlotStyle(const OdDbDatabase& drawing, const std::optional<OdString>& name);
+    std::optional<OdString> pickedPlotStyle();
+
+    CKtUiTrueColorComboBox m_trueColor;
+    CKtUiColorComboBox m_indexColor;
+    CLayerLineTypePicker m_linetype;
+    CLineWeightPicker m_lineWeight;
+    CKtUiPlotStyleNamesComboBox m_plotStyle;
+    PropertyValues m_shown;
+    bool m_colorPicked = false;
+};

@@ -1,0 +1,27 @@
+// Paints a scene into a rectangle of a device context: the drawing view's and the dialogs' previews.
+#pragma once
+
+#include <set>
+
+#include <afxwin.h>
+
+#include "scene.h"
+
+constexpr COLORREF kDrawingPaper = RGB(33, 40, 48);
+
+/// Where a scene lies on a window: which place of the drawing is in the middle, and how large a unit is.
+struct ScenePlace {
+    OdGePoint2d center;
+    double scale = 1;  ///< pixels for one drawing unit
+    CSize size;        ///< of the window, pixels
+
+    /// Pixels of a place in the drawing, and back.
+    CPoint ToPixel(const OdGePoint2d& point) const;
+    OdGePoint2d FromPixel(CPoint pixel) const;
+    /// Shows all of `extents` with a margin; nothing happens for empty ones or an empty window.
+    void Fit(const SceneExtents& extents);
+};
+
+/// Paints the scene with pixel 0, 0 as the window's corner; what belongs to `selection` is highlighted.
+void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place,
+                const std::set<OdDbObjectId>& selection = {});
