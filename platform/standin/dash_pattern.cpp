@@ -68,3 +68,19 @@ void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vecto
     DashWalker walker(dc, dashes, scale);
     for (std::size_t i = 1; i < points.size(); ++i) walker.line(points[i - 1], points[i]);
 }
+
+void DrawLinetypeSample(CDC& dc, const CRect& area, const std::vector<double>& dashes, COLORREF foreground,
+                        COLORREF background) {
+    constexpr double kRepeats = 2.5;
+    dc.FillSolidRect(&area, background);
+    double total = 0;
+    for (const double dash : dashes) total += std::abs(dash);
+    const int saved = dc.SaveDC();
+    CPen pen(PS_SOLID, 1, foreground);
+    dc.SelectObject(&pen);
+    dc.IntersectClipRect(&area);
+    const int middle = (area.top + area.bottom) / 2;
+    DrawDashedPath(dc, {CPoint(area.left, middle), CPoint(area.right, middle)}, dashes,
+                   total > 0 ? area.Width() / (kRepeats * total) : 1);
+    dc.RestoreDC(saved);
+}

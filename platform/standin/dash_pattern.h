@@ -12,3 +12,8 @@
 /// drawing unit. Empty dashes, and a pattern too fine to see, give a continuous line.
 STANDIN_API void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vector<double>& dashes,
                                 double scale);
+
+/// Fills `area` (pixels of `dc`) with `background` and draws the pattern `dashes` along its middle in
+/// `foreground`, about two and a half repeats of it whatever the drawing's unit.
+void DrawLinetypeSample(CDC& dc, const CRect& area, const std::vector<double>& dashes, COLORREF foreground,
+                        COLORREF background);

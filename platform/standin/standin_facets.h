@@ -5,6 +5,7 @@
 #include <string>
 
 #include "fonts/font_service.h"
+#include "plotting/style_sheets.h"
 #include "standin_host.h"
 
 class StandinProductInfo final : public CKhProductInfo {
@@ -101,7 +102,8 @@ private:
 
 class StandinUiHost final : public CKhUiHost {
 public:
-    explicit StandinUiHost(CWinApp& application) : m_application(application) {}
+    StandinUiHost(CWinApp& application, StandinStyleSheets& styleSheets)
+        : m_application(application), m_styleSheets(styleSheets) {}
 
     CWinApp* application() override { return &m_application; }
     CWnd* mainFrame() override { return m_application.m_pMainWnd; }
@@ -114,16 +116,19 @@ public:
     void showHelp(const wchar_t* topic) override;
     int getPathVariable(const wchar_t* name, wchar_t (&value)[kKhPathLength]) override;
 
-    std::map<std::wstring, CString> m_pathVariables;
+    std::map<std::wstring, CString> m_pathVariables = {{L"PrinterStyleSheetDir", L"Plot Styles"}};
 
 private:
     CWinApp& m_application;
+    StandinStyleSheets& m_styleSheets;
     CString m_chosenPlotStyle;
 };
 
 /// Everything that a CStandinHost holds.
 struct StandinFacets {
-    explicit StandinFacets(CWinApp& application) : ui(application) {}
+    explicit StandinFacets(CWinApp& application) : ui(application, styleSheets) {
+        serviceManager.m_services[kKhPlotStyleService] = &styleSheets;
+    }
 
     OdDbHostAppServices services;
     OdDbHostAppServices* formerServices = nullptr;
@@ -131,6 +136,7 @@ struct StandinFacets {
     StandinProfileStore profile;
     StandinColorServices colors;
     StandinServiceManager serviceManager;
+    StandinStyleSheets styleSheets;
     StandinDocumentServices documents;
     StandinRuntimeHost runtime;
     StandinPaletteHost palettes;

@@ -55,9 +55,11 @@ public:
     /// by the font list; null if there is no such file or it is no font, with `message` the reason to show,
     /// in the user's language. `message` stays if the file is a font.
     CKhFontStyle* LoadFontFile(const wchar_t* name, CString& message);
-    /// Value of a path variable such as "PrinterStyleSheetDir"; folders are separated by semicolons.
+    /// Value of a path variable such as "PrinterStyleSheetDir", which is the folder "Plot Styles" below the
+    /// program's until it is set; folders are separated by semicolons.
     void SetPathVariable(const wchar_t* name, const wchar_t* value);
     /// Makes the host answer `service` to serviceManager()->getService(name); null takes it away. Not owned.
+    /// At first there is "CKhPlotStyle", which reads the style sheets in the folders of that path variable.
     void SetService(const wchar_t* name, CKhService* service);
 
     // Replacing a facet: `facet` (not owned) answers from now on, also null where the interface lets a facet

@@ -137,24 +137,8 @@ void StandinPaletteSizing::fillBackground(HDC dc, const RECT& rect) {
 void StandinLinetypePreview::drawLinetype(HDC dc, const RECT& rect, const OdDbObjectId& id,
                                           COLORREF foreground, COLORREF background) {
     if (dc == nullptr) return;
-    CDC* target = CDC::FromHandle(dc);
-    target->FillSolidRect(&rect, background);
-    const auto record = id.open<OdDbLinetypeTableRecord>();
     std::vector<double> dashes;
-    double total = 0;
-    if (record) {
-        for (const double dash : record->dashes()) {
-            dashes.push_back(dash);
-            total += std::abs(dash);
-        }
-    }
-    const int saved = target->SaveDC();
-    CPen pen(PS_SOLID, 1, foreground);
-    target->SelectObject(&pen);
-    target->IntersectClipRect(&rect);
-    // About two and a half repeats of the pattern fit the sample, whatever the drawing's unit.
-    const int width = rect.right - rect.left, middle = (rect.top + rect.bottom) / 2;
-    DrawDashedPath(*target, {CPoint(rect.left, middle), CPoint(rect.right, middle)}, dashes,
-                   total > 0 ? width / (2.5 * total) : 1);
-    target->RestoreDC(saved);
+    if (const auto record = id.open<OdDbLinetypeTableRecord>())
+        for (const double dash : record->dashes()) dashes.push_back(dash);
+    DrawLinetypeSample(*CDC::FromHandle(dc), rect, dashes, foreground, background);
 }

@@ -1,6 +1,7 @@
 // The facet with windows: the host's dialogs, help, path variables.
-#include "choice_dialog.h"
 #include "color_dialog.h"
+#include "linetypes/linetype_dialog.h"
+#include "plotting/plot_style_dialog.h"
 #include "resource.h"
 #include "standin_facets.h"
 
@@ -52,19 +53,10 @@ bool StandinUiHost::showTrueColorDialog(OdCmColor& color, bool allowMeta, const 
 bool StandinUiHost::showPlotStyleDialog(const wchar_t* currentName, bool allowByLayerByBlock,
                                         const wchar_t*& chosenName) {
     const OwnResources resources;
-    std::vector<CString> names;
-    if (allowByLayerByBlock) names = {L"ByLayer", L"ByBlock"};
     OdDbDatabase* drawing = oddbHostApplicationServices()->workingDatabase();
-    OdDbDictionaryPtr styles;
-    if (drawing != nullptr && drawing->getPlotStyleNameDictionary(styles) == kOdOk)
-        for (auto entry = styles->newIterator(); !entry->done(); entry->next())
-            names.push_back(entry->name().c_str());
-    int current = -1;
-    for (size_t i = 0; i < names.size(); ++i)
-        if (names[i].CompareNoCase(currentName) == 0) current = static_cast<int>(i);
-    CChoiceDialog dialog(IDS_PLOT_STYLE_TITLE, names, current, dialogParent());
+    CStandinPlotStyleDialog dialog(drawing, m_styleSheets, currentName, allowByLayerByBlock, dialogParent());
     if (dialog.DoModal() != IDOK) return false;
-    m_chosenPlotStyle = names[static_cast<size_t>(dialog.chosen())];
+    m_chosenPlotStyle = dialog.chosen();
     chosenName = m_chosenPlotStyle;
     return true;
 }
@@ -72,21 +64,10 @@ bool StandinUiHost::showPlotStyleDialog(const wchar_t* currentName, bool allowBy
 bool StandinUiHost::showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId& chosen, int) {
     const OwnResources resources;
     OdDbDatabase* drawing = oddbHostApplicationServices()->workingDatabase();
-    OdDbLinetypeTablePtr table;
-    if (drawing == nullptr || drawing->getLinetypeTable(table) != kOdOk) return false;
-    std::vector<CString> names;
-    std::vector<OdDbObjectId> ids;
-    int selected = -1;
-    for (auto walk = table->newIterator(); !walk->done(); walk->step()) {
-        OdDbSymbolTableRecordPtr record;
-        if (walk->getRecord(record) != kOdOk || record->isDependent()) continue;
-        if (record->objectId() == current) selected = static_cast<int>(names.size());
-        names.push_back(record->getName().c_str());
-        ids.push_back(record->objectId());
-    }
-    CChoiceDialog dialog(IDS_LINETYPE_TITLE, names, selected, dialogParent());
+    if (drawing == nullptr) return false;
+    CStandinLinetypeDialog dialog(*drawing, current, dialogParent());
     if (dialog.DoModal() != IDOK) return false;
-    chosen = ids[static_cast<size_t>(dialog.chosen())];
+    chosen = dialog.chosen();
     return true;
 }
 

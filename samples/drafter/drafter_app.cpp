@@ -21,7 +21,8 @@ public:
         // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
-        m_host->SetSupportDirectories({FontFolder()});
+        const CString folder = ProgramFolder();
+        m_host->SetSupportDirectories({folder + L"fonts", folder + L"support"});
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
@@ -39,12 +40,12 @@ public:
     }
 
 private:
-    /// The stroke fonts that come with the program.
-    static CString FontFolder() {
-        wchar_t path[MAX_PATH] = {};
-        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-        CString folder = path;
-        return folder.Left(folder.ReverseFind(L'\\') + 1) + L"fonts";
+    /// Folder of this program's file, with a backslash at the end.
+    static CString ProgramFolder() {
+        wchar_t file[MAX_PATH] = {};
+        ::GetModuleFileNameW(nullptr, file, MAX_PATH - 1);
+        const CString path = file;
+        return path.Left(path.ReverseFind(L'\\') + 1);
     }
 
     std::unique_ptr<CStandinHost> m_host;

@@ -192,6 +192,6 @@ def layouts(d):
     d.rectangle(10, 10, 410, 287, layer="C-ANNO")
     d.text(300, 15, 5, "PLANTING 1:500", layer="C-ANNO")
     d.open = d.model
-    d.layout("Model", d.model, "site.stb")
-    d.layout("Site A1", d.paper, "site.stb", "ISO_A1_(841.00_x_594.00_MM)", (841, 594))
+    d.layout("Model", d.model, "velmora.stb")
+    d.layout("Site A1", d.paper, "velmora.stb", "ISO_A1_(841.00_x_594.00_MM)", (841, 594))
     d.layout("Planting A3", second, "planting.stb")

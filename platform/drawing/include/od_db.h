@@ -13,6 +13,7 @@
 #include "od_db_layer_table.h"
 #include "od_db_layout.h"
 #include "od_db_linetype_table.h"
+#include "od_db_linetype_use.h"
 #include "od_db_object.h"
 #include "od_db_object_id.h"
 #include "od_db_polylines.h"

@@ -132,6 +132,7 @@ private:
     friend struct OdDbStore;
     friend class OdDbObject;
     friend class OdDbObjectId;
+    friend class OdDbLinetypeUses;
     OdResult openTable(int kind, OdSmartPtr<OdDbSymbolTable>& table, OdDb::OpenMode mode);
 
     std::unique_ptr<OdDbStore> m_store;

@@ -85,3 +85,8 @@ ODRT_API std::string odUtf8(std::wstring_view text);
 
 /// Wide text of UTF-8, the reverse of odUtf8. A byte that starts no legal sequence becomes U+FFFD.
 ODRT_API OdString odWide(std::string_view utf8);
+
+/// Wide text of the bytes of a text file. A byte order mark decides (UTF-8, UTF-16); without one the bytes
+/// are UTF-8 if they are legal as such, and otherwise in the code page `codePage` (936 or 1252, say). Null
+/// characters and what is illegal become U+FFFD.
+ODRT_API OdString odTextOfBytes(std::string_view bytes, int codePage);

@@ -90,7 +90,7 @@ TEST(SampleDrawings, TheSitePlanHasReferencesPlotStylesAndLayouts) {
     EXPECT_EQ(names->numEntries(), 5);
     ASSERT_EQ(drawing->getLayoutDictionary(layouts), kOdOk);
     EXPECT_EQ(layouts->numEntries(), 3);
-    EXPECT_EQ(drawing->currentLayoutId().open<OdDbLayout>()->getCurrentStyleSheet(), L"site.stb");
+    EXPECT_EQ(drawing->currentLayoutId().open<OdDbLayout>()->getCurrentStyleSheet(), L"velmora.stb");
     OdDbLayerTablePtr layers;
     drawing->getLayerTable(layers);
     EXPECT_EQ(layers->getAt(L"C-BLDG").open<OdDbLayerTableRecord>()->plotStyleName(), L"Heavy");
