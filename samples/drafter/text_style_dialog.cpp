@@ -208,10 +208,12 @@ void CTextStyleDialog::relistFonts() {
     relistBigFonts();
     m_listed = hostStyles();
     selectFont(file);
+    // A file may hold several styles, of which it stands for the first.
+    const int style = cut.IsEmpty() ? -1 : m_fontStyle.FindStringExact(-1, cut);
     if (selectedFont() == nullptr)
         showFont(m_shown);
-    else if (!cut.IsEmpty())
-        m_fontStyle.SelectString(-1, cut);
+    else if (style >= 0)
+        m_fontStyle.SetCurSel(style);
 }
 
 void CTextStyleDialog::relistBigFonts() {

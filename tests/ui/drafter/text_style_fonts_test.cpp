@@ -206,3 +206,23 @@ TEST_F(TextStyleFonts, AFontThatComesWhileTheDialogIsOpenIsListedAndTheCutStays)
     });
     EXPECT_EQ(standard()->fileName(), L"betabd.ttf");
 }
+
+TEST_F(TextStyleFonts, AStyleOfAFileWithSeveralStaysWhenFontsAreListedAnew) {
+    std::vector<font_bytes::TinyFont> cuts(2);
+    cuts[0].called(std::string("Many"), std::string("Regular"));
+    cuts[1].called(std::string("Many"), std::string("Bold"));
+    cuts[1].weight = 700;
+    folder.write(L"many.ttc", font_bytes::collection(cuts));
+    show([&](CWnd& dialog) {
+        pick(dialog, IDC_FONT, L"Many");
+        pick(dialog, IDC_FONT_STYLE, L"Bold");
+        folder.writeOutline(L"later.ttf", "Later", "Regular");
+        ASSERT_TRUE(waitUntilKnown(L"later.ttf", true));
+        dropFonts(dialog);
+        EXPECT_TRUE(lists(dialog, IDC_FONT, L"Later"));
+        EXPECT_EQ(entry(dialog, IDC_FONT), L"Many");
+        EXPECT_EQ(entry(dialog, IDC_FONT_STYLE), L"Bold");
+    });
+    EXPECT_EQ(standard()->fileName(), L"many.ttc");
+    EXPECT_TRUE(standard()->isBold());
+}
