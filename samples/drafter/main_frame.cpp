@@ -1,10 +1,11 @@
 #include "main_frame.h"
 
-#include <commdlg.h>
+#include <kh_font_list.h>
 #include <ktdb.h>
 #include <ktut.h>
 #include <standin_host.h>
 
+#include "ask_file.h"
 #include "dimension_style_dialog.h"
 #include "properties_dialog.h"
 #include "resource.h"
@@ -154,19 +155,7 @@ bool CMainFrame::mayDiscard() {
 }
 
 CString CMainFrame::askFileName(bool forSaving) {
-    wchar_t path[MAX_PATH] = {};
-    CString filter = textOf(IDS_FILE_FILTER);
-    filter.Replace(L'|', L'\0');
-    OPENFILENAMEW request = {};
-    request.lStructSize = sizeof(request);
-    request.hwndOwner = m_hWnd;
-    request.lpstrFilter = filter;
-    request.lpstrFile = path;
-    request.nMaxFile = MAX_PATH;
-    request.lpstrDefExt = L"dxf";
-    request.Flags = OFN_HIDEREADONLY | (forSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
-    const BOOL chosen = forSaving ? ::GetSaveFileNameW(&request) : ::GetOpenFileNameW(&request);
-    return chosen ? CString(path) : CString();
+    return AskFileName(*this, {IDS_FILE_FILTER, L"dxf", forSaving});
 }
 
 void CMainFrame::OnFileOpen() {
@@ -211,8 +200,16 @@ void CMainFrame::OnDimensionStyle() {
 }
 
 void CMainFrame::OnTextStyle() {
-    CTextStyleDialog dialog(*m_document->database(), this);
+    const auto load = [this](const CString& file, CString& message) { return loadFont(file, message); };
+    CTextStyleDialog dialog(*m_document->database(), this, load);
     runDialog(dialog);
+}
+
+CKhFontStyle* CMainFrame::loadFont(const CString& file, CString& message) {
+    CKhFontStyle* style = m_host.LoadFontFile(file, message);
+    // Without this the system would draw texts in another font, as it isn't installed.
+    if (style != nullptr && style->font()->isTrueType()) ::AddFontResourceExW(file, FR_PRIVATE, nullptr);
+    return style;
 }
 
 void CMainFrame::runDialog(CDialog& dialog) {

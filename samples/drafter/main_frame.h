@@ -7,6 +7,7 @@
 #include "draft_document.h"
 #include "drawing_view.h"
 
+class CKhFontStyle;
 class CStandinHost;
 
 class CMainFrame : public CFrameWnd {
@@ -47,6 +48,9 @@ private:
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards.
     void runDialog(CDialog& dialog);
+    /// Makes a font file known to the host, and to the system for as long as the program runs; its first
+    /// style, or null with the reason in `message`.
+    CKhFontStyle* loadFont(const CString& file, CString& message);
     void showTitle();
     bool saveTo(const CString& path);
     /// Asks whether changes are to be saved; false if the user thought better of it.

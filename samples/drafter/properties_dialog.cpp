@@ -86,10 +86,10 @@ void CPropertiesDialog::fillLayers() {
     constexpr struct {
         UINT title;
         int width;
-    } kColumns[] = {{IDS_COLUMN_LAYER, 120},
-                    {IDS_COLUMN_COLOR, 90},
-                    {IDS_COLUMN_LINETYPE, 120},
-                    {IDS_COLUMN_DESCRIPTION, 110}};
+    } kColumns[] = {{IDS_COLUMN_LAYER, 150},
+                    {IDS_COLUMN_COLOR, 100},
+                    {IDS_COLUMN_LINETYPE, 140},
+                    {IDS_COLUMN_DESCRIPTION, 140}};
     int column = 0;
     for (const auto& each : kColumns) {
         CString title;

@@ -1,7 +1,9 @@
 #include "text_style_dialog.h"
 
 #include <kh_font_list.h>
+#include <kh_system.h>
 
+#include "ask_file.h"
 #include "resource.h"
 #include "unit_texts.h"
 
@@ -22,9 +24,11 @@ bool hasWord(const CString& text, const wchar_t* word) {
 IMPLEMENT_DYNAMIC(CTextStyleDialog, CStyleDialog)
 
 BEGIN_MESSAGE_MAP(CTextStyleDialog, CStyleDialog)
+    ON_CBN_DROPDOWN(IDC_FONT, &CTextStyleDialog::OnFontList)
     ON_CBN_SELCHANGE(IDC_FONT, &CTextStyleDialog::OnFont)
-    ON_CBN_CLOSEUP(IDC_FONT, &CTextStyleDialog::OnFont)
+    ON_CBN_CLOSEUP(IDC_FONT, &CTextStyleDialog::OnFontListClosed)
     ON_CBN_SELCHANGE(IDC_FONT_STYLE, &CTextStyleDialog::OnChanged)
+    ON_BN_CLICKED(IDC_BROWSE_FONT, &CTextStyleDialog::OnBrowseFont)
     ON_BN_CLICKED(IDC_USE_BIG_FONT, &CTextStyleDialog::OnUseBigFont)
     ON_LBN_SELCHANGE(IDC_BIG_FONTS, &CTextStyleDialog::OnChanged)
     ON_EN_CHANGE(IDC_TEXT_HEIGHT, &CTextStyleDialog::OnChanged)
@@ -32,8 +36,10 @@ BEGIN_MESSAGE_MAP(CTextStyleDialog, CStyleDialog)
     ON_EN_CHANGE(IDC_TEXT_SLANT, &CTextStyleDialog::OnChanged)
 END_MESSAGE_MAP()
 
-CTextStyleDialog::CTextStyleDialog(OdDbDatabase& drawing, CWnd* parent)
-    : CStyleValuesDialog(IDD_TEXT_STYLE, L"TextStyle", ReadTextStyles(drawing), parent), m_drawing(drawing) {
+CTextStyleDialog::CTextStyleDialog(OdDbDatabase& drawing, CWnd* parent, FontLoader loader)
+    : CStyleValuesDialog(IDD_TEXT_STYLE, L"TextStyle", ReadTextStyles(drawing), parent),
+      m_drawing(drawing),
+      m_loader(std::move(loader)) {
     AddField(IDC_TEXT_HEIGHT, m_height, IDS_BAD_TEXT_HEIGHT, FormatDistance(2.5));
     AddField(IDC_TEXT_WIDTH, m_width, IDS_BAD_TEXT_WIDTH);
     AddField(IDC_TEXT_SLANT, m_slant, IDS_BAD_TEXT_SLANT, FormatTilt(15 * kDegree));
@@ -56,10 +62,13 @@ BOOL CTextStyleDialog::OnInitDialog() {
     m_slant.SetRange(-kSteepest, kSteepest);
     m_font.setBuddy(&m_fontStyle, true);
     m_bigFonts.FillList(true);
+    m_listed = hostStyles();
+    GetDlgItem(IDC_BROWSE_FONT)->EnableWindow(m_loader != nullptr);
     const auto style = m_drawing.textstyle().open<OdDbTextStyleTableRecord>();
     ListStyles(style ? style->getName() : OdString());
     ResizeStyleRow();
     ResizeRow(IDC_FONT, IDC_FONT_STYLE_LABEL, IDC_FONT_STYLE);
+    MoveControlX(IDC_BROWSE_FONT, 100);
     StretchControlXY(IDC_SAMPLE, 100, 100);
     ResizeFrame({IDC_GROUP_FONT, IDC_GROUP_SIZE, IDC_BIG_FONTS});
     return result;
@@ -76,6 +85,12 @@ CString CTextStyleDialog::fontText() {
     return file;
 }
 
+CString CTextStyleDialog::fontStyleText() const {
+    CString text;
+    if (m_fontStyle.GetCurSel() >= 0) m_fontStyle.GetLBText(m_fontStyle.GetCurSel(), text);
+    return text;
+}
+
 void CTextStyleDialog::ShowStyle(std::size_t index) {
     m_shown = m_styles[index];
     showFont(m_shown);
@@ -83,18 +98,26 @@ void CTextStyleDialog::ShowStyle(std::size_t index) {
     FillField(IDC_TEXT_HEIGHT, FormatDistance(m_shown.height));
     FillField(IDC_TEXT_WIDTH, FormatNumber(m_shown.width));
     FillField(IDC_TEXT_SLANT, FormatTilt(m_shown.slant));
-    CString text;
-    if (selectedFont() == nullptr) text.Format(IDS_FONT_NOT_FOUND, m_shown.file.c_str());
-    ShowMessage(text);
+    tellIfUnknown();
     showSample();
 }
 
-void CTextStyleDialog::showFont(const TextStyleValues& style) {
+void CTextStyleDialog::tellIfUnknown() {
+    CString text;
+    if (selectedFont() == nullptr) text.Format(IDS_FONT_NOT_FOUND, m_shown.file.c_str());
+    ShowMessage(text);
+}
+
+void CTextStyleDialog::selectFont(const CString& file) {
     // A font that isn't known leaves the pickers as they are, so they begin empty.
     m_font.SetCurSel(-1);
     m_fontStyle.ResetContent();
     m_fontStyle.EnableWindow(FALSE);
-    m_font.setCurrentFont(style.file);
+    m_font.setCurrentFont(file);
+}
+
+void CTextStyleDialog::showFont(const TextStyleValues& style) {
+    selectFont(style.file.c_str());
     m_shownFont = fontText();
 }
 
@@ -108,8 +131,7 @@ void CTextStyleDialog::keepFont(TextStyleValues& style) {
         style.italic = m_shown.italic;
         return;
     }
-    CString cut;
-    if (m_fontStyle.GetCurSel() >= 0) m_fontStyle.GetLBText(m_fontStyle.GetCurSel(), cut);
+    const CString cut = fontStyleText();
     style.file = OdString(file);
     style.family = font->isTrueType() ? font->name() : L"";
     style.bold = font->isTrueType() && hasWord(cut, L"bold");
@@ -171,8 +193,94 @@ void CTextStyleDialog::showSample() {
     m_sample.SetScene(std::move(scene));
 }
 
+std::vector<const CKhFontStyle*> CTextStyleDialog::hostStyles() {
+    std::vector<const CKhFontStyle*> styles;
+    const CKhFontList* fonts = CKhSystem::instance()->runtimeHost()->shxFontList();
+    for (int i = 0; fonts != nullptr && i < fonts->count(); ++i)
+        for (int k = 0; k < fonts->at(i)->styleCount(); ++k) styles.push_back(fonts->at(i)->styleAt(k));
+    return styles;
+}
+
+void CTextStyleDialog::relistFonts() {
+    const CString file = fontText(), cut = fontStyleText();
+    m_font.ResetContent();
+    m_font.AddItems();
+    relistBigFonts();
+    m_listed = hostStyles();
+    selectFont(file);
+    // A file may hold several styles, of which it stands for the first.
+    const int style = cut.IsEmpty() ? -1 : m_fontStyle.FindStringExact(-1, cut);
+    if (selectedFont() == nullptr)
+        showFont(m_shown);
+    else if (style >= 0)
+        m_fontStyle.SetCurSel(style);
+}
+
+void CTextStyleDialog::relistBigFonts() {
+    CString name;
+    if (m_bigFonts.GetCurSel() >= 0) m_bigFonts.GetText(m_bigFonts.GetCurSel(), name);
+    m_bigFonts.FillList(true);
+    m_bigFonts.SetCurSel(name.IsEmpty() ? -1 : m_bigFonts.FindStringExact(-1, name));
+}
+
+void CTextStyleDialog::OnFontList() {
+    if (hostStyles() == m_listed) return;
+    const CString before = fontText();
+    relistFonts();
+    tellIfUnknown();
+    if (selectedFont() != nullptr && !before.IsEmpty() && fontText() != before) {
+        CString text;
+        text.Format(IDS_FONT_GONE, before.GetString());
+        ShowMessage(text);
+    }
+    enableBigFont();
+    OnChanged();
+}
+
+CString CTextStyleDialog::AskFontFile() { return AskFileName(*this, {IDS_FONT_FILTER, nullptr}); }
+
+void CTextStyleDialog::OnBrowseFont() {
+    const CString file = AskFontFile();
+    if (file.IsEmpty()) return;
+    CString message;
+    const CKhFontStyle* style = m_loader(file, message);
+    if (style == nullptr) {
+        AfxMessageBox(message, MB_ICONEXCLAMATION);
+        return;
+    }
+    OnFontList();
+    if (style->font()->isBigFont())
+        showLoadedBigFont(style->font()->name());
+    else
+        showLoadedFont(*style);
+}
+
+void CTextStyleDialog::showLoadedFont(const CKhFontStyle& style) {
+    selectFont(style.fileName());
+    OnFont();
+}
+
+void CTextStyleDialog::showLoadedBigFont(const CString& name) {
+    const CKhFont* font = selectedFont();
+    if (font == nullptr || !font->isShx()) {
+        CString text;
+        text.Format(IDS_BIG_FONT_ADDED, name.GetString());
+        ShowMessage(text);
+        return;
+    }
+    m_useBigFont.SetCheck(BST_CHECKED);
+    m_bigFonts.SetCurSel(m_bigFonts.FindStringExact(-1, name));
+    OnUseBigFont();
+}
+
 void CTextStyleDialog::OnFont() {
-    ShowMessage(CString());
+    tellIfUnknown();
+    OnFontListClosed();
+}
+
+void CTextStyleDialog::OnFontListClosed() {
+    // What was said when the list was dropped stays, unless closing it has brought the unknown font back.
+    if (selectedFont() == nullptr) tellIfUnknown();
     enableBigFont();
     OnChanged();
 }

@@ -9,13 +9,7 @@ namespace {
 
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 constexpr unsigned kPoll = 15;  // milliseconds
-
-std::wstring folderOfProgram() {
-    wchar_t path[MAX_PATH] = {};
-    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring full = path;
-    return full.substr(0, full.rfind(L'\\') + 1);
-}
+constexpr int kMessageTextId = 0xFFFF;
 
 void sendKey(WORD virtualKey, bool up) {
     INPUT input = {};
@@ -73,8 +67,8 @@ bool waitUntil(const std::function<bool()>& done, unsigned milliseconds) {
     return true;
 }
 
-Drafter::Drafter(const std::wstring& drawing) {
-    std::wstring command = L"\"" + folderOfProgram() + L"drafter.exe\"";
+Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder) {
+    std::wstring command = L"\"" + (folder.empty() ? programFolder() : folder) + L"drafter.exe\"";
     if (!drawing.empty()) command += L" \"" + drawing + L"\"";
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
@@ -150,6 +144,15 @@ HWND Drafter::waitForDialogOf(HWND owner) {
     });
     if (found != nullptr) settle(found);
     return found;
+}
+
+std::wstring Drafter::dismissMessage(HWND owner) {
+    HWND box = waitForDialogOf(owner);
+    const std::wstring text = box != nullptr ? textOf(item(box, kMessageTextId)) : L"";
+    if (text.empty()) return L"";
+    key(VK_RETURN);
+    waitUntilGone(box);
+    return text;
 }
 
 bool Drafter::waitUntilGone(HWND window) {
@@ -333,6 +336,13 @@ void picture(const std::string& name) {
     const std::string request = "Z:" + std::string(folder) + "/" + name + ".request";
     std::ofstream(request).put('\n');
     waitUntil([&] { return !std::ifstream(request).good(); }, 10000);
+}
+
+std::wstring programFolder() {
+    wchar_t path[MAX_PATH] = {};
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::wstring full = path;
+    return full.substr(0, full.rfind(L'\\') + 1);
 }
 
 std::wstring drawingsFolder() { return KTUI_DRAWINGS; }

@@ -11,8 +11,9 @@ namespace journey {
 /// A running drafter. Every wait has a deadline; a wait that fails answers null, false or an empty text.
 class Drafter {
 public:
-    /// Starts drafter.exe, which lies beside this program, on `drawing` (a path, or empty for none).
-    explicit Drafter(const std::wstring& drawing);
+    /// Starts drafter.exe on `drawing` (a path, or empty for none): the one in `folder` (with a backslash at
+    /// the end), or without a folder the one beside this program.
+    explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {});
     /// Closes the program without saving.
     ~Drafter();
     Drafter(const Drafter&) = delete;
@@ -27,6 +28,9 @@ public:
     HWND waitForDialog(const std::wstring& title);
     /// The visible dialog that belongs to `owner`, whatever its title, as soon as there is one.
     HWND waitForDialogOf(HWND owner);
+    /// Waits for a message box that belongs to `owner`, answers it by Enter, and answers its words; an empty
+    /// text if none comes up.
+    std::wstring dismissMessage(HWND owner);
     /// Whether `window` has gone, as soon as it has.
     bool waitUntilGone(HWND window);
 
@@ -85,6 +89,9 @@ HWND focusOf(HWND window);
 /// Asks the surrounding script for a picture of the screen under `name` and waits for it. Without a script
 /// that takes pictures (the environment variable KTUI_PICTURES names its folder) nothing happens.
 void picture(const std::string& name);
+
+/// The folder of this program, with a backslash at the end.
+std::wstring programFolder();
 
 /// The folder of the sample's drawings, and a scratch copy of one of them.
 std::wstring drawingsFolder();

@@ -19,9 +19,16 @@ protected:
     /// Opens nothing yet.
     Journey() { journey::forgetSettings(); }
 
-    void open(const std::wstring& drawing) {
+    /// Opens a drawing in the drafter, or in the one of another folder.
+    void open(const std::wstring& drawing, const std::wstring& folder = {}) {
         path = drawing;
-        drafter = std::make_unique<journey::Drafter>(path);
+        drafter = std::make_unique<journey::Drafter>(path, folder);
+    }
+    /// Opens the dialog behind Ctrl and a letter.
+    HWND openByKey(WORD letter) {
+        drafter->activate(drafter->frame());
+        drafter->key(letter, true);
+        return drafter->waitForDialogOf(drafter->frame());
     }
     /// Writes `drawing` to a scratch file of this name and opens it.
     void open(OdDbDatabase& drawing, const wchar_t* name) {

@@ -10,11 +10,6 @@ class Styles : public Journey {
 protected:
     Styles() : Journey(L"site_plan.dxf") {}
 
-    HWND openByKey(WORD letter) {
-        drafter->activate(drafter->frame());
-        drafter->key(letter, true);
-        return drafter->waitForDialogOf(drafter->frame());
-    }
     HWND openDimensionStyle() { return openByKey('D'); }
     HWND openTextStyle() { return openByKey('T'); }
     static OdDbDimStyleTableRecordPtr dimStyle(OdDbDatabase& drawing, const wchar_t* name) {

@@ -5,14 +5,18 @@
 #include <cstdio>
 
 #include <windows.h>
+#include <commctrl.h>
 #include <od_db.h>
 
+#include "../../platform/standin/resource.h"
 #include "../../samples/drafter/resource.h"
 #include "drafter_driver.h"
 
 using namespace journey;
 
 namespace {
+
+constexpr const wchar_t* kLoaded = L"HIDDEN";  // in the linetype files of the program
 
 /// Thrown away steps are worse than none: the first dialog that does not come up ends the tour.
 struct Missing {
@@ -51,6 +55,38 @@ void other(Drafter& drafter, HWND dialog, int id, const char* name) {
     close(drafter, behind);
 }
 
+std::wstring rowCount(HWND dialog, int list) {
+    return std::to_wstring(::SendMessageW(item(dialog, list), LVM_GETITEMCOUNT, 0, 0));
+}
+
+/// Shows the linetype manager, and loads a linetype from the program's own file.
+void showLinetypeManager(Drafter& drafter, HWND dialog) {
+    drafter.pickLast(item(dialog, IDC_LINETYPE));
+    HWND manager = opened(drafter, dialog, "the linetype manager");
+    tell("linetype-manager", L"Chose the last entry; \"" + textOf(manager) + L"\" opened with " +
+                                 rowCount(manager, IDC_LINETYPE_LIST) + L" linetypes");
+    drafter.key('O', false, true);
+    HWND load = opened(drafter, manager, "the dialog that loads linetypes");
+    drafter.type(kLoaded);
+    tell("load-linetypes", L"\"" + textOf(load) + L"\" lists " + rowCount(load, IDC_LOAD_LIST) +
+                               L" linetypes of " + textOf(item(load, IDC_LOAD_FILE)) + L"; typed " + kLoaded);
+    drafter.key(VK_RETURN);
+    drafter.waitUntilGone(load);
+    tell("linetype-loaded",
+         L"Loaded it: the manager lists " + rowCount(manager, IDC_LINETYPE_LIST) + L" linetypes");
+    drafter.key(VK_RETURN);
+    drafter.waitUntilGone(manager);
+}
+
+/// Shows the dialog of plot styles with the table of the layout.
+void showPlotStyles(Drafter& drafter, HWND dialog) {
+    drafter.pickLast(item(dialog, IDC_PLOT_STYLE));
+    HWND styles = opened(drafter, dialog, "the plot style dialog");
+    tell("plot-style-other", L"Chose the last entry; \"" + textOf(styles) + L"\" opened. " +
+                                 textOf(item(styles, IDC_PLOT_STYLE_SHEET)));
+    close(drafter, styles);
+}
+
 void showProperties(Drafter& drafter) {
     drafter.click(drafter.view(), {4, 4});
     drafter.key('A', true);
@@ -61,16 +97,16 @@ void showProperties(Drafter& drafter) {
     dropped(drafter, dialog, IDC_LINETYPE, "linetype");
     dropped(drafter, dialog, IDC_LINE_WEIGHT, "lineweight");
     dropped(drafter, dialog, IDC_PLOT_STYLE, "plot-style");
-    other(drafter, dialog, IDC_LINETYPE, "linetype-manager");
-    other(drafter, dialog, IDC_PLOT_STYLE, "plot-style-other");
+    showPlotStyles(drafter, dialog);
     other(drafter, dialog, IDC_INDEX_COLOR, "color-other");
-    drafter.pickByMouse(item(dialog, IDC_LINETYPE), L"DASHED");
+    showLinetypeManager(drafter, dialog);
     drafter.pickByMouse(item(dialog, IDC_LINE_WEIGHT), L"0.50 mm");
-    tell("properties-picked", L"Picked linetype and lineweight");
+    tell("properties-picked",
+         L"Took " + currentEntry(item(dialog, IDC_LINETYPE)) + L", and picked a lineweight");
     drafter.click(item(dialog, IDOK));
     drafter.waitUntilGone(dialog);
     drafter.key(VK_ESCAPE);
-    tell("properties-drawn", L"OK: the objects are drawn dashed and heavier");
+    tell("properties-drawn", L"OK: the objects are drawn with it, and heavier");
 }
 
 void showDimensionStyle(Drafter& drafter) {
@@ -99,20 +135,35 @@ void showDimensionStyle(Drafter& drafter) {
     drafter.waitUntilGone(dialog);
 }
 
+/// Shows the dialog that asks for a font file.
+void showBrowse(Drafter& drafter, HWND dialog) {
+    drafter.click(item(dialog, IDC_BROWSE_FONT));
+    HWND question = opened(drafter, dialog, "the question for a font file");
+    drafter.type(programFolder() + L"fonts");
+    drafter.key(VK_RETURN);
+    tell("font-file", L"Browsed for a font file: \"" + textOf(question) + L"\" lists the program's own");
+    close(drafter, question);
+}
+
 void showTextStyle(Drafter& drafter) {
     HWND dialog = openByKey(drafter, 'T', "the text style dialog");
     tell("text-style", L"Opened \"" + textOf(dialog) + L"\"");
     dropped(drafter, dialog, IDC_STYLE, "text-styles");
-    dropped(drafter, dialog, IDC_FONT, "font");
     drafter.pickByMouse(item(dialog, IDC_STYLE), L"TITLES");
-    tell("text-true-type", L"A style of a TrueType font");
-    if (::IsWindowEnabled(item(dialog, IDC_FONT_STYLE)))
-        dropped(drafter, dialog, IDC_FONT_STYLE, "font-style");
+    const std::wstring message = textOf(item(dialog, IDC_MESSAGE));
+    tell("text-true-type",
+         L"Chose the style TITLES: " + (message.empty() ? currentEntry(item(dialog, IDC_FONT)) : message));
+    showBrowse(drafter, dialog);
+    drafter.pickByMouse(item(dialog, IDC_FONT), L"Liberation Serif");
+    dropped(drafter, dialog, IDC_FONT, "font");
+    dropped(drafter, dialog, IDC_FONT_STYLE, "font-style");
+    drafter.pickByMouse(item(dialog, IDC_FONT_STYLE), L"Bold");
     drafter.replaceText(item(dialog, IDC_TEXT_SLANT), L"15");
     drafter.replaceText(item(dialog, IDC_TEXT_WIDTH), L"1.3");
-    tell("text-sample", L"Slanted and widened; the sample follows");
+    tell("text-sample", L"Picked a font and its style, slanted and widened; the sample follows");
     drafter.click(item(dialog, IDOK));
     drafter.waitUntilGone(dialog);
+    tell("text-drawn", L"OK: the titles are drawn with it");
 }
 
 /// Whether the saved drawing holds what was picked.
@@ -124,12 +175,16 @@ bool isStored(Drafter& drafter, const std::wstring& path) {
     if (drawing->readDxf(path.c_str()) != kOdOk) return false;
     const OdDbEntity* entity = drawing->modelSpaceId().open<OdDbBlockTableRecord>()->entities().front();
     const auto style = drawing->dimstyle().open<OdDbDimStyleTableRecord>();
+    const auto text = drawing->textstyle().open<OdDbTextStyleTableRecord>();
     std::printf(
-        "    stored: linetype %s, lineweight %d, dimension style %s with first arrowhead %s, size %g\n",
+        "    stored: linetype %s, lineweight %d, dimension style %s with first arrowhead %s, size %g, text "
+        "style %s with font %s\n",
         odUtf8(entity->linetype().view()).c_str(), entity->lineWeight(),
-        odUtf8(style->getName().view()).c_str(), odUtf8(style->dimblk1().view()).c_str(), style->dimasz());
-    return entity->linetype() == L"DASHED" && entity->lineWeight() == 50 && style->getName() == L"Tour" &&
-           style->dimblk1() == L"_Open90" && style->dimasz() == 2;
+        odUtf8(style->getName().view()).c_str(), odUtf8(style->dimblk1().view()).c_str(), style->dimasz(),
+        odUtf8(text->getName().view()).c_str(), odUtf8(text->fileName().view()).c_str());
+    return entity->linetype() == kLoaded && entity->lineWeight() == 50 && style->getName() == L"Tour" &&
+           style->dimblk1() == L"_Open90" && style->dimasz() == 2 && text->isBold() &&
+           text->typeFace() == L"Liberation Serif";
 }
 
 }  // namespace

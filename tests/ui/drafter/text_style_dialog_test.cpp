@@ -1,15 +1,8 @@
 // The text style dialog with fonts that a test sets up, and without any.
-#include "../../../samples/drafter/text_style_dialog.h"
-
-#include <standin_host.h>
-
-#include "../../../samples/drafter/resource.h"
 #include "../pickers/font_fixture.h"
-#include "ui_test.h"
+#include "text_style_fixture.h"
 
 namespace {
-
-const wchar_t* const kSettings = L"Software\\ktui drafter test";
 
 /// A complete host whose font list is the test's.
 class FontHost final : public CStandinHost, private CKhRuntimeHost {
@@ -25,63 +18,12 @@ private:
     CKhFontList* m_fonts;
 };
 
-class Dialog : public CTextStyleDialog {
-public:
-    Dialog(OdDbDatabase& drawing, CWnd* parent) : CTextStyleDialog(drawing, parent) {
-        SetAppRootKey((CString(kSettings) + L"\\").GetString());
-    }
-};
-
-class TextStyleDialog : public ::testing::Test {
+class TextStyleDialog : public ui_test::TextStyleDialogTest {
 protected:
-    explicit TextStyleDialog(bool withFonts = true)
-        : host(withFonts ? &fonts : nullptr), drawing(new OdDbDatabase) {
-        oddbHostApplicationServices()->setWorkingDatabase(drawing.get());
-        AfxGetApp()->m_pMainWnd = &parent;
-    }
-    ~TextStyleDialog() override {
-        AfxGetApp()->m_pMainWnd = nullptr;
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, kSettings);
-    }
-
-    OdDbTextStyleTableRecordPtr standard() {
-        return drawing->textstyle().open<OdDbTextStyleTableRecord>(OdDb::kForWrite);
-    }
-    /// Shows the dialog, runs `action` in it, and answers it with `answer`.
-    void show(const std::function<void(CWnd&)>& action, int answer = IDOK) {
-        Dialog dialog(*drawing, &parent);
-        ui_test::later([&] {
-            action(dialog);
-            dialog.PostMessage(WM_COMMAND, static_cast<WPARAM>(answer));
-        });
-        EXPECT_EQ(dialog.DoModal(), answer);
-    }
-    static CString entry(CWnd& dialog, int id) {
-        CWnd* combo = dialog.GetDlgItem(id);
-        const auto index = static_cast<WPARAM>(combo->SendMessage(CB_GETCURSEL));
-        wchar_t text[100] = {};
-        combo->SendMessage(CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text));
-        return text;
-    }
-    static void notify(CWnd& dialog, int id, int code) {
-        dialog.SendMessage(WM_COMMAND, MAKEWPARAM(id, code),
-                           reinterpret_cast<LPARAM>(dialog.GetDlgItem(id)->m_hWnd));
-    }
-    /// Selects an entry of a combo box as the user does.
-    static void pick(CWnd& dialog, int id, const wchar_t* text) {
-        CWnd* combo = dialog.GetDlgItem(id);
-        const auto index =
-            combo->SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
-        ASSERT_GE(index, 0) << odUtf8(text);
-        combo->SendMessage(CB_SETCURSEL, static_cast<WPARAM>(index));
-        notify(dialog, id, CBN_SELCHANGE);
-    }
-    static bool isEnabled(CWnd& dialog, int id) { return dialog.GetDlgItem(id)->IsWindowEnabled() != 0; }
+    explicit TextStyleDialog(bool withFonts = true) : host(withFonts ? &fonts : nullptr) {}
 
     ui_test::FakeFonts fonts;
     FontHost host;
-    OdDbDatabasePtr drawing;
-    ui_test::ParentWindow parent;
 };
 
 class TextStyleDialogWithoutFonts : public TextStyleDialog {
@@ -96,7 +38,7 @@ TEST_F(TextStyleDialog, AKnownFontIsShownWithItsCutAndNoBigFont) {
         EXPECT_EQ(entry(dialog, IDC_FONT_STYLE), L"Bold");
         EXPECT_FALSE(isEnabled(dialog, IDC_USE_BIG_FONT));
         EXPECT_FALSE(isEnabled(dialog, IDC_BIG_FONTS));
-        EXPECT_EQ(ui_test::text_of(dialog.GetDlgItem(IDC_MESSAGE)->m_hWnd), L"");
+        EXPECT_EQ(message(dialog), L"");
     });
     EXPECT_EQ(standard()->fileName(), L"arialbd.ttf");
 }
@@ -156,7 +98,7 @@ TEST_F(TextStyleDialog, AnUnknownFontIsNamedAndStays) {
     standard()->setFont(L"Gone", true, false);
     show([&](CWnd& dialog) {
         EXPECT_EQ(dialog.GetDlgItem(IDC_FONT)->SendMessage(CB_GETCURSEL), CB_ERR);
-        EXPECT_NE(ui_test::text_of(dialog.GetDlgItem(IDC_MESSAGE)->m_hWnd).Find(L"gone.ttf"), -1);
+        EXPECT_NE(message(dialog).Find(L"gone.ttf"), -1);
     });
     EXPECT_EQ(standard()->fileName(), L"gone.ttf");
     EXPECT_EQ(standard()->typeFace(), L"Gone");
@@ -181,7 +123,7 @@ TEST_F(TextStyleDialog, ASlantOrWidthOutOfRangeIsRefused) {
         const auto refuses = [&](int id, const wchar_t* bad, const wchar_t* good) {
             dialog.GetDlgItem(id)->SetWindowText(bad);
             dialog.SendMessage(WM_COMMAND, IDOK);
-            refused += ui_test::text_of(dialog.GetDlgItem(IDC_MESSAGE)->m_hWnd).IsEmpty() ? 0 : 1;
+            refused += message(dialog).IsEmpty() ? 0 : 1;
             dialog.GetDlgItem(id)->SetWindowText(good);
         };
         refuses(IDC_TEXT_SLANT, L"86", L"-85");

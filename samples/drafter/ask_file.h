@@ -1,0 +1,15 @@
+// The system's dialogs that ask for a file.
+#pragma once
+
+#include <afxwin.h>
+
+/// What the user is asked for.
+struct FileQuestion {
+    UINT filter;               ///< string with the kinds of file, parted by |
+    const wchar_t* extension;  ///< put behind a name without one; null for none
+    bool isForSaving = false;
+};
+
+/// Asks in front of `owner` for a file to open, which is there, or to save to; its whole path, or an empty
+/// text if the user cancelled. The current folder of the program stays.
+CString AskFileName(CWnd& owner, const FileQuestion& question);
