@@ -4,8 +4,8 @@
 
 namespace {
 
-// On a machine that does much else a dialog now and then came up with its controls empty, three times in some
-// thousands; why has not been found. Such a one is cancelled and counted.
+// On a machine that does much else a dialog now and then came up with its controls empty, twice in some tens
+// of thousands; why has not been found. Such a one is cancelled and counted.
 constexpr int kMostUnfilled = 5;
 
 class StandinLeaks : public leaks::Leaks {
