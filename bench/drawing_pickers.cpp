@@ -21,10 +21,7 @@ constexpr int kFills = 10;
 constexpr int kDrops = 5;
 constexpr int kPaints = 10;
 constexpr double kGoal = 1.1;
-constexpr UINT kPickerId = 1;
-constexpr DWORD kStyle =
-    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
-const CRect kPlace(10, 10, 210, 420);
+constexpr int kItemWidth = 200;  // pixels
 constexpr int kItemHeight = 18;  // pixels
 
 /// A drawing with plot styles, in use by the host for as long as the object lives.
@@ -77,25 +74,13 @@ void draw_text_item(const DRAWITEMSTRUCT& item) {
     ::DrawTextW(item.hDC, text, -1, &rect, DT_SINGLELINE | DT_VCENTER);
 }
 
-LRESULT CALLBACK drawing_parent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_MEASUREITEM) {
-        reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = kItemHeight;
-        return TRUE;
-    }
-    if (message == WM_DRAWITEM) {
-        draw_text_item(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        return TRUE;
-    }
-    return ::DefWindowProcW(window, message, wParam, lParam);
-}
-
 /// A bitmap on which a combo box's parent is told to draw items.
 class Canvas {
 public:
     Canvas() {
         CClientDC screen(nullptr);
         m_dc.CreateCompatibleDC(&screen);
-        m_bitmap.CreateCompatibleBitmap(&screen, kPlace.Width(), kVisibleItems * kItemHeight);
+        m_bitmap.CreateCompatibleBitmap(&screen, kItemWidth, kVisibleItems * kItemHeight);
         m_former = m_dc.SelectObject(&m_bitmap);
     }
     ~Canvas() { m_dc.SelectObject(m_former); }
@@ -110,13 +95,13 @@ public:
             for (int i = 0; i < kVisibleItems; ++i) {
                 DRAWITEMSTRUCT item = {};
                 item.CtlType = ODT_COMBOBOX;
-                item.CtlID = kPickerId;
+                item.CtlID = bench::kPickerId;
                 item.itemID = static_cast<UINT>(i % count);
                 item.itemAction = ODA_DRAWENTIRE;
                 item.hwndItem = combo;
                 item.hDC = m_dc.m_hDC;
-                item.rcItem = CRect(0, i * kItemHeight, kPlace.Width(), (i + 1) * kItemHeight);
-                ::SendMessageW(parent, WM_DRAWITEM, kPickerId, reinterpret_cast<LPARAM>(&item));
+                item.rcItem = CRect(0, i * kItemHeight, kItemWidth, (i + 1) * kItemHeight);
+                ::SendMessageW(parent, WM_DRAWITEM, bench::kPickerId, reinterpret_cast<LPARAM>(&item));
             }
             ::GdiFlush();
         });
@@ -132,13 +117,7 @@ private:
 class Pair {
 public:
     explicit Pair(CKtUiMRUComboBox& picker) : m_picker(picker) {
-        m_holder.CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), L"",
-                          WS_POPUP | WS_VISIBLE, CRect(20, 20, 420, 500), nullptr, 0);
-        m_picker.Create(kStyle, kPlace, &m_holder, kPickerId);
-        m_parent = bench::make_bare_window(L"drawing parent", drawing_parent);
-        m_peer = ::CreateWindowExW(0, L"COMBOBOX", L"", kStyle, kPlace.left, kPlace.top, kPlace.Width(),
-                                   kPlace.Height(), m_parent, reinterpret_cast<HMENU>(kPickerId), nullptr,
-                                   nullptr);
+        m_picker.Create(bench::kPickerStyle, bench::kPickerPlace, &m_holder, bench::kPickerId);
         ::SendMessageW(m_peer, CB_SETITEMHEIGHT, 0, m_picker.GetItemHeight(0));
         for (int i = 0; i < m_picker.GetCount(); ++i) {
             CString text;
@@ -147,11 +126,7 @@ public:
         }
         fillPeer();
     }
-    ~Pair() {
-        m_picker.DestroyWindow();
-        ::DestroyWindow(m_parent);
-        m_holder.DestroyWindow();
-    }
+    ~Pair() { m_picker.DestroyWindow(); }
     Pair(const Pair&) = delete;
     Pair& operator=(const Pair&) = delete;
 
@@ -210,10 +185,10 @@ private:
         return seconds;
     }
 
-    CWnd m_holder;
+    bench::PickerHolder m_holder;
     CKtUiMRUComboBox& m_picker;
-    HWND m_parent;
-    HWND m_peer;
+    const bench::BareCombo m_bare{draw_text_item};
+    HWND m_peer = m_bare.get();
     std::vector<std::wstring> m_texts;
     Canvas m_canvas;
 };

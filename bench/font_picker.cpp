@@ -18,8 +18,6 @@ namespace fs = std::filesystem;
 
 constexpr int kFonts = 500;
 constexpr int kRounds = 15;
-constexpr DWORD kStyle =
-    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
 
 /// A folder of font files, which goes with the object.
 struct FontFolder {
@@ -62,12 +60,10 @@ void bench::measure_fonts() {
     const FontFolder folder;
     FontHost known(folder);
     const std::vector<std::wstring> names = names_of(*known.host.runtimeHost()->shxFontList());
-    CWnd holder;
-    holder.CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), L"",
-                    WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), nullptr, 0);
+    PickerHolder holder;
     CKtUiFontComboBox ours;
-    ours.Create(kStyle, CRect(10, 10, 200, 200), &holder, 1);
-    const BareCombo bare(kStyle);
+    ours.Create(kPickerStyle, kPickerPlace, &holder, kPickerId);
+    const BareCombo bare;
     HWND peer = bare.get();
     const auto fillOurs = [&] {
         ours.ResetContent();
@@ -96,5 +92,4 @@ void bench::measure_fonts() {
     report("500 fonts, never seen before", compare(kRounds, 1, fillWithoutCache, fillPeer), 0);
     report("500 fonts, in a program just started", compare(kRounds, 1, fillWithNewHost, fillPeer), 0);
     report("500 fonts, again", compare(kRounds, 1, fillOurs, fillPeer), 1.10);
-    holder.DestroyWindow();
 }

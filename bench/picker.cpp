@@ -9,8 +9,6 @@ namespace {
 
 constexpr int kEntries = 1000;
 constexpr int kRounds = 31;
-constexpr DWORD kStyle =
-    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
 
 std::vector<std::wstring> make_names() {
     std::vector<std::wstring> names;
@@ -22,12 +20,10 @@ std::vector<std::wstring> make_names() {
 
 void bench::measure_picker() {
     const std::vector<std::wstring> names = make_names();
-    CWnd holder;
-    holder.CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), L"",
-                    WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), nullptr, 0);
+    PickerHolder holder;
     CKtUiMRUComboBox ours;
-    ours.Create(kStyle, CRect(10, 10, 200, 200), &holder, 1);
-    const BareCombo bare(kStyle);
+    ours.Create(kPickerStyle, kPickerPlace, &holder, kPickerId);
+    const BareCombo bare;
     HWND peer = bare.get();
     const auto fillOurs = [&] {
         ours.ResetContent();
@@ -48,5 +44,4 @@ void bench::measure_picker() {
         });
     };
     report("filling a picker with 1,000 entries", compare(kRounds, 1, fillOurs, fillPeer), 1.05);
-    holder.DestroyWindow();
 }

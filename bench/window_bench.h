@@ -41,13 +41,35 @@ inline HWND make_bare_window(const wchar_t* name, WNDPROC procedure) {
                              looks.hInstance, nullptr);
 }
 
-/// A bare combo box, owner-drawn with items of 15 pixels, in a bare window of its own.
+constexpr DWORD kPickerStyle =
+    WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+constexpr RECT kPickerPlace = {10, 10, 210, 420};
+constexpr UINT kPickerId = 1;
+
+/// A visible window of the class layer, which a picker is made in.
+class PickerHolder : public CWnd {
+public:
+    PickerHolder() {
+        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), L"",
+                 WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), nullptr, 0);
+    }
+    ~PickerHolder() override { DestroyWindow(); }
+};
+
+/// A bare owner-drawn combo box in a bare window of its own: the peer of a picker.
 class BareCombo {
 public:
-    explicit BareCombo(DWORD style)
+    using DrawItem = void (*)(const DRAWITEMSTRUCT&);
+
+    /// Without `draw` items stay empty.
+    explicit BareCombo(DrawItem draw = nullptr)
         : m_parent(make_bare_window(L"measuring parent", answer)),
-          m_combo(::CreateWindowExW(0, L"COMBOBOX", L"", style, 10, 10, 190, 190, m_parent,
-                                    reinterpret_cast<HMENU>(1), nullptr, nullptr)) {}
+          m_combo(::CreateWindowExW(0, L"COMBOBOX", L"", kPickerStyle, kPickerPlace.left, kPickerPlace.top,
+                                    kPickerPlace.right - kPickerPlace.left,
+                                    kPickerPlace.bottom - kPickerPlace.top, m_parent,
+                                    reinterpret_cast<HMENU>(kPickerId), nullptr, nullptr)) {
+        ::SetWindowLongPtrW(m_parent, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(draw));
+    }
     ~BareCombo() { ::DestroyWindow(m_parent); }
     BareCombo(const BareCombo&) = delete;
     BareCombo& operator=(const BareCombo&) = delete;
@@ -55,11 +77,15 @@ public:
 
 private:
     static LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        constexpr UINT kItemHeight = 15;  // pixels
         if (message == WM_MEASUREITEM) {
-            reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 15;
+            reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = kItemHeight;
             return TRUE;
         }
-        return message == WM_DRAWITEM ? TRUE : ::DefWindowProcW(window, message, wParam, lParam);
+        if (message != WM_DRAWITEM) return ::DefWindowProcW(window, message, wParam, lParam);
+        if (auto draw = reinterpret_cast<DrawItem>(::GetWindowLongPtrW(window, GWLP_USERDATA)))
+            draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        return TRUE;
     }
 
     HWND m_parent;

@@ -1,5 +1,7 @@
 #include "drawing_view.h"
 
+#include <afxext.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -84,15 +86,9 @@ void CDrawingView::OnPaint() {
     CRect client;
     GetClientRect(&client);
     if (client.IsRectEmpty()) return;
-    CDC memory;
-    CBitmap bitmap;
-    memory.CreateCompatibleDC(&dc);
-    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
-    CBitmap* former = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(&client, kDrawingPaper);
-    PaintScene(memory, m_scene, place(), m_selection);
-    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
-    memory.SelectObject(former);
+    CMemDC memory(dc, client);
+    memory.GetDC().FillSolidRect(&client, kDrawingPaper);
+    PaintScene(memory.GetDC(), m_scene, place(), m_selection);
 }
 
 BOOL CDrawingView::OnEraseBkgnd(CDC*) { return TRUE; }

@@ -1,5 +1,7 @@
 #include "scene_preview.h"
 
+#include <afxext.h>
+
 IMPLEMENT_DYNAMIC(CScenePreview, CStatic)
 
 BEGIN_MESSAGE_MAP(CScenePreview, CStatic)
@@ -18,18 +20,12 @@ void CScenePreview::OnPaint() {
     CRect client;
     GetClientRect(&client);
     if (client.IsRectEmpty()) return;
-    CDC memory;
-    CBitmap bitmap;
-    memory.CreateCompatibleDC(&dc);
-    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
-    CBitmap* former = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(&client, kDrawingPaper);
+    CMemDC memory(dc, client);
+    memory.GetDC().FillSolidRect(&client, kDrawingPaper);
     ScenePlace place;
     place.size = client.Size();
     place.Fit(m_scene.extents());
-    PaintScene(memory, m_scene, place);
-    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
-    memory.SelectObject(former);
+    PaintScene(memory.GetDC(), m_scene, place);
 }
 
 BOOL CScenePreview::OnEraseBkgnd(CDC*) { return TRUE; }

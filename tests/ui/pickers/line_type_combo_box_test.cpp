@@ -1,4 +1,3 @@
-#include "leak_count.h"
 #include "line_type_fixture.h"
 
 using ui_test::addLinetype;
@@ -237,13 +236,5 @@ TEST(LinetypePicker, OpeningAndClosingLeavesNothingBehind) {
         of.in.closeUp();
         of.picker.ShowLTypes(true);
     };
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects before = count_held_objects();
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects after = count_held_objects();
-    EXPECT_LE(after.gdiObjects, before.gdiObjects);
-    EXPECT_LE(after.windows, before.windows);
-    EXPECT_LE(after.heapBlocks, before.heapBlocks + 20);
+    ui_test::expectNothingLeft(openAndClose);
 }

@@ -2,7 +2,6 @@
 
 #include <ktui/pickers/line_weights.h>
 
-#include "leak_count.h"
 #include "picker_fixture.h"
 #include "working_drawing.h"
 
@@ -234,13 +233,5 @@ TEST(LineWeightPicker, OpeningAndClosingLeavesNothingBehind) {
         ui_test::pump();
         in.closeUp();
     };
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects before = count_held_objects();
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects after = count_held_objects();
-    EXPECT_LE(after.gdiObjects, before.gdiObjects);
-    EXPECT_LE(after.windows, before.windows);
-    EXPECT_LE(after.heapBlocks, before.heapBlocks + 20);
+    ui_test::expectNothingLeft(openAndClose);
 }

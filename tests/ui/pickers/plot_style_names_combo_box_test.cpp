@@ -4,7 +4,6 @@
 #include <ktdb.h>
 #include <ktut.h>
 
-#include "leak_count.h"
 #include "picker_fixture.h"
 #include "working_drawing.h"
 
@@ -329,13 +328,5 @@ TEST(PlotStyleNames, OpeningAndClosingLeavesNothingBehind) {
         of.in.closeUp();
         of.picker.SetColorDependentMode();
     };
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects before = count_held_objects();
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects after = count_held_objects();
-    EXPECT_LE(after.gdiObjects, before.gdiObjects);
-    EXPECT_LE(after.windows, before.windows);
-    EXPECT_LE(after.heapBlocks, before.heapBlocks + 20);
+    ui_test::expectNothingLeft(openAndClose);
 }

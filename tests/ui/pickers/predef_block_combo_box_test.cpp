@@ -3,7 +3,6 @@
 #include <ktdsres/resource_ids.h>
 #include <ktui/res/resource_ids.h>
 
-#include "leak_count.h"
 #include "strip_fixture.h"
 
 using ui_test::Canvas;
@@ -107,13 +106,5 @@ TEST(BlockPicker, OpeningAndClosingLeavesNothingBehind) {
         ui_test::pump();
         in.closeUp();
     };
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects before = count_held_objects();
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects after = count_held_objects();
-    EXPECT_LE(after.gdiObjects, before.gdiObjects);
-    EXPECT_LE(after.windows, before.windows);
-    EXPECT_LE(after.heapBlocks, before.heapBlocks + 20);
+    ui_test::expectNothingLeft(openAndClose);
 }

@@ -1,7 +1,6 @@
 #include <ktui/pickers/shx_font_list.h>
 
 #include "font_fixture.h"
-#include "leak_count.h"
 #include "picker_fixture.h"
 
 using ui_test::Canvas;
@@ -174,13 +173,5 @@ TEST(ShxFontList, OpeningAndClosingLeavesNothingBehind) {
         of.list.FillList(false);
         ui_test::pump();
     };
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects before = count_held_objects();
-    for (int i = 0; i < 50; ++i) openAndClose();
-    ui_test::idle();
-    const HeldObjects after = count_held_objects();
-    EXPECT_LE(after.gdiObjects, before.gdiObjects);
-    EXPECT_LE(after.windows, before.windows);
-    EXPECT_LE(after.heapBlocks, before.heapBlocks + 20);
+    ui_test::expectNothingLeft(openAndClose);
 }
