@@ -422,6 +422,8 @@ class Finder:
         self._add(context, cursor, "a string", f"({ON} ? {changed} : @WAS@)", changed)
 
     def call(self, cursor, context):
+        if cursor.spelling.startswith("operator"):
+            return  # its operands are no arguments to a reader; in place of an assignment's left side a copy would stand
         arguments = list(cursor.get_arguments())
         extents = [self._extent(a, context.name) if a is not None else None for a in arguments]
         for i, (argument, extent) in enumerate(zip(arguments, extents)):

@@ -2,13 +2,36 @@
 // on, or -1 to note which mutants are reached, one number a line, in the file named by KTUI_MUTANT_REACHED.
 #pragma once
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <initializer_list>
 #include <type_traits>
 #include <utility>
 
+#ifdef _WIN32
+extern "C" __declspec(dllimport) unsigned long __stdcall GetLastError(void);
+extern "C" __declspec(dllimport) void __stdcall SetLastError(unsigned long);
+#endif
+
 namespace ktui_mutation {
+
+/// Puts back what a program may look at after a call.
+class KeepErrors {
+public:
+    ~KeepErrors() {
+        errno = m_errno;
+#ifdef _WIN32
+        SetLastError(m_lastError);
+#endif
+    }
+
+private:
+    int m_errno = errno;
+#ifdef _WIN32
+    unsigned long m_lastError = GetLastError();
+#endif
+};
 
 constexpr int kMostMutants = 100000;
 constexpr int kNoteReached = -1;
@@ -22,6 +45,7 @@ inline void note(int mutant) {
     static unsigned char noted[kMostMutants] = {};
     if (mutant >= kMostMutants || noted[mutant]) return;
     noted[mutant] = 1;
+    const KeepErrors keep;
     const char* file = std::getenv("KTUI_MUTANT_REACHED");
     if (!file) return;
     if (std::FILE* out = std::fopen(file, "ab")) {
