@@ -1,0 +1,1 @@
+"""Mutation testing: finds, weaves in, builds and runs deliberate defects."""

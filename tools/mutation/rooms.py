@@ -1,0 +1,49 @@
+"""Which sources make a room, which test programs hold its rules, and the mark that the room has to reach."""
+
+from dataclasses import dataclass, field
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+
+@dataclass(frozen=True)
+class Room:
+    name: str
+    sources: tuple  # folders below the root
+    native: tuple = ()  # test programs of the native build
+    windows: tuple = ()  # test programs under Wine
+    mark: int = 95  # per cent that have to be noticed
+    without: tuple = field(default=())  # files that are data, not rules
+
+    def files(self):
+        found = []
+        for folder in self.sources:
+            path = ROOT / folder
+            found += [path] if path.is_file() else sorted(path.rglob("*.cpp")) + sorted(path.rglob("*.h"))
+        return [f for f in found if f.relative_to(ROOT).as_posix() not in self.without]
+
+
+def _toolkit(name, *windows):
+    return Room(f"ktui/{name}", (f"ktui/{name}",), ("ktui_core_test",), windows or (f"ui_{name}_test",))
+
+
+_MFC = ("mfc_gdi_test", "mfc_controls_test", "mfc_window_test", "mfc_dialog_test", "mfc_application_test")
+
+ROOMS = {
+    room.name: room
+    for room in (
+        _toolkit("host"),
+        _toolkit("text"),
+        _toolkit("input"),
+        _toolkit("controls"),
+        _toolkit("pickers"),
+        _toolkit("dialogs"),
+        _toolkit("tips"),
+        Room("platform/ktdb", ("platform/ktdb",), ("ktdb_test",), (), 90),
+        Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),
+        Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),
+        Room("platform/standin", ("platform/standin",), ("standin_core_test",), ("ui_standin_test",), 90),
+        Room("platform/drawing", ("platform/drawing",), ("drawing_test",), (), 90),
+        Room("platform/mfc", ("platform/mfc",), ("mfc_core_test",), _MFC, 80),
+    )
+}
