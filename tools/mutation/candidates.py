@@ -69,6 +69,14 @@ def _macro_calls(data):
     return calls
 
 
+def _independent(first, second):
+    """Whether two plain assignments of values to different places may stand either way round."""
+    sides = [re.fullmatch(r"([\w.>\[\]-]+)\s*=\s*([^()]*);", text, flags=re.S) for text in (first, second)]
+    if not all(sides):
+        return False
+    return sides[0].group(1) not in second and sides[1].group(1) not in first
+
+
 @dataclass
 class Weakening:
     """A constexpr that has to go so that its value can be switched."""
@@ -308,7 +316,7 @@ class Finder:
                 continue
             first = self.text(context.name, *previous)
             second = self.text(context.name, extent[0], end)
-            if first != second:
+            if first != second and not _independent(first, second):
                 whole = (previous[0], end)
                 self._add(context, cursor, "statements exchanged", f"if ({ON}) {{ {second} {first} }} else {{ @WAS@ }}",
                           f"{second} {first}", whole, SEQUENCE)
