@@ -1,5 +1,6 @@
-// The switch behind every mutant that is woven into a source: the environment variable KTUI_MUTANT names the one that is
-// on, or -1 to note which mutants are reached, one number a line, in the file named by KTUI_MUTANT_REACHED.
+// The switch behind every mutant that is woven into a source: the environment variable KTUI_MUTANT names the
+// one that is on, or -1 to note which mutants are reached, one number a line, in the file named by
+// KTUI_MUTANT_REACHED.
 #pragma once
 
 #include <cerrno>
@@ -84,4 +85,5 @@ Row row(bool left_out, std::initializer_list<Row> rows) {
 }  // namespace ktui_mutation
 
 #define KTUI_MUTANT(n) ::ktui_mutation::on(n)
-#define KTUI_MUTANT_ROW(n, ...) ::ktui_mutation::row<AFX_MSGMAP_ENTRY>(KTUI_MUTANT(n), {AFX_MSGMAP_ENTRY __VA_ARGS__}),
+#define KTUI_MUTANT_ROW(n, ...) \
+    ::ktui_mutation::row<AFX_MSGMAP_ENTRY>(KTUI_MUTANT(n), {AFX_MSGMAP_ENTRY __VA_ARGS__}),
