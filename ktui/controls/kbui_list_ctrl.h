@@ -9,7 +9,7 @@ class KTUI_API CKbUiListCtrl : public CListCtrl {
 public:
     CKbUiListCtrl();
 
-    // Kept: the number of rows, whatever the name says. Callers bound their row loops with it.
+    // Kept: the number of rows, whatever the name says.
     int ColumnCount() const;
     /// Row and column of the cell at `point` (client); both -1 if there is none.
     void GetItemAtPoint(CPoint& point, int& item, int& column);

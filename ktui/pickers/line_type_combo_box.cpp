@@ -28,7 +28,7 @@ CKtUiLTypeRecord* makeRecord(const OdDbObjectId& id) {
     const OdDbLinetypeTableRecordPtr linetype = id.open<OdDbLinetypeTableRecord>();
     OdString name;
     if (!linetype || linetype->isDependent() || linetype->getName(name) != kOdOk) return nullptr;
-    // Kept: the name ends at a terminator within it. Owners rely on the list showing what the record says.
+    // Kept: the name ends at a terminator within it.
     return new CKtUiLTypeRecord(name.c_str(), id);
 }
 
@@ -129,7 +129,7 @@ int CKtUiLineTypeComboBox::FindItemByCargo(OdDbObjectId id) {
 }
 
 int CKtUiLineTypeComboBox::AddLTypeToControl(CKtUiLTypeRecord* record) {
-    // Kept: the known item stays behind the new one. Owners rely on the new name being found first by id.
+    // Kept: the known item stays behind the new one.
     return InsertItemInList(FindItemByCargo(record->m_id), record->m_name, record->cargo());
 }
 
@@ -180,8 +180,7 @@ int CKtUiLineTypeComboBox::OnSelectOther(int, int lastSel, int& newIndex) {
     host->showLinetypeDialog(getOIDSel(lastSel), chosen, kDialogMode);
     ShowLTypes(true);
     newIndex = FindItemByCargo(chosen);
-    // Kept: a cancel counts as accepted and keeps the index, whatever stands there after the reload. Owners
-    // rely on an index that the control selects again, since the reload has lost the selection.
+    // Kept: a cancel counts as accepted and keeps the index, whatever stands there after the reload.
     if (newIndex < 0) newIndex = lastSel;
     return 1;
 }
@@ -212,7 +211,7 @@ void CKtUiLineTypeComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     CRect sample = rect;
     sample.DeflateRect(kSampleMarginX, kSampleMarginY);
     OdDbObjectId id = record->m_id;
-    // Kept: the answer isn't looked at. Subclasses that fill the id and answer false rely on it being drawn.
+    // Kept: the answer isn't looked at.
     if (record == m_byLayerRecord) GetCurrentLayerLineType(id);
     preview->drawLinetype(dc.GetSafeHdc(), sample, id, kSampleInk, kSamplePaper);
 }

@@ -57,8 +57,7 @@ void CKtUiPlotStyleNamesComboBox::SetColorDependentMode() {
 void CKtUiPlotStyleNamesComboBox::SetNamedMode() {
     m_mruFlags |= kUseOption1 | kUseOption2 | kUseOther1;
     m_colorDependent = 0;
-    // Kept: what the list holds stays, ByColor and earlier names included. Owners rely on clearing it
-    // themselves when the drawing has changed.
+    // Kept: what the list holds stays, ByColor and earlier names included.
     OnAddItems();
 }
 
@@ -73,7 +72,6 @@ void CKtUiPlotStyleNamesComboBox::OnAddItems() {
 
 void CKtUiPlotStyleNamesComboBox::showByColor() {
     // Kept: in a filled list the first name of the dictionary has the same cargo and is selected instead.
-    // Owners rely on a list that doesn't grow.
     const int known = FindItemByCargo(0);
     SetCurSel(known >= 0 ? known : AddItemToList(kByColor, 0));
 }

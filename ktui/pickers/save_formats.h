@@ -41,7 +41,7 @@ constexpr int BaseSaveFormat(int code) { return code > 1000 ? code % 1000 : code
 
 /// Whether `code` may be stored as the user's choice. Only the range of its base counts.
 constexpr bool IsStorableSaveFormat(int code) {
-    // Kept: a code without a row may be stored. Hosts rely on it for formats that a later version knows.
+    // Kept: a code without a row may be stored.
     return BaseSaveFormat(code) >= 1 && BaseSaveFormat(code) <= 63;
 }
 
