@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include <ktui/ktui_api.h>
 
@@ -21,5 +22,6 @@ struct Arrowhead {
 /// The arrowheads in the order of the list, which is that of their cargo.
 KTUI_API const std::array<Arrowhead, kArrowheadCount>& Arrowheads();
 
-/// Top of the picture of `cargo` in the strip, in pixels; -1 for a cargo without a picture.
-KTUI_API int ArrowheadStripTop(int cargo);
+/// Top of the picture of `cargo` in a strip of pictures of `imageSize` pixels, in pixels; -1 for a cargo
+/// without a picture.
+KTUI_API int ArrowheadStripTop(std::int64_t cargo, int imageSize);

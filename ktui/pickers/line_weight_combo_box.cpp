@@ -33,7 +33,7 @@ int CKtUiLineWeightComboBox::GetCurrentLayerLineWeight() {
 int CKtUiLineWeightComboBox::GetCurrentLayerVpOverride() { return 0; }
 
 void CKtUiLineWeightComboBox::OnAddItems() {
-    // Kept: this text isn't translated, unlike the name of the default weight. Owners find the item by it.
+    // Kept: this text isn't translated, unlike the name of the default weight.
     if (m_useDefault) AddItemToList(L"Default", OdDb::kLnWtByLwDefault);
     const bool inch = KhUtLWeightUtil::getLWeightUnits() == 0;
     for (const LineWeightName& name : LineWeightNames()) {
@@ -54,6 +54,7 @@ int CKtUiLineWeightComboBox::ImageWidth() {
 
 /// The weight to draw for the item with `cargo`; false if nothing is drawn for it.
 bool CKtUiLineWeightComboBox::sampleWeight(__int64 cargo, int& weight) {
+    if (cargo != static_cast<int>(cargo)) return false;
     weight = cargo == OdDb::kLnWtByLayer ? GetCurrentLayerLineWeight() : static_cast<int>(cargo);
     if (weight == OdDb::kLnWtByBlock) weight = 1;
     if (weight == OdDb::kLnWtByLwDefault) {
@@ -76,8 +77,7 @@ void CKtUiLineWeightComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo)
 
 void CKtUiLineWeightComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
-    // Kept: an index outside the list has ByLayer's cargo and says the override too. Only -1 never does,
-    // which the closed face without a selection relies on.
+    // Kept: an index outside the list has ByLayer's cargo and says the override too. Only -1 never does.
     const bool isByLayer = index != -1 && GetItemCargo(index) == OdDb::kLnWtByLayer;
     if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
 }

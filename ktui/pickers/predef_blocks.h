@@ -3,12 +3,12 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include <ktui/ktui_api.h>
 
 constexpr int kPicturedBlockCount = 6;
-constexpr int kBlockPictureWidth = 16;   ///< pixels
-constexpr int kBlockPictureHeight = 17;  ///< pixels
+constexpr int kBlockPictureWidth = 16;  ///< pixels
 
 /// One block, or the entry that leads to a block of the user's.
 struct PredefBlock {
@@ -20,6 +20,7 @@ struct PredefBlock {
 /// The blocks in the order of the list, the entry for the user's own last.
 KTUI_API const std::array<PredefBlock, kPicturedBlockCount + 1>& PredefBlocks();
 
-/// Top of the picture of `cargo` in the strip, in pixels; -1 for a cargo without a picture. The entry for the
-/// user's own block has the row below the last picture.
-KTUI_API int BlockStripTop(int cargo);
+/// Top of the picture of `cargo` in a strip of pictures that are `imageSize` pixels wide and one pixel
+/// higher, in pixels; -1 for a cargo without a picture. The entry for the user's own block has the row below
+/// the last picture.
+KTUI_API int BlockStripTop(std::int64_t cargo, int imageSize);

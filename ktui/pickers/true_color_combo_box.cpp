@@ -86,7 +86,7 @@ int CKtUiTrueColorComboBox::AddColorToMRU(const OdCmColor& color) {
 
 void CKtUiTrueColorComboBox::dropOldestOfFullList() {
     // Kept: only a list of exactly 25 is full. With an Other item in the list there are 26, and the oldest
-    // then stays in the list although the table has dropped it; owners rely on the list not shrinking there.
+    // then stays in the list although the table has dropped it.
     if (SendMessage(CB_GETCOUNT) != kTableSize || !entryAt(kLastEntry)) return;
     const int oldest = FindItemByCargo(kLastEntry);
     if (oldest >= 0) SendMessage(CB_DELETESTRING, static_cast<WPARAM>(oldest));
@@ -181,8 +181,7 @@ int CKtUiTrueColorComboBox::OnSelectOther(int which, int lastSel, int& newIndex)
     } else {
         OdCmColor layerColor;
         if (!GetCurrentLayerColor(layerColor)) return 0;
-        // Kept: the ByBlock flag isn't looked at, unlike in the indexed picker. Owners that turn ByBlock off
-        // rely on the dialog to go on offering both.
+        // Kept: the ByBlock flag isn't looked at, unlike in the indexed picker.
         if (!GetOtherColor(color, layerColor, GetUseByLayer())) return 0;
     }
     newIndex = AddColorToMRU(color);
@@ -201,6 +200,6 @@ void CKtUiTrueColorComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) 
             break;
         }
         case kByBlockEntry: swatch.fillSolid(getColorData(m_blockColor)); break;
-        default: swatch.fillSolid(getColorByCargo(static_cast<int>(cargo))); break;
+        default: swatch.fillSolid(entryAt(cargo) ? getColorByCargo(static_cast<int>(cargo)) : 0); break;
     }
 }
