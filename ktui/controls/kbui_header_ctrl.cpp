@@ -1,7 +1,7 @@
 #include <ktui/controls/kbui_header_ctrl.h>
 
 #include <ktui/controls/tip_geometry.h>
-#include <ktui/controls/text_extent.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/host/tip_dispatch.h>
 
 namespace {
@@ -78,8 +78,7 @@ KBUI_REPLY CKbUiHeaderCtrl::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __
 }
 
 void CKbUiHeaderCtrl::OnDrawTip(CDC&) {
-    // Kept: an owner-drawn item is asked for its format and drawn by nobody. Owners rely on painting the tip
-    // in an override of their own.
+    // Kept: an owner-drawn item is asked for its format and drawn by nobody.
     if (m_tipRect.IsRectEmpty()) IsOwnerDraw(m_tipItem);
 }
 
@@ -92,8 +91,7 @@ BOOL CKbUiHeaderCtrl::OnDrawTipText(CKbUiDrawTipText& tip) {
 KBUI_REPLY CKbUiHeaderCtrl::OnGetTipSupport(CPoint& point) {
     const int item = GetItemAtPoint(point);
     if (item < 0) return kKbUiReplyNone;
-    // Kept: the format of the item under the former tip decides, not that of the item under the point. Owners
-    // rely on one text tip before the first drawn one.
+    // Kept: the format of the item under the former tip decides, not that of the item under the point.
     if (IsOwnerDraw(m_tipItem)) {
         m_tipItem = item;
         return kKbUiReplyDrawnTip;

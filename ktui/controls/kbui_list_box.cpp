@@ -1,6 +1,6 @@
 #include <ktui/controls/kbui_list_box.h>
 
-#include <ktui/controls/text_extent.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
 #include <ktui/host/tip_dispatch.h>
 #include <ktui/host/tip_painting.h>

@@ -1,6 +1,6 @@
 #include <ktui/controls/kbui_list_ctrl.h>
 
-#include <ktui/controls/text_extent.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
 #include <ktui/host/tip_dispatch.h>
 
@@ -139,7 +139,7 @@ BOOL CKbUiListCtrl::OnGetTipText(CString& text) {
 BOOL CKbUiListCtrl::OnHitTipRect(CPoint&) {
     int item = -1;
     int column = -1;
-    // Kept: the point of the last move is tested, not the argument. Holders ask right after a move.
+    // Kept: the point of the last move is tested, not the argument.
     GetItemAtPoint(m_lastMousePoint, item, column);
     return item >= 0 && column >= 0;
 }

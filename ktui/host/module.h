@@ -10,14 +10,14 @@
 
 /// State of the loaded module.
 struct ToolkitModule {
-    AFX_EXTENSION_MODULE own = {};        ///< the library itself; hModule holds its own bitmaps and icons
-    AFX_EXTENSION_MODULE resources = {};  ///< the resource library
-    int resourcesReady = 0;               ///< 1 once `resources` has joined the module chain
-    HMODULE resourceLibrary = nullptr;    ///< dialogs, strings, bitmaps; null if the file is missing
-    WNDPROC buttonWndProc = nullptr;      ///< window procedure of the system class "BUTTON"
-    HIMAGELIST arrowImageList = nullptr;  ///< drop-down glyphs, 9 by 9 pixels: enabled, disabled
-    DWORD osVersionCode = 0;              ///< platform << 16 | major << 8 | minor
-    DWORD commonControlsVersion = 0;      ///< major << 16 | minor
+    AFX_EXTENSION_MODULE ownModule = {};  ///< the library itself; hModule holds its own bitmaps and icons
+    AFX_EXTENSION_MODULE resourceModule = {};  ///< the resource library
+    int resourceModuleReady = 0;               ///< 1 once `resourceModule` has joined the module chain
+    HMODULE resourceLibrary = nullptr;         ///< dialogs, strings, bitmaps; null if the file is missing
+    WNDPROC buttonWndProc = nullptr;           ///< window procedure of the system class "BUTTON"
+    HIMAGELIST arrowImageList = nullptr;       ///< drop-down glyphs, 9 by 9 pixels: enabled, disabled
+    DWORD osVersionCode = 0;                   ///< platform << 16 | major << 8 | minor
+    DWORD commonControlsVersion = 0;           ///< major << 16 | minor
     BOOL(WINAPI* initCommonControlsEx)(const INITCOMMONCONTROLSEX*) = nullptr;  ///< null if it is missing
     HMODULE themeLibrary = nullptr;                                             ///< null while themes are off
 };

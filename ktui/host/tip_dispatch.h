@@ -10,26 +10,41 @@
 #include <ktui/host/notification.h>
 
 struct TipDispatch {
-    /// Asks `control` what tip question `notification` asks and answers its reply. A question without a
-    /// datum, and every other notification, is answered kKbUiReplyNone.
+    /// Asks `control` what tip question `notification` asks and answers its reply. Only a question to paint
+    /// needs its datum; without one, and for every other notification, the reply is kKbUiReplyNone.
     template <class Control>
     static KBUI_REPLY serve(Control& control, KBUI_NOTIFY notification, __int64 datum) {
-        if (datum == 0) return kKbUiReplyNone;
+        CPoint lastPoint = control.m_lastMousePoint;
+        CRect noRect(0, 0, 0, 0);
         switch (notification) {
-            case kKbUiNotifyGetTipSupport: return control.OnGetTipSupport(at<CPoint>(datum));
-            case kKbUiNotifyGetTipText: return handledIf(control.OnGetTipText(at<CString>(datum)));
-            case kKbUiNotifyGetTipRect: return handledIf(control.OnGetTipRect(at<CRect>(datum)));
-            case kKbUiNotifyHitTipRect: return handledIf(control.OnHitTipRect(at<CPoint>(datum)));
-            case kKbUiNotifyDrawTip: control.OnDrawTip(at<CDC>(datum)); return kKbUiReplyHandled;
-            case kKbUiNotifyDrawTipText: return handledIf(control.OnDrawTipText(at<CKbUiDrawTipText>(datum)));
+            case kKbUiNotifyGetTipSupport: return control.OnGetTipSupport(at(datum, lastPoint));
+            case kKbUiNotifyGetTipText: return serveText(control, datum);
+            case kKbUiNotifyGetTipRect: return handledIf(control.OnGetTipRect(at(datum, noRect)));
+            case kKbUiNotifyHitTipRect: return handledIf(control.OnHitTipRect(at(datum, lastPoint)));
+            case kKbUiNotifyDrawTip:
+                if (datum == 0) return kKbUiReplyNone;
+                control.OnDrawTip(*reinterpret_cast<CDC*>(datum));
+                return kKbUiReplyHandled;
+            case kKbUiNotifyDrawTipText:
+                if (datum == 0) return kKbUiReplyNone;
+                return handledIf(control.OnDrawTipText(*reinterpret_cast<CKbUiDrawTipText*>(datum)));
             default: return kKbUiReplyNone;
         }
     }
 
-    /// The object that a datum points to.
+    /// Asks `control` for its tip's text.
+    template <class Control>
+    static KBUI_REPLY serveText(Control& control, __int64 datum) {
+        CString unwanted;
+        return handledIf(control.OnGetTipText(at(datum, unwanted)));
+    }
+
+    /// The object that a datum points to. A sender that has none gives 0 or 1, which say whether its tip is
+    /// new or known; `substitute` then stands in: of a point, that of the last move.
     template <class Object>
-    static Object& at(__int64 datum) {
-        return *reinterpret_cast<Object*>(datum);
+    static Object& at(__int64 datum, Object& substitute) {
+        constexpr __int64 kKnown = 1;
+        return datum == 0 || datum == kKnown ? substitute : *reinterpret_cast<Object*>(datum);
     }
 
     /// The reply to a question that is answered by yes or no.

@@ -64,8 +64,7 @@ void CKbUiComboBox::OnMouseMove(UINT flags, CPoint point) {
 void CKbUiComboBox::SetEditBox(CKbUiEdit* edit, int owned) {
     releaseEditBox();
     m_editBox = nullptr;
-    // Kept: clearing the part leaves its owned bit. Callers rely on a part that is set later without asking
-    // to be deleted as its forerunner was.
+    // Kept: clearing the part leaves its owned bit.
     if (edit) {
         m_editBox = edit;
         m_flags = owned ? m_flags | kEditOwned : m_flags & ~kEditOwned;
@@ -170,8 +169,7 @@ BOOL CKbUiComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
 }
 
 KBUI_REPLY CKbUiComboBox::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    if (notification != kKbUiNotifyGetTipText || datum == 0) return kKbUiReplyNone;
-    return TipDispatch::handledIf(OnGetTipText(TipDispatch::at<CString>(datum)));
+    return notification == kKbUiNotifyGetTipText ? TipDispatch::serveText(*this, datum) : kKbUiReplyNone;
 }
 
 void CKbUiComboBox::OnDrawTip(CDC&) {}

@@ -72,6 +72,8 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
 protected:
+    friend struct TipDispatch;
+
     /// Answers kKbUiNotifyGetTipText; kKbUiReplyNone for every other notification.
     virtual KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum);
     // The tip questions. This class has no tip: nothing, kKbUiReplyNone, FALSE.

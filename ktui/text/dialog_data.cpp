@@ -21,10 +21,9 @@ CString DialogKey(const CString& rootKey, const CString& dialogName) {
 
 }  // namespace
 
-int KtUiSetDialogData(const wchar_t* rootKey, const wchar_t* dialogName, const wchar_t* valueName,
-                      const wchar_t* value) {
-    const CString name = dialogName;
-    if (name.IsEmpty()) return 0;
-    CKbUiRegistryWriteAccess key(HKEY_CURRENT_USER, DialogKey(rootKey, name));
+int KtUiSetDialogData(const CString& rootKey, const CString& dialogName, const CString& valueName,
+                      const CString& value) {
+    if (dialogName.IsEmpty()) return 0;
+    CKbUiRegistryWriteAccess key(HKEY_CURRENT_USER, DialogKey(rootKey, dialogName));
     return key.SetString(valueName, value) ? 1 : 0;
 }

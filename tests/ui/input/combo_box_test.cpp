@@ -364,3 +364,26 @@ TEST(ComboPainting, SelectedItemIsHighlightedAndTheFaceIsNotFilled) {
     EXPECT_EQ(dc.GetPixel(58, 1), RGB(1, 2, 3)) << "no item draws nothing";
     dc.SelectObject(former);
 }
+
+TEST(ComboMessages, TheQuestionForATextReachesASubclassAlsoWithoutAnObject) {
+    class Told : public CKbUiComboBox {
+    public:
+        int asked = 0;
+
+    protected:
+        BOOL OnGetTipText(CString& text) override {
+            ++asked;
+            text = L"told";
+            return TRUE;
+        }
+    };
+    RecordingHolder holder;
+    Told combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &holder, 5);
+    CString text;
+    EXPECT_EQ(KbUiNotify(combo, 0, kKbUiNotifyGetTipText, 0), kKbUiReplyHandled);
+    EXPECT_EQ(KbUiNotify(combo, 0, kKbUiNotifyGetTipText, reinterpret_cast<unsigned __int64>(&text)),
+              kKbUiReplyHandled);
+    EXPECT_EQ(combo.asked, 2);
+    EXPECT_EQ(text, L"told");
+}
