@@ -1,10 +1,11 @@
 #include <ktui/pickers/line_type_combo_box.h>
 
+#include <ktui/pickers/viewport_override.h>
+
 #include <kh_system.h>
 #include <ktut.h>
-#include <od_db_database.h>
 #include <od_db_linetype_table.h>
-#include <od_host_services.h>
+#include <ktui/pickers/working_drawing.h>
 
 #include <algorithm>
 #include <vector>
@@ -16,12 +17,6 @@ constexpr int kSampleMarginY = 1;  // pixels at the top and at the bottom
 constexpr int kDialogMode = 1;
 constexpr COLORREF kSampleInk = 0;
 constexpr COLORREF kSamplePaper = 0xFFFFFF;
-constexpr const wchar_t* kViewportSuffix = L" (VP)";
-
-OdDbDatabase* workingDrawing() {
-    OdDbHostAppServices* services = oddbHostApplicationServices();
-    return services ? services->workingDatabase() : nullptr;
-}
 
 /// A record of linetype `id`; null if the linetype can't be opened or came with an external reference.
 CKtUiLTypeRecord* makeRecord(const OdDbObjectId& id) {
@@ -62,7 +57,7 @@ void CKtUiLineTypeComboBox::ShowLTypes(bool force) {
 void CKtUiLineTypeComboBox::LoadContentsFromDatabase() {
     if (m_ltLocalMapDB && !m_dbReload) return;
     emptyLTypeLocalList();
-    m_ltLocalMapDB = workingDrawing();
+    m_ltLocalMapDB = WorkingDrawing();
     OdDbLinetypeTablePtr table;
     if (!m_ltLocalMapDB || m_ltLocalMapDB->getLinetypeTable(table) != kOdOk) return;
     std::vector<OdDbObjectId> ids;
@@ -188,7 +183,7 @@ int CKtUiLineTypeComboBox::OnSelectOther(int, int lastSel, int& newIndex) {
 void CKtUiLineTypeComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
     const bool isByLayer = m_byLayerRecord && GetItemCargo(index) == m_byLayerRecord->cargo();
-    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
+    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportOverrideSuffix;
 }
 
 int CKtUiLineTypeComboBox::ImageWidth() {

@@ -1,5 +1,7 @@
 #include <ktui/pickers/line_weight_combo_box.h>
 
+#include <ktui/pickers/viewport_override.h>
+
 #include <ktui/pickers/line_weights.h>
 #include <ktui/pickers/lweight_util.h>
 #include <od_host_services.h>
@@ -14,7 +16,6 @@ constexpr int kMinimumImageWidth = 48;  // pixels, unless half the control is na
 constexpr double kScaleUnit = 20.0;
 constexpr DWORD kSampleInk = 0;
 constexpr const wchar_t* kWidestText = L"--------";
-constexpr const wchar_t* kViewportSuffix = L" (VP)";
 
 }  // namespace
 
@@ -79,5 +80,5 @@ void CKtUiLineWeightComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
     // Kept: an index outside the list has ByLayer's cargo and says the override too. Only -1 never does.
     const bool isByLayer = index != -1 && GetItemCargo(index) == OdDb::kLnWtByLayer;
-    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
+    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportOverrideSuffix;
 }

@@ -4,18 +4,12 @@
 #include <kh_system.h>
 #include <ktdb.h>
 #include <od_array.h>
-#include <od_db_database.h>
-#include <od_host_services.h>
+#include <ktui/pickers/working_drawing.h>
 
 namespace {
 
 constexpr const wchar_t* kByColor = L"ByColor";
 constexpr const wchar_t* kAlwaysAllowed[] = {L"ByLayer", L"ByBlock", L"Normal"};
-
-OdDbDatabase* workingDrawing() {
-    OdDbHostAppServices* services = oddbHostApplicationServices();
-    return services ? services->workingDatabase() : nullptr;
-}
 
 bool isSameName(const wchar_t* a, const wchar_t* b) {
     return ::CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, a, -1, b, -1) == CSTR_EQUAL;
@@ -77,7 +71,7 @@ void CKtUiPlotStyleNamesComboBox::showByColor() {
 }
 
 void CKtUiPlotStyleNamesComboBox::addNames() {
-    OdDbDatabase* drawing = workingDrawing();
+    OdDbDatabase* drawing = WorkingDrawing();
     if (!drawing) return;
     OdArray<OdString> allowed;
     const bool isFiltered = readAllowedNames(*drawing, allowed);

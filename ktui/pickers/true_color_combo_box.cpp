@@ -1,5 +1,7 @@
 #include <ktui/pickers/true_color_combo_box.h>
 
+#include <ktui/pickers/viewport_override.h>
+
 #include <afxdlgs.h>
 #include <kh_system.h>
 #include <ktut.h>
@@ -14,7 +16,6 @@
 namespace {
 
 constexpr int kColorIndexCount = 256;
-constexpr const wchar_t* kViewportSuffix = L" (VP)";
 
 }  // namespace
 
@@ -155,7 +156,7 @@ int CKtUiTrueColorComboBox::GetWindowsColor(OdCmColor& color) {
 void CKtUiTrueColorComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
     const bool isByLayer = index >= 0 && GetItemCargo(index) == kByLayerEntry;
-    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
+    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportOverrideSuffix;
 }
 
 int CKtUiTrueColorComboBox::GetOtherName(int, CString& text) {
