@@ -2,7 +2,7 @@
 
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_calls.h>
-#include <ktui/host/module.h>
+#include <ktui/host/loaded_module.h>
 #include <ktui/text/dialog_root.h>
 #include <ktui/tips/kbui_text_tip.h>
 
@@ -173,9 +173,7 @@ int CKbUiBaseDialog::FindContextHelpFullPath(const wchar_t* name, CString& path)
 void CKbUiBaseDialog::OnInitDialogBegin() {}
 void CKbUiBaseDialog::OnInitDialogFinish() {}
 
-CWnd* CKbUiBaseDialog::AppMainWindow() {
-    return HostMainWindow();
-}
+CWnd* CKbUiBaseDialog::AppMainWindow() { return HostMainWindow(); }
 
 HINSTANCE CKbUiBaseDialog::AppResourceInstance() { return AfxGetResourceHandle(); }
 const wchar_t* CKbUiBaseDialog::AppRootKey() { return m_appRootKey; }

@@ -12,7 +12,7 @@
 #pragma once
 
 #include <ktui/dialogs/kbui_base_dialog.h>
-#include <ktui/dialogs/elastic_arithmetic.h>
+#include <ktui/dialogs/elastic_tags.h>
 
 class KbUiElastic;
 

@@ -1,5 +1,5 @@
 // Load and unload of the library. The order of the steps is binding: each needs what the earlier ones made.
-#include <ktui/host/module.h>
+#include <ktui/host/loaded_module.h>
 
 #include <ktui/host/platform_versions.h>
 #include <ktui/host/theme_api.h>

@@ -17,6 +17,8 @@ struct ArrowheadName {
     int id = 0;
 };
 
+static_assert(CKtUiArrowHeadComboBox::kCount == kArrowheadCount);
+
 using ArrowheadNames = std::array<ArrowheadName, kArrowheadCount>;
 
 /// The names that all pickers share.
