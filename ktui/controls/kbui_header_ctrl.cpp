@@ -2,7 +2,6 @@
 
 #include <ktui/controls/tip_geometry.h>
 #include <ktui/host/text_extent.h>
-#include <ktui/host/tip_dispatch.h>
 
 namespace {
 
@@ -20,18 +19,6 @@ BEGIN_MESSAGE_MAP(CKbUiHeaderCtrl, CHeaderCtrl)
 END_MESSAGE_MAP()
 
 CKbUiHeaderCtrl::CKbUiHeaderCtrl() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}
-
-void CKbUiHeaderCtrl::OnMouseMove(UINT flags, CPoint point) {
-    CHeaderCtrl::OnMouseMove(flags, point);
-    if (point == m_lastMousePoint) return;
-    m_lastMousePoint = point;
-    TipDispatch::reportMove(*this, GetKbUiParent());
-}
-
-LRESULT CKbUiHeaderCtrl::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    if (const LRESULT reply = OfferKbUiMessageToChild(*this, wParam, lParam)) return reply;
-    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
-}
 
 int CKbUiHeaderCtrl::GetItemAtPoint(CPoint& point) {
     const int count = GetItemCount();
@@ -66,15 +53,9 @@ int CKbUiHeaderCtrl::IsOwnerDraw(int index) {
     return GetItem(index, &item) && (item.fmt & HDF_OWNERDRAW) ? 1 : 0;
 }
 
-CWnd* CKbUiHeaderCtrl::GetKbUiParent() const { return m_kbUiParent ? m_kbUiParent : GetParent(); }
-
 void CKbUiHeaderCtrl::GetContentExtent(int index, const wchar_t* text, int& cx, int& cy) {
     cx = cy = 0;
     if (isItem(index)) MeasureControlText(*this, text, cx, cy);
-}
-
-KBUI_REPLY CKbUiHeaderCtrl::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    return TipDispatch::serve(*this, notification, datum);
 }
 
 void CKbUiHeaderCtrl::OnDrawTip(CDC&) {
