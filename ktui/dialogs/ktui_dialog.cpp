@@ -10,14 +10,10 @@ CKtUiDialog::CKtUiDialog(unsigned templateId, CWnd* parent, HINSTANCE resource)
 
 CKtUiDialog::~CKtUiDialog() = default;
 
-CWnd* CKtUiDialog::AppMainWindow() {
-    return HostMainWindow();
-}
+CWnd* CKtUiDialog::AppMainWindow() { return HostMainWindow(); }
 
 HINSTANCE CKtUiDialog::AppResourceInstance() { return KtUiAppResourceInstance(); }
 
 const wchar_t* CKtUiDialog::AppRootKey() { return m_appRootKey; }
 
-void CKtUiDialog::OnDialogHelp() {
-    ShowHostHelp();
-}
+void CKtUiDialog::OnDialogHelp() { ShowHostHelp(); }
