@@ -15,7 +15,6 @@
 #include <ktui/host/notification.h>
 #include <ktui/host/resource_scope.h>
 #include <ktui/host/runtime_module.h>
-#include <ktui/host/theme_api.h>
 #include <ktui/input/kbui_combo_box.h>
 #include <ktui/input/kbui_edit.h>
 #include <ktui/input/ktui_typed_combo_boxes.h>

@@ -1,8 +1,7 @@
 #include <ktui/controls/kbui_header_ctrl.h>
 
 #include <ktui/controls/tip_geometry.h>
-#include <ktui/controls/text_extent.h>
-#include <ktui/host/tip_dispatch.h>
+#include <ktui/host/text_extent.h>
 
 namespace {
 
@@ -20,18 +19,6 @@ BEGIN_MESSAGE_MAP(CKbUiHeaderCtrl, CHeaderCtrl)
 END_MESSAGE_MAP()
 
 CKbUiHeaderCtrl::CKbUiHeaderCtrl() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}
-
-void CKbUiHeaderCtrl::OnMouseMove(UINT flags, CPoint point) {
-    CHeaderCtrl::OnMouseMove(flags, point);
-    if (point == m_lastMousePoint) return;
-    m_lastMousePoint = point;
-    TipDispatch::reportMove(*this, GetKbUiParent());
-}
-
-LRESULT CKbUiHeaderCtrl::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    if (const LRESULT reply = OfferKbUiMessageToChild(*this, wParam, lParam)) return reply;
-    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
-}
 
 int CKbUiHeaderCtrl::GetItemAtPoint(CPoint& point) {
     const int count = GetItemCount();
@@ -66,20 +53,13 @@ int CKbUiHeaderCtrl::IsOwnerDraw(int index) {
     return GetItem(index, &item) && (item.fmt & HDF_OWNERDRAW) ? 1 : 0;
 }
 
-CWnd* CKbUiHeaderCtrl::GetKbUiParent() const { return m_kbUiParent ? m_kbUiParent : GetParent(); }
-
 void CKbUiHeaderCtrl::GetContentExtent(int index, const wchar_t* text, int& cx, int& cy) {
     cx = cy = 0;
     if (isItem(index)) MeasureControlText(*this, text, cx, cy);
 }
 
-KBUI_REPLY CKbUiHeaderCtrl::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    return TipDispatch::serve(*this, notification, datum);
-}
-
 void CKbUiHeaderCtrl::OnDrawTip(CDC&) {
-    // Kept: an owner-drawn item is asked for its format and drawn by nobody. Owners rely on painting the tip
-    // in an override of their own.
+    // Kept: an owner-drawn item is asked for its format and drawn by nobody.
     if (m_tipRect.IsRectEmpty()) IsOwnerDraw(m_tipItem);
 }
 
@@ -92,8 +72,7 @@ BOOL CKbUiHeaderCtrl::OnDrawTipText(CKbUiDrawTipText& tip) {
 KBUI_REPLY CKbUiHeaderCtrl::OnGetTipSupport(CPoint& point) {
     const int item = GetItemAtPoint(point);
     if (item < 0) return kKbUiReplyNone;
-    // Kept: the format of the item under the former tip decides, not that of the item under the point. Owners
-    // rely on one text tip before the first drawn one.
+    // Kept: the format of the item under the former tip decides, not that of the item under the point.
     if (IsOwnerDraw(m_tipItem)) {
         m_tipItem = item;
         return kKbUiReplyDrawnTip;

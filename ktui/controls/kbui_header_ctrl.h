@@ -3,11 +3,10 @@
 
 #include <afxcmn.h>
 
-#include <ktui/host/draw_tip_text.h>
-#include <ktui/host/notification.h>
+#include <ktui/host/tip_control.h>
 #include <ktui/ktui_api.h>
 
-class KTUI_API CKbUiHeaderCtrl : public CHeaderCtrl {
+class KTUI_API CKbUiHeaderCtrl : public KbUiTipControl<CKbUiHeaderCtrl, KbUiEntrySlots<CHeaderCtrl>> {
     DECLARE_DYNAMIC(CKbUiHeaderCtrl)
 
 public:
@@ -23,34 +22,24 @@ public:
     /// 1 if item `index` is owner-drawn, otherwise 0.
     int IsOwnerDraw(int index);
 
-    /// Who is told of mouse moves: the window set, or else the parent window. Not owned.
-    CWnd* GetKbUiParent() const;
-    /// Sets who is told; null for the parent window. Not owned.
-    void SetKbUiParent(CWnd* parent) { m_kbUiParent = parent; }
-
-    /// Width and height in pixels of `text`; 0 by 0 unless `index` is an item.
-    virtual void GetContentExtent(int index, const wchar_t* text, int& cx, int& cy);
+    void GetContentExtent(int index, const wchar_t* text, int& cx, int& cy) override;
 
 protected:
-    friend struct TipDispatch;
+    friend TipControl;
 
-    /// Answers a notification; kKbUiReplyNone for those that the class doesn't know.
-    virtual KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum);
     /// Paints nothing: the owner of an owner-drawn item does.
-    virtual void OnDrawTip(CDC& dc);
+    void OnDrawTip(CDC& dc) override;
     /// Paints the tip's text in the tip's rectangle; FALSE without an item under the tip.
-    virtual BOOL OnDrawTipText(CKbUiDrawTipText& tip);
+    BOOL OnDrawTipText(CKbUiDrawTipText& tip) override;
     /// What tip there is at `point` (client); remembers its item.
-    virtual KBUI_REPLY OnGetTipSupport(CPoint& point);
+    KBUI_REPLY OnGetTipSupport(CPoint& point) override;
     /// TRUE with the tip's rectangle (client) if the text of the item under the mouse is clipped.
-    virtual BOOL OnGetTipRect(CRect& rect);
+    BOOL OnGetTipRect(CRect& rect) override;
     /// Puts the text of the item under the tip into `text`.
-    virtual BOOL OnGetTipText(CString& text);
+    BOOL OnGetTipText(CString& text) override;
     /// TRUE if there is an item at `point` (client).
-    virtual BOOL OnHitTipRect(CPoint& point);
+    BOOL OnHitTipRect(CPoint& point) override;
 
-    afx_msg void OnMouseMove(UINT flags, CPoint point);
-    afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CPoint m_lastMousePoint;

@@ -1,8 +1,7 @@
 #include <ktui/controls/kbui_list_box.h>
 
-#include <ktui/controls/text_extent.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
-#include <ktui/host/tip_dispatch.h>
 #include <ktui/host/tip_painting.h>
 #include <ktui/input/kbui_combo_box.h>
 
@@ -25,21 +24,9 @@ END_MESSAGE_MAP()
 
 CKbUiListBox::CKbUiListBox() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}
 
-void CKbUiListBox::OnMouseMove(UINT flags, CPoint point) {
-    CListBox::OnMouseMove(flags, point);
-    if (point == m_lastMousePoint) return;
-    m_lastMousePoint = point;
-    TipDispatch::reportMove(*this, GetKbUiParent());
-}
-
 void CKbUiListBox::OnDestroy() {
     m_comboBox = nullptr;
     CListBox::OnDestroy();
-}
-
-LRESULT CKbUiListBox::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    if (const LRESULT reply = OfferKbUiMessageToChild(*this, wParam, lParam)) return reply;
-    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
 }
 
 int CKbUiListBox::GetItemAtPoint(CPoint& point) {
@@ -57,8 +44,6 @@ void CKbUiListBox::GetTextExtent(const wchar_t* text, int& cx, int& cy) {
 BOOL CKbUiListBox::IsOwnerDraw() const {
     return (GetStyle() & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
 }
-
-CWnd* CKbUiListBox::GetKbUiParent() const { return m_kbUiParent ? m_kbUiParent : GetParent(); }
 
 int CKbUiListBox::CompareItem(LPCOMPAREITEMSTRUCT item) {
     return isDrawnByComboBox() ? m_comboBox->CompareItem(item) : 0;
@@ -79,10 +64,6 @@ void CKbUiListBox::MeasureItem(LPMEASUREITEMSTRUCT item) {
 void CKbUiListBox::GetContentExtent(int index, const wchar_t* text, int& cx, int& cy) {
     cx = cy = 0;
     if (isItem(index)) GetTextExtent(text, cx, cy);
-}
-
-KBUI_REPLY CKbUiListBox::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    return TipDispatch::serve(*this, notification, datum);
 }
 
 void CKbUiListBox::OnDrawTip(CDC& dc) {

@@ -4,13 +4,12 @@
 
 #include <afxwin.h>
 
-#include <ktui/host/draw_tip_text.h>
-#include <ktui/host/notification.h>
+#include <ktui/host/tip_control.h>
 #include <ktui/ktui_api.h>
 
 class CKbUiComboBox;
 
-class KTUI_API CKbUiListBox : public CListBox {
+class KTUI_API CKbUiListBox : public KbUiTipControl<CKbUiListBox, KbUiEntrySlots<CListBox>> {
     DECLARE_DYNAMIC(CKbUiListBox)
 
 public:
@@ -31,41 +30,31 @@ public:
     CKbUiComboBox* GetComboBox() const { return m_comboBox; }
     void SetComboBox(CKbUiComboBox* comboBox) { m_comboBox = comboBox; }
 
-    /// Who is told of mouse moves: the window set, or else the parent window. Not owned.
-    CWnd* GetKbUiParent() const;
-    /// Sets who is told; null for the parent window. Not owned.
-    void SetKbUiParent(CWnd* parent) { m_kbUiParent = parent; }
-
     // Owner-drawing: done by the combo box if it is to draw, otherwise not at all (CompareItem answers 0).
     int CompareItem(LPCOMPAREITEMSTRUCT item) override;
     void DeleteItem(LPDELETEITEMSTRUCT item) override;
     void DrawItem(LPDRAWITEMSTRUCT item) override;
     void MeasureItem(LPMEASUREITEMSTRUCT item) override;
 
-    /// Width and height in pixels of `text`; 0 by 0 unless `index` is an entry.
-    virtual void GetContentExtent(int index, const wchar_t* text, int& cx, int& cy);
+    void GetContentExtent(int index, const wchar_t* text, int& cx, int& cy) override;
 
 protected:
-    friend struct TipDispatch;
+    friend TipControl;
 
-    /// Answers a notification; kKbUiReplyNone for those that the class doesn't know.
-    virtual KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum);
     /// Has the entry under the tip paint itself into the tip, for an owner-drawn list.
-    virtual void OnDrawTip(CDC& dc);
+    void OnDrawTip(CDC& dc) override;
     /// Paints a framed text tip; FALSE without an entry under the tip.
-    virtual BOOL OnDrawTipText(CKbUiDrawTipText& tip);
+    BOOL OnDrawTipText(CKbUiDrawTipText& tip) override;
     /// What tip there is at `point` (client); remembers its entry.
-    virtual KBUI_REPLY OnGetTipSupport(CPoint& point);
+    KBUI_REPLY OnGetTipSupport(CPoint& point) override;
     /// TRUE with the tip's rectangle (client) if the entry under the mouse is wider than its row.
-    virtual BOOL OnGetTipRect(CRect& rect);
+    BOOL OnGetTipRect(CRect& rect) override;
     /// Puts the text of the entry under the mouse into `text`; FALSE if there is none.
-    virtual BOOL OnGetTipText(CString& text);
+    BOOL OnGetTipText(CString& text) override;
     /// TRUE if there is an entry at `point` (client).
-    virtual BOOL OnHitTipRect(CPoint& point);
+    BOOL OnHitTipRect(CPoint& point) override;
 
-    afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnDestroy();
-    afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CPoint m_lastMousePoint;

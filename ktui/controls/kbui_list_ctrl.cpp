@@ -1,8 +1,7 @@
 #include <ktui/controls/kbui_list_ctrl.h>
 
-#include <ktui/controls/text_extent.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
-#include <ktui/host/tip_dispatch.h>
 
 namespace {
 
@@ -18,18 +17,6 @@ BEGIN_MESSAGE_MAP(CKbUiListCtrl, CListCtrl)
 END_MESSAGE_MAP()
 
 CKbUiListCtrl::CKbUiListCtrl() : m_lastMousePoint(0, 0), m_tipRect(0, 0, 0, 0) {}
-
-void CKbUiListCtrl::OnMouseMove(UINT flags, CPoint point) {
-    CListCtrl::OnMouseMove(flags, point);
-    if (point == m_lastMousePoint) return;
-    m_lastMousePoint = point;
-    TipDispatch::reportMove(*this, GetKbUiParent());
-}
-
-LRESULT CKbUiListCtrl::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    if (const LRESULT reply = OfferKbUiMessageToChild(*this, wParam, lParam)) return reply;
-    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
-}
 
 void CKbUiListCtrl::PreSubclassWindow() {
     CListCtrl::PreSubclassWindow();
@@ -65,8 +52,6 @@ BOOL CKbUiListCtrl::GetSubItemRect(int item, int column, CRect& rect) {
 
 BOOL CKbUiListCtrl::IsOwnerDraw() const { return (GetStyle() & LVS_OWNERDRAWFIXED) != 0; }
 
-CWnd* CKbUiListCtrl::GetKbUiParent() const { return m_kbUiParent ? m_kbUiParent : GetParent(); }
-
 void CKbUiListCtrl::GetContentExtent(int item, int column, const wchar_t* text, int& cx, int& cy) {
     cx = cy = 0;
     if (m_header.m_hWnd) {
@@ -76,12 +61,6 @@ void CKbUiListCtrl::GetContentExtent(int item, int column, const wchar_t* text, 
     }
     MeasureControlText(*this, text, cx, cy);
 }
-
-KBUI_REPLY CKbUiListCtrl::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    return TipDispatch::serve(*this, notification, datum);
-}
-
-void CKbUiListCtrl::OnDrawTip(CDC&) {}
 
 BOOL CKbUiListCtrl::OnDrawTipText(CKbUiDrawTipText& tip) {
     if (m_tipItem < 0 || m_tipItem >= GetItemCount()) return FALSE;
@@ -139,7 +118,7 @@ BOOL CKbUiListCtrl::OnGetTipText(CString& text) {
 BOOL CKbUiListCtrl::OnHitTipRect(CPoint&) {
     int item = -1;
     int column = -1;
-    // Kept: the point of the last move is tested, not the argument. Holders ask right after a move.
+    // Kept: the point of the last move is tested, not the argument.
     GetItemAtPoint(m_lastMousePoint, item, column);
     return item >= 0 && column >= 0;
 }

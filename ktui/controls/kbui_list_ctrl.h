@@ -3,13 +3,20 @@
 
 #include <ktui/controls/kbui_header_ctrl.h>
 
-class KTUI_API CKbUiListCtrl : public CListCtrl {
+/// The virtual operation of a list control before those of its tip.
+class KbUiListCtrlSlots : public CListCtrl {
+public:
+    /// Width and height in pixels of `text`; with an embedded header 0 by 0 unless both indexes are in range.
+    virtual void GetContentExtent(int item, int column, const wchar_t* text, int& cx, int& cy) = 0;
+};
+
+class KTUI_API CKbUiListCtrl : public KbUiTipControl<CKbUiListCtrl, KbUiListCtrlSlots> {
     DECLARE_DYNAMIC(CKbUiListCtrl)
 
 public:
     CKbUiListCtrl();
 
-    // Kept: the number of rows, whatever the name says. Callers bound their row loops with it.
+    // Kept: the number of rows, whatever the name says.
     int ColumnCount() const;
     /// Row and column of the cell at `point` (client); both -1 if there is none.
     void GetItemAtPoint(CPoint& point, int& item, int& column);
@@ -19,36 +26,24 @@ public:
     /// TRUE if the control is owner-drawn.
     BOOL IsOwnerDraw() const;
 
-    /// Who is told of mouse moves: the window set, or else the parent window. Not owned.
-    CWnd* GetKbUiParent() const;
-    /// Sets who is told; null for the parent window. Not owned.
-    void SetKbUiParent(CWnd* parent) { m_kbUiParent = parent; }
-
-    /// Width and height in pixels of `text`; with an embedded header 0 by 0 unless both indexes are in range.
-    virtual void GetContentExtent(int item, int column, const wchar_t* text, int& cx, int& cy);
+    void GetContentExtent(int item, int column, const wchar_t* text, int& cx, int& cy) override;
 
 protected:
-    friend struct TipDispatch;
+    friend TipControl;
 
-    /// Answers a notification; kKbUiReplyNone for those that the class doesn't know.
-    virtual KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum);
-    /// Paints nothing.
-    virtual void OnDrawTip(CDC& dc);
     /// Paints the tip's text in the tip's rectangle; FALSE without a row under the tip.
-    virtual BOOL OnDrawTipText(CKbUiDrawTipText& tip);
+    BOOL OnDrawTipText(CKbUiDrawTipText& tip) override;
     /// What tip there is at `point` (client); remembers its cell.
-    virtual KBUI_REPLY OnGetTipSupport(CPoint& point);
+    KBUI_REPLY OnGetTipSupport(CPoint& point) override;
     /// TRUE with the tip's rectangle (client) if the text of the cell under the mouse is clipped.
-    virtual BOOL OnGetTipRect(CRect& rect);
+    BOOL OnGetTipRect(CRect& rect) override;
     /// Puts the text of the cell under the mouse into `text`; FALSE if there is none.
-    virtual BOOL OnGetTipText(CString& text);
+    BOOL OnGetTipText(CString& text) override;
     /// TRUE if the mouse was last seen over a cell.
-    virtual BOOL OnHitTipRect(CPoint& point);
+    BOOL OnHitTipRect(CPoint& point) override;
 
     void PreSubclassWindow() override;
 
-    afx_msg void OnMouseMove(UINT flags, CPoint point);
-    afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CPoint m_lastMousePoint;

@@ -35,27 +35,19 @@ public:
 
     CKbUiDialog* m_dialog;
     CArray<_SControlTag*, _SControlTag*> m_tags;  ///< owned, in order of registration
-    CSize m_currentDelta{0, 0};                   ///< Kept: nothing writes it; clients read (0, 0)
+    CSize m_currentDelta{0, 0};                   ///< Kept: nothing writes it
     CSize m_lastClient{0, 0};
     CRect m_initialRect{0, 0, 0, 0};
     ElasticExtent m_minExtent;
     ElasticExtent m_maxExtent;
 
 private:
-    /// Where the control of a tag stands and goes in one change of size. Tags of one id share the first's.
-    struct Place {
-        size_t m_owner = 0;          ///< index of the first tag of this id
-        HWND m_control = nullptr;    ///< as last found; may be gone by now
-        CRect m_before{0, 0, 0, 0};  ///< in client coordinates
-        CRect m_rect{0, 0, 0, 0};
-        bool m_isRead = false;  ///< whether the rectangles are of this change
-    };
-
-    /// Moves the controls by what the change comes to; false if all stay.
+    /// Moves the controls, one tag after the other, by what the change comes to; false if all stay.
     bool moveControls(int dx, int dy);
-    /// The control with `id`: the one found last if it is still there. Null if there is none.
-    HWND findControl(Place& place, unsigned id) const;
-    bool readPlace(Place& place, unsigned id) const;
+    /// Moves the control of `tag` by `step` from where it stands now; false if it stays.
+    bool moveControl(const _SControlTag& tag, CSize step, HWND& known) const;
+    /// The control with `id`: `known` if it is that control still. Null if there is none.
+    HWND findControl(HWND known, unsigned id) const;
 
-    std::vector<Place> m_places;  ///< in step with m_tags
+    std::vector<HWND> m_found;  ///< by index of the tag: its control as last found; may be gone by now
 };

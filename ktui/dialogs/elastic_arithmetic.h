@@ -1,20 +1,11 @@
 // The arithmetic of resizing by percentages: how a change of a dialog's client size becomes whole-pixel moves
-// of a control, with the rest kept for the next change. Knows no window.
+// of a control, with the rest kept for the next change. Knows no window. Private to the library;
+// its tests link it by itself.
 #pragma once
 
 #include <afx.h>
 
-#include <ktui/ktui_api.h>
-
-/// What a registration does to its control.
-enum KBUI_ELASTIC_KIND : unsigned {
-    kKbUiMoveX = 1,
-    kKbUiMoveY = 2,
-    kKbUiMoveXY = 3,
-    kKbUiStretchX = 16,
-    kKbUiStretchY = 32,
-    kKbUiStretchXY = 48
-};
+#include <ktui/dialogs/elastic_tags.h>
 
 /// One registration of one control.
 struct _SControlTag {
@@ -27,17 +18,10 @@ struct _SControlTag {
     int m_remainderY = 0;
 };
 
-/// One record of a batch registration, which has one percentage only.
-struct _dlgControlTag {
-    unsigned m_id;
-    unsigned m_kind;
-    long m_percent;
-};
-
 /// Takes the change (dx, dy), in pixels, of the client size into the tag's remainders and answers how far the
 /// control goes now: whole pixels, truncated toward zero.
-KTUI_API CSize AdvanceElasticTag(_SControlTag& tag, int dx, int dy);
+CSize AdvanceElasticTag(_SControlTag& tag, int dx, int dy);
 
 /// Applies `step` to the control's rectangle as `kind` asks. False if the control stays as it is, which
 /// includes a kind that is none of the six.
-KTUI_API bool ApplyElasticStep(unsigned kind, CSize step, CRect& rect);
+bool ApplyElasticStep(unsigned kind, CSize step, CRect& rect);

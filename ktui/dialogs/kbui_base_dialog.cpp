@@ -1,20 +1,15 @@
 #include <ktui/dialogs/kbui_base_dialog.h>
 
-#include <kh_system.h>
-#include <ktut.h>
-
 #include <ktui/host/help_path.h>
-#include <ktui/host/module.h>
+#include <ktui/host/host_calls.h>
+#include <ktui/host/loaded_module.h>
+#include <ktui/text/dialog_root.h>
 #include <ktui/tips/kbui_text_tip.h>
 
 namespace {
 
 const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 constexpr UINT kDialogIcon = 1017;  // of the library's own file
-
-void showHostHelp() {
-    if (CKhUiHost* host = CKhSystem::instance()->uiHost()) host->showHelp(nullptr);
-}
 
 }  // namespace
 
@@ -51,12 +46,7 @@ BEGIN_MESSAGE_MAP(CKbUiBaseDialog, CDialog)
 END_MESSAGE_MAP()
 
 CKbUiBaseDialog::CKbUiBaseDialog(unsigned templateId, CWnd* parent, HINSTANCE resource)
-    : CDialog(templateId, parent), m_resourceInstance(resource) {
-    const OdString file = ktutProfileFileName();
-    const OdString root = ktutProfileRootName();
-    m_appRootKey.Format(L"%s\\%s\\%s\\Dialogs\\", file.c_str(), root.c_str(),
-                        CKhSystem::instance()->productInfo()->profileVersionKey());
-}
+    : CDialog(templateId, parent), m_resourceInstance(resource), m_appRootKey(ProductDialogRoot()) {}
 
 CKbUiBaseDialog::~CKbUiBaseDialog() {
     m_useTips = 0;
@@ -161,7 +151,7 @@ BOOL CKbUiBaseDialog::OnHelpInfo(HELPINFO* info) {
     return CWnd::OnHelpInfo(info);
 }
 
-void CKbUiBaseDialog::OnHelp() { showHostHelp(); }
+void CKbUiBaseDialog::OnHelp() { ShowHostHelp(); }
 
 // Kept: the question for a text is taken and left without one.
 BOOL CKbUiBaseDialog::OnNotify_ToolTipText(UINT, NMHDR*, LRESULT*) { return 1; }
@@ -183,11 +173,7 @@ int CKbUiBaseDialog::FindContextHelpFullPath(const wchar_t* name, CString& path)
 void CKbUiBaseDialog::OnInitDialogBegin() {}
 void CKbUiBaseDialog::OnInitDialogFinish() {}
 
-CWnd* CKbUiBaseDialog::AppMainWindow() {
-    CKhUiHost* host = CKhSystem::instance()->uiHost();
-    CWinApp* application = host != nullptr ? host->application() : nullptr;
-    return application != nullptr ? application->m_pMainWnd : nullptr;
-}
+CWnd* CKbUiBaseDialog::AppMainWindow() { return HostMainWindow(); }
 
 HINSTANCE CKbUiBaseDialog::AppResourceInstance() { return AfxGetResourceHandle(); }
 const wchar_t* CKbUiBaseDialog::AppRootKey() { return m_appRootKey; }
@@ -198,7 +184,7 @@ int CKbUiBaseDialog::IsMultiDocumentActivationEnabled() { return 0; }
 int CKbUiBaseDialog::EnableMultiDocumentActivation(int) { return 0; }
 
 int CKbUiBaseDialog::DoDialogHelp() {
-    showHostHelp();
+    ShowHostHelp();
     return 1;
 }
 

@@ -1,6 +1,7 @@
 // The tips of a dialog: the decision which tip to show, and the windows that show it.
 #include <ktui/dialogs/kbui_base_dialog.h>
 
+#include <ktui/host/window_context.h>
 #include <ktui/tips/kbui_text_tip.h>
 
 namespace {
@@ -101,8 +102,8 @@ KBUI_REPLY CKbUiBaseDialog::showDrawnTip(CWnd& control, unsigned id, CRect rect)
     m_textTip->SetControl(&control);
     m_textTip->MoveWindow(&rect, TRUE);
     m_textTip->Show();
-    CClientDC dc(m_textTip);
-    KbUiNotify(control, id, kKbUiNotifyDrawTip, reinterpret_cast<unsigned __int64>(static_cast<CDC*>(&dc)));
+    const WindowContext context(*m_textTip);
+    KbUiNotify(control, id, kKbUiNotifyDrawTip, reinterpret_cast<unsigned __int64>(context.dc()));
     return kKbUiReplyHandled;
 }
 

@@ -31,8 +31,8 @@ bool CKbUiDialog::isResizable() const {
 void CKbUiDialog::OnInitDialogBegin() {
     CRect window;
     GetWindowRect(&window);
-    m_elastic->m_minExtent = {window.Width(), window.Height()};
-    m_elastic->m_maxExtent = {::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
+    SetDialogMinExtents(window.Width(), window.Height());
+    SetDialogMaxExtents(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
     if (m_isModal) CenterWindow(nullptr);
 }
 
@@ -129,12 +129,14 @@ void CKbUiDialog::SetDialogMaxExtents(int width, int height) {
 }
 
 void CKbUiDialog::LockDialogWidth() {
+    if (m_elastic == nullptr) return;
     CRect window;
     GetWindowRect(&window);
     m_elastic->m_minExtent.m_width = m_elastic->m_maxExtent.m_width = window.Width();
 }
 
 void CKbUiDialog::LockDialogHeight() {
+    if (m_elastic == nullptr) return;
     CRect window;
     GetWindowRect(&window);
     m_elastic->m_minExtent.m_height = m_elastic->m_maxExtent.m_height = window.Height();

@@ -12,7 +12,7 @@
 #pragma once
 
 #include <ktui/dialogs/kbui_base_dialog.h>
-#include <ktui/dialogs/elastic_arithmetic.h>
+#include <ktui/dialogs/elastic_tags.h>
 
 class KbUiElastic;
 
@@ -78,7 +78,7 @@ public:
     /// Kept: repaints nothing; 1 exactly for a control with flag 1.
     int ForceControlRepaint(CWnd* control, int flag);
 
-    // Kept: exported for clients; these do nothing, and those with a result answer 0.
+    // Kept: these do nothing, and those with a result answer 0.
     void SetElasticSize(CSize& size, int flag);
     void SetPersistency(int persistency);
     void SetTabSize(__int64 tab, int size);
@@ -86,12 +86,12 @@ public:
     int AutoLoadControl(CWnd* control);
     int ReloadControl(CWnd* control, const wchar_t* name);
     int RemoveControl(CWnd* control);
+    void OnInitDialogFinish() override;
 
 protected:
     virtual void OnDialogHelp();
 
     void OnInitDialogBegin() override;
-    void OnInitDialogFinish() override;
     BOOL OnInitDialog() override;
     void OnOK() override;
     int DoDialogHelp() override;

@@ -2,6 +2,7 @@
 #include <ktui/dialogs/kbui_dialog.h>
 
 #include <ktui/dialogs/elastic.h>
+#include <ktui/text/dialog_root.h>
 #include <ktui/text/registry_access.h>
 
 namespace {
@@ -54,7 +55,7 @@ void CKbUiDialog::SetDialogName(const wchar_t* name) {
 int CKbUiDialog::GetDialogKey(CString& key) {
     CString name;
     if (!GetDialogName(name)) return 0;
-    key.Format(L"%s%s\\", AppRootKey(), name.GetString());
+    key = DialogDataKey(AppRootKey(), name);
     return 1;
 }
 

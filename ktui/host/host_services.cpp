@@ -3,6 +3,7 @@
 #include <imm.h>
 #include <kh_system.h>
 #include <od_host_services.h>
+#include <ktui/host/host_calls.h>
 
 namespace {
 
@@ -21,6 +22,16 @@ private:
 };
 
 }  // namespace
+
+void ShowHostHelp() {
+    if (CKhUiHost* host = CKhSystem::instance()->uiHost()) host->showHelp(nullptr);
+}
+
+CWnd* HostMainWindow() {
+    CKhUiHost* host = CKhSystem::instance()->uiHost();
+    CWinApp* application = host ? host->application() : nullptr;
+    return application ? application->m_pMainWnd : nullptr;
+}
 
 CWnd* KtUiMainWindow() {
     CKhUiHost* host = CKhSystem::instance()->uiHost();

@@ -2,7 +2,6 @@
 #include <ktui/host/message_box.h>
 
 int KtUiMessageBox(const wchar_t*, const wchar_t* text, UINT type) {
-    // Kept: the platform's box heads itself with the application's name. Callers rely on their caption not
-    // counting here.
+    // Kept: the caption doesn't count; the box is headed by the application's name.
     return AfxMessageBox(text, type, 0);
 }

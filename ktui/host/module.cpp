@@ -1,5 +1,5 @@
 // Load and unload of the library. The order of the steps is binding: each needs what the earlier ones made.
-#include <ktui/host/module.h>
+#include <ktui/host/loaded_module.h>
 
 #include <ktui/host/platform_versions.h>
 #include <ktui/host/theme_api.h>
@@ -7,6 +7,7 @@
 
 #include <shlwapi.h>
 
+#include <new>
 #include <utility>
 
 namespace {
@@ -33,11 +34,36 @@ const HMODULE stringLibrary = ::LoadLibraryW(L"ktdsres");
 
 ToolkitModule toolkit;
 
+/// Runs one step of the load; false if it ran out of memory. Nothing may be thrown out of a module's entry.
+template <class Step>
+bool Survives(Step step) {
+    try {
+        step();
+        return true;
+    } catch (CException* exhausted) {
+        exhausted->Delete();
+    } catch (const std::bad_alloc&) {
+    }
+    return false;
+}
+
+/// Has the resource search look into `module`. Without memory for that the module stays out of the chain.
+void AddToModuleChain(AFX_EXTENSION_MODULE& module) {
+    Survives([&module] { new CDynLinkLibrary(module, FALSE); });
+}
+
+/// AfxInitExtensionModule, which for want of memory fails like for any other reason.
+BOOL InitExtensionModule(AFX_EXTENSION_MODULE& module, HMODULE handle) {
+    BOOL result = FALSE;
+    Survives([&] { result = AfxInitExtensionModule(module, handle); });
+    return result;
+}
+
 void JoinResourceChain() {
-    if (toolkit.resourcesReady) return;
-    if (!AfxInitExtensionModule(toolkit.resources, toolkit.resourceLibrary)) return;
-    toolkit.resourcesReady = 1;
-    new CDynLinkLibrary(toolkit.resources, FALSE);
+    if (toolkit.resourceModuleReady) return;
+    if (!InitExtensionModule(toolkit.resourceModule, toolkit.resourceLibrary)) return;
+    toolkit.resourceModuleReady = 1;
+    AddToModuleChain(toolkit.resourceModule);
 }
 
 DWORD ReadOsVersionCode() {
@@ -61,8 +87,9 @@ DWORD ReadCommonControlsVersion(HMODULE controls) {
 }
 
 void SetUpButtonsAndThemes() {
-    toolkit.arrowImageList = ::ImageList_LoadImageW(toolkit.own.hModule, MAKEINTRESOURCEW(IDB_DROP_ARROWS),
-                                                    kArrowSize, 1, kArrowMask, IMAGE_BITMAP, 0);
+    toolkit.arrowImageList =
+        ::ImageList_LoadImageW(toolkit.ownModule.hModule, MAKEINTRESOURCEW(IDB_DROP_ARROWS), kArrowSize, 1,
+                               kArrowMask, IMAGE_BITMAP, 0);
     if (!toolkit.arrowImageList) return;
     const HMODULE controls = ::GetModuleHandleW(L"COMCTL32.DLL");
     toolkit.osVersionCode = ReadOsVersionCode();
@@ -82,25 +109,25 @@ void ReadButtonWndProc() {
 }
 
 BOOL Attach(HINSTANCE instance) {
-    if (!AfxInitExtensionModule(toolkit.own, instance)) return FALSE;
+    if (!InitExtensionModule(toolkit.ownModule, instance)) return FALSE;
     toolkit.resourceLibrary = ::LoadLibraryW(L"ktdsres.dll");
     AfxGetModuleState()->m_hCurrentResourceHandle = toolkit.resourceLibrary;
     JoinResourceChain();
     SetUpButtonsAndThemes();
     ReadButtonWndProc();
-    new CDynLinkLibrary(toolkit.own, FALSE);
+    AddToModuleChain(toolkit.ownModule);
     return TRUE;
 }
 
 void Detach() {
     if (toolkit.themeLibrary) ::FreeLibrary(std::exchange(toolkit.themeLibrary, nullptr));
     if (toolkit.arrowImageList) ::ImageList_Destroy(std::exchange(toolkit.arrowImageList, nullptr));
-    if (toolkit.resourcesReady) {
-        AfxTermExtensionModule(toolkit.resources, FALSE);
-        toolkit.resourcesReady = 0;
+    if (toolkit.resourceModuleReady) {
+        AfxTermExtensionModule(toolkit.resourceModule, FALSE);
+        toolkit.resourceModuleReady = 0;
     }
     if (toolkit.resourceLibrary) ::FreeLibrary(std::exchange(toolkit.resourceLibrary, nullptr));
-    AfxTermExtensionModule(toolkit.own, FALSE);
+    AfxTermExtensionModule(toolkit.ownModule, FALSE);
 }
 
 }  // namespace
@@ -109,9 +136,11 @@ const ToolkitModule& LoadedToolkit() { return toolkit; }
 
 HMODULE StringLibrary() { return stringLibrary; }
 
-HMODULE KtUiOwnModule() { return toolkit.own.hModule; }
+HMODULE KtUiOwnModule() { return toolkit.ownModule.hModule; }
 
-HINSTANCE OwnResourceModule() { return toolkit.own.hModule ? toolkit.own.hModule : toolkit.resourceLibrary; }
+HINSTANCE OwnResourceModule() {
+    return toolkit.ownModule.hModule ? toolkit.ownModule.hModule : toolkit.resourceLibrary;
+}
 
 void InitKtUiDLL() {}
 

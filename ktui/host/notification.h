@@ -84,6 +84,6 @@ KTUI_API KBUI_REPLY KbUiNotify(CWnd* window, unsigned id, KBUI_NOTIFY notificati
 
 /// Passes a "KbUIMessage" that `holder` received on to the child that its id names. Answers the child's
 /// reply, or 0 if the id is 0 or no child has it; `holder` then decides itself.
-LRESULT OfferKbUiMessageToChild(const CWnd& holder, WPARAM wParam, LPARAM lParam);
+KTUI_API LRESULT OfferKbUiMessageToChild(const CWnd& holder, WPARAM wParam, LPARAM lParam);
 
 #endif

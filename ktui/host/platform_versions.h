@@ -1,4 +1,4 @@
-// Version words of the system and of its common controls.
+// Version words of the system and of its common controls. Private to the library.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 // Makes a module the one that resources come from, for as long as the object lives.
 //
-//     const ResourceScope scope(LoadedToolkit().resourceLibrary);
+//     const ResourceScope scope(module);
 //     dialog.DoModal();
 //
 // Scopes nest. The former module comes back also when an exception leaves the scope.

@@ -38,7 +38,7 @@ OdString OdRxWin32Module<Module, Base>::moduleName() const {
 OdRxModule* odrxCreateModuleObject(HMODULE& module) {
     if (!singleton) {
         singleton = new ToolkitRuntimeModule(module);
-        module = nullptr;
+        if (singleton) module = nullptr;
     }
     return singleton;
 }

@@ -27,8 +27,7 @@ public:
     /// `handle` may be null, and then no entry point is found.
     explicit OdRxWin32Module(HMODULE handle) : m_handle(handle) {}
 
-    // Kept: the count is only a counter. The runtime relies on the object outliving a count of zero until it
-    // calls deleteModule.
+    // Kept: the count is only a counter; the object outlives a count of zero, until deleteModule.
     void addRef() override { ++m_count; }
     void release() override { --m_count; }
     long numRefs() const override { return m_count; }
@@ -41,7 +40,8 @@ public:
     void uninitApp() override { this->dispatch(kUninitMessage, this); }
     OdString moduleName() const override;
 
-    static void* operator new(std::size_t size) { return odrxAlloc(size); }
+    /// Null without memory, and then nothing is constructed.
+    static void* operator new(std::size_t size) noexcept { return odrxAlloc(size); }
     static void operator delete(void* memory) { odrxFree(memory); }
 
 private:
@@ -56,7 +56,8 @@ using ToolkitRuntimeModule = OdRxWin32Module<Arx2DrxModule, Arx2DrxModule>;
 
 extern "C" {
 /// The library's module object. The first call makes it of `module`, which becomes null; later calls answer
-/// the same object and leave `module` alone. The runtime ends its life by deleteModule.
+/// the same object and leave `module` alone. Null, with `module` left alone, without memory. The runtime ends
+/// its life by deleteModule.
 KTUI_API OdRxModule* odrxCreateModuleObject(HMODULE& module);
 /// Puts the version of the drawing runtime that the library was built against, 3.5, into the first two;
 /// answers 0.

@@ -1,6 +1,6 @@
 #include <ktui/host/string_resources.h>
 
-#include <ktui/host/module.h>
+#include <ktui/host/loaded_module.h>
 
 namespace {
 

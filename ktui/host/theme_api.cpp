@@ -64,7 +64,7 @@ void BindAnimationEntries(ThemeApi& api, const ThemeResolution& found) {
     Bind(api.getThemeTransitionDuration, found, kThemeGetTransitionDuration);
 }
 
-ThemeApi activeThemeApi = MakeThemeApi({});
+ThemeApi themeApi = MakeThemeApi({});
 
 }  // namespace
 
@@ -93,6 +93,6 @@ ThemeLibrary& SystemThemeLibrary() {
     return library;
 }
 
-const ThemeApi& ActiveThemeApi() { return activeThemeApi; }
+const ThemeApi& ActiveThemeApi() { return themeApi; }
 
-ThemeApi ExchangeThemeApi(const ThemeApi& api) { return std::exchange(activeThemeApi, api); }
+ThemeApi ExchangeThemeApi(const ThemeApi& api) { return std::exchange(themeApi, api); }

@@ -2,14 +2,13 @@
 //
 // Filled once while the library loads. A caller asks isThemeActive or openThemeData first; the drawing
 // entries are null on a system without themes and are reached only with a theme handle, which openThemeData
-// never gives there.
+// never gives there. Private to the library.
 #pragma once
 
 #include <windows.h>
 #include <uxtheme.h>
 
 #include <ktui/host/theme_resolver.h>
-#include <ktui/ktui_api.h>
 
 /// Late-bound entries of the theme library. Each member has the signature and the meaning of the platform
 /// function of its name.
@@ -38,14 +37,14 @@ struct ThemeApi {
 };
 
 /// Types what was resolved and puts the fallbacks in place of what was not.
-KTUI_API ThemeApi MakeThemeApi(const ThemeResolution& found);
+ThemeApi MakeThemeApi(const ThemeResolution& found);
 
 /// The theme library of this system, for ResolveThemeEntries.
-KTUI_API ThemeLibrary& SystemThemeLibrary();
+ThemeLibrary& SystemThemeLibrary();
 
 /// The entries in force.
-KTUI_API const ThemeApi& ActiveThemeApi();
+const ThemeApi& ActiveThemeApi();
 
 /// Puts `api` in force and answers the entries before it, so that both faces of a control can be shown on one
 /// system. Not for use while a control paints.
-KTUI_API ThemeApi ExchangeThemeApi(const ThemeApi& api);
+ThemeApi ExchangeThemeApi(const ThemeApi& api);

@@ -2,13 +2,13 @@
 //
 // The theme library is bound late and entry by entry. Here stands which entries are looked for, in which
 // order, and what a missing one costs; the functions themselves are typed in theme_api.h.
+//
+// Private to the library; its tests link it by itself.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-
-#include <ktui/ktui_api.h>
 
 /// First system version with themes, as `platform << 16 | major << 8 | minor`.
 constexpr std::uint32_t kFirstSystemWithThemes = 0x020501;
@@ -45,7 +45,7 @@ enum ThemeSlot : std::size_t {
 constexpr std::size_t kFirstAnimationSlot = kThemeBeginBufferedAnimation;
 
 /// Export names, by ThemeSlot.
-KTUI_API extern const std::array<const char*, kThemeSlotCount> kThemeEntryNames;
+extern const std::array<const char*, kThemeSlotCount> kThemeEntryNames;
 
 /// An entry whose signature is not known here.
 using ThemeEntry = void (*)();
@@ -76,5 +76,5 @@ struct ThemeResolution {
 /// `controlsVersion`. Below either first version with themes the library isn't even loaded. A missing window
 /// entry frees it again and leaves no entry at all; a missing animation entry costs only the animation
 /// entries.
-KTUI_API ThemeResolution ResolveThemeEntries(std::uint32_t osVersion, std::uint32_t controlsVersion,
-                                             ThemeLibrary& library);
+ThemeResolution ResolveThemeEntries(std::uint32_t osVersion, std::uint32_t controlsVersion,
+                                    ThemeLibrary& library);

@@ -1,9 +1,9 @@
 // Which states the closed face of an owner-drawn drop-down list shows.
 //
 // Without any window, so that each state can be told and tested by itself.
+//
+// Private to the library; its tests link it by itself.
 #pragma once
-
-#include <ktui/ktui_api.h>
 
 /// What is known of the control at the moment it is painted.
 struct ComboCondition {
@@ -34,7 +34,7 @@ constexpr unsigned kItemHotLight = 0x0040;
 constexpr unsigned kItemInEdit = 0x1000;
 
 /// The face for `condition`; the first member that is set decides.
-KTUI_API ComboFace ChooseComboFace(const ComboCondition& condition);
+ComboFace ChooseComboFace(const ComboCondition& condition);
 
 /// True for an item state that belongs to the closed face and to nothing else: 0, or exactly the edit state.
 constexpr bool IsFaceItemState(unsigned itemState) { return itemState == 0 || itemState == kItemInEdit; }

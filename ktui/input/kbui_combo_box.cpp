@@ -3,7 +3,7 @@
 #include <utility>
 
 #include <ktui/controls/kbui_list_box.h>
-#include <ktui/host/tip_dispatch.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/host/theme_api.h>
 #include <ktui/input/kbui_edit.h>
 #include <ktui/input/combo_face.h>
@@ -38,11 +38,6 @@ CKbUiComboBox::~CKbUiComboBox() {
     releaseEditBox();
 }
 
-LRESULT CKbUiComboBox::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    if (const LRESULT reply = OfferKbUiMessageToChild(*this, wParam, lParam)) return reply;
-    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
-}
-
 HBRUSH CKbUiComboBox::OnCtlColor(CDC* dc, CWnd* window, UINT kind) {
     if (!(m_flags & kChildrenTaken)) {
         if (kind == CTLCOLOR_EDIT) takeOverEdit(*window);
@@ -54,18 +49,10 @@ HBRUSH CKbUiComboBox::OnCtlColor(CDC* dc, CWnd* window, UINT kind) {
     return CComboBox::OnCtlColor(dc, window, kind);
 }
 
-void CKbUiComboBox::OnMouseMove(UINT flags, CPoint point) {
-    CComboBox::OnMouseMove(flags, point);
-    if (point == m_lastMousePoint) return;
-    m_lastMousePoint = point;
-    TipDispatch::reportMove(*this, GetKbUiParent());
-}
-
 void CKbUiComboBox::SetEditBox(CKbUiEdit* edit, int owned) {
     releaseEditBox();
     m_editBox = nullptr;
-    // Kept: clearing the part leaves its owned bit. Callers rely on a part that is set later without asking
-    // to be deleted as its forerunner was.
+    // Kept: clearing the part leaves its owned bit.
     if (edit) {
         m_editBox = edit;
         m_flags = owned ? m_flags | kEditOwned : m_flags & ~kEditOwned;
@@ -136,22 +123,13 @@ void CKbUiComboBox::GetLBString(int index, CString& text) {
 void CKbUiComboBox::GetContentExtent(const wchar_t* text, int& cx, int& cy) { GetTextExtent(text, cx, cy); }
 
 void CKbUiComboBox::GetTextExtent(const wchar_t* text, int& cx, int& cy) {
-    cx = cy = 0;
-    CDC* dc = GetDC();
-    if (!dc) return;
-    SIZE extent{};
-    ::GetTextExtentPoint32W(dc->m_hDC, text, lstrlenW(text), &extent);
-    ReleaseDC(dc);
-    cx = static_cast<int>(extent.cx);
-    cy = static_cast<int>(extent.cy) + kTextHeightMargin;
+    if (MeasureControlText(*this, text, cx, cy, TextForm::kSystemLine)) cy += kTextHeightMargin;
 }
 
 BOOL CKbUiComboBox::SetToolTipText(const wchar_t* text) {
     m_toolTipText = text;
     return TRUE;
 }
-
-CWnd* CKbUiComboBox::GetKbUiParent() const { return m_kbUiParent ? m_kbUiParent : GetParent(); }
 
 BOOL CKbUiComboBox::IsVistaTheme() { return ActiveThemeApi().isThemeActive(); }
 
@@ -170,21 +148,8 @@ BOOL CKbUiComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
 }
 
 KBUI_REPLY CKbUiComboBox::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    if (notification != kKbUiNotifyGetTipText || datum == 0) return kKbUiReplyNone;
-    return TipDispatch::handledIf(OnGetTipText(TipDispatch::at<CString>(datum)));
+    return notification == kKbUiNotifyGetTipText ? serveTipText(datum) : kKbUiReplyNone;
 }
-
-void CKbUiComboBox::OnDrawTip(CDC&) {}
-
-BOOL CKbUiComboBox::OnDrawTipText(CKbUiDrawTipText&) { return FALSE; }
-
-KBUI_REPLY CKbUiComboBox::OnGetTipSupport(CPoint&) { return kKbUiReplyNone; }
-
-BOOL CKbUiComboBox::OnGetTipRect(CRect&) { return FALSE; }
-
-BOOL CKbUiComboBox::OnGetTipText(CString&) { return FALSE; }
-
-BOOL CKbUiComboBox::OnHitTipRect(CPoint&) { return FALSE; }
 
 bool CKbUiComboBox::isThemedFace() const { return IsOwnerDraw() && IsStatic() && IsVistaTheme(); }
 

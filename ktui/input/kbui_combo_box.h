@@ -8,24 +8,30 @@
 
 #include <afxwin.h>
 
-#include <ktui/host/draw_tip_text.h>
-#include <ktui/host/notification.h>
+#include <ktui/host/tip_control.h>
 #include <ktui/ktui_api.h>
 
 class CKbUiEdit;
 class CKbUiListBox;
 
-class KTUI_API CKbUiComboBox : public CComboBox {
+/// The virtual operations of a combo box before those of its tip.
+class KbUiComboBoxSlots : public CComboBox {
+public:
+    /// Puts the text of item `index` into `text`; an index outside the list gives the empty string.
+    virtual void GetLBString(int index, CString& text) = 0;
+    /// Width and height in pixels of `text` as an item would show it.
+    virtual void GetContentExtent(const wchar_t* text, int& cx, int& cy) = 0;
+};
+
+class KTUI_API CKbUiComboBox : public KbUiTipControl<CKbUiComboBox, KbUiComboBoxSlots> {
     DECLARE_DYNAMIC(CKbUiComboBox)
 
 public:
     CKbUiComboBox();
     ~CKbUiComboBox() override;
 
-    /// Puts the text of item `index` into `text`; an index outside the list gives the empty string.
-    virtual void GetLBString(int index, CString& text);
-    /// Width and height in pixels of `text` as an item would show it.
-    virtual void GetContentExtent(const wchar_t* text, int& cx, int& cy);
+    void GetLBString(int index, CString& text) override;
+    void GetContentExtent(const wchar_t* text, int& cx, int& cy) override;
 
     /// Makes `edit` the edit part; null for none. The former one is let go, and deleted if owned. With
     /// `owned` this control deletes the new one. A null part leaves the question of ownership as it was.
@@ -53,11 +59,6 @@ public:
     /// Keeps a text for a tool tip; always TRUE.
     BOOL SetToolTipText(const wchar_t* text);
 
-    /// Who is told of mouse moves: the window set, or else the parent window. Not owned.
-    CWnd* GetKbUiParent() const;
-    /// Sets who is told; null for the parent window. Not owned.
-    void SetKbUiParent(CWnd* parent) { m_kbUiParent = parent; }
-
     /// Whether a theme is active.
     static BOOL IsVistaTheme();
     /// TRUE for an item state with which the closed face is drawn.
@@ -72,22 +73,16 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
 protected:
-    /// Answers kKbUiNotifyGetTipText; kKbUiReplyNone for every other notification.
-    virtual KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum);
-    // The tip questions. This class has no tip: nothing, kKbUiReplyNone, FALSE.
-    virtual void OnDrawTip(CDC& dc);
-    virtual BOOL OnDrawTipText(CKbUiDrawTipText& tip);
-    virtual KBUI_REPLY OnGetTipSupport(CPoint& point);
-    virtual BOOL OnGetTipRect(CRect& rect);
-    virtual BOOL OnGetTipText(CString& text);
-    virtual BOOL OnHitTipRect(CPoint& point);
+    friend TipControl;
+
+    /// Answers kKbUiNotifyGetTipText; kKbUiReplyNone for every other notification. The class has no tip of
+    /// its own.
+    KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 datum) override;
 
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* window, UINT kind);
-    afx_msg void OnMouseMove(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
     CPoint m_lastMousePoint;

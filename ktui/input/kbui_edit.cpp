@@ -1,7 +1,6 @@
 #include <ktui/input/kbui_edit.h>
 
-#include <ktui/host/control_font.h>
-#include <ktui/host/tip_dispatch.h>
+#include <ktui/host/text_extent.h>
 #include <ktui/host/tip_painting.h>
 
 namespace {
@@ -25,13 +24,7 @@ void CKbUiEdit::OnMouseMove(UINT flags, CPoint point) {
     // Kept: a control that is being typed in reports nothing and forgets the move, so that the first move
     // after the focus has gone is reported.
     if (::GetFocus() == m_hWnd) return;
-    m_lastMousePoint = point;
-    TipDispatch::reportMove(*this, GetKbUiParent());
-}
-
-LRESULT CKbUiEdit::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    if (const LRESULT reply = OfferKbUiMessageToChild(*this, wParam, lParam)) return reply;
-    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
+    reportMove(point);
 }
 
 void CKbUiEdit::GetContentExtent(const wchar_t* text, int& width, int& height) {
@@ -39,12 +32,6 @@ void CKbUiEdit::GetContentExtent(const wchar_t* text, int& width, int& height) {
 }
 
 void CKbUiEdit::SetStyleMask(DWORD mask) { m_styleMask = mask; }
-
-KBUI_REPLY CKbUiEdit::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {
-    return TipDispatch::serve(*this, notification, datum);
-}
-
-void CKbUiEdit::OnDrawTip(CDC&) {}
 
 BOOL CKbUiEdit::OnDrawTipText(CKbUiDrawTipText& tip) {
     PaintFramedTip(*this, tip);
@@ -79,20 +66,8 @@ BOOL CKbUiEdit::OnGetTipText(CString& text) {
 BOOL CKbUiEdit::OnHitTipRect(CPoint& point) { return contains(point); }
 
 void CKbUiEdit::GetTextExtent(const wchar_t* text, int& width, int& height) {
-    width = height = 0;
-    CDC* dc = GetDC();
-    if (!dc) return;
-    CRect extent(0, 0, 0, 0);
-    {
-        const ControlFont font(*dc, *this);
-        dc->DrawText(text, -1, &extent, DT_CALCRECT);
-    }
-    ReleaseDC(dc);
-    width = extent.Width();
-    height = extent.Height();
+    MeasureControlText(*this, text, width, height, TextForm::kDrawn);
 }
-
-CWnd* CKbUiEdit::GetKbUiParent() const { return m_kbUiParent ? m_kbUiParent : GetParent(); }
 
 bool CKbUiEdit::contains(CPoint point) const {
     CRect client;

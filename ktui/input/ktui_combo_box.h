@@ -21,8 +21,7 @@ public:
     KTUI_ERROR_CODE ValidateData(CString& text);
     /// The edit part's Convert; nothing without one.
     void Convert();
-    // Kept: TRUE without an edit part, although a text edit answers FALSE. Callers treat a missing part as
-    // nothing to object to.
+    // Kept: TRUE without an edit part, although a text edit answers FALSE.
     BOOL ConvertData(CString& text);
     /// The edit part's SetRange; nothing without one.
     void SetRange(double minimum, double maximum);

@@ -38,7 +38,7 @@ BOOL CKtUiEdit::OnErrSpace() { return FALSE; }
 
 void CKtUiEdit::SetStyleMask(DWORD mask) {
     if (IsContradictoryMask(mask)) KtUiMessageBox(nullptr, kContradictoryMaskText, 0);
-    // Kept: a contradicted mask is stored all the same. Callers rely on the message being the only effect.
+    // Kept: a contradicted mask is stored all the same; the message is the only effect.
     CKbUiEdit::SetStyleMask(mask);
 }
 
@@ -70,7 +70,7 @@ BOOL CKtUiEdit::Validate() {
 }
 
 void CKtUiEdit::Convert() {
-    // Kept: may be called through a null pointer. Callers convert whatever edit a dialog happens to have.
+    // Kept: may be called through a null pointer.
     if (!GetSafeHwnd() || !IsNumberMask(GetStyleMask())) return;
     CString text;
     GetWindowText(text);
@@ -96,8 +96,7 @@ KBUI_REPLY CKtUiEdit::takeFocus() {
 KBUI_REPLY CKtUiEdit::validateForHolder() {
     CString text;
     GetWindowText(text);
-    // Kept: a number is validated in its canonical spelling, not as typed. Holders rely on the verdict that
-    // the text will get once it has been converted.
+    // Kept: a number is validated in its canonical spelling, not as typed.
     if (IsNumberMask(GetStyleMask())) ValidateData(text);
     m_valid = ValidateData(text) == kKtUiErrorNone;
     return m_valid ? kKbUiReplyValid : kKbUiReplyInvalid;

@@ -12,13 +12,13 @@ constexpr std::size_t kSpellingLength = 1024;  // characters, terminator include
 KTUI_ERROR_CODE CheckNumber(DWORD mask, double minimum, double maximum, double value) {
     if ((mask & kKtUiEditRange) && (value < minimum || value > maximum)) return kKtUiErrorOutOfRange;
     if ((mask & kKtUiEditNoNegative) && value < 0) return kKtUiErrorNegative;
-    // Kept: exact, with no tolerance. Callers rely on the smallest nonzero value to pass.
+    // Kept: exact, with no tolerance; the smallest nonzero value passes.
     if ((mask & kKtUiEditNoZero) && value == 0) return kKtUiErrorZero;
     return kKtUiErrorNone;
 }
 
 KTUI_ERROR_CODE ValidateNumber(DWORD mask, double minimum, double maximum, CString& text) {
-    // Kept: with both bits set the text is a distance. Callers rely on the numeric bit to win.
+    // Kept: with both bits set the text is a distance.
     const bool isDistance = (mask & kKtUiEditNumeric) != 0;
     double value = 0;
     const int status = isDistance ? ktdbDisToF(text.GetString(), kCurrentSetting, &value)
@@ -36,8 +36,7 @@ KTUI_ERROR_CODE ValidateNumber(DWORD mask, double minimum, double maximum, CStri
 }
 
 KTUI_ERROR_CODE ValidateSymbol(DWORD mask, const CString& text) {
-    // Kept: without the no-blank bit a symbol's syntax isn't examined at all. Callers rely on that for boxes
-    // that take a name or a pattern.
+    // Kept: without the no-blank bit a symbol's syntax isn't examined at all.
     if (!(mask & kKtUiEditNoBlank)) return kKtUiErrorNone;
     if (text.IsEmpty()) return kKtUiErrorBlank;
     return ktdbSNValid(text.GetString(), 0) == kKtdbOk ? kKtUiErrorNone : kKtUiErrorSymbolSyntax;

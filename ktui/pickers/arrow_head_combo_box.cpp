@@ -17,6 +17,8 @@ struct ArrowheadName {
     int id = 0;
 };
 
+static_assert(CKtUiArrowHeadComboBox::kCount == kArrowheadCount);
+
 using ArrowheadNames = std::array<ArrowheadName, kArrowheadCount>;
 
 /// The names that all pickers share.
@@ -45,7 +47,6 @@ CKtUiArrowHeadComboBox::CKtUiArrowHeadComboBox() : m_itemCount(kArrowheadCount),
 
 int CKtUiArrowHeadComboBox::AddArrowHeadToMRU(const wchar_t* text) {
     // Kept: an evicted cargo is used again while its item is still listed, and that item is then the answer.
-    // Owners rely on a list without two items of one cargo.
     return AddItemToMRU(text, GenerateCargoFromMRU(m_itemCount));
 }
 
@@ -57,14 +58,13 @@ int CKtUiArrowHeadComboBox::GetOtherName(int which, CString& text) {
     else if (m_mruFlags & kUseOther1)
         text = LoadToolkitString(IDS_USER_ARROWHEAD_ITEM, L"用户箭头...");
     else
-        text = L"User arrow";  // Kept: not translated. Owners tell by it that the item isn't offered.
+        text = L"User arrow";  // Kept: not translated.
     return 1;
 }
 
 void CKtUiArrowHeadComboBox::OnAddItems() {
     for (const ArrowheadName& arrowhead : sharedNames()) {
-        // Kept: the flag is named for the second origin arrowhead but decides about the oblique one. Owners
-        // rely on a list of 19 without it.
+        // Kept: the flag is named for the second origin arrowhead but decides about the oblique one.
         if (arrowhead.id == kOblique && !m_useOrigin2) continue;
         AddItemToList(arrowhead.name, arrowhead.id);
     }
@@ -72,6 +72,7 @@ void CKtUiArrowHeadComboBox::OnAddItems() {
 
 void CKtUiArrowHeadComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     if (cargo < 0 || cargo >= m_itemCount) return;
-    const int top = ArrowheadStripTop(static_cast<int>(cargo));
+    const int top = ArrowheadStripTop(cargo, m_imageSize);
+    if (top < 0) return;
     DrawStripPicture(dc, rect, m_strip, top, m_imageSize, m_imageSize);
 }

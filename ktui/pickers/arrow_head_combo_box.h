@@ -8,6 +8,9 @@ class KTUI_API CKtUiArrowHeadComboBox : public CKtUiMRUComboBox {
     DECLARE_DYNAMIC(CKtUiArrowHeadComboBox)
 
 public:
+    /// Number of the arrowheads; a user's own have a cargo from here on.
+    static constexpr int kCount = 20;
+
     /// Loads the names of the arrowheads, which all these pickers share, in the language in force.
     CKtUiArrowHeadComboBox();
 

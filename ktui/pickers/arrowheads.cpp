@@ -28,8 +28,8 @@ const std::array<Arrowhead, kArrowheadCount>& Arrowheads() {
     return kArrowheads;
 }
 
-int ArrowheadStripTop(int cargo) {
+int ArrowheadStripTop(std::int64_t cargo, int imageSize) {
     if (cargo < 0 || cargo >= kArrowheadCount) return -1;
-    // Kept: neighbours in the strip share a row of pixels. Strips drawn for it rely on the shorter step.
-    return (kArrowheadSize - 1) * Arrowheads()[static_cast<std::size_t>(cargo)].stripRow;
+    // Kept: neighbours in the strip share a row of pixels.
+    return (imageSize - 1) * Arrowheads()[static_cast<std::size_t>(cargo)].stripRow;
 }

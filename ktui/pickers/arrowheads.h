@@ -1,11 +1,12 @@
 // The arrowheads of dimensions as their picker lists them, and where the picture of each stands in the strip.
 //
 // Without any window. Which block an arrowhead stands for is the owner's business.
+//
+// Private to the library; its tests link it by itself.
 #pragma once
 
 #include <array>
-
-#include <ktui/ktui_api.h>
+#include <cstdint>
 
 constexpr int kArrowheadCount = 20;
 constexpr int kArrowheadSize = 15;  ///< pixels; width and height of a picture
@@ -19,7 +20,8 @@ struct Arrowhead {
 };
 
 /// The arrowheads in the order of the list, which is that of their cargo.
-KTUI_API const std::array<Arrowhead, kArrowheadCount>& Arrowheads();
+const std::array<Arrowhead, kArrowheadCount>& Arrowheads();
 
-/// Top of the picture of `cargo` in the strip, in pixels; -1 for a cargo without a picture.
-KTUI_API int ArrowheadStripTop(int cargo);
+/// Top of the picture of `cargo` in a strip of pictures of `imageSize` pixels, in pixels; -1 for a cargo
+/// without a picture.
+int ArrowheadStripTop(std::int64_t cargo, int imageSize);

@@ -52,6 +52,11 @@ DWORD CKtUiColorComboBox::LookupColor(int index, LOGPALETTE* palette) {
     return LookupInPalette(index, palette, color) ? color : LookupAtHost(index);
 }
 
+int CKtUiColorComboBox::indexOf(__int64 cargo) {
+    const int index = static_cast<int>(cargo);
+    return index == cargo ? index : -1;
+}
+
 int CKtUiColorComboBox::AddColorToMRU(int index) {
     return AddItemToMRU(ktutColorToStr(static_cast<short>(index)), index);
 }
@@ -67,7 +72,7 @@ void CKtUiColorComboBox::OnAddItems() {
 }
 
 int CKtUiColorComboBox::OnSelectOther(int, int lastSel, int& newIndex) {
-    const int current = static_cast<int>(GetItemCargo(lastSel));
+    const int current = indexOf(GetItemCargo(lastSel));
     const int layerIndex = GetCurrentLayerColorIndex();
     const int allowMeta = GetUseByLayer() && GetUseByBlock() ? 1 : 0;
     int chosen = -1;
@@ -84,6 +89,6 @@ void CKtUiColorComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
         case kForegroundIndex: swatch.fillDiagonal(); break;
         case kByLayerIndex: swatch.fillSolid(GetColorFromIndex(GetCurrentLayerColorIndex())); break;
         case kByBlockIndex: swatch.fillSolid(GetColorFromIndex(m_blockColorIndex)); break;
-        default: swatch.fillSolid(GetColorFromIndex(static_cast<int>(cargo))); break;
+        default: swatch.fillSolid(GetColorFromIndex(indexOf(cargo))); break;
     }
 }

@@ -34,10 +34,10 @@ public:
     int AddColorToMRU(int index);
     /// List index of colour `index`, or -1.
     int FindItemByColorIndex(int index) { return FindItemByCargo(index); }
-    /// Colour index of the selected item, -1 without a selection.
-    int GetCurrentItemColorIndex() { return static_cast<int>(GetCurrentItemCargo()); }
-    /// Colour index of item `listIndex`, -1 for an index outside the list.
-    int GetItemColorIndex(int listIndex) { return static_cast<int>(GetItemCargo(listIndex)); }
+    /// Colour index of the selected item, -1 without a selection or for a cargo beyond any index.
+    int GetCurrentItemColorIndex() { return indexOf(GetCurrentItemCargo()); }
+    /// Colour index of item `listIndex`, -1 for an index outside the list or a cargo beyond any index.
+    int GetItemColorIndex(int listIndex) { return indexOf(GetItemCargo(listIndex)); }
 
     void DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) override;
     int GetOtherName(int which, CString& text) override;
@@ -46,4 +46,8 @@ public:
 
 protected:
     int m_blockColorIndex = 7;
+
+private:
+    /// The cargo as a colour index; -1 if it doesn't fit.
+    static int indexOf(__int64 cargo);
 };

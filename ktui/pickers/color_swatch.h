@@ -1,11 +1,11 @@
 // The geometry of a colour swatch: where its frame and its colour area lie, and which colour a pixel has.
 //
 // Rectangles and distances are in pixels. Without any device context.
+//
+// Private to the library; its tests link it by itself.
 #pragma once
 
 #include <afx.h>
-
-#include <ktui/ktui_api.h>
 
 /// Rows and columns of the ramp that stands for "any colour": the chromatic part of the indexed palette.
 constexpr int kRampRows = 24;
@@ -26,10 +26,10 @@ constexpr RECT SwatchFrame(const RECT& image) { return ShrinkRect(image, 2); }
 constexpr RECT SwatchArea(const RECT& image) { return ShrinkRect(SwatchFrame(image), 1); }
 
 /// Colour index at `row` and `column` of the ramp; every index from 10 to 249 occurs once.
-KTUI_API int RampColorIndex(int row, int column);
+int RampColorIndex(int row, int column);
 
 /// Colour index of the ramp at `dx`, `dy` from the left top of a colour area of `width` by `height`.
-KTUI_API int RampColorIndexAt(int dx, int dy, int width, int height);
+int RampColorIndexAt(int dx, int dy, int width, int height);
 
 /// Colour of the black and white diagonal at `dx`, `dy`: black above the diagonal, white on and below it.
 constexpr COLORREF DiagonalColorAt(int dx, int dy) { return dx > dy ? 0x000000 : 0xFFFFFF; }

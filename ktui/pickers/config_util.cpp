@@ -56,8 +56,7 @@ int getSaveFormatList(OdArray<KtApDocument::SaveFormat>& list) {
         if (documents->saveFormatAt(index, format, name))
             list.append(static_cast<KtApDocument::SaveFormat>(format));
     }
-    // Kept: the R13 formats and most templates and standards have rows but aren't offered. Dialogs rely on
-    // the list's order for their file types.
+    // Kept: the R13 formats and most templates and standards have rows but aren't offered.
     for (const int format : kOfferedSaveFormats) list.append(static_cast<KtApDocument::SaveFormat>(format));
     return list.length();
 }

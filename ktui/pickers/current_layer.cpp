@@ -1,16 +1,9 @@
 #include <ktui/pickers/current_layer.h>
 
-#include <od_db_database.h>
 #include <od_db_layer_table.h>
-#include <od_host_services.h>
+#include <ktui/pickers/working_drawing.h>
 
 namespace {
-
-/// The working drawing; null if there is none.
-const OdDbDatabase* WorkingDrawing() {
-    const OdDbHostAppServices* services = oddbHostApplicationServices();
-    return services ? services->workingDatabase() : nullptr;
-}
 
 /// The current layer of `drawing`, null for the working drawing; null if there is none.
 OdDbObjectId CurrentLayerId(const OdDbDatabase* drawing = nullptr) {

@@ -36,8 +36,7 @@ CKtUiFontComboBox::CKtUiFontComboBox()
 }
 
 CKtUiFontComboBox::~CKtUiFontComboBox() {
-    // Kept: this frees no icon, and the shared ones need no freeing. Owners rely on the handles outliving the
-    // control.
+    // Kept: this frees no icon, and the shared ones need no freeing.
     ::DeleteObject(m_trueTypeIcon);
     ::DeleteObject(m_shxIcon);
 }
@@ -52,7 +51,6 @@ void CKtUiFontComboBox::setCurrentFont(const wchar_t* name) {
     const CKhFontStyle* style = fonts ? fonts->find(name) : nullptr;
     if (!style) return;
     // Kept: a font that isn't listed clears the selection, and the buddy keeps the former font's styles.
-    // Owners rely on an empty field for a big font.
     SetCurSel(FindStringExact(-1, style->font()->name()));
     showStyles();
     if (m_buddy) m_buddy->SetCurSel(m_buddy->FindStringExact(-1, style->styleName()));
@@ -105,8 +103,7 @@ BOOL CKtUiFontComboBox::OnDropDown() {
         widest = std::max(widest, width);
     }
     SetDroppedWidth(static_cast<UINT>(widest));
-    // Kept: the Other items of the base class aren't added, whatever its flags say. Owners rely on a list of
-    // fonts only.
+    // Kept: the Other items of the base class aren't added, whatever its flags say.
     return FALSE;
 }
 
@@ -125,8 +122,7 @@ void CKtUiFontComboBox::showStyles() {
         return;
     }
     addStyles(*font);
-    // Kept: with every style left out the buddy stays enabled and empty. Owners tell by it a font whose
-    // styles are hidden from one without any.
+    // Kept: with every style left out the buddy stays enabled and empty.
     m_buddy->SetCurSel(0);
 }
 

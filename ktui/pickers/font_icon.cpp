@@ -1,6 +1,6 @@
 #include <ktui/pickers/font_icon.h>
 
-#include <ktui/host/module.h>
+#include <ktui/host/loaded_module.h>
 
 HICON LoadFontIcon(UINT id, UINT flags) {
     return static_cast<HICON>(

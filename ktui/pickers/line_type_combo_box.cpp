@@ -1,10 +1,11 @@
 #include <ktui/pickers/line_type_combo_box.h>
 
+#include <ktui/pickers/viewport_override.h>
+
 #include <kh_system.h>
 #include <ktut.h>
-#include <od_db_database.h>
 #include <od_db_linetype_table.h>
-#include <od_host_services.h>
+#include <ktui/pickers/working_drawing.h>
 
 #include <algorithm>
 #include <vector>
@@ -16,19 +17,13 @@ constexpr int kSampleMarginY = 1;  // pixels at the top and at the bottom
 constexpr int kDialogMode = 1;
 constexpr COLORREF kSampleInk = 0;
 constexpr COLORREF kSamplePaper = 0xFFFFFF;
-constexpr const wchar_t* kViewportSuffix = L" (VP)";
-
-OdDbDatabase* workingDrawing() {
-    OdDbHostAppServices* services = oddbHostApplicationServices();
-    return services ? services->workingDatabase() : nullptr;
-}
 
 /// A record of linetype `id`; null if the linetype can't be opened or came with an external reference.
 CKtUiLTypeRecord* makeRecord(const OdDbObjectId& id) {
     const OdDbLinetypeTableRecordPtr linetype = id.open<OdDbLinetypeTableRecord>();
     OdString name;
     if (!linetype || linetype->isDependent() || linetype->getName(name) != kOdOk) return nullptr;
-    // Kept: the name ends at a terminator within it. Owners rely on the list showing what the record says.
+    // Kept: the name ends at a terminator within it.
     return new CKtUiLTypeRecord(name.c_str(), id);
 }
 
@@ -62,7 +57,7 @@ void CKtUiLineTypeComboBox::ShowLTypes(bool force) {
 void CKtUiLineTypeComboBox::LoadContentsFromDatabase() {
     if (m_ltLocalMapDB && !m_dbReload) return;
     emptyLTypeLocalList();
-    m_ltLocalMapDB = workingDrawing();
+    m_ltLocalMapDB = WorkingDrawing();
     OdDbLinetypeTablePtr table;
     if (!m_ltLocalMapDB || m_ltLocalMapDB->getLinetypeTable(table) != kOdOk) return;
     std::vector<OdDbObjectId> ids;
@@ -129,7 +124,7 @@ int CKtUiLineTypeComboBox::FindItemByCargo(OdDbObjectId id) {
 }
 
 int CKtUiLineTypeComboBox::AddLTypeToControl(CKtUiLTypeRecord* record) {
-    // Kept: the known item stays behind the new one. Owners rely on the new name being found first by id.
+    // Kept: the known item stays behind the new one.
     return InsertItemInList(FindItemByCargo(record->m_id), record->m_name, record->cargo());
 }
 
@@ -180,8 +175,7 @@ int CKtUiLineTypeComboBox::OnSelectOther(int, int lastSel, int& newIndex) {
     host->showLinetypeDialog(getOIDSel(lastSel), chosen, kDialogMode);
     ShowLTypes(true);
     newIndex = FindItemByCargo(chosen);
-    // Kept: a cancel counts as accepted and keeps the index, whatever stands there after the reload. Owners
-    // rely on an index that the control selects again, since the reload has lost the selection.
+    // Kept: a cancel counts as accepted and keeps the index, whatever stands there after the reload.
     if (newIndex < 0) newIndex = lastSel;
     return 1;
 }
@@ -189,7 +183,7 @@ int CKtUiLineTypeComboBox::OnSelectOther(int, int lastSel, int& newIndex) {
 void CKtUiLineTypeComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
     const bool isByLayer = m_byLayerRecord && GetItemCargo(index) == m_byLayerRecord->cargo();
-    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
+    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportOverrideSuffix;
 }
 
 int CKtUiLineTypeComboBox::ImageWidth() {
@@ -212,7 +206,7 @@ void CKtUiLineTypeComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     CRect sample = rect;
     sample.DeflateRect(kSampleMarginX, kSampleMarginY);
     OdDbObjectId id = record->m_id;
-    // Kept: the answer isn't looked at. Subclasses that fill the id and answer false rely on it being drawn.
+    // Kept: the answer isn't looked at.
     if (record == m_byLayerRecord) GetCurrentLayerLineType(id);
     preview->drawLinetype(dc.GetSafeHdc(), sample, id, kSampleInk, kSamplePaper);
 }

@@ -1,5 +1,7 @@
 #include <ktui/pickers/line_weight_combo_box.h>
 
+#include <ktui/pickers/viewport_override.h>
+
 #include <ktui/pickers/line_weights.h>
 #include <ktui/pickers/lweight_util.h>
 #include <od_host_services.h>
@@ -14,7 +16,6 @@ constexpr int kMinimumImageWidth = 48;  // pixels, unless half the control is na
 constexpr double kScaleUnit = 20.0;
 constexpr DWORD kSampleInk = 0;
 constexpr const wchar_t* kWidestText = L"--------";
-constexpr const wchar_t* kViewportSuffix = L" (VP)";
 
 }  // namespace
 
@@ -33,7 +34,7 @@ int CKtUiLineWeightComboBox::GetCurrentLayerLineWeight() {
 int CKtUiLineWeightComboBox::GetCurrentLayerVpOverride() { return 0; }
 
 void CKtUiLineWeightComboBox::OnAddItems() {
-    // Kept: this text isn't translated, unlike the name of the default weight. Owners find the item by it.
+    // Kept: this text isn't translated, unlike the name of the default weight.
     if (m_useDefault) AddItemToList(L"Default", OdDb::kLnWtByLwDefault);
     const bool inch = KhUtLWeightUtil::getLWeightUnits() == 0;
     for (const LineWeightName& name : LineWeightNames()) {
@@ -54,6 +55,7 @@ int CKtUiLineWeightComboBox::ImageWidth() {
 
 /// The weight to draw for the item with `cargo`; false if nothing is drawn for it.
 bool CKtUiLineWeightComboBox::sampleWeight(__int64 cargo, int& weight) {
+    if (cargo != static_cast<int>(cargo)) return false;
     weight = cargo == OdDb::kLnWtByLayer ? GetCurrentLayerLineWeight() : static_cast<int>(cargo);
     if (weight == OdDb::kLnWtByBlock) weight = 1;
     if (weight == OdDb::kLnWtByLwDefault) {
@@ -76,8 +78,7 @@ void CKtUiLineWeightComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo)
 
 void CKtUiLineWeightComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
-    // Kept: an index outside the list has ByLayer's cargo and says the override too. Only -1 never does,
-    // which the closed face without a selection relies on.
+    // Kept: an index outside the list has ByLayer's cargo and says the override too. Only -1 never does.
     const bool isByLayer = index != -1 && GetItemCargo(index) == OdDb::kLnWtByLayer;
-    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
+    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportOverrideSuffix;
 }

@@ -36,12 +36,11 @@ const wchar_t* LineWeightText(bool inch, int weight) {
 
 int LineWeightBarThickness(int height, int weight, double scale) {
     if (weight <= 0) return 1;
-    // Kept: both thresholds lie just off 0.2 and 1.0. Owners that compute these scales rely on rounding not
-    // to move a bar across them.
+    // Kept: both thresholds lie just off 0.2 and 1.0.
     if (scale <= kThinScale && weight <= kMiddleWeight) return 1;
     if (weight <= kThinWeight) return scale >= kFullScale ? 2 : 1;
     const double thickness = std::trunc(weight * ((scale + 0.1) * (2.0 * height)) / kHeaviest);
-    // Kept: two pixels even in a lower rectangle. Heavy weights rely on it to stand out from thin ones.
+    // Kept: two pixels even in a lower rectangle.
     if (thickness < kMinimumOfHeavy) return kMinimumOfHeavy;
     return thickness < height ? static_cast<int>(thickness) : height;
 }

@@ -2,13 +2,13 @@
 // of a millimetre.
 //
 // Rectangles are in pixels. Without any device context.
+//
+// Private to the library; its tests link it by itself.
 #pragma once
 
 #include <afx.h>
 
 #include <array>
-
-#include <ktui/ktui_api.h>
 
 /// Name of one lineweight in both units. The names are fixed texts, not computed from the weight.
 struct LineWeightName {
@@ -20,15 +20,15 @@ struct LineWeightName {
 constexpr std::size_t kLineWeightCount = 24;
 
 /// The lineweights that a user may choose, from thin to thick.
-KTUI_API const std::array<LineWeightName, kLineWeightCount>& LineWeightNames();
+const std::array<LineWeightName, kLineWeightCount>& LineWeightNames();
 
 /// Name of `weight` in inches or in millimetres; empty for a weight that isn't in the table.
-KTUI_API const wchar_t* LineWeightText(bool inch, int weight);
+const wchar_t* LineWeightText(bool inch, int weight);
 
 /// Thickness in pixels of the bar for `weight` in a rectangle of `height` pixels, 0 or more, at `scale`:
 /// above 0, more than the height only for a rectangle of less than 2 pixels.
-KTUI_API int LineWeightBarThickness(int height, int weight, double scale);
+int LineWeightBarThickness(int height, int weight, double scale);
 
 /// Puts the bar for `weight`, centred in the full width of `rect`, into `bar`. False, with `bar` untouched,
 /// for a rectangle whose bottom lies above its top.
-KTUI_API bool LineWeightBar(const RECT& rect, int weight, double scale, RECT& bar);
+bool LineWeightBar(const RECT& rect, int weight, double scale, RECT& bar);

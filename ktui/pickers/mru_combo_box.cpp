@@ -57,8 +57,7 @@ void CKtUiMRUComboBox::addOtherItem(int which) {
     GetOtherName(which, text);
     const auto wanted = reinterpret_cast<LPARAM>(text.GetString());
     if (SendMessage(CB_FINDSTRINGEXACT, 0, wanted) != CB_ERR) return;
-    // Kept: both Other items carry the first one's cargo. Owners rely on the second opening nothing from the
-    // list, and on SelectOther(1) for its dialog.
+    // Kept: both Other items carry the first one's cargo.
     AddItemToList(text.GetString(), kCargoOther);
 }
 
@@ -94,8 +93,7 @@ BOOL CKtUiMRUComboBox::OnSelEndOk() {
 }
 
 LRESULT CKtUiMRUComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    // Kept: the item selected before the message decides, not the one it selects. The Other flow relies on
-    // that to keep the last selection while it puts it back.
+    // Kept: the item selected before the message decides, not the one it selects.
     if (message == CB_SETCURSEL) SetLastSelection(static_cast<int>(wParam));
     if (message == WM_THEMECHANGED) RecalcHeight();
     return CKtUiComboBox::WindowProc(message, wParam, lParam);

@@ -33,7 +33,7 @@ void CKtUiMRUComboBox::DrawTextAndFocusRect(DRAWITEMSTRUCT* item, CDC* dc, CRect
                                             DWORD& textColor, DWORD& backColor) {
     CRect textRect = itemRect;
     textRect.left += ImageWidth();
-    // Kept: the closed face is never filled here. The themed face relies on its background staying.
+    // Kept: the closed face is never filled here.
     if (!(item->itemState & ODS_COMBOBOXEDIT)) dc->FillSolidRect(&textRect, backColor);
 
     CString text;

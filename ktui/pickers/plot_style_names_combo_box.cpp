@@ -4,18 +4,12 @@
 #include <kh_system.h>
 #include <ktdb.h>
 #include <od_array.h>
-#include <od_db_database.h>
-#include <od_host_services.h>
+#include <ktui/pickers/working_drawing.h>
 
 namespace {
 
 constexpr const wchar_t* kByColor = L"ByColor";
 constexpr const wchar_t* kAlwaysAllowed[] = {L"ByLayer", L"ByBlock", L"Normal"};
-
-OdDbDatabase* workingDrawing() {
-    OdDbHostAppServices* services = oddbHostApplicationServices();
-    return services ? services->workingDatabase() : nullptr;
-}
 
 bool isSameName(const wchar_t* a, const wchar_t* b) {
     return ::CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, a, -1, b, -1) == CSTR_EQUAL;
@@ -57,8 +51,7 @@ void CKtUiPlotStyleNamesComboBox::SetColorDependentMode() {
 void CKtUiPlotStyleNamesComboBox::SetNamedMode() {
     m_mruFlags |= kUseOption1 | kUseOption2 | kUseOther1;
     m_colorDependent = 0;
-    // Kept: what the list holds stays, ByColor and earlier names included. Owners rely on clearing it
-    // themselves when the drawing has changed.
+    // Kept: what the list holds stays, ByColor and earlier names included.
     OnAddItems();
 }
 
@@ -73,13 +66,12 @@ void CKtUiPlotStyleNamesComboBox::OnAddItems() {
 
 void CKtUiPlotStyleNamesComboBox::showByColor() {
     // Kept: in a filled list the first name of the dictionary has the same cargo and is selected instead.
-    // Owners rely on a list that doesn't grow.
     const int known = FindItemByCargo(0);
     SetCurSel(known >= 0 ? known : AddItemToList(kByColor, 0));
 }
 
 void CKtUiPlotStyleNamesComboBox::addNames() {
-    OdDbDatabase* drawing = workingDrawing();
+    OdDbDatabase* drawing = WorkingDrawing();
     if (!drawing) return;
     OdArray<OdString> allowed;
     const bool isFiltered = readAllowedNames(*drawing, allowed);

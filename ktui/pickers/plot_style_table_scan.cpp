@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 #include <kh_system.h>
+#include <ktut.h>
 
 #include <algorithm>
 
@@ -22,16 +23,6 @@ std::vector<std::wstring> styleTableFolders() {
         begin = end + 1;
     }
     return folders;
-}
-
-/// Drive and folder of the application's file, with a backslash at the end.
-std::wstring applicationFolder() {
-    wchar_t file[kKhPathLength] = {};
-    if (::GetModuleFileNameW(nullptr, file, kKhPathLength) >= kKhPathLength) return {};
-    wchar_t drive[kKhPathLength] = {};
-    wchar_t folder[kKhPathLength] = {};
-    _wsplitpath(file, drive, folder, nullptr, nullptr);
-    return std::wstring(drive) + folder;
 }
 
 /// Appends the path of everything in `folder`, subfolders included; false if it can't be read.
@@ -57,7 +48,7 @@ bool hasStyleTableExtension(const std::wstring& path) {
 std::vector<std::wstring> FindPlotStyleTables() {
     std::vector<std::wstring> paths;
     for (const std::wstring& folder : styleTableFolders())
-        if (!listFolder(folder, paths)) listFolder(applicationFolder() + folder, paths);
+        if (!listFolder(folder, paths)) listFolder(ktutProgramFolder().c_str() + folder, paths);
     std::erase_if(paths, [](const std::wstring& path) { return !hasStyleTableExtension(path); });
     return paths;
 }

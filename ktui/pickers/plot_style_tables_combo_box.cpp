@@ -37,12 +37,11 @@ void CKtUiPlotStyleTablesComboBox::OnAddItems() {}
 void CKtUiPlotStyleTablesComboBox::OnComboBoxInit() {
     RecalcHeight();
     InsertItemInList(0, LoadToolkitString(IDS_NONE, L"无"), 0);
-    // Kept: the file types aren't looked at, and a folder counts by its extension like a file. Owners rely on
-    // one list of both kinds, in the order of the folders.
+    // Kept: the file types aren't looked at, and a folder counts by its extension like a file.
     int position = 0;
     for (const std::wstring& path : FindPlotStyleTables()) {
         // Kept: a path without a name takes its place in the count all the same, so that those behind it find
-        // no such index and stay out. Owners rely on an item's index being that of its path plus 1.
+        // no such index and stay out.
         ++position;
         const std::wstring name = PlotStyleTableName(path);
         if (!name.empty()) InsertItemInList(position, name.c_str(), 0);

@@ -32,6 +32,7 @@ void CKtUiPredefBlockComboBox::OnAddItems() {
 
 void CKtUiPredefBlockComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     if (cargo < 0 || cargo > m_itemCount) return;
-    const int top = BlockStripTop(static_cast<int>(cargo));
+    const int top = BlockStripTop(cargo, m_imageSize);
+    if (top < 0) return;
     DrawStripPicture(dc, rect, m_strip, top, m_imageSize, m_imageSize + 1);
 }

@@ -15,7 +15,7 @@ const std::array<PredefBlock, kPicturedBlockCount + 1>& PredefBlocks() {
     return kBlocks;
 }
 
-int BlockStripTop(int cargo) {
-    // Kept: the seventh entry is drawn as well, from below the last picture. Strips rely on it for a blank.
-    return cargo < 0 || cargo > kPicturedBlockCount ? -1 : kBlockPictureHeight * cargo;
+int BlockStripTop(std::int64_t cargo, int imageSize) {
+    // Kept: the seventh entry is drawn as well, from below the last picture.
+    return cargo < 0 || cargo > kPicturedBlockCount ? -1 : (imageSize + 1) * static_cast<int>(cargo);
 }

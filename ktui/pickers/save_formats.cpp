@@ -78,8 +78,7 @@ struct VersionFormats {
     int standard;
 };
 
-// Kept: versions before 2000 have no templates or standards, and theirs count as plain drawings. Owners that
-// write an old template rely on getting a drawing.
+// Kept: versions before 2000 have no templates or standards, and theirs count as plain drawings.
 constexpr VersionFormats kVersions[] = {
     {OdDb::kDHL_1009, 1, -1, -1, -1},  {OdDb::kDHL_1012, 5, 4, 4, 4},     {OdDb::kDHL_1014, 9, 8, 8, 8},
     {OdDb::kDHL_1015, 13, 12, 14, 15}, {OdDb::kDHL_1018, 25, 24, 26, 27}, {OdDb::kDHL_1021, 37, 36, 38, 39},
@@ -90,7 +89,7 @@ constexpr VersionFormats kVersions[] = {
 
 const SaveFormatRow* FindSaveFormat(int code) {
     const int base = BaseSaveFormat(code);
-    // Kept: the unknown format is the 2010 drawing, not the default one. Dialogs rely on it for old settings.
+    // Kept: the unknown format is the 2010 drawing, not the default one.
     const int wanted = base == kUnknownFormat ? k2010Drawing : base;
     const auto* row = std::find_if(std::begin(kRows), std::end(kRows),
                                    [wanted](const SaveFormatRow& r) { return r.code == wanted; });

@@ -2,13 +2,13 @@
 //
 // A format has a code, KtApDocument::SaveFormat. A code above 1000 is a format that the host adds and that
 // behaves as the format of its code modulo 1000. Without any window; every thread may ask.
+//
+// Private to the library; its tests link it by itself.
 #pragma once
 
 #include <od_db_types.h>
 
 #include <array>
-
-#include <ktui/ktui_api.h>
 
 /// A text of the resource library, or a plain one.
 struct FormatText {
@@ -41,12 +41,12 @@ constexpr int BaseSaveFormat(int code) { return code > 1000 ? code % 1000 : code
 
 /// Whether `code` may be stored as the user's choice. Only the range of its base counts.
 constexpr bool IsStorableSaveFormat(int code) {
-    // Kept: a code without a row may be stored. Hosts rely on it for formats that a later version knows.
+    // Kept: a code without a row may be stored.
     return BaseSaveFormat(code) >= 1 && BaseSaveFormat(code) <= 63;
 }
 
 /// The row of the format that `code` behaves as, -1 standing for the 2010 drawing; null if there is none.
-KTUI_API const SaveFormatRow* FindSaveFormat(int code);
+const SaveFormatRow* FindSaveFormat(int code);
 
 /// Code of the format of `type`, `version` and, for drawings, `kind`; -1 if there is none.
-KTUI_API int SaveFormatOf(OdDb::SaveFileType type, OdDb::DwgVersion version, DrawingKind kind);
+int SaveFormatOf(OdDb::SaveFileType type, OdDb::DwgVersion version, DrawingKind kind);

@@ -25,8 +25,7 @@ void CKtUiShxFontList::FillList(bool bigFonts) {
     ResetContent();
     for (int i = 0; i < fonts->count(); ++i) {
         const CKhFont* font = fonts->at(i);
-        // Kept: without big fonts means without TrueType fonts, and big fonts are listed too. Owners rely on
-        // being able to choose one as the main font.
+        // Kept: without big fonts means without TrueType fonts, and big fonts are listed too.
         if (bigFonts ? font->isBigFont() : !font->isTrueType()) AddString(font->name());
     }
 }
@@ -41,8 +40,7 @@ void CKtUiShxFontList::DrawItem(LPDRAWITEMSTRUCT item) {
     DrawFontIcon(*dc, corner, kFontIconSize, m_shxIcon);
     CString text;
     GetText(static_cast<int>(item->itemID), text);
-    // Kept: black and white, not the colours of the system. Owners rely on text that is the same under every
-    // scheme.
+    // Kept: black and white, not the colours of the system.
     const COLORREF formerColor = dc->SetTextColor(isSelected ? kSelectedText : kText);
     const int formerMode = dc->SetBkMode(TRANSPARENT);
     dc->TextOut(static_cast<int>(corner.x) + kFontIconSize, static_cast<int>(corner.y) + kTextTop, text);

@@ -1,6 +1,6 @@
 #include <ktui/pickers/strip_painter.h>
 
-#include <ktui/host/module.h>
+#include <ktui/host/loaded_module.h>
 
 void DrawStripPicture(CDC& dc, const RECT& image, CBitmap& strip, int top, int width, int height) {
     if (!strip.GetSafeHandle()) return;

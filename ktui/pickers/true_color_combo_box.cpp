@@ -1,5 +1,7 @@
 #include <ktui/pickers/true_color_combo_box.h>
 
+#include <ktui/pickers/viewport_override.h>
+
 #include <afxdlgs.h>
 #include <kh_system.h>
 #include <ktut.h>
@@ -14,7 +16,6 @@
 namespace {
 
 constexpr int kColorIndexCount = 256;
-constexpr const wchar_t* kViewportSuffix = L" (VP)";
 
 }  // namespace
 
@@ -86,7 +87,7 @@ int CKtUiTrueColorComboBox::AddColorToMRU(const OdCmColor& color) {
 
 void CKtUiTrueColorComboBox::dropOldestOfFullList() {
     // Kept: only a list of exactly 25 is full. With an Other item in the list there are 26, and the oldest
-    // then stays in the list although the table has dropped it; owners rely on the list not shrinking there.
+    // then stays in the list although the table has dropped it.
     if (SendMessage(CB_GETCOUNT) != kTableSize || !entryAt(kLastEntry)) return;
     const int oldest = FindItemByCargo(kLastEntry);
     if (oldest >= 0) SendMessage(CB_DELETESTRING, static_cast<WPARAM>(oldest));
@@ -155,7 +156,7 @@ int CKtUiTrueColorComboBox::GetWindowsColor(OdCmColor& color) {
 void CKtUiTrueColorComboBox::GetLBString(int index, CString& text) {
     CKtUiMRUComboBox::GetLBString(index, text);
     const bool isByLayer = index >= 0 && GetItemCargo(index) == kByLayerEntry;
-    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportSuffix;
+    if (isByLayer && GetCurrentLayerVpOverride()) text += kViewportOverrideSuffix;
 }
 
 int CKtUiTrueColorComboBox::GetOtherName(int, CString& text) {
@@ -181,8 +182,7 @@ int CKtUiTrueColorComboBox::OnSelectOther(int which, int lastSel, int& newIndex)
     } else {
         OdCmColor layerColor;
         if (!GetCurrentLayerColor(layerColor)) return 0;
-        // Kept: the ByBlock flag isn't looked at, unlike in the indexed picker. Owners that turn ByBlock off
-        // rely on the dialog to go on offering both.
+        // Kept: the ByBlock flag isn't looked at, unlike in the indexed picker.
         if (!GetOtherColor(color, layerColor, GetUseByLayer())) return 0;
     }
     newIndex = AddColorToMRU(color);
@@ -201,6 +201,6 @@ void CKtUiTrueColorComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) 
             break;
         }
         case kByBlockEntry: swatch.fillSolid(getColorData(m_blockColor)); break;
-        default: swatch.fillSolid(getColorByCargo(static_cast<int>(cargo))); break;
+        default: swatch.fillSolid(entryAt(cargo) ? getColorByCargo(static_cast<int>(cargo)) : 0); break;
     }
 }

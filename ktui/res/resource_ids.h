@@ -1,4 +1,4 @@
-// Ids of the library's own resources. Shared by code and resource script.
+// Ids of the library's own resources. Shared by code and resource script. Private to the library.
 #pragma once
 
 #define IDB_DROP_ARROWS 108

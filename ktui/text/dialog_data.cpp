@@ -2,29 +2,22 @@
 
 #include <kh_system.h>
 #include <ktut.h>
+#include <ktui/text/dialog_root.h>
 #include <ktui/text/registry_access.h>
 
-namespace {
-
-CString DialogKey(const CString& rootKey, const CString& dialogName) {
-    CString key;
-    if (!rootKey.IsEmpty()) {
-        key.Format(L"%s%s\\", rootKey.GetString(), dialogName.GetString());
-        return key;
-    }
-    const OdString fileName = ktutProfileFileName();
-    const OdString rootName = ktutProfileRootName();
-    key.Format(L"%s\\%s\\%s\\Dialogs\\%s\\", fileName.c_str(), rootName.c_str(),
-               CKhSystem::instance()->productInfo()->profileVersionKey(), dialogName.GetString());
-    return key;
+CString ProductDialogRoot() {
+    CString root;
+    root.Format(L"%s\\%s\\%s\\Dialogs\\", ktutProfileFileName().c_str(), ktutProfileRootName().c_str(),
+                CKhSystem::instance()->productInfo()->profileVersionKey());
+    return root;
 }
 
-}  // namespace
+CString DialogDataKey(const wchar_t* root, const CString& dialogName) { return root + dialogName + L"\\"; }
 
-int KtUiSetDialogData(const wchar_t* rootKey, const wchar_t* dialogName, const wchar_t* valueName,
-                      const wchar_t* value) {
-    const CString name = dialogName;
-    if (name.IsEmpty()) return 0;
-    CKbUiRegistryWriteAccess key(HKEY_CURRENT_USER, DialogKey(rootKey, name));
+int KtUiSetDialogData(const CString& rootKey, const CString& dialogName, const CString& valueName,
+                      const CString& value) {
+    if (dialogName.IsEmpty()) return 0;
+    const CString root = rootKey.IsEmpty() ? ProductDialogRoot() : rootKey;
+    CKbUiRegistryWriteAccess key(HKEY_CURRENT_USER, DialogDataKey(root, dialogName));
     return key.SetString(valueName, value) ? 1 : 0;
 }

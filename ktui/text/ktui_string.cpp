@@ -33,7 +33,7 @@ BOOL CKtUiString::IsAlphabetic(int index) const {
 }
 
 BOOL CKtUiString::IsAlphanumeric(int index) const {
-    // Kept: the only test with a guard. Callers rely on other scripts not to be alphanumeric.
+    // Kept: the only test with a guard against other scripts.
     return isAt(index, [](wchar_t c) { return c <= kLastAlphanumericCode && std::iswalnum(Code(c)) != 0; });
 }
 
@@ -70,7 +70,7 @@ void CKtUiString::ReplaceCharWithChar(wchar_t original, wchar_t replacement) {
 }
 
 void CKtUiString::StripMnemonic() {
-    // Kept: the first one only. Callers that double an ampersand rely on the second to stay.
+    // Kept: the first one only, so that of a doubled ampersand the second stays.
     const int index = Find(L'&');
     if (index >= 0) Delete(index, 1);
 }
@@ -84,7 +84,7 @@ void CKtUiString::StripDiesel() {
 void CKtUiString::ConvertMenuExecString() { Replace(kTab, kBlank); }
 
 void CKtUiString::ConvertFromMenuExecString() {
-    // Kept: tabs are the input here too. Callers rely on this pair not being each other's inverse.
+    // Kept: tabs are the input here too; the pair isn't each other's inverse.
     Replace(L"\t", L"^I");
 }
 

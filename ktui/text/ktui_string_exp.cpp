@@ -60,7 +60,7 @@ CString ProcessPath() {
 
 void ExpandProgram(CString& text) {
     constexpr const wchar_t* kProgram = L"%PROGRAM%";
-    // Kept: a macro at the very start of the string stays. Callers rely on that to show the macro's own name.
+    // Kept: a macro at the very start of the string stays.
     if (text.Find(kProgram) <= 0) return;
     const CString path = ProcessPath();
     const int slash = path.ReverseFind(L'\\');

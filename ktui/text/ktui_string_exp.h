@@ -8,7 +8,8 @@ public:
     using CKtUiString::CKtUiString;
     CKtUiStringExp() = default;
     CKtUiStringExp(const CString& text) : CKtUiString(text) {}
-    virtual ~CKtUiStringExp() = default;
+
+    // The only virtual operation: an object is never deleted through a pointer to a base.
 
     /// Becomes string `id` of the active resource module. FALSE if there is none, and the string stays as it
     /// is.

@@ -23,8 +23,8 @@ void CKtUiString::GetCurrentWorkingDirectory() {
         ReleaseBuffer(static_cast<int>(needed));
         return;
     }
-    // Kept: the buffer grows, the size that is stated doesn't. Callers rely on MAX_PATH paths throughout, and
-    // a longer directory yields no text.
+    // Kept: the buffer grows, the size that is stated doesn't, and a longer directory yields no text. The
+    // toolkit is bound to MAX_PATH throughout.
     ReleaseBuffer(0);
     const DWORD written = ::GetCurrentDirectoryW(MAX_PATH, GetBuffer(static_cast<int>(needed) + 1));
     ReleaseBuffer(written < MAX_PATH ? static_cast<int>(written) : 0);

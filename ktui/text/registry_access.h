@@ -16,7 +16,7 @@ public:
     CKbUiRegistryAccess() = default;
     /// Opens `name` below `parent`; stays closed if that fails.
     CKbUiRegistryAccess(HKEY parent, const CString& name);
-    // Kept: a copy shares the key, and each of the two closes it. Callers take copies only for a short look.
+    // Kept: a copy shares the key, and each of the two closes it.
     CKbUiRegistryAccess(const CKbUiRegistryAccess& other) = default;
     CKbUiRegistryAccess& operator=(const CKbUiRegistryAccess& other) = default;
     virtual ~CKbUiRegistryAccess();

@@ -57,7 +57,7 @@ BOOL CKbUiRegistryDeleteAccess::DeleteKey(const CString& name) {
 
 BOOL CKbUiRegistryDeleteAccess::DeleteAllValues() {
     // Kept: the index rises although each deletion shifts the rest down, so every second value survives, and
-    // the answer is always FALSE. Callers rely on calling it until nothing is left.
+    // the answer is always FALSE.
     wchar_t name[kNameSize] = {};
     DWORD length = kNameSize;
     for (DWORD index = 0;
@@ -70,8 +70,8 @@ BOOL CKbUiRegistryDeleteAccess::DeleteAllValues() {
 }
 
 BOOL CKbUiRegistryDeleteAccess::DeleteKeyAndSubkeys(const CString& name) {
-    // Kept: a key that can be written to, or made, is left in place with the answer FALSE. Callers rely on a
-    // live key to survive; only one that can't be opened goes to the platform.
+    // Kept: a key that can be written to, or made, is left in place with the answer FALSE; only
+    // one that can't be opened goes to the platform.
     CKbUiRegistryDeleteAccess subkey;
     if (subkey.Open(m_key, name)) return FALSE;
 

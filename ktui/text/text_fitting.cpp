@@ -33,8 +33,7 @@ CString CutMiddle(CString text, unsigned width, const TextMeasurer& measure) {
 /// The piece between the copies: one or two texts, cut to `budget` pixels.
 CString MiddlePiece(const CString& text, bool twice, unsigned budget, const TextMeasurer& measure) {
     CString piece = twice ? text + text : text;
-    // Kept: the first character is taken out by the length of the text, not of the piece. Callers compare the
-    // result with patterns made that way.
+    // Kept: the first character is taken out by the length of the text, not of the piece.
     int length = text.GetLength();
     while (!piece.IsEmpty() && Width(piece, measure) > budget) {
         piece.Delete(length / 2, 1);

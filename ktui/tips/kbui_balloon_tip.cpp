@@ -7,7 +7,7 @@ IMPLEMENT_DYNAMIC(CKbUiBalloonTip, CKbUiTipWindow)
 void CKbUiBalloonTip::Hide() { ShowWindow(SW_HIDE); }
 void CKbUiBalloonTip::Show() { ShowWindow(SW_SHOWNOACTIVATE); }
 
-// Kept: balloons are not shown; callers go by the 0.
+// Kept: balloons are not shown, and the answer is 0.
 int KbUiShowBalloonTip(CWnd*, CWnd*, CRect&, const wchar_t*, int) { return 0; }
 int KbUiShowBalloonTip(CWnd*, CWnd*, const wchar_t*, int) { return 0; }
 

@@ -1,6 +1,7 @@
 #include <ktui/tips/kbui_tip_window.h>
 
 #include <ktui/host/control_font.h>
+#include <ktui/host/text_extent.h>
 
 namespace {
 
@@ -97,14 +98,7 @@ void CKbUiTipWindow::forwardButton(UINT message, UINT flags, CPoint point) {
 
 void CKbUiTipWindow::GetTextExtent(const wchar_t* text, int& width, int& height) {
     width = height = 0;
-    if (m_owner == nullptr) return;
-    CClientDC dc(m_owner);
-    if (dc.GetSafeHdc() == nullptr) return;
-    ControlFont font(dc, *m_owner);
-    SIZE extent = {};
-    ::GetTextExtentPoint32W(dc.GetSafeHdc(), text, static_cast<int>(wcslen(text)), &extent);
-    width = extent.cx;
-    height = extent.cy;
+    if (m_owner != nullptr) MeasureControlText(*m_owner, text, width, height);
 }
 
 void CKbUiTipWindow::DrawBorder(CDC& dc, CRect& rect, CRect& inner) {

@@ -1,6 +1,7 @@
 #include "number_text.h"
 
 #include <charconv>
+#include <cfloat>
 #include <cmath>
 
 #include <od_db_database.h>
@@ -34,6 +35,25 @@ bool isTooLarge(std::string_view number) {
         if (number[i] >= '0' && number[i] <= '9' && exponent < kBeyondAnyDouble)
             exponent = exponent * 10 + (number[i] - '0');
     return place + (negative ? -exponent : exponent) > 0;
+}
+
+/// Whether `value` in scientific form, with as many places as `number` has, is written exactly as `number`.
+bool isWrittenAs(double value, std::string_view number) {
+    const std::size_t exponent = number.find('E');
+    if (exponent == std::string_view::npos) return false;
+    const std::size_t point = number.find('.');
+    const std::size_t places = point < exponent ? exponent - point - 1 : 0;
+    StackText text;
+    return places < kKtdbBufferSize && text.addScientific(value, static_cast<int>(places)) &&
+           text.view() == number;
+}
+
+/// Among the smallest numbers the steps are so wide that the number nearest to 1.0E-322 lies below it and is
+/// written 9.9E-323. The next one up is then the one that 1.0E-322 was written for.
+double settleSmallest(double nearest, std::string_view number) {
+    if (nearest >= DBL_MIN || isWrittenAs(nearest, number)) return nearest;
+    const double above = std::nextafter(nearest, 1.0);
+    return isWrittenAs(above, number) ? above : nearest;
 }
 
 }  // namespace
@@ -114,7 +134,8 @@ std::wstring_view WideCursor::takeNumber(bool exponent) {
 bool ktdbNumberValue(std::wstring_view number, double& value) {
     char text[kKtdbBufferSize];
     if (number.empty() || number.size() > sizeof text) return false;
-    for (std::size_t i = 0; i < number.size(); ++i) text[i] = static_cast<char>(number[i]);
+    for (std::size_t i = 0; i < number.size(); ++i)
+        text[i] = number[i] == L'e' ? 'E' : static_cast<char>(number[i]);
     const char* end = text + number.size();
     const auto result = std::from_chars(text, end, value);
     if (result.ec == std::errc::result_out_of_range) {
@@ -122,7 +143,9 @@ bool ktdbNumberValue(std::wstring_view number, double& value) {
         value = 0;
         return true;
     }
-    return result.ec == std::errc() && result.ptr == end && std::isfinite(value);
+    if (result.ec != std::errc() || result.ptr != end || !std::isfinite(value)) return false;
+    value = settleSmallest(value, std::string_view(text, number.size()));
+    return true;
 }
 
 KtdbUnits ktdbCurrentUnits() {

@@ -63,8 +63,9 @@ private:
     std::wstring_view m_rest;
 };
 
-/// The value of a number that WideCursor took. False if it is too large for a double or too long to be a
-/// number.
+/// The value of a number that WideCursor took: the nearest one, or the one next above it if only that is
+/// written as the number stands, which happens below DBL_MIN. False if it is too large for a double or too
+/// long to be a number.
 bool ktdbNumberValue(std::wstring_view number, double& value);
 
 /// The settings of the working drawing, or the defaults without one.

@@ -78,6 +78,9 @@ KTUT_API bool ktutGetAppDataDir(OdString& folder);
 KTUT_API int ktutOSVersion();
 
 #ifdef _WIN32
+/// Drive and folder of the running program's file, with a backslash at the end; empty if the system can't
+/// tell or the path has 260 characters or more.
+KTUT_API OdString ktutProgramFolder();
 /// The work area, in screen pixels, of the monitor that shows the most of `window`; of the primary monitor
 /// for null. False if the system gives none.
 KTUT_API bool ktutGetWorkArea(tagRECT* area, HWND__* window = nullptr);

@@ -47,15 +47,19 @@ BOOL CStandinColorDialog::OnInitDialog() {
 }
 
 void CStandinColorDialog::OnOK() {
-    if (!m_valid) {
-        AfxMessageBox(IDS_COLOR_REFUSED, MB_ICONINFORMATION);
-        CWnd* index = GetDlgItem(IDC_COLOR_INDEX);
-        index->SetFocus();
-        index->SendMessage(EM_SETSEL, 0, -1);
+    if (const int field = takeColor()) {
+        refuse(field);
         return;
     }
     m_settings.color = m_color;
     CDialog::OnOK();
+}
+
+void CStandinColorDialog::refuse(int field) {
+    AfxMessageBox(field == IDC_COLOR_INDEX ? IDS_COLOR_REFUSED : IDS_COLOR_PART_REFUSED, MB_ICONINFORMATION);
+    CWnd* control = GetDlgItem(field);
+    control->SetFocus();
+    control->SendMessage(EM_SETSEL, 0, -1);
 }
 
 void CStandinColorDialog::OnDrawItem(int id, LPDRAWITEMSTRUCT item) {
@@ -99,47 +103,67 @@ void CStandinColorDialog::OnByBlock() {
 
 void CStandinColorDialog::OnIndexChange() {
     if (m_filling) return;
-    CString text;
-    GetDlgItemText(IDC_COLOR_INDEX, text);
-    text.Trim();
-    wchar_t* end = nullptr;
-    const long index = wcstol(text, &end, 10);
-    if (m_settings.allowMeta && text.CompareNoCase(L"ByLayer") == 0)
-        m_valid = m_color.setColorIndex(OdCmColor::kByLayerIndex);
-    else if (m_settings.allowMeta && text.CompareNoCase(L"ByBlock") == 0)
-        m_valid = m_color.setColorIndex(OdCmColor::kByBlockIndex);
-    else
-        m_valid = !text.IsEmpty() && *end == 0 && index >= 1 && index <= 255 &&
-                  m_color.setColorIndex(static_cast<int>(index));
+    m_source = Source::kIndex;
+    takeColor();
     GetDlgItem(IDC_COLOR_SAMPLE)->Invalidate();
     GetDlgItem(IDC_COLOR_PALETTE)->Invalidate(FALSE);
 }
 
 void CStandinColorDialog::OnRgbChange() {
     if (m_filling) return;
-    BYTE parts[3] = {};
-    int at = 0;
-    for (const int id : {IDC_COLOR_RED, IDC_COLOR_GREEN, IDC_COLOR_BLUE}) {
-        BOOL isNumber = FALSE;
-        const UINT value = GetDlgItemInt(id, &isNumber, FALSE);
-        if (!isNumber || value > 255) return;
-        parts[at++] = static_cast<BYTE>(value);
-    }
-    m_color.setRGB(parts[0], parts[1], parts[2]);
-    m_valid = true;
+    m_source = Source::kParts;
+    takeColor();
     m_filling = true;
     SetDlgItemText(IDC_COLOR_INDEX, L"");
     m_filling = false;
     GetDlgItem(IDC_COLOR_SAMPLE)->Invalidate();
 }
 
+int CStandinColorDialog::takeColor() { return m_source == Source::kIndex ? takeIndex() : takeParts(); }
+
+int CStandinColorDialog::takeIndex() {
+    CString text;
+    GetDlgItemText(IDC_COLOR_INDEX, text);
+    text.Trim();
+    wchar_t* end = nullptr;
+    long index = wcstol(text, &end, 10);
+    bool valid = !text.IsEmpty() && *end == 0 && index >= kPlainFirst && index <= kGreyLast;
+    if (m_settings.allowMeta && text.CompareNoCase(L"ByLayer") == 0) {
+        index = OdCmColor::kByLayerIndex;
+        valid = true;
+    } else if (m_settings.allowMeta && text.CompareNoCase(L"ByBlock") == 0) {
+        index = OdCmColor::kByBlockIndex;
+        valid = true;
+    }
+    if (!valid) return IDC_COLOR_INDEX;
+    if (!m_color.isByACI() || m_color.colorIndex() != index) m_color.setColorIndex(static_cast<int>(index));
+    return 0;
+}
+
+int CStandinColorDialog::takeParts() {
+    constexpr UINT kMostOfAPart = 255;
+    BYTE parts[3] = {};
+    int at = 0;
+    for (const int id : {IDC_COLOR_RED, IDC_COLOR_GREEN, IDC_COLOR_BLUE}) {
+        BOOL isNumber = FALSE;
+        const UINT value = GetDlgItemInt(id, &isNumber, FALSE);
+        if (!isNumber || value > kMostOfAPart) return id;
+        parts[at++] = static_cast<BYTE>(value);
+    }
+    // A colour that the fields show already keeps its name.
+    const bool isShown = !m_color.isByACI() && m_color.red() == parts[0] && m_color.green() == parts[1] &&
+                         m_color.blue() == parts[2];
+    if (!isShown) m_color.setRGB(parts[0], parts[1], parts[2]);
+    return 0;
+}
+
 void CStandinColorDialog::choose(const OdCmColor& color) {
     m_color = color;
-    m_valid = true;
     showColor();
 }
 
 void CStandinColorDialog::showColor() {
+    m_source = m_color.isByACI() || !m_settings.allowTrueColor ? Source::kIndex : Source::kParts;
     m_filling = true;
     CString index;
     if (m_color.isByLayer())

@@ -33,6 +33,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// Which fields the user last said the colour in.
+    enum class Source { kIndex, kParts };
+
+    /// Takes the colour from the fields of the source; answers the first field that holds none, 0 if all do.
+    int takeColor();
+    int takeIndex();
+    int takeParts();
+    /// Says what `field` takes and puts the user there.
+    void refuse(int field);
     void choose(const OdCmColor& color);
     void showColor();
     void drawPalette(CDC& dc, const CRect& area);
@@ -43,6 +52,6 @@ private:
 
     ColorDialogSettings& m_settings;
     OdCmColor m_color;
-    bool m_valid = true;     ///< the fields hold a colour
+    Source m_source = Source::kIndex;
     bool m_filling = false;  ///< the dialog itself writes to the fields
 };

@@ -1,7 +1,5 @@
 #include "block_pickers.h"
 
-#include <ktui/pickers/arrowheads.h>
-
 #include "arrowhead_blocks.h"
 #include "choice_dialog.h"
 
@@ -50,7 +48,7 @@ void CArrowheadPicker::Show(const OdString& block) {
 OdString CArrowheadPicker::Picked() {
     const __int64 number = GetCurrentItemCargo();
     if (number < 0) return {};
-    const bool isOwn = number >= kArrowheadCount;
+    const bool isOwn = number >= CKtUiArrowHeadComboBox::kCount;
     return isOwn ? OdString(entryText(*this, GetCurSel())) : ArrowheadBlockName(static_cast<int>(number));
 }
 

@@ -2,6 +2,7 @@
 //
 //     drafter.exe [drawing.dxf]
 #include <afxwin.h>
+#include <ktut.h>
 #include <standin_host.h>
 
 #include <ktui/ktui.h>
@@ -21,7 +22,7 @@ public:
         // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
-        const CString folder = ProgramFolder();
+        const CString folder = ktutProgramFolder().c_str();
         m_host->SetSupportDirectories({folder + L"fonts", folder + L"support"});
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
@@ -40,14 +41,6 @@ public:
     }
 
 private:
-    /// Folder of this program's file, with a backslash at the end.
-    static CString ProgramFolder() {
-        wchar_t file[MAX_PATH] = {};
-        ::GetModuleFileNameW(nullptr, file, MAX_PATH - 1);
-        const CString path = file;
-        return path.Left(path.ReverseFind(L'\\') + 1);
-    }
-
     std::unique_ptr<CStandinHost> m_host;
 };
 

@@ -11,14 +11,6 @@ constexpr std::size_t kMostSheets = 64;         // kept in memory
 constexpr std::size_t kLongestFile = 8u << 20;  // bytes
 constexpr const wchar_t* kFoldersVariable = L"PrinterStyleSheetDir";
 
-OdString applicationFolder() {
-    wchar_t file[kKhPathLength] = {};
-    ::GetModuleFileNameW(nullptr, file, kKhPathLength - 1);
-    OdString drive, folder;
-    ktutSplitPath(file, &drive, &folder, nullptr, nullptr);
-    return drive + folder;
-}
-
 /// The folders of style sheets. One that isn't there is looked for below the application's own.
 std::vector<OdString> styleSheetFolders() {
     wchar_t value[kKhPathLength] = {};
@@ -26,7 +18,7 @@ std::vector<OdString> styleSheetFolders() {
     if (host == nullptr || host->getPathVariable(kFoldersVariable, value) != kKhStatusOk) return {};
     std::vector<OdString> folders = ktutSplitString(value, L";");
     for (OdString& folder : folders)
-        if (!ktutDirectoryExists(folder)) folder = ktutCombinePath(applicationFolder(), folder);
+        if (!ktutDirectoryExists(folder)) folder = ktutCombinePath(ktutProgramFolder(), folder);
     return folders;
 }
 

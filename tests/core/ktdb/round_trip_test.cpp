@@ -132,3 +132,29 @@ TEST(RoundTrip, WhatIsShownIsTheValueRoundedToThePlacesShown) {
         }
     }
 }
+
+TEST(RoundTrip, TheSmallestNumbersComeBackAsTheyWereWritten) {
+    EXPECT_EQ(distanceText(distance(L"1.0E-322", 1), 1, 1), L"1.0E-322");
+    EXPECT_EQ(distanceText(distance(L"1.0e-322", 1), 1, 1), L"1.0E-322");
+    EXPECT_EQ(distanceText(distance(L"-1.0E-322", 1), 1, 1), L"-1.0E-322");
+    double value = 0;
+    for (int i = 0; i < 5000; ++i) {
+        for (int precision = 0; precision <= 8; ++precision) expectDistanceStable(value, 1, precision);
+        value = std::nextafter(value, 1.0);
+    }
+}
+
+TEST(RoundTrip, ASmallNumberThatNoTextIsWrittenForIsTheNearest) {
+    EXPECT_EQ(distance(L"7E-324", 1), 5e-324);
+    EXPECT_EQ(distance(L"100.0E-324", 1), 20 * 5e-324);
+    EXPECT_EQ(distance(L"1E-322", 1), 20 * 5e-324);
+    EXPECT_EQ(distance(L"1.00E-307", 1), 1e-307);
+}
+
+TEST(RoundTrip, EveryPowerOfTenBelowTheNormalNumbersIsStable) {
+    for (int exponent = -324; exponent <= -300; ++exponent) {
+        const double power = std::pow(10.0, exponent);
+        for (const double value : {power, std::nextafter(power, 1.0), std::nextafter(power, 0.0)})
+            for (int precision = 0; precision <= 8; ++precision) expectDistanceStable(value, 1, precision);
+    }
+}

@@ -40,7 +40,7 @@ TEST(Arrowheads, EveryRowOfTheTable) {
         EXPECT_EQ(arrowhead.textId, row.id) << cargo;
         EXPECT_STREQ(arrowhead.text, row.text) << cargo;
         EXPECT_EQ(arrowhead.stripRow, row.stripRow) << cargo;
-        EXPECT_EQ(ArrowheadStripTop(cargo), 14 * row.stripRow) << cargo;
+        EXPECT_EQ(ArrowheadStripTop(cargo, 15), 14 * row.stripRow) << cargo;
     }
 }
 
@@ -53,10 +53,10 @@ TEST(Arrowheads, EachHasARowOfTheStripToItself) {
 }
 
 TEST(Arrowheads, OtherCargosHaveNoPicture) {
-    EXPECT_EQ(ArrowheadStripTop(-1), -1);
-    EXPECT_EQ(ArrowheadStripTop(20), -1);
-    EXPECT_EQ(ArrowheadStripTop(INT_MIN), -1);
-    EXPECT_EQ(ArrowheadStripTop(INT_MAX), -1);
+    EXPECT_EQ(ArrowheadStripTop(-1, 15), -1);
+    EXPECT_EQ(ArrowheadStripTop(20, 15), -1);
+    EXPECT_EQ(ArrowheadStripTop(INT_MIN, 15), -1);
+    EXPECT_EQ(ArrowheadStripTop(INT_MAX, 15), -1);
 }
 
 TEST(PredefBlocks, EveryRowOfTheTable) {
@@ -66,12 +66,23 @@ TEST(PredefBlocks, EveryRowOfTheTable) {
         EXPECT_EQ(block.cargo, cargo);
         EXPECT_EQ(block.textId, row.id) << cargo;
         EXPECT_STREQ(block.text, row.text) << cargo;
-        EXPECT_EQ(BlockStripTop(cargo), row.stripRow) << cargo;
+        EXPECT_EQ(BlockStripTop(cargo, 16), row.stripRow) << cargo;
     }
 }
 
 TEST(PredefBlocks, OtherCargosHaveNoPicture) {
-    EXPECT_EQ(BlockStripTop(-1), -1);
-    EXPECT_EQ(BlockStripTop(7), -1);
-    EXPECT_EQ(BlockStripTop(INT_MAX), -1);
+    EXPECT_EQ(BlockStripTop(-1, 16), -1);
+    EXPECT_EQ(BlockStripTop(7, 16), -1);
+    EXPECT_EQ(BlockStripTop(INT_MAX, 16), -1);
+}
+
+TEST(PictureStrips, TheStepFollowsTheSizeOfThePictures) {
+    EXPECT_EQ(ArrowheadStripTop(1, 20), 19 * 15);
+    EXPECT_EQ(ArrowheadStripTop(1, 32), 31 * 15);
+    EXPECT_EQ(BlockStripTop(3, 24), 25 * 3);
+}
+
+TEST(PictureStrips, ACargoIsTestedBeforeItIsCut) {
+    EXPECT_EQ(ArrowheadStripTop(0x100000001, 15), -1);
+    EXPECT_EQ(BlockStripTop(0x100000001, 16), -1);
 }

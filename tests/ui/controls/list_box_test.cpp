@@ -196,3 +196,15 @@ TEST(ListBox, ForgetsItsComboBoxWithItsWindow) {
     in.list.DestroyWindow();
     EXPECT_EQ(in.list.GetComboBox(), nullptr);
 }
+
+TEST(ListBoxTip, QuestionsWithoutAPlaceAreAboutTheEntryUnderTheMouse) {
+    InHolder<> in;
+    in.moveTo(1);
+    EXPECT_EQ(in.ask(kKbUiNotifyGetTipSupport, nullptr), kKbUiReplyTextTip);
+    EXPECT_EQ(KbUiNotify(in.list, kListId, kKbUiNotifyGetTipSupport, 1), kKbUiReplyHandled);
+    EXPECT_EQ(in.ask(kKbUiNotifyHitTipRect, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(in.ask(kKbUiNotifyGetTipText, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(in.ask(kKbUiNotifyGetTipRect, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(in.ask(kKbUiNotifyDrawTip, nullptr), kKbUiReplyNone);
+    EXPECT_EQ(in.ask(kKbUiNotifyDrawTipText, nullptr), kKbUiReplyNone);
+}

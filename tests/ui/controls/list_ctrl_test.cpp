@@ -229,3 +229,24 @@ TEST(Header, MoveIsReportedToTheListsHolder) {
     EXPECT_EQ(report.holder.heard[0].datum,
               reinterpret_cast<LPARAM>(static_cast<CWnd*>(&report.headerControl())));
 }
+
+TEST(ListCtrlTip, QuestionsWithoutAPlaceAreAboutTheCellUnderTheMouse) {
+    Report report;
+    report.moveTo(0, 1);
+    EXPECT_EQ(report.ask(kKbUiNotifyGetTipSupport, nullptr), kKbUiReplyTextTip);
+    EXPECT_EQ(KbUiNotify(report.list, kListId, kKbUiNotifyGetTipSupport, 1), kKbUiReplyHandled);
+    EXPECT_EQ(report.ask(kKbUiNotifyGetTipText, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(report.ask(kKbUiNotifyGetTipRect, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(report.ask(kKbUiNotifyDrawTip, nullptr), kKbUiReplyNone);
+    EXPECT_EQ(report.ask(kKbUiNotifyDrawTipText, nullptr), kKbUiReplyNone);
+}
+
+TEST(HeaderTip, QuestionsWithoutAPlaceAreAboutTheItemUnderTheMouse) {
+    Report report;
+    ::SendMessageW(report.header, WM_MOUSEMOVE, 0, MAKELPARAM(130, 3));
+    EXPECT_EQ(report.askHeader(kKbUiNotifyGetTipSupport, nullptr), kKbUiReplyTextTip);
+    EXPECT_EQ(KbUiNotify(report.headerControl(), 0, kKbUiNotifyGetTipSupport, 1), kKbUiReplyHandled);
+    EXPECT_EQ(report.askHeader(kKbUiNotifyHitTipRect, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(report.askHeader(kKbUiNotifyGetTipText, nullptr), kKbUiReplyHandled);
+    EXPECT_EQ(report.askHeader(kKbUiNotifyGetTipRect, nullptr), kKbUiReplyHandled);
+}

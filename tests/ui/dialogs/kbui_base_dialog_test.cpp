@@ -18,6 +18,7 @@ public:
     CRect tipRect{2, 3, 40, 12};
     std::vector<int> heard;
     HDC drawnOn = nullptr;
+    LPARAM drawDatum = -1;
 
 protected:
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
@@ -25,7 +26,10 @@ protected:
         heard.push_back(notification);
         if (notification == kKbUiNotifyGetTipText) *reinterpret_cast<CString*>(lParam) = tipText;
         if (notification == kKbUiNotifyGetTipRect) *reinterpret_cast<CRect*>(lParam) = tipRect;
-        if (notification == kKbUiNotifyDrawTip) drawnOn = reinterpret_cast<CDC*>(lParam)->GetSafeHdc();
+        if (notification == kKbUiNotifyDrawTip) {
+            drawDatum = lParam;
+            drawnOn = lParam ? reinterpret_cast<CDC*>(lParam)->GetSafeHdc() : nullptr;
+        }
         const auto found = replies.find(notification);
         return found != replies.end() ? found->second : 0;
     }
@@ -262,6 +266,17 @@ TEST_F(BaseDialog, ADrawnTipLiesExactlyOverItsRectangleAndTheControlPaintsIt) {
     EXPECT_EQ(shown, expected);
     EXPECT_EQ(dialog.m_textTip->GetUseText(), 0);
     EXPECT_NE(button.drawnOn, nullptr);
+}
+
+TEST_F(BaseDialog, ADrawnTipWithoutADeviceContextIsOfferedWithoutOne) {
+    giveTip(kKbUiReplyDrawnTip);
+    const HWND window = dialog.m_textTip->m_hWnd;
+    dialog.m_textTip->m_hWnd = reinterpret_cast<HWND>(static_cast<INT_PTR>(0x7FFF0001));  // no window
+    LRESULT reply = -1;
+    EXPECT_NO_THROW(reply = updateTip());
+    dialog.m_textTip->m_hWnd = window;
+    EXPECT_EQ(reply, kKbUiReplyHandled);
+    EXPECT_EQ(button.drawDatum, 0);
 }
 
 TEST_F(BaseDialog, TheSameItemWithAVisibleTipIsLeftAlone) {

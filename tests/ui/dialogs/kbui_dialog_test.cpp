@@ -1,7 +1,32 @@
 // The dialog that resizes by percentages and remembers where it stood.
+#include <type_traits>
+
+#include <ktui/dialogs/elastic.h>
+
 #include "dialog_fixture.h"
 
 namespace {
+
+/// A button that moves another control by 5 pixels to the right whenever it is moved itself.
+class PushingButton : public CButton {
+public:
+    CWnd* other = nullptr;
+    int pushes = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const LRESULT result = CButton::WindowProc(message, wParam, lParam);
+        if (message == WM_MOVE && other != nullptr) {
+            CRect rect;
+            other->GetWindowRect(&rect);
+            other->GetParent()->ScreenToClient(&rect);
+            ::SetWindowPos(other->m_hWnd, nullptr, rect.left + 5, rect.top, 0, 0,
+                           SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+            ++pushes;
+        }
+        return result;
+    }
+};
 
 using ui_test::later;
 
@@ -51,6 +76,82 @@ TEST_F(ElasticDialog, TwoTagsOnOneControlAddUp) {
     dialog.grow(20, 8);
     EXPECT_EQ(dialog.rectOf(IDC_SECOND),
               CRect(before.left + 10, before.top, before.right + 20, before.bottom + 8));
+}
+
+TEST_F(ElasticDialog, EachTagStartsFromWhereItsControlStandsAtThatMoment) {
+    const CRect second = dialog.rectOf(IDC_SECOND);
+    PushingButton first;
+    first.SubclassDlgItem(IDC_FIRST, &dialog);
+    first.other = dialog.GetDlgItem(IDC_SECOND);
+    dialog.MoveControlX(IDC_SECOND, 100);
+    dialog.MoveControlX(IDC_FIRST, 100);
+    dialog.StretchControlX(IDC_SECOND, 100);
+    dialog.grow(10, 0);
+    EXPECT_EQ(first.pushes, 1);
+    EXPECT_EQ(dialog.rectOf(IDC_SECOND),
+              CRect(second.left + 15, second.top, second.right + 25, second.bottom));
+}
+
+TEST_F(ElasticDialog, ANullEntryIsSkipped) {
+    const CRect first = dialog.rectOf(IDC_FIRST), second = dialog.rectOf(IDC_SECOND);
+    dialog.MoveControlX(IDC_FIRST, 100);
+    dialog.m_elastic->m_tags.Add(nullptr);
+    EXPECT_EQ(dialog.MoveControlX(IDC_SECOND, 100), 1);
+    EXPECT_EQ(dialog.MoveControlX(IDC_SECOND, 50), 1);
+    dialog.grow(10, 0);
+    EXPECT_EQ(dialog.rectOf(IDC_FIRST), first + CPoint(10, 0));
+    EXPECT_EQ(dialog.rectOf(IDC_SECOND), second + CPoint(10, 0));
+}
+
+TEST_F(ElasticDialog, AControlThatIsMadeAnewIsFound) {
+    const CRect first = dialog.rectOf(IDC_FIRST);
+    dialog.MoveControlX(IDC_FIRST, 100);
+    dialog.grow(2, 0);
+    dialog.GetDlgItem(IDC_FIRST)->DestroyWindow();
+    CButton again;
+    again.Create(L"First", WS_CHILD | WS_VISIBLE, first, &dialog, IDC_FIRST);
+    dialog.grow(3, 0);
+    EXPECT_EQ(dialog.rectOf(IDC_FIRST), first + CPoint(3, 0));
+    // A control that takes another id is no longer the one.
+    again.SetDlgCtrlID(4712);
+    dialog.grow(3, 0);
+    CRect rect;
+    again.GetWindowRect(&rect);
+    dialog.ScreenToClient(&rect);
+    EXPECT_EQ(rect, first + CPoint(3, 0));
+}
+
+TEST_F(ElasticDialog, NothingNeedsTheResizeState) {
+    dialog.MoveControlX(IDC_FIRST, 100);
+    const CRect first = dialog.rectOf(IDC_FIRST);
+    KbUiElastic* held = dialog.m_elastic;
+    dialog.m_elastic = nullptr;
+    dialog.SetDialogMinExtents(1, 1);
+    dialog.SetDialogMaxExtents(2, 2);
+    dialog.LockDialogWidth();
+    dialog.LockDialogHeight();
+    MINMAXINFO info = {};
+    dialog.GetElasticMinMaxInfo(info);
+    EXPECT_EQ(info.ptMinTrackSize.x, 0);
+    _dlgControlTag tag = {IDC_SECOND, kKbUiMoveX, 100};
+    EXPECT_EQ(dialog.SetControlProperty(&tag, 1), 1);
+    EXPECT_EQ(dialog.StretchControlXY(IDC_LIST, 100, 100), 0);
+    dialog.grow(10, 10);
+    EXPECT_EQ(dialog.rectOf(IDC_FIRST), first);
+    dialog.m_elastic = held;
+}
+
+TEST_F(PlacedDialog, ADialogWithoutResizeStateOpensAndTakesItsStoredPosition) {
+    store(L"bare", CRect(50, 60, 650, 560));
+    OpenDialog dialog(IDD_ELASTIC, &parent);
+    dialog.SetDialogName(L"bare");
+    KbUiElastic* held = dialog.m_elastic;
+    dialog.m_elastic = nullptr;
+    ASSERT_TRUE(dialog.Create(IDD_ELASTIC, &parent));
+    EXPECT_EQ(dialog.windowRect().TopLeft(), CPoint(50, 60));
+    EXPECT_NE(dialog.windowRect().Width(), 600);
+    dialog.DestroyWindow();
+    dialog.m_elastic = held;
 }
 
 TEST_F(ElasticDialog, XAndYInOneTagMoveAndStretch) {
@@ -155,6 +256,7 @@ TEST_F(ElasticDialog, FixedAnswersStayAsTheyAre) {
     EXPECT_EQ(dialog.AutoLoadControl(button), 0);
     EXPECT_EQ(dialog.ReloadControl(button, L"x"), 0);
     EXPECT_EQ(dialog.RemoveControl(button), 0);
+    static_cast<CKbUiDialog&>(dialog).OnInitDialogFinish();  // clients may call it
     EXPECT_EQ(dialog.ForceControlRepaint(button, 1), 1);
     EXPECT_EQ(dialog.ForceControlRepaint(button, 2), 0);
     EXPECT_EQ(dialog.ForceControlRepaint(nullptr, 1), 0);

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <string>
 
+#include "probe.h"
 #include "ui_test.h"
 
 namespace {
@@ -26,21 +27,7 @@ public:
     }
 
     /// Runs the probe and answers its exit code.
-    DWORD runProbe() const {
-        std::wstring command = (m_folder / kProbe).wstring();
-        STARTUPINFOW startup = {};
-        startup.cb = sizeof startup;
-        PROCESS_INFORMATION process = {};
-        if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, m_folder.c_str(),
-                              &startup, &process))
-            return 1000;
-        ::WaitForSingleObject(process.hProcess, 20000);
-        DWORD code = 1001;
-        ::GetExitCodeProcess(process.hProcess, &code);
-        ::CloseHandle(process.hThread);
-        ::CloseHandle(process.hProcess);
-        return code;
-    }
+    DWORD runProbe() const { return ui_test::run_probe((m_folder / kProbe).wstring(), m_folder.wstring()); }
 
 private:
     static constexpr const wchar_t* kProbe = L"without_resources_probe.exe";

@@ -1,5 +1,5 @@
 #include <ktui/controls/kbui_list_box.h>
-#include <ktui/host/theme_api.h>
+#include <ktui/host/test_door.h>
 #include <ktui/input/ktui_typed_combo_boxes.h>
 #include <ktui/input/ktui_typed_edits.h>
 
@@ -224,7 +224,7 @@ TEST(ComboMessages, OnlyTheTipTextIsServedAndThereIsNone) {
 }
 
 TEST(ComboPainting, WithoutAThemeThePlatformPaintsAndDrawItemDrawsTheItems) {
-    const ThemeApi former = ExchangeThemeApi(MakeThemeApi({}));
+    const ThemeApi former = KtUiTestDoor().exchangeThemeApi(MakeThemeApi({}));
     InHolder<DrawnCombo> in(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
     EXPECT_FALSE(CKbUiComboBox::IsVistaTheme());
     in.combo.SetCurSel(1);
@@ -237,7 +237,7 @@ TEST(ComboPainting, WithoutAThemeThePlatformPaintsAndDrawItemDrawsTheItems) {
     ui_test::pump();
     EXPECT_GE(in.combo.drawn.size(), 3u);
     in.combo.ShowDropDown(FALSE);
-    ExchangeThemeApi(former);
+    KtUiTestDoor().exchangeThemeApi(former);
 }
 
 namespace {
@@ -281,7 +281,7 @@ struct FakeTheme {
 }  // namespace
 
 TEST(ComboPainting, ThemedFaceEndsInDrawItem) {
-    const ThemeApi former = ExchangeThemeApi(FakeTheme::Api());
+    const ThemeApi former = KtUiTestDoor().exchangeThemeApi(FakeTheme::Api());
     InHolder<DrawnCombo> in(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
     in.combo.SetCurSel(1);
     in.combo.SetItemData(1, 4711);
@@ -307,11 +307,11 @@ TEST(ComboPainting, ThemedFaceEndsInDrawItem) {
     in.combo.GetClientRect(&client);
     EXPECT_EQ(CRect(item.rcItem),
               CRect(3, 3, client.right - ::GetSystemMetrics(SM_CXVSCROLL) - 3, client.bottom - 3));
-    ExchangeThemeApi(former);
+    KtUiTestDoor().exchangeThemeApi(former);
 }
 
 TEST(ComboPainting, DisabledFaceIsPaintedDisabled) {
-    const ThemeApi former = ExchangeThemeApi(FakeTheme::Api());
+    const ThemeApi former = KtUiTestDoor().exchangeThemeApi(FakeTheme::Api());
     InHolder<DrawnCombo> in(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
     in.combo.EnableWindow(FALSE);
     FakeTheme::parts.clear();
@@ -323,16 +323,16 @@ TEST(ComboPainting, DisabledFaceIsPaintedDisabled) {
     EXPECT_EQ(FakeTheme::parts[1], std::make_pair(6, 4));
     ASSERT_EQ(in.combo.drawn.size(), 1u);
     EXPECT_EQ(in.combo.drawn[0].itemState, 4100u);
-    ExchangeThemeApi(former);
+    KtUiTestDoor().exchangeThemeApi(former);
 }
 
 TEST(ComboPainting, ComboBoxWithAnEditIsLeftToThePlatformUnderATheme) {
-    const ThemeApi former = ExchangeThemeApi(FakeTheme::Api());
+    const ThemeApi former = KtUiTestDoor().exchangeThemeApi(FakeTheme::Api());
     InHolder<DrawnCombo> in(CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
     FakeTheme::parts.clear();
     in.combo.RedrawWindow();
     EXPECT_TRUE(FakeTheme::parts.empty());
-    ExchangeThemeApi(former);
+    KtUiTestDoor().exchangeThemeApi(former);
 }
 
 TEST(ComboPainting, SelectedItemIsHighlightedAndTheFaceIsNotFilled) {
@@ -363,4 +363,27 @@ TEST(ComboPainting, SelectedItemIsHighlightedAndTheFaceIsNotFilled) {
     in.combo.DrawItem(&item);
     EXPECT_EQ(dc.GetPixel(58, 1), RGB(1, 2, 3)) << "no item draws nothing";
     dc.SelectObject(former);
+}
+
+TEST(ComboMessages, TheQuestionForATextReachesASubclassAlsoWithoutAnObject) {
+    class Told : public CKbUiComboBox {
+    public:
+        int asked = 0;
+
+    protected:
+        BOOL OnGetTipText(CString& text) override {
+            ++asked;
+            text = L"told";
+            return TRUE;
+        }
+    };
+    RecordingHolder holder;
+    Told combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &holder, 5);
+    CString text;
+    EXPECT_EQ(KbUiNotify(combo, 0, kKbUiNotifyGetTipText, 0), kKbUiReplyHandled);
+    EXPECT_EQ(KbUiNotify(combo, 0, kKbUiNotifyGetTipText, reinterpret_cast<unsigned __int64>(&text)),
+              kKbUiReplyHandled);
+    EXPECT_EQ(combo.asked, 2);
+    EXPECT_EQ(text, L"told");
 }

@@ -374,3 +374,17 @@ TEST(EditMouse, ReportGoesToTheParentThatWasSet) {
     in.edit.SetKbUiParent(nullptr);
     EXPECT_EQ(in.edit.GetKbUiParent(), &in.holder);
 }
+
+TEST(EditTip, QuestionsWithoutAnObjectReachTheControl) {
+    InHolder<CKbUiEdit> in;
+    in.edit.SetWindowText(kLongText);
+    in.holder.SetFocus();
+    send_move(in.edit, 5, 5);
+    // A sender without a place says whether its tip is new (0) or known (1).
+    for (const unsigned __int64 datum : {0ull, 1ull}) {
+        EXPECT_EQ(KbUiNotify(in.edit, kEditId, kKbUiNotifyGetTipSupport, datum), kKbUiReplyHandled) << datum;
+        EXPECT_EQ(KbUiNotify(in.edit, kEditId, kKbUiNotifyHitTipRect, datum), kKbUiReplyHandled) << datum;
+        EXPECT_EQ(KbUiNotify(in.edit, kEditId, kKbUiNotifyGetTipText, datum), kKbUiReplyHandled) << datum;
+        EXPECT_EQ(KbUiNotify(in.edit, kEditId, kKbUiNotifyGetTipRect, datum), kKbUiReplyHandled) << datum;
+    }
+}

@@ -20,6 +20,11 @@ public:
     const MruStore& store() const { return m_mru; }
     int lastSelection() const { return m_lastSelection; }
     unsigned flags() const { return m_mruFlags; }
+    void useLargerPictures(CBitmap& strip, int size) {
+        m_strip.DeleteObject();
+        m_strip.Attach(strip.Detach());
+        m_imageSize = size;
+    }
     void dropStrip() { m_strip.DeleteObject(); }
 };
 
@@ -169,6 +174,24 @@ TEST(ArrowheadImages, EntriesBeyondTheRangeShowNone) {
     InHolder<Picker> in;
     for (const int cargo : {-1, kCargoOther, 20, 21}) EXPECT_TRUE(DrawsNothing(in.picker, cargo)) << cargo;
     EXPECT_TRUE(DrawsNothing(in.picker, 0x100000000)) << "no cargo is cut to 32 bits first";
+}
+
+TEST(ArrowheadImages, AnotherSizeTakesAnotherStrip) {
+    constexpr int kSize = 20;
+    InHolder<Picker> in;
+    CBitmap strip;
+    ui_test::makeRowStrip(strip, kSize, (kSize - 1) * kCount + 1);
+    in.picker.useLargerPictures(strip, kSize);
+    EXPECT_EQ(in.picker.CalcItemHeight(), kSize);
+    for (const int cargo : {0, 1, 4, 19}) {
+        Canvas canvas(30, 30, kUntouched);
+        ui_test::drawImage(canvas, in.picker, cargo);
+        const int top = (kSize - 1) * Arrowheads()[static_cast<std::size_t>(cargo)].stripRow;
+        EXPECT_EQ(canvas.dc.GetPixel(3, 4), ui_test::rowColor(top)) << cargo;
+        EXPECT_EQ(canvas.dc.GetPixel(22, 23), ui_test::rowColor(top + kSize - 1)) << cargo;
+        EXPECT_EQ(canvas.dc.GetPixel(22, 24), kUntouched) << cargo;
+        EXPECT_EQ(canvas.dc.GetPixel(23, 23), kUntouched) << cargo;
+    }
 }
 
 TEST(ArrowheadImages, WithoutTheStripTextsStillWork) {

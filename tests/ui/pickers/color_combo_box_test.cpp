@@ -233,3 +233,15 @@ TEST(ColorPicker, WindowsColourComesFromTheSystemsDialog) {
     EXPECT_EQ(in.picker.GetWindowsColor(color), 1);
     EXPECT_EQ(color, RGB(255, 0, 0));
 }
+
+TEST(ColorSwatch, CargoBeyond32BitsIsNoIndex) {
+    InHolder<Picker> in;
+    constexpr __int64 kBeyond = 0x100000003;
+    in.host.askedColors.clear();
+    CentreOfSwatch(in.picker, kBeyond);
+    EXPECT_EQ(in.host.askedColors, (std::vector<int>{-1})) << "no cargo is cut to 32 bits first";
+    const int item = in.picker.AddItemToList(L"beyond", kBeyond);
+    EXPECT_EQ(in.picker.GetItemColorIndex(item), -1);
+    in.picker.SetCurSel(item);
+    EXPECT_EQ(in.picker.GetCurrentItemColorIndex(), -1);
+}

@@ -235,3 +235,9 @@ TEST(LineWeightPicker, OpeningAndClosingLeavesNothingBehind) {
     };
     ui_test::expectNothingLeft(openAndClose);
 }
+
+TEST(LineWeightSample, CargoBeyond32BitsShowsNone) {
+    InHolder<Picker> in;
+    EXPECT_GT(InkedRows(in.picker, 50), 0);
+    EXPECT_EQ(InkedRows(in.picker, 0x100000032), 0) << "no cargo is cut to 32 bits first";
+}

@@ -16,6 +16,11 @@ class Picker : public CKtUiPredefBlockComboBox {
 public:
     int lastSelection() const { return m_lastSelection; }
     unsigned flags() const { return m_mruFlags; }
+    void useLargerPictures(CBitmap& strip, int size) {
+        m_strip.DeleteObject();
+        m_strip.Attach(strip.Detach());
+        m_imageSize = size;
+    }
     void dropStrip() { m_strip.DeleteObject(); }
 };
 
@@ -107,4 +112,20 @@ TEST(BlockPicker, OpeningAndClosingLeavesNothingBehind) {
         in.closeUp();
     };
     ui_test::expectNothingLeft(openAndClose);
+}
+
+TEST(BlockImages, AnotherSizeTakesAnotherStrip) {
+    constexpr int kSize = 20;
+    InHolder<Picker> in;
+    CBitmap strip;
+    ui_test::makeRowStrip(strip, kSize, (kSize + 1) * 7);
+    in.picker.useLargerPictures(strip, kSize);
+    for (const int cargo : {0, 1, 5, 6}) {
+        Canvas canvas(30, 30, kUntouched);
+        ui_test::drawImage(canvas, in.picker, cargo);
+        const int top = (kSize + 1) * cargo;
+        EXPECT_EQ(canvas.dc.GetPixel(3, 4), ui_test::rowColor(top)) << cargo;
+        EXPECT_EQ(canvas.dc.GetPixel(22, 24), ui_test::rowColor(top + kSize)) << cargo;
+        EXPECT_EQ(canvas.dc.GetPixel(22, 25), kUntouched) << cargo;
+    }
 }

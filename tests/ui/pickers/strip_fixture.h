@@ -38,6 +38,20 @@ private:
     CBitmap* m_former;
 };
 
+/// The colour that makeRowStrip gives row `y`.
+constexpr COLORREF rowColor(int y) { return RGB(y & 0xFF, y >> 8, 77); }
+
+/// Makes a strip in which each row of pixels has a colour of its own.
+inline void makeRowStrip(CBitmap& strip, int width, int height) {
+    CClientDC screen(nullptr);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    strip.CreateCompatibleBitmap(&screen, width, height);
+    CBitmap* former = dc.SelectObject(&strip);
+    for (int y = 0; y < height; ++y) dc.FillSolidRect(CRect(0, y, width, y + 1), rowColor(y));
+    dc.SelectObject(former);
+}
+
 constexpr COLORREF kUntouched = RGB(200, 100, 50);
 
 /// Whether `canvas` shows `width` by `height` pixels of `strip` from `top` on at `corner`, and nothing

@@ -276,3 +276,10 @@ TEST(TrueColorPicker, OpeningAndClosingLeavesNothingBehind) {
     };
     ui_test::expectNothingLeft(openAndClose);
 }
+
+TEST(TrueColorSwatch, CargoBeyond32BitsHasNoColour) {
+    InHolder<Picker> in;
+    EXPECT_EQ(CentreOfSwatch(in.picker, 2), in.picker.getColorByCargo(2));
+    EXPECT_NE(in.picker.getColorByCargo(2), RGB(0, 0, 0));
+    EXPECT_EQ(CentreOfSwatch(in.picker, 0x100000002), RGB(0, 0, 0)) << "no cargo is cut to 32 bits first";
+}

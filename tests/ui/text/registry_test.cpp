@@ -210,6 +210,15 @@ TEST_F(Registry, DialogDataGoesBelowTheGivenRoot) {
     EXPECT_EQ(reader.ValueType(L"Width"), static_cast<DWORD>(REG_SZ));
 }
 
+TEST_F(Registry, DialogDataIsGivenAsStrings) {
+    ui_test::TestHost host;
+    int (*const store)(const CString&, const CString&, const CString&, const CString&) = KtUiSetDialogData;
+    const CString root = L"Software\\ktui-tests\\", dialog = L"Layers", value = L"Height", text = L"75";
+    EXPECT_EQ(store(root, dialog, value, text), 1);
+    EXPECT_STREQ(CKbUiRegistryAccess(HKEY_CURRENT_USER, L"Software\\ktui-tests\\Layers").GetString(value),
+                 L"75");
+}
+
 TEST_F(Registry, DialogDataWithoutARootGoesBelowTheProducts) {
     ui_test::TestHost host;
     ktutSetProfileFileName(L"Software\\ktui-tests\\product");

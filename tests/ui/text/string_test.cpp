@@ -1,5 +1,7 @@
 #include <ktui/text/ktui_string_exp.h>
 
+#include <type_traits>
+
 #include "test_host.h"
 #include "ui_test.h"
 
@@ -85,4 +87,26 @@ TEST(WorkingDirectory, IsThatOfTheProcess) {
     CKtUiString text(L"old");
     text.GetCurrentWorkingDirectory();
     EXPECT_STREQ(text, expected);
+}
+
+namespace {
+
+/// Counts the calls of the virtual operation.
+class CountingString : public CKtUiStringExp {
+public:
+    int loads = 0;
+    BOOL LoadString(unsigned id) override {
+        ++loads;
+        return CKtUiStringExp::LoadString(id);
+    }
+};
+
+}  // namespace
+
+TEST(StringExpansion, LoadStringIsTheOnlyVirtualOperation) {
+    static_assert(std::is_polymorphic_v<CKtUiStringExp>);
+    static_assert(!std::has_virtual_destructor_v<CKtUiStringExp>);
+    CountingString text;
+    static_cast<CKtUiStringExp&>(text).LoadString(1);
+    EXPECT_EQ(text.loads, 1);
 }

@@ -166,6 +166,17 @@ TEST_F(TipWindow, MeasuresInTheOwnersFont) {
     EXPECT_GT(height, 8);
 }
 
+TEST_F(TipWindow, WithoutADeviceContextTheExtentIsZero) {
+    CWnd* const owner = tip.Owner();
+    const HWND window = owner->m_hWnd;
+    int width = 1, height = 2;
+    owner->m_hWnd = reinterpret_cast<HWND>(static_cast<INT_PTR>(0x7FFF0001));  // no window: GetDC fails
+    EXPECT_NO_THROW(tip.GetTextExtent(L"distance", width, height));
+    owner->m_hWnd = window;
+    EXPECT_EQ(width, 0);
+    EXPECT_EQ(height, 0);
+}
+
 TEST_F(TipWindow, ABalloonShowsInAnUnfocusedApplicationAndStays) {
     CKbUiBalloonTip balloon;
     ASSERT_TRUE(balloon.Create(&parent));

@@ -1,0 +1,6 @@
+#include <ktui/host/test_door.h>
+
+const KtUiTestEntries& KtUiTestDoor() {
+    static constexpr KtUiTestEntries entries = {&::ExchangeThemeApi, &::LoadedToolkit};
+    return entries;
+}

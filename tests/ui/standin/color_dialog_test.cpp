@@ -1,0 +1,156 @@
+// The colour dialog: what it takes, what it refuses with which words, and where the user stands afterwards.
+#include "../../../platform/standin/resource.h"
+#include "standin_fixture.h"
+
+namespace {
+
+constexpr const wchar_t* kTitle = L"Select Color";
+constexpr const wchar_t* kIndexMessage = L"Enter a color number from 1 to 255.";
+constexpr const wchar_t* kPartMessage = L"Enter a number from 0 to 255 each for red, green and blue.";
+
+class ColorDialog : public ui_test::StandinTest {
+protected:
+    using Script = std::function<void(HWND)>;
+
+    bool pickIndex(int& index, bool allowMeta, const Script& script) {
+        ui_test::when_dialog(kTitle, script);
+        return host.uiHost()->showColorIndexDialog(index, allowMeta, 1);
+    }
+    bool pickColor(OdCmColor& color, bool allowMeta, const Script& script) {
+        OdCmColor layer;
+        layer.setColorIndex(1);
+        ui_test::when_dialog(kTitle, script);
+        return host.uiHost()->showTrueColorDialog(color, allowMeta, layer, nullptr);
+    }
+    static void type(HWND dialog, int id, const wchar_t* text) { ::SetDlgItemTextW(dialog, id, text); }
+
+    /// Presses OK, which has to be refused with `message` and to leave the user in `field`, all of it
+    /// selected.
+    static void expectRefused(HWND dialog, int field, const wchar_t* message) {
+        EXPECT_EQ(messageOf([&] { click(dialog, IDOK); }), message);
+        EXPECT_TRUE(::IsWindow(dialog));
+        const HWND edit = ::GetDlgItem(dialog, field);
+        EXPECT_EQ(::GetFocus(), edit);
+        DWORD start = 1, end = 1;
+        ::SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+        EXPECT_EQ(start, 0u);
+        EXPECT_EQ(end, static_cast<DWORD>(::GetWindowTextLengthW(edit)));
+    }
+};
+
+OdCmColor rgb(int red, int green, int blue) {
+    OdCmColor color;
+    color.setRGB(static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green),
+                 static_cast<std::uint8_t>(blue));
+    return color;
+}
+
+}  // namespace
+
+TEST_F(ColorDialog, TakesAnIndexWithinThePalette) {
+    for (const auto& [text, expected] :
+         std::vector<std::pair<const wchar_t*, int>>{{L"1", 1}, {L" 255 ", 255}, {L"30", 30}}) {
+        int index = 5;
+        EXPECT_TRUE(pickIndex(index, false, [&, typed = text](HWND dialog) {
+            type(dialog, IDC_COLOR_INDEX, typed);
+            click(dialog, IDOK);
+        }));
+        EXPECT_EQ(index, expected);
+    }
+}
+
+TEST_F(ColorDialog, RefusesAnIndexOutsideThePaletteAndAnEmptyField) {
+    for (const wchar_t* text : {L"300", L"0", L"256", L"-1", L"", L"  ", L"red", L"3x", L"ByLayer"}) {
+        int index = 5;
+        EXPECT_FALSE(pickIndex(index, false, [&](HWND dialog) {
+            type(dialog, IDC_COLOR_INDEX, text);
+            expectRefused(dialog, IDC_COLOR_INDEX, kIndexMessage);
+            click(dialog, IDCANCEL);
+        })) << CStringA(text).GetString();
+        EXPECT_EQ(index, 5) << "a cancelled dialog changes nothing";
+    }
+}
+
+TEST_F(ColorDialog, TakesTheRightIndexAfterARefusal) {
+    int index = 5;
+    EXPECT_TRUE(pickIndex(index, false, [&](HWND dialog) {
+        type(dialog, IDC_COLOR_INDEX, L"300");
+        expectRefused(dialog, IDC_COLOR_INDEX, kIndexMessage);
+        type(dialog, IDC_COLOR_INDEX, L"30");
+        click(dialog, IDOK);
+    }));
+    EXPECT_EQ(index, 30);
+}
+
+TEST_F(ColorDialog, NamesOfLayerAndBlockAreTakenWhereTheyAreOffered) {
+    int index = 5;
+    EXPECT_TRUE(pickIndex(index, true, [&](HWND dialog) {
+        type(dialog, IDC_COLOR_INDEX, L"bylayer");
+        click(dialog, IDOK);
+    }));
+    EXPECT_EQ(index, 256);
+    EXPECT_TRUE(pickIndex(index, true, [&](HWND dialog) {
+        click(dialog, IDC_COLOR_BYBLOCK);
+        click(dialog, IDOK);
+    }));
+    EXPECT_EQ(index, 0);
+}
+
+TEST_F(ColorDialog, RefusesAPartOutsideItsRangeAndAnEmptyOne) {
+    for (const int field : {IDC_COLOR_RED, IDC_COLOR_GREEN, IDC_COLOR_BLUE}) {
+        for (const wchar_t* text : {L"300", L"256", L""}) {
+            OdCmColor color = rgb(10, 20, 30);
+            EXPECT_FALSE(pickColor(color, false, [&](HWND dialog) {
+                type(dialog, field, text);
+                expectRefused(dialog, field, kPartMessage);
+                click(dialog, IDCANCEL);
+            }));
+            EXPECT_EQ(color, rgb(10, 20, 30));
+        }
+    }
+}
+
+TEST_F(ColorDialog, TheFirstOfSeveralBadPartsIsTheOneToMend) {
+    OdCmColor color = rgb(10, 20, 30);
+    EXPECT_TRUE(pickColor(color, false, [&](HWND dialog) {
+        type(dialog, IDC_COLOR_BLUE, L"");
+        type(dialog, IDC_COLOR_GREEN, L"300");
+        expectRefused(dialog, IDC_COLOR_GREEN, kPartMessage);
+        type(dialog, IDC_COLOR_GREEN, L"0");
+        expectRefused(dialog, IDC_COLOR_BLUE, kPartMessage);
+        type(dialog, IDC_COLOR_BLUE, L"255");
+        click(dialog, IDOK);
+    }));
+    EXPECT_EQ(color, rgb(10, 0, 255));
+}
+
+TEST_F(ColorDialog, ABadPartBehindAnIndexIsRefusedToo) {
+    OdCmColor color;
+    color.setColorIndex(3);
+    EXPECT_FALSE(pickColor(color, false, [&](HWND dialog) {
+        type(dialog, IDC_COLOR_RED, L"300");
+        expectRefused(dialog, IDC_COLOR_RED, kPartMessage);
+        click(dialog, IDCANCEL);
+    }));
+    EXPECT_EQ(color.colorIndex(), 3);
+}
+
+TEST_F(ColorDialog, AnEmptiedIndexBehindATrueColorIsRefused) {
+    OdCmColor color = rgb(10, 20, 30);
+    EXPECT_FALSE(pickColor(color, false, [&](HWND dialog) {
+        type(dialog, IDC_COLOR_INDEX, L"7");
+        type(dialog, IDC_COLOR_INDEX, L"");
+        expectRefused(dialog, IDC_COLOR_INDEX, kIndexMessage);
+        click(dialog, IDCANCEL);
+    }));
+}
+
+TEST_F(ColorDialog, AnUntouchedColorComesBackAsItWas) {
+    OdCmColor color = rgb(10, 20, 30);
+    EXPECT_TRUE(pickColor(color, false, [&](HWND dialog) { click(dialog, IDOK); }));
+    EXPECT_EQ(color, rgb(10, 20, 30));
+    color.setColorIndex(42);
+    EXPECT_TRUE(pickColor(color, false, [&](HWND dialog) { click(dialog, IDOK); }));
+    EXPECT_TRUE(color.isByACI());
+    EXPECT_EQ(color.colorIndex(), 42);
+}
