@@ -81,7 +81,6 @@ int CWinThread::Run() {
         MSG waiting;
         while (idle && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
             idle = OnIdle(idleCount++) != FALSE;
-        kmfc::throw_carried();
         if (!PumpMessage()) return ExitInstance();
         if (IsIdleMessage(&thread_state().m_msgCur)) {
             idle = true;

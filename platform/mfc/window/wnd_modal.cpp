@@ -78,7 +78,6 @@ private:
 }  // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
-    if (!::IsWindow(m_hWnd)) return m_nModalResult = -1;
     const MSG& current = thread_state().m_msgCur;
     ModalIdle idle(this, dwFlags);
     ModalLoop loop(this);
@@ -87,7 +86,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     while (GoesOnModally()) {
         while (moreIdle && GoesOnModally() && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE)) {
             moreIdle = idle.Step() != FALSE;
-            kmfc::throw_carried();
             loop.EndTemporaryObjects();
         }
         if (!GoesOnModally()) break;

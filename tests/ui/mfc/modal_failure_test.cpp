@@ -31,7 +31,12 @@ public:
     std::function<void(Failing&)> onInit, onAct;
     std::function<void(MSG*)> onTranslate;
     int shown = 0, idles = 0;
+    std::vector<int> endings;  // of the modal loop, by their results
 
+    void EndModalLoop(int result) override {
+        endings.push_back(result);
+        CDialog::EndModalLoop(result);
+    }
     BOOL PreTranslateMessage(MSG* message) override {
         if (onTranslate) onTranslate(message);
         return CDialog::PreTranslateMessage(message);
@@ -62,6 +67,22 @@ BEGIN_MESSAGE_MAP(Failing, CDialog)
     ON_MESSAGE(kAct, &Failing::OnAct)
     ON_MESSAGE(WM_KICKIDLE, &Failing::OnKickIdle)
     ON_WM_WINDOWPOSCHANGED()
+END_MESSAGE_MAP()
+
+/// A dialog with a handler of its own for WM_INITDIALOG.
+class Late : public Failing {
+public:
+    using Failing::Failing;
+    int followed = 0;
+
+protected:
+    virtual LRESULT Initialise(WPARAM wParam, LPARAM lParam) = 0;
+    afx_msg LRESULT OnInitialise(WPARAM wParam, LPARAM lParam) { return Initialise(wParam, lParam); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Late, Failing)
+    ON_MESSAGE(WM_INITDIALOG, &Late::OnInitialise)
 END_MESSAGE_MAP()
 
 /// Ends a loop that hangs, and says so.
@@ -234,6 +255,42 @@ TEST_F(ModalFailure, AControlThatFailsWhileTheDialogStartsFailsTheDialog) {
     expect_clean(dialog);
 }
 
+TEST_F(ModalFailure, WhatFollowsAnInitialisationThatFailedIsLeftOut) {
+    class Further : public Late {
+    public:
+        using Late::Late;
+
+    protected:
+        LRESULT Initialise(WPARAM wParam, LPARAM lParam) override {
+            const LRESULT result = CDialog::HandleInitDialog(wParam, lParam);
+            ++followed;
+            ShowWindow(SW_SHOW);
+            return result;
+        }
+    };
+    Further dialog(401, &parent);
+    dialog.onInit = [](Failing&) { throw 2; };
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.followed, 0);
+    EXPECT_EQ(dialog.shown, 0);
+    expect_clean(dialog);
+}
+
+TEST_F(ModalFailure, AnInitialisationThatOnlyDoesTheDefaultFailsToo) {
+    class Short : public Late {
+    public:
+        using Late::Late;
+
+    protected:
+        LRESULT Initialise(WPARAM, LPARAM) override { return Default(); }
+    };
+    Short dialog(401, &parent);
+    dialog.onInit = [](Failing&) { throw 2; };
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.shown, 0);
+    expect_clean(dialog);
+}
+
 TEST_F(ModalFailure, ToldToTheUserWhenTheDialogStarts) {
     Failing dialog(401, &parent);
     dialog.onInit = [](Failing&) { AfxThrowResourceException(); };
@@ -401,11 +458,13 @@ TEST_F(ModalFailure, ADialogThatIsDestroyedByOthersEnds) {
         },
     };
     for (const Destroy& destroy : ways) {
+        const bool seen = &destroy != std::end(ways) - 1;
         Failing dialog(401, &parent);
         dialog.onAct = [](Failing& d) { d.DestroyWindow(); };
         ui_test::when_dialog(L"plain", destroy);
         const Watchdog watchdog;
         EXPECT_EQ(dialog.DoModal(), -1);
+        EXPECT_EQ(dialog.endings, seen ? std::vector<int>{-1} : std::vector<int>());
         expect_clean(dialog);
     }
     other.join();
