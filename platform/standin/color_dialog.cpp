@@ -2,6 +2,7 @@
 
 #include <wchar.h>
 
+#include "dialog_items.h"
 #include "resource.h"
 
 namespace {
@@ -32,7 +33,13 @@ CStandinColorDialog::CStandinColorDialog(ColorDialogSettings& settings, CWnd* pa
     : CDialog(IDD_COLOR, parent), m_settings(settings), m_color(settings.color) {}
 
 BOOL CStandinColorDialog::OnInitDialog() {
-    CDialog::OnInitDialog();
+    const bool isWhole = HasDialogItems(
+        *this, {IDC_COLOR_PALETTE, IDC_COLOR_SAMPLE, IDC_COLOR_BYLAYER, IDC_COLOR_BYBLOCK, IDC_COLOR_INDEX,
+                IDC_COLOR_RGB_LABEL, IDC_COLOR_RED, IDC_COLOR_GREEN, IDC_COLOR_BLUE});
+    if (!CDialog::OnInitDialog() || !isWhole) {
+        EndDialog(-1);
+        return FALSE;
+    }
     GetDlgItem(IDC_COLOR_BYLAYER)->EnableWindow(m_settings.allowMeta);
     GetDlgItem(IDC_COLOR_BYBLOCK)->EnableWindow(m_settings.allowMeta);
     if (!m_settings.allowTrueColor) {

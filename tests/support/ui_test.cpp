@@ -11,6 +11,12 @@ namespace {
 class TestApplication : public CWinApp {
 public:
     TestApplication() : CWinApp(L"ui_test") {}
+    std::function<void(int, const MSG&)> filter;
+
+    BOOL ProcessMessageFilter(int code, LPMSG message) override {
+        if (filter) filter(code, *message);
+        return CWinApp::ProcessMessageFilter(code, message);
+    }
 };
 
 TestApplication application;
@@ -114,6 +120,8 @@ bool move_cursor(POINT screen) {
     }
     return false;
 }
+
+void on_message_filter(std::function<void(int, const MSG&)> seen) { application.filter = std::move(seen); }
 
 CString text_of(HWND window) {
     wchar_t text[1024] = {};

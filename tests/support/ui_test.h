@@ -30,6 +30,9 @@ void when_dialog(const wchar_t* title, std::function<void(HWND)> action);
 /// Puts the cursor at a screen position and waits until the system says that it is there.
 bool move_cursor(POINT screen);
 
+/// Calls `seen` with what CWinThread::ProcessMessageFilter of the application gets; null ends it.
+void on_message_filter(std::function<void(int code, const MSG& message)> seen);
+
 /// Text of a window.
 CString text_of(HWND window);
 

@@ -11,7 +11,7 @@ BOOL CComboBoxEx::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWn
 }
 
 CImageList* CComboBoxEx::SetImageList(CImageList* pImageList) {
-    const auto list = reinterpret_cast<LPARAM>(pImageList->GetSafeHandle());
+    const auto list = reinterpret_cast<LPARAM>(kmfc::safe_handle(pImageList));
     return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(CBEM_SETIMAGELIST, 0, list)));
 }
 

@@ -11,7 +11,7 @@ BOOL CHeaderCtrl::GetOrderArray(LPINT piArray, int iCount) {
 }
 
 CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList) {
-    const auto list = reinterpret_cast<LPARAM>(pImageList->GetSafeHandle());
+    const auto list = reinterpret_cast<LPARAM>(kmfc::safe_handle(pImageList));
     return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(HDM_SETIMAGELIST, 0, list)));
 }
 

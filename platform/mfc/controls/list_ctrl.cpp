@@ -17,7 +17,7 @@ CImageList* CListCtrl::GetImageList(int nImageList) const {
 
 CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
     const LRESULT list =
-        SendMessage(LVM_SETIMAGELIST, as_index(nImageListType), as_param(pImageList->GetSafeHandle()));
+        SendMessage(LVM_SETIMAGELIST, as_index(nImageListType), as_param(kmfc::safe_handle(pImageList)));
     return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(list));
 }
 
@@ -109,7 +109,8 @@ CToolTipCtrl* CListCtrl::GetToolTips() const {
 }
 
 CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
-    const LRESULT previous = SendMessage(LVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(pWndTip->GetSafeHwnd()));
+    const LRESULT previous =
+        SendMessage(LVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndTip)));
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(previous)));
 }
 

@@ -15,7 +15,7 @@ BOOL CSpinButtonCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, 
 }
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy) {
-    return window_of(SendMessage(UDM_SETBUDDY, reinterpret_cast<WPARAM>(pWndBuddy->GetSafeHwnd())));
+    return window_of(SendMessage(UDM_SETBUDDY, reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndBuddy))));
 }
 
 CWnd* CSpinButtonCtrl::GetBuddy() const { return window_of(SendMessage(UDM_GETBUDDY)); }
@@ -29,7 +29,7 @@ CWnd* CSliderCtrl::GetBuddy(BOOL fLocation) const {
 }
 
 CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation) {
-    const auto buddy = reinterpret_cast<LPARAM>(pWndBuddy->GetSafeHwnd());
+    const auto buddy = reinterpret_cast<LPARAM>(kmfc::safe_handle(pWndBuddy));
     return window_of(SendMessage(TBM_SETBUDDY, static_cast<WPARAM>(fLocation), buddy));
 }
 

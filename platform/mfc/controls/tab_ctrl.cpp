@@ -15,7 +15,7 @@ CImageList* CTabCtrl::GetImageList() const {
 }
 
 CImageList* CTabCtrl::SetImageList(CImageList* pImageList) {
-    const auto list = reinterpret_cast<LPARAM>(pImageList->GetSafeHandle());
+    const auto list = reinterpret_cast<LPARAM>(kmfc::safe_handle(pImageList));
     return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(TCM_SETIMAGELIST, 0, list)));
 }
 
@@ -43,7 +43,7 @@ CToolTipCtrl* CTabCtrl::GetToolTips() const {
 }
 
 void CTabCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
-    SendMessage(TCM_SETTOOLTIPS, reinterpret_cast<WPARAM>(pWndTip->GetSafeHwnd()));
+    SendMessage(TCM_SETTOOLTIPS, reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndTip)));
 }
 
 int CTabCtrl::InsertItem(int nItem, LPCTSTR lpszItem, int nImage) {

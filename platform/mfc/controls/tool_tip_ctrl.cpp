@@ -21,11 +21,11 @@ void CToolTipCtrl::fill_tool(TOOLINFO& tool, CWnd* window, UINT_PTR id) {
     tool = {};
     tool.cbSize = sizeof tool;
     if (id == 0) {
-        tool.hwnd = ::GetParent(window->GetSafeHwnd());
+        tool.hwnd = ::GetParent(kmfc::safe_handle(window));
         tool.uFlags = TTF_IDISHWND;
-        tool.uId = reinterpret_cast<UINT_PTR>(window->GetSafeHwnd());
+        tool.uId = reinterpret_cast<UINT_PTR>(kmfc::safe_handle(window));
     } else {
-        tool.hwnd = window->GetSafeHwnd();
+        tool.hwnd = kmfc::safe_handle(window);
         tool.uId = id;
     }
 }
@@ -34,7 +34,7 @@ BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) { return CreateEx(pPa
 
 BOOL CToolTipCtrl::CreateEx(CWnd* pParent, DWORD dwStyle, DWORD dwStyleEx) {
     return CWnd::CreateEx(dwStyleEx, TOOLTIPS_CLASSW, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT,
-                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, pParent->GetSafeHwnd(), nullptr,
+                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, kmfc::safe_handle(pParent), nullptr,
                           nullptr);
 }
 
@@ -92,7 +92,7 @@ BOOL CToolTipCtrl::GetToolInfo(TOOLINFO& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool)
 
 BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const {
     TTHITTESTINFOW info = {};
-    info.hwnd = pWnd->GetSafeHwnd();
+    info.hwnd = kmfc::safe_handle(pWnd);
     info.pt = pt;
     info.ti.cbSize = sizeof info.ti;
     if (!send(TTM_HITTESTW, 0, &info)) return FALSE;

@@ -34,7 +34,7 @@ CImageList* CTreeCtrl::GetImageList(UINT nImageList) const {
 
 CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
     return image_list_of(SendMessage(TVM_SETIMAGELIST, static_cast<WPARAM>(nImageListType),
-                                     as_param(pImageList->GetSafeHandle())));
+                                     as_param(kmfc::safe_handle(pImageList))));
 }
 
 CToolTipCtrl* CTreeCtrl::GetToolTips() const {
@@ -42,7 +42,7 @@ CToolTipCtrl* CTreeCtrl::GetToolTips() const {
 }
 
 CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
-    const auto tip = reinterpret_cast<WPARAM>(pWndTip->GetSafeHwnd());
+    const auto tip = reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndTip));
     return static_cast<CToolTipCtrl*>(window_of(SendMessage(TVM_SETTOOLTIPS, tip)));
 }
 

@@ -26,16 +26,12 @@ CDC::~CDC() {
     if (m_hDC) ::DeleteDC(Detach());
 }
 
-HDC CDC::GetSafeHdc() const {
-    const volatile void* self = this;
-    return self ? m_hDC : nullptr;
-}
-
 CDC* PASCAL CDC::FromHandle(HDC hDC) { return gdi_maps().dcs.FromHandle(hDC); }
 void PASCAL CDC::DeleteTempMap() { gdi_maps().dcs.DeleteTemp(); }
 
 BOOL CDC::Attach(HDC hDC) {
     if (!hDC) return FALSE;
+    if (m_hDC != hDC) Detach();
     m_hDC = hDC;
     gdi_maps().dcs.SetPermanent(hDC, this);
     SetAttribDC(hDC);
@@ -44,14 +40,14 @@ BOOL CDC::Attach(HDC hDC) {
 
 HDC CDC::Detach() {
     HDC dc = m_hDC;
-    if (dc) gdi_maps().dcs.RemoveHandle(dc);
+    if (dc) gdi_maps().dcs.RemoveHandle(dc, this);
     CDC::ReleaseAttribDC();
     m_hDC = nullptr;
     return dc;
 }
 
 void CDC::SetOutputDC(HDC hDC) {
-    if (m_hDC) gdi_maps().dcs.RemoveHandle(m_hDC);
+    if (m_hDC) gdi_maps().dcs.RemoveHandle(m_hDC, this);
     m_hDC = hDC;
     if (hDC) gdi_maps().dcs.SetPermanent(hDC, this);
 }
@@ -285,7 +281,7 @@ int CDC::ExcludeClipRect(int x1, int y1, int x2, int y2) {
     return on_both([=](HDC dc) { return ::ExcludeClipRect(dc, x1, y1, x2, y2); });
 }
 
-int CDC::ExcludeUpdateRgn(CWnd* pWnd) { return ::ExcludeUpdateRgn(m_hDC, pWnd->GetSafeHwnd()); }
+int CDC::ExcludeUpdateRgn(CWnd* pWnd) { return ::ExcludeUpdateRgn(m_hDC, kmfc::safe_handle(pWnd)); }
 
 int CDC::IntersectClipRect(int x1, int y1, int x2, int y2) {
     return on_both([=](HDC dc) { return ::IntersectClipRect(dc, x1, y1, x2, y2); });

@@ -25,13 +25,28 @@ struct GdiMaps {
     CHandleMap<CRgn> regions;
 
     void delete_temporary_objects() {
-        objects.DeleteTemp();
-        pens.DeleteTemp();
-        brushes.DeleteTemp();
-        fonts.DeleteTemp();
-        bitmaps.DeleteTemp();
-        palettes.DeleteTemp();
-        regions.DeleteTemp();
+        for_each_object_map([](auto& map) { map.DeleteTemp(); });
+    }
+
+    /// Calls `action` with each map.
+    template <class Action>
+    void for_each(Action action) {
+        action(dcs);
+        action(menus);
+        action(image_lists);
+        for_each_object_map(action);
+    }
+
+private:
+    template <class Action>
+    void for_each_object_map(Action action) {
+        action(objects);
+        action(pens);
+        action(brushes);
+        action(fonts);
+        action(bitmaps);
+        action(palettes);
+        action(regions);
     }
 };
 

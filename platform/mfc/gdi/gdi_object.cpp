@@ -20,11 +20,6 @@ kmfc::GdiMaps& kmfc::gdi_maps() { return thread_state().m_gdi; }
 
 CGdiObject::~CGdiObject() { DeleteObject(); }
 
-HGDIOBJ CGdiObject::GetSafeHandle() const {
-    const volatile void* self = this;
-    return self ? m_hObject : nullptr;
-}
-
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
     if (!hObject) return nullptr;
     kmfc::GdiMaps& maps = gdi_maps();
@@ -45,6 +40,7 @@ void PASCAL CGdiObject::DeleteTempMap() { gdi_maps().delete_temporary_objects();
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
     if (!hObject) return FALSE;
+    if (m_hObject != hObject) Detach();
     m_hObject = hObject;
     gdi_maps().objects.SetPermanent(hObject, this);
     return TRUE;
@@ -52,7 +48,7 @@ BOOL CGdiObject::Attach(HGDIOBJ hObject) {
 
 HGDIOBJ CGdiObject::Detach() {
     HGDIOBJ object = m_hObject;
-    if (object) gdi_maps().objects.RemoveHandle(object);
+    if (object) gdi_maps().objects.RemoveHandle(object, this);
     m_hObject = nullptr;
     return object;
 }

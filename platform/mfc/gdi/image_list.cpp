@@ -10,11 +10,6 @@ using kmfc::gdi_maps;
 
 CImageList::~CImageList() { DeleteImageList(); }
 
-HIMAGELIST CImageList::GetSafeHandle() const {
-    const volatile void* self = this;
-    return self ? m_hImageList : nullptr;
-}
-
 CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList) {
     return gdi_maps().image_lists.FromHandle(hImageList);
 }
@@ -27,6 +22,7 @@ void PASCAL CImageList::DeleteTempMap() { gdi_maps().image_lists.DeleteTemp(); }
 
 BOOL CImageList::Attach(HIMAGELIST hImageList) {
     if (!hImageList) return FALSE;
+    if (m_hImageList != hImageList) Detach();
     m_hImageList = hImageList;
     gdi_maps().image_lists.SetPermanent(hImageList, this);
     return TRUE;
@@ -34,7 +30,7 @@ BOOL CImageList::Attach(HIMAGELIST hImageList) {
 
 HIMAGELIST CImageList::Detach() {
     HIMAGELIST list = m_hImageList;
-    if (list) gdi_maps().image_lists.RemoveHandle(list);
+    if (list) gdi_maps().image_lists.RemoveHandle(list, this);
     m_hImageList = nullptr;
     return list;
 }
@@ -69,7 +65,9 @@ BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* pimldp) {
 }
 
 BOOL PASCAL CImageList::DragEnter(CWnd* pWndLock, CPoint point) {
-    return ::ImageList_DragEnter(pWndLock->GetSafeHwnd(), point.x, point.y);
+    return ::ImageList_DragEnter(kmfc::safe_handle(pWndLock), point.x, point.y);
 }
 
-BOOL PASCAL CImageList::DragLeave(CWnd* pWndLock) { return ::ImageList_DragLeave(pWndLock->GetSafeHwnd()); }
+BOOL PASCAL CImageList::DragLeave(CWnd* pWndLock) {
+    return ::ImageList_DragLeave(kmfc::safe_handle(pWndLock));
+}

@@ -19,11 +19,6 @@ HBITMAP handle_of(const CBitmap* bitmap) { return bitmap ? static_cast<HBITMAP>(
 
 CMenu::~CMenu() { DestroyMenu(); }
 
-HMENU CMenu::GetSafeHmenu() const {
-    const volatile void* self = this;
-    return self ? m_hMenu : nullptr;
-}
-
 CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) { return gdi_maps().menus.FromHandle(hMenu); }
 CMenu* PASCAL CMenu::FromHandlePermanent(HMENU hMenu) { return gdi_maps().menus.LookupPermanent(hMenu); }
 void PASCAL CMenu::DeleteTempMap() { gdi_maps().menus.DeleteTemp(); }
@@ -39,6 +34,7 @@ BOOL CMenu::DestroyMenu() {
 
 BOOL CMenu::Attach(HMENU hMenu) {
     if (!hMenu) return FALSE;
+    if (m_hMenu != hMenu) Detach();
     m_hMenu = hMenu;
     gdi_maps().menus.SetPermanent(hMenu, this);
     return TRUE;
@@ -46,17 +42,17 @@ BOOL CMenu::Attach(HMENU hMenu) {
 
 HMENU CMenu::Detach() {
     HMENU menu = m_hMenu;
-    if (menu) gdi_maps().menus.RemoveHandle(menu);
+    if (menu) gdi_maps().menus.RemoveHandle(menu, this);
     m_hMenu = nullptr;
     return menu;
 }
 
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect) {
-    return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, pWnd->GetSafeHwnd(), lpRect);
+    return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, kmfc::safe_handle(pWnd), lpRect);
 }
 
 BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm) {
-    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, pWnd->GetSafeHwnd(), lptpm);
+    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, kmfc::safe_handle(pWnd), lptpm);
 }
 
 BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp) {

@@ -74,9 +74,11 @@ LPCTSTR AfxGetAppName() {
 BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
     AFX_MODULE_STATE* state = AfxGetModuleState();
     state->m_hCurrentInstanceHandle = hInstance;
+    kmfc::install_message_filter();
     if (state->m_hCurrentResourceHandle == nullptr) state->m_hCurrentResourceHandle = hInstance;
     CWinApp* app = AfxGetApp();
     if (app == nullptr) return TRUE;
+    kmfc::thread_state().m_pCurrentWinThread = app;
     app->m_hInstance = hInstance;
     app->m_strCmdLine = lpCmdLine != nullptr ? lpCmdLine : L"";
     app->m_lpCmdLine = const_cast<LPTSTR>(app->m_strCmdLine.GetString());

@@ -1,4 +1,6 @@
 // CDialog: modal and modeless dialog boxes.
+#include <exception>
+
 #include <kmfc/dialog.h>
 
 #include "thread_state.h"
@@ -52,15 +54,31 @@ CDialog::~CDialog() {
 INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM, LPARAM) {
     if (message != WM_INITDIALOG) return 0;
     auto* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hWnd));
-    return dialog != nullptr ? dialog->OnInitDialog() : 1;
+    if (dialog == nullptr) return 1;
+    try {
+        return dialog->OnInitDialog();
+    } catch (...) {
+        // The system's dialog procedure is in between.
+        kmfc::carry_exception();
+        return 0;
+    }
 }
 
 BOOL CWnd::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
+    const bool modal = (m_nFlags & WF_CONTINUEMODAL) != 0;
+    m_nFlags &= ~WF_NEVERSHOWN;
     AfxHookWindowCreate(this);
     HWND hWnd =
-        ::CreateDialogIndirectParamW(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDlgProc, 0);
-    if (!AfxUnhookWindowCreate() && !(m_nFlags & WF_CONTINUEMODAL)) PostNcDestroy();
-    return hWnd != nullptr;
+        ::CreateDialogIndirectParamW(hInst, lpDialogTemplate, kmfc::safe_handle(pParentWnd), AfxDlgProc, 0);
+    const DWORD error = ::GetLastError();
+    if (!AfxUnhookWindowCreate() && !modal) PostNcDestroy();
+    if (hWnd == nullptr) ::SetLastError(error);
+    // The handler of WM_INITDIALOG may have destroyed the window, and its object with it.
+    if (hWnd == nullptr || FromHandlePermanent(hWnd) != this) return FALSE;
+    // A modal dialog's owner is enabled before its window goes; DoModal sees to both.
+    if (modal || !(m_nFlags & WF_NEVERSHOWN)) return TRUE;
+    DestroyWindow();
+    return FALSE;
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
@@ -109,7 +127,7 @@ HWND CDialog::PreModal() {
     CWinApp* app = AfxGetApp();
     if (app != nullptr) app->EnableModeless(FALSE);
     CWnd* owner = CWnd::GetSafeOwner(m_pParentWnd, &m_hWndTop);
-    return owner->GetSafeHwnd();
+    return kmfc::safe_handle(owner);
 }
 
 void CDialog::PostModal() {
@@ -137,25 +155,34 @@ INT_PTR CDialog::DoModal() {
     if (enableParent) ::EnableWindow(parent, FALSE);
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;
+    std::exception_ptr failure;
     try {
-        if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(parent), module))
-            RunCreated(parent, enableParent);
+        if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(parent), module)) RunCreated();
     } catch (CException* e) {
         e->Delete();
-        m_nModalResult = -1;
+        m_nModalResult = IDABORT;
+    } catch (...) {
+        failure = std::current_exception();
     }
+    EndModal(parent, enableParent);
+    if (failure) std::rethrow_exception(failure);
+    return m_nModalResult;
+}
+
+void CDialog::EndModal(HWND parent, bool enableParent) {
     m_nFlags &= ~WF_CONTINUEMODAL;
     // The parent is enabled before the dialog goes, or the activation would go to another application.
     if (enableParent) ::EnableWindow(parent, TRUE);
-    if (parent != nullptr && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(parent);
+    const HWND active = ::GetActiveWindow();
+    // Without a window of its own active the thread has just lost one that was destroyed by others.
+    if (parent != nullptr && (active == nullptr || active == m_hWnd)) ::SetActiveWindow(parent);
     DestroyWindow();
     // EndDialog enables the owner even if it was disabled before the dialog came.
     if (parent != nullptr && !enableParent && parent != ::GetDesktopWindow()) ::EnableWindow(parent, FALSE);
     PostModal();
-    return m_nModalResult;
 }
 
-int CDialog::RunCreated(HWND, BOOL) {
+void CDialog::RunCreated() {
     if (m_nFlags & WF_CONTINUEMODAL) {
         DWORD flags = MLF_SHOWONIDLE;
         if (GetStyle() & DS_NOIDLEMSG) flags |= MLF_NOIDLEMSG;
@@ -164,10 +191,11 @@ int CDialog::RunCreated(HWND, BOOL) {
     if (m_hWnd != nullptr)
         SetWindowPos(nullptr, 0, 0, 0, 0,
                      SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    return m_nModalResult;
 }
 
 void CDialog::EndDialog(int nResult) {
+    // A modal dialog that ends before its loop begins is not shown.
+    if ((m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) == WF_CONTINUEMODAL) m_nFlags |= WF_NEVERSHOWN;
     if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) EndModalLoop(nResult);
     if (m_hWnd != nullptr) ::EndDialog(m_hWnd, nResult);
 }
@@ -199,7 +227,9 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
         EndDialog(-1);
         return FALSE;
     }
-    return Default();
+    const LRESULT result = Default();
+    kmfc::throw_carried();
+    return result;
 }
 
 LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {

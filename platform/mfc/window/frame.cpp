@@ -45,7 +45,8 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     }
     m_strTitle = lpszWindowName;
     if (CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                 rect.right - rect.left, rect.bottom - rect.top, pParentWnd->GetSafeHwnd(), menu, pContext))
+                 rect.right - rect.left, rect.bottom - rect.top, kmfc::safe_handle(pParentWnd), menu,
+                 pContext))
         return TRUE;
     if (menu != nullptr) ::DestroyMenu(menu);
     return FALSE;

@@ -16,7 +16,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
         else if (buttons == MB_YESNO || buttons == MB_YESNOCANCEL)
             type |= MB_ICONQUESTION;
     }
-    const int result = ::MessageBoxW(owner->GetSafeHwnd(), lpszPrompt, AfxGetAppName(), type);
+    const int result = ::MessageBoxW(kmfc::safe_handle(owner), lpszPrompt, AfxGetAppName(), type);
     if (disabledTop != nullptr) ::EnableWindow(disabledTop, TRUE);
     EnableModeless(TRUE);
     return result;

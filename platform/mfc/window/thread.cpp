@@ -26,6 +26,7 @@ struct AfxThreadStart {
         CWinThread* thread = start->thread;
         HANDLE released = start->released;
         thread_state().m_pCurrentWinThread = thread;
+        kmfc::install_message_filter();
         // The queue is made here, so that a message posted at once is not lost.
         MSG message;
         ::PeekMessageW(&message, nullptr, WM_USER, WM_USER, PM_NOREMOVE);
@@ -95,13 +96,14 @@ BOOL CWinThread::PumpMessage() {
         ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
     }
+    kmfc::throw_carried();
     return TRUE;
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->hwnd == nullptr && DispatchThreadMessageEx(pMsg)) return TRUE;
     CWnd* main = GetMainWnd();
-    HWND stop = main->GetSafeHwnd();
+    HWND stop = kmfc::safe_handle(main);
     if (CWnd::WalkPreTranslateTree(stop, pMsg)) return TRUE;
     // A modeless window beside the main window lets the main window's accelerators work too.
     if (main == nullptr || pMsg->hwnd == nullptr) return FALSE;
@@ -167,10 +169,7 @@ void CWinThread::Delete() {
     if (m_bAutoDelete) delete this;
 }
 
-CWinThread* AfxGetThread() {
-    CWinThread* thread = thread_state().m_pCurrentWinThread;
-    return thread != nullptr ? thread : AfxGetApp();
-}
+CWinThread* AfxGetThread() { return thread_state().m_pCurrentWinThread; }
 
 CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority, UINT nStackSize,
                            DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
@@ -198,6 +197,7 @@ BOOL AfxPumpMessage() {
         ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
     }
+    kmfc::throw_carried();
     return TRUE;
 }
 

@@ -2,6 +2,7 @@
 // Internal to the class layer.
 #pragma once
 
+#include <exception>
 #include <memory>
 
 #include <afxwin.h>
@@ -52,10 +53,32 @@ struct ThreadState {
     INT_PTR m_nToolTipHit = -1;      ///< id of the tool under the pointer, -1 without one
     TOOLINFO m_toolTipInfo = {};     ///< that tool as registered with the control
 
-    UINT m_cModalLoops = 0;  ///< modal loops on the stack
+    UINT m_cModalLoops = 0;                ///< modal loops on the stack
+    HHOOK m_hHookMessageFilter = nullptr;  ///< see install_message_filter
+    std::exception_ptr m_carried;          ///< see carry_exception
+
+    /// Calls `action` with each handle map.
+    template <class Action>
+    void for_each_map(Action action) {
+        action(m_windows);
+        m_gdi.for_each(action);
+    }
 };
 
 /// The calling thread's state; never null.
 ThreadState& thread_state();
+
+// An exception must not cross the system's code between a window procedure and the call that led to it: the
+// system may swallow it, or end the program. So it is kept at the window procedure, and thrown again where
+// the class layer has control: by the message pump, and by what creates dialogs.
+
+/// Keeps the exception in hand for throw_carried, unless one is kept already. Wakes the pump. To be called in
+/// a catch clause.
+void carry_exception();
+/// Throws the exception that is kept, if any.
+void throw_carried();
+
+/// From here on the thread's CWinThread::ProcessMessageFilter sees the messages of the system's own loops.
+void install_message_filter();
 
 }  // namespace kmfc

@@ -35,7 +35,11 @@ CWnd::CWnd(HWND hWnd) : m_hWnd(hWnd) {}
 CWnd::~CWnd() {
     const bool isPlacementMark =
         this == &wndTop || this == &wndBottom || this == &wndTopMost || this == &wndNoTopMost;
-    if (m_hWnd != nullptr && !isPlacementMark && FromHandlePermanent(m_hWnd) == this) DestroyWindow();
+    if (m_hWnd != nullptr && !isPlacementMark && FromHandlePermanent(m_hWnd) == this) {
+        DestroyWindow();
+        // A window that is gone already, or of another thread, can't be destroyed from here.
+        if (m_hWnd != nullptr) Detach();
+    }
 }
 
 CWnd* CWnd::FromHandle(HWND hWnd) { return thread_state().m_windows.FromHandle(hWnd); }
@@ -44,6 +48,11 @@ void CWnd::DeleteTempMap() { thread_state().m_windows.DeleteTemp(); }
 
 BOOL CWnd::Attach(HWND hWndNew) {
     if (hWndNew == nullptr) return FALSE;
+    if (CWnd* present = FromHandlePermanent(hWndNew)) return present == this;
+    if (m_hWnd != nullptr) {
+        if (::IsWindow(m_hWnd)) return FALSE;
+        Detach();  // Its window went without telling.
+    }
     thread_state().m_windows.SetPermanent(hWndNew, this);
     m_hWnd = hWndNew;
     return TRUE;
@@ -57,7 +66,7 @@ HWND CWnd::Detach() {
 }
 
 void CWnd::DetachFromMap() {
-    if (m_hWnd != nullptr) thread_state().m_windows.RemoveHandle(m_hWnd);
+    if (m_hWnd != nullptr) thread_state().m_windows.RemoveHandle(m_hWnd, this);
 }
 
 void CWnd::PreSubclassWindow() {}
@@ -73,7 +82,7 @@ BOOL CWnd::SubclassWindow(HWND hWnd) {
 }
 
 BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
-    HWND control = ::GetDlgItem(pParent->GetSafeHwnd(), static_cast<int>(nID));
+    HWND control = ::GetDlgItem(kmfc::safe_handle(pParent), static_cast<int>(nID));
     return control != nullptr && SubclassWindow(control);
 }
 
@@ -99,7 +108,7 @@ BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                     const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                    rect.right - rect.left, rect.bottom - rect.top, pParentWnd->GetSafeHwnd(),
+                    rect.right - rect.left, rect.bottom - rect.top, kmfc::safe_handle(pParentWnd),
                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
 }
 
@@ -126,16 +135,23 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
     HWND hWnd =
         ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x, cs.y,
                           cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
+    const DWORD error = ::GetLastError();
     if (!AfxUnhookWindowCreate()) PostNcDestroy();
+    if (hWnd == nullptr) ::SetLastError(error);
     return hWnd != nullptr;
 }
 
 BOOL CWnd::DestroyWindow() {
     if (m_hWnd == nullptr) return FALSE;
-    const bool permanent = FromHandlePermanent(m_hWnd) != nullptr;
-    const BOOL result = ::DestroyWindow(m_hWnd);
-    // A window that is no longer subclassed never sees WM_NCDESTROY here.
-    if (!permanent) m_hWnd = nullptr;
+    const HWND hWnd = m_hWnd;
+    const bool permanent = FromHandlePermanent(hWnd) != nullptr;
+    const BOOL result = ::DestroyWindow(hWnd);
+    // A window that is not subclassed never sees WM_NCDESTROY here. One that does may have deleted the
+    // object.
+    if (!permanent)
+        m_hWnd = nullptr;
+    else if (result && FromHandlePermanent(hWnd) == this)
+        Detach();
     return result;
 }
 
@@ -148,6 +164,7 @@ void CWnd::OnNcDestroy() {
         if (thread->m_pActiveWnd == this) thread->m_pActiveWnd = nullptr;
     }
     if (m_nFlags & (WF_TOOLTIPS | WF_TRACKINGTOOLTIPS)) EnableToolTips(FALSE);
+    if (m_nFlags & WF_CONTINUEMODAL) EndDestroyedModalLoop();
 
     const auto before = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(m_hWnd, GWLP_WNDPROC));
     Default();

@@ -2,6 +2,7 @@
 #include <map>
 #include <mutex>
 #include <string>
+#include <utility>
 
 #include <kmfc/app.h>
 
@@ -17,23 +18,38 @@ bool is_input_method_window(HWND hWnd) {
     return ::lstrcmpiW(name, L"IME") == 0;
 }
 
-/// Makes the new window the one that waits for its handle.
-void adopt(HWND hWnd) {
-    kmfc::ThreadState& state = thread_state();
-    CWnd* wnd = state.m_pWndInit;
-    state.m_pWndInit = nullptr;
-    wnd->Attach(hWnd);
+/// Makes the new window the one that waits for its handle; false when that has one already.
+bool adopt(CWnd* wnd, HWND hWnd) {
+    // The handle of a window that went without telling may come again.
+    if (CWnd* former = CWnd::FromHandlePermanent(hWnd)) former->Detach();
+    if (!wnd->Attach(hWnd)) return false;
     wnd->PreSubclassWindow();
     WNDPROC* super = wnd->GetSuperWndProcAddr();
     auto previous = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
     if (previous != AfxWndProc) *super = previous;
+    return true;
+}
+
+/// The same for a hook, which no exception may leave: false as well when one came.
+bool adopt_safely(HWND hWnd) {
+    CWnd* wnd = std::exchange(thread_state().m_pWndInit, nullptr);
+    try {
+        return adopt(wnd, hWnd);
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) {
+    }
+    if (wnd->m_hWnd == hWnd) wnd->Detach();
+    return false;
 }
 
 LRESULT CALLBACK creation_hook(int code, WPARAM wParam, LPARAM lParam) {
+    constexpr LRESULT kRefused = 1;  // the window is not created
     HWND hWnd = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && thread_state().m_pWndInit != nullptr && !is_input_method_window(hWnd))
-        adopt(hWnd);
+    const bool awaited =
+        code == HCBT_CREATEWND && thread_state().m_pWndInit != nullptr && !is_input_method_window(hWnd);
+    if (awaited && !adopt_safely(hWnd)) return kRefused;
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 

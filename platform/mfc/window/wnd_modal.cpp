@@ -1,4 +1,6 @@
 // The modal loop, and the translation of messages before they are dispatched.
+#include <utility>
+
 #include <kmfc/dialog.h>
 
 #include "thread_state.h"
@@ -44,35 +46,78 @@ private:
     LPARAM m_count = 0;
 };
 
+/// What holds while a modal loop is on the stack, however it is left.
+class ModalLoop {
+public:
+    explicit ModalLoop(CWnd* wnd)
+        : m_wnd(wnd), m_state(thread_state()), m_carried(std::exchange(m_state.m_carried, nullptr)) {
+        m_wnd->m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
+        ++m_state.m_cModalLoops;
+        m_state.for_each_map([](auto& map) { map.BeginScope(); });
+    }
+    ~ModalLoop() {
+        m_state.for_each_map([](auto& map) { map.EndScope(); });
+        --m_state.m_cModalLoops;
+        m_wnd->m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
+        if (m_carried) m_state.m_carried = m_carried;
+    }
+    ModalLoop(const ModalLoop&) = delete;
+    ModalLoop& operator=(const ModalLoop&) = delete;
+
+    /// Nobody inside the loop uses its temporary objects while it is idle.
+    void EndTemporaryObjects() {
+        m_state.for_each_map([](auto& map) { map.DeleteTemp(); });
+    }
+
+private:
+    CWnd* m_wnd;
+    kmfc::ThreadState& m_state;
+    std::exception_ptr m_carried;  // from outside, for the pump outside
+};
+
 }  // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
-    kmfc::ThreadState& state = thread_state();
+    const MSG& current = thread_state().m_msgCur;
     ModalIdle idle(this, dwFlags);
-    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
-    ++state.m_cModalLoops;
+    ModalLoop loop(this);
     MSG waiting;
     bool moreIdle = true;
-    while (ContinueModal()) {
-        while (moreIdle && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+    while (GoesOnModally()) {
+        while (moreIdle && GoesOnModally() && !::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE)) {
             moreIdle = idle.Step() != FALSE;
+            loop.EndTemporaryObjects();
+        }
+        if (!GoesOnModally()) break;
         if (!AfxPumpMessage()) {
             // The application is quitting: hand the request on to the loop outside.
-            AfxPostQuitMessage(static_cast<int>(state.m_msgCur.wParam));
+            AfxPostQuitMessage(static_cast<int>(current.wParam));
             m_nModalResult = -1;
             break;
         }
-        const UINT message = state.m_msgCur.message;
-        if (message == kSystemTimer || message == WM_SYSKEYDOWN) idle.Show();
+        if (current.message == kSystemTimer || current.message == WM_SYSKEYDOWN) idle.Show();
         CWinThread* thread = AfxGetThread();
-        if (thread != nullptr && thread->IsIdleMessage(&state.m_msgCur)) {
+        if (thread == nullptr || thread->IsIdleMessage(const_cast<MSG*>(&current))) {
             moreIdle = true;
             idle.Restart();
         }
     }
-    --state.m_cModalLoops;
-    m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
     return m_nModalResult;
+}
+
+/// Whether the loop goes on; it ends with its window, even if that went without telling.
+bool CWnd::GoesOnModally() {
+    if (!ContinueModal()) return false;
+    if (::IsWindow(m_hWnd)) return true;
+    m_nModalResult = -1;
+    return false;
+}
+
+void CWnd::EndDestroyedModalLoop() {
+    EndModalLoop(-1);
+    m_nFlags &= ~WF_CONTINUEMODAL;
+    // What EndModalLoop posts goes with the window.
+    ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 BOOL CWnd::ContinueModal() { return (m_nFlags & WF_CONTINUEMODAL) != 0; }

@@ -1,4 +1,6 @@
 // The way of a message: window procedure, message maps, default processing, reflection to the control.
+#include <utility>
+
 #include <kmfc/app.h>
 #include <kmfc/frame.h>
 
@@ -23,12 +25,20 @@ public:
     LastMessage(const LastMessage&) = delete;
     LastMessage& operator=(const LastMessage&) = delete;
 
+    /// The answer to the message after an exception.
     LRESULT Report(CException* e) {
-        LRESULT result = 0;
-        if (CWinThread* thread = AfxGetThread())
-            result = thread->ProcessWndProcException(e, &m_state.m_lastSentMsg);
+        CWinThread* thread = AfxGetThread();
+        const LRESULT result =
+            thread != nullptr ? thread->ProcessWndProcException(e, &m_state.m_lastSentMsg) : Refuse();
         e->Delete();
         return result;
+    }
+    /// The answer that says that the message was not served.
+    LRESULT Refuse() const {
+        if (m_state.m_lastSentMsg.message == WM_CREATE) return -1;
+        // An area that stays invalid would be asked for again and again.
+        if (m_state.m_lastSentMsg.message == WM_PAINT) ::ValidateRect(m_state.m_lastSentMsg.hwnd, nullptr);
+        return 0;
     }
 
 private:
@@ -42,9 +52,9 @@ bool is_ctl_color(UINT message) { return message >= WM_CTLCOLORMSGBOX && message
 void announce_activation(CWnd* wnd, WPARAM wParam, CWnd* other) {
     if (wnd->GetStyle() & WS_CHILD) return;
     CWnd* top = wnd->GetTopLevelParent();
-    CWnd* otherTop = other->GetSafeHwnd() != nullptr ? other->GetTopLevelParent() : nullptr;
+    CWnd* otherTop = kmfc::safe_handle(other) != nullptr ? other->GetTopLevelParent() : nullptr;
     if (top == nullptr || top == otherTop) return;
-    const HWND windows[2] = {wnd->m_hWnd, other->GetSafeHwnd()};
+    const HWND windows[2] = {wnd->m_hWnd, kmfc::safe_handle(other)};
     top->SendMessage(WM_ACTIVATETOPLEVEL, wParam, reinterpret_cast<LPARAM>(windows));
 }
 
@@ -57,22 +67,78 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     return AfxCallWndProc(wnd, hWnd, nMsg, wParam, lParam);
 }
 
+namespace {
+
+/// Whether a failure of the message's handler makes the creation of its window fail.
+bool belongs_to_creation(UINT message) {
+    return message == WM_NCCREATE || message == WM_CREATE || message == WM_INITDIALOG;
+}
+
+/// Sets aside, for its lifetime, what is carried from outside.
+class OwnFailures {
+public:
+    OwnFailures() : m_outer(std::exchange(thread_state().m_carried, nullptr)) {}
+    ~OwnFailures() {
+        if (m_outer) thread_state().m_carried = m_outer;
+    }
+    OwnFailures(const OwnFailures&) = delete;
+    OwnFailures& operator=(const OwnFailures&) = delete;
+
+private:
+    std::exception_ptr m_outer;
+};
+
+}  // namespace
+
 LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     LastMessage last(hWnd, nMsg, wParam, lParam);
+    LRESULT result = 0;
     try {
-        CRect before;
-        const bool initialising = nMsg == WM_INITDIALOG;
-        if (initialising) ::GetWindowRect(hWnd, &before);
-        LRESULT result = pWnd->WindowProc(nMsg, wParam, lParam);
-        if (initialising && ::IsWindow(hWnd) &&
-            !(::GetWindowLongPtrW(hWnd, GWL_STYLE) & (WS_VISIBLE | WS_CHILD))) {
-            CRect after;
-            ::GetWindowRect(hWnd, &after);
-            if (before.TopLeft() == after.TopLeft() && pWnd->CheckAutoCenter()) pWnd->CenterWindow();
+        try {
+            return nMsg == WM_INITDIALOG ? pWnd->InitialiseDialog(wParam, lParam)
+                                         : pWnd->ServeMessage(nMsg, wParam, lParam);
+        } catch (CException* e) {
+            result = last.Report(e);
         }
-        return result;
-    } catch (CException* e) {
-        return last.Report(e);
+    } catch (...) {
+        if (!belongs_to_creation(nMsg)) kmfc::carry_exception();
+        result = last.Refuse();
+    }
+    // The object may have gone with its window.
+    if (CWnd::FromHandlePermanent(hWnd) == pWnd) pWnd->EndFailedMessage(nMsg);
+    return result;
+}
+
+LRESULT CWnd::ServeMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool hides = message == WM_WINDOWPOSCHANGING && (m_nFlags & WF_NEVERSHOWN);
+    const LRESULT result = WindowProc(message, wParam, lParam);
+    // A template with WS_VISIBLE makes the system show the dialog after WM_INITDIALOG in any case.
+    if (hides) reinterpret_cast<WINDOWPOS*>(lParam)->flags &= ~static_cast<UINT>(SWP_SHOWWINDOW);
+    return result;
+}
+
+LRESULT CWnd::InitialiseDialog(WPARAM wParam, LPARAM lParam) {
+    const OwnFailures own;
+    const HWND hWnd = m_hWnd;
+    CRect before, after;
+    ::GetWindowRect(hWnd, &before);
+    const LRESULT result = WindowProc(WM_INITDIALOG, wParam, lParam);
+    kmfc::throw_carried();
+    if (::IsWindow(hWnd) && !(::GetWindowLongPtrW(hWnd, GWL_STYLE) & (WS_VISIBLE | WS_CHILD))) {
+        ::GetWindowRect(hWnd, &after);
+        if (before.TopLeft() == after.TopLeft() && CheckAutoCenter()) CenterWindow();
+    }
+    return result;
+}
+
+void CWnd::EndFailedMessage(UINT message) {
+    if (message == WM_INITDIALOG) {
+        m_nFlags |= WF_NEVERSHOWN;
+        m_nFlags &= ~WF_CONTINUEMODAL;
+        m_nModalResult = -1;
+    } else if (message == WM_NCDESTROY) {
+        if (m_nFlags & WF_CONTINUEMODAL) EndDestroyedModalLoop();
+        Detach();
     }
 }
 
@@ -256,7 +322,7 @@ void CWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
 
 int CWnd::OnVKeyToItem(UINT, CListBox* pListBox, UINT) {
     LRESULT result = 0;
-    if (ReflectLastMsg(reinterpret_cast<CWnd*>(pListBox)->GetSafeHwnd(), &result))
+    if (ReflectLastMsg(kmfc::safe_handle(reinterpret_cast<CWnd*>(pListBox)), &result))
         return static_cast<int>(result);
     return static_cast<int>(Default());
 }

@@ -62,7 +62,7 @@ BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
 }
 
 void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
-    ::SendMessageW(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(pFont->GetSafeHandle()), bRedraw);
+    ::SendMessageW(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(kmfc::safe_handle(pFont)), bRedraw);
 }
 CFont* CWnd::GetFont() const {
     return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
@@ -95,10 +95,10 @@ CDC* CWnd::GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
 CDC* CWnd::GetWindowDC() { return CDC::FromHandle(::GetWindowDC(m_hWnd)); }
 int CWnd::ReleaseDC(CDC* pDC) { return ::ReleaseDC(m_hWnd, pDC->m_hDC); }
 BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags) {
-    return ::RedrawWindow(m_hWnd, lpRectUpdate, static_cast<HRGN>(prgnUpdate->GetSafeHandle()), flags);
+    return ::RedrawWindow(m_hWnd, lpRectUpdate, static_cast<HRGN>(kmfc::safe_handle(prgnUpdate)), flags);
 }
 void CWnd::Print(CDC* pDC, DWORD dwFlags) const {
-    ::SendMessageW(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()),
+    ::SendMessageW(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(kmfc::safe_handle(pDC)),
                    static_cast<LPARAM>(dwFlags));
 }
 
@@ -124,13 +124,13 @@ int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const {
 }
 
 CWnd* CWnd::GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious) const {
-    return FromHandle(::GetNextDlgGroupItem(m_hWnd, pWndCtl->GetSafeHwnd(), bPrevious));
+    return FromHandle(::GetNextDlgGroupItem(m_hWnd, kmfc::safe_handle(pWndCtl), bPrevious));
 }
 CWnd* CWnd::GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious) const {
-    return FromHandle(::GetNextDlgTabItem(m_hWnd, pWndCtl->GetSafeHwnd(), bPrevious));
+    return FromHandle(::GetNextDlgTabItem(m_hWnd, kmfc::safe_handle(pWndCtl), bPrevious));
 }
 void CWnd::GotoDlgCtrl(CWnd* pWndCtrl) {
-    ::SendMessageW(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), 1);
+    ::SendMessageW(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndCtrl)), 1);
 }
 
 CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const {
@@ -207,8 +207,8 @@ CFrameWnd* CWnd::GetTopLevelFrame() const {
 }
 
 CWnd* CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
-    HWND owner = pParent->GetSafeHwnd();
-    if (owner == nullptr) owner = AfxGetMainWnd()->GetSafeHwnd();
+    HWND owner = kmfc::safe_handle(pParent);
+    if (owner == nullptr) owner = kmfc::safe_handle(AfxGetMainWnd());
     while (owner != nullptr && (::GetWindowLongPtrW(owner, GWL_STYLE) & WS_CHILD)) owner = ::GetParent(owner);
     HWND top = owner != nullptr ? climb(owner, [](HWND w) { return ::GetParent(w); }) : nullptr;
     if (pParent == nullptr && owner != nullptr) owner = ::GetLastActivePopup(owner);
@@ -226,7 +226,7 @@ int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
 
 void CWnd::CenterWindow(CWnd* pAlternateOwner) {
     const bool child = (GetStyle() & WS_CHILD) != 0;
-    HWND owner = pAlternateOwner->GetSafeHwnd();
+    HWND owner = kmfc::safe_handle(pAlternateOwner);
     if (owner == nullptr) owner = child ? ::GetParent(m_hWnd) : ::GetWindow(m_hWnd, GW_OWNER);
 
     CRect window, area, center;

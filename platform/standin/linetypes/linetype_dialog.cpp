@@ -4,6 +4,7 @@
 
 #include <ktut.h>
 
+#include "dialog_items.h"
 #include "linetypes/load_linetypes_dialog.h"
 #include "resource.h"
 
@@ -87,9 +88,13 @@ CStandinLinetypeDialog::CStandinLinetypeDialog(OdDbDatabase& drawing, const OdDb
     : CDialog(IDD_LINETYPES, parent), m_drawing(drawing), m_current(current) {}
 
 BOOL CStandinLinetypeDialog::OnInitDialog() {
-    CDialog::OnInitDialog();
-    m_list.TakeControl(IDC_LINETYPE_LIST, *this);
-    fill(m_current);
+    // A dialog without its list is of no use to anybody.
+    const bool isWhole = HasDialogItems(*this, {IDC_LINETYPE_LOAD, IDC_LINETYPE_DELETE});
+    if (!isWhole || !CDialog::OnInitDialog() || !m_list.TakeControl(IDC_LINETYPE_LIST, *this) ||
+        !fill(m_current)) {
+        EndDialog(-1);
+        return FALSE;
+    }
     m_list.SetFocus();
     return FALSE;
 }
@@ -141,7 +146,7 @@ void CStandinLinetypeDialog::OnListKey(NMHDR* header, LRESULT* result) {
     if (reinterpret_cast<NMLVKEYDOWN*>(header)->wVKey == VK_DELETE) OnDelete();
 }
 
-void CStandinLinetypeDialog::fill(OdDbObjectId id) {
+bool CStandinLinetypeDialog::fill(OdDbObjectId id) {
     std::vector<LinetypeRow> rows;
     m_ids.clear();
     int selected = -1;
@@ -150,8 +155,10 @@ void CStandinLinetypeDialog::fill(OdDbObjectId id) {
         rows.push_back(rowOf(*each.record));
         m_ids.push_back(each.record->objectId());
     }
-    m_list.SetRows(std::move(rows));
+    // Every drawing has ByLayer at least.
+    if (!m_list.SetRows(std::move(rows)) || m_ids.empty()) return false;
     m_list.Select(selected);
+    return true;
 }
 
 int CStandinLinetypeDialog::selectedRow() const {

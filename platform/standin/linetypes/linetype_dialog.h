@@ -31,8 +31,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// Lists the drawing's linetypes anew and selects `id`.
-    void fill(OdDbObjectId id);
+    /// Lists the drawing's linetypes anew and selects `id`. False when there are none, or they can't be
+    /// listed.
+    bool fill(OdDbObjectId id);
     /// Place of the selected row, -1 for none.
     int selectedRow() const;
 

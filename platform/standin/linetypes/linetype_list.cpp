@@ -23,8 +23,8 @@ BEGIN_MESSAGE_MAP(CLinetypeList, CListCtrl)
     ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &CLinetypeList::OnCustomDraw)
 END_MESSAGE_MAP()
 
-void CLinetypeList::TakeControl(UINT id, CWnd& dialog) {
-    SubclassDlgItem(id, &dialog);
+bool CLinetypeList::TakeControl(UINT id, CWnd& dialog) {
+    if (!SubclassDlgItem(id, &dialog)) return false;
     SetExtendedStyle(LVS_EX_FULLROWSELECT);
     CRect client;
     GetClientRect(&client);
@@ -35,15 +35,18 @@ void CLinetypeList::TakeControl(UINT id, CWnd& dialog) {
     for (int column = kName; column <= kDescription; ++column) {
         CString title;
         title.LoadString(titles[column]);
-        InsertColumn(column, title, LVCFMT_LEFT, widths[column]);
+        if (InsertColumn(column, title, LVCFMT_LEFT, widths[column]) != column) return false;
     }
+    return true;
 }
 
-void CLinetypeList::SetRows(std::vector<LinetypeRow> rows) {
+bool CLinetypeList::SetRows(std::vector<LinetypeRow> rows) {
     Select(-1);
     m_rows = std::move(rows);
-    SetItemCountEx(static_cast<int>(m_rows.size()), 0);
+    const int count = static_cast<int>(m_rows.size());
+    const bool isListed = SetItemCountEx(count, 0) && GetItemCount() == count;
     Invalidate();
+    return isListed;
 }
 
 void CLinetypeList::Select(int row) {

@@ -18,10 +18,11 @@ class CLinetypeList : public CListCtrl {
     DECLARE_DYNAMIC(CLinetypeList)
 
 public:
-    /// Takes the place of a list view with LVS_REPORT and LVS_OWNERDATA, and gives it its columns.
-    void TakeControl(UINT id, CWnd& dialog);
-    /// Lists `rows` in their order; nothing is selected.
-    void SetRows(std::vector<LinetypeRow> rows);
+    /// Takes the place of a list view with LVS_REPORT and LVS_OWNERDATA, and gives it its columns. False when
+    /// the dialog has no such control, or something else has taken it, or a column can't be had.
+    bool TakeControl(UINT id, CWnd& dialog);
+    /// Lists `rows` in their order; nothing is selected. False when the control does not show that many.
+    bool SetRows(std::vector<LinetypeRow> rows);
     /// Selects one row alone and shows it; -1 for none.
     void Select(int row);
     /// The rows that are selected, in the order of the list.

@@ -4,6 +4,7 @@
 #include <commdlg.h>
 #include <kh_system.h>
 
+#include "dialog_items.h"
 #include "file_bytes.h"
 #include "linetypes/linetype_loader.h"
 #include "resource.h"
@@ -81,8 +82,11 @@ CLoadLinetypesDialog::CLoadLinetypesDialog(OdDbDatabase& drawing, CWnd* parent)
     : CDialog(IDD_LOAD_LINETYPES, parent), m_drawing(drawing) {}
 
 BOOL CLoadLinetypesDialog::OnInitDialog() {
-    CDialog::OnInitDialog();
-    m_list.TakeControl(IDC_LOAD_LIST, *this);
+    const bool isWhole = HasDialogItems(*this, {IDC_LOAD_FILE, IDC_LOAD_BROWSE, IDC_LOAD_SELECT_ALL});
+    if (!isWhole || !CDialog::OnInitDialog() || !m_list.TakeControl(IDC_LOAD_LIST, *this)) {
+        EndDialog(-1);
+        return FALSE;
+    }
     const wchar_t* standard = m_drawing.getMEASUREMENT() != 0 ? kMetricFile : kImperialFile;
     if (!pathOf(standard, m_drawing).IsEmpty()) {
         SetDlgItemText(IDC_LOAD_FILE, standard);

@@ -2,6 +2,7 @@
 
 #include <ktdb.h>
 
+#include "dialog_items.h"
 #include "resource.h"
 
 namespace {
@@ -41,12 +42,21 @@ CStandinPlotStyleDialog::CStandinPlotStyleDialog(OdDbDatabase* drawing, StandinS
       m_allowMeta(allowMeta) {}
 
 BOOL CStandinPlotStyleDialog::OnInitDialog() {
-    CDialog::OnInitDialog();
+    const bool isWhole =
+        HasDialogItems(*this, {IDC_PLOT_STYLE_LIST, IDC_PLOT_STYLE_SHEET, IDC_PLOT_STYLE_NOTE});
+    if (!CDialog::OnInitDialog() || !isWhole) {
+        EndDialog(-1);
+        return FALSE;
+    }
     readSheet();
     collectNames();
-    fill();
+    const bool isFilled = fill();
     // Whoever asks the service while the dialog is open may make it read the sheet anew.
     m_table = nullptr;
+    if (!isFilled) {
+        EndDialog(-1);
+        return FALSE;
+    }
     GetDlgItem(IDC_PLOT_STYLE_LIST)->SetFocus();
     return FALSE;
 }
@@ -98,14 +108,15 @@ void CStandinPlotStyleDialog::collectNames() {
     }
 }
 
-void CStandinPlotStyleDialog::fill() {
+bool CStandinPlotStyleDialog::fill() {
     CWnd* list = GetDlgItem(IDC_PLOT_STYLE_LIST);
     CString lacking;
     lacking.LoadString(IDS_SHEET_LACKS_STYLE);
     for (std::size_t row = 0; row < m_names.size(); ++row) {
         CString text = m_names[row];
         if (!isAllowed(text.GetString())) text += lacking;
-        list->SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.GetString()));
+        if (list->SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.GetString())) < 0) return false;
         if (m_names[row].CompareNoCase(m_chosen) == 0) list->SendMessage(LB_SETCURSEL, row);
     }
+    return true;
 }

@@ -34,7 +34,8 @@ private:
     /// Whether the sheet lets the style be chosen.
     bool isAllowed(const OdString& name) const;
     void collectNames();
-    void fill();
+    /// Lists the names. False when the control does not take them.
+    bool fill();
 
     OdDbDatabase* m_drawing;
     StandinStyleSheets& m_sheets;

@@ -4,6 +4,8 @@
 
 #include <atomic>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "ui_test.h"
 
@@ -125,6 +127,30 @@ public:
     }
 };
 
+/// Asks the system's own loops for a message each, and keeps one of two from the dialog.
+class FilterThread : public CWinThread {
+public:
+    std::vector<int> seen;
+    bool treatedByFilter = false, treatedByDialog = false;
+
+    BOOL InitInstance() override {
+        CWnd window;
+        window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0);
+        MSG message = {window.m_hWnd, WM_CHAR, L'f', 1, 0, {}};
+        treatedByFilter = window.IsDialogMessage(&message) != FALSE;
+        message.wParam = L'd';
+        // Characters that nobody takes are the dialog's: it dispatches them.
+        message.hwnd = ::GetDesktopWindow();
+        treatedByDialog = window.IsDialogMessage(&message) != FALSE;
+        ::CallMsgFilterW(&message, MSGF_MENU);
+        return FALSE;
+    }
+    BOOL ProcessMessageFilter(int code, LPMSG message) override {
+        seen.push_back(code);
+        return message->wParam == L'f';
+    }
+};
+
 bool ended(HANDLE thread) { return ::WaitForSingleObject(thread, 5000) == WAIT_OBJECT_0; }
 
 }  // namespace
@@ -239,6 +265,39 @@ TEST(Thread, AMessageThreadPumpsUntilItIsToldToQuit) {
     ::GetExitCodeThread(thread->m_hThread, &code);
     EXPECT_EQ(code, 9u);
     delete thread;
+}
+
+TEST(Thread, OfOtherMakingHasNoObject) {
+    CWinThread* object = AfxGetApp();
+    CWnd* window = AfxGetMainWnd();
+    EXPECT_EQ(AfxGetThread(), AfxGetApp());
+    ui_test::ParentWindow main;
+    AfxGetApp()->m_pMainWnd = &main;
+    EXPECT_EQ(AfxGetMainWnd(), &main);
+    std::thread([&] { object = AfxGetThread(), window = AfxGetMainWnd(); }).join();
+    AfxGetApp()->m_pMainWnd = nullptr;
+    EXPECT_EQ(object, nullptr);
+    EXPECT_EQ(window, nullptr);
+}
+
+TEST(Thread, SeesTheMessagesOfDialogsBeforeTheyAreTreated) {
+    FilterThread thread;
+    thread.m_bAutoDelete = FALSE;
+    ASSERT_TRUE(thread.CreateThread());
+    ASSERT_TRUE(ended(thread.m_hThread));
+    EXPECT_EQ(thread.seen, (std::vector<int>{MSGF_DIALOGBOX, MSGF_DIALOGBOX, MSGF_MENU}));
+    EXPECT_TRUE(thread.treatedByFilter) << "TRUE keeps the message from the dialog";
+    EXPECT_FALSE(thread.treatedByDialog);
+}
+
+TEST(Thread, TheApplicationSeesThemToo) {
+    std::vector<int> seen;
+    ui_test::on_message_filter([&](int code, const MSG&) { seen.push_back(code); });
+    ui_test::ParentWindow window;
+    MSG message = {window.m_hWnd, WM_KEYDOWN, VK_TAB, 1, 0, {}};
+    window.IsDialogMessage(&message);
+    ui_test::on_message_filter(nullptr);
+    EXPECT_EQ(seen, std::vector<int>{MSGF_DIALOGBOX});
 }
 
 TEST(Thread, EndsWhenItsMainWindowIsClosed) {

@@ -53,9 +53,33 @@ TEST(HandleMap, ThePermanentObjectComesFirst) {
     EXPECT_EQ(map.FromHandle(handle(5)), &mine);
     map.DeleteTemp();
     EXPECT_EQ(map.LookupPermanent(handle(5)), &mine);
-    map.RemoveHandle(handle(5));
+    Item other;
+    map.RemoveHandle(handle(5), &other);
+    EXPECT_EQ(map.LookupPermanent(handle(5)), &mine) << "whoever is not the object can't remove it";
+    map.RemoveHandle(handle(5), &mine);
     EXPECT_EQ(map.LookupPermanent(handle(5)), nullptr);
     EXPECT_NE(map.FromHandle(handle(5)), &mine);
+}
+
+TEST(HandleMap, AScopeEndsItsOwnTemporaryObjectsOnly) {
+    CHandleMap<Item> map;
+    Item* outer = map.FromHandle(handle(1));
+    map.BeginScope();
+    EXPECT_EQ(map.FromHandle(handle(1)), outer);
+    map.FromHandle(handle(2));
+    map.BeginScope();
+    map.FromHandle(handle(3));
+    map.DeleteTemp();
+    EXPECT_EQ(map.LookupTemporary(handle(3)), nullptr);
+    EXPECT_NE(map.LookupTemporary(handle(2)), nullptr);
+    map.FromHandle(handle(4));
+    map.EndScope();
+    map.DeleteTemp();
+    EXPECT_EQ(map.TemporaryCount(), 1u) << "what an inner scope left is the outer one's";
+    EXPECT_EQ(map.LookupTemporary(handle(1)), outer);
+    map.EndScope();
+    map.DeleteTemp();
+    EXPECT_EQ(map.TemporaryCount(), 0u);
 }
 
 TEST(HandleMap, AReusedObjectRemembersNothing) {

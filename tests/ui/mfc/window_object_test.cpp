@@ -94,6 +94,61 @@ TEST(WindowObject, AttachMakesTheObjectPermanentAndDetachLetsGo) {
     ::DestroyWindow(bare);
 }
 
+TEST(WindowObject, AWindowHasOneObjectAndAnObjectOneWindow) {
+    HWND first = bare_window(), second = bare_window();
+    const WNDPROC own = procedure_of(second);
+    CWnd mine, other;
+    ASSERT_TRUE(mine.Attach(first));
+    EXPECT_TRUE(mine.Attach(first)) << "nothing to do";
+    EXPECT_FALSE(mine.Attach(second));
+    EXPECT_FALSE(mine.SubclassWindow(second));
+    EXPECT_EQ(procedure_of(second), own);
+    EXPECT_EQ(CWnd::FromHandlePermanent(second), nullptr);
+    EXPECT_FALSE(other.Attach(first));
+    EXPECT_EQ(other.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(first), &mine);
+    EXPECT_FALSE(mine.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
+    EXPECT_EQ(mine.m_hWnd, first);
+    ::DestroyWindow(second);
+}
+
+TEST(WindowObject, AnObjectWhoseWindowWentUnseenIsFree) {
+    HWND first = bare_window(), second = bare_window();
+    CWnd mine;
+    ASSERT_TRUE(mine.Attach(first));
+    ::DestroyWindow(first);
+    EXPECT_TRUE(mine.Attach(second));
+    EXPECT_EQ(CWnd::FromHandlePermanent(first), nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(second), &mine);
+}
+
+TEST(WindowObject, NothingStaysInTheMapOfAnObjectThatGoes) {
+    HWND gone, kept = bare_window();
+    {
+        CWnd mine, unseen;
+        ASSERT_TRUE(mine.Attach(gone = bare_window()));
+        EXPECT_TRUE(mine.DestroyWindow());
+        EXPECT_EQ(mine.m_hWnd, nullptr) << "its messages never came here";
+        EXPECT_EQ(CWnd::FromHandlePermanent(gone), nullptr);
+        ASSERT_TRUE(unseen.Attach(kept));
+        ::DestroyWindow(kept);
+    }
+    EXPECT_EQ(CWnd::FromHandlePermanent(kept), nullptr);
+}
+
+TEST(WindowObject, AFailedCreationLeavesTheReasonInGetLastError) {
+    struct Ended : CWnd {
+        void PostNcDestroy() override { ::SetLastError(ERROR_SUCCESS); }
+    } window;
+    const wchar_t* none = L"no class of this name";
+    ::CreateWindowExW(0, none, L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr);
+    const DWORD reason = ::GetLastError();
+    ASSERT_NE(reason, static_cast<DWORD>(ERROR_SUCCESS));
+    ::SetLastError(ERROR_SUCCESS);
+    EXPECT_FALSE(window.CreateEx(0, none, L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
+    EXPECT_EQ(::GetLastError(), reason);
+}
+
 TEST(WindowObject, TheDestructorDestroysTheWindow) {
     HWND handle;
     {

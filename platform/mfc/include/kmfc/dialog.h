@@ -11,7 +11,8 @@ public:
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
 
-    /// Creates a modeless dialog. FALSE when the template is missing or creation fails.
+    /// Creates a modeless dialog. FALSE when the template is missing, creation fails, or an exception leaves
+    /// OnInitDialog, which destroys the window.
     virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
@@ -23,9 +24,16 @@ public:
                            void* lpDialogInit = nullptr);
     BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
 
-    /// Runs the dialog until EndDialog; its result, -1 when it could not be created, IDABORT on a failure
-    /// inside.
+    /// Runs the dialog until EndDialog; its result. -1 when it could not be created or its initialisation
+    /// failed, when its window was destroyed by others, and at WM_QUIT. IDABORT when a CException left the
+    /// message loop. Throws what left a handler and is no CException. The window is gone and the owner
+    /// enabled in any case.
+    ///
+    /// An exception of any type that leaves OnInitDialog makes the initialisation fail and goes no further,
+    /// except that a CException is reported by CWinThread::ProcessWndProcException. A dialog that has failed
+    /// is not shown.
     virtual INT_PTR DoModal();
+    /// Ends DoModal with a result. In OnInitDialog: before the dialog is shown.
     void EndDialog(int nResult);
 
     void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
@@ -67,7 +75,8 @@ protected:
 private:
     BOOL CreateFromTemplate(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst,
                             void* lpDialogInit);
-    int RunCreated(HWND hWndParent, BOOL bEnableParent);
+    void RunCreated();
+    void EndModal(HWND parent, bool enableParent);
 
     friend INT_PTR CALLBACK AfxDlgProc(HWND, UINT, WPARAM, LPARAM);
 };

@@ -20,7 +20,7 @@ public:
     /// The object of the handle: its permanent one, else a temporary one of the class that fits the handle.
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
     static void PASCAL DeleteTempMap();
-    /// Takes the handle over. FALSE for null.
+    /// Takes the handle over. FALSE for null. A handle that the object had before goes as by Detach.
     BOOL Attach(HGDIOBJ hObject);
     /// Gives the handle to the caller.
     HGDIOBJ Detach();

@@ -3,31 +3,16 @@
 // An object that is attached to a handle is its permanent object. Any other handle gets a temporary object on
 // request, which lasts until DeleteTemp, called when the thread is idle. Temporary objects and their map
 // nodes are kept and used again, so that one per message costs no allocation.
+//
+// A loop inside a handler is idle while the handler still uses the temporary objects that it got before: it
+// opens a scope, and DeleteTemp leaves alone what is older.
 #pragma once
 
 #include <memory>
 #include <unordered_map>
 #include <vector>
 
-namespace kmfc {
-
-/// The member of a wrapper class that holds its handle.
-template <class T>
-auto& handle_member(T& object) {
-    if constexpr (requires { object.m_hWnd; }) {
-        return object.m_hWnd;
-    } else if constexpr (requires { object.m_hDC; }) {
-        return object.m_hDC;
-    } else if constexpr (requires { object.m_hObject; }) {
-        return object.m_hObject;
-    } else if constexpr (requires { object.m_hMenu; }) {
-        return object.m_hMenu;
-    } else {
-        return object.m_hImageList;
-    }
-}
-
-}  // namespace kmfc
+#include <kmfc/safe_handle.h>
 
 /// The objects of one thread by handle. T is default constructible and lets its handle go unharmed when that
 /// is null. The map owns temporary objects only.
@@ -37,7 +22,10 @@ public:
     using Handle = std::remove_reference_t<decltype(kmfc::handle_member(std::declval<T&>()))>;
 
     CHandleMap() = default;
-    ~CHandleMap() { DeleteTemp(); }
+    ~CHandleMap() {
+        m_scope = 0;
+        DeleteTemp();
+    }
     CHandleMap(const CHandleMap&) = delete;
     CHandleMap& operator=(const CHandleMap&) = delete;
 
@@ -47,7 +35,7 @@ public:
         if (!handle) return nullptr;
         if (T* permanent = LookupPermanent(handle)) return permanent;
         const auto found = m_temporary.find(handle);
-        return found != m_temporary.end() ? found->second.get() : make_temporary(handle);
+        return found != m_temporary.end() ? found->second.object.get() : make_temporary(handle);
     }
 
     /// The permanent object of the handle, or null.
@@ -59,21 +47,31 @@ public:
     /// The temporary object of the handle, or null.
     T* LookupTemporary(Handle handle) const {
         const auto found = m_temporary.find(handle);
-        return found != m_temporary.end() ? found->second.get() : nullptr;
+        return found != m_temporary.end() ? found->second.object.get() : nullptr;
     }
 
     /// Makes `object` the handle's permanent one. It stays the caller's, who calls RemoveHandle before it
     /// goes.
     void SetPermanent(Handle handle, T* object) { m_permanent[handle] = object; }
 
-    /// Forgets the handle's permanent object.
-    void RemoveHandle(Handle handle) { m_permanent.erase(handle); }
+    /// Forgets the handle's permanent object if that is `object`: another may have been attached since.
+    void RemoveHandle(Handle handle, const T* object) {
+        const auto found = m_permanent.find(handle);
+        if (found != m_permanent.end() && found->second == object) m_permanent.erase(found);
+    }
 
-    /// Ends all temporary objects. Pointers to them must not be used any more.
+    /// From here on temporary objects are of a scope of their own, which EndScope closes. Scopes nest.
+    void BeginScope() { ++m_scope; }
+    /// Closes the innermost scope; its temporary objects become the outer one's.
+    void EndScope() { --m_scope; }
+
+    /// Ends the temporary objects of the innermost scope. Pointers to them must not be used any more.
     void DeleteTemp() {
-        while (!m_temporary.empty()) {
-            auto node = m_temporary.extract(m_temporary.begin());
-            T* object = node.mapped().get();
+        for (auto at = m_temporary.begin(); at != m_temporary.end();) {
+            const auto each = at++;
+            if (each->second.scope < m_scope) continue;
+            auto node = m_temporary.extract(each);
+            T* object = node.mapped().object.get();
             set_handle(*object, nullptr);
             if (m_spare.size() == kMostSpare) continue;
             std::destroy_at(object);
@@ -88,7 +86,11 @@ public:
 private:
     static constexpr size_t kMostSpare = 64;  // more than one idle step's messages need
 
-    using Temporaries = std::unordered_map<Handle, std::unique_ptr<T>>;
+    struct Temporary {
+        std::unique_ptr<T> object;
+        unsigned scope;  ///< the one it was made in
+    };
+    using Temporaries = std::unordered_map<Handle, Temporary>;
 
     static void set_handle(T& object, Handle handle) {
         kmfc::handle_member(object) = handle;
@@ -98,16 +100,20 @@ private:
     T* make_temporary(Handle handle) {
         T* object;
         if (m_spare.empty()) {
-            object = m_temporary.emplace(handle, std::make_unique<T>()).first->second.get();
+            auto made = std::make_unique<T>();
+            object = made.get();
+            m_temporary.emplace(handle, Temporary{std::move(made), m_scope});
         } else {
             m_spare.back().key() = handle;
-            object = m_temporary.insert(std::move(m_spare.back())).position->second.get();
+            m_spare.back().mapped().scope = m_scope;
+            object = m_temporary.insert(std::move(m_spare.back())).position->second.object.get();
             m_spare.pop_back();
         }
         set_handle(*object, handle);
         return object;
     }
 
+    unsigned m_scope = 0;  ///< how many scopes are open
     std::unordered_map<Handle, T*> m_permanent;
     Temporaries m_temporary;
     std::vector<typename Temporaries::node_type> m_spare;

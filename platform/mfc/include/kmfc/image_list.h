@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kmfc/gdi.h>
+#include <kmfc/safe_handle.h>
 
 /// An image list. The destructor destroys one that was created or attached; FromHandle makes a temporary
 /// object that lasts until the thread is idle and destroys nothing. Images count from 0; -1 reports failure.
@@ -64,11 +65,11 @@ public:
     }
 
     BOOL Draw(CDC* pDC, int nImage, POINT pt, UINT nStyle) {
-        return ::ImageList_Draw(m_hImageList, nImage, pDC->GetSafeHdc(), pt.x, pt.y, nStyle);
+        return ::ImageList_Draw(m_hImageList, nImage, kmfc::safe_handle(pDC), pt.x, pt.y, nStyle);
     }
     BOOL DrawEx(CDC* pDC, int nImage, POINT pt, SIZE sz, COLORREF clrBk, COLORREF clrFg, UINT nStyle) {
-        return ::ImageList_DrawEx(m_hImageList, nImage, pDC->GetSafeHdc(), pt.x, pt.y, sz.cx, sz.cy, clrBk,
-                                  clrFg, nStyle);
+        return ::ImageList_DrawEx(m_hImageList, nImage, kmfc::safe_handle(pDC), pt.x, pt.y, sz.cx, sz.cy,
+                                  clrBk, clrFg, nStyle);
     }
     BOOL DrawIndirect(IMAGELISTDRAWPARAMS* pimldp);
     BOOL SetOverlayImage(int nImage, int nOverlay) {

@@ -1,6 +1,8 @@
 // CSimpleStringT: a counted, copy-on-write string of wide or narrow characters; storage and buffers.
 //
-// CStringT adds searching, editing and formatting. Both are made for wchar_t and char in this module.
+// CStringT adds searching, editing and formatting. Both are made for wchar_t and char in this module. They
+// are not declared "extern template": a compiler would then take the inline members from the module too,
+// which exports none of them.
 #pragma once
 
 #include <type_traits>
@@ -99,6 +101,3 @@ private:
 
     Ch* m_pszData;
 };
-
-extern template class CSimpleStringT<wchar_t>;
-extern template class CSimpleStringT<char>;

@@ -220,9 +220,6 @@ private:
 #endif
 };
 
-extern template class CStringT<wchar_t>;
-extern template class CStringT<char>;
-
 using CSimpleStringW = CSimpleStringT<wchar_t>;
 using CSimpleStringA = CSimpleStringT<char>;
 using CSimpleString = CSimpleStringW;

@@ -32,13 +32,20 @@ public:
     virtual BOOL InitInstance();
     virtual int Run();
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    /// Takes one message and dispatches it; FALSE at WM_QUIT. Waits when the queue is empty.
+    /// Takes one message and dispatches it; FALSE at WM_QUIT. Waits when the queue is empty. Throws what left
+    /// a handler meanwhile and is no CException.
     virtual BOOL PumpMessage();
     /// One idle step; `lCount` counts the steps since the last message. TRUE asks for another.
     virtual BOOL OnIdle(LONG lCount);
     virtual BOOL IsIdleMessage(MSG* pMsg);
     virtual int ExitInstance();
+    /// An exception that left a handler of message `pMsg`; the result is the message's. Tells the user,
+    /// unless it is a CUserException, fails WM_CREATE, and ends WM_PAINT. The caller deletes the exception.
+    /// Exceptions of other types are not offered here: they go on from PumpMessage.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
+    /// Sees the messages of dialogs, menus and scroll bars (`code` is MSGF_DIALOGBOX, MSGF_MENU ...) before
+    /// they are treated. TRUE keeps one from being treated. Called in threads made by CreateThread and, after
+    /// AfxWinInit, in the application's own.
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
     virtual CWnd* GetMainWnd();
     virtual void Delete();
@@ -56,6 +63,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+/// The calling thread's object; null in a thread that was started by other means.
 KMFC_API CWinThread* AfxGetThread();
 KMFC_API CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
                                     int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
@@ -65,5 +73,5 @@ KMFC_API void AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
 KMFC_API BOOL AfxPumpMessage();
 KMFC_API BOOL AfxPreTranslateMessage(MSG* pMsg);
 KMFC_API void AfxPostQuitMessage(int nExitCode);
-/// The thread's main window, or the active popup's owner chain when there is none.
+/// The calling thread's main window; null without one, and in a thread without an object.
 KMFC_API CWnd* AfxGetMainWnd();

@@ -8,6 +8,7 @@
 #include <kmfc/cmd_target.h>
 #include <kmfc/gdi.h>
 #include <kmfc/menu.h>
+#include <kmfc/safe_handle.h>
 #include <shellapi.h>
 
 // CWnd has a member function of the name of this macro of the platform.
@@ -29,6 +30,7 @@ enum : UINT {
     WF_CONTINUEMODAL = 0x0008,  ///< RunModalLoop goes on while this is set
     WF_MODALLOOP = 0x0010,      ///< RunModalLoop is on the stack for this window
     WF_TRACKINGTOOLTIPS = 0x0400,
+    WF_NEVERSHOWN = 0x0800,  ///< a dialog that ended while it was initialised, and stays hidden
 };
 
 /// Flags of CWnd::RunModalLoop.
@@ -65,20 +67,27 @@ public:
 
     operator HWND() const { return m_hWnd; }
     BOOL operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
-    HWND GetSafeHwnd() const { return IsNull(this) ? nullptr : m_hWnd; }
+    /// The handle; null for an object without a window, and for a null object.
+    HWND GetSafeHwnd() const;
 
     // Objects of handles.
     static CWnd* FromHandle(HWND hWnd);
     static CWnd* FromHandlePermanent(HWND hWnd);
     static void DeleteTempMap();
+    /// Makes this the permanent object of the window. FALSE for null, for a window that has another object,
+    /// and when this object has another window.
     BOOL Attach(HWND hWndNew);
     HWND Detach();
     virtual void PreSubclassWindow();
+    /// Attach, and the window's messages come here. FALSE, and nothing is changed, when Attach refuses.
     BOOL SubclassWindow(HWND hWnd);
+    /// SubclassWindow with a dialog's control. FALSE too when there is no such control.
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
     HWND UnsubclassWindow();
 
-    // Creation.
+    // Creation. FALSE when it fails, with the reason in GetLastError as the system gave it. An exception of
+    // any type that leaves PreSubclassWindow or the handler of WM_NCCREATE or WM_CREATE makes it fail, and
+    // goes no further.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
@@ -124,7 +133,7 @@ public:
                    bRepaint);
     }
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
-        return ::SetWindowPos(m_hWnd, pWndInsertAfter->GetSafeHwnd(), x, y, cx, cy, nFlags);
+        return ::SetWindowPos(m_hWnd, kmfc::safe_handle(pWndInsertAfter), x, y, cx, cy, nFlags);
     }
     void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
     void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
@@ -148,10 +157,10 @@ public:
     void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const {
-        ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), lpPoint, nCount);
+        ::MapWindowPoints(m_hWnd, kmfc::safe_handle(pwndTo), lpPoint, nCount);
     }
     void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const {
-        ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), reinterpret_cast<LPPOINT>(lpRect), 2);
+        ::MapWindowPoints(m_hWnd, kmfc::safe_handle(pwndTo), reinterpret_cast<LPPOINT>(lpRect), 2);
     }
 
     // Painting.
@@ -235,15 +244,15 @@ public:
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
     CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
     CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
-    BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd->GetSafeHwnd()); }
+    BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, kmfc::safe_handle(pWnd)); }
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetAncestor(UINT gaFlags) const { return FromHandle(::GetAncestor(m_hWnd, gaFlags)); }
     CWnd* SetParent(CWnd* pWndNewParent) {
-        return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd()));
+        return FromHandle(::SetParent(m_hWnd, kmfc::safe_handle(pWndNewParent)));
     }
     static CWnd* WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
     CWnd* GetOwner() const;
-    void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd->GetSafeHwnd(); }
+    void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = kmfc::safe_handle(pOwnerWnd); }
     CFrameWnd* GetParentFrame() const;
     CFrameWnd* GetTopLevelFrame() const;
     CWnd* GetTopLevelParent() const;
@@ -306,6 +315,10 @@ public:
     void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
 
     // Modal loop.
+
+    /// Pumps messages until EndModalLoop; its result. -1 at WM_QUIT, which is posted again, and when the
+    /// window is destroyed. Throws what left a handler and is no CException. While it is idle the temporary
+    /// objects made inside it are ended; those from before it stay good.
     int RunModalLoop(DWORD dwFlags = 0);
     virtual BOOL ContinueModal();
     virtual void EndModalLoop(int nResult);
@@ -415,17 +428,24 @@ protected:
     WNDPROC m_pfnSuper = nullptr;
 
 private:
-    static bool IsNull(const void* object) { return object == nullptr; }
     CWnd* FindNextControl(CWnd* pWndCtl, BOOL bPrevious, BOOL bGroup) const;
     LRESULT CallHandler(const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam, LPARAM lParam);
     void DetachFromMap();
+    LRESULT ServeMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT InitialiseDialog(WPARAM wParam, LPARAM lParam);
+    void EndFailedMessage(UINT message);
+    void EndDestroyedModalLoop();
+    bool GoesOnModally();
 
     friend class CWndHandleMap;
     friend class CDialog;
-    friend LRESULT AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
+    friend KMFC_API LRESULT AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
 };
 
-/// The window procedure of every permanent CWnd.
+/// The window procedure of every permanent CWnd. A CException that leaves a handler goes to
+/// CWinThread::ProcessWndProcException. Any other exception goes on from the message pump, once the system's
+/// code in between has returned; the message is answered with 0 meanwhile. While a window is created or
+/// initialised, see CWnd::CreateEx and CDialog.
 KMFC_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 KMFC_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam = 0, LPARAM lParam = 0);
 
