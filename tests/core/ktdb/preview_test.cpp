@@ -169,6 +169,13 @@ TEST(Preview, OfSeveralImagesTheFirstBitmapIsTaken) {
     EXPECT_EQ(dib, second);
 }
 
+TEST(Preview, WhatTheCountLeavesOutIsNotTaken) {
+    std::string file = dwgWith(smallDib());
+    file[64 + 16 + 4] = '\x01';
+    std::string dib;
+    EXPECT_FALSE(find(file, dib)) << "the first of the two images is no bitmap";
+}
+
 TEST(Preview, HexadecimalDigitsMayBeSmallOrLarge) {
     // Bytes of every digit behind the header.
     std::string image = dibOf(8, 1, 16, 0, 56);
