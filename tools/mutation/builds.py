@@ -61,7 +61,7 @@ def configure(tree, kind):
     """Configures the `core` or the `windows` build of the copy; answers its folder."""
     build = tree.folder / "build" / kind
     if not (build / "build.ninja").is_file():
-        settings = ["-DCMAKE_BUILD_TYPE=", f"-DCMAKE_CXX_FLAGS={FLAGS} -I{tree.folder}/tools/mutation", "-DKTUI_SANITIZE="]
+        settings = ["-DCMAKE_BUILD_TYPE=", f"-DCMAKE_CXX_FLAGS={FLAGS} -I{tree.folder}/tools/mutation"]
         subprocess.run(["cmake", "--preset", kind, *settings], cwd=tree.folder, check=True, capture_output=True)
     return build
 

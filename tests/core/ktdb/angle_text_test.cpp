@@ -96,22 +96,22 @@ TEST(AngleText, WhatIsNoAngleIsRefused) {
          {L"",           L"  ",       L"abc", L"inf",  L"nan",   L"0x1",   L"1e999",    L"12d60'",
           L"12d30'60\"", L"12.5d30'", L"45x", L"45dd", L"45 d",  L"N 45d", L"N 100d E", L"N -5d E",
           L"E 5d N",     L"NE",       L"Nx",  L"--5",  L"5'10d", L"5\"6'", L"-N",       L"12d30",
-          L"r",          L"g",        L"d",   L"1g2",  L"1r0"})
+          L"r",          L"g",        L"d",   L"1g2",  L"1r0",   L"1rg",   L"1gr"})
         for (int mode = kDegrees; mode <= kSurveyor; ++mode)
             EXPECT_EQ(angle(text, mode), kRefused) << odUtf8(text) << " in mode " << mode;
     double value = 42;
-    EXPECT_NE(ktdbAngToF2(1, L"x", kDegrees, &value), kKtdbOk);
+    EXPECT_EQ(ktdbAngToF2(1, L"x", kDegrees, &value), kKtdbInvalid);
     EXPECT_EQ(value, 42);
-    EXPECT_NE(ktdbAngToF2(1, nullptr, kDegrees, &value), kKtdbOk);
-    EXPECT_NE(ktdbAngToF2(1, L"1", 5, &value), kKtdbOk);
-    EXPECT_NE(ktdbAngToF2(1, L"1", kDegrees, nullptr), kKtdbOk);
+    EXPECT_EQ(ktdbAngToF2(1, nullptr, kDegrees, &value), kKtdbInvalid);
+    EXPECT_EQ(ktdbAngToF2(1, L"1", 5, &value), kKtdbInvalid);
+    EXPECT_EQ(ktdbAngToF2(1, L"1", kDegrees, nullptr), kKtdbInvalid);
 }
 
 TEST(AngleText, FailureLeavesAnEmptyBuffer) {
     wchar_t buffer[kKtdbBufferSize] = L"before";
-    EXPECT_NE(ktdbAngToS(std::nan(""), kDegrees, 2, buffer), kKtdbOk);
+    EXPECT_EQ(ktdbAngToS(std::nan(""), kDegrees, 2, buffer), kKtdbRange);
     EXPECT_EQ(buffer[0], L'\0');
-    EXPECT_NE(ktdbAngToS(1, 5, 2, buffer), kKtdbOk);
-    EXPECT_NE(ktdbAngToS(1, kDegrees, 9, buffer), kKtdbOk);
-    EXPECT_NE(ktdbAngToS(1, kDegrees, 2, nullptr), kKtdbOk);
+    EXPECT_EQ(ktdbAngToS(1, 5, 2, buffer), kKtdbInvalid);
+    EXPECT_EQ(ktdbAngToS(1, kDegrees, 9, buffer), kKtdbInvalid);
+    EXPECT_EQ(ktdbAngToS(1, kDegrees, 2, nullptr), kKtdbInvalid);
 }

@@ -125,10 +125,10 @@ TEST(DistanceText, FeetAndInchesAreReadWhereTheModeHasThem) {
 
 TEST(DistanceText, WhatIsNoDistanceIsRefused) {
     for (const wchar_t* text :
-         {L"",    L" ",   L"abc",     L"inf",   L"nan",     L"0x10",   L"1e999",  L"-1e309", L"12abc",
-          L"1 2", L"1-2", L"3/0",     L"3/",    L"/3",      L"--5",    L"- 5",    L".",      L"-",
-          L"+",   L"e5",  L"1e",      L"1.2.3", L"1.5 1/2", L"1,5",    L"1/2/3",  L"1'-",    L"1''",
-          L"'",   L"\"",  L"1'-2\"3", L"1\"2",  L"1'2'3\"", L"\xFF11", L"1\x00A0"})
+         {L"",    L" ",   L"abc", L"inf",     L"nan",   L"0x10",    L"1e999",  L"-1e309", L"12abc",
+          L"1 2", L"1-2", L"15-", L"3/0",     L"3/",    L"/3",      L"--5",    L"- 5",    L".",
+          L"-",   L"+",   L"e5",  L"1e",      L"1.2.3", L"1.5 1/2", L"1,5",    L"1/2/3",  L"1'-",
+          L"1''", L"'",   L"\"",  L"1'-2\"3", L"1\"2",  L"1'2'3\"", L"\xFF11", L"1\x00A0"})
         for (int mode = kScientific; mode <= kFractional; ++mode)
             EXPECT_EQ(distance(text, mode), kRefused) << odUtf8(text) << " in mode " << mode;
     double value = 42;

@@ -36,6 +36,26 @@ TEST(SymbolName, LengthEndsAt255) {
     EXPECT_NE(ktdbSNValid(std::wstring(256, L'a').c_str(), 0), kKtdbOk);
 }
 
+TEST(SymbolName, APairOfHalvesCountsAsOneCharacter) {
+    // What lies outside the first plane is stored as two halves on Windows; the second doesn't count.
+    std::wstring name(254, L'a');
+    name += {static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDC00)};
+    EXPECT_EQ(ktdbSNValid(name.c_str(), 0), kKtdbOk);
+    name.back() = static_cast<wchar_t>(0xDFFF);
+    EXPECT_EQ(ktdbSNValid(name.c_str(), 0), kKtdbOk);
+    name.back() = static_cast<wchar_t>(0xDBFF);
+    EXPECT_NE(ktdbSNValid(name.c_str(), 0), kKtdbOk);
+    name.back() = static_cast<wchar_t>(0xE000);
+    EXPECT_NE(ktdbSNValid(name.c_str(), 0), kKtdbOk);
+}
+
+TEST(SymbolName, ControlCharactersEndBeforeTheBlank) {
+    EXPECT_NE(ktdbSNValid(L"a\x1F", 0), kKtdbOk);
+    EXPECT_EQ(ktdbSNValid(L"a b", 0), kKtdbOk);
+    EXPECT_EQ(ktdbSNValid(L"a\x7E", 0), kKtdbOk);
+    EXPECT_EQ(ktdbSNValid(L"a\x80", 0), kKtdbOk);
+}
+
 TEST(ReservedName, IsKnownInEveryLanguage) {
     EXPECT_TRUE(ktdbIsReservedString(L"normal", kKtdbNormal));
     EXPECT_TRUE(ktdbIsReservedString(L"\x666E\x901A", kKtdbNormal));
@@ -43,6 +63,28 @@ TEST(ReservedName, IsKnownInEveryLanguage) {
     EXPECT_FALSE(ktdbIsReservedString(L"Normally", kKtdbNormal));
     EXPECT_FALSE(ktdbIsReservedString(nullptr, kKtdbNormal));
     EXPECT_FALSE(ktdbIsReservedString(L"Normal", 99));
+}
+
+TEST(ReservedName, EachKindHasItsWordInBothLanguages) {
+    struct {
+        int kind;
+        const wchar_t* english;
+        const wchar_t* chinese;
+    } const names[] = {{kKtdbByLayer, L"ByLayer", L"\x968F\x5C42"},
+                       {kKtdbByBlock, L"ByBlock", L"\x968F\x5757"},
+                       {kKtdbContinuous, L"Continuous", L"\x8FDE\x7EED"},
+                       {kKtdbStandard, L"Standard", L"\x6807\x51C6"},
+                       {kKtdbNormal, L"Normal", L"\x666E\x901A"},
+                       {kKtdbModel, L"Model", L"\x6A21\x578B"},
+                       {kKtdbNone, L"None", L"\x65E0"}};
+    for (const auto& name : names) {
+        EXPECT_EQ(ktdbGetReservedString(name.kind, true), name.english);
+        EXPECT_TRUE(ktdbIsReservedString(name.english, name.kind));
+        EXPECT_TRUE(ktdbIsReservedString(name.chinese, name.kind));
+        ktutSetLanguage(KtutLanguage::kChinese);
+        EXPECT_EQ(ktdbGetReservedString(name.kind, true), name.chinese);
+        ktutSetLanguage(KtutLanguage::kEnglish);
+    }
 }
 
 TEST(ReservedName, FollowsTheLanguageWhenAsked) {

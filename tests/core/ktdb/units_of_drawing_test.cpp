@@ -57,6 +57,8 @@ TEST_F(UnitsOfDrawing, BaseAndDirectionCountOnlyWithoutTheFlag) {
     drawing->setANGDIR(1);
     EXPECT_DOUBLE_EQ(angle(L"30", -1, 1), kQuarter / 3);
     EXPECT_DOUBLE_EQ(angle(L"30", -1, 0), kQuarter * 2 / 3);
+    EXPECT_DOUBLE_EQ(angle(L"30", 0, 1), kQuarter / 3) << "a mode of its own changes nothing in that";
+    EXPECT_DOUBLE_EQ(angle(L"30", 0, 0), kQuarter * 2 / 3);
 }
 
 TEST(UnitsWithoutDrawing, AreDecimalAndWholeDegrees) {
@@ -64,4 +66,5 @@ TEST(UnitsWithoutDrawing, AreDecimalAndWholeDegrees) {
     EXPECT_EQ(distanceText(15.5, -1, -1), L"15.5000");
     EXPECT_EQ(angleText(0.7853981633974483, -1, -1), L"45");
     EXPECT_EQ(distance(L"1'", -1), kRefused);
+    EXPECT_EQ(angle(L"1r", -1, 0), 1) << "from the x axis, counter-clockwise";
 }

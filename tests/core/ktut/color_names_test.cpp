@@ -13,13 +13,28 @@ TEST(ColorNames, AnIndexHasItsWordOrItsNumber) {
     EXPECT_TRUE(ktutColorToStr(257).isEmpty());
 }
 
+TEST(ColorNames, TheFirstSevenHaveWordsInBothLanguages) {
+    const wchar_t* const english[] = {L"red", L"yellow", L"green", L"cyan", L"blue", L"magenta", L"white"};
+    const wchar_t* const chinese[] = {L"\x7EA2", L"\x9EC4",       L"\x7EFF", L"\x9752",
+                                      L"\x84DD", L"\x6D0B\x7EA2", L"\x767D"};
+    for (short index = 1; index <= 7; ++index) {
+        ktutSetLanguage(KtutLanguage::kEnglish);
+        EXPECT_EQ(ktutColorToStr(index), english[index - 1]) << index;
+        ktutSetLanguage(KtutLanguage::kChinese);
+        EXPECT_EQ(ktutColorToStr(index), chinese[index - 1]) << index;
+    }
+    ktutSetLanguage(KtutLanguage::kEnglish);
+}
+
 TEST(ColorNames, FollowTheLanguage) {
+    EXPECT_EQ(ktutLanguage(), KtutLanguage::kEnglish);
     ktutSetLanguage(KtutLanguage::kChinese);
-    EXPECT_EQ(ktutColorToStr(1), L"\x7EA2");
-    EXPECT_EQ(ktutColorToStr(6), L"\x6D0B\x7EA2");
+    EXPECT_EQ(ktutLanguage(), KtutLanguage::kChinese);
+    EXPECT_EQ(ktutColorToStr(0), L"ByBlock");
+    EXPECT_EQ(ktutColorToStr(256), L"ByLayer");
     EXPECT_EQ(ktutColorToStr(30), L"\x989C\x8272 30");
     ktutSetLanguage(KtutLanguage::kEnglish);
-    EXPECT_EQ(ktutColorToStr(1), L"red");
+    EXPECT_EQ(ktutColorToStr(8), L"color 8");
 }
 
 TEST(ColorNames, AColorValueIsNamedByItsForm) {

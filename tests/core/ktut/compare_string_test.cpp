@@ -20,6 +20,29 @@ TEST(CompareString, RunsOfDigitsCompareAsNumbers) {
     EXPECT_EQ(ktutCompareString(L"A01B2", L"A1B3"), 1) << "zeros count only when nothing else differs";
 }
 
+TEST(CompareString, AnswersOneMinusOneOrZeroAndNothingElse) {
+    EXPECT_EQ(ktutCompareString(L"abc", L"x"), 1);
+    EXPECT_EQ(ktutCompareString(L"x", L"abc"), -1);
+    EXPECT_EQ(ktutCompareString(L"A100", L"A2"), -1) << "more digits, a greater number";
+    EXPECT_EQ(ktutCompareString(L"A2", L"A100"), 1);
+    EXPECT_EQ(ktutCompareString(L"A01", L"A1"), -1) << "more leading zeros come behind";
+    EXPECT_EQ(ktutCompareString(L"A001", L"A01"), -1);
+    EXPECT_EQ(ktutCompareString(L"A0", L"A00"), 1) << "zero is a number too";
+    EXPECT_EQ(ktutCompareString(L"A00", L"A0"), -1);
+    EXPECT_EQ(ktutCompareString(L"A", L"A1"), 1) << "a text before what continues it";
+    EXPECT_EQ(ktutCompareString(L"A1", L"A"), -1);
+    EXPECT_EQ(ktutCompareString(L"A", L""), -1);
+}
+
+TEST(CompareString, DigitsOfEqualNumbersAndEqualZerosLeaveTheRestToDecide) {
+    EXPECT_EQ(ktutCompareString(L"A01B2", L"A01B3"), 1);
+    EXPECT_EQ(ktutCompareString(L"A01B3", L"A01B2"), -1);
+    EXPECT_EQ(ktutCompareString(L"A01B01", L"A1B001"), -1) << "the first difference in zeros decides";
+    EXPECT_EQ(ktutCompareString(L"A1B001", L"A01B01"), 1);
+    EXPECT_EQ(ktutCompareString(L"A12", L"A12"), 0) << "digits at the very end";
+    EXPECT_EQ(ktutCompareString(L"12", L"B"), 1) << "a digit against a letter compares as a character";
+}
+
 TEST(CompareString, CaseCountsLast) {
     EXPECT_EQ(ktutCompareString(L"dashed", L"DASHED2"), 1);
     EXPECT_EQ(ktutCompareString(L"DASHED", L"dashed"), 1);

@@ -41,6 +41,36 @@ TEST(Paths, AreTakenApart) {
     EXPECT_TRUE(ktutSplitPath(L"x", nullptr, nullptr, nullptr, nullptr));
 }
 
+TEST(Paths, ADriveIsALetterAndAColon) {
+    EXPECT_EQ(split(L"a:").drive, L"a:") << "nothing behind it";
+    EXPECT_EQ(split(L"Z:x").drive, L"Z:");
+    EXPECT_EQ(split(L"A:x").drive, L"A:");
+    EXPECT_TRUE(split(L"1:x").drive.isEmpty());
+    EXPECT_TRUE(split(L"[:x").drive.isEmpty());
+    EXPECT_TRUE(split(L"@:x").drive.isEmpty());
+    EXPECT_TRUE(split(L":").drive.isEmpty());
+}
+
+TEST(Paths, AShareIsAServerAndAFolderOfIt) {
+    EXPECT_EQ(split(L"\\\\server\\share").drive, L"\\\\server\\share") << "nothing behind it";
+    EXPECT_EQ(split(L"\\\\server").drive, L"\\\\server");
+    EXPECT_EQ(split(L"//s/t/u").drive, L"//s/t");
+    EXPECT_EQ(split(L"\\\\a").drive, L"\\\\a") << "the shortest";
+    EXPECT_TRUE(split(L"\\\\").drive.isEmpty());
+    EXPECT_TRUE(split(L"\\\\\\x").drive.isEmpty()) << "three separators name no server";
+    EXPECT_TRUE(split(L"\\server\\share\\x").drive.isEmpty()) << "one separator is a folder";
+    EXPECT_TRUE(split(L"as\\b\\c").drive.isEmpty());
+}
+
+TEST(Paths, AbsoluteTailsStandAlone) {
+    EXPECT_EQ(ktutCombinePath(L"a", L"/b"), L"/b");
+    EXPECT_EQ(ktutCombinePath(L"a", L"\\b"), L"\\b");
+    EXPECT_EQ(ktutCombinePath(L"a", L"d:b"), L"d:b");
+    EXPECT_EQ(ktutCombinePath(L"a/", L"b"), L"a/b");
+    EXPECT_EQ(ktutCombinePath(nullptr, L"b"), L"b");
+    EXPECT_EQ(ktutCombinePath(L"a", nullptr), L"a");
+}
+
 TEST(Paths, ArePutTogetherWithOneSeparator) {
     EXPECT_EQ(ktutCombinePath(L"C:\\a\\", L"b"), L"C:\\a\\b");
     EXPECT_EQ(ktutCombinePath(L"", L"b"), L"b");
@@ -69,7 +99,30 @@ TEST(Paths, ExistOrNot) {
     EXPECT_TRUE(ktutPathIsSame(base.c_str(), (base + L"/").c_str()));
     EXPECT_FALSE(ktutPathIsSame(base.c_str(), file));
     EXPECT_FALSE(ktutPathIsSame(L"", L""));
+    EXPECT_FALSE(ktutPathIsSame(nullptr, base.c_str()) || ktutPathIsSame(base.c_str(), nullptr));
+    EXPECT_FALSE(ktutPathIsSame(L"", base.c_str()) || ktutPathIsSame(base.c_str(), L""));
+    EXPECT_FALSE(ktutPathIsSame(nullptr, nullptr));
+    EXPECT_FALSE(ktutDirectoryExists(nullptr));
+    EXPECT_FALSE(ktutDirectoryExists(ktutCombinePath(base.c_str(), L"none")));
     std::filesystem::remove_all(folder);
+}
+
+TEST(Paths, EmptyIsNotTheCurrentFolder) {
+    const std::wstring here = std::filesystem::current_path().wstring();
+    EXPECT_TRUE(ktutPathIsSame(L".", here.c_str()));
+    EXPECT_FALSE(ktutPathIsSame(L"", here.c_str()));
+    EXPECT_FALSE(ktutDirectoryExists(L""));
+}
+
+TEST(Paths, ARootKeepsItsSeparator) {
+#ifdef _WIN32
+    EXPECT_TRUE(ktutPathIsSame(L"C:\\", L"c:\\."));
+    EXPECT_FALSE(ktutPathIsSame(L"C:\\", L"C:\\windows"));
+    EXPECT_TRUE(ktutPathIsSame(L"C:\\WINDOWS\\", L"c:/windows")) << "case and kind of separator don't count";
+#else
+    EXPECT_TRUE(ktutPathIsSame(L"/", L"/."));
+    EXPECT_FALSE(ktutPathIsSame(L"/tmp", L"/TMP")) << "case counts";
+#endif
 }
 
 TEST(Paths, TextsAreSplitAtAnySeparator) {
@@ -78,6 +131,7 @@ TEST(Paths, TextsAreSplitAtAnySeparator) {
     EXPECT_EQ(pieces[0], L"a");
     EXPECT_EQ(pieces[2], L"c");
     EXPECT_TRUE(ktutSplitString(nullptr, L";").empty());
+    ASSERT_EQ(ktutSplitString(L"a;z", nullptr).size(), 1u) << "nothing to split at";
     EXPECT_EQ(ktutSplitString(L"a;b", L"").size(), 1u);
 }
 
