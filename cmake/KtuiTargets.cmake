@@ -10,7 +10,7 @@ file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
 # The compiler's run-time DLLs go beside ours: exceptions cross our DLLs, so all of them share one copy.
-if(WIN32)
+if(MINGW)
   set(KTUI_RUNTIME_DLLS "")
   foreach(runtime libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime} OUTPUT_VARIABLE found
@@ -29,7 +29,11 @@ if(KTUI_CCACHE)
 endif()
 
 add_library(ktui_settings INTERFACE)
-target_compile_options(ktui_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wshadow;-Werror>)
+if(MSVC)
+  target_compile_options(ktui_settings INTERFACE /W4 /utf-8 /permissive- /Zc:__cplusplus)
+else()
+  target_compile_options(ktui_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wshadow;-Werror>)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   # CRect and its like compare with the plain structure, as documented; the reversed candidate is no matter.
   target_compile_options(ktui_settings INTERFACE -Wno-ambiguous-reversed-operator)
@@ -38,7 +42,9 @@ if(WIN32)
   target_compile_definitions(ktui_settings INTERFACE
     UNICODE _UNICODE STRICT NOMINMAX _WIN32_WINNT=0x0A00 WINVER=0x0A00 _WIN32_IE=0x0A00)
   # Message-map entries store member functions of many signatures under one type.
-  target_compile_options(ktui_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type;-Wno-unknown-pragmas;-g1>)
+  if(NOT MSVC)
+    target_compile_options(ktui_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type;-Wno-unknown-pragmas;-g1>)
+  endif()
   if(KTUI_CHECKED)
     target_compile_definitions(ktui_settings INTERFACE _GLIBCXX_ASSERTIONS)
     target_compile_options(ktui_settings INTERFACE

@@ -56,7 +56,7 @@ make_prefix() {
 # start_display: an X server of our own, unless one was started by an outer script. Sets DISPLAY.
 start_display() {
     [ -n "${KTUI_DISPLAY:-}" ] && { export DISPLAY=$KTUI_DISPLAY; return 0; }
-    local number=$((100 + $$ % 400)) tries=0
+    local number=$((100 + BASHPID % 400)) tries=0
     while [ -e /tmp/.X$number-lock ]; do number=$((number + 1)); done
     Xvfb ":$number" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
     xvfb_pid=$!
@@ -68,18 +68,9 @@ start_display() {
     export DISPLAY=:$number KTUI_DISPLAY=:$number
 }
 
-# on_one_cpu COMMAND ...: runs a program on the last processor that this shell may use. A program under Wine and Wine's
-# server wait for each other in turn; on one processor tests with many windows take about two thirds of the time.
-on_one_cpu() {
-    local cpu
-    cpu=$(taskset -cp $$ 2>/dev/null | sed 's/.*[^0-9]//')
-    if [ -n "$cpu" ]; then taskset -c "$cpu" "$@"; else "$@"; fi
-}
-
-# start_wine: a warm Wine server, so that starting a process costs hundredths of a second. With KTUI_ONE_CPU it stays on
-# the processor of on_one_cpu; benchmarks and the sample leave that to the system.
+# start_wine: a warm Wine server, so that starting a process costs hundredths of a second.
 start_wine() {
-    if [ -n "${KTUI_ONE_CPU:-}" ]; then on_one_cpu wineserver -p; else wineserver -p; fi >/dev/null 2>&1
+    wineserver -p >/dev/null 2>&1
     wine cmd /c exit >/dev/null 2>&1 </dev/null
 }
 
@@ -89,3 +80,21 @@ stop_all() {
     [ -n "${xvfb_pid:-}" ] && kill "$xvfb_pid" 2>/dev/null
     return 0
 }
+
+# on_lane NUMBER COMMAND ...: runs a command with a Wine prefix, a display and a processor of its own, so that lanes run
+# side by side and never meet. A program under Wine and Wine's server wait for each other in turn; on one processor tests
+# with many windows take about two thirds of the time. Expects the prefix of make_prefix.
+on_lane() (
+    local lane=$1 cpus
+    shift
+    mapfile -t cpus < <(taskset -cp $BASHPID | sed 's/.*: //' | tr ',' '\n' | awk -F- '{for (i = $1; i <= ($2 == "" ? $1 : $2); ++i) print i}')
+    export WINEPREFIX=$build/wine-lane$lane
+    unset KTUI_DISPLAY xvfb_pid
+    rm -rf "$WINEPREFIX"
+    cp -a "$build/wine" "$WINEPREFIX"
+    taskset -cp "${cpus[lane % ${#cpus[@]}]}" $BASHPID >/dev/null
+    trap stop_all EXIT
+    start_display
+    start_wine
+    "$@"
+)
