@@ -7,6 +7,7 @@
 #include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/kbui_dialog.h>
 #include <ktui/dialogs/ktui_dialog.h>
+#include <ktui/host/appearance.h>
 #include <ktui/host/draw_tip_text.h>
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_services.h>

@@ -76,7 +76,7 @@ void CStandinColorDialog::OnDrawItem(int id, LPDRAWITEMSTRUCT item) {
         drawPalette(*dc, area);
         return;
     }
-    dc->FillSolidRect(&area, RGB(0, 0, 0));
+    dc->FillSolidRect(&area, ::GetSysColor(COLOR_BTNTEXT));
     CRect inner = area;
     inner.DeflateRect(1, 1);
     dc->FillSolidRect(&inner, shown(m_color));

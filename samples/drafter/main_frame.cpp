@@ -105,7 +105,11 @@ bool CMainFrame::OpenDrawing(const CString& path) {
     OdDbDxfError error;
     if (!document->Open(path, error)) {
         CString text;
-        text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
+        // What concerns the whole file has no line.
+        if (error.line == 0)
+            text.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
+        else
+            text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
         AfxMessageBox(text, MB_ICONEXCLAMATION);
         return false;
     }
@@ -120,7 +124,7 @@ void CMainFrame::showDrawing(bool keepPlace) {
     OdDbDatabase& drawing = *m_document->database();
     m_view.SetScene(BuildScene(drawing, drawing.currentSpaceId()), keepPlace);
     showTitle();
-    m_status.SetText(textOf(IDS_READY), 0, 0);
+    m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0);
     OnSelection(0, 0);
 }
 
@@ -135,8 +139,12 @@ bool CMainFrame::saveTo(const CString& path) {
         showTitle();
         return true;
     }
+    const CString reason = WhyNotWritable(path);
     CString text;
-    text.Format(IDS_WRITE_FAILED, path.GetString());
+    if (reason.IsEmpty())
+        text.Format(IDS_WRITE_FAILED, path.GetString());
+    else
+        text.Format(IDS_WRITE_REFUSED, path.GetString(), reason.GetString());
     AfxMessageBox(text, MB_ICONEXCLAMATION);
     return false;
 }
