@@ -4,6 +4,7 @@
 #include <ktui/controls/kbui_header_ctrl.h>
 #include <ktui/controls/kbui_list_box.h>
 #include <ktui/controls/kbui_list_ctrl.h>
+#include <ktui/dialogs/bring_into_view.h>
 #include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/kbui_dialog.h>
 #include <ktui/dialogs/ktui_dialog.h>

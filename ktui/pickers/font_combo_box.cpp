@@ -76,7 +76,8 @@ bool CKtUiFontComboBox::selectedStyle(CString& text) const {
 }
 
 int CKtUiFontComboBox::CalcItemHeight() {
-    if (KtUiFollowsSystemAppearance()) return std::max(FontIconSize(m_hWnd), CKtUiMRUComboBox::CalcItemHeight());
+    if (KtUiFollowsSystemAppearance())
+        return std::max(FontIconSize(m_hWnd), CKtUiMRUComboBox::CalcItemHeight());
     return GetCount() > 0 ? GetItemHeight(0) : kEmptyListItemHeight;
 }
 

@@ -92,8 +92,8 @@ void DrawFontIconFor(CDC& dc, CPoint corner, int size, HICON agreed, UINT id) {
     if (!icon) return;
     // The darker of the two icons' inks decides for both, so that they go together.
     if (ContrastRatio(kTrueTypeInk, paper) >= kMarkContrast) {
-        ::DrawIconEx(dc.m_hDC, static_cast<int>(corner.x), static_cast<int>(corner.y), icon.get(), size, size, 0,
-                     nullptr, DI_NORMAL);
+        ::DrawIconEx(dc.m_hDC, static_cast<int>(corner.x), static_cast<int>(corner.y), icon.get(), size, size,
+                     0, nullptr, DI_NORMAL);
         return;
     }
     AlphaPicture picture(dc, size);

@@ -51,7 +51,8 @@ int CKtUiLineWeightComboBox::ImageWidth() {
     CRect outer(0, 0, 0, 0);
     GetWindowRect(&outer);
     const int half = outer.Width() / 2;
-    return half == 0 ? textWidth : std::min(half, std::max(textWidth, KtUiAppearancePixels(m_hWnd, kMinimumImageWidth)));
+    return half == 0 ? textWidth
+                     : std::min(half, std::max(textWidth, KtUiAppearancePixels(m_hWnd, kMinimumImageWidth)));
 }
 
 /// The weight to draw for the item with `cargo`; false if nothing is drawn for it.

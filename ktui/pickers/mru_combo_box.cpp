@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int kItemHeightMargin = 4;  // pixels above and below the font together
+constexpr int kItemHeightMargin = 4;             // pixels above and below the font together
 constexpr UINT kDpiChangedAfterParent = 0x02E3;  // told to children when the window's monitor is another
-constexpr int kTipHeightMargin = 4;   // pixels at the top and at the bottom
+constexpr int kTipHeightMargin = 4;              // pixels at the top and at the bottom
 
 }  // namespace
 

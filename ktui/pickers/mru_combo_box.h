@@ -13,8 +13,8 @@
 // A list reads: store entries (newest first), option 1, option 2, the picker's own. Other items join at the
 // first drop-down. Nothing is persisted.
 //
-// Escape, a click elsewhere or the loss of the focus cancel an open list: the item selected when it was dropped,
-// or by the program since then, is selected again before anybody hears CBN_SELENDCANCEL.
+// Escape, a click elsewhere or the loss of the focus cancel an open list: the item selected when it was
+// dropped, or by the program since then, is selected again before anybody hears CBN_SELENDCANCEL.
 #pragma once
 
 #include <ktui/input/ktui_combo_box.h>

@@ -24,7 +24,8 @@ void CKtUiMRUComboBox::SetupForImageDraw(DRAWITEMSTRUCT* item, CDC*, CRect& item
     imageRect = itemRect;
     imageRect.right = imageRect.left + ImageWidth();
     textColor = ::GetSysColor(selected && !inEdit ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
-    if ((item->itemState & ODS_DISABLED) && KtUiFollowsSystemAppearance()) textColor = ::GetSysColor(COLOR_GRAYTEXT);
+    if ((item->itemState & ODS_DISABLED) && KtUiFollowsSystemAppearance())
+        textColor = ::GetSysColor(COLOR_GRAYTEXT);
     backColor = ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW);
 }
 

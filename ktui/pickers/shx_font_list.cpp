@@ -22,7 +22,8 @@ CKtUiShxFontList::~CKtUiShxFontList() { ::DestroyIcon(m_shxIcon); }
 
 void CKtUiShxFontList::FillList(bool bigFonts) {
     const int height = FontIconSize(m_hWnd);
-    if (KtUiFollowsSystemAppearance() && GetItemHeight(0) <= height) SetItemHeight(0, static_cast<UINT>(height + 1));
+    if (KtUiFollowsSystemAppearance() && GetItemHeight(0) <= height)
+        SetItemHeight(0, static_cast<UINT>(height + 1));
     const CKhFontList* fonts = CKhSystem::instance()->runtimeHost()->shxFontList();
     if (!fonts) return;
     ResetContent();

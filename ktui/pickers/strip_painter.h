@@ -1,7 +1,7 @@
 // Copies one picture of a vertical strip into the image column of a picker. Private to the library.
 //
-// A strip is black on white at the agreed size. For a host that follows the system there are larger ones, in which
-// black and white stand for the colours of texts and windows.
+// A strip is black on white at the agreed size. For a host that follows the system there are larger ones, in
+// which black and white stand for the colours of texts and windows.
 #pragma once
 
 #include <afxwin.h>
@@ -18,6 +18,6 @@ void LoadStrip(CBitmap& strip, UINT id);
 /// 20, 24 and 32 that suits the resolution of `window`.
 int StripSize(HWND window, int agreed);
 
-/// Loads `strip` anew if it should look otherwise than `look` says, for a host that follows the system. The strip of
-/// pictures of another size than `agreed` has the id `largerIds` plus their side.
+/// Loads `strip` anew if it should look otherwise than `look` says, for a host that follows the system. The
+/// strip of pictures of another size than `agreed` has the id `largerIds` plus their side.
 void RefreshStrip(CBitmap& strip, StripLook& look, int size, int agreed, UINT agreedId, UINT largerIds);

@@ -24,8 +24,9 @@ CString AskFileName(CWnd& owner, const FileQuestion& question) {
 
 CString WhyNotWritable(const CString& path) {
     const bool exists = ::GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
-    const HANDLE file = ::CreateFileW(path, GENERIC_WRITE | DELETE, 0, nullptr, exists ? OPEN_EXISTING : CREATE_NEW,
-                                      exists ? FILE_ATTRIBUTE_NORMAL : FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    const HANDLE file =
+        ::CreateFileW(path, GENERIC_WRITE | DELETE, 0, nullptr, exists ? OPEN_EXISTING : CREATE_NEW,
+                      exists ? FILE_ATTRIBUTE_NORMAL : FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     const DWORD error = ::GetLastError();
     if (file != INVALID_HANDLE_VALUE) {
         ::CloseHandle(file);

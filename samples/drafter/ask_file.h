@@ -14,6 +14,6 @@ struct FileQuestion {
 /// text if the user cancelled. The current folder of the program stays.
 CString AskFileName(CWnd& owner, const FileQuestion& question);
 
-/// Why the system refuses to write a file of this name, in its words; empty if it doesn't refuse. Leaves nothing
-/// behind.
+/// Why the system refuses to write a file of this name, in its words; empty if it doesn't refuse. Leaves
+/// nothing behind.
 CString WhyNotWritable(const CString& path);

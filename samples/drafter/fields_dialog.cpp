@@ -11,7 +11,8 @@ namespace {
 constexpr COLORREF kLightInvalidPaper = RGB(255, 222, 222), kDarkInvalidPaper = RGB(96, 0, 0);
 constexpr COLORREF kInkOnLight = RGB(160, 0, 0), kInkOnDark = RGB(255, 150, 150);
 
-/// The paper of an invalid field, on which the system's text can be read; that of other fields if neither serves.
+/// The paper of an invalid field, on which the system's text can be read; that of other fields if neither
+/// serves.
 COLORREF invalidPaper() {
     const COLORREF text = ::GetSysColor(COLOR_WINDOWTEXT);
     const COLORREF dark = ReadableColor(kDarkInvalidPaper, text, kTextContrast, ::GetSysColor(COLOR_WINDOW));
@@ -31,6 +32,7 @@ IMPLEMENT_DYNAMIC(CFieldsDialog, CKtUiDialog)
 
 BEGIN_MESSAGE_MAP(CFieldsDialog, CKtUiDialog)
     ON_WM_CTLCOLOR()
+    ON_WM_SHOWWINDOW()
 END_MESSAGE_MAP()
 
 CFieldsDialog::CFieldsDialog(UINT templateId, const wchar_t* name, CWnd* parent)
@@ -158,6 +160,12 @@ KBUI_REPLY CFieldsDialog::OnNotifyControlValid(unsigned id, int) {
     if (field == nullptr) return kKbUiReplyNone;
     field->edit->Invalidate();
     return kKbUiReplyHandled;
+}
+
+void CFieldsDialog::OnShowWindow(BOOL show, UINT status) {
+    CKtUiDialog::OnShowWindow(show, status);
+    // The screen may be smaller than when the dialog was last closed.
+    if (show) KtUiBringIntoView(*this);
 }
 
 HBRUSH CFieldsDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {

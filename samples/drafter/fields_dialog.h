@@ -1,6 +1,6 @@
 // CFieldsDialog: a dialog with typed fields. An invalid field turns red while it is typed in, the line
-// IDC_MESSAGE says why: of the field that has the focus, or else of the first invalid one. OK refuses and puts
-// the focus there. A field that the user leaves alone counts as unedited, whatever it shows.
+// IDC_MESSAGE says why: of the field that has the focus, or else of the first invalid one. OK refuses and
+// puts the focus there. A field that the user leaves alone counts as unedited, whatever it shows.
 //
 //     class CSizeDialog : public CFieldsDialog {
 //         CSizeDialog() : CFieldsDialog(IDD_SIZE, L"Size", parent) { AddField(IDC_WIDTH, m_width,
@@ -57,6 +57,7 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     KBUI_REPLY OnNotifyControlValid(unsigned id, int valid) override;
 
+    afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     DECLARE_MESSAGE_MAP()
 

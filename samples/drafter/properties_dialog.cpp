@@ -113,7 +113,7 @@ void CPropertiesDialog::fillLayers() {
     for (const auto& each : kColumns) {
         CString title;
         title.LoadString(each.title);
-        m_layers.InsertColumn(column++, title, LVCFMT_LEFT, each.width);
+        m_layers.InsertColumn(column++, title, LVCFMT_LEFT, KtUiAppearancePixels(m_hWnd, each.width));
     }
     OdDbLayerTablePtr table;
     m_drawing.getLayerTable(table);

@@ -87,8 +87,7 @@ void CPropertyPickers::showPlotStyle(const OdDbDatabase& drawing, const std::opt
 }
 
 std::optional<OdString> CPropertyPickers::pickedPlotStyle() {
-    if (!m_plotStyle.IsWindowEnabled() || m_plotStyle.GetCurSel() < 0 || m_plotStyle.IsVaries())
-        return {};
+    if (!m_plotStyle.IsWindowEnabled() || m_plotStyle.GetCurSel() < 0 || m_plotStyle.IsVaries()) return {};
     CString text;
     m_plotStyle.GetLBText(m_plotStyle.GetCurSel(), text);
     return ktdbIsReservedString(text, kKtdbNormal) ? ktdbGetReservedString(kKtdbNormal, false)

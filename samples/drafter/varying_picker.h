@@ -1,5 +1,5 @@
-// A picker that can say that objects differ: "*VARIES*" is an entry of its own at the head of the list then, so
-// that it can be picked again after another one was tried.
+// A picker that can say that objects differ: "*VARIES*" is an entry of its own at the head of the list then,
+// so that it can be picked again after another one was tried.
 //
 //     class CWeightPicker : public CVaryingPicker<CKtUiLineWeightComboBox> { ... };
 #pragma once

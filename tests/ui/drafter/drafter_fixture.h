@@ -34,13 +34,14 @@ protected:
         oddbHostApplicationServices()->setWorkingDatabase(nullptr);
         ::RegDeleteTreeW(HKEY_CURRENT_USER, kDrafterSettings);
     }
-    /// Shows `dialog`, runs `action` in it, and answers it with `answer`.
+    /// Shows `dialog`, runs `action` once it can be seen, and answers it with `answer`.
     void show(CDialog& dialog, const std::function<void()>& action, int answer = IDCANCEL) {
-        later([&] {
-            pump();
-            action();
-            dialog.PostMessage(WM_COMMAND, static_cast<WPARAM>(answer));
-        });
+        when_window([&](HWND window) { return window == dialog.m_hWnd; },
+                    [&](HWND) {
+                        pump();
+                        action();
+                        dialog.PostMessage(WM_COMMAND, static_cast<WPARAM>(answer));
+                    });
         EXPECT_EQ(dialog.DoModal(), answer);
     }
     static CWnd& item(CWnd& dialog, int id) { return *dialog.GetDlgItem(id); }

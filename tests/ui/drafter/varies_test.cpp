@@ -65,7 +65,7 @@ TEST_F(Varies, ShowsInPickersAndFieldsAndIsNotWritten) {
                 EXPECT_EQ(entry(id), kVaries) << id;
             EXPECT_EQ(field(IDC_THICKNESS), kVaries);
             EXPECT_EQ(field(IDC_HYPERLINK), kVaries);
-            EXPECT_EQ(field(IDC_ELEVATION), L"0");
+            EXPECT_EQ(field(IDC_ELEVATION), L"0.0000") << "the same in both";
             EXPECT_TRUE(field(IDC_MESSAGE).empty()) << "it is no mistake";
         },
         IDOK);
@@ -152,9 +152,10 @@ TEST_F(Varies, OneObjectIsOne) {
     WithOwnSettings<CPropertiesDialog> one(*drawing, objects, &parent);
     show(one, [&] {
         EXPECT_STREQ(text_of(one.m_hWnd), L"Properties - 1 object");
-        EXPECT_EQ(item(one, IDC_LINE_WEIGHT).SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                                         reinterpret_cast<LPARAM>(kVaries)),
-                  CB_ERR);
+        EXPECT_EQ(
+            item(one, IDC_LINE_WEIGHT)
+                .SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(kVaries)),
+            CB_ERR);
     });
 }
 
