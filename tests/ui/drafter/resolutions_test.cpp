@@ -80,7 +80,7 @@ TEST_P(Resolutions, TextsOfTheDrafterAreWhole) {
 
 TEST_P(Resolutions, TextsOfTheStandinHostAreWhole) {
     for (const int id : {IDD_COLOR, IDD_LINETYPES, IDD_LOAD_LINETYPES, IDD_PLOT_STYLES})
-        expectWhole(::GetModuleHandleW(L"standin.dll"), id);
+        expectWhole(::GetModuleHandleW(L"ktstandin.dll"), id);
 }
 
 INSTANTIATE_TEST_SUITE_P(, Resolutions,
