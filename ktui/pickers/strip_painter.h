@@ -14,8 +14,8 @@ void DrawStripPicture(CDC& dc, const RECT& image, CBitmap& strip, int top, int w
 /// Loads the library's own bitmap `id` into `strip`, which stays empty if there is no such bitmap.
 void LoadStrip(CBitmap& strip, UINT id);
 
-/// Side in pixels of the pictures for a control: `agreed`, or for a host that follows the system the one of `agreed`,
-/// 20, 24 and 32 that suits the resolution of `window`.
+/// Side in pixels of the pictures for a control: `agreed`, or for a host that follows the system the one of
+/// `agreed`, 20, 24 and 32 that suits the resolution of `window`.
 int StripSize(HWND window, int agreed);
 
 /// Loads `strip` anew if it should look otherwise than `look` says, for a host that follows the system. The

@@ -12,10 +12,15 @@ constexpr int kShades = 10;
 constexpr int kRows = kShades + 2;
 constexpr int kPlainFirst = 1, kPlainLast = 9, kGreyFirst = 250, kGreyLast = 255;
 constexpr int kGreyColumn = 12;
-constexpr int kLeastDifference = 60;  // of brightness, 0 to 255, below which a swatch needs an outline
+constexpr int kLeastDifference = 60;  // of red, green or blue, so that a swatch needs no outline
 
-int brightness(COLORREF color) {
-    return (299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color)) / 1000;
+/// Whether a swatch of this colour would be taken for the paper around it.
+bool isLikePaper(COLORREF color, COLORREF paper) {
+    const int differences[] = {GetRValue(color) - GetRValue(paper), GetGValue(color) - GetGValue(paper),
+                               GetBValue(color) - GetBValue(paper)};
+    for (const int difference : differences)
+        if (std::abs(difference) >= kLeastDifference) return false;
+    return true;
 }
 
 }  // namespace
@@ -130,7 +135,7 @@ void CColorPalette::DrawItem(LPDRAWITEMSTRUCT item) {
             dc.FillSolidRect(&cell, face);
             cell.DeflateRect(1, 1);
         }
-        if (std::abs(brightness(color) - brightness(face)) < kLeastDifference) {
+        if (isLikePaper(color, face)) {
             dc.FillSolidRect(&cell, ink);
             cell.DeflateRect(1, 1);
         }

@@ -1,5 +1,5 @@
 // A picker that has the focus shows it, whoever paints its face.
-#include <ktui/host/theme_api.h>
+#include <ktui/host/test_door.h>
 
 #include "../../../samples/drafter/dimension_style_dialog.h"
 #include "drafter_fixture.h"
@@ -33,9 +33,9 @@ struct PlainTheme {
         api.isThemeBackgroundPartiallyTransparent = Opaque;
         api.drawThemeBackground = Draw;
         api.getThemeBackgroundContentRect = Content;
-        m_former = ExchangeThemeApi(api);
+        m_former = KtUiTestDoor().exchangeThemeApi(api);
     }
-    ~PlainTheme() { ExchangeThemeApi(m_former); }
+    ~PlainTheme() { KtUiTestDoor().exchangeThemeApi(m_former); }
 
 private:
     ThemeApi m_former;
