@@ -1,6 +1,7 @@
 #include <ktui/pickers/arrow_head_combo_box.h>
 
 #include <ktdsres/resource_ids.h>
+#include <ktui/host/appearance.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/pickers/arrowheads.h>
 #include <ktui/pickers/strip_painter.h>
@@ -51,7 +52,7 @@ int CKtUiArrowHeadComboBox::AddArrowHeadToMRU(const wchar_t* text) {
 }
 
 int CKtUiArrowHeadComboBox::CalcItemHeight() {
-    m_imageSize = StripSize(m_hWnd, kArrowheadSize);
+    if (KtUiFollowsSystemAppearance()) m_imageSize = StripSize(m_hWnd, kArrowheadSize);
     return m_imageSize;
 }
 

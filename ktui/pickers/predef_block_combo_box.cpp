@@ -1,5 +1,6 @@
 #include <ktui/pickers/predef_block_combo_box.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/pickers/predef_blocks.h>
 #include <ktui/pickers/strip_painter.h>
@@ -24,7 +25,7 @@ int CKtUiPredefBlockComboBox::AddPredefBlockToMRU(const wchar_t* text) {
 }
 
 int CKtUiPredefBlockComboBox::CalcItemHeight() {
-    m_imageSize = StripSize(m_hWnd, kBlockPictureWidth);
+    if (KtUiFollowsSystemAppearance()) m_imageSize = StripSize(m_hWnd, kBlockPictureWidth);
     return m_imageSize;
 }
 
