@@ -10,6 +10,7 @@ import picker_strips
 
 RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
 MASK = (255, 0, 255)
+LARGER_SIZES = (20, 24, 32)  # pixels, for 125, 150 and 200 %
 
 
 def write_bmp(path, rows):
@@ -134,14 +135,34 @@ def shape_font_icon():
     ), FONT_LINE)
 
 
+def smooth_icon(size, ink, *lines):
+    """An icon of lines in pixels of the 15 by 15 one, drawn smoothly at another size."""
+    image = picker_strips.LargerImage(15, 15, size)
+    for line in lines:
+        image.line(*line)
+    return [[ink[:3] + (255 - paper[1],) for paper in row] for row in image.rendered()]
+
+
+def larger_true_type_icon(size):
+    return smooth_icon(size, FONT_INK, (1, 1, 10, 1), (1, 1, 1, 2), (10, 1, 10, 2), (5, 1, 5, 9), (6, 1, 6, 9),
+                       (4, 9, 7, 9), (7, 4, 14, 4), (14, 4, 14, 5), (9, 4, 9, 13), (10, 4, 10, 13), (8, 13, 11, 13))
+
+
+def larger_shape_font_icon(size):
+    return smooth_icon(size, FONT_LINE, (1, 13, 7, 1), (7, 1, 13, 13), (3, 8, 11, 8))
+
+
 def main():
     RES.mkdir(parents=True, exist_ok=True)
     write_bmp(RES / "drop_arrows.bmp", side_by_side(drop_arrow((0, 0, 0)), drop_arrow((128, 128, 128))))
     write_bmp(RES / "arrowheads.bmp", picker_strips.arrowhead_strip())
     write_bmp(RES / "blocks.bmp", picker_strips.block_strip())
     write_ico(RES / "dialog.ico", [dialog_icon(size) for size in (16, 32, 48)])
-    write_ico(RES / "true_type.ico", [true_type_icon()])
-    write_ico(RES / "shape_font.ico", [shape_font_icon()])
+    for size in LARGER_SIZES:
+        write_bmp(RES / f"arrowheads_{size}.bmp", picker_strips.larger_arrowhead_strip(size))
+        write_bmp(RES / f"blocks_{size}.bmp", picker_strips.larger_block_strip(size))
+    write_ico(RES / "true_type.ico", [true_type_icon()] + [larger_true_type_icon(size) for size in LARGER_SIZES])
+    write_ico(RES / "shape_font.ico", [shape_font_icon()] + [larger_shape_font_icon(size) for size in LARGER_SIZES])
 
 
 if __name__ == "__main__":

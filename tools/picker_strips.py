@@ -1,6 +1,7 @@
 """The picture strips of the arrowhead and block pickers, as rows of (r, g, b) pixels.
 
-Each strip is one image wide; its images are stacked one above the other. make_bitmaps.py writes them.
+Each strip is one image wide; its images are stacked one above the other. make_bitmaps.py writes them. At the agreed
+size every pixel is set as it stands here; larger strips are drawn from the same strokes, with smooth edges.
 """
 import math
 
@@ -29,6 +30,11 @@ class Image:
         for i in range(steps + 1):
             self.dot(outward(x0 + (x1 - x0) * i / steps, middle_x), outward(y0 + (y1 - y0) * i / steps, middle_y), ink)
 
+    def slash(self, x, y, half_width):
+        """A slash across a line's end, `half_width` pixels wide to each side of its middle."""
+        for dy in range(-5, 6):
+            self.line(x - dy - half_width, y + dy, x - dy + half_width, y + dy)
+
     def polygon(self, *corners, fill=None, ink=INK):
         """The outline through `corners`, filled with `fill` unless that is None."""
         if fill:
@@ -51,6 +57,68 @@ class Image:
                     self.dot(x + dx, y + dy, fill)
 
 
+class LargerImage:
+    """The same calls at another size: keeps the strokes and draws them smoothly.
+
+    Coordinates are still pixels of the agreed size; the middle of pixel x lies at x + 0.5.
+    """
+    SAMPLES = 5  # of a pixel, each way
+
+    def __init__(self, width, height, size):
+        self.scale = size / width
+        self.size = size, size + height - width
+        self.pen = max(1, round(self.scale))  # pixels
+        self.strokes = []  # (whether a place is covered, ink), later ones on top
+
+    def snapped(self, at):
+        """The coordinate nearest to `at` where a stroke of the pen covers whole pixels."""
+        return (round((at + 0.5) * self.scale - self.pen / 2) + self.pen / 2) / self.scale - 0.5
+
+    def dot(self, x, y, ink=INK):
+        self.strokes.append((lambda px, py, half: abs(px - x) <= 0.5 and abs(py - y) <= 0.5, ink))
+
+    def line(self, x0, y0, x1, y1, ink=INK):
+        ends = [self.snapped(at) for at in (x0, y0, x1, y1)]
+        self.strokes.append((lambda px, py, half: to_segment(px, py, *ends) <= half, ink))
+
+    def slash(self, x, y, half_width):
+        ends = x + 5, y - 5, x - 5, y + 5
+        self.strokes.append((lambda px, py, half: to_segment(px, py, *ends) <= half + half_width * 0.75, INK))
+
+    def polygon(self, *corners, fill=None, ink=INK):
+        if fill:
+            self.strokes.append((lambda px, py, half: inside(px, py, corners), fill))
+        for (x0, y0), (x1, y1) in zip(corners, corners[1:] + corners[:1]):
+            self.line(x0, y0, x1, y1, ink)
+
+    def circle(self, x, y, radius, fill=None, ink=INK):
+        if fill:
+            self.strokes.append((lambda px, py, half: math.hypot(px - x, py - y) <= radius, fill))
+        self.strokes.append((lambda px, py, half: abs(math.hypot(px - x, py - y) - radius) <= half, ink))
+
+    def rendered(self):
+        half = self.pen / self.scale / 2
+        return [[self.pixel(x, y, self.scale, half) for x in range(self.size[0])] for y in range(self.size[1])]
+
+    def pixel(self, x, y, scale, half):
+        total = [0, 0, 0]
+        for row in range(self.SAMPLES):
+            for column in range(self.SAMPLES):
+                px = (x + (column + 0.5) / self.SAMPLES) / scale - 0.5
+                py = (y + (row + 0.5) / self.SAMPLES) / scale - 0.5
+                color = next((ink for covers, ink in reversed(self.strokes) if covers(px, py, half)), PAPER)
+                total = [sum(parts) for parts in zip(total, color)]
+        return tuple(round(part / self.SAMPLES ** 2) for part in total)
+
+
+def to_segment(x, y, x0, y0, x1, y1):
+    """Distance of a place from a line."""
+    dx, dy = x1 - x0, y1 - y0
+    length = dx * dx + dy * dy
+    along = max(0, min(1, ((x - x0) * dx + (y - y0) * dy) / length)) if length else 0
+    return math.hypot(x - x0 - along * dx, y - y0 - along * dy)
+
+
 def inside(x, y, corners):
     """Whether a point lies in a polygon, by counting the edges to its right."""
     odd = False
@@ -66,12 +134,13 @@ ARROW_SIZE, TIP, MIDDLE, END = 15, 1, 7, 14
 
 
 def arrow(draw, line_from=None):
-    """An arrowhead drawn by `draw`, with its dimension line from `line_from` on (None for no line)."""
-    image = Image(ARROW_SIZE, ARROW_SIZE)
-    if line_from is not None:
-        image.line(line_from, MIDDLE, END, MIDDLE)
-    draw(image)
-    return image.rows
+    """What draws an arrowhead: `draw`, and its dimension line from `line_from` on (None for no line)."""
+    def on(image):
+        if line_from is not None:
+            image.line(line_from, MIDDLE, END, MIDDLE)
+        draw(image)
+        return image
+    return on
 
 
 def triangle(image, fill=None):
@@ -89,12 +158,6 @@ def box(image, fill=None):
 
 def datum(image, fill=None):
     image.polygon((2, MIDDLE - 5), (2, MIDDLE + 5), (7, MIDDLE), fill=fill)
-
-
-def slash(image, half):
-    """A slash across the line's end, `half` pixels wide to each side of its middle."""
-    for dy in range(-5, 6):
-        image.line(6 - dy - half, MIDDLE + dy, 6 - dy + half, MIDDLE + dy)
 
 
 def integral(image):
@@ -123,20 +186,31 @@ ARROWHEADS = [
     arrow(triangle, 1),                                             # 9 closed: the line goes through
     arrow(lambda image: image.circle(5, MIDDLE, 2), 7),             # 10 small open dot
     arrow(lambda image: None, 1),                                   # 11 none
-    arrow(lambda image: slash(image, 0), 3),                        # 12 oblique
+    arrow(lambda image: image.slash(6, MIDDLE, 0), 3),                        # 12 oblique
     arrow(lambda image: box(image, INK), 10),                       # 13 box, filled
     arrow(box, 10),                                                 # 14 box
     arrow(triangle, 9),                                             # 15 closed, blank
     arrow(lambda image: datum(image, INK), 7),                      # 16 datum triangle, filled
     arrow(datum, 7),                                                # 17 datum triangle
     arrow(integral, 8),                                             # 18 integral
-    arrow(lambda image: slash(image, 1), 3),                        # 19 architectural tick
+    arrow(lambda image: image.slash(6, MIDDLE, 1), 3),                        # 19 architectural tick
 ]
 
 
+def stacked_sharing(images):
+    """Neighbouring images share one row: 20 images of 15 are 281 rows."""
+    return sum((image[:-1] for image in images), []) + [images[-1][-1]]
+
+
 def arrowhead_strip():
-    """Neighbouring images share one row: 20 images are 281 rows."""
-    return sum((image[:-1] for image in ARROWHEADS), []) + [ARROWHEADS[-1][-1]]
+    return stacked_sharing([draw(Image(ARROW_SIZE, ARROW_SIZE)).rows for draw in ARROWHEADS])
+
+
+def larger_arrowhead_strip(size):
+    """The images at `size`; their first and last row are paper here as well."""
+    images = [draw(LargerImage(ARROW_SIZE, ARROW_SIZE, size)).rendered() for draw in ARROWHEADS]
+    paper = [PAPER] * size
+    return stacked_sharing([[paper] + image[1:-1] + [paper] for image in images])
 
 
 # Callout blocks: 16 by 17 pixels, stacked without sharing. The letter stands for the text that a callout holds.
@@ -189,11 +263,24 @@ def triangle_block(image):
     letter(image, 7, 8)
 
 
+BLOCKS = (detail, slot, ring, square, hexagon, triangle_block, lambda image: None)
+
+
 def block_strip():
     """Six images, then a blank one that the entry for a user's own block is drawn from."""
     rows = []
-    for draw in (detail, slot, ring, square, hexagon, triangle_block, lambda image: None):
+    for draw in BLOCKS:
         image = Image(BLOCK_WIDTH, BLOCK_HEIGHT)
         draw(image)
         rows += image.rows
+    return rows
+
+
+def larger_block_strip(size):
+    """The images `size` wide and one pixel higher."""
+    rows = []
+    for draw in BLOCKS:
+        image = LargerImage(BLOCK_WIDTH, BLOCK_HEIGHT, size)
+        draw(image)
+        rows += image.rendered()
     return rows

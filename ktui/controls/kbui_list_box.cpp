@@ -2,6 +2,7 @@
 
 #include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
+#include <ktui/host/appearance.h>
 #include <ktui/host/tip_painting.h>
 #include <ktui/input/kbui_combo_box.h>
 
@@ -78,7 +79,7 @@ void CKbUiListBox::OnDrawTip(CDC& dc) {
     item.rcItem = CRect(0, 0, m_tipRect.Width(), m_tipRect.Height());
     item.itemData = static_cast<ULONG_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(m_tipItem), 0));
 
-    dc.FillSolidRect(&item.rcItem, kDrawnTipFill);
+    dc.FillSolidRect(&item.rcItem, KtUiAppearanceColor(kDrawnTipFill, COLOR_WINDOW));
     const ControlFont font(dc, *this);
     dc.SetBkMode(TRANSPARENT);
     SendMessage(WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));

@@ -1,6 +1,7 @@
 // The tips of a dialog: the decision which tip to show, and the windows that show it.
 #include <ktui/dialogs/kbui_base_dialog.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/host/window_context.h>
 #include <ktui/tips/kbui_text_tip.h>
 
@@ -36,8 +37,8 @@ void CKbUiBaseDialog::createTips() {
     EnableToolTips(TRUE);
     m_toolTip = new CToolTipCtrl;
     m_toolTip->Create(this, TTS_ALWAYSTIP);
-    m_toolTip->SendMessage(TTM_SETTIPBKCOLOR, kToolTipPaper);
-    m_toolTip->SendMessage(TTM_SETTIPTEXTCOLOR, kToolTipInk);
+    m_toolTip->SendMessage(TTM_SETTIPBKCOLOR, KtUiAppearanceColor(kToolTipPaper, COLOR_INFOBK));
+    m_toolTip->SendMessage(TTM_SETTIPTEXTCOLOR, KtUiAppearanceColor(kToolTipInk, COLOR_INFOTEXT));
     RECT margin = {kToolTipMargin, kToolTipMargin, kToolTipMargin, kToolTipMargin};
     m_toolTip->SendMessage(TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
     m_toolTip->SendMessage(TTM_SETMAXTIPWIDTH, 0, kToolTipMaxWidth);

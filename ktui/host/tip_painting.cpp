@@ -1,5 +1,6 @@
 #include <ktui/host/tip_painting.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/host/control_font.h>
 
 namespace {
@@ -12,8 +13,9 @@ constexpr int kTipPadding = 2;  // pixels between the frame and the text
 
 void PaintFramedTip(CWnd& control, CKbUiDrawTipText& tip) {
     CDC& dc = tip.m_dc;
-    CBrush fill(kTipFill);
-    CPen frame(PS_SOLID, 1, kTipInk);
+    CBrush fill(KtUiAppearanceColor(kTipFill, COLOR_INFOBK));
+    const COLORREF ink = KtUiAppearanceColor(kTipInk, COLOR_INFOTEXT);
+    CPen frame(PS_SOLID, 1, ink);
     CBrush* formerBrush = dc.SelectObject(&fill);
     CPen* formerPen = dc.SelectObject(&frame);
     dc.Rectangle(&tip.m_rect);
@@ -22,7 +24,7 @@ void PaintFramedTip(CWnd& control, CKbUiDrawTipText& tip) {
 
     tip.m_rect.DeflateRect(kTipPadding, kTipPadding);
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(kTipInk);
+    dc.SetTextColor(ink);
     const ControlFont font(dc, control);
     dc.DrawText(tip.m_text, &tip.m_rect, DT_SINGLELINE | DT_VCENTER);
 }

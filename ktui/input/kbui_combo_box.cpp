@@ -144,7 +144,9 @@ BOOL CKbUiComboBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 }
 
 BOOL CKbUiComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    return CComboBox::OnChildNotify(message, wParam, lParam, result);
+    const BOOL handled = CComboBox::OnChildNotify(message, wParam, lParam, result);
+    if (message == WM_DRAWITEM) markFocus(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    return handled;
 }
 
 KBUI_REPLY CKbUiComboBox::DoKbUiMessage(KBUI_NOTIFY notification, unsigned, __int64 datum) {

@@ -102,4 +102,6 @@ private:
     bool isThemedFace() const;
     void OnPaint();
     void drawFace(CDC& dc, const RECT& content, unsigned itemState);
+    /// Marks the field of a focused drop-down list that the platform has drawn.
+    void markFocus(const DRAWITEMSTRUCT& item);
 };

@@ -96,6 +96,13 @@ void CKbUiComboBox::drawFace(CDC& dc, const RECT& content, unsigned itemState) {
     DrawItem(&item);
 }
 
+void CKbUiComboBox::markFocus(const DRAWITEMSTRUCT& item) {
+    // The platform leaves the mark of an owner-drawn field to whoever draws it, and DrawItem draws none.
+    constexpr UINT kFocusedFace = ODS_COMBOBOXEDIT | ODS_FOCUS;
+    const bool isFocused = (item.itemState & (kFocusedFace | ODS_NOFOCUSRECT)) == kFocusedFace;
+    if (isFocused && IsStatic()) CDC::FromHandle(item.hDC)->DrawFocusRect(&item.rcItem);
+}
+
 void CKbUiComboBox::DrawItem(LPDRAWITEMSTRUCT item) {
     if (static_cast<int>(item->itemID) < 0) return;
     CDC* dc = CDC::FromHandle(item->hDC);

@@ -1,6 +1,7 @@
 #include <ktui/pickers/arrow_head_combo_box.h>
 
 #include <ktdsres/resource_ids.h>
+#include <ktui/host/appearance.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/pickers/arrowheads.h>
 #include <ktui/pickers/strip_painter.h>
@@ -50,7 +51,10 @@ int CKtUiArrowHeadComboBox::AddArrowHeadToMRU(const wchar_t* text) {
     return AddItemToMRU(text, GenerateCargoFromMRU(m_itemCount));
 }
 
-int CKtUiArrowHeadComboBox::CalcItemHeight() { return m_imageSize; }
+int CKtUiArrowHeadComboBox::CalcItemHeight() {
+    if (KtUiFollowsSystemAppearance()) m_imageSize = StripSize(m_hWnd, kArrowheadSize);
+    return m_imageSize;
+}
 
 int CKtUiArrowHeadComboBox::GetOtherName(int which, CString& text) {
     if (which != 0)
@@ -72,6 +76,7 @@ void CKtUiArrowHeadComboBox::OnAddItems() {
 
 void CKtUiArrowHeadComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     if (cargo < 0 || cargo >= m_itemCount) return;
+    RefreshStrip(m_strip, m_stripLook, m_imageSize, kArrowheadSize, IDB_ARROWHEADS, IDB_LARGER_ARROWHEADS);
     const int top = ArrowheadStripTop(cargo, m_imageSize);
     if (top < 0) return;
     DrawStripPicture(dc, rect, m_strip, top, m_imageSize, m_imageSize);

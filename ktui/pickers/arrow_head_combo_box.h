@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ktui/pickers/mru_combo_box.h>
+#include <ktui/pickers/strip_look.h>
 
 class KTUI_API CKtUiArrowHeadComboBox : public CKtUiMRUComboBox {
     DECLARE_DYNAMIC(CKtUiArrowHeadComboBox)
@@ -32,4 +33,7 @@ protected:
     int m_itemCount;
     int m_imageSize;  ///< pixels
     int m_useOrigin2 = 0;
+
+private:
+    StripLook m_stripLook;  ///< what the strip was loaded for; unused with the agreed look
 };

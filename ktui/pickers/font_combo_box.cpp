@@ -2,6 +2,7 @@
 
 #include <kh_font_list.h>
 #include <kh_system.h>
+#include <ktui/host/appearance.h>
 #include <ktui/pickers/font_icon.h>
 #include <ktui/res/resource_ids.h>
 
@@ -27,6 +28,7 @@ IMPLEMENT_DYNAMIC(CKtUiFontComboBox, CKtUiMRUComboBox)
 BEGIN_MESSAGE_MAP(CKtUiFontComboBox, CKtUiMRUComboBox)
     ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CKtUiFontComboBox::OnDropDown)
     ON_CONTROL_REFLECT_EX(CBN_SELCHANGE, &CKtUiFontComboBox::OnSelChange)
+    ON_CONTROL_REFLECT_EX(CBN_SELENDCANCEL, &CKtUiFontComboBox::OnSelEndCancel)
 END_MESSAGE_MAP()
 
 CKtUiFontComboBox::CKtUiFontComboBox()
@@ -73,12 +75,20 @@ bool CKtUiFontComboBox::selectedStyle(CString& text) const {
     return true;
 }
 
-int CKtUiFontComboBox::CalcItemHeight() { return GetCount() > 0 ? GetItemHeight(0) : kEmptyListItemHeight; }
+int CKtUiFontComboBox::CalcItemHeight() {
+    if (KtUiFollowsSystemAppearance())
+        return std::max(FontIconSize(m_hWnd), CKtUiMRUComboBox::CalcItemHeight());
+    return GetCount() > 0 ? GetItemHeight(0) : kEmptyListItemHeight;
+}
 
 void CKtUiFontComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     const CKhFont* font = fontOf(cargo);
     if (!font) return;
-    DrawFontIcon(dc, rect.TopLeft(), CalcItemHeight(), font->isShx() ? m_shxIcon : m_trueTypeIcon);
+    const int size = KtUiFollowsSystemAppearance() ? FontIconSize(m_hWnd) : CalcItemHeight();
+    if (font->isShx())
+        DrawFontIconFor(dc, rect.TopLeft(), size, m_shxIcon, IDI_SHX_FONT);
+    else
+        DrawFontIconFor(dc, rect.TopLeft(), size, m_trueTypeIcon, IDI_TRUE_TYPE_FONT);
 }
 
 void CKtUiFontComboBox::OnAddItems() {
@@ -103,6 +113,9 @@ BOOL CKtUiFontComboBox::OnDropDown() {
         widest = std::max(widest, width);
     }
     SetDroppedWidth(static_cast<UINT>(widest));
+    m_formerFont = m_shownFont;
+    m_formerStyle.Empty();
+    selectedStyle(m_formerStyle);
     // Kept: the Other items of the base class aren't added, whatever its flags say.
     return FALSE;
 }
@@ -112,8 +125,23 @@ BOOL CKtUiFontComboBox::OnSelChange() {
     return FALSE;
 }
 
+/// The former font is selected again by now; the buddy follows it.
+BOOL CKtUiFontComboBox::OnSelEndCancel() {
+    if (!m_buddy || m_shownFont == m_formerFont) return FALSE;
+    m_shownFont = m_formerFont;
+    if (GetCurSel() == CB_ERR) {
+        m_buddy->ResetContent();
+        m_buddy->EnableWindow(FALSE);
+        return FALSE;
+    }
+    showStyles();
+    m_buddy->SetCurSel(m_formerStyle.IsEmpty() ? -1 : m_buddy->FindStringExact(-1, m_formerStyle));
+    return FALSE;
+}
+
 void CKtUiFontComboBox::showStyles() {
     if (!m_buddy || GetCurSel() == CB_ERR) return;
+    m_shownFont = GetCurrentItemCargo();
     m_buddy->ResetContent();
     m_buddy->EnableWindow(TRUE);
     const CKhFont* font = fontOf(GetCurrentItemCargo());

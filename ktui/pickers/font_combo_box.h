@@ -36,6 +36,7 @@ public:
 protected:
     afx_msg BOOL OnDropDown();
     afx_msg BOOL OnSelChange();
+    afx_msg BOOL OnSelEndCancel();
     DECLARE_MESSAGE_MAP()
 
     bool m_hideFlaggedStyles = true;
@@ -47,4 +48,8 @@ private:
     void showStyles();
     void addStyles(const CKhFont& font);
     bool selectedStyle(CString& text) const;
+
+    __int64 m_shownFont = 0;   ///< cargo of the font whose styles the buddy lists
+    __int64 m_formerFont = 0;  ///< the same when the list was dropped
+    CString m_formerStyle;     ///< the buddy's when the list was dropped
 };

@@ -5,6 +5,7 @@
 #include <kh_system.h>
 #include <ktut.h>
 #include <od_db_linetype_table.h>
+#include <ktui/host/appearance.h>
 #include <ktui/pickers/working_drawing.h>
 
 #include <algorithm>
@@ -208,7 +209,8 @@ void CKtUiLineTypeComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     OdDbObjectId id = record->m_id;
     // Kept: the answer isn't looked at.
     if (record == m_byLayerRecord) GetCurrentLayerLineType(id);
-    preview->drawLinetype(dc.GetSafeHdc(), sample, id, kSampleInk, kSamplePaper);
+    preview->drawLinetype(dc.GetSafeHdc(), sample, id, KtUiAppearanceColor(kSampleInk, COLOR_WINDOWTEXT),
+                          KtUiAppearanceColor(kSamplePaper, COLOR_WINDOW));
 }
 
 void CKtUiLineTypeComboBox::DrawItem(LPDRAWITEMSTRUCT item) { CKtUiMRUComboBox::DrawItem(item); }

@@ -1,5 +1,6 @@
 #include <ktui/pickers/line_weight_combo_box.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/pickers/viewport_override.h>
 
 #include <ktui/pickers/line_weights.h>
@@ -50,7 +51,8 @@ int CKtUiLineWeightComboBox::ImageWidth() {
     CRect outer(0, 0, 0, 0);
     GetWindowRect(&outer);
     const int half = outer.Width() / 2;
-    return half == 0 ? textWidth : std::min(half, std::max(textWidth, kMinimumImageWidth));
+    return half == 0 ? textWidth
+                     : std::min(half, std::max(textWidth, KtUiAppearancePixels(m_hWnd, kMinimumImageWidth)));
 }
 
 /// The weight to draw for the item with `cargo`; false if nothing is drawn for it.
@@ -73,7 +75,7 @@ void CKtUiLineWeightComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo)
     CRect sample = rect;
     sample.DeflateRect(kSampleMarginX, kSampleMarginY);
     KhUtLWeightUtil::drawLineWeight(dc.GetSafeHdc(), &sample, weight, m_lineWeightScale / kScaleUnit,
-                                    kSampleInk);
+                                    KtUiAppearanceColor(kSampleInk, COLOR_WINDOWTEXT));
 }
 
 void CKtUiLineWeightComboBox::GetLBString(int index, CString& text) {

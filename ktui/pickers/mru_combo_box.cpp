@@ -1,13 +1,15 @@
 #include <ktui/pickers/mru_combo_box.h>
 
 #include <ktdsres/resource_ids.h>
+#include <ktui/host/appearance.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/pickers/mru_list_box.h>
 
 namespace {
 
-constexpr int kItemHeightMargin = 4;  // pixels above and below the font together
-constexpr int kTipHeightMargin = 4;   // pixels at the top and at the bottom
+constexpr int kItemHeightMargin = 4;             // pixels above and below the font together
+constexpr UINT kDpiChangedAfterParent = 0x02E3;  // told to children when the window's monitor is another
+constexpr int kTipHeightMargin = 4;              // pixels at the top and at the bottom
 
 }  // namespace
 
@@ -92,10 +94,39 @@ BOOL CKtUiMRUComboBox::OnSelEndOk() {
     return FALSE;
 }
 
+BOOL CKtUiMRUComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    if (message == WM_COMMAND) followOpenList(HIWORD(wParam));
+    return CKtUiComboBox::OnChildNotify(message, wParam, lParam, result);
+}
+
+/// Keeps what a cancel puts back. The platform leaves it open whether it does so itself.
+void CKtUiMRUComboBox::followOpenList(UINT notification) {
+    switch (notification) {
+        case CBN_DROPDOWN:
+            m_isListOpen = true;
+            m_formerSelection = GetCurSel();
+            break;
+        case CBN_SELENDCANCEL:
+            // One comes with the loss of the focus as well, for a list that isn't open.
+            if (m_isListOpen && GetCurSel() != m_formerSelection) SetCurSel(m_formerSelection);
+            break;
+        case CBN_CLOSEUP: m_isListOpen = false; break;
+        default: break;
+    }
+}
+
+/// What the program selects while the list is open is no choice that the user can cancel.
+void CKtUiMRUComboBox::followProgram(UINT message, WPARAM wParam) {
+    if (message == CB_SETCURSEL) m_formerSelection = static_cast<int>(wParam);
+    if (message == CB_RESETCONTENT) m_formerSelection = -1;
+}
+
 LRESULT CKtUiMRUComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     // Kept: the item selected before the message decides, not the one it selects.
     if (message == CB_SETCURSEL) SetLastSelection(static_cast<int>(wParam));
-    if (message == WM_THEMECHANGED) RecalcHeight();
+    const bool movedToOtherDpi = message == kDpiChangedAfterParent && KtUiFollowsSystemAppearance();
+    if (message == WM_THEMECHANGED || movedToOtherDpi) RecalcHeight();
+    followProgram(message, wParam);
     return CKtUiComboBox::WindowProc(message, wParam, lParam);
 }
 

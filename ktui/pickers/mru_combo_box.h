@@ -12,6 +12,9 @@
 //
 // A list reads: store entries (newest first), option 1, option 2, the picker's own. Other items join at the
 // first drop-down. Nothing is persisted.
+//
+// Escape, a click elsewhere or the loss of the focus cancel an open list: the item selected when it was
+// dropped, or by the program since then, is selected again before anybody hears CBN_SELENDCANCEL.
 #pragma once
 
 #include <ktui/input/ktui_combo_box.h>
@@ -131,6 +134,7 @@ public:
 protected:
     BOOL OnGetTipRect(CRect& rect) override;
     void PreSubclassWindow() override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -162,6 +166,10 @@ protected:
 private:
     void addOtherItem(int which);
     int chosenOther(int selection);
+    void followOpenList(UINT notification);
+    void followProgram(UINT message, WPARAM wParam);
 
     bool m_isBeingCreated = false;
+    bool m_isListOpen = false;
+    int m_formerSelection = -1;  ///< while the list is open: what a cancel puts back
 };

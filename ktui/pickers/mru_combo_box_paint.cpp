@@ -1,6 +1,8 @@
 // How CKtUiMRUComboBox draws an item: image, background, text.
 #include <ktui/pickers/mru_combo_box.h>
 
+#include <ktui/host/appearance.h>
+
 void CKtUiMRUComboBox::DrawItem(LPDRAWITEMSTRUCT item) {
     const int index = static_cast<int>(item->itemID);
     if (index == -1) return;
@@ -22,6 +24,8 @@ void CKtUiMRUComboBox::SetupForImageDraw(DRAWITEMSTRUCT* item, CDC*, CRect& item
     imageRect = itemRect;
     imageRect.right = imageRect.left + ImageWidth();
     textColor = ::GetSysColor(selected && !inEdit ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
+    if ((item->itemState & ODS_DISABLED) && KtUiFollowsSystemAppearance())
+        textColor = ::GetSysColor(COLOR_GRAYTEXT);
     backColor = ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW);
 }
 

@@ -1,5 +1,6 @@
 #include <ktui/pickers/predef_block_combo_box.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/pickers/predef_blocks.h>
 #include <ktui/pickers/strip_painter.h>
@@ -23,7 +24,10 @@ int CKtUiPredefBlockComboBox::AddPredefBlockToMRU(const wchar_t* text) {
     return AddItemToMRU(text, GenerateCargoFromMRU(m_itemCount + 1));
 }
 
-int CKtUiPredefBlockComboBox::CalcItemHeight() { return m_imageSize; }
+int CKtUiPredefBlockComboBox::CalcItemHeight() {
+    if (KtUiFollowsSystemAppearance()) m_imageSize = StripSize(m_hWnd, kBlockPictureWidth);
+    return m_imageSize;
+}
 
 void CKtUiPredefBlockComboBox::OnAddItems() {
     for (const PredefBlock& block : PredefBlocks())
@@ -32,6 +36,7 @@ void CKtUiPredefBlockComboBox::OnAddItems() {
 
 void CKtUiPredefBlockComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     if (cargo < 0 || cargo > m_itemCount) return;
+    RefreshStrip(m_strip, m_stripLook, m_imageSize, kBlockPictureWidth, IDB_BLOCKS, IDB_LARGER_BLOCKS);
     const int top = BlockStripTop(cargo, m_imageSize);
     if (top < 0) return;
     DrawStripPicture(dc, rect, m_strip, top, m_imageSize, m_imageSize + 1);

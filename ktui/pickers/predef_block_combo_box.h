@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ktui/pickers/mru_combo_box.h>
+#include <ktui/pickers/strip_look.h>
 
 class KTUI_API CKtUiPredefBlockComboBox : public CKtUiMRUComboBox {
     DECLARE_DYNAMIC(CKtUiPredefBlockComboBox)
@@ -21,4 +22,7 @@ protected:
     CBitmap m_strip;  ///< empty if it couldn't be loaded; items then show no image
     int m_itemCount;  ///< of the blocks with a picture
     int m_imageSize;  ///< pixels
+
+private:
+    StripLook m_stripLook;  ///< what the strip was loaded for; unused with the agreed look
 };

@@ -2,6 +2,7 @@
 
 #include <kh_font_list.h>
 #include <kh_system.h>
+#include <ktui/host/appearance.h>
 #include <ktui/pickers/font_icon.h>
 #include <ktui/res/resource_ids.h>
 
@@ -20,6 +21,9 @@ CKtUiShxFontList::CKtUiShxFontList() : m_shxIcon(LoadFontIcon(IDI_SHX_FONT, LR_D
 CKtUiShxFontList::~CKtUiShxFontList() { ::DestroyIcon(m_shxIcon); }
 
 void CKtUiShxFontList::FillList(bool bigFonts) {
+    const int height = FontIconSize(m_hWnd);
+    if (KtUiFollowsSystemAppearance() && GetItemHeight(0) <= height)
+        SetItemHeight(0, static_cast<UINT>(height + 1));
     const CKhFontList* fonts = CKhSystem::instance()->runtimeHost()->shxFontList();
     if (!fonts) return;
     ResetContent();
@@ -33,17 +37,22 @@ void CKtUiShxFontList::FillList(bool bigFonts) {
 void CKtUiShxFontList::DrawItem(LPDRAWITEMSTRUCT item) {
     CDC* dc = CDC::FromHandle(item->hDC);
     const bool isSelected = (item->itemState & ODS_SELECTED) != 0;
-    CBrush background(::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    const bool isGrey = KtUiFollowsSystemAppearance() && !IsWindowEnabled();
+    CBrush background(::GetSysColor(isGrey ? COLOR_BTNFACE : isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     dc->FillRect(&item->rcItem, &background);
     if (item->itemID == static_cast<UINT>(-1)) return;
     const CPoint corner(static_cast<int>(item->rcItem.left), static_cast<int>(item->rcItem.top));
-    DrawFontIcon(*dc, corner, kFontIconSize, m_shxIcon);
+    const int size = FontIconSize(m_hWnd);
+    DrawFontIconFor(*dc, corner, size, m_shxIcon, IDI_SHX_FONT);
     CString text;
     GetText(static_cast<int>(item->itemID), text);
-    // Kept: black and white, not the colours of the system.
-    const COLORREF formerColor = dc->SetTextColor(isSelected ? kSelectedText : kText);
+    // Kept: black and white, not the colours of the system, unless the host follows it.
+    const COLORREF ink = isGrey       ? ::GetSysColor(COLOR_GRAYTEXT)
+                         : isSelected ? KtUiAppearanceColor(kSelectedText, COLOR_HIGHLIGHTTEXT)
+                                      : KtUiAppearanceColor(kText, COLOR_WINDOWTEXT);
+    const COLORREF formerColor = dc->SetTextColor(ink);
     const int formerMode = dc->SetBkMode(TRANSPARENT);
-    dc->TextOut(static_cast<int>(corner.x) + kFontIconSize, static_cast<int>(corner.y) + kTextTop, text);
+    dc->TextOut(static_cast<int>(corner.x) + size, static_cast<int>(corner.y) + kTextTop, text);
     dc->SetBkMode(formerMode);
     dc->SetTextColor(formerColor);
 }

@@ -1,10 +1,11 @@
 #include <ktui/pickers/swatch_painter.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/pickers/color_swatch.h>
 
 SwatchPainter::SwatchPainter(CDC& dc, const RECT& image) : m_dc(dc), m_area(SwatchArea(image)) {
     const RECT frame = SwatchFrame(image);
-    if (!IsEmptyRect(frame)) m_dc.FillSolidRect(&frame, RGB(0, 0, 0));
+    if (!IsEmptyRect(frame)) m_dc.FillSolidRect(&frame, KtUiAppearanceColor(RGB(0, 0, 0), COLOR_WINDOWTEXT));
 }
 
 void SwatchPainter::fillSolid(COLORREF color) {

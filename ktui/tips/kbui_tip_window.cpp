@@ -1,5 +1,6 @@
 #include <ktui/tips/kbui_tip_window.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/host/control_font.h>
 #include <ktui/host/text_extent.h>
 
@@ -102,7 +103,7 @@ void CKbUiTipWindow::GetTextExtent(const wchar_t* text, int& width, int& height)
 }
 
 void CKbUiTipWindow::DrawBorder(CDC& dc, CRect& rect, CRect& inner) {
-    CBrush border(kTipInk);
+    CBrush border(KtUiAppearanceColor(kTipInk, COLOR_INFOTEXT));
     dc.FrameRect(&rect, &border);
     inner = rect;
     inner.left += 2;
@@ -114,9 +115,9 @@ void CKbUiTipWindow::DrawContent(CDC& dc, CRect& rect) {
     rect.left -= 2;
     rect.top -= 2;
     rect.DeflateRect(1, 1);
-    dc.FillSolidRect(&rect, kTipPaper);
+    dc.FillSolidRect(&rect, KtUiAppearanceColor(kTipPaper, COLOR_INFOBK));
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(kTipInk);
+    dc.SetTextColor(KtUiAppearanceColor(kTipInk, COLOR_INFOTEXT));
     ControlFont font(dc, *m_control);
     CString text;
     GetWindowText(text);

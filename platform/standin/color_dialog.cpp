@@ -7,12 +7,7 @@
 
 namespace {
 
-// The palette: indexes 10 to 249 in ten rows of 24 hues, below them 1 to 9 and the greys 250 to 255.
-constexpr int kHues = 24;
-constexpr int kShades = 10;
-constexpr int kRows = kShades + 2;
-constexpr int kPlainFirst = 1, kPlainLast = 9, kGreyFirst = 250, kGreyLast = 255;
-constexpr int kGreyColumn = 12;
+constexpr int kFirstIndex = 1, kLastIndex = 255;
 
 }  // namespace
 
@@ -20,7 +15,6 @@ IMPLEMENT_DYNAMIC(CStandinColorDialog, CDialog)
 
 BEGIN_MESSAGE_MAP(CStandinColorDialog, CDialog)
     ON_WM_DRAWITEM()
-    ON_STN_CLICKED(IDC_COLOR_PALETTE, &CStandinColorDialog::OnPalette)
     ON_BN_CLICKED(IDC_COLOR_BYLAYER, &CStandinColorDialog::OnByLayer)
     ON_BN_CLICKED(IDC_COLOR_BYBLOCK, &CStandinColorDialog::OnByBlock)
     ON_EN_CHANGE(IDC_COLOR_INDEX, &CStandinColorDialog::OnIndexChange)
@@ -40,6 +34,8 @@ BOOL CStandinColorDialog::OnInitDialog() {
         EndDialog(-1);
         return FALSE;
     }
+    m_palette.SubclassDlgItem(IDC_COLOR_PALETTE, this);
+    m_palette.Prepare(m_settings.palette, [this](int index) { chooseIndex(index); });
     GetDlgItem(IDC_COLOR_BYLAYER)->EnableWindow(m_settings.allowMeta);
     GetDlgItem(IDC_COLOR_BYBLOCK)->EnableWindow(m_settings.allowMeta);
     if (!m_settings.allowTrueColor) {
@@ -70,27 +66,18 @@ void CStandinColorDialog::refuse(int field) {
 }
 
 void CStandinColorDialog::OnDrawItem(int id, LPDRAWITEMSTRUCT item) {
-    CDC* dc = CDC::FromHandle(item->hDC);
-    const CRect area(item->rcItem);
-    if (id == IDC_COLOR_PALETTE) {
-        drawPalette(*dc, area);
+    if (id != IDC_COLOR_SAMPLE) {
+        CDialog::OnDrawItem(id, item);
         return;
     }
-    dc->FillSolidRect(&area, RGB(0, 0, 0));
-    CRect inner = area;
-    inner.DeflateRect(1, 1);
-    dc->FillSolidRect(&inner, shown(m_color));
+    CDC* dc = CDC::FromHandle(item->hDC);
+    CRect area(item->rcItem);
+    dc->FillSolidRect(&area, ::GetSysColor(COLOR_BTNTEXT));
+    area.DeflateRect(1, 1);
+    dc->FillSolidRect(&area, shown(m_color));
 }
 
-void CStandinColorDialog::OnPalette() {
-    CPoint point;
-    CRect area;
-    ::GetCursorPos(&point);
-    CWnd* palette = GetDlgItem(IDC_COLOR_PALETTE);
-    palette->ScreenToClient(&point);
-    palette->GetClientRect(&area);
-    const int index = indexAt(point, area);
-    if (index == 0) return;
+void CStandinColorDialog::chooseIndex(int index) {
     OdCmColor color;
     color.setColorIndex(index);
     choose(color);
@@ -111,9 +98,8 @@ void CStandinColorDialog::OnByBlock() {
 void CStandinColorDialog::OnIndexChange() {
     if (m_filling) return;
     m_source = Source::kIndex;
-    takeColor();
-    GetDlgItem(IDC_COLOR_SAMPLE)->Invalidate();
-    GetDlgItem(IDC_COLOR_PALETTE)->Invalidate(FALSE);
+    if (takeColor() == 0) showParts();
+    showSample();
 }
 
 void CStandinColorDialog::OnRgbChange() {
@@ -123,7 +109,7 @@ void CStandinColorDialog::OnRgbChange() {
     m_filling = true;
     SetDlgItemText(IDC_COLOR_INDEX, L"");
     m_filling = false;
-    GetDlgItem(IDC_COLOR_SAMPLE)->Invalidate();
+    showSample();
 }
 
 int CStandinColorDialog::takeColor() { return m_source == Source::kIndex ? takeIndex() : takeParts(); }
@@ -134,7 +120,7 @@ int CStandinColorDialog::takeIndex() {
     text.Trim();
     wchar_t* end = nullptr;
     long index = wcstol(text, &end, 10);
-    bool valid = !text.IsEmpty() && *end == 0 && index >= kPlainFirst && index <= kGreyLast;
+    bool valid = !text.IsEmpty() && *end == 0 && index >= kFirstIndex && index <= kLastIndex;
     if (m_settings.allowMeta && text.CompareNoCase(L"ByLayer") == 0) {
         index = OdCmColor::kByLayerIndex;
         valid = true;
@@ -180,13 +166,25 @@ void CStandinColorDialog::showColor() {
     else if (m_color.isByACI())
         index.Format(L"%d", m_color.colorIndex());
     SetDlgItemText(IDC_COLOR_INDEX, index);
+    m_filling = false;
+    showParts();
+    showSample();
+}
+
+/// Red, green and blue follow the color.
+void CStandinColorDialog::showParts() {
     const COLORREF rgb = shown(m_color);
+    m_filling = true;
     SetDlgItemInt(IDC_COLOR_RED, GetRValue(rgb), FALSE);
     SetDlgItemInt(IDC_COLOR_GREEN, GetGValue(rgb), FALSE);
     SetDlgItemInt(IDC_COLOR_BLUE, GetBValue(rgb), FALSE);
     m_filling = false;
+}
+
+void CStandinColorDialog::showSample() {
     GetDlgItem(IDC_COLOR_SAMPLE)->Invalidate();
-    GetDlgItem(IDC_COLOR_PALETTE)->Invalidate(FALSE);
+    const bool isIndexed = m_color.isByACI() && !m_color.isByLayer() && !m_color.isByBlock();
+    m_palette.Select(isIndexed ? m_color.colorIndex() : 0);
 }
 
 COLORREF CStandinColorDialog::shown(const OdCmColor& color) const {
@@ -195,43 +193,4 @@ COLORREF CStandinColorDialog::shown(const OdCmColor& color) const {
     const int index =
         visible.isByBlock() || visible.isByLayer() ? OdCmColor::kForeground : visible.colorIndex();
     return odcmLookupRGB(index, m_settings.palette);
-}
-
-CRect CStandinColorDialog::cellOf(int index, const CRect& area) const {
-    int row, column;
-    if (index >= kGreyFirst) {
-        row = kRows - 1;
-        column = kGreyColumn + index - kGreyFirst;
-    } else if (index <= kPlainLast) {
-        row = kRows - 1;
-        column = index - kPlainFirst;
-    } else {
-        column = index / 10 - 1;
-        // Odd indexes are pale: they lie above, from pale to full; the even ones below, from full to dark.
-        const int shade = index % 10;
-        row = shade % 2 ? 4 - shade / 2 : 5 + shade / 2;
-    }
-    const int width = area.Width() / kHues, height = area.Height() / kRows;
-    return CRect(CPoint(area.left + column * width, area.top + row * height), CSize(width, height));
-}
-
-int CStandinColorDialog::indexAt(CPoint point, const CRect& area) const {
-    for (int index = 1; index <= 255; ++index)
-        if (cellOf(index, area).PtInRect(point)) return index;
-    return 0;
-}
-
-void CStandinColorDialog::drawPalette(CDC& dc, const CRect& area) {
-    dc.FillSolidRect(&area, ::GetSysColor(COLOR_BTNFACE));
-    for (int index = 1; index <= 255; ++index) {
-        CRect cell = cellOf(index, area);
-        const bool chosen = m_color.isByACI() && m_color.colorIndex() == index;
-        if (chosen) dc.FillSolidRect(&cell, ::GetSysColor(COLOR_WINDOWTEXT));
-        cell.DeflateRect(1, 1);
-        if (chosen) {
-            dc.FillSolidRect(&cell, ::GetSysColor(COLOR_WINDOW));
-            cell.DeflateRect(1, 1);
-        }
-        dc.FillSolidRect(&cell, odcmLookupRGB(index, m_settings.palette));
-    }
 }

@@ -5,6 +5,8 @@
 #include <afxwin.h>
 #include <od_cm_color.h>
 
+#include "color_palette.h"
+
 /// What the dialog starts from and offers.
 struct ColorDialogSettings {
     OdCmColor color;       ///< to start from; receives the choice
@@ -25,7 +27,6 @@ protected:
     void OnOK() override;
 
     afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item);
-    afx_msg void OnPalette();
     afx_msg void OnByLayer();
     afx_msg void OnByBlock();
     afx_msg void OnIndexChange();
@@ -44,14 +45,14 @@ private:
     void refuse(int field);
     void choose(const OdCmColor& color);
     void showColor();
-    void drawPalette(CDC& dc, const CRect& area);
-    /// The index under a place of the palette, 0 for none.
-    int indexAt(CPoint point, const CRect& area) const;
-    CRect cellOf(int index, const CRect& area) const;
+    void chooseIndex(int index);
+    void showParts();
+    void showSample();
     COLORREF shown(const OdCmColor& color) const;
 
     ColorDialogSettings& m_settings;
     OdCmColor m_color;
+    CColorPalette m_palette;
     Source m_source = Source::kIndex;
     bool m_filling = false;  ///< the dialog itself writes to the fields
 };

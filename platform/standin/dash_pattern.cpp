@@ -1,5 +1,6 @@
 #include "dash_pattern.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -76,7 +77,9 @@ void DrawLinetypeSample(CDC& dc, const CRect& area, const std::vector<double>& d
     double total = 0;
     for (const double dash : dashes) total += std::abs(dash);
     const int saved = dc.SaveDC();
-    CPen pen(PS_SOLID, 1, foreground);
+    constexpr int kStandardDpi = 96;
+    const int width = std::max(1, dc.GetDeviceCaps(LOGPIXELSY) / kStandardDpi);
+    CPen pen(PS_SOLID, width, foreground);
     dc.SelectObject(&pen);
     dc.IntersectClipRect(&area);
     const int middle = (area.top + area.bottom) / 2;

@@ -2,6 +2,8 @@
 
 #include <commdlg.h>
 
+#include <iterator>
+
 CString AskFileName(CWnd& owner, const FileQuestion& question) {
     wchar_t path[MAX_PATH] = {};
     CString filter;
@@ -18,4 +20,22 @@ CString AskFileName(CWnd& owner, const FileQuestion& question) {
         OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (question.isForSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
     const BOOL chosen = question.isForSaving ? ::GetSaveFileNameW(&request) : ::GetOpenFileNameW(&request);
     return chosen ? CString(path) : CString();
+}
+
+CString WhyNotWritable(const CString& path) {
+    const bool exists = ::GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
+    const HANDLE file =
+        ::CreateFileW(path, GENERIC_WRITE | DELETE, 0, nullptr, exists ? OPEN_EXISTING : CREATE_NEW,
+                      exists ? FILE_ATTRIBUTE_NORMAL : FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    const DWORD error = ::GetLastError();
+    if (file != INVALID_HANDLE_VALUE) {
+        ::CloseHandle(file);
+        return {};
+    }
+    wchar_t words[512] = {};
+    ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, words,
+                     static_cast<DWORD>(std::size(words)), nullptr);
+    CString reason = words;
+    reason.Trim();
+    return reason;
 }

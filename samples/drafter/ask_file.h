@@ -13,3 +13,7 @@ struct FileQuestion {
 /// Asks in front of `owner` for a file to open, which is there, or to save to; its whole path, or an empty
 /// text if the user cancelled. The current folder of the program stays.
 CString AskFileName(CWnd& owner, const FileQuestion& question);
+
+/// Why the system refuses to write a file of this name, in its words; empty if it doesn't refuse. Leaves
+/// nothing behind.
+CString WhyNotWritable(const CString& path);

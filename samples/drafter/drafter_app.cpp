@@ -18,6 +18,7 @@ public:
 
     BOOL InitInstance() override {
         InitKtUiDLL();
+        KtUiFollowSystemAppearance(TRUE);
         // Loading the toolkit has made its resource library the current one; this program's own come first
         // again.
         AfxSetResourceHandle(m_hInstance);

@@ -1,13 +1,30 @@
 #include "fields_dialog.h"
 
 #include <ktdb.h>
+#include <ktui/host/contrast.h>
 
 #include "resource.h"
 
 namespace {
 
-constexpr COLORREF kInvalidPaper = RGB(255, 222, 222);
-constexpr COLORREF kInvalidInk = RGB(160, 0, 0);
+// On light windows and on dark ones.
+constexpr COLORREF kLightInvalidPaper = RGB(255, 222, 222), kDarkInvalidPaper = RGB(96, 0, 0);
+constexpr COLORREF kInkOnLight = RGB(160, 0, 0), kInkOnDark = RGB(255, 150, 150);
+
+/// The paper of an invalid field, on which the system's text can be read; that of other fields if neither
+/// serves.
+COLORREF invalidPaper() {
+    const COLORREF text = ::GetSysColor(COLOR_WINDOWTEXT);
+    const COLORREF dark = ReadableColor(kDarkInvalidPaper, text, kTextContrast, ::GetSysColor(COLOR_WINDOW));
+    return ReadableColor(kLightInvalidPaper, text, kTextContrast, dark);
+}
+
+/// A red for the message that can be read on the dialog, or the dialog's own ink.
+COLORREF messageInk() {
+    const COLORREF paper = ::GetSysColor(COLOR_BTNFACE);
+    const COLORREF onDark = ReadableColor(kInkOnDark, paper, kTextContrast, ::GetSysColor(COLOR_BTNTEXT));
+    return ReadableColor(kInkOnLight, paper, kTextContrast, onDark);
+}
 
 }  // namespace
 
@@ -15,15 +32,16 @@ IMPLEMENT_DYNAMIC(CFieldsDialog, CKtUiDialog)
 
 BEGIN_MESSAGE_MAP(CFieldsDialog, CKtUiDialog)
     ON_WM_CTLCOLOR()
+    ON_WM_SHOWWINDOW()
 END_MESSAGE_MAP()
 
 CFieldsDialog::CFieldsDialog(UINT templateId, const wchar_t* name, CWnd* parent)
-    : CKtUiDialog(templateId, parent, AfxGetInstanceHandle()), m_invalidBrush(kInvalidPaper) {
+    : CKtUiDialog(templateId, parent, AfxGetInstanceHandle()) {
     SetDialogName(name);
 }
 
 void CFieldsDialog::AddField(unsigned id, CKtUiEdit& edit, UINT badText, const CString& example) {
-    m_fields.push_back({id, &edit, badText, example, CString()});
+    m_fields.push_back({id, &edit, badText, example, CString(), false});
 }
 
 void CFieldsDialog::DoDataExchange(CDataExchange* exchange) {
@@ -54,8 +72,22 @@ void CFieldsDialog::FillField(unsigned id, const CString& text) {
         if (field.id != id) continue;
         // Known before it is shown: the control reports at once.
         field.before = text;
+        field.varies = false;
         field.edit->SetWindowText(text);
     }
+}
+
+void CFieldsDialog::FillVaryingField(unsigned id) {
+    CString text;
+    text.LoadString(IDS_VARIES);
+    FillField(id, text);
+    for (Field& field : m_fields)
+        if (field.id == id) field.varies = true;
+}
+
+void CFieldsDialog::bringBackVaries(const Field& field) {
+    if (field.varies && textOf(field).IsEmpty() && !field.edit->Validate())
+        field.edit->SetWindowText(field.before);
 }
 
 CString CFieldsDialog::FieldText(unsigned id) const {
@@ -80,36 +112,76 @@ std::optional<double> CFieldsDialog::EditedAngle(unsigned id) const {
     return number;
 }
 
-void CFieldsDialog::ShowMessage(const CString& text) { SetDlgItemText(IDC_MESSAGE, text); }
+void CFieldsDialog::ShowMessage(const CString& text) {
+    m_message = text;
+    showProblem();
+}
 
-void CFieldsDialog::showProblem(const Field& field) {
+bool CFieldsDialog::isBad(const Field& field) {
+    return field.edit->IsWindowEnabled() && isEdited(field) && !field.edit->Validate();
+}
+
+CString CFieldsDialog::problemOf(const Field& field) {
     CString format, text;
     format.LoadString(field.badText);
     text.Format(format, field.example.GetString());
-    ShowMessage(text);
+    return text;
 }
 
-KBUI_REPLY CFieldsDialog::OnNotifyControlValid(unsigned id, int valid) {
+const CFieldsDialog::Field* CFieldsDialog::badField() const {
+    const Field* first = nullptr;
+    for (const Field& field : m_fields) {
+        if (!isBad(field)) continue;
+        if (::GetFocus() == field.edit->m_hWnd) return &field;
+        if (first == nullptr) first = &field;
+    }
+    return first;
+}
+
+void CFieldsDialog::showProblem() {
+    const Field* bad = badField();
+    SetDlgItemText(IDC_MESSAGE, bad != nullptr ? problemOf(*bad) : m_message);
+}
+
+BOOL CFieldsDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const BOOL handled = CKtUiDialog::OnCommand(wParam, lParam);
+    const unsigned notification = HIWORD(wParam);
+    if (notification != EN_CHANGE && notification != EN_SETFOCUS && notification != EN_KILLFOCUS)
+        return handled;
+    const Field* field = lParam != 0 ? fieldOf(LOWORD(wParam)) : nullptr;
+    if (field == nullptr) return handled;
+    if (notification == EN_KILLFOCUS) bringBackVaries(*field);
+    showProblem();
+    return handled;
+}
+
+KBUI_REPLY CFieldsDialog::OnNotifyControlValid(unsigned id, int) {
     const Field* field = fieldOf(id);
     if (field == nullptr) return kKbUiReplyNone;
     field->edit->Invalidate();
-    if (valid)
-        ShowMessage(CString());
-    else if (isEdited(*field))
-        showProblem(*field);
     return kKbUiReplyHandled;
+}
+
+void CFieldsDialog::OnShowWindow(BOOL show, UINT status) {
+    CKtUiDialog::OnShowWindow(show, status);
+    // The screen may be smaller than when the dialog was last closed.
+    if (show) KtUiBringIntoView(*this);
 }
 
 HBRUSH CFieldsDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
     HBRUSH brush = CKtUiDialog::OnCtlColor(dc, control, kind);
     if (kind == CTLCOLOR_STATIC && control->GetDlgCtrlID() == IDC_MESSAGE) {
-        dc->SetTextColor(kInvalidInk);
+        dc->SetTextColor(messageInk());
         return brush;
     }
+    // A list that can't be used looks like it below its last row as well.
+    if (kind == CTLCOLOR_LISTBOX && !control->IsWindowEnabled()) return ::GetSysColorBrush(COLOR_BTNFACE);
     if (kind != CTLCOLOR_EDIT) return brush;
     for (const Field& field : m_fields) {
-        if (field.edit->m_hWnd != control->m_hWnd || !isEdited(field) || field.edit->Validate()) continue;
-        dc->SetBkColor(kInvalidPaper);
+        if (field.edit->m_hWnd != control->m_hWnd || !isBad(field)) continue;
+        dc->SetBkColor(invalidPaper());
+        m_invalidBrush.DeleteObject();
+        m_invalidBrush.CreateSolidBrush(invalidPaper());
         return m_invalidBrush;
     }
     return brush;
@@ -117,9 +189,9 @@ HBRUSH CFieldsDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
 
 bool CFieldsDialog::RefuseInvalid() {
     for (const Field& field : m_fields) {
-        if (!field.edit->IsWindowEnabled() || !isEdited(field) || field.edit->Validate()) continue;
-        showProblem(field);
+        if (!isBad(field)) continue;
         KbUiNotify(*this, field.id, kKbUiNotifySetFocusToControl, 0);
+        showProblem();
         return true;
     }
     return false;

@@ -1,6 +1,6 @@
 // CFieldsDialog: a dialog with typed fields. An invalid field turns red while it is typed in, the line
-// IDC_MESSAGE says why; OK refuses and puts the focus there. A field that the user leaves alone counts as
-// unedited, whatever it shows.
+// IDC_MESSAGE says why: of the field that has the focus, or else of the first invalid one. OK refuses and
+// puts the focus there. A field that the user leaves alone counts as unedited, whatever it shows.
 //
 //     class CSizeDialog : public CFieldsDialog {
 //         CSizeDialog() : CFieldsDialog(IDD_SIZE, L"Size", parent) { AddField(IDC_WIDTH, m_width,
@@ -29,6 +29,9 @@ protected:
     void AddField(unsigned id, CKtUiEdit& edit, UINT badText, const CString& example = CString());
     /// Shows a text in a field, which counts as unedited then.
     void FillField(unsigned id, const CString& text);
+    /// Shows "*VARIES*" in a field, which counts as unedited then. It comes back when the text is deleted, as
+    /// far as no text is no value of the field, or when it is typed.
+    void FillVaryingField(unsigned id);
     CString FieldText(unsigned id) const;
     bool IsEdited(unsigned id) const;
     /// The value of an edited field: drawing units, or radians. Nothing for an unedited or unusable one.
@@ -36,6 +39,7 @@ protected:
     std::optional<double> EditedAngle(unsigned id) const;
     /// Tells the problem of the first invalid field and puts the focus there; false if there is none.
     bool RefuseInvalid();
+    /// Words of the dialog's own for the line IDC_MESSAGE; they show while no field is invalid.
     void ShowMessage(const CString& text);
 
     /// Resizing of a row of two columns: label and control at the left, label and control at the right; each
@@ -50,8 +54,10 @@ protected:
     BOOL OnInitDialog() override;
     void OnOK() override;
     void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     KBUI_REPLY OnNotifyControlValid(unsigned id, int valid) override;
 
+    afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     DECLARE_MESSAGE_MAP()
 
@@ -63,13 +69,20 @@ private:
         UINT badText;
         CString example;
         CString before;
+        bool varies = false;
     };
 
     const Field* fieldOf(unsigned id) const;
     static CString textOf(const Field& field);
     static bool isEdited(const Field& field) { return textOf(field) != field.before; }
-    void showProblem(const Field& field);
+    static bool isBad(const Field& field);
+    static CString problemOf(const Field& field);
+    /// The invalid field to speak of; null if there is none.
+    const Field* badField() const;
+    void showProblem();
+    static void bringBackVaries(const Field& field);
 
     std::vector<Field> m_fields;
+    CString m_message;  ///< the dialog's own words
     CBrush m_invalidBrush;
 };

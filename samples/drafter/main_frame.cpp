@@ -4,6 +4,7 @@
 #include <ktdb.h>
 #include <ktut.h>
 #include <standin_host.h>
+#include <ktui/host/appearance.h>
 
 #include "ask_file.h"
 #include "dimension_style_dialog.h"
@@ -15,7 +16,7 @@ namespace {
 
 constexpr UINT kViewId = AFX_IDW_PANE_FIRST;
 constexpr int kPointerPane = 1, kSelectionPane = 2;
-constexpr int kPointerWidth = 200, kSelectionWidth = 120;  // pixels
+constexpr int kPointerWidth = 200, kSelectionWidth = 120;  // pixels at 96 dots an inch
 constexpr double kZoomStep = 1.25;
 
 CString textOf(UINT id) {
@@ -33,6 +34,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_WM_SIZE()
     ON_WM_CLOSE()
     ON_WM_SETFOCUS()
+    ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CMainFrame::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CMainFrame::OnPointer)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
@@ -71,7 +73,9 @@ void CMainFrame::OnSize(UINT type, int cx, int cy) {
     m_status.SendMessage(WM_SIZE);
     CRect status;
     m_status.GetWindowRect(&status);
-    int edges[3] = {cx - kPointerWidth - kSelectionWidth, cx - kSelectionWidth, -1};
+    const int pointer = KtUiAppearancePixels(m_hWnd, kPointerWidth);
+    const int selection = KtUiAppearancePixels(m_hWnd, kSelectionWidth);
+    int edges[3] = {cx - pointer - selection, cx - selection, -1};
     m_status.SetParts(3, edges);
     m_view.MoveWindow(0, 0, cx, cy - status.Height());
 }
@@ -81,6 +85,13 @@ void CMainFrame::OnClose() {
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_view.SetFocus(); }
+
+/// The window went to a monitor of another resolution: it takes the place that the system suggests.
+LRESULT CMainFrame::OnDpiChanged(WPARAM, LPARAM lParam) {
+    const CRect place(*reinterpret_cast<const RECT*>(lParam));
+    MoveWindow(place);
+    return 0;
+}
 
 LRESULT CMainFrame::OnSelection(WPARAM, LPARAM) {
     CString text = textOf(IDS_STATUS_NONE);
@@ -105,7 +116,11 @@ bool CMainFrame::OpenDrawing(const CString& path) {
     OdDbDxfError error;
     if (!document->Open(path, error)) {
         CString text;
-        text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
+        // What concerns the whole file has no line.
+        if (error.line == 0)
+            text.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
+        else
+            text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
         AfxMessageBox(text, MB_ICONEXCLAMATION);
         return false;
     }
@@ -120,7 +135,7 @@ void CMainFrame::showDrawing(bool keepPlace) {
     OdDbDatabase& drawing = *m_document->database();
     m_view.SetScene(BuildScene(drawing, drawing.currentSpaceId()), keepPlace);
     showTitle();
-    m_status.SetText(textOf(IDS_READY), 0, 0);
+    m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0);
     OnSelection(0, 0);
 }
 
@@ -135,8 +150,12 @@ bool CMainFrame::saveTo(const CString& path) {
         showTitle();
         return true;
     }
+    const CString reason = WhyNotWritable(path);
     CString text;
-    text.Format(IDS_WRITE_FAILED, path.GetString());
+    if (reason.IsEmpty())
+        text.Format(IDS_WRITE_FAILED, path.GetString());
+    else
+        text.Format(IDS_WRITE_REFUSED, path.GetString(), reason.GetString());
     AfxMessageBox(text, MB_ICONEXCLAMATION);
     return false;
 }

@@ -4,6 +4,10 @@
 
 IMPLEMENT_DYNAMIC(CNameDialog, CFieldsDialog)
 
+BEGIN_MESSAGE_MAP(CNameDialog, CFieldsDialog)
+    ON_EN_CHANGE(IDC_STYLE_NAME, &CNameDialog::OnNameChange)
+END_MESSAGE_MAP()
+
 CNameDialog::CNameDialog(std::vector<OdString> taken, CWnd* parent)
     : CFieldsDialog(IDD_STYLE_NAME, L"StyleName", parent), m_taken(std::move(taken)) {
     AddField(IDC_STYLE_NAME, m_edit, IDS_BAD_STYLE_NAME);

@@ -16,6 +16,9 @@ protected:
     void OnOK() override;
     void Apply() override;
 
+    afx_msg void OnNameChange() { ShowMessage(CString()); }
+    DECLARE_MESSAGE_MAP()
+
 private:
     bool isTaken(const CString& name) const;
 

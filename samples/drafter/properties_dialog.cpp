@@ -15,6 +15,16 @@ CString layerLinetype(const OdDbLayerTableRecord& layer) {
     return linetype ? CString(linetype->getName().c_str()) : CString();
 }
 
+/// The text of a value; nothing for a value that varies.
+std::optional<CString> shown(const std::optional<double>& value, CString (*format)(double)) {
+    if (!value) return {};
+    return format(*value);
+}
+std::optional<CString> shown(const std::optional<OdString>& value) {
+    if (!value) return {};
+    return CString(value->c_str());
+}
+
 }  // namespace
 
 IMPLEMENT_DYNAMIC(CPropertiesDialog, CFieldsDialog)
@@ -63,22 +73,31 @@ void CPropertiesDialog::showTitle() {
     CString title;
     if (m_objects.empty())
         title.LoadString(IDS_TITLE_CURRENT);
+    else if (m_objects.size() == 1)
+        title.LoadString(IDS_TITLE_OBJECT);
     else
         title.Format(IDS_TITLE_OBJECTS, static_cast<int>(m_objects.size()));
     SetWindowText(title);
 }
 
+void CPropertiesDialog::fillField(unsigned id, const std::optional<CString>& text) {
+    if (text)
+        FillField(id, *text);
+    else if (GetDlgItem(static_cast<int>(id))->IsWindowEnabled())
+        FillVaryingField(id);
+}
+
 void CPropertiesDialog::fillFields() {
     const PropertyValues values = ReadProperties(m_drawing, m_objects);
     m_pickers.Show(m_drawing, values);
-    if (values.linetypeScale) FillField(IDC_LINETYPE_SCALE, FormatNumber(*values.linetypeScale));
-    if (values.layer) FillField(IDC_LAYER, values.layer->c_str());
-    if (values.hyperlink) FillField(IDC_HYPERLINK, values.hyperlink->c_str());
-    if (values.elevation) FillField(IDC_ELEVATION, FormatDistance(*values.elevation));
-    if (values.thickness) FillField(IDC_THICKNESS, FormatDistance(*values.thickness));
-    if (values.rotation) FillField(IDC_ROTATION, FormatAngle(*values.rotation));
     m_rotation.EnableWindow(values.hasRotation);
     m_hyperlink.EnableWindow(values.hasHyperlink);
+    fillField(IDC_LINETYPE_SCALE, shown(values.linetypeScale, FormatNumber));
+    fillField(IDC_LAYER, shown(values.layer));
+    fillField(IDC_HYPERLINK, shown(values.hyperlink));
+    fillField(IDC_ELEVATION, shown(values.elevation, FormatDistance));
+    fillField(IDC_THICKNESS, shown(values.thickness, FormatDistance));
+    fillField(IDC_ROTATION, shown(values.rotation, FormatAngle));
     ShowMessage(CString());
 }
 
@@ -94,7 +113,7 @@ void CPropertiesDialog::fillLayers() {
     for (const auto& each : kColumns) {
         CString title;
         title.LoadString(each.title);
-        m_layers.InsertColumn(column++, title, LVCFMT_LEFT, each.width);
+        m_layers.InsertColumn(column++, title, LVCFMT_LEFT, KtUiAppearancePixels(m_hWnd, each.width));
     }
     OdDbLayerTablePtr table;
     m_drawing.getLayerTable(table);

@@ -27,6 +27,7 @@ protected:
 private:
     void showTitle();
     void fillFields();
+    void fillField(unsigned id, const std::optional<CString>& text);
     void fillLayers();
     void registerResizing();
 

@@ -20,7 +20,7 @@ void CLayerLineTypePicker::Show(const std::optional<OdDbObjectId>& linetype) {
     if (linetype)
         setCurSelByOID(*linetype);
     else
-        SetCurSel(-1);
+        ShowVaries();
 }
 
 std::optional<OdDbObjectId> CLayerLineTypePicker::Picked() {
@@ -30,11 +30,14 @@ std::optional<OdDbObjectId> CLayerLineTypePicker::Picked() {
 }
 
 void CLineWeightPicker::Show(const std::optional<OdDb::LineWeight>& weight) {
-    SetCurSel(weight ? FindItemByLineWeight(*weight) : -1);
+    if (weight)
+        SetCurSel(FindItemByLineWeight(*weight));
+    else
+        ShowVaries();
 }
 
 std::optional<OdDb::LineWeight> CLineWeightPicker::Picked() {
-    if (GetCurSel() < 0) return {};
+    if (GetCurSel() < 0 || IsVaries()) return {};
     return static_cast<OdDb::LineWeight>(GetCurrentItemLineWeight());
 }
 
@@ -47,7 +50,7 @@ void CPropertyPickers::Exchange(CDataExchange* exchange) {
 }
 
 void CPropertyPickers::Show(const OdDbDatabase& drawing, const PropertyValues& values) {
-    if (values.color) showColor(*values.color);
+    showColor(values.color);
     m_linetype.Show(values.linetype);
     m_lineWeight.Show(values.lineWeight);
     showPlotStyle(drawing, values.plotStyle);
@@ -55,9 +58,14 @@ void CPropertyPickers::Show(const OdDbDatabase& drawing, const PropertyValues& v
     m_shown.plotStyle = pickedPlotStyle();
 }
 
-void CPropertyPickers::showColor(const OdCmColor& color) {
-    m_trueColor.SetCurSel(m_trueColor.AddColorToMRU(color));
-    m_indexColor.SetCurSel(color.isByACI() ? m_indexColor.AddColorToMRU(color.colorIndex()) : -1);
+void CPropertyPickers::showColor(const std::optional<OdCmColor>& color) {
+    if (!color) {
+        m_trueColor.ShowVaries();
+        m_indexColor.ShowVaries();
+        return;
+    }
+    m_trueColor.SetCurSel(m_trueColor.AddColorToMRU(*color));
+    m_indexColor.SetCurSel(color->isByACI() ? m_indexColor.AddColorToMRU(color->colorIndex()) : -1);
 }
 
 void CPropertyPickers::showPlotStyle(const OdDbDatabase& drawing, const std::optional<OdString>& name) {
@@ -68,7 +76,7 @@ void CPropertyPickers::showPlotStyle(const OdDbDatabase& drawing, const std::opt
         return;
     }
     if (!name) {
-        m_plotStyle.SetCurSel(-1);
+        m_plotStyle.ShowVaries();
         return;
     }
     const bool isNormal = ktdbIsReservedString(*name, kKtdbNormal);
@@ -79,7 +87,7 @@ void CPropertyPickers::showPlotStyle(const OdDbDatabase& drawing, const std::opt
 }
 
 std::optional<OdString> CPropertyPickers::pickedPlotStyle() {
-    if (!m_plotStyle.IsWindowEnabled() || m_plotStyle.GetCurSel() < 0) return {};
+    if (!m_plotStyle.IsWindowEnabled() || m_plotStyle.GetCurSel() < 0 || m_plotStyle.IsVaries()) return {};
     CString text;
     m_plotStyle.GetLBText(m_plotStyle.GetCurSel(), text);
     return ktdbIsReservedString(text, kKtdbNormal) ? ktdbGetReservedString(kKtdbNormal, false)
@@ -87,10 +95,10 @@ std::optional<OdString> CPropertyPickers::pickedPlotStyle() {
 }
 
 void CPropertyPickers::Collect(PropertyValues& values) {
-    if (m_colorPicked && m_trueColor.GetCurrentItemCargo() >= 0) {
+    if (m_trueColor.GetCurrentItemCargo() >= 0) {
         OdCmColor color;
         m_trueColor.GetCurrentItemColor(color);
-        values.color = color;
+        if (!(m_shown.color && *m_shown.color == color)) values.color = color;
     }
     if (const auto linetype = m_linetype.Picked(); linetype && linetype != m_shown.linetype)
         values.linetype = linetype;
@@ -101,18 +109,18 @@ void CPropertyPickers::Collect(PropertyValues& values) {
 }
 
 void CPropertyPickers::OnTrueColor() {
+    if (m_trueColor.IsVaries()) m_indexColor.ShowVaries();
     if (m_trueColor.GetCurrentItemCargo() < 0) return;
     OdCmColor color;
     m_trueColor.GetCurrentItemColor(color);
     m_indexColor.SetCurSel(color.isByACI() ? m_indexColor.AddColorToMRU(color.colorIndex()) : -1);
-    m_colorPicked = true;
 }
 
 void CPropertyPickers::OnIndexColor() {
+    if (m_indexColor.IsVaries()) m_trueColor.ShowVaries();
     const __int64 index = m_indexColor.GetCurrentItemColorIndex();
     if (index < 0) return;
     OdCmColor color;
     color.setColorIndex(static_cast<int>(index));
     m_trueColor.SetCurSel(m_trueColor.AddColorToMRU(color));
-    m_colorPicked = true;
 }

@@ -1,26 +1,27 @@
 // The pickers of Format > Properties: colour, linetype, lineweight and plot style, filled from property
-// values and read back into them. A value that differs between objects shows an empty picker, and what is
-// picked counts only if it differs from what was shown.
+// values and read back into them. A value that differs between objects shows "*VARIES*", and what is picked
+// counts only if it differs from what was shown.
 #pragma once
 
 #include <ktui/ktui.h>
 
 #include "property_values.h"
+#include "varying_picker.h"
 
 /// A linetype picker whose ByLayer sample is that of the drawing's current layer.
-class CLayerLineTypePicker : public CKtUiLineTypeComboBox {
+class CLayerLineTypePicker : public CVaryingPicker<CKtUiLineTypeComboBox> {
     DECLARE_DYNAMIC(CLayerLineTypePicker)
 
 public:
     bool GetCurrentLayerLineType(OdDbObjectId& id) override;
-    /// Selects the linetype, or nothing.
+    /// Selects the linetype; without one, that it varies.
     void Show(const std::optional<OdDbObjectId>& linetype);
-    /// The linetype picked; nothing while the list shows none.
+    /// The linetype picked; nothing while it varies.
     std::optional<OdDbObjectId> Picked();
 };
 
-/// A lineweight picker that shows a weight or nothing.
-class CLineWeightPicker : public CKtUiLineWeightComboBox {
+/// A lineweight picker that shows a weight, or that it varies.
+class CLineWeightPicker : public CVaryingPicker<CKtUiLineWeightComboBox> {
     DECLARE_DYNAMIC(CLineWeightPicker)
 
 public:
@@ -42,15 +43,14 @@ public:
     void OnIndexColor();
 
 private:
-    void showColor(const OdCmColor& color);
+    void showColor(const std::optional<OdCmColor>& color);
     void showPlotStyle(const OdDbDatabase& drawing, const std::optional<OdString>& name);
     std::optional<OdString> pickedPlotStyle();
 
-    CKtUiTrueColorComboBox m_trueColor;
-    CKtUiColorComboBox m_indexColor;
+    CVaryingPicker<CKtUiTrueColorComboBox> m_trueColor;
+    CVaryingPicker<CKtUiColorComboBox> m_indexColor;
     CLayerLineTypePicker m_linetype;
     CLineWeightPicker m_lineWeight;
-    CKtUiPlotStyleNamesComboBox m_plotStyle;
+    CVaryingPicker<CKtUiPlotStyleNamesComboBox> m_plotStyle;
     PropertyValues m_shown;
-    bool m_colorPicked = false;
 };

@@ -7,6 +7,9 @@ IMPLEMENT_DYNAMIC(CStyleDialog, CFieldsDialog)
 
 BEGIN_MESSAGE_MAP(CStyleDialog, CFieldsDialog)
     ON_CBN_SELCHANGE(IDC_STYLE, &CStyleDialog::OnStyle)
+    ON_CBN_DROPDOWN(IDC_STYLE, &CStyleDialog::OnStylesDropped)
+    ON_CONTROL(CBN_SELENDCANCEL, IDC_STYLE, &CStyleDialog::OnStylesCancelled)
+    ON_CBN_CLOSEUP(IDC_STYLE, &CStyleDialog::OnStyle)
     ON_BN_CLICKED(IDC_NEW_STYLE, &CStyleDialog::OnNewStyle)
 END_MESSAGE_MAP()
 
@@ -41,6 +44,18 @@ void CStyleDialog::OnStyle() {
     }
     KeepStyle(m_current);
     show(static_cast<std::size_t>(chosen));
+}
+
+void CStyleDialog::OnStylesDropped() {
+    m_formerStyle = static_cast<int>(GetDlgItem(IDC_STYLE)->SendMessage(CB_GETCURSEL));
+}
+
+void CStyleDialog::OnStylesCancelled() {
+    CWnd* list = GetDlgItem(IDC_STYLE);
+    // One comes with the loss of the focus as well, for a list that isn't open.
+    if (!list->SendMessage(CB_GETDROPPEDSTATE)) return;
+    list->SendMessage(CB_SETCURSEL, static_cast<WPARAM>(m_formerStyle));
+    OnStyle();
 }
 
 void CStyleDialog::OnNewStyle() {

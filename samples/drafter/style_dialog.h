@@ -34,6 +34,8 @@ protected:
     void Apply() override;
 
     afx_msg void OnStyle();
+    afx_msg void OnStylesDropped();
+    afx_msg void OnStylesCancelled();
     afx_msg void OnNewStyle();
     DECLARE_MESSAGE_MAP()
 
@@ -41,6 +43,7 @@ private:
     void show(std::size_t index);
 
     std::size_t m_current = 0;
+    int m_formerStyle = 0;    ///< what a cancel of the open list puts back
     bool m_isShowing = true;  ///< from the start, until the first style is shown
 };
 

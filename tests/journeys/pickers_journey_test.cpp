@@ -91,8 +91,8 @@ TEST_F(Pickers, ObjectsThatDifferShowEmptyPickersAndKeepTheirOwn) {
     ASSERT_EQ(before->readDxf(path.c_str()), kOdOk);
     HWND dialog = openOnAll();
     ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(currentEntry(item(dialog, IDC_LINETYPE)), L"");
-    EXPECT_EQ(currentEntry(item(dialog, IDC_LINE_WEIGHT)), L"");
+    EXPECT_EQ(currentEntry(item(dialog, IDC_LINETYPE)), L"*VARIES*");
+    EXPECT_EQ(currentEntry(item(dialog, IDC_LINE_WEIGHT)), L"*VARIES*");
     EXPECT_EQ(currentEntry(item(dialog, IDC_PLOT_STYLE)), L"ByLayer");
     drafter->replaceText(item(dialog, IDC_THICKNESS), L"3");
     ok(dialog);
