@@ -79,5 +79,5 @@ void CKtUiArrowHeadComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) 
     RefreshStrip(m_strip, m_stripLook, m_imageSize, kArrowheadSize, IDB_ARROWHEADS, IDB_LARGER_ARROWHEADS);
     const int top = ArrowheadStripTop(cargo, m_imageSize);
     if (top < 0) return;
-    DrawStripPicture(dc, rect, m_strip, top, m_imageSize, m_imageSize);
+    DrawStripPicture(dc, rect, m_stripContext, m_strip, top, m_imageSize, m_imageSize);
 }

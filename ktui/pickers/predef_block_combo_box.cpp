@@ -39,5 +39,5 @@ void CKtUiPredefBlockComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo
     RefreshStrip(m_strip, m_stripLook, m_imageSize, kBlockPictureWidth, IDB_BLOCKS, IDB_LARGER_BLOCKS);
     const int top = BlockStripTop(cargo, m_imageSize);
     if (top < 0) return;
-    DrawStripPicture(dc, rect, m_strip, top, m_imageSize, m_imageSize + 1);
+    DrawStripPicture(dc, rect, m_stripContext, m_strip, top, m_imageSize, m_imageSize + 1);
 }

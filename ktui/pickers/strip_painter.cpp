@@ -26,10 +26,10 @@ void Recolor(const DIBSECTION& section, const StripLook& look) {
 
 }  // namespace
 
-void DrawStripPicture(CDC& dc, const RECT& image, CBitmap& strip, int top, int width, int height) {
+void DrawStripPicture(CDC& dc, const RECT& image, CDC& memory, CBitmap& strip, int top, int width,
+                      int height) {
     if (!strip.GetSafeHandle()) return;
-    CDC memory;
-    if (!memory.CreateCompatibleDC(&dc)) return;
+    if (!memory.GetSafeHdc() && !memory.CreateCompatibleDC(&dc)) return;
     CBitmap* former = memory.SelectObject(&strip);
     dc.BitBlt(static_cast<int>(image.left), static_cast<int>(image.top), width, height, &memory, 0, top,
               SRCCOPY);

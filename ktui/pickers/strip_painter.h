@@ -8,8 +8,10 @@
 #include <ktui/pickers/strip_look.h>
 
 /// Copies `width` by `height` pixels of `strip` from its left edge at `top` to the left top corner of `image`
-/// (logical units of `dc`). Nothing for an empty strip.
-void DrawStripPicture(CDC& dc, const RECT& image, CBitmap& strip, int top, int width, int height);
+/// (logical units of `dc`). Nothing for an empty strip. `memory` is made on the first call and belongs to the
+/// caller, who keeps it beside the strip: making one for each picture costs more than the copy.
+void DrawStripPicture(CDC& dc, const RECT& image, CDC& memory, CBitmap& strip, int top, int width,
+                      int height);
 
 /// Loads the library's own bitmap `id` into `strip`, which stays empty if there is no such bitmap.
 void LoadStrip(CBitmap& strip, UINT id);
