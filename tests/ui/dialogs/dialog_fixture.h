@@ -18,11 +18,12 @@ public:
         SetAppRootKey(kTestRoot);
     }
 
-    using CKbUiBaseDialog::AppMainWindow;
     using CKbUiBaseDialog::m_editorState;
     using CKbUiBaseDialog::m_isModal;
     using CKbUiBaseDialog::m_savedFocus;
     using CKbUiBaseDialog::m_textTip;
+    using CKbUiBaseDialog::m_toolTip;
+    using CKbUiBaseDialog::m_useTips;
     using CKbUiBaseDialog::m_wasEnabled;
     using CKbUiDialog::AppRootKey;
     using CKbUiDialog::m_elastic;
@@ -38,6 +39,10 @@ public:
     __int64 lastData = 0;
     KBUI_REPLY hookReply = kKbUiReplyNone;
     CWnd* mainWindow = nullptr;
+
+    CWnd* AppMainWindow() override {
+        return mainWindow != nullptr ? mainWindow : CKtUiDialog::AppMainWindow();
+    }
 
     CRect rectOf(int id) {
         CRect rect;
@@ -58,9 +63,6 @@ public:
     }
 
 protected:
-    CWnd* AppMainWindow() override {
-        return mainWindow != nullptr ? mainWindow : CKtUiDialog::AppMainWindow();
-    }
     BOOL OnInitDialog() override {
         calls.push_back("init");
         const BOOL result = CKtUiDialog::OnInitDialog();

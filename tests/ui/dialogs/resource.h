@@ -4,6 +4,7 @@
 
 #define IDD_ELASTIC 200
 #define IDD_FIXED 201
+#define IDD_PAGE 202
 
 #define IDC_FIRST 1001
 #define IDC_SECOND 1002
