@@ -77,14 +77,17 @@ def at_fault(output, tree):
     to stay constant."""
     numbers, constants = set(), set()
     blocks = re.split(r"(?=^[^\s:][^:\n]*:\d+:\d+: (?:fatal )?error: )", output, flags=re.M)
-    for block in blocks:
+    for before, block in zip([""] + blocks, blocks):
         error = ERROR.match(block)
         if not error:
             continue
         named = re.findall(r"the value of ‘(?:[\w ]*::)?(\w+)’|‘(?:const )?(?:\w+ )*(\w+)’ is not usable in a constant|call to non-‘constexpr’ function ‘[^’(]*?(\w+)\(", block)
         constants |= {n for group in named for n in group if n}
         found = []
-        for place in [error] + list(MENTION.finditer(block)):
+        # Where a template was asked for stands before the error in it.
+        _, _, asked = before.rpartition("In instantiation of")
+        asked = asked if "required from" in asked else ""
+        for place in [error] + list(MENTION.finditer(asked)) + list(MENTION.finditer(block)):
             try:
                 name = str(Path(place.group(1)).resolve().relative_to(tree.folder))
             except ValueError:
