@@ -14,6 +14,16 @@ _SControlTag tag(unsigned kind, int percentX, int percentY) {
     return made;
 }
 
+TEST(ElasticArithmetic, ATagStartsWithNothing) {
+    const _SControlTag fresh;
+    EXPECT_EQ(fresh.m_id, 0u);
+    EXPECT_EQ(fresh.m_kind, 0u);
+    EXPECT_EQ(fresh.m_percentX, 0);
+    EXPECT_EQ(fresh.m_percentY, 0);
+    EXPECT_EQ(fresh.m_remainderX, 0);
+    EXPECT_EQ(fresh.m_remainderY, 0);
+}
+
 TEST(ElasticArithmetic, ThreePixelsAtAThirdMoveNothingAndOnePixelTheSecondTime) {
     _SControlTag move = tag(kKbUiMoveX, 33, 0);
     EXPECT_EQ(AdvanceElasticTag(move, 3, 0).cx, 0);

@@ -19,6 +19,9 @@ constexpr const wchar_t* kLong = L"an entry that is much wider than its list";
 /// Lets a test take the text away, and counts what reaches the platform.
 class ListBox : public CKbUiListBox {
 public:
+    using CKbUiListBox::m_lastMousePoint;
+    using CKbUiListBox::m_tipItem;
+    using CKbUiListBox::m_tipRect;
     bool silent = false;
     std::vector<UINT> defaults;
     BOOL OnGetTipText(CString& text) override { return silent ? FALSE : CKbUiListBox::OnGetTipText(text); }
@@ -75,6 +78,12 @@ TEST_F(ListBoxEntries, APointOutsideHasNoEntry) {
     list.ResetContent();
     CPoint point(3, 3);
     EXPECT_EQ(list.GetItemAtPoint(point), -1);
+}
+
+TEST_F(ListBoxEntries, NothingWasSeenAtFirst) {
+    EXPECT_EQ(list.m_lastMousePoint, CPoint(0, 0));
+    EXPECT_EQ(list.m_tipRect, CRect(0, 0, 0, 0));
+    EXPECT_EQ(list.m_tipItem, -1);
 }
 
 TEST_F(ListBoxEntries, BothKindsOfOwnerDrawingCount) {

@@ -15,12 +15,14 @@ constexpr const wchar_t* kLong = L"a text that is much wider than what it stands
 class List : public CKbUiListCtrl {
 public:
     using CKbUiListCtrl::m_header;
+    using CKbUiListCtrl::m_lastMousePoint;
     using CKbUiListCtrl::m_tipColumn;
     using CKbUiListCtrl::m_tipItem;
     using CKbUiListCtrl::m_tipRect;
 };
 class Header : public CKbUiHeaderCtrl {
 public:
+    using CKbUiHeaderCtrl::m_lastMousePoint;
     using CKbUiHeaderCtrl::m_tipItem;
     using CKbUiHeaderCtrl::m_tipRect;
 };
@@ -221,6 +223,21 @@ TEST_F(Cells, TextAndHitNeedACellUnderTheMouse) {
     moveTo(pointOf(1, 0));
     EXPECT_EQ(ask(list, kKbUiNotifyGetTipText, &text), kKbUiReplyHandled);
     EXPECT_EQ(text, L"short");
+    list.SetItemText(1, 0, L"row one");
+    EXPECT_EQ(ask(list, kKbUiNotifyGetTipText, &text), kKbUiReplyHandled);
+    EXPECT_EQ(text, L"row one");
+}
+
+TEST_F(Cells, NothingWasSeenAtFirst) {
+    List fresh;
+    EXPECT_EQ(fresh.m_lastMousePoint, CPoint(0, 0));
+    EXPECT_EQ(fresh.m_tipRect, CRect(0, 0, 0, 0));
+    EXPECT_EQ(fresh.m_tipItem, -1);
+    EXPECT_EQ(fresh.m_tipColumn, -1);
+    Header heading;
+    EXPECT_EQ(heading.m_lastMousePoint, CPoint(0, 0));
+    EXPECT_EQ(heading.m_tipRect, CRect(0, 0, 0, 0));
+    EXPECT_EQ(heading.m_tipItem, -1);
 }
 
 /// A header of two headings, 120 and 60 pixels wide.
@@ -293,6 +310,15 @@ TEST_F(Headings, ATipRemembersItsHeadingOnlyWhereItIsWanted) {
     send_move(header, 250, 5);
     EXPECT_EQ(ask(header, kKbUiNotifyGetTipRect, &rect), kKbUiReplyNone);
     EXPECT_TRUE(rect.IsRectNull());
+}
+
+TEST_F(Headings, TheFirstHeadingHasATipToo) {
+    insert(0, kLong, 40);
+    send_move(header, 5, 5);
+    CRect rect;
+    EXPECT_EQ(ask(header, kKbUiNotifyGetTipRect, &rect), kKbUiReplyHandled);
+    EXPECT_EQ(rect, CRect(CPoint(24, 24), extentOf(header, kLong)));
+    EXPECT_EQ(header.m_tipItem, 0);
 }
 
 TEST_F(Headings, AHeadingThatIsNotOwnerDrawnHasTheTipOfAText) {

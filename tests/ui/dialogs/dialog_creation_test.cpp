@@ -135,7 +135,7 @@ protected:
         log.push_back(call + (tips ? " tips" : "") + (GetExStyle() & WS_EX_CONTEXTHELP ? " help" : ""));
     }
     void OnInitDialogBegin() override {
-        ModifyStyleEx(0, WS_EX_CONTEXTHELP);
+        ModifyStyleEx(0, WS_EX_CONTEXTHELP | WS_EX_DLGMODALFRAME);
         note("begin");
     }
     void DoDataExchange(CDataExchange* exchange) override {
@@ -156,6 +156,7 @@ class Initialisation : public DialogTest {};
 TEST_F(Initialisation, HooksThenTipsThenIconsThenTheHelpButtonGoes) {
     InitialisingDialog dialog(&parent);
     ASSERT_TRUE(dialog.Create(IDD_ELASTIC, &parent));
+    EXPECT_TRUE(dialog.GetExStyle() & WS_EX_DLGMODALFRAME) << "the rest of the style stays";
     EXPECT_EQ(dialog.log, (std::vector<std::string>{"begin help", "fill help", "finish help", "big tips help",
                                                     "small tips help"}));
     EXPECT_FALSE(dialog.GetExStyle() & WS_EX_CONTEXTHELP);

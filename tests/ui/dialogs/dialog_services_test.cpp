@@ -33,6 +33,7 @@ public:
     using CKbUiBaseDialog::m_textTip;
     using CKbUiBaseDialog::m_wasEnabled;
     using CKbUiBaseDialog::OnNotify_ToolTipText;
+    using CKbUiBaseDialog::PreCreateWindow;
 };
 
 /// Notes what its message handlers hand on, and the data that is exchanged.
@@ -170,6 +171,13 @@ TEST_F(DialogServices, AnApplicationDialogAsksForTheApplicationsOwn) {
     AfxGetApp()->m_pMainWnd = former;
     EXPECT_EQ(dialog.AppResourceInstance(), KtUiAppResourceInstance());
     EXPECT_STREQ(dialog.AppRootKey(), kTestRoot);
+}
+
+TEST_F(DialogServices, TheWindowIsPreparedByThePlatform) {
+    PlainDialog dialog;
+    CREATESTRUCTW create = {};
+    EXPECT_TRUE(dialog.PreCreateWindow(create));
+    EXPECT_NE(create.lpszClass, nullptr);
 }
 
 TEST_F(DialogServices, MultiDocumentActivationIsTheHostsAffair) {

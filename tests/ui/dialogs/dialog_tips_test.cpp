@@ -230,17 +230,25 @@ TEST_F(BaseDialog, ATextTipHasItsTextAndPlaceBeforeItIsShown) {
     EXPECT_EQ(text, L"the whole text");
 }
 
-TEST_F(BaseDialog, TheTipIsMovedWithRepaint) {
-    giveTip(kKbUiReplyDrawnTip);
+TEST_F(BaseDialog, TheTipKnowsItsControlAndIsThenMovedWithRepaint) {
     const HWND tip = dialog.m_textTip->m_hWnd;
-    std::vector<UINT> redraw;
-    SentMessages sent([&](const CWPSTRUCT& message) {
-        if (message.hwnd == tip && message.message == WM_WINDOWPOSCHANGING &&
-            !(ui_test::position_flags(message) & SWP_NOMOVE))
+    for (const LRESULT kind : {kKbUiReplyTextTip, kKbUiReplyDrawnTip}) {
+        dialog.m_textTip->Hide();
+        dialog.m_textTip->SetControl(nullptr);
+        giveTip(kind);
+        button.rightClicks = 0;
+        std::vector<UINT> redraw;
+        SentMessages sent([&](const CWPSTRUCT& message) {
+            if (message.hwnd != tip || message.message != WM_WINDOWPOSCHANGING ||
+                (ui_test::position_flags(message) & SWP_NOMOVE))
+                return;
             redraw.push_back(ui_test::position_flags(message) & SWP_NOREDRAW);
-    });
-    updateTip();
-    EXPECT_EQ(redraw, (std::vector<UINT>{0}));
+            ::SendMessageW(tip, WM_RBUTTONDOWN, 0, 0);
+        });
+        updateTip();
+        EXPECT_EQ(redraw, (std::vector<UINT>{0})) << kind;
+        EXPECT_EQ(button.rightClicks, 1) << kind;
+    }
 }
 
 TEST_F(BaseDialog, AClickOnEitherTipGoesToTheControlBeneath) {
@@ -346,7 +354,10 @@ TEST_F(BaseDialog, TheToolTipControlIsSetUpInOrder) {
         ::GetClassNameW(message.hwnd, name, 32);
         if (::lstrcmpiW(name, TOOLTIPS_CLASSW) != 0) return;
         if (message.message == WM_NCCREATE) enabled = (dialog.m_nFlags & WF_TOOLTIPS) != 0;
-        if (message.message >= WM_USER && message.message < 0xC000) messages.push_back(message.message);
+        if (message.message >= WM_USER && message.message < 0xC000) {
+            messages.push_back(message.message);
+            if (message.message >= TTM_SETMAXTIPWIDTH) EXPECT_EQ(message.wParam, 0u);
+        }
     });
     dialog.SetUseTips(1);
     EXPECT_TRUE(enabled) << "tool tips are enabled before the control is made";

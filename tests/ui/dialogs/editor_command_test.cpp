@@ -268,6 +268,13 @@ TEST_F(EditorCommandOrder, ACommandSaysNothingOfTheFlagsOfTheWindowItself) {
     page.DestroyWindow();
 }
 
+TEST_F(EditorCommandOrder, AnOwnedDialogIsAskedItselfWhateverElseItsStyleSays) {
+    inner.ModifyStyle(0, DS_ABSALIGN);
+    makeModal(inner);
+    inner.BeginEditorCommand();
+    EXPECT_EQ(told(), (std::vector<LPARAM>{1}));
+}
+
 TEST_F(EditorCommandOrder, RunningOutOfParentsCountsAsModal) {
     OpenDialog lone(IDD_ELASTIC, nullptr);
     lone.mainWindow = &holder;

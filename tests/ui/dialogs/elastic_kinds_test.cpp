@@ -4,6 +4,7 @@
 #include <ktui/dialogs/elastic.h>
 
 #include "dialog_fixture.h"
+#include "leak_count.h"
 #include "sent_messages.h"
 
 namespace {
@@ -321,12 +322,22 @@ TEST_F(ElasticKinds, TheInitialisationsResultIsThePlatforms) {
     answering.answer = FALSE;
     EXPECT_EQ(answering.SendMessage(WM_INITDIALOG), 0);
     struct Seen : SizedDialog {
-        explicit Seen(CWnd* owner) : SizedDialog(IDD_FIXED, owner) {}
+        using SizedDialog::SizedDialog;
         BOOL seen = -1;
         BOOL OnInitDialog() override { return seen = SizedDialog::OnInitDialog(); }
-    } fixed(&parent);
+    } fixed(IDD_FIXED, &parent), elastic(IDD_ELASTIC, &parent);
     fixed.Create(IDD_FIXED, &parent);
     EXPECT_EQ(fixed.seen, TRUE);
+    elastic.Create(IDD_ELASTIC, &parent);
+    EXPECT_EQ(elastic.seen, TRUE);
+}
+
+TEST_F(ElasticKinds, ADialogLeavesNothingOfItsResizeState) {
+    const auto make = [] { SizedDialog gone(IDD_ELASTIC); };
+    make();
+    const std::size_t before = count_held_objects().heapBlocks;
+    for (int i = 0; i < 200; ++i) make();
+    EXPECT_LT(count_held_objects().heapBlocks, before + 100);
 }
 
 }  // namespace
