@@ -143,7 +143,12 @@ const Failure kFailures[] = {
 
 class ModalFailure : public ::testing::Test {
 protected:
-    ModalFailure() { m_outer = CWnd::FromHandle(::GetDesktopWindow()); }
+    ModalFailure() {
+        // With none in use before, the few of a test are kept for another use when they end, and may be
+        // looked at.
+        AfxGetApp()->OnIdle(1);
+        m_outer = CWnd::FromHandle(::GetDesktopWindow());
+    }
     ~ModalFailure() override {
         MSG message;
         while (::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
