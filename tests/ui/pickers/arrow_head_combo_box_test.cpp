@@ -1,6 +1,5 @@
 #include <ktui/pickers/arrow_head_combo_box.h>
 
-#include <ktui/pickers/arrowheads.h>
 #include <ktui/res/resource_ids.h>
 
 #include "strip_fixture.h"
@@ -14,6 +13,9 @@ namespace {
 
 constexpr int kCount = 20;
 constexpr int kListedByDefault = 19;
+constexpr UINT kFirstText = 54163;
+/// Row of the strip for each cargo.
+constexpr int kStripRows[kCount] = {0, 15, 9, 1, 19, 12, 6, 4, 5, 7, 8, 2, 3, 10, 14, 13, 17, 16, 18, 11};
 
 class Picker : public CKtUiArrowHeadComboBox {
 public:
@@ -48,12 +50,11 @@ bool DrawsNothing(Picker& picker, __int64 cargo) {
 TEST(ArrowheadPicker, ListsAllButTheObliqueOne) {
     InHolder<Picker> in;
     ASSERT_EQ(in.picker.GetCount(), kListedByDefault);
-    int index = 0;
-    for (const Arrowhead& arrowhead : Arrowheads()) {
-        if (arrowhead.cargo == 5) continue;
-        EXPECT_EQ(in.picker.GetItemCargo(index), arrowhead.cargo);
-        EXPECT_EQ(in.texts()[static_cast<std::size_t>(index)], Resource(arrowhead.textId));
-        ++index;
+    for (int index = 0; index < kListedByDefault; ++index) {
+        const int cargo = index < 5 ? index : index + 1;
+        EXPECT_EQ(in.picker.GetItemCargo(index), cargo);
+        EXPECT_EQ(in.texts()[static_cast<std::size_t>(index)],
+                  Resource(kFirstText + static_cast<UINT>(cargo)));
     }
     EXPECT_EQ(in.picker.FindItemByCargo(5), -1);
     EXPECT_EQ(in.picker.FindItemByCargo(8), 7) << "the flag isn't about the second origin arrowhead";
@@ -165,7 +166,7 @@ TEST(ArrowheadImages, EachCargoShowsItsRowOfTheStrip) {
     for (int cargo = 0; cargo < kCount; ++cargo) {
         Canvas canvas(30, 30, kUntouched);
         ui_test::drawImage(canvas, in.picker, cargo);
-        const int top = 14 * Arrowheads()[static_cast<std::size_t>(cargo)].stripRow;
+        const int top = 14 * kStripRows[cargo];
         EXPECT_TRUE(ui_test::showsPicture(canvas, strip, CPoint(3, 4), top, CSize(15, 15))) << cargo;
     }
 }
@@ -186,7 +187,7 @@ TEST(ArrowheadImages, AnotherSizeTakesAnotherStrip) {
     for (const int cargo : {0, 1, 4, 19}) {
         Canvas canvas(30, 30, kUntouched);
         ui_test::drawImage(canvas, in.picker, cargo);
-        const int top = (kSize - 1) * Arrowheads()[static_cast<std::size_t>(cargo)].stripRow;
+        const int top = (kSize - 1) * kStripRows[cargo];
         EXPECT_EQ(canvas.dc.GetPixel(3, 4), ui_test::rowColor(top)) << cargo;
         EXPECT_EQ(canvas.dc.GetPixel(22, 23), ui_test::rowColor(top + kSize - 1)) << cargo;
         EXPECT_EQ(canvas.dc.GetPixel(22, 24), kUntouched) << cargo;

@@ -181,6 +181,38 @@ TEST(FontPicker, IconTellsAShapeFontFromEveryOther) {
     EXPECT_FALSE(showsIcon(of.picker, of.picker.GetItemCargo(kTxt), nullptr));
 }
 
+TEST(FontPicker, IconFillsASquareOfTheItemsHeight) {
+    FontPickerInHolder of;
+    of.picker.SetItemHeight(0, 24);
+    const __int64 cargos[] = {of.picker.GetItemCargo(kArial), of.picker.GetItemCargo(kTxt)};
+    const HICON icons[] = {of.picker.trueTypeIcon(), of.picker.shxIcon()};
+    for (int i = 0; i < 2; ++i) {
+        Canvas drawn(30, 30, kUntouched);
+        CRect rect(3, 4, 10, 10);
+        of.picker.DrawItemImage(drawn.dc, rect, cargos[i]);
+        Canvas wanted(30, 30, kUntouched);
+        ::DrawIconEx(wanted.dc.m_hDC, 3, 4, icons[i], 24, 24, 0, nullptr, DI_NORMAL);
+        EXPECT_TRUE(isSame(drawn, wanted)) << i;
+    }
+}
+
+TEST(FontPicker, SortStyleOfTheControlOrdersTheNamesWithTheirFonts) {
+    FakeFonts fonts;
+    ui_test::TestHost host;
+    host.fonts = &fonts;
+    ui_test::RecordingHolder holder;
+    Picker picker;
+    picker.Create(WS_CHILD | ui_test::kPickerStyle | CBS_SORT, CRect(0, 0, 100, 100), &holder, 61);
+    Texts names;
+    for (int i = 0; i < picker.GetCount(); ++i) {
+        CString name;
+        picker.GetLBText(i, name);
+        names.emplace_back(name.GetString());
+        EXPECT_STREQ(reinterpret_cast<CKhFont*>(picker.GetItemCargo(i))->name(), name);
+    }
+    EXPECT_EQ(names, (Texts{L"Arial", L"Bare", L"Odd", L"Secret", L"txt.shx"}));
+}
+
 TEST(FontPicker, ItemsWithoutAFontShowNoIcon) {
     FontPickerInHolder of;
     for (const int cargo : {0, -1, kCargoOther, kCargoOption1})

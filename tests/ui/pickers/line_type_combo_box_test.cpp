@@ -2,6 +2,7 @@
 
 using ui_test::addLinetype;
 using ui_test::InHolder;
+using ui_test::linetypeId;
 using ui_test::LinetypePicker;
 using ui_test::LinetypePickerInHolder;
 using ui_test::WorkingDrawing;
@@ -227,6 +228,15 @@ TEST(LinetypePicker, ImageTakesHalfTheControl) {
     EXPECT_EQ(of.picker.ImageWidth(), 100);
     of.picker.SetWindowPos(nullptr, 0, 0, 151, 200, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(of.picker.ImageWidth(), 75);
+}
+
+TEST(LinetypePicker, SortStyleOfTheControlOrdersTheNamesAnew) {
+    WorkingDrawing drawing;
+    for (const wchar_t* name : {L"Zigzag", L"AAA"}) addLinetype(drawing.database(), name);
+    InHolder<LinetypePicker> in(InHolder<LinetypePicker>::kByCreate, ui_test::kPickerStyle | CBS_SORT);
+    EXPECT_EQ(in.texts(), (Texts{L"AAA", L"ByBlock", L"ByLayer", L"Continuous", L"Zigzag"}));
+    EXPECT_EQ(in.picker.getOIDSel(2), linetypeId(drawing.database(), L"ByLayer")) << "each with its record";
+    EXPECT_EQ(in.picker.getOIDSel(0), linetypeId(drawing.database(), L"AAA"));
 }
 
 TEST(LinetypePicker, OpeningAndClosingLeavesNothingBehind) {

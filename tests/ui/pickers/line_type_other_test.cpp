@@ -84,7 +84,9 @@ TEST(LinetypeOther, ForcingWhileOtherIsSelectedOnlyClosesTheList) {
     int dialogs = 0;
     of.host.onLinetypeDialog = [&](const OdDbObjectId&, OdDbObjectId&) { return ++dialogs > 0; };
     of.in.dropDown();
-    of.in.closeUp();
+    ASSERT_TRUE(of.picker.GetDroppedState());
+    // A list that is closed with Other selected would open the dialog by itself.
+    of.picker.SetUseOther(0);
     of.picker.SetCurSel(6);
     of.picker.forceSelectOther(0);
     EXPECT_EQ(dialogs, 0);
@@ -105,6 +107,31 @@ TEST(LinetypeOther, ForcingOtherwiseShowsTheDialog) {
     of.picker.forceSelectOther(0);
     EXPECT_EQ(startedFrom, of.dash2);
     EXPECT_EQ(of.picker.getOIDCurSel(), of.zigzag);
+}
+
+TEST(LinetypeOther, DialogIsTheHostsWhicheverIsForced) {
+    LinetypePickerInHolder of;
+    int dialogs = 0;
+    of.host.onLinetypeDialog = [&](const OdDbObjectId&, OdDbObjectId&) { return ++dialogs > 0; };
+    of.picker.setCurSelByOID(of.dash2);
+    of.picker.forceSelectOther(1);
+    EXPECT_EQ(dialogs, 1);
+    EXPECT_EQ(of.picker.getOIDCurSel(), of.dash2);
+}
+
+TEST(LinetypeOther, ForcingAnOpenListShowsTheDialogToo) {
+    LinetypePickerInHolder of;
+    int dialogs = 0;
+    of.host.onLinetypeDialog = [&](const OdDbObjectId&, OdDbObjectId& chosen) {
+        chosen = of.dash10;
+        return ++dialogs > 0;
+    };
+    of.in.dropDown();
+    of.picker.setCurSelByOID(of.dash2);
+    of.picker.forceSelectOther(0);
+    EXPECT_EQ(dialogs, 1);
+    EXPECT_EQ(of.picker.getOIDCurSel(), of.dash10);
+    EXPECT_EQ(of.picker.getLastSelection(), of.picker.GetCurSel());
 }
 
 TEST(LinetypeSample, IsDrawnByTheViewInsideTheMargins) {

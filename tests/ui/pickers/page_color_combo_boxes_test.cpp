@@ -67,6 +67,7 @@ TEST(PageSetupColours, SeventhIndexIsThatOfTheLightPaletteUnlessOneWasSet) {
     in.picker.SetLogPalette(palette);
     EXPECT_EQ(in.picker.getColorData(Indexed(7)), RGB(10, 20, 30));
     EXPECT_EQ(in.picker.LookupColor(256, palette), in.host.colorOf(256));
+    EXPECT_EQ(in.picker.LookupColor(255, nullptr), odcmAcadLightPalette()[255]);
     EXPECT_EQ(in.picker.LookupColor(256, nullptr), 0u);
     EXPECT_EQ(in.picker.LookupColor(-1, nullptr), 0u);
 }
@@ -103,6 +104,39 @@ TEST(PageSetupColours, OtherColourLosesItsNameOnly) {
     EXPECT_EQ(plain, Rgb(13, 57, 201));
     EXPECT_EQ(Settled(in, Rgb(13, 57, 201)), Rgb(13, 57, 201));
     EXPECT_EQ(Settled(in, Indexed(42)), Indexed(42));
+}
+
+TEST(PageSetupColours, NamedColourOfThePaletteBecomesItsIndexToo) {
+    Page in;
+    const std::uint32_t blue = odcmAcadLightPalette()[5];
+    OdCmColor named = Rgb(GetRValue(blue), GetGValue(blue), GetBValue(blue));
+    named.setNames(L"PANTONE 2", L"PANTONE");
+    const OdCmColor color = Settled(in, named);
+    EXPECT_TRUE(color.isByACI());
+    EXPECT_FALSE(color.hasName());
+}
+
+TEST(PageSetupColours, DialogGetsTheColourTheLayersAndWhetherMetaIsAllowed) {
+    Page in;
+    std::vector<bool> metas;
+    in.host.onTrueColorDialog = [&](OdCmColor& color, bool allowMeta, const OdCmColor& layer,
+                                    const std::uint32_t*) {
+        EXPECT_EQ(color, Rgb(1, 2, 3));
+        EXPECT_EQ(layer, Indexed(5));
+        metas.push_back(allowMeta);
+        return false;
+    };
+    OdCmColor color = Rgb(1, 2, 3);
+    in.picker.GetOtherColor(color, Indexed(5), -1);
+    in.picker.GetOtherColor(color, Indexed(5), 0);
+    EXPECT_EQ(metas, (std::vector<bool>{true, false}));
+}
+
+TEST(PageSetupColours, ColoursOfTheListAreThoseOfTheLightPalette) {
+    Page in;
+    for (int cargo = 2; cargo <= 8; ++cargo)
+        EXPECT_EQ(in.picker.getColorByCargo(cargo), odcmAcadLightPalette()[cargo - 1]) << cargo;
+    EXPECT_TRUE(in.host.askedColors.empty());
 }
 
 TEST(PageSetupColours, SwatchOfEntryZeroIsNotPaintedAtAll) {
