@@ -181,21 +181,6 @@ TEST(FontPicker, IconTellsAShapeFontFromEveryOther) {
     EXPECT_FALSE(showsIcon(of.picker, of.picker.GetItemCargo(kTxt), nullptr));
 }
 
-TEST(FontPicker, IconFillsASquareOfTheItemsHeight) {
-    FontPickerInHolder of;
-    of.picker.SetItemHeight(0, 24);
-    const __int64 cargos[] = {of.picker.GetItemCargo(kArial), of.picker.GetItemCargo(kTxt)};
-    const HICON icons[] = {of.picker.trueTypeIcon(), of.picker.shxIcon()};
-    for (int i = 0; i < 2; ++i) {
-        Canvas drawn(30, 30, kUntouched);
-        CRect rect(3, 4, 10, 10);
-        of.picker.DrawItemImage(drawn.dc, rect, cargos[i]);
-        Canvas wanted(30, 30, kUntouched);
-        ::DrawIconEx(wanted.dc.m_hDC, 3, 4, icons[i], 24, 24, 0, nullptr, DI_NORMAL);
-        EXPECT_TRUE(isSame(drawn, wanted)) << i;
-    }
-}
-
 TEST(FontPicker, SortStyleOfTheControlOrdersTheNamesWithTheirFonts) {
     FakeFonts fonts;
     ui_test::TestHost host;

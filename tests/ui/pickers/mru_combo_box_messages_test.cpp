@@ -63,8 +63,9 @@ public:
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        if (picker) commands.emplace_back(HIWORD(wParam), picker->dialogs);
-        return RecordingHolder::OnCommand(wParam, lParam);
+        const BOOL isKept = RecordingHolder::OnCommand(wParam, lParam);
+        if (picker && !isKept) commands.emplace_back(HIWORD(wParam), picker->dialogs);
+        return isKept;
     }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_GETFONT && font) return reinterpret_cast<LRESULT>(font);
