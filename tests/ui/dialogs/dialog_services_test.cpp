@@ -142,9 +142,9 @@ TEST_F(DialogServices, EachNotificationHasItsHook) {
     dialog.calls.clear();
     for (int value = 0; value < 40; ++value) {
         const bool known =
-            value >= 1 && value <= 3 || value >= 12 && value <= 14 || value >= 16 && value <= 18;
-        if (!known)
-            EXPECT_EQ(dialog.SendMessage(KbUiMessage(), PackKbUiNotification(0, KBUI_NOTIFY(value)), 0), 0);
+            (value >= 1 && value <= 3) || (value >= 12 && value <= 14) || (value >= 16 && value <= 18);
+        if (known) continue;
+        EXPECT_EQ(dialog.SendMessage(KbUiMessage(), PackKbUiNotification(0, KBUI_NOTIFY(value)), 0), 0);
     }
     EXPECT_TRUE(dialog.calls.empty());
 }

@@ -356,7 +356,9 @@ TEST_F(BaseDialog, TheToolTipControlIsSetUpInOrder) {
         if (message.message == WM_NCCREATE) enabled = (dialog.m_nFlags & WF_TOOLTIPS) != 0;
         if (message.message >= WM_USER && message.message < 0xC000) {
             messages.push_back(message.message);
-            if (message.message >= TTM_SETMAXTIPWIDTH) EXPECT_EQ(message.wParam, 0u);
+            if (message.message >= TTM_SETMAXTIPWIDTH) {
+                EXPECT_EQ(message.wParam, 0u);
+            }
         }
     });
     dialog.SetUseTips(1);

@@ -58,7 +58,7 @@ private:
         asked.push_back({"transparent?", part, state});
         return transparent;
     }
-    static HRESULT WINAPI drawParent(HWND window, HDC, const RECT* rect) {
+    static HRESULT WINAPI drawParent(HWND window, HDC, RECT* rect) {
         asked.push_back({window == opened ? "parent" : "another's parent", 0, 0, CRect(*rect)});
         return S_OK;
     }

@@ -19,7 +19,9 @@ void expectFamily(DWORD contradicting, DWORD own) {
         const auto shown = messagesShown([&] { edit.SetStyleMask(bit); });
         const bool objects = (bit & contradicting) != 0;
         ASSERT_EQ(shown.size(), objects ? 1u : 0u) << bit;
-        if (objects) EXPECT_EQ(shown[0], L"Contradictory style masks set");
+        if (objects) {
+            EXPECT_EQ(shown[0], L"Contradictory style masks set");
+        }
         EXPECT_EQ(edit.GetStyleMask(), bit | own);
         EXPECT_TRUE(edit.IsStyleMaskSet(bit | own));
         EXPECT_FALSE(edit.IsStyleMaskSet(bit | own | 0x1000u));
@@ -204,7 +206,7 @@ TEST(ValueFlag, ConvertWritesANumberAndLeavesTheFlag) {
     in.edit.Convert();
     EXPECT_EQ(in.edit.textsSet, (std::vector<CString>{L"bad"}));
     EXPECT_EQ(in.edit.m_valid, 1);
-    CKtUiEdit* none = nullptr;
+    CKtUiEdit* volatile none = nullptr;
     none->Convert();
 }
 
