@@ -138,10 +138,6 @@ HMODULE StringLibrary() { return stringLibrary; }
 
 HMODULE KtUiOwnModule() { return toolkit.ownModule.hModule; }
 
-HINSTANCE OwnResourceModule() {
-    return toolkit.ownModule.hModule ? toolkit.ownModule.hModule : toolkit.resourceLibrary;
-}
-
 void InitKtUiDLL() {}
 
 void InitKbUiDLL() { InitKtUiDLL(); }
