@@ -60,8 +60,8 @@ BOOL InitExtensionModule(AFX_EXTENSION_MODULE& module, HMODULE handle) {
 }
 
 void JoinResourceChain() {
-    if (toolkit.resourceModuleReady) return;
-    if (!InitExtensionModule(toolkit.resourceModule, toolkit.resourceLibrary)) return;
+    if (toolkit.resourceModuleReady || !InitExtensionModule(toolkit.resourceModule, toolkit.resourceLibrary))
+        return;
     toolkit.resourceModuleReady = 1;
     AddToModuleChain(toolkit.resourceModule);
 }

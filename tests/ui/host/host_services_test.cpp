@@ -1,3 +1,4 @@
+#include <ktui/dialogs/ktui_dialog.h>
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_services.h>
 #include <ktui/host/resource_scope.h>
@@ -23,6 +24,40 @@ TEST(HostServices, MainWindowIsTheDockingFrameAndNotTheDialogParent) {
     host.hasUiHost = false;
     EXPECT_EQ(KtUiMainWindow(), nullptr) << "while the application shuts down";
     AfxGetApp()->m_pMainWnd = nullptr;
+}
+
+namespace {
+
+/// A dialog that opens what it asks of the host.
+struct AskingDialog : CKtUiDialog {
+    AskingDialog() : CKtUiDialog(1) {}
+    using CKtUiDialog::AppMainWindow;
+    using CKtUiDialog::OnDialogHelp;
+};
+
+}  // namespace
+
+TEST(HostServices, DialogsParentIsTheApplicationsMainWindow) {
+    TestHost host;
+    ParentWindow frame, dialogParent;
+    host.frame = &frame;
+    AskingDialog dialog;
+    EXPECT_EQ(dialog.AppMainWindow(), nullptr);
+    AfxGetApp()->m_pMainWnd = &dialogParent;
+    EXPECT_EQ(dialog.AppMainWindow(), &dialogParent);
+    host.hasUiHost = false;
+    EXPECT_EQ(dialog.AppMainWindow(), nullptr) << "while the application shuts down";
+    AfxGetApp()->m_pMainWnd = nullptr;
+}
+
+TEST(HostServices, HelpIsTheHostsOrIsSkipped) {
+    TestHost host;
+    AskingDialog dialog;
+    dialog.OnDialogHelp();
+    EXPECT_EQ(host.helpCalls, 1);
+    host.hasUiHost = false;
+    dialog.OnDialogHelp();
+    EXPECT_EQ(host.helpCalls, 1);
 }
 
 TEST(HostServices, RootKeyIsLeftAloneWithoutRuntimeServices) {

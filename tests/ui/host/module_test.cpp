@@ -1,4 +1,5 @@
 // What the loaded library holds, and where its resources come from.
+#include <ktdsres/resource_ids.h>
 #include <ktui/host/module.h>
 #include <ktui/host/test_door.h>
 #include <ktui/pickers/color_combo_box.h>
@@ -23,6 +24,11 @@ int WINAPI TellString(HINSTANCE module, UINT id, LPWSTR text, int size) {
     askedString = {module, id, size};
     lstrcpynW(text, L"told text and more", size);
     return 9;
+}
+
+int WINAPI TellOneCharacter(HINSTANCE, UINT, LPWSTR text, int) {
+    lstrcpyW(text, L"x");
+    return 1;
 }
 
 int WINAPI TellNoString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
@@ -87,7 +93,13 @@ TEST(ModuleLoad, StringsComeFromTheResourceLibrary) {
     ASSERT_TRUE(replaced.isThere());
     EXPECT_STREQ(chooseColorText(), L"told text") << "as long as the system says";
     EXPECT_EQ(askedString.module, ::GetModuleHandleW(L"ktdsres.dll"));
+    EXPECT_EQ(askedString.id, static_cast<UINT>(IDS_CHOOSE_COLOR_ITEM));
     EXPECT_EQ(askedString.size, 1000);
+}
+
+TEST(ModuleLoad, AStringOfOneCharacterIsAString) {
+    const ui_test::ReplacedImport replaced(toolkit(), "LoadStringW", &TellOneCharacter);
+    EXPECT_STREQ(chooseColorText(), L"x");
 }
 
 TEST(ModuleLoad, AMissingStringHasASubstitute) {
