@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "import_table.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {

@@ -16,7 +16,7 @@
 #include <shlwapi.h>
 #include <winternl.h>
 
-#include "import_table.h"
+#include "replaced_import.h"
 
 namespace {
 
@@ -160,9 +160,9 @@ void watch(HMODULE module) {
     };
     toolkit = module;
     for (const Import& import : imports)
-        if (!ui_test::exchange_import(module, import.name, import.function))
+        if (!ui_test::replace_import(module, import.name, import.function))
             std::fprintf(out, "not imported: %s\n", import.name);
-    joinChain = reinterpret_cast<JoinChain>(ui_test::exchange_import(
+    joinChain = reinterpret_cast<JoinChain>(ui_test::replace_import(
         module, "_ZN15CDynLinkLibraryC1ER20AFX_EXTENSION_MODULEi", reinterpret_cast<void*>(&JoinChain_)));
 }
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "import_table.h"
+#include "replaced_import.h"
 #include "test_host.h"
 
 namespace {

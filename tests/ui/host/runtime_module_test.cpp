@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "entry_points.h"
-#include "import_table.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "canvas.h"
 #include "ui_test.h"
 
 namespace {
@@ -14,21 +15,13 @@ constexpr COLORREF kFill = 0xFBFBFB;
 constexpr COLORREF kInk = 0x5C5253;
 constexpr int kWidth = 200, kHeight = 60;
 
-/// A bitmap of one colour that a control paints its tip on.
-class Canvas {
+/// A picture of one colour that a control paints its tip on.
+class Canvas : public ui_test::Canvas {
 public:
-    Canvas() {
-        CClientDC screen(nullptr);
-        dc.CreateCompatibleDC(&screen);
-        m_bitmap.CreateCompatibleBitmap(&screen, kWidth, kHeight);
-        m_former = dc.SelectObject(&m_bitmap);
-        dc.FillSolidRect(0, 0, kWidth, kHeight, kUntouched);
-    }
-    ~Canvas() { dc.SelectObject(m_former); }
+    Canvas() : ui_test::Canvas(kWidth, kHeight, kUntouched) {}
 
-    COLORREF at(int x, int y) { return ::GetPixel(dc.m_hDC, x, y); }
     /// The box around the pixels inside `area` that differ from the fill; left is above right without any.
-    CRect inked(const CRect& area) {
+    CRect inked(const CRect& area) const {
         CRect box(kWidth, kHeight, -1, -1);
         for (int y = area.top; y < area.bottom; ++y)
             for (int x = area.left; x < area.right; ++x)
@@ -37,12 +30,6 @@ public:
                                 std::max<int>(box.right, x + 1), std::max<int>(box.bottom, y + 1));
         return box;
     }
-
-    CDC dc;
-
-private:
-    CBitmap m_bitmap;
-    CBitmap* m_former = nullptr;
 };
 
 class FramedTip : public ::testing::Test {

@@ -6,7 +6,7 @@
 
 #include <winternl.h>
 
-#include "import_table.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "import_table.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {

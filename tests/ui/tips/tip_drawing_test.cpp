@@ -1,4 +1,5 @@
 // What a tip paints, read back from a memory device context.
+#include "canvas.h"
 #include "tip_fixture.h"
 
 namespace {
@@ -8,38 +9,9 @@ constexpr COLORREF kInk = 0x4B4846;
 constexpr COLORREF kPaper = 0xF9F9F9;
 constexpr int kWidth = 240, kHeight = 60;
 
-/// A bitmap of one colour to paint on.
-class Canvas {
-public:
-    Canvas() {
-        CClientDC screen(nullptr);
-        dc.CreateCompatibleDC(&screen);
-        m_bitmap.CreateCompatibleBitmap(&screen, kWidth, kHeight);
-        m_former = dc.SelectObject(&m_bitmap);
-        dc.FillSolidRect(0, 0, kWidth, kHeight, kUntouched);
-        dc.SetBkMode(OPAQUE);
-    }
-    ~Canvas() { dc.SelectObject(m_former); }
-
-    COLORREF at(int x, int y) { return ::GetPixel(dc.m_hDC, x, y); }
-    bool operator==(Canvas& other) {
-        for (int y = 0; y < kHeight; ++y)
-            for (int x = 0; x < kWidth; ++x)
-                if (at(x, y) != other.at(x, y)) return false;
-        return true;
-    }
-    int count(COLORREF color) {
-        int found = 0;
-        for (int y = 0; y < kHeight; ++y)
-            for (int x = 0; x < kWidth; ++x) found += at(x, y) == color;
-        return found;
-    }
-
-    CDC dc;
-
-private:
-    CBitmap m_bitmap;
-    CBitmap* m_former = nullptr;
+/// A picture of one colour to paint on, in the mode that a device context comes with.
+struct Canvas : ui_test::Canvas {
+    Canvas() : ui_test::Canvas(kWidth, kHeight, kUntouched) { dc.SetBkMode(OPAQUE); }
 };
 
 class DrawnTip : public ui_test::TipOverControl<CKbUiTextTip> {
