@@ -30,6 +30,3 @@ HMODULE StringLibrary();
 
 /// The library itself, which its own bitmaps and icons are loaded from.
 HMODULE KtUiOwnModule();
-
-/// The library itself as a source of resources, or the resource library while that is unknown.
-HINSTANCE OwnResourceModule();

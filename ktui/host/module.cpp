@@ -60,8 +60,8 @@ BOOL InitExtensionModule(AFX_EXTENSION_MODULE& module, HMODULE handle) {
 }
 
 void JoinResourceChain() {
-    if (toolkit.resourceModuleReady) return;
-    if (!InitExtensionModule(toolkit.resourceModule, toolkit.resourceLibrary)) return;
+    if (toolkit.resourceModuleReady || !InitExtensionModule(toolkit.resourceModule, toolkit.resourceLibrary))
+        return;
     toolkit.resourceModuleReady = 1;
     AddToModuleChain(toolkit.resourceModule);
 }
@@ -137,10 +137,6 @@ const ToolkitModule& LoadedToolkit() { return toolkit; }
 HMODULE StringLibrary() { return stringLibrary; }
 
 HMODULE KtUiOwnModule() { return toolkit.ownModule.hModule; }
-
-HINSTANCE OwnResourceModule() {
-    return toolkit.ownModule.hModule ? toolkit.ownModule.hModule : toolkit.resourceLibrary;
-}
 
 void InitKtUiDLL() {}
 

@@ -24,7 +24,7 @@ int Arx2DrxModule::dispatch(int message, void* packet) {
 
 template <class Module, class Base>
 void OdRxWin32Module<Module, Base>::deleteModule() {
-    if (this == singleton) singleton = nullptr;
+    singleton = nullptr;
     delete this;
 }
 

@@ -32,46 +32,44 @@ public:
     void unload(void* module) override { ::FreeLibrary(static_cast<HMODULE>(module)); }
 };
 
-template <class Function>
-void Bind(Function& member, const ThemeResolution& found, ThemeSlot slot) {
-    member = reinterpret_cast<Function>(found.entries[slot]);
-}
-
-void BindWindowEntries(ThemeApi& api, const ThemeResolution& found) {
-    Bind(api.closeThemeData, found, kThemeClose);
-    Bind(api.drawThemeBackground, found, kThemeDrawBackground);
-    Bind(api.drawThemeEdge, found, kThemeDrawEdge);
-    Bind(api.drawThemeIcon, found, kThemeDrawIcon);
-    Bind(api.drawThemeParentBackground, found, kThemeDrawParentBackground);
-    Bind(api.drawThemeText, found, kThemeDrawText);
-    Bind(api.getThemeBackgroundContentRect, found, kThemeGetBackgroundContentRect);
-    Bind(api.getThemeColor, found, kThemeGetColor);
-    Bind(api.getThemeTextExtent, found, kThemeGetTextExtent);
-    Bind(api.isCompositionActive, found, kThemeIsCompositionActive);
-    Bind(api.isThemeActive, found, kThemeIsActive);
-    Bind(api.isThemeBackgroundPartiallyTransparent, found, kThemeIsBackgroundPartiallyTransparent);
-    Bind(api.openThemeData, found, kThemeOpen);
-    Bind(api.setWindowTheme, found, kThemeSetWindow);
-}
-
-void BindAnimationEntries(ThemeApi& api, const ThemeResolution& found) {
-    Bind(api.beginBufferedAnimation, found, kThemeBeginBufferedAnimation);
-    Bind(api.bufferedPaintInit, found, kThemeBufferedPaintInit);
-    Bind(api.bufferedPaintUnInit, found, kThemeBufferedPaintUnInit);
-    Bind(api.bufferedPaintRenderAnimation, found, kThemeBufferedPaintRenderAnimation);
-    Bind(api.bufferedPaintStopAllAnimations, found, kThemeBufferedPaintStopAllAnimations);
-    Bind(api.endBufferedAnimation, found, kThemeEndBufferedAnimation);
-    Bind(api.getThemeTransitionDuration, found, kThemeGetTransitionDuration);
-}
+/// An entry as it was found, which takes the type of the member that it is put into.
+struct Found {
+    ThemeEntry entry;
+    template <class Function>
+    operator Function() const {
+        return reinterpret_cast<Function>(entry);
+    }
+};
 
 ThemeApi themeApi = MakeThemeApi({});
 
 }  // namespace
 
 ThemeApi MakeThemeApi(const ThemeResolution& found) {
-    ThemeApi api;
-    BindWindowEntries(api, found);
-    BindAnimationEntries(api, found);
+    const auto entry = [&found](ThemeSlot slot) { return Found{found.entries[slot]}; };
+    ThemeApi api = {
+        .closeThemeData = entry(kThemeClose),
+        .drawThemeBackground = entry(kThemeDrawBackground),
+        .drawThemeEdge = entry(kThemeDrawEdge),
+        .drawThemeIcon = entry(kThemeDrawIcon),
+        .drawThemeParentBackground = entry(kThemeDrawParentBackground),
+        .drawThemeText = entry(kThemeDrawText),
+        .getThemeBackgroundContentRect = entry(kThemeGetBackgroundContentRect),
+        .getThemeColor = entry(kThemeGetColor),
+        .getThemeTextExtent = entry(kThemeGetTextExtent),
+        .isCompositionActive = entry(kThemeIsCompositionActive),
+        .isThemeActive = entry(kThemeIsActive),
+        .isThemeBackgroundPartiallyTransparent = entry(kThemeIsBackgroundPartiallyTransparent),
+        .openThemeData = entry(kThemeOpen),
+        .setWindowTheme = entry(kThemeSetWindow),
+        .beginBufferedAnimation = entry(kThemeBeginBufferedAnimation),
+        .bufferedPaintInit = entry(kThemeBufferedPaintInit),
+        .bufferedPaintUnInit = entry(kThemeBufferedPaintUnInit),
+        .bufferedPaintRenderAnimation = entry(kThemeBufferedPaintRenderAnimation),
+        .bufferedPaintStopAllAnimations = entry(kThemeBufferedPaintStopAllAnimations),
+        .endBufferedAnimation = entry(kThemeEndBufferedAnimation),
+        .getThemeTransitionDuration = entry(kThemeGetTransitionDuration),
+    };
     if (found.windowFallback) {
         api.isCompositionActive = NoComposition;
         api.isThemeActive = NoActiveTheme;

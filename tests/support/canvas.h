@@ -31,7 +31,18 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    COLORREF at(int x, int y) const { return pixels()[static_cast<std::size_t>(y * m_width + x)]; }
+    COLORREF at(int x, int y) const {
+        ::GdiFlush();
+        const DWORD bits = m_bits[y * m_width + x];
+        return RGB(bits >> 16 & 0xFF, bits >> 8 & 0xFF, bits & 0xFF);
+    }
+    /// How many pixels have colour `color`.
+    int count(COLORREF color) const {
+        int found = 0;
+        for (int y = 0; y < m_height; ++y)
+            for (int x = 0; x < m_width; ++x) found += at(x, y) == color;
+        return found;
+    }
     /// All pixels by rows, as COLORREF.
     std::vector<COLORREF> pixels() const {
         ::GdiFlush();
@@ -39,11 +50,15 @@ public:
         for (COLORREF& each : all) each = RGB(each >> 16 & 0xFF, each >> 8 & 0xFF, each & 0xFF);
         return all;
     }
-    bool operator==(const Canvas& other) const { return pixels() == other.pixels(); }
-    /// Whether every pixel has colour `color`.
-    bool isAll(COLORREF color) const {
-        return pixels() == std::vector<COLORREF>(std::size_t(m_width * m_height), color);
+    bool operator==(const Canvas& other) const {
+        if (m_width != other.m_width || m_height != other.m_height) return false;
+        for (int y = 0; y < m_height; ++y)
+            for (int x = 0; x < m_width; ++x)
+                if (at(x, y) != other.at(x, y)) return false;
+        return true;
     }
+    /// Whether every pixel has colour `color`.
+    bool isAll(COLORREF color) const { return count(color) == m_width * m_height; }
 
     CDC dc;
 

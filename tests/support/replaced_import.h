@@ -40,4 +40,27 @@ Function* replace_import(HMODULE module, const char* name, Function* replacement
     return former;
 }
 
+/// The same for as long as the object lives.
+class ReplacedImport {
+public:
+    template <class Function>
+    ReplacedImport(HMODULE module, const char* name, Function* replacement)
+        : m_module(module),
+          m_name(name),
+          m_former(reinterpret_cast<void*>(replace_import(module, name, replacement))) {}
+    ~ReplacedImport() {
+        if (m_former) replace_import(m_module, m_name, m_former);
+    }
+    ReplacedImport(const ReplacedImport&) = delete;
+    ReplacedImport& operator=(const ReplacedImport&) = delete;
+
+    /// Whether the module imports the function at all.
+    bool isThere() const { return m_former != nullptr; }
+
+private:
+    HMODULE m_module;
+    const char* m_name;
+    void* m_former;
+};
+
 }  // namespace ui_test

@@ -162,3 +162,35 @@ TEST(KtUiString, WrapLineIntoAListAtTheLengthDoesNothing) {
     EXPECT_TRUE(lines.IsEmpty());
     EXPECT_STREQ(text.GetString(), L"abcdefg");
 }
+
+TEST(KtUiString, WrapLineIntoAListTakesSingleCharactersToo) {
+    CKtUiString text(L"abc");
+    CStringList lines;
+    text.WrapLine(lines, 1);
+    EXPECT_EQ(Pieces(lines), (std::vector<std::wstring>{L"a", L"b"}));
+    EXPECT_STREQ(text.GetString(), L"c");
+}
+
+TEST(KtUiString, WrapLineIntoAListKeepsAWholePieceAtTheEnd) {
+    CKtUiString text(L"abcdef");
+    CStringList lines;
+    text.WrapLine(lines, 3);
+    EXPECT_EQ(Pieces(lines), std::vector<std::wstring>{L"abc"});
+    EXPECT_STREQ(text.GetString(), L"def");
+}
+
+TEST(KtUiString, WrapLineAtTheFirstCharacterLeavesOne) {
+    CKtUiString text(L"abc");
+    CKtUiString rest;
+    text.WrapLine(rest, 1);
+    EXPECT_STREQ(text.GetString(), L"a");
+    EXPECT_STREQ(rest.GetString(), L"bc");
+}
+
+TEST(KtUiString, IsMadeOfCopiesOfACharacterOrTheBeginningOfAText) {
+    EXPECT_STREQ(CKtUiString(L'x', 3).GetString(), L"xxx");
+    EXPECT_STREQ(CKtUiString(L"abcdef", 2).GetString(), L"ab");
+    EXPECT_STREQ(CKtUiString(L"abc").GetString(), L"abc");
+    EXPECT_STREQ(CKtUiString(CString(L"abc")).GetString(), L"abc");
+    EXPECT_TRUE(CKtUiString().IsEmpty());
+}

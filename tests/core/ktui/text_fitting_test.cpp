@@ -40,6 +40,15 @@ TEST(ShortenToWidth, EllipsisIsNotMeasured) {
 
 TEST(ShortenToWidth, WidthOfZeroLeavesTheEllipsis) { EXPECT_EQ(Shorten(L"abcdefgh", 0), L"..."); }
 
+TEST(ShortenToWidth, OneCharacterThatIsLeftMakesRoomForTheEllipsis) {
+    EXPECT_EQ(Shorten(L"abcdefgh", 10), L"...");
+    EXPECT_EQ(Shorten(L"abcdefgh", 20), L"...");
+    EXPECT_EQ(Shorten(L"abcdefgh", 30), L"...");
+    EXPECT_EQ(Shorten(L"abcdefgh", 40), L"a...");
+}
+
+TEST(RepeatToWidth, WidthOfZeroLeavesTheEllipsis) { EXPECT_EQ(Repeat(L"abcdefgh", 0), L"..."); }
+
 TEST(RepeatToWidth, FourCharactersComeBackOnce) { EXPECT_EQ(Repeat(L"abcd", 400), L"abcd"); }
 
 TEST(RepeatToWidth, OwnWidthComesBackOnce) { EXPECT_EQ(Repeat(L"abcde", 50), L"abcde"); }

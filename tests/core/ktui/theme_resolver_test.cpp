@@ -70,6 +70,19 @@ TEST(ThemeResolver, OldSystemLoadsNothing) {
     EXPECT_TRUE(found.windowFallback);
 }
 
+TEST(ThemeResolver, TheFirstVersionsWithThemesAreEnoughAndTheOnesBeforeAreNot) {
+    struct Version {
+        std::uint32_t system, controls;
+        int loads;
+    };
+    for (const Version& each : {Version{0x020501, 0x00060000, 1}, Version{0x020500, 0x00060000, 0},
+                                Version{0x020501, 0x0005FFFF, 0}, Version{0x020600, 0x00060010, 1}}) {
+        FakeLibrary library;
+        ResolveThemeEntries(each.system, each.controls, library);
+        EXPECT_EQ(library.loads, each.loads) << std::hex << each.system << ' ' << each.controls;
+    }
+}
+
 TEST(ThemeResolver, MissingLibraryFallsBack) {
     FakeLibrary library("", false);
     const ThemeResolution found = Resolve(library);

@@ -1,6 +1,6 @@
+#include <ktui/dialogs/ktui_dialog.h>
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_services.h>
-#include <ktui/host/message_box.h>
 #include <ktui/host/resource_scope.h>
 
 #include <imm.h>
@@ -24,6 +24,40 @@ TEST(HostServices, MainWindowIsTheDockingFrameAndNotTheDialogParent) {
     host.hasUiHost = false;
     EXPECT_EQ(KtUiMainWindow(), nullptr) << "while the application shuts down";
     AfxGetApp()->m_pMainWnd = nullptr;
+}
+
+namespace {
+
+/// A dialog that opens what it asks of the host.
+struct AskingDialog : CKtUiDialog {
+    AskingDialog() : CKtUiDialog(1) {}
+    using CKtUiDialog::AppMainWindow;
+    using CKtUiDialog::OnDialogHelp;
+};
+
+}  // namespace
+
+TEST(HostServices, DialogsParentIsTheApplicationsMainWindow) {
+    TestHost host;
+    ParentWindow frame, dialogParent;
+    host.frame = &frame;
+    AskingDialog dialog;
+    EXPECT_EQ(dialog.AppMainWindow(), nullptr);
+    AfxGetApp()->m_pMainWnd = &dialogParent;
+    EXPECT_EQ(dialog.AppMainWindow(), &dialogParent);
+    host.hasUiHost = false;
+    EXPECT_EQ(dialog.AppMainWindow(), nullptr) << "while the application shuts down";
+    AfxGetApp()->m_pMainWnd = nullptr;
+}
+
+TEST(HostServices, HelpIsTheHostsOrIsSkipped) {
+    TestHost host;
+    AskingDialog dialog;
+    dialog.OnDialogHelp();
+    EXPECT_EQ(host.helpCalls, 1);
+    host.hasUiHost = false;
+    dialog.OnDialogHelp();
+    EXPECT_EQ(host.helpCalls, 1);
 }
 
 TEST(HostServices, RootKeyIsLeftAloneWithoutRuntimeServices) {
@@ -69,9 +103,6 @@ TEST(HostServices, CompositionWindowMovesToThePoint) {
     EXPECT_EQ(form.dwStyle, static_cast<DWORD>(CFS_POINT));
     EXPECT_EQ(form.ptCurrentPos.x, 31);
     EXPECT_EQ(form.ptCurrentPos.y, 17);
-    ktuiSetCompositionWindow(nullptr, POINT{5, 5});
-    ::ImmGetCompositionWindow(context, &form);
-    EXPECT_EQ(form.ptCurrentPos.x, 31) << "a null window makes no call";
     ::ImmReleaseContext(window.m_hWnd, context);
 }
 
@@ -102,15 +133,4 @@ TEST(ResourceScope, PopsWhenAnExceptionLeavesIt) {
         std::runtime_error);
     EXPECT_EQ(host.pops, 1);
     EXPECT_TRUE(host.resourceStack.empty());
-}
-
-TEST(MessageBox, AnswersTheButtonThatWasPressed) {
-    TestHost host;
-    CString shown;
-    ui_test::when_dialog(L"", [&](HWND box) {
-        const HWND text = ::GetDlgItem(box, 0xFFFF);
-        if (text) shown = ui_test::text_of(text);
-        ::PostMessageW(box, WM_COMMAND, IDNO, 0);
-    });
-    EXPECT_EQ(KtUiMessageBox(L"caption", L"Save the drawing?", MB_YESNO | MB_ICONQUESTION), IDNO);
 }

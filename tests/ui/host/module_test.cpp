@@ -1,95 +1,46 @@
+// What the loaded library holds, and where its resources come from.
+#include <ktdsres/resource_ids.h>
 #include <ktui/host/module.h>
-#include <ktui/host/runtime_module.h>
-#include <ktui/host/theme_api.h>
+#include <ktui/host/test_door.h>
+#include <ktui/pickers/color_combo_box.h>
 
 #include <gtest/gtest.h>
 
+#include "replaced_import.h"
 #include "test_host.h"
 
 namespace {
 
-/// The module object, deleted at the end of a test.
-struct ModuleObject {
-    explicit ModuleObject(HMODULE handle) : argument(handle), object(odrxCreateModuleObject(argument)) {}
-    ~ModuleObject() {
-        if (object) object->deleteModule();
-    }
-    int dispatch(int message) { return static_cast<OdRxExtendModule*>(object)->dispatch(message, nullptr); }
+HMODULE toolkit() { return ::GetModuleHandleW(L"ktui.dll"); }
 
-    HMODULE argument;
-    OdRxModule* object;
-};
+/// What the last LoadStringW of the library was asked for.
+struct {
+    HINSTANCE module;
+    UINT id;
+    int size;
+} askedString;
+
+int WINAPI TellString(HINSTANCE module, UINT id, LPWSTR text, int size) {
+    askedString = {module, id, size};
+    lstrcpynW(text, L"told text and more", size);
+    return 9;
+}
+
+int WINAPI TellOneCharacter(HINSTANCE, UINT, LPWSTR text, int) {
+    lstrcpyW(text, L"x");
+    return 1;
+}
+
+int WINAPI TellNoString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
+
+CString chooseColorText() {
+    CKtUiColorComboBox colors;
+    CString text;
+    colors.GetOtherName(0, text);
+    return text;
+}
 
 }  // namespace
-
-TEST(RuntimeModule, SecondCreateAnswersTheSameObjectAndLeavesItsArgument) {
-    ModuleObject first(::GetModuleHandleW(L"ktui.dll"));
-    EXPECT_EQ(first.argument, nullptr);
-    HMODULE again = ::GetModuleHandleW(L"ktui.dll");
-    EXPECT_EQ(odrxCreateModuleObject(again), first.object);
-    EXPECT_NE(again, nullptr);
-}
-
-TEST(RuntimeModule, ModuleWithoutEntryPointAnswersThree) {
-    ModuleObject module(::GetModuleHandleW(L"kernel32.dll"));
-    EXPECT_EQ(module.dispatch(1), 3);
-}
-
-TEST(RuntimeModule, ObjectWithoutHandleAnswersThree) {
-    ModuleObject module(nullptr);
-    EXPECT_EQ(module.dispatch(1), 3);
-    EXPECT_EQ(module.object->sysHandle(), nullptr);
-}
-
-TEST(RuntimeModule, OwnEntryPointAnswersZeroToEverything) {
-    ModuleObject module(::GetModuleHandleW(L"ktui.dll"));
-    for (const int message : {0, 1, 2, 99}) EXPECT_EQ(module.dispatch(message), 0);
-    module.object->initApp();
-    module.object->uninitApp();
-}
-
-TEST(RuntimeModule, CountOfZeroLeavesTheObjectAlive) {
-    ModuleObject module(::GetModuleHandleW(L"ktui.dll"));
-    module.object->addRef();
-    module.object->addRef();
-    EXPECT_EQ(module.object->numRefs(), 2);
-    module.object->release();
-    module.object->release();
-    module.object->release();
-    EXPECT_EQ(module.object->numRefs(), -1);
-    EXPECT_TRUE(module.object->isModule());
-}
-
-TEST(RuntimeModule, DeletedObjectIsFollowedByANewOne) {
-    HMODULE handle = ::GetModuleHandleW(L"ktui.dll");
-    odrxCreateModuleObject(handle)->deleteModule();
-    ModuleObject second(::GetModuleHandleW(L"kernel32.dll"));
-    EXPECT_EQ(second.argument, nullptr) << "a new object takes its argument";
-    EXPECT_EQ(second.object->sysHandle(), ::GetModuleHandleW(L"kernel32.dll"));
-}
-
-TEST(RuntimeModule, NameIsTheFilesFullPath) {
-    ModuleObject module(::GetModuleHandleW(L"ktui.dll"));
-    wchar_t path[MAX_PATH] = {};
-    ::GetModuleFileNameW(::GetModuleHandleW(L"ktui.dll"), path, MAX_PATH);
-    EXPECT_STREQ(module.object->moduleName().c_str(), path);
-}
-
-TEST(RuntimeModule, VersionOfTheRuntime) {
-    int version[4] = {-1, -1, -1, -1};
-    EXPECT_EQ(odrxGetAPIVersion(version[0], version[1], version[2], version[3]), 0);
-    EXPECT_EQ(version[0], 3);
-    EXPECT_EQ(version[1], 5);
-    EXPECT_EQ(version[2], 0);
-    EXPECT_EQ(version[3], 0);
-}
-
-TEST(RuntimeModule, ExportsAreFoundByTheirPlainNames) {
-    const HMODULE module = ::GetModuleHandleW(L"ktui.dll");
-    for (const char* name : {"odrxCreateModuleObject", "odrxGetAPIVersion", "ktrxEntryPoint"})
-        EXPECT_NE(::GetProcAddress(module, name), nullptr) << name;
-    EXPECT_EQ(::GetProcAddress(module, "acrxEntryPoint"), nullptr);
-}
 
 TEST(ModuleLoad, ResourcesComeFromTheResourceLibrary) {
     EXPECT_NE(::GetModuleHandleW(L"ktdsres.dll"), nullptr);
@@ -125,30 +76,33 @@ TEST(ModuleLoad, ClassesOfTheLibraryAreFoundByName) {
     EXPECT_NE(CRuntimeClass::FromName("CKtUiMRUComboBox"), nullptr);
 }
 
-TEST(ThemeFallback, OldControlsAnswerAsASystemWithoutThemes) {
-    const ThemeApi api = MakeThemeApi(ResolveThemeEntries(0x020600, 0x00050051, SystemThemeLibrary()));
-    EXPECT_EQ(api.openThemeData(nullptr, L"BUTTON"), nullptr);
-    EXPECT_FALSE(api.isThemeActive());
-    EXPECT_FALSE(api.isCompositionActive());
-    EXPECT_EQ(api.setWindowTheme(nullptr, L"", L""), E_NOTIMPL);
-    EXPECT_EQ(api.bufferedPaintInit(), E_NOTIMPL);
-    EXPECT_EQ(api.bufferedPaintUnInit(), E_NOTIMPL);
-    EXPECT_EQ(api.bufferedPaintStopAllAnimations(nullptr), E_NOTIMPL);
-    EXPECT_EQ(api.beginBufferedAnimation(nullptr, nullptr, nullptr, BPBF_COMPATIBLEBITMAP, nullptr, nullptr,
-                                         nullptr, nullptr),
-              nullptr);
-    DWORD duration = 99;
-    EXPECT_EQ(api.getThemeTransitionDuration(nullptr, 0, 0, 0, 0, &duration), E_NOTIMPL);
-    EXPECT_EQ(duration, 0u);
-    EXPECT_EQ(api.drawThemeBackground, nullptr) << "reached with theme data only";
+TEST(ModuleLoad, HoldsWhatTheSystemGave) {
+    const ToolkitModule& held = KtUiTestDoor().loadedToolkit();
+    WNDCLASSW button = {};
+    ASSERT_TRUE(::GetClassInfoW(nullptr, L"BUTTON", &button));
+    EXPECT_EQ(held.buttonWndProc, button.lpfnWndProc);
+    EXPECT_EQ(reinterpret_cast<void*>(held.initCommonControlsEx),
+              reinterpret_cast<void*>(
+                  ::GetProcAddress(::GetModuleHandleW(L"comctl32.dll"), "InitCommonControlsEx")));
+    EXPECT_EQ(held.ownModule.hModule, toolkit());
+    EXPECT_EQ(held.resourceModule.hModule, held.resourceLibrary);
 }
 
-TEST(ThemeFallback, SystemWithThemesBindsItsOwnEntries) {
-    const ThemeResolution found = ResolveThemeEntries(0x020600, 0x00060000, SystemThemeLibrary());
-    ASSERT_FALSE(found.windowFallback);
-    const ThemeApi api = MakeThemeApi(found);
-    EXPECT_EQ(reinterpret_cast<void*>(api.openThemeData),
-              reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(found.module), "OpenThemeData")));
-    EXPECT_NE(api.drawThemeBackground, nullptr);
-    SystemThemeLibrary().unload(found.module);
+TEST(ModuleLoad, StringsComeFromTheResourceLibrary) {
+    const ui_test::ReplacedImport replaced(toolkit(), "LoadStringW", &TellString);
+    ASSERT_TRUE(replaced.isThere());
+    EXPECT_STREQ(chooseColorText(), L"told text") << "as long as the system says";
+    EXPECT_EQ(askedString.module, ::GetModuleHandleW(L"ktdsres.dll"));
+    EXPECT_EQ(askedString.id, static_cast<UINT>(IDS_CHOOSE_COLOR_ITEM));
+    EXPECT_EQ(askedString.size, 1000);
+}
+
+TEST(ModuleLoad, AStringOfOneCharacterIsAString) {
+    const ui_test::ReplacedImport replaced(toolkit(), "LoadStringW", &TellOneCharacter);
+    EXPECT_STREQ(chooseColorText(), L"x");
+}
+
+TEST(ModuleLoad, AMissingStringHasASubstitute) {
+    const ui_test::ReplacedImport replaced(toolkit(), "LoadStringW", &TellNoString);
+    EXPECT_STREQ(chooseColorText(), L"选择颜色...");
 }

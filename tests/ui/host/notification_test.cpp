@@ -46,6 +46,11 @@ TEST(NotificationRouting, NumberIsTheRegisteredMessages) {
     EXPECT_EQ(KbUiMessage(), KbUiMessage());
 }
 
+TEST(NotificationRouting, UnpackingIsExported) {
+    EXPECT_EQ(KbUiNotification(0x0013FFFE), kKbUiNotifyValidate);
+    EXPECT_EQ(KbUiNotifyId(0x0013FFFE), 0xFFFEu);
+}
+
 TEST(NotificationRouting, SendPacksWhatTheReceiverUnpacks) {
     RecordingHolder holder;
     holder.reply = kKbUiReplyKeepTip;
@@ -55,7 +60,10 @@ TEST(NotificationRouting, SendPacksWhatTheReceiverUnpacks) {
         EXPECT_EQ(holder.heard.back().notification, kKbUiNotifyControlChange);
         EXPECT_EQ(holder.heard.back().datum, 0x1122334455667788ll);
     }
-    EXPECT_EQ(KbUiNotify(&holder, 9, kKbUiNotifyGeneric, 0), kKbUiReplyKeepTip);
+    EXPECT_EQ(KbUiNotify(&holder, 9, kKbUiNotifyGeneric, 77), kKbUiReplyKeepTip);
+    EXPECT_EQ(holder.heard.back().id, 9u);
+    EXPECT_EQ(holder.heard.back().notification, kKbUiNotifyGeneric);
+    EXPECT_EQ(holder.heard.back().datum, 77);
     EXPECT_EQ(KbUiNotify(static_cast<CWnd*>(nullptr), 9, kKbUiNotifyGeneric, 0), kKbUiReplyNone);
 }
 
@@ -78,7 +86,10 @@ TEST(NotificationRouting, ChildThatRepliesStopsTheMessage) {
     Nest nest;
     nest.child.reply = kKbUiReplyTextTip;
     EXPECT_EQ(KbUiNotify(nest.edit, kChildId, kKbUiNotifyGeneric, 5), kKbUiReplyTextTip);
-    EXPECT_EQ(nest.child.heard.size(), 1u);
+    ASSERT_EQ(nest.child.heard.size(), 1u);
+    EXPECT_EQ(nest.child.heard[0].id, kChildId) << "the child gets the message as it came";
+    EXPECT_EQ(nest.child.heard[0].notification, kKbUiNotifyGeneric);
+    EXPECT_EQ(nest.child.heard[0].datum, 5);
     EXPECT_TRUE(nest.edit.own.empty());
 }
 

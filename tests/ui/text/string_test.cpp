@@ -51,6 +51,13 @@ TEST(ProductMacros, ProgramAtTheStartHidesALaterOne) {
     EXPECT_STREQ(Expanded(L"%PROGRAM% and %PROGRAM%"), L"%PROGRAM% and %PROGRAM%");
 }
 
+TEST(CharacterTests, OnlyTheAlphanumericOneKeepsOtherScriptsOut) {
+    const CKtUiString text(L"\x80\xE9");
+    EXPECT_TRUE(text.IsAlphabetic(1));
+    EXPECT_FALSE(text.IsAlphanumeric(1)) << "its code is above 128";
+    EXPECT_FALSE(text.IsAlphanumeric(0));
+}
+
 TEST(LoadedStrings, ComeFromTheActiveResourceModule) {
     CKtUiStringExp text;
     EXPECT_TRUE(text.LoadString(54211));
