@@ -103,7 +103,7 @@ TEST_F(DialogData, IsWrittenAndReadWithTheRightsThatTakes) {
         const auto& call = registry.calls[i];
         EXPECT_EQ(call.made, i < 2);
         EXPECT_EQ(call.parent, HKEY_CURRENT_USER);
-        EXPECT_EQ(CString(call.key.c_str()), CString(kTestRoot) + L"data\\");
+        EXPECT_EQ(call.key, CString(kTestRoot) + L"data\\");
         EXPECT_EQ(call.rights, i < 2 ? kWrite : kRead);
         EXPECT_EQ(call.className, i < 2 ? L"CKbUiRegistryWriteAccess" : L"");
     }
@@ -203,7 +203,7 @@ TEST_F(ListColumns, TheKeyKeepsItsDoubledBackslashBothWays) {
     EXPECT_EQ(dialog.GetColumnSizes(&list), 1);
     ASSERT_EQ(registry.calls.size(), 2u);
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(CString(registry.calls[i].key.c_str()), CString(kTestRoot) + L"data\\\\ListView-1004");
+        EXPECT_EQ(registry.calls[i].key, CString(kTestRoot) + L"data\\\\ListView-1004");
         EXPECT_EQ(registry.calls[i].made, i == 0);
         EXPECT_EQ(registry.calls[i].rights, i == 0 ? kWrite : kRead);
     }

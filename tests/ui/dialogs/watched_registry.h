@@ -1,8 +1,9 @@
 // The keys that the toolkit opens and makes, with the text and the rights that it hands to the registry.
 #pragma once
 
-#include <string>
 #include <vector>
+
+#include <afx.h>
 
 #include "replaced_import.h"
 
@@ -14,9 +15,9 @@ public:
     struct Call {
         bool made;  ///< by RegCreateKeyExW
         HKEY parent;
-        std::wstring key;
+        CString key;
         REGSAM rights;
-        std::wstring className;
+        CString className;
     };
     std::vector<Call> calls;
 
