@@ -85,7 +85,7 @@ TEST_F(Properties, AStandardColourIsPickedByMouseAndKeysAndApplied) {
     HWND dialog = openOnAll();
     ASSERT_NE(dialog, nullptr);
     HWND color = item(dialog, IDC_TRUE_COLOR);
-    drafter->pick(color, 2);
+    drafter->pick(color, 3);
     EXPECT_EQ(currentEntry(color), L"red");
     EXPECT_EQ(currentEntry(item(dialog, IDC_INDEX_COLOR)), L"red") << "both pickers show the choice";
     ok(dialog);
@@ -139,7 +139,7 @@ TEST_F(Properties, MoreColoursThanTheStoreHoldsStayInTheList) {
     ASSERT_NE(dialog, nullptr);
     HWND color = item(dialog, IDC_INDEX_COLOR);
     drafter->pickLast(color);
-    const int other = 9;  // ByLayer, ByBlock and the seven colours stand before it
+    const int other = 10;  // the differing values, ByLayer, ByBlock and the seven colours stand before it
     for (int i = 0; i < 7; ++i) {
         if (i > 0) drafter->pick(color, other);
         HWND chooser = drafter->waitForDialog(L"Select Color");
