@@ -127,7 +127,8 @@ BOOL CKtUiFontComboBox::OnSelChange() {
 
 /// The former font is selected again by now; the buddy follows it.
 BOOL CKtUiFontComboBox::OnSelEndCancel() {
-    if (!m_buddy || m_shownFont == m_formerFont) return FALSE;
+    // One comes with the loss of the focus as well, for a list that isn't open.
+    if (!m_buddy || !GetDroppedState() || m_shownFont == m_formerFont) return FALSE;
     m_shownFont = m_formerFont;
     if (GetCurSel() == CB_ERR) {
         m_buddy->ResetContent();
