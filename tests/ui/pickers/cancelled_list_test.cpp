@@ -143,3 +143,27 @@ TEST(CancelledList, StylesOfTheFormerFontComeBack) {
     EXPECT_TRUE(buddy.IsWindowEnabled());
     EXPECT_EQ(buddy.GetCount(), 2);
 }
+
+TEST(CancelledList, StylesStayWhenTheFocusGoesFromAClosedList) {
+    FakeFonts fonts;
+    InHolder<CKtUiFontComboBox> in;
+    in.host.fonts = &fonts;
+    in.picker.AddItems();
+    CComboBox buddy;
+    buddy.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 250, 210, 380), &in.holder, 62);
+    in.picker.setBuddy(&buddy, true);
+    in.picker.SetFocus();
+    in.dropDown();
+    in.picker.setCurrentFont(L"arialbd.ttf");
+    in.picker.SendMessage(WM_KEYDOWN, VK_RETURN, 1);
+    pump();
+    ASSERT_FALSE(in.picker.GetDroppedState());
+    const int style = buddy.GetCurSel();
+    ASSERT_GE(style, 0);
+    buddy.SetFocus();
+    pump();
+    EXPECT_EQ(buddy.GetCurSel(), style);
+    CString file;
+    in.picker.getCurrentFont(file);
+    EXPECT_STREQ(file, L"arialbd.ttf");
+}
