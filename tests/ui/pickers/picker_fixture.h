@@ -60,7 +60,11 @@ struct InHolder {
                                                 reinterpret_cast<HMENU>(kPickerId), nullptr, nullptr));
     }
 
-    void dropDown() { picker.ShowDropDown(TRUE); }
+    /// Drops the list down, with the pointer where it enters no row of it.
+    void dropDown() {
+        ui_test::move_cursor({2, 2});
+        picker.ShowDropDown(TRUE);
+    }
     void closeUp() { picker.ShowDropDown(FALSE); }
 
     /// Drops the list down, goes to `index` and presses Enter, as a user does.
