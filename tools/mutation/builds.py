@@ -7,7 +7,7 @@ from pathlib import Path
 
 from .weaving import mutants_at, weave
 
-FLAGS = "-O1 -g0 -w -Wno-error -Wno-narrowing -fpermissive -ftemplate-depth=2000"
+FLAGS = "-O1 -g0 -w -Wno-error -Wno-narrowing -ftemplate-depth=2000"
 ERROR = re.compile(r"^([^\s:][^:\n]*):(\d+):(\d+): (?:fatal )?error: (.*)$", re.M)
 MENTION = re.compile(r"^([^\s:][^:\n]*):(\d+):(\d+):", re.M)
 

@@ -8,7 +8,8 @@ import json
 import re
 import shlex
 import subprocess
-from dataclasses import dataclass
+from collections import Counter
+from dataclasses import dataclass, replace
 from pathlib import Path
 
 from clang import cindex
@@ -47,14 +48,34 @@ class Mutant:
     level: int
     before: str
     after: str
+    place: str = ""  # tells it from others of its function that change the same text
 
     def signature(self):
         """What names this mutant when lines have moved."""
-        return " | ".join((self.file, self.function, self.kind, _short(self.before), _short(self.after)))
+        named = (self.file, self.function, self.kind, _short(self.before), _short(self.after))
+        return " | ".join(named + ((self.place,) if self.place else ()))
 
 
 def _short(text):
     return re.sub(r"\s+", " ", text).strip()[:160].replace("|", "¦")
+
+
+def tell_apart(mutants, root):
+    """Gives those that a signature doesn't name alone the text of their line, and a number where that is the same too."""
+    texts, told = {}, []
+    counts = Counter(m.signature() for m in mutants)
+    for mutant in mutants:
+        if counts[mutant.signature()] > 1:
+            if mutant.file not in texts:
+                texts[mutant.file] = (Path(root) / mutant.file).read_text().splitlines()
+            mutant = replace(mutant, place="in " + _short(texts[mutant.file][mutant.line - 1]))
+        told.append(mutant)
+    seen = Counter()
+    for number, mutant in enumerate(told):
+        seen[mutant.signature()] += 1
+        if seen[mutant.signature()] > 1:
+            told[number] = replace(mutant, place=f"{mutant.place} ({seen[mutant.signature()]})")
+    return told
 
 
 def _macro_calls(data):
