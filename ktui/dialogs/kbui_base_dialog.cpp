@@ -11,6 +11,13 @@ namespace {
 const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 constexpr UINT kDialogIcon = 1017;  // of the library's own file
 
+/// The icon of dialogs that have none of their own. Shared, so that it needs no freeing; asking the system
+/// for it costs a good part of a dialog's creation.
+HICON defaultIcon() {
+    static const HICON icon = ::LoadIconW(KtUiOwnModule(), MAKEINTRESOURCEW(kDialogIcon));
+    return icon;
+}
+
 }  // namespace
 
 /// Kept: one saved handle per dialog, so a second DoModal inside the first is not provided for.
@@ -82,7 +89,7 @@ BOOL CKbUiBaseDialog::OnInitDialog() {
     const BOOL result = CDialog::OnInitDialog();
     OnInitDialogFinish();
     SetUseTips(m_useTips);
-    if (m_icon == nullptr) SetDialogIcon(::LoadIconW(KtUiOwnModule(), MAKEINTRESOURCEW(kDialogIcon)));
+    if (m_icon == nullptr) SetDialogIcon(defaultIcon());
     ModifyStyleEx(WS_EX_CONTEXTHELP, 0);
     return result;
 }

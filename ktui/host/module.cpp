@@ -34,28 +34,26 @@ const HMODULE stringLibrary = ::LoadLibraryW(L"ktdsres");
 
 ToolkitModule toolkit;
 
-/// Runs one step of the load; false if it ran out of memory. Nothing may be thrown out of a module's entry.
+/// Runs one step of the load, which may run out of memory. Nothing may be thrown out of a module's entry.
 template <class Step>
-bool Survives(Step step) {
+void RunGuarded(Step step) {
     try {
         step();
-        return true;
     } catch (CException* exhausted) {
         exhausted->Delete();
     } catch (const std::bad_alloc&) {
     }
-    return false;
 }
 
 /// Has the resource search look into `module`. Without memory for that the module stays out of the chain.
 void AddToModuleChain(AFX_EXTENSION_MODULE& module) {
-    Survives([&module] { new CDynLinkLibrary(module, FALSE); });
+    RunGuarded([&module] { new CDynLinkLibrary(module, FALSE); });
 }
 
 /// AfxInitExtensionModule, which for want of memory fails like for any other reason.
 BOOL InitExtensionModule(AFX_EXTENSION_MODULE& module, HMODULE handle) {
     BOOL result = FALSE;
-    Survives([&] { result = AfxInitExtensionModule(module, handle); });
+    RunGuarded([&] { result = AfxInitExtensionModule(module, handle); });
     return result;
 }
 

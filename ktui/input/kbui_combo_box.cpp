@@ -117,7 +117,10 @@ void CKbUiComboBox::SetStyleMask(DWORD mask) {
 
 void CKbUiComboBox::GetLBString(int index, CString& text) {
     text.Empty();
-    if (index >= 0 && index < GetCount()) GetLBText(index, text);
+    const int length = index < 0 ? CB_ERR : GetLBTextLen(index);
+    if (length <= 0) return;
+    GetLBText(index, text.GetBufferSetLength(length));
+    text.ReleaseBuffer();
 }
 
 void CKbUiComboBox::GetContentExtent(const wchar_t* text, int& cx, int& cy) { GetTextExtent(text, cx, cy); }

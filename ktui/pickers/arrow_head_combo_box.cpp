@@ -76,7 +76,8 @@ void CKtUiArrowHeadComboBox::OnAddItems() {
 
 void CKtUiArrowHeadComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     if (cargo < 0 || cargo >= m_itemCount) return;
-    RefreshStrip(m_strip, m_stripLook, m_imageSize, kArrowheadSize, IDB_ARROWHEADS, IDB_LARGER_ARROWHEADS);
+    RefreshStrip(m_stripContext, m_strip, m_stripLook, m_imageSize, kArrowheadSize, IDB_ARROWHEADS,
+                 IDB_LARGER_ARROWHEADS);
     const int top = ArrowheadStripTop(cargo, m_imageSize);
     if (top < 0) return;
     DrawStripPicture(dc, rect, m_stripContext, m_strip, top, m_imageSize, m_imageSize);

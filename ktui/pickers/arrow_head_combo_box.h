@@ -35,6 +35,6 @@ protected:
     int m_useOrigin2 = 0;
 
 private:
-    CDC m_stripContext;     ///< where the strip is copied from; made when the first picture is drawn
+    CDC m_stripContext;     ///< holds the strip from the first picture on, and goes before it
     StripLook m_stripLook;  ///< what the strip was loaded for; unused with the agreed look
 };

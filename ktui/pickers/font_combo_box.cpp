@@ -104,7 +104,8 @@ void CKtUiFontComboBox::OnAddItems() {
 
 BOOL CKtUiFontComboBox::OnDropDown() {
     int widest = 0;
-    for (int i = 0; i < GetCount(); ++i) {
+    const int count = GetCount();
+    for (int i = 0; i < count; ++i) {
         CString text;
         GetLBString(i, text);
         int width = 0;

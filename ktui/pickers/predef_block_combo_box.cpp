@@ -36,7 +36,8 @@ void CKtUiPredefBlockComboBox::OnAddItems() {
 
 void CKtUiPredefBlockComboBox::DrawItemImage(CDC& dc, CRect& rect, __int64 cargo) {
     if (cargo < 0 || cargo > m_itemCount) return;
-    RefreshStrip(m_strip, m_stripLook, m_imageSize, kBlockPictureWidth, IDB_BLOCKS, IDB_LARGER_BLOCKS);
+    RefreshStrip(m_stripContext, m_strip, m_stripLook, m_imageSize, kBlockPictureWidth, IDB_BLOCKS,
+                 IDB_LARGER_BLOCKS);
     const int top = BlockStripTop(cargo, m_imageSize);
     if (top < 0) return;
     DrawStripPicture(dc, rect, m_stripContext, m_strip, top, m_imageSize, m_imageSize + 1);

@@ -24,6 +24,6 @@ protected:
     int m_imageSize;  ///< pixels
 
 private:
-    CDC m_stripContext;     ///< where the strip is copied from; made when the first picture is drawn
+    CDC m_stripContext;     ///< holds the strip from the first picture on, and goes before it
     StripLook m_stripLook;  ///< what the strip was loaded for; unused with the agreed look
 };

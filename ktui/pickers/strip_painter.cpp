@@ -29,11 +29,12 @@ void Recolor(const DIBSECTION& section, const StripLook& look) {
 void DrawStripPicture(CDC& dc, const RECT& image, CDC& memory, CBitmap& strip, int top, int width,
                       int height) {
     if (!strip.GetSafeHandle()) return;
-    if (!memory.GetSafeHdc() && !memory.CreateCompatibleDC(&dc)) return;
-    CBitmap* former = memory.SelectObject(&strip);
+    if (!memory.GetSafeHdc()) {
+        if (!memory.CreateCompatibleDC(&dc)) return;
+        memory.SelectObject(&strip);
+    }
     dc.BitBlt(static_cast<int>(image.left), static_cast<int>(image.top), width, height, &memory, 0, top,
               SRCCOPY);
-    memory.SelectObject(former);
 }
 
 void LoadStrip(CBitmap& strip, UINT id) {
@@ -48,7 +49,8 @@ int StripSize(HWND window, int agreed) {
     return kLargerSizes[2];
 }
 
-void RefreshStrip(CBitmap& strip, StripLook& look, int size, int agreed, UINT agreedId, UINT largerIds) {
+void RefreshStrip(CDC& memory, CBitmap& strip, StripLook& look, int size, int agreed, UINT agreedId,
+                  UINT largerIds) {
     if (!KtUiFollowsSystemAppearance()) return;
     const StripLook wanted = {size, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW)};
     if (look == wanted) return;
@@ -56,6 +58,7 @@ void RefreshStrip(CBitmap& strip, StripLook& look, int size, int agreed, UINT ag
     const HANDLE loaded =
         ::LoadImageW(KtUiOwnModule(), MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
     if (!loaded) return;
+    memory.DeleteDC();  // The former strip stands in it.
     strip.DeleteObject();
     strip.Attach(static_cast<HBITMAP>(loaded));
     DIBSECTION section = {};

@@ -8,8 +8,9 @@
 #include <ktui/pickers/strip_look.h>
 
 /// Copies `width` by `height` pixels of `strip` from its left edge at `top` to the left top corner of `image`
-/// (logical units of `dc`). Nothing for an empty strip. `memory` is made on the first call and belongs to the
-/// caller, who keeps it beside the strip: making one for each picture costs more than the copy.
+/// (logical units of `dc`). Nothing for an empty strip. `memory` is made on the first call, with the strip
+/// selected in it, and belongs to the caller, who lets it go before the strip: making one for each picture,
+/// or selecting the strip anew, costs more than the copy.
 void DrawStripPicture(CDC& dc, const RECT& image, CDC& memory, CBitmap& strip, int top, int width,
                       int height);
 
@@ -21,5 +22,7 @@ void LoadStrip(CBitmap& strip, UINT id);
 int StripSize(HWND window, int agreed);
 
 /// Loads `strip` anew if it should look otherwise than `look` says, for a host that follows the system. The
-/// strip of pictures of another size than `agreed` has the id `largerIds` plus their side.
-void RefreshStrip(CBitmap& strip, StripLook& look, int size, int agreed, UINT agreedId, UINT largerIds);
+/// strip of pictures of another size than `agreed` has the id `largerIds` plus their side. `memory` is the
+/// context that pictures are copied through; it goes with the former strip.
+void RefreshStrip(CDC& memory, CBitmap& strip, StripLook& look, int size, int agreed, UINT agreedId,
+                  UINT largerIds);

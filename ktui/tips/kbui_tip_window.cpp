@@ -13,14 +13,14 @@ constexpr COLORREF kTipInk = 0x4B4846;    // border and text
 constexpr COLORREF kTipPaper = 0xF9F9F9;  // background
 
 void registerTipClass() {
+    WNDCLASS present;
+    if (::GetClassInfoW(AfxGetInstanceHandle(), kTipWindowClass, &present)) return;
     WNDCLASS windowClass = {};
     windowClass.style = CS_SAVEBITS;
     windowClass.lpfnWndProc = ::DefWindowProcW;
     windowClass.hInstance = AfxGetInstanceHandle();
     windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
     windowClass.lpszClassName = kTipWindowClass;
-    WNDCLASS present;
-    if (::GetClassInfoW(windowClass.hInstance, kTipWindowClass, &present)) return;
     if (!AfxRegisterClass(&windowClass)) AfxThrowResourceException();
 }
 

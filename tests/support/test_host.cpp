@@ -28,7 +28,8 @@ CKhService* TestHost::getService(const wchar_t* name) {
     return found == services.end() ? nullptr : found->second;
 }
 
-void TestHost::findFile(OdString& path, const wchar_t* name, const OdDbDatabase*, int) {
+void TestHost::findFile(OdString& path, const wchar_t* name, const OdDbDatabase*, int hint) {
+    findHint = hint;
     const auto found = files.find(name);
     path = found == files.end() ? L"" : found->second.c_str();
 }

@@ -65,6 +65,7 @@ public:
     std::vector<HINSTANCE> resourceStack;  ///< pushed and not popped
     int pushes = 0;
     int pops = 0;
+    int findHint = -1;  ///< the last one that came with a name to find
     int helpCalls = 0;
     int linetypeDialogMode = 0;  ///< as the last call gave it
     int filledBackgrounds = 0;

@@ -325,6 +325,5 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
         }
         at += length;
     }
-    if (success) SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, FALSE, FALSE);
     return success;
 }

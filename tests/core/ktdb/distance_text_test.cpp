@@ -163,3 +163,16 @@ TEST(DistanceText, ALocaleWithACommaChangesNothing) {
     std::locale::global(before);
     std::setlocale(LC_ALL, "C");
 }
+
+TEST(DistanceText, InchesWithAnExponentAreAddedToTheFeet) {
+    EXPECT_EQ(distance(L"1'1.5e1", kArchitectural), 27);
+    EXPECT_EQ(distance(L"1'1.e1", kArchitectural), 22);
+    EXPECT_EQ(distance(L"2'3.25\"", kArchitectural), 27.25);
+}
+
+TEST(DistanceText, FeetAndInchesTooLongOrTooLargeAreRefused) {
+    const std::wstring manyDigits(2 * kKtdbBufferSize, L'0');
+    EXPECT_EQ(distance((L"1'2." + manyDigits).c_str(), kArchitectural), kRefused);
+    const std::wstring beyondAnyNumber(400, L'9');
+    EXPECT_EQ(distance((beyondAnyNumber + L"'2").c_str(), kArchitectural), kRefused);
+}

@@ -188,7 +188,7 @@ TEST(Preview, HexadecimalDigitsMayBeSmallOrLarge) {
     ASSERT_TRUE(find(dxfWith(small), dib));
     EXPECT_EQ(dib, image);
     for (const char wrong : {'/', ':', '@', 'G', '`', 'g'})
-        for (const std::size_t at : {0u, 1u}) {
+        for (const std::size_t at : {0u, 1u, 90u, 91u}) {  // in the header and among the pixels
             std::string text = hex(image);
             text[at] = wrong;
             EXPECT_FALSE(find(dxfWith(text), dib)) << wrong;

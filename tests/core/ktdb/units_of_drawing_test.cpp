@@ -31,6 +31,13 @@ TEST_F(UnitsOfDrawing, LinearModeAndPrecisionAreTheDrawings) {
     EXPECT_EQ(distanceText(15.5, -1, 1), L"15.5");
 }
 
+TEST_F(UnitsOfDrawing, PrecisionIsTheDrawingsForAModeOfItsOwnToo) {
+    drawing->setLUPREC(2);
+    drawing->setAUPREC(3);
+    EXPECT_EQ(distanceText(1.5, OdDb::kDecimal, -1), L"1.50");
+    EXPECT_EQ(angleText(0.7853981633974483, OdDb::kGrads, -1), L"50.000g");
+}
+
 TEST_F(UnitsOfDrawing, AngularModeAndPrecisionAreTheDrawings) {
     drawing->setAUNITS(OdDb::kSurveyor);
     drawing->setAUPREC(2);

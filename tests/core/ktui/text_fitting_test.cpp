@@ -32,6 +32,13 @@ TEST(ShortenToWidth, MiddleIsCutAndMarked) {
     EXPECT_EQ(Shorten(L"abcdefghijkl", 89), L"abc...kl");
 }
 
+TEST(ShortenToWidth, MiddleIsWhereTheCutsAreTaken) {
+    // 60 characters into 20: ten of each end stay, then the ellipsis takes the last of one and the first two
+    // of the other.
+    const wchar_t* text = L"0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWX";
+    EXPECT_EQ(Shorten(text, 200), L"012345678...QRSTUVWX");
+}
+
 TEST(ShortenToWidth, EllipsisIsNotMeasured) {
     const CString text = ShortenToWidth(L"iiiiiiiiii", 50, TenPerCharacter);
     EXPECT_EQ(text.GetLength(), 5);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <od_db.h>
+
 #include <cmath>
 #include <string>
 
@@ -151,4 +153,25 @@ TEST(ValueValidation, EveryCodeHasItsText) {
                                  L"Data is out of range"};
     for (unsigned code = 0; code < 8; ++code) EXPECT_STREQ(ValueErrorText(code), expected[code]);
     EXPECT_EQ(ValueErrorText(8), nullptr);
+}
+
+TEST(ValueValidation, NegativeNumbersPassWithoutTheBitAgainstThem) {
+    EXPECT_EQ(Validate(kKtUiEditNumeric, L"-5"), kKtUiErrorNone);
+    EXPECT_EQ(Validate(kKtUiEditAngle, L"-5"), kKtUiErrorNone);
+    EXPECT_EQ(Validate(kKtUiEditNumeric | kKtUiEditNoZero, L"-5"), kKtUiErrorNone);
+    EXPECT_EQ(Validate(kKtUiEditNumeric | kKtUiEditNoNegative, L"-5"), kKtUiErrorNegative);
+}
+
+TEST(ValueValidation, TextsAreReadAndWrittenInTheDrawingsUnits) {
+    const OdDbDatabasePtr drawing = new OdDbDatabase;
+    OdDbHostAppServices services;
+    services.setWorkingDatabase(drawing.get());
+    oddbSetHostApplicationServices(&services);
+    drawing->setLUNITS(OdDb::kArchitectural);
+    drawing->setLUPREC(2);
+    drawing->setAUNITS(OdDb::kGrads);
+    drawing->setAUPREC(3);
+    EXPECT_EQ(Rewritten(kKtUiEditNumeric, L"1'2.5"), L"1'-2 1/2\"");
+    EXPECT_EQ(Rewritten(kKtUiEditAngle, L"50"), L"50.000g") << "a bare number is in grads";
+    oddbSetHostApplicationServices(nullptr);
 }

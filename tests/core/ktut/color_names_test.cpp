@@ -57,8 +57,14 @@ TEST(Profile, HasDefaultsAndTakesTheHostsNames) {
     ktutSetProfileRootName(L"Draughting");
     EXPECT_EQ(ktutProfileFileName(), L"Software\\Host");
     EXPECT_EQ(ktutProfileRootName(), L"Draughting");
-    ktutSetProfileFileName(nullptr);
-    ktutSetProfileRootName(L"");
+    for (const wchar_t* none : {L"", static_cast<const wchar_t*>(nullptr)}) {
+        ktutSetProfileFileName(L"Software\\Host");
+        ktutSetProfileRootName(L"Draughting");
+        ktutSetProfileFileName(none);
+        ktutSetProfileRootName(none);
+        EXPECT_EQ(ktutProfileFileName(), L"Software\\Velmora\\ktui");
+        EXPECT_EQ(ktutProfileRootName(), L"Default");
+    }
     EXPECT_EQ(ktutProfileFileName(), L"Software\\Velmora\\ktui");
     EXPECT_EQ(ktutProfileRootName(), L"Default");
 }

@@ -70,3 +70,10 @@ TEST(CompareString, OrdersAListWithoutContradiction) {
     EXPECT_EQ(names, (std::vector<std::wstring>{L"", L"A1", L"a1", L"a01", L"ACAD_ISO02W100", L"Center",
                                                 L"CENTER2", L"center10", L"Hidden"}));
 }
+
+TEST(CompareString, NullIsEmpty) {
+    EXPECT_EQ(ktutCompareString(nullptr, nullptr), 0);
+    EXPECT_EQ(ktutCompareString(nullptr, L""), 0);
+    EXPECT_EQ(ktutCompareString(L"", nullptr), 0);
+    EXPECT_EQ(ktutCompareString(L"a", nullptr), -1);
+}

@@ -111,6 +111,7 @@ TEST(Paths, EmptyIsNotTheCurrentFolder) {
     const std::wstring here = std::filesystem::current_path().wstring();
     EXPECT_TRUE(ktutPathIsSame(L".", here.c_str()));
     EXPECT_FALSE(ktutPathIsSame(L"", here.c_str()));
+    EXPECT_FALSE(ktutPathIsSame(here.c_str(), L""));
     EXPECT_FALSE(ktutDirectoryExists(L""));
 }
 

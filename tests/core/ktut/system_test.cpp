@@ -45,6 +45,15 @@ TEST(System, FilesOfTheUserLieBelowTheApplicationData) {
     EXPECT_TRUE(ktutGetAppDataDir(folder)) << "and may be there";
 }
 
+TEST(System, FolderOfTheProgramEndsInASeparator) {
+    wchar_t file[MAX_PATH] = L"";
+    ASSERT_NE(::GetModuleFileNameW(nullptr, file, MAX_PATH), 0u);
+    const std::wstring whole(file);
+    const OdString folder = ktutProgramFolder();
+    EXPECT_EQ(folder, whole.substr(0, whole.rfind(L'\\') + 1).c_str());
+    EXPECT_TRUE(fs::is_directory(folder.c_str()));
+}
+
 TEST(System, TheWorkAreaIsThatOfTheMonitor) {
     MONITORINFO info = {};
     info.cbSize = sizeof info;

@@ -250,3 +250,52 @@ TEST(HeaderTip, QuestionsWithoutAPlaceAreAboutTheItemUnderTheMouse) {
     EXPECT_EQ(report.askHeader(kKbUiNotifyGetTipText, nullptr), kKbUiReplyHandled);
     EXPECT_EQ(report.askHeader(kKbUiNotifyGetTipRect, nullptr), kKbUiReplyHandled);
 }
+
+TEST(ListCtrlTip, EveryCellIsHitAndTheGroundBelowIsNot) {
+    Report report;
+    CPoint any(0, 0);
+    for (const int column : {0, 1}) {
+        report.moveTo(1, column);
+        EXPECT_EQ(report.ask(kKbUiNotifyHitTipRect, &any), kKbUiReplyHandled) << column;
+    }
+    send_move(report.list, 10, 115);
+    EXPECT_EQ(report.ask(kKbUiNotifyHitTipRect, &any), kKbUiReplyNone);
+}
+
+namespace {
+
+/// Notes which cell's extent it is asked for.
+class AskedList : public CKbUiListCtrl {
+public:
+    int item = -1, column = -1;
+    CString text;
+    void GetContentExtent(int item_, int column_, const wchar_t* text_, int& cx, int& cy) override {
+        item = item_;
+        column = column_;
+        text = text_;
+        CKbUiListCtrl::GetContentExtent(item_, column_, text_, cx, cy);
+    }
+};
+
+}  // namespace
+
+TEST(ListCtrlTip, ExtentIsAskedForTheCellUnderThePointer) {
+    RecordingHolder holder;
+    AskedList list;
+    const HWND window =
+        ::CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT, 0, 0, 300, 120,
+                          holder.m_hWnd, reinterpret_cast<HMENU>(kListId), nullptr, nullptr);
+    for (const int column : {0, 1, 2}) Report::addColumn(window, column, L"c", 60);
+    list.SubclassWindow(window);
+    for (int row = 0; row < 2; ++row) list.InsertItem(row, L"row");
+    list.SetItemText(1, 2, kLongText);
+    CRect cell;
+    list.GetSubItemRect(1, 2, cell);
+    send_move(list, cell.left + 2, cell.top + 2);
+    CRect rect;
+    EXPECT_EQ(KbUiNotify(list, kListId, kKbUiNotifyGetTipRect, reinterpret_cast<unsigned __int64>(&rect)),
+              kKbUiReplyHandled);
+    EXPECT_EQ(list.item, 1);
+    EXPECT_EQ(list.column, 2);
+    EXPECT_STREQ(list.text, kLongText);
+}

@@ -1,6 +1,7 @@
 // What the list-like controls paint into their tips, pixel by pixel.
 #include <ktui/controls/kbui_list_box.h>
 #include <ktui/controls/kbui_list_ctrl.h>
+#include <ktui/host/appearance.h>
 #include <ktui/input/kbui_edit.h>
 
 #include "canvas.h"
@@ -145,6 +146,21 @@ TEST_F(Lists, AnOwnerDrawnEntryIsAskedToPaintItselfWithAllThatItNeeds) {
     EXPECT_EQ(list.ground, RGB(0xF9, 0xF9, 0xF9));
     EXPECT_TRUE(drawn == expected);
     EXPECT_EQ(::GetCurrentObject(drawn.dc.m_hDC, OBJ_FONT), font);
+}
+
+TEST_F(Lists, ADrawnTipStandsOnTheSystemsColourForAHostThatFollowsIt) {
+    NotingList list;
+    make(list, LBS_OWNERDRAWVARIABLE);
+    CPoint point = pointOf(list, 1);
+    CRect rect;
+    send_move(list, point.x, point.y);
+    ask(list, kKbUiNotifyGetTipSupport, &point);
+    ASSERT_EQ(ask(list, kKbUiNotifyGetTipRect, &rect), kKbUiReplyHandled);
+    Canvas drawn(rect.Width(), rect.Height(), RGB(1, 2, 3));
+    KtUiFollowSystemAppearance(TRUE);
+    ask(list, kKbUiNotifyDrawTip, &drawn.dc);
+    KtUiFollowSystemAppearance(FALSE);
+    EXPECT_EQ(list.ground, ::GetSysColor(COLOR_WINDOW));
 }
 
 TEST_F(Lists, NoEntryPaintsItselfWithoutOwnerDrawingAPlaceAndAnEntry) {

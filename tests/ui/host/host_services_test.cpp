@@ -83,6 +83,7 @@ TEST(HostServices, HelpFileIsFoundThroughTheHost) {
     EXPECT_STREQ(path, L"old");
     EXPECT_EQ(KbUiFindContextHelpFullPath(L"dialogs.chm", path), 1);
     EXPECT_STREQ(path, L"C:\\Help\\dialogs.chm");
+    EXPECT_EQ(host.findHint, 0) << "the general kind of file";
 }
 
 TEST(HostServices, SubstituteShellFontLeavesTheFont) {

@@ -1,4 +1,5 @@
 // The framed tip that a control paints itself, read back from a memory device context.
+#include <ktui/host/appearance.h>
 #include <ktui/host/draw_tip_text.h>
 #include <ktui/host/notification.h>
 #include <ktui/input/kbui_edit.h>
@@ -117,4 +118,12 @@ TEST_F(FramedTip, LeavesTheDeviceContextsToolsAsTheyWere) {
     EXPECT_EQ(::GetCurrentObject(canvas.dc.m_hDC, OBJ_PEN), pen);
     EXPECT_EQ(::GetCurrentObject(canvas.dc.m_hDC, OBJ_BRUSH), brush);
     EXPECT_EQ(::GetCurrentObject(canvas.dc.m_hDC, OBJ_FONT), before);
+}
+
+TEST_F(FramedTip, HasTheSystemsColoursForAHostThatFollowsThem) {
+    KtUiFollowSystemAppearance(TRUE);
+    paint(L"");
+    KtUiFollowSystemAppearance(FALSE);
+    EXPECT_EQ(canvas.at(100, 30), ::GetSysColor(COLOR_INFOBK));
+    EXPECT_EQ(canvas.at(10, 5), ::GetSysColor(COLOR_INFOTEXT));
 }

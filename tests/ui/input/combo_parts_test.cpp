@@ -3,6 +3,7 @@
 #include <ktui/input/ktui_typed_combo_boxes.h>
 #include <ktui/input/ktui_typed_edits.h>
 
+#include "scheme_in_force.h"
 #include "canvas.h"
 #include "recording_holder.h"
 
@@ -137,6 +138,7 @@ TEST_F(ComboChildren, ThatAreReplacedAreLetGoAndTheNewOnesTakenAtTheNextQuestion
     EXPECT_EQ(combo.GetEditBox(), &second) << "a part that isn't owned is only let go";
     EXPECT_EQ(combo.GetListBox(), &two);
     combo.SetListBox(nullptr, FALSE);
+    combo.SetEditBox(nullptr, FALSE);
 }
 
 TEST_F(ComboChildren, OwnershipGoesByTheLastPart) {
@@ -158,6 +160,7 @@ TEST_F(ComboChildren, OwnershipGoesByTheLastPart) {
     EXPECT_EQ(List::alive, 1);
     EXPECT_EQ(combo.m_flags, 2u) << "clearing the part leaves its bit";
     EXPECT_EQ(combo.GetListBox(), nullptr);
+    combo.SetEditBox(nullptr, FALSE);
 }
 
 TEST_F(ComboChildren, ThatAreOwnedEndWithTheWindow) {
@@ -175,6 +178,45 @@ TEST_F(ComboChildren, ThatAreOwnedEndWithTheWindow) {
     EXPECT_EQ(combo.GetListBox(), nullptr);
 }
 
+TEST_F(ComboChildren, OwnershipOfOnePartLeavesThatOfTheOther) {
+    using Edit = Counted<CKbUiEdit>;
+    using List = Counted<CKbUiListBox>;
+    combo.SetListBox(new List, TRUE);
+    combo.SetEditBox(new Edit, TRUE);
+    EXPECT_EQ(combo.m_flags, 3u);
+    combo.SetEditBox(nullptr, FALSE);
+    EXPECT_EQ(combo.GetEditBox(), nullptr);
+    EXPECT_EQ(List::alive, 1);
+    combo.SetListBox(nullptr, FALSE);
+    EXPECT_EQ(List::alive, 0);
+}
+
+TEST_F(ComboChildren, AListThatOutlivesItsComboBoxForgetsIt) {
+    CKbUiListBox list;
+    CKbUiEdit edit;
+    {
+        CKbUiComboBox shortLived;
+        shortLived.SetListBox(&list, FALSE);
+        shortLived.SetEditBox(&edit, FALSE);
+        EXPECT_EQ(list.GetComboBox(), &shortLived);
+    }
+    EXPECT_EQ(list.GetComboBox(), nullptr);
+}
+
+TEST_F(ComboChildren, ThatHaveTheirWindowAreNotTakenAgain) {
+    RecordingHolder other;
+    make(CBS_DROPDOWN);
+    combo.askColor(WM_CTLCOLORLISTBOX, combo.listWindow());
+    combo.GetListBox()->SetKbUiParent(&other);
+    combo.askColor(WM_CTLCOLORLISTBOX, combo.listWindow());
+    EXPECT_EQ(combo.GetListBox()->GetKbUiParent(), &other);
+    combo.askColor(WM_CTLCOLOREDIT, combo.editWindow());
+    combo.GetEditBox()->SetKbUiParent(&other);
+    combo.m_flags &= ~4u;
+    combo.askColor(WM_CTLCOLOREDIT, combo.editWindow());
+    EXPECT_EQ(combo.GetEditBox()->GetKbUiParent(), &other);
+}
+
 TEST_F(ComboChildren, AMaskGoesToTheEdit) {
     CKbUiEdit edit;
     combo.SetEditBox(&edit, FALSE);
@@ -183,6 +225,7 @@ TEST_F(ComboChildren, AMaskGoesToTheEdit) {
     EXPECT_EQ(combo.GetStyleMask(), 0x30u);
     EXPECT_TRUE(combo.IsStyleMaskSet(0x10));
     EXPECT_FALSE(combo.IsStyleMaskSet(0x11));
+    combo.SetEditBox(nullptr, FALSE);
 }
 
 TEST_F(ComboChildren, StartWithoutAnything) {
@@ -216,6 +259,7 @@ TEST_F(ComboChildren, KindsOfListsAreToldByTheirStyle) {
 }
 
 TEST_F(ComboChildren, AnItemIsDrawnAsItsStateAsks) {
+    const ui_test::SchemeInForce colors(FALSE);  // in which no two of them are alike
     make(CBS_DROPDOWNLIST);
     const struct {
         UINT state;

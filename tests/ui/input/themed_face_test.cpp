@@ -54,22 +54,23 @@ private:
         return S_OK;
     }
     static BOOL WINAPI isActive() { return active; }
-    static BOOL WINAPI isTransparent(HTHEME, int part, int state) {
-        asked.push_back({"transparent?", part, state});
+    static BOOL WINAPI isTransparent(HTHEME theme, int part, int state) {
+        asked.push_back({theme == handle() ? "transparent?" : "another transparent?", part, state});
         return transparent;
     }
     static HRESULT WINAPI drawParent(HWND window, HDC, RECT* rect) {
         asked.push_back({window == opened ? "parent" : "another's parent", 0, 0, CRect(*rect)});
         return S_OK;
     }
-    static HRESULT WINAPI draw(HTHEME, HDC target, int part, int state, const RECT* rect, const RECT* clip) {
+    static HRESULT WINAPI draw(HTHEME theme, HDC target, int part, int state, const RECT* rect,
+                               const RECT* clip) {
         dc = target;
         ::FillRect(target, rect, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-        asked.push_back({clip ? "draw clipped" : "draw", part, state, CRect(*rect)});
+        asked.push_back({clip || theme != handle() ? "draw otherwise" : "draw", part, state, CRect(*rect)});
         return S_OK;
     }
-    static HRESULT WINAPI content(HTHEME, HDC, int part, int state, const RECT* bounds, RECT* result) {
-        asked.push_back({"content", part, state, CRect(*bounds)});
+    static HRESULT WINAPI content(HTHEME theme, HDC, int part, int state, const RECT* bounds, RECT* result) {
+        asked.push_back({theme == handle() ? "content" : "another content", part, state, CRect(*bounds)});
         *result = *bounds;
         ::InflateRect(result, -3, -3);
         return S_OK;
@@ -225,6 +226,7 @@ TEST_F(ThemedFace, AFocusedFaceIsMarkedUnlessItIsSelected) {
     };
     holder.SetFocus();
     const COLORREF unmarked = mark();
+    EXPECT_EQ(unmarked, RGB(255, 255, 255)) << "the face as the theme drew it";
     combo.SetFocus();
     const COLORREF marked = mark();
     EXPECT_NE(marked, unmarked);

@@ -148,3 +148,9 @@ TEST_F(RegistryValues, EnumeratedNamesComeByTheirIndex) {
     EXPECT_FALSE(key.EnumKeyNames(3, name));
     EXPECT_TRUE(name.IsEmpty());
 }
+
+TEST_F(RegistryValues, NumberWithoutBytesIsZero) {
+    store(L"empty", REG_BINARY, nullptr, 0);
+    EXPECT_EQ(reader().GetDWord(L"empty"), 0u);
+    EXPECT_EQ(::GetLastError(), 0u);
+}

@@ -2,6 +2,7 @@
 
 #include <type_traits>
 
+#include "replaced_import.h"
 #include "test_host.h"
 #include "ui_test.h"
 
@@ -94,6 +95,33 @@ TEST(WorkingDirectory, IsThatOfTheProcess) {
     CKtUiString text(L"old");
     text.GetCurrentWorkingDirectory();
     EXPECT_STREQ(text, expected);
+}
+
+namespace {
+
+/// Length of the process's directory as the system tells it while the test runs.
+DWORD directoryLength = 0;
+
+DWORD WINAPI tellDirectory(DWORD size, LPWSTR buffer) {
+    if (size <= directoryLength) return directoryLength + 1;
+    for (DWORD i = 0; i < directoryLength; ++i) buffer[i] = L'd';
+    buffer[directoryLength] = L'\0';
+    return directoryLength;
+}
+
+}  // namespace
+
+TEST(CurrentDirectory, OfMoreThanTheLongestPathYieldsNoText) {
+    const ui_test::ReplacedImport tells(::GetModuleHandleW(L"ktui.dll"), "GetCurrentDirectoryW",
+                                        &tellDirectory);
+    ASSERT_TRUE(tells.isThere());
+    for (const auto& [length, expected] :
+         {std::pair<DWORD, int>{0, 0}, {100, 100}, {259, 259}, {260, 0}, {400, 0}}) {
+        directoryLength = length;
+        CKtUiString text(L"old");
+        text.GetCurrentWorkingDirectory();
+        EXPECT_EQ(text.GetLength(), expected) << length;
+    }
 }
 
 namespace {

@@ -42,10 +42,11 @@ TEST(TipCreation, MakesAHiddenEmptyTopmostPopupOfTheOwner) {
     EXPECT_EQ(tip.GetExStyle(), 0x88u);
     EXPECT_EQ(tip.GetStyle() & (WS_POPUP | WS_CHILD | WS_VISIBLE | WS_CAPTION | WS_BORDER),
               static_cast<DWORD>(WS_POPUP));
+    EXPECT_EQ(tip.GetStyle() & 0xFFFF, 0u) << "no style of a class";
     EXPECT_EQ(::GetWindow(tip.m_hWnd, GW_OWNER), parent.m_hWnd);
     CRect rect;
     tip.GetWindowRect(&rect);
-    EXPECT_TRUE(rect.IsRectEmpty());
+    EXPECT_EQ(rect.Size(), CSize(0, 0));
     EXPECT_TRUE(ui_test::text_of(tip.m_hWnd).IsEmpty());
     EXPECT_EQ(tip.Owner(), &parent);
     destroyTip(tip);

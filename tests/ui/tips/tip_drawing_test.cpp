@@ -1,4 +1,7 @@
 // What a tip paints, read back from a memory device context.
+#include <ktui/host/appearance.h>
+#include <ktui/host/contrast.h>
+
 #include "canvas.h"
 #include "tip_fixture.h"
 
@@ -176,4 +179,42 @@ TEST(TipText, IsMeasuredInTheOwnersFont) {
     }
     owner.font = nullptr;
     tip.DestroyWindow();
+}
+
+namespace {
+
+/// Tips in the system's colours for tips, which are those of a dark scheme for as long as the object lives.
+class DarkTip : public DrawnTip {
+protected:
+    static constexpr COLORREF kDarkPaper = RGB(32, 34, 40), kLightInk = RGB(240, 236, 220);
+    static constexpr int kParts[] = {COLOR_INFOBK, COLOR_INFOTEXT};
+
+    DarkTip() {
+        for (int i = 0; i < 2; ++i) former[i] = ::GetSysColor(kParts[i]);
+        const COLORREF dark[] = {kDarkPaper, kLightInk};
+        ::SetSysColors(2, kParts, dark);
+        KtUiFollowSystemAppearance(TRUE);
+    }
+    ~DarkTip() override {
+        KtUiFollowSystemAppearance(FALSE);
+        ::SetSysColors(2, kParts, former);
+    }
+
+private:
+    COLORREF former[2];
+};
+
+}  // namespace
+
+TEST_F(DarkTip, BorderPaperAndTextAreTheSystems) {
+    tip.SetWindowText(L"HHHH");
+    CRect rect(10, 5, 210, 55), inner;
+    tip.DrawBorder(canvas.dc, rect, inner);
+    EXPECT_EQ(canvas.at(10, 5), kLightInk);
+    EXPECT_EQ(canvas.count(kLightInk), 2 * 200 + 2 * 48);
+    tip.DrawContent(canvas.dc, inner);
+    EXPECT_EQ(canvas.at(205, 50), kDarkPaper);
+    EXPECT_EQ(canvas.dc.GetTextColor(), kLightInk);
+    EXPECT_GE(ContrastRatio(canvas.dc.GetTextColor(), canvas.at(205, 50)), kTextContrast);
+    EXPECT_EQ(canvas.count(kInk) + canvas.count(kPaper), 0) << "nothing of the agreed colours";
 }

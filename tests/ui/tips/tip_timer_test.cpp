@@ -14,10 +14,11 @@ struct {
     HWND window, after;
     int x, y, width, height;
     UINT flags;
+    bool wasVisible;  ///< the window, before it was placed
 } placed;
 
 BOOL WINAPI NotePlace(HWND window, HWND after, int x, int y, int width, int height, UINT flags) {
-    placed = {window, after, x, y, width, height, flags};
+    placed = {window, after, x, y, width, height, flags, ::IsWindowVisible(window) != FALSE};
     return ::SetWindowPos(window, after, x, y, width, height, flags);
 }
 
@@ -93,6 +94,7 @@ TEST_F(TextTip, ShowGoesToTheTopOfTheTopmostAndNowhereElse) {
     EXPECT_EQ(placed.window, tip.m_hWnd);
     EXPECT_EQ(placed.after, HWND_TOPMOST);
     EXPECT_EQ(placed.flags, 27u);
+    EXPECT_FALSE(placed.wasVisible) << "it comes up at the top";
     CRect rect;
     tip.GetWindowRect(&rect);
     EXPECT_EQ(rect, area) << "neither moved nor sized";

@@ -199,16 +199,18 @@ TEST_F(TipWindow, BalloonFunctionsShowNothing) {
     class Listener : public CWnd {
     public:
         WPARAM active = 9;
+        LPARAM datum = 9;
 
     protected:
         LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
-            if (m == WM_USER + 1) active = w;
+            if (m == WM_USER + 1) active = w, datum = l;
             return CWnd::WindowProc(m, w, l);
         }
     } listener;
     listener.Create(AfxRegisterWndClass(0), L"", WS_CHILD, CRect(0, 0, 1, 1), &parent, 8);
     KbUiHideBalloonTip(&listener);
     EXPECT_EQ(listener.active, 0u);
+    EXPECT_EQ(listener.datum, 0);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // The system's colour and font dialogs.
 #pragma once
 
+#include <windows.h>
+
 #include <commdlg.h>
 
 #include <kmfc/dialog.h>

@@ -43,7 +43,6 @@ enum : DWORD {
 /// Sent once per idle step of a modal loop; and to every window when it should bring its items up to date.
 constexpr UINT WM_KICKIDLE = 0x036A;
 constexpr UINT WM_IDLEUPDATECMDUI = 0x0363;
-constexpr UINT WM_INITIALUPDATE = 0x0364;
 constexpr UINT WM_COMMANDHELP = 0x0365;
 constexpr UINT WM_SETMESSAGESTRING = 0x0362;
 constexpr UINT WM_ACTIVATETOPLEVEL = 0x036E;

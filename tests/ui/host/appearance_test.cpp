@@ -1,0 +1,84 @@
+// The agreed look, the system's look, and the resolution that lengths go by.
+#include <ktui/host/appearance.h>
+
+#include "leak_count.h"
+#include "ui_test.h"
+
+namespace {
+
+UINT fakeDpi = 96;
+HWND askedFor = nullptr;
+
+UINT dpiOf(HWND window) {
+    askedFor = window;
+    return fakeDpi;
+}
+
+UINT otherDpiOf(HWND) { return 240; }
+
+/// Puts back what a host has at its start.
+struct Appearance : ::testing::Test {
+    ~Appearance() override {
+        KtUiFollowSystemAppearance(FALSE);
+        KtUiExchangeDpiSource(nullptr);
+    }
+};
+
+UINT screenDpi() {
+    const HDC screen = ::GetDC(nullptr);
+    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
+    ::ReleaseDC(nullptr, screen);
+    return static_cast<UINT>(dpi);
+}
+
+}  // namespace
+
+TEST_F(Appearance, IsTheAgreedOneUntilAHostAsks) {
+    KtUiExchangeDpiSource(dpiOf);
+    fakeDpi = 192;
+    EXPECT_EQ(KtUiFollowsSystemAppearance(), FALSE);
+    EXPECT_EQ(KtUiAppearanceColor(RGB(1, 2, 3), COLOR_HIGHLIGHT), RGB(1, 2, 3));
+    EXPECT_EQ(KtUiAppearancePixels(nullptr, 15), 15);
+}
+
+TEST_F(Appearance, FollowsTheSystemOnceAHostAsks) {
+    KtUiFollowSystemAppearance(TRUE);
+    EXPECT_EQ(KtUiFollowsSystemAppearance(), TRUE);
+    ASSERT_NE(::GetSysColor(COLOR_HIGHLIGHT), RGB(1, 2, 3));
+    EXPECT_EQ(KtUiAppearanceColor(RGB(1, 2, 3), COLOR_HIGHLIGHT), ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(KtUiAppearanceColor(RGB(1, 2, 3), COLOR_WINDOW), ::GetSysColor(COLOR_WINDOW));
+}
+
+TEST_F(Appearance, LengthsGrowWithTheResolutionOfTheirWindow) {
+    KtUiFollowSystemAppearance(TRUE);
+    KtUiExchangeDpiSource(dpiOf);
+    ui_test::ParentWindow window;
+    for (const auto& [dpi, pixels] : {std::pair<UINT, int>{96, 15}, {120, 19}, {144, 23}, {192, 30}}) {
+        fakeDpi = dpi;
+        askedFor = nullptr;
+        EXPECT_EQ(KtUiAppearancePixels(window.m_hWnd, 15), pixels) << dpi;
+        EXPECT_EQ(askedFor, window.m_hWnd);
+        EXPECT_EQ(KtUiWindowDpi(window.m_hWnd), dpi);
+    }
+}
+
+TEST_F(Appearance, SourceOfTheResolutionIsHandedBackWhenItIsExchanged) {
+    EXPECT_EQ(KtUiExchangeDpiSource(dpiOf), nullptr);
+    EXPECT_EQ(KtUiExchangeDpiSource(otherDpiOf), &dpiOf);
+    EXPECT_EQ(KtUiWindowDpi(nullptr), 240u);
+    EXPECT_EQ(KtUiExchangeDpiSource(nullptr), &otherDpiOf);
+}
+
+TEST_F(Appearance, ResolutionIsTheScreensWithoutAWindow) {
+    ASSERT_NE(screenDpi(), 0u);
+    EXPECT_EQ(KtUiWindowDpi(nullptr), screenDpi());
+    ui_test::ParentWindow window;
+    EXPECT_EQ(KtUiWindowDpi(window.m_hWnd), ::GetDpiForWindow(window.m_hWnd));
+}
+
+TEST_F(Appearance, AskingForTheResolutionKeepsNoDeviceContext) {
+    KtUiWindowDpi(nullptr);
+    const int before = count_held_objects().gdiObjects;
+    for (int i = 0; i < 100; ++i) KtUiWindowDpi(nullptr);
+    EXPECT_EQ(count_held_objects().gdiObjects, before);
+}
