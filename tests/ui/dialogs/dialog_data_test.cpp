@@ -227,6 +227,36 @@ TEST_F(ListColumns, EachWidthHasItsOwnValueCountedFromOne) {
     EXPECT_EQ(list.GetColumnWidth(2), 52);
 }
 
+namespace {
+
+/// Counts the columns that are given a width.
+class CountingList : public CListCtrl {
+public:
+    int widths = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == LVM_SETCOLUMNWIDTH) ++widths;
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    }
+};
+
+}  // namespace
+
+TEST_F(ListColumns, AWidthForAColumnThatIsNotThereIsNotRead) {
+    dialog.SaveColumnSizes(&list);
+    const DWORD more = 70;
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, CString(kTestRoot) + L"data\\ListView-1004", L"Column4", REG_DWORD,
+                      &more, sizeof more);
+    list.UnsubclassWindow();
+    CountingList counting;
+    counting.SubclassDlgItem(IDC_LIST, &dialog);
+    EXPECT_EQ(dialog.GetColumnSizes(&counting), 1);
+    EXPECT_EQ(counting.widths, 3);
+    counting.UnsubclassWindow();
+    list.SubclassDlgItem(IDC_LIST, &dialog);
+}
+
 TEST_F(ListColumns, TheAnswerIsOneWhateverTheRegistryDid) {
     EXPECT_EQ(dialog.GetColumnSizes(&list), 1);
     EXPECT_EQ(list.GetColumnWidth(0), 50);

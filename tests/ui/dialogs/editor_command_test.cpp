@@ -222,7 +222,7 @@ TEST_F(EditorCommandOrder, ADialogThatIsAChildTellsItsIdAndAsksTheWindowThatHold
     OpenDialog page(IDD_PAGE, &inner);
     page.mainWindow = &holder;
     ASSERT_TRUE(page.Create(IDD_PAGE, &inner));
-    page.SetDlgCtrlID(0x7123);
+    page.SetDlgCtrlID(0x7BDE);
     page.ShowWindow(SW_SHOW);
     OpenDialog deep(IDD_PAGE, &page);
     deep.mainWindow = &holder;
@@ -242,7 +242,7 @@ TEST_F(EditorCommandOrder, ADialogThatIsAChildTellsItsIdAndAsksTheWindowThatHold
     page.CompleteEditorCommand(1);
     EXPECT_EQ(told(), (std::vector<LPARAM>{1, 0}));
     ASSERT_EQ(words.size(), 6u);  // hide and show to two parents, begin and complete
-    for (const WPARAM word : words) EXPECT_EQ(word & 0xFFFF, 0x7123u);
+    for (const WPARAM word : words) EXPECT_EQ(word & 0xFFFF, 0x7BDEu);
     holder.heard.clear();
     deep.BeginEditorCommand();
     deep.CompleteEditorCommand(1);
@@ -250,7 +250,7 @@ TEST_F(EditorCommandOrder, ADialogThatIsAChildTellsItsIdAndAsksTheWindowThatHold
     holder.heard.clear();
     page.CancelEditorCommand();
     ASSERT_EQ(holder.heard.size(), 1u);
-    EXPECT_EQ(holder.heard[0].id, 0x7123u);
+    EXPECT_EQ(holder.heard[0].id, 0x7BDEu);
     deep.DestroyWindow();
     page.DestroyWindow();
 }
