@@ -40,6 +40,9 @@
 #include <ktui/pickers/true_color_combo_box.h>
 #include <ktui/pickers/white_black_color_combo_box.h>
 #include <ktui/text/dialog_data.h>
+#include <ktui/text/kbui_pathname.h>
+#include <ktui/text/kbui_volume_descriptor.h>
+#include <ktui/text/ktui_pathname.h>
 #include <ktui/text/ktui_string.h>
 #include <ktui/text/ktui_string_exp.h>
 #include <ktui/text/registry_access.h>
