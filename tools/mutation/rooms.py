@@ -39,6 +39,7 @@ ROOMS = {
         _toolkit("pickers"),
         _toolkit("dialogs"),
         _toolkit("tips"),
+        _toolkit("docking"),
         Room("platform/ktdb", ("platform/ktdb",), ("ktdb_test",), ("ktdb_test",), 90),
         Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),
         Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),

@@ -1,0 +1,3 @@
+#include <ktui/controls/ktui_buttons.h>
+
+IMPLEMENT_DYNAMIC(CKtUiOwnerDrawButton, CKbUiOwnerDrawButton)
