@@ -1,12 +1,15 @@
 // Everything a client of the toolkit needs. Include it, or the header of a single class.
 #pragma once
 
+#include <ktui/controls/kbui_bitmap_button.h>
+#include <ktui/controls/kbui_group_ctrl.h>
 #include <ktui/controls/kbui_header_ctrl.h>
 #include <ktui/controls/kbui_list_box.h>
 #include <ktui/controls/kbui_list_ctrl.h>
 #include <ktui/controls/kbui_owner_draw_button.h>
 #include <ktui/controls/kbui_track_button.h>
 #include <ktui/controls/ktui_buttons.h>
+#include <ktui/controls/transparent_bitmap.h>
 #include <ktui/dialogs/bring_into_view.h>
 #include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/kbui_dialog.h>
