@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ktui/controls/kbui_bitmap_button.h>
+#include <ktui/controls/kbui_drop_target.h>
 #include <ktui/controls/kbui_group_ctrl.h>
 #include <ktui/controls/kbui_header_ctrl.h>
 #include <ktui/controls/kbui_list_box.h>
