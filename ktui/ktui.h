@@ -27,6 +27,7 @@
 #include <ktui/host/runtime_module.h>
 #include <ktui/input/kbui_combo_box.h>
 #include <ktui/input/kbui_edit.h>
+#include <ktui/input/kbui_search_box.h>
 #include <ktui/input/ktui_typed_combo_boxes.h>
 #include <ktui/input/ktui_typed_edits.h>
 #include <ktui/input/ktui_combo_box.h>

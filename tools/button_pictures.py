@@ -105,3 +105,23 @@ def wizard(size):
         picture.box(x - 0.5, y - 1.5, x + 0.5, y + 1.5, ORANGE)
         picture.box(x - 1.5, y - 0.5, x + 1.5, y + 0.5, ORANGE)
     return picture.rows
+
+
+def search(size):
+    """A magnifying glass, in a grid of 16."""
+    picture = Picture(size, 16)
+    for x, y in picture.covered(lambda x, y: 3.4 <= ((x - 6.5) ** 2 + (y - 6.5) ** 2) ** 0.5 <= 4.9):
+        picture.put(x, y, EDGE)
+    handle = ((9.4, 10.8), (10.8, 9.4), (14.6, 13.2), (13.2, 14.6))
+    for x, y in picture.covered(lambda x, y: inside(x, y, handle)):
+        picture.put(x, y, EDGE)
+    return picture.rows
+
+
+def clear(size):
+    """A cross, in a grid of 16."""
+    picture = Picture(size, 16)
+    for x, y in picture.covered(lambda x, y: 3.5 <= x <= 12.5 and 3.5 <= y <= 12.5 and
+                                min(abs(x - y), abs(x + y - 16)) < 1.1):
+        picture.put(x, y, EDGE)
+    return picture.rows

@@ -24,6 +24,19 @@ def write_bmp(path, rows):
     path.write_bytes(b"BM" + struct.pack("<IHHI", 54 + len(data), 0, 0, 54) + header + data)
 
 
+def write_mono_bmp(path, rows):
+    """Writes rows of pixels, top row first, as a bitmap of one bit: white where a pixel is the key, else black."""
+    width, height = len(rows[0]), len(rows)
+    data = b""
+    for row in reversed(rows):
+        bits = "".join("1" if pixel == button_pictures.KEY else "0" for pixel in row)
+        bits += "0" * (-len(bits) % 32)
+        data += int(bits, 2).to_bytes(len(bits) // 8, "big")
+    header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 1, 0, len(data), 2835, 2835, 2, 2)
+    colors = bytes((0, 0, 0, 0, 255, 255, 255, 0))
+    path.write_bytes(b"BM" + struct.pack("<IHHI", 62 + len(data), 0, 0, 62) + header + colors + data)
+
+
 def dib_with_alpha(rows):
     """An icon image: 32-bit pixels (r, g, b, a), then a mask derived from the alpha."""
     width, height = len(rows[0]), len(rows)
@@ -180,6 +193,10 @@ def main():
     write_button_picture("pick", button_pictures.pick, 16)
     write_button_picture("pick_set", button_pictures.pick_set, 16)
     write_button_picture("warning", button_pictures.warning, 32)
+    for name, draw in (("search", button_pictures.search), ("clear", button_pictures.clear)):
+        write_mono_bmp(RES / f"{name}.bmp", draw(16))
+        for percent in LARGER_PERCENTS:
+            write_mono_bmp(RES / f"{name}_{percent}.bmp", draw(16 * percent // 100))
     write_ico(RES / "wizard.ico", [keyed_icon(button_pictures.wizard(size)) for size in (16, 20, 24, 32, 48)])
 
 

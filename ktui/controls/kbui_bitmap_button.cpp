@@ -1,5 +1,6 @@
 #include <ktui/controls/kbui_bitmap_button.h>
 
+#include <ktui/controls/scaled_picture.h>
 #include <ktui/controls/transparent_bitmap.h>
 #include <ktui/controls/transparent_pixels.h>
 #include <ktui/host/appearance.h>
@@ -13,27 +14,11 @@ namespace {
 
 constexpr wchar_t kNameEnd = L'|';  // between the name of a picture and the caption
 constexpr int kNoBitmapSize = 16;   // pixels
-constexpr int kWhole = 100;         // per cent
-constexpr int kLargerPercents[] = {125, 150, 200};
-
-/// How large in per cent the pictures for `window` are.
-int PicturePercent(HWND window) {
-    const int wanted = KtUiAppearancePixels(window, kWhole);
-    if (wanted <= kWhole) return kWhole;
-    for (const int percent : kLargerPercents)
-        if (percent >= wanted) return percent;
-    return kLargerPercents[2];
-}
 
 /// The bitmap `name` of `module`, or its larger companion where `window` wants one. Null if there is none.
 HBITMAP LoadPicture(HWND window, HINSTANCE module, const wchar_t* name) {
-    const int percent = IS_INTRESOURCE(name) ? kWhole : PicturePercent(window);
-    if (percent != kWhole) {
-        CString larger;
-        larger.Format(L"%s_%d", name, percent);
-        if (const HBITMAP found = ::LoadBitmapW(module, larger)) return found;
-    }
-    return ::LoadBitmapW(module, name);
+    if (IS_INTRESOURCE(name)) return ::LoadBitmapW(module, name);
+    return ::LoadBitmapW(module, ScaledPictureName(window, module, name));
 }
 
 }  // namespace
