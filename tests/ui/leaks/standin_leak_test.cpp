@@ -1,9 +1,10 @@
 // The dialogs of the stand-in host come up filled and leave nothing behind when they are opened and closed a
 // thousand times.
 //
-// On a machine that does much else one now and then came up empty, twice in some tens of thousands. So every
-// dialog is looked at, and for one that is not filled it is told how far it came. KTUI_DIALOG_MINUTES=60
-// makes TheyComeUpFilled go on for that long (--gtest_filter=*ComeUpFilled); without it, it opens a few.
+// Now and then one came up empty, because the class layer did not find the object of a handle that was late.
+// So every dialog is looked at, and for one that is not filled it is told how far it came.
+// KTUI_DIALOG_MINUTES=60 makes TheyComeUpFilled go on for that long (--gtest_filter=*ComeUpFilled); without
+// it, it opens a few.
 #include <chrono>
 #include <cstdlib>
 #include <string>

@@ -61,6 +61,24 @@ TEST(HandleMap, ThePermanentObjectComesFirst) {
     EXPECT_NE(map.FromHandle(handle(5)), &mine);
 }
 
+TEST(HandleMap, OnlyTheLowerHalfOfAHandleCounts) {
+    // Two spellings of one handle, as functions of a system of 64 bits give them.
+    const HMENU filled = handle(0xFFFFFFFF80100056), bare = handle(0x80100056);
+    CHandleMap<Item> map;
+    Item mine;
+    map.SetPermanent(filled, &mine);
+    EXPECT_EQ(map.LookupPermanent(bare), &mine);
+    EXPECT_EQ(map.FromHandle(bare), &mine);
+    map.RemoveHandle(bare, &mine);
+    EXPECT_EQ(map.LookupPermanent(filled), nullptr);
+    Item* temporary = map.FromHandle(bare);
+    EXPECT_EQ(map.FromHandle(filled), temporary);
+    EXPECT_EQ(map.LookupTemporary(filled), temporary);
+    EXPECT_EQ(map.TemporaryCount(), 1u);
+    map.DeleteTemp();
+    EXPECT_EQ(map.FromHandle(filled), map.FromHandle(bare)) << "a reused one too";
+}
+
 TEST(HandleMap, AScopeEndsItsOwnTemporaryObjectsOnly) {
     CHandleMap<Item> map;
     Item* outer = map.FromHandle(handle(1));

@@ -8,6 +8,7 @@
 // opens a scope, and DeleteTemp leaves alone what is older.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -34,29 +35,29 @@ public:
     T* FromHandle(Handle handle) {
         if (!handle) return nullptr;
         if (T* permanent = LookupPermanent(handle)) return permanent;
-        const auto found = m_temporary.find(handle);
+        const auto found = m_temporary.find(key_of(handle));
         return found != m_temporary.end() ? found->second.object.get() : make_temporary(handle);
     }
 
     /// The permanent object of the handle, or null.
     T* LookupPermanent(Handle handle) const {
-        const auto found = m_permanent.find(handle);
+        const auto found = m_permanent.find(key_of(handle));
         return found != m_permanent.end() ? found->second : nullptr;
     }
 
     /// The temporary object of the handle, or null.
     T* LookupTemporary(Handle handle) const {
-        const auto found = m_temporary.find(handle);
+        const auto found = m_temporary.find(key_of(handle));
         return found != m_temporary.end() ? found->second.object.get() : nullptr;
     }
 
     /// Makes `object` the handle's permanent one. It stays the caller's, who calls RemoveHandle before it
     /// goes.
-    void SetPermanent(Handle handle, T* object) { m_permanent[handle] = object; }
+    void SetPermanent(Handle handle, T* object) { m_permanent[key_of(handle)] = object; }
 
     /// Forgets the handle's permanent object if that is `object`: another may have been attached since.
     void RemoveHandle(Handle handle, const T* object) {
-        const auto found = m_permanent.find(handle);
+        const auto found = m_permanent.find(key_of(handle));
         if (found != m_permanent.end() && found->second == object) m_permanent.erase(found);
     }
 
@@ -90,7 +91,13 @@ private:
         std::unique_ptr<T> object;
         unsigned scope;  ///< the one it was made in
     };
-    using Temporaries = std::unordered_map<Handle, Temporary>;
+    using Key = std::uint32_t;
+    using Temporaries = std::unordered_map<Key, Temporary>;
+
+    /// The significant bits of a handle. Wine gives the same window with its upper half filled with ones to
+    /// one function and with zeros to another once the lower half's highest bit is set, which is after 32,768
+    /// uses of a place in its table.
+    static Key key_of(Handle handle) { return static_cast<Key>(reinterpret_cast<std::uintptr_t>(handle)); }
 
     static void set_handle(T& object, Handle handle) {
         kmfc::handle_member(object) = handle;
@@ -102,9 +109,9 @@ private:
         if (m_spare.empty()) {
             auto made = std::make_unique<T>();
             object = made.get();
-            m_temporary.emplace(handle, Temporary{std::move(made), m_scope});
+            m_temporary.emplace(key_of(handle), Temporary{std::move(made), m_scope});
         } else {
-            m_spare.back().key() = handle;
+            m_spare.back().key() = key_of(handle);
             m_spare.back().mapped().scope = m_scope;
             object = m_temporary.insert(std::move(m_spare.back())).position->second.object.get();
             m_spare.pop_back();
@@ -114,7 +121,7 @@ private:
     }
 
     unsigned m_scope = 0;  ///< how many scopes are open
-    std::unordered_map<Handle, T*> m_permanent;
+    std::unordered_map<Key, T*> m_permanent;
     Temporaries m_temporary;
     std::vector<typename Temporaries::node_type> m_spare;
 };
