@@ -1,10 +1,14 @@
 #include <ktui/controls/kbui_owner_draw_button.h>
 
+#include <ktdsres/resource_ids.h>
+#include <ktui/host/accessible.h>
+#include <ktui/host/string_resources.h>
 #include <ktui/host/theme_api.h>
 
 namespace {
 
 const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
+const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
 
 constexpr DWORD kKeptStyles = 0xFFF4;  // of the style that a button had before
 
@@ -13,6 +17,8 @@ constexpr DWORD kKeptStyles = 0xFFF4;  // of the style that a button had before
 IMPLEMENT_DYNAMIC(CKbUiOwnerDrawButton, CButton)
 
 BEGIN_MESSAGE_MAP(CKbUiOwnerDrawButton, CButton)
+    ON_MESSAGE(WM_GETOBJECT, &CKbUiOwnerDrawButton::OnGetObject)
+    ON_REGISTERED_MESSAGE(accessibleMessage, &CKbUiOwnerDrawButton::OnAccessible)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
     ON_WM_KILLFOCUS()
@@ -123,6 +129,29 @@ void CKbUiOwnerDrawButton::askForTip(CPoint point) {
 void CKbUiOwnerDrawButton::endPointedAt() {
     setFlag(kPointedAt, 0);
     Invalidate();
+}
+
+LRESULT CKbUiOwnerDrawButton::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT answer = AnswerGetObject(*this, wParam, lParam);
+    return answer ? answer : Default();
+}
+
+LRESULT CKbUiOwnerDrawButton::OnAccessible(WPARAM wParam, LPARAM lParam) {
+    if (static_cast<KbUiAccessibleRequest>(wParam) == KbUiAccessibleRequest::kAct)
+        return !GetIsStatic() && PostMessage(BM_CLICK);
+    auto& item = *reinterpret_cast<KbUiAccessibleItem*>(lParam);
+    CString name;
+    if (!OnGetTipText(name) || name.IsEmpty()) GetWindowText(name);
+    item.name = WithoutAccessKey(name);
+    item.role = GetIsStatic() ? ROLE_SYSTEM_GRAPHIC : ROLE_SYSTEM_PUSHBUTTON;
+    if (GetIsStatic()) {
+        item.statesWithout = STATE_SYSTEM_FOCUSABLE;
+        return 1;
+    }
+    item.defaultAction = LoadToolkitString(IDS_ACTION_PRESS, L"按下");
+    if (GetState() & BST_PUSHED) item.states |= STATE_SYSTEM_PRESSED;
+    if (GetIsPointedAt()) item.states |= STATE_SYSTEM_HOTTRACKED;
+    return 1;
 }
 
 void CKbUiOwnerDrawButton::OnMouseMove(UINT flags, CPoint point) {

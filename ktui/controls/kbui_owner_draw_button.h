@@ -4,6 +4,7 @@
 // visual styles where they are on, in the classic way otherwise. While the mouse is over it the button holds
 // the capture and is "pointed at". A tip comes by the notification protocol: at each new place of the mouse
 // the holder is asked to support a tip (kKbUiNotifyGetTipSupport with 0, after the first time with 1).
+// Assistive programs know the button by the text of its tip or else by its caption.
 //
 //     class CStarButton : public CKbUiOwnerDrawButton {
 //         void DrawButton(CDC& dc, int width, int height, int isDefault, int isDisabled, int isPressed,
@@ -130,6 +131,8 @@ protected:
         m_buttonFlags = on & 1 ? m_buttonFlags | bit : m_buttonFlags & ~bit;
     }
 
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAccessible(WPARAM wParam, LPARAM lParam);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnMouseLeave();
     afx_msg void OnKillFocus(CWnd* next);

@@ -89,6 +89,7 @@ void CDrawingView::OnPaint() {
     CMemDC memory(dc, client);
     memory.GetDC().FillSolidRect(&client, kDrawingPaper);
     PaintScene(memory.GetDC(), m_scene, place(), m_selection);
+    paintBand(memory.GetDC());
 }
 
 BOOL CDrawingView::OnEraseBkgnd(CDC*) { return TRUE; }
@@ -101,6 +102,13 @@ void CDrawingView::OnSize(UINT type, int cx, int cy) {
 
 void CDrawingView::OnLButtonDown(UINT flags, CPoint point) {
     SetFocus();
+    if (IsPickingPlaces()) {
+        m_pointer = FromPixel(point);
+        pickPlace(m_pointer);
+        return;
+    }
+    // While objects are picked, each click adds one or takes it away.
+    if (IsPicking()) flags |= MK_CONTROL;
     const OdDbObjectId entity = entityAt(point);
     std::set<OdDbObjectId> selection;
     if (flags & (MK_CONTROL | MK_SHIFT)) selection = m_selection;
@@ -130,6 +138,7 @@ void CDrawingView::OnMouseMove(UINT, CPoint point) {
         m_lastPan = point;
     }
     m_pointer = FromPixel(point);
+    if (IsPickingPlaces()) Invalidate();
     GetParent()->PostMessage(WM_DRAFTER_POINTER);
 }
 
@@ -140,6 +149,7 @@ BOOL CDrawingView::OnMouseWheel(UINT, short delta, CPoint point) {
 }
 
 void CDrawingView::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    if (IsPicking() && pickByKey(key)) return;
     switch (key) {
         case VK_ESCAPE: SetSelection({}); break;
         case VK_LEFT: panBy(CSize(kPanStep, 0)); break;

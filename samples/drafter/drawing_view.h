@@ -2,7 +2,10 @@
 // click.
 #pragma once
 
+#include <functional>
 #include <set>
+#include <utility>
+#include <vector>
 
 #include <afxwin.h>
 
@@ -30,6 +33,19 @@ public:
     /// Place of the pointer in drawing units.
     OdGePoint2d pointer() const { return m_pointer; }
 
+    /// Called when picking ends: true if all was picked, false if the user gave up.
+    using PickEnded = std::function<void(bool isPicked)>;
+    /// Has the user pick `count` places by clicks, or with the arrow keys and Enter; they are places() then.
+    void PickPlaces(std::size_t count, PickEnded ended);
+    /// Has the user pick objects until Enter; they are selection() then, which is as before if the user gives
+    /// up.
+    void PickObjects(PickEnded ended);
+    bool IsPicking() const { return m_picking != Picking::kNothing; }
+    bool IsPickingPlaces() const { return m_picking == Picking::kPlaces; }
+    /// Ends picking as Enter or Escape would.
+    void EndPicking(bool isPicked);
+    const std::vector<OdGePoint2d>& places() const { return m_places; }
+
     /// Client pixels of a place in the drawing, and back.
     CPoint ToPixel(const OdGePoint2d& point) const;
     OdGePoint2d FromPixel(CPoint pixel) const;
@@ -52,6 +68,12 @@ private:
     OdDbObjectId entityAt(CPoint pixel) const;
     void zoomAt(CPoint pixel, double factor);
     void panBy(CSize pixels);
+    void pickPlace(const OdGePoint2d& place);
+    bool pickByKey(UINT key);
+    bool stepPointer(CSize pixels);
+    void paintBand(CDC& dc) const;
+
+    enum class Picking { kNothing, kPlaces, kObjects };
 
     Scene m_scene;
     std::set<OdDbObjectId> m_selection;
@@ -60,5 +82,10 @@ private:
     bool m_panning = false;
     CPoint m_lastPan;
     OdGePoint2d m_pointer;
+    Picking m_picking = Picking::kNothing;
+    std::size_t m_wantedPlaces = 0;
+    std::vector<OdGePoint2d> m_places;
+    std::set<OdDbObjectId> m_selectionBefore;
+    PickEnded m_pickEnded;
     bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
 };

@@ -8,11 +8,14 @@
 
 #include "ask_file.h"
 #include "dimension_style_dialog.h"
+#include "measure_dialog.h"
 #include "properties_dialog.h"
 #include "resource.h"
 #include "text_style_dialog.h"
 
 namespace {
+
+const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 
 constexpr UINT kViewId = AFX_IDW_PANE_FIRST;
 constexpr int kPointerPane = 1, kSelectionPane = 2;
@@ -48,6 +51,8 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
     ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CMainFrame::OnDimensionStyle)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
+    ON_COMMAND(ID_TOOLS_MEASURE, &CMainFrame::OnMeasure)
+    ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
 END_MESSAGE_MAP()
@@ -81,6 +86,7 @@ void CMainFrame::OnSize(UINT type, int cx, int cy) {
 }
 
 void CMainFrame::OnClose() {
+    if (m_view.IsPicking()) return m_view.EndPicking(false);
     if (mayDiscard()) CFrameWnd::OnClose();
 }
 
@@ -108,6 +114,7 @@ LRESULT CMainFrame::OnPointer(WPARAM, LPARAM) {
     CString text;
     text.Format(L"%s, %s", x, y);
     m_status.SetText(text, kPointerPane, 0);
+    if (m_view.IsPickingPlaces()) showPrompt();
     return 0;
 }
 
@@ -237,6 +244,55 @@ void CMainFrame::runDialog(CDialog& dialog) {
     showDrawing(true);
     OnSelection(0, 0);
     m_view.SetFocus();
+}
+
+void CMainFrame::OnMeasure() {
+    CMeasureDialog dialog(*m_document->database(), *this, this);
+    runDialog(dialog);
+}
+
+BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
+    switch (LOWORD(wParam)) {
+        case ID_EDIT_SELECT_ALL:
+        case ID_EDIT_DESELECT:
+        case ID_VIEW_EXTENTS:
+        case ID_VIEW_ZOOM_IN:
+        case ID_VIEW_ZOOM_OUT: break;
+        default:
+            if (m_view.IsPicking()) return TRUE;
+    }
+    return CFrameWnd::OnCommand(wParam, lParam);
+}
+
+/// A modal dialog tells that it begins or ends an editor command: the frame is usable in between.
+LRESULT CMainFrame::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
+    if (KbUiNotification(wParam) != kKbUiNotifyEditorCommand) return kKbUiReplyNone;
+    const bool begins = lParam == 1;
+    EnableWindow(begins);
+    if (begins) {
+        SetActiveWindow();
+        m_view.SetFocus();
+    } else {
+        m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0);
+    }
+    return kKbUiReplyHandled;
+}
+
+void CMainFrame::PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) {
+    m_firstPrompt = firstPrompt;
+    m_view.PickPlaces(count, [this, picked = std::move(picked)](bool) { picked(m_view.places()); });
+    showPrompt();
+}
+
+void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
+    m_view.PickObjects([this, picked = std::move(picked)](bool isPicked) {
+        picked(isPicked ? &m_view.selection() : nullptr);
+    });
+    m_status.SetText(textOf(prompt), 0, 0);
+}
+
+void CMainFrame::showPrompt() {
+    m_status.SetText(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())), 0, 0);
 }
 
 void CMainFrame::OnAbout() { AfxMessageBox(textOf(IDS_ABOUT), MB_ICONINFORMATION); }

@@ -5,12 +5,13 @@
 #include <afxwin.h>
 
 #include "draft_document.h"
+#include "drawing_picker.h"
 #include "drawing_view.h"
 
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWnd {
+class CMainFrame : public CFrameWnd, private CDrawingPicker {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
@@ -22,6 +23,8 @@ public:
 
 protected:
     CWnd* GetMessageBar() override { return &m_status; }
+    /// While the user picks, only what changes the view or the selection goes on.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -41,11 +44,16 @@ protected:
     afx_msg void OnProperties();
     afx_msg void OnDimensionStyle();
     afx_msg void OnTextStyle();
+    afx_msg void OnMeasure();
     afx_msg void OnAbout();
+    afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
 private:
+    void PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) override;
+    void PickObjects(unsigned prompt, ObjectsPicked picked) override;
+    void showPrompt();
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards.
     void runDialog(CDialog& dialog);
@@ -63,4 +71,5 @@ private:
     std::unique_ptr<CDraftDocument> m_document;
     CDrawingView m_view;
     CStatusBarCtrl m_status;
+    unsigned m_firstPrompt = 0;
 };
