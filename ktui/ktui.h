@@ -46,3 +46,4 @@
 #include <ktui/tips/kbui_balloon_tip.h>
 #include <ktui/tips/kbui_text_tip.h>
 #include <ktui/tips/kbui_tip_window.h>
+#include <ktui/tips/messages/ktui_task_dialog.h>
