@@ -1,13 +1,21 @@
 // Everything a client of the toolkit needs. Include it, or the header of a single class.
 #pragma once
 
+#include <ktui/controls/kbui_bitmap_button.h>
+#include <ktui/controls/kbui_drop_target.h>
+#include <ktui/controls/kbui_group_ctrl.h>
 #include <ktui/controls/kbui_header_ctrl.h>
 #include <ktui/controls/kbui_list_box.h>
 #include <ktui/controls/kbui_list_ctrl.h>
+#include <ktui/controls/kbui_owner_draw_button.h>
+#include <ktui/controls/kbui_track_button.h>
+#include <ktui/controls/ktui_buttons.h>
+#include <ktui/controls/transparent_bitmap.h>
 #include <ktui/dialogs/bring_into_view.h>
 #include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/kbui_dialog.h>
 #include <ktui/dialogs/ktui_dialog.h>
+#include <ktui/docking/kbui_theme.h>
 #include <ktui/host/appearance.h>
 #include <ktui/host/draw_tip_text.h>
 #include <ktui/host/help_path.h>

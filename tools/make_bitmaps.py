@@ -6,11 +6,13 @@ Run it after a change; the files it writes are kept in the tree.
 import pathlib
 import struct
 
+import button_pictures
 import picker_strips
 
 RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
 MASK = (255, 0, 255)
 LARGER_SIZES = (20, 24, 32)  # pixels, for 125, 150 and 200 %
+LARGER_PERCENTS = (125, 150, 200)
 
 
 def write_bmp(path, rows):
@@ -167,6 +169,18 @@ def larger_shape_font_icon(size):
     return smooth_icon(size, FONT_LINE, (1, 13, 7, 1), (7, 1, 13, 13), (3, 8, 11, 8))
 
 
+def keyed_icon(rows):
+    """An icon image of a picture whose key colour stands for what is clear."""
+    return [[CLEAR if pixel == button_pictures.KEY else pixel + (255,) for pixel in row] for row in rows]
+
+
+def write_button_picture(name, draw, size):
+    """The picture at its agreed size, and at those for larger resolutions."""
+    write_bmp(RES / f"{name}.bmp", draw(size))
+    for percent in LARGER_PERCENTS:
+        write_bmp(RES / f"{name}_{percent}.bmp", draw(size * percent // 100))
+
+
 def main():
     RES.mkdir(parents=True, exist_ok=True)
     write_bmp(RES / "drop_arrows.bmp", side_by_side(drop_arrow((0, 0, 0)), drop_arrow((128, 128, 128))))
@@ -181,6 +195,10 @@ def main():
         write_bmp(RES / f"blocks_{size}.bmp", picker_strips.larger_block_strip(size))
     write_ico(RES / "true_type.ico", [true_type_icon()] + [larger_true_type_icon(size) for size in LARGER_SIZES])
     write_ico(RES / "shape_font.ico", [shape_font_icon()] + [larger_shape_font_icon(size) for size in LARGER_SIZES])
+    write_button_picture("pick", button_pictures.pick, 16)
+    write_button_picture("pick_set", button_pictures.pick_set, 16)
+    write_button_picture("warning", button_pictures.warning, 32)
+    write_ico(RES / "wizard.ico", [keyed_icon(button_pictures.wizard(size)) for size in (16, 20, 24, 32, 48)])
 
 
 if __name__ == "__main__":

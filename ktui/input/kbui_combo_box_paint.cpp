@@ -3,6 +3,7 @@
 
 #include <ktui/host/control_font.h>
 #include <ktui/host/theme_api.h>
+#include <ktui/host/under_cursor.h>
 #include <ktui/input/combo_face.h>
 
 static_assert(kItemSelected == ODS_SELECTED && kItemDisabled == ODS_DISABLED &&
@@ -31,11 +32,6 @@ bool IsButtonPressed(HWND combo) {
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
     return ::GetComboBoxInfo(combo, &info) && (info.stateButton & STATE_SYSTEM_PRESSED);
-}
-
-bool IsUnderCursor(HWND window) {
-    POINT cursor{};
-    return ::GetCursorPos(&cursor) && ::WindowFromPoint(cursor) == window;
 }
 
 ComboFace FaceOf(const CComboBox& combo) {

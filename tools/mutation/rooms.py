@@ -27,7 +27,7 @@ def _toolkit(name, *windows):
     return Room(f"ktui/{name}", (f"ktui/{name}",), ("ktui_core_test",), windows or (f"ui_{name}_test",))
 
 
-_MFC = ("mfc_gdi_test", "mfc_controls_test", "mfc_window_test", "mfc_dialog_test", "mfc_application_test")
+_MFC = ("mfc_gdi_test", "mfc_controls_test", "mfc_window_test", "mfc_dialog_test", "mfc_application_test", "mfc_ole_test")
 
 ROOMS = {
     room.name: room
@@ -39,6 +39,7 @@ ROOMS = {
         _toolkit("pickers"),
         _toolkit("dialogs"),
         _toolkit("tips"),
+        _toolkit("docking"),
         Room("platform/ktdb", ("platform/ktdb",), ("ktdb_test",), ("ktdb_test",), 90),
         Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),
         Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),

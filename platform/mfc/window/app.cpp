@@ -1,5 +1,6 @@
 // CWinApp: start and end of the application, its services.
 #include <kmfc/app.h>
+#include <kmfc/ole_data.h>
 
 #include "thread_state.h"
 
@@ -106,6 +107,7 @@ BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) 
 }
 
 void AfxWinTerm() {
+    AfxOleTerm();
     CWnd::DeleteTempMap();
     CDC::DeleteTempMap();
     CGdiObject::DeleteTempMap();

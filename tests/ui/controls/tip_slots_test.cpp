@@ -5,21 +5,14 @@
 #include <ktui/input/kbui_combo_box.h>
 #include <ktui/input/kbui_edit.h>
 
-#include <cstring>
 #include <vector>
 
+#include "slot_of.h"
 #include "ui_test.h"
 
 namespace {
 
-/// Place of a virtual operation in its class's table: a pointer to one holds the offset plus 1.
-template <class Operation>
-long long slotOf(Operation operation) {
-    long long raw = 0;
-    std::memcpy(&raw, &operation, sizeof raw);
-    EXPECT_EQ(raw % 8, 1) << "not virtual";
-    return raw / 8;
-}
+using ui_test::slotOf;
 
 /// Opens the protected operations of `Class`.
 template <class Class>

@@ -1,92 +1,18 @@
 // The closed face of an owner-drawn drop-down list under a theme: what is asked of the theme, and when.
 #include <ktui/controls/kbui_list_box.h>
-#include <ktui/host/test_door.h>
 #include <ktui/input/kbui_combo_box.h>
 
 #include "canvas.h"
+#include "fake_theme.h"
 #include "recording_holder.h"
 
 namespace {
 
+using ui_test::Asked;
+using ui_test::FakeTheme;
 using ui_test::RecordingHolder;
 
 constexpr UINT kId = 33;
-
-/// One question to the theme as it came.
-struct Asked {
-    std::string call;
-    int part = 0;
-    int state = 0;
-    CRect rect{0, 0, 0, 0};
-    bool operator==(const Asked& other) const {
-        return call == other.call && part == other.part && state == other.state && rect == other.rect;
-    }
-};
-void PrintTo(const Asked& asked, std::ostream* out) {
-    *out << asked.call << " " << asked.part << " " << asked.state << " (" << asked.rect.left << " "
-         << asked.rect.top << " " << asked.rect.right << " " << asked.rect.bottom << ")";
-}
-
-/// A theme of the test's own, in force for as long as it lives.
-class FakeTheme {
-public:
-    static inline std::vector<Asked> asked;
-    static inline bool hasData = true, transparent = false, active = true;
-    static inline HDC dc = nullptr;
-    static inline HWND opened = nullptr;
-
-    FakeTheme() : m_former(KtUiTestDoor().exchangeThemeApi(api())) {
-        asked.clear();
-        hasData = active = true;
-        transparent = false;
-    }
-    ~FakeTheme() { KtUiTestDoor().exchangeThemeApi(m_former); }
-
-private:
-    static HTHEME handle() { return reinterpret_cast<HTHEME>(0x1234); }
-    static HTHEME WINAPI open(HWND window, LPCWSTR classes) {
-        opened = window;
-        asked.push_back({std::string("open ") + CStringA(CString(classes)).GetString()});
-        return hasData ? handle() : nullptr;
-    }
-    static HRESULT WINAPI close(HTHEME theme) {
-        asked.push_back({theme == handle() ? "close" : "close another"});
-        return S_OK;
-    }
-    static BOOL WINAPI isActive() { return active; }
-    static BOOL WINAPI isTransparent(HTHEME, int part, int state) {
-        asked.push_back({"transparent?", part, state});
-        return transparent;
-    }
-    static HRESULT WINAPI drawParent(HWND window, HDC, RECT* rect) {
-        asked.push_back({window == opened ? "parent" : "another's parent", 0, 0, CRect(*rect)});
-        return S_OK;
-    }
-    static HRESULT WINAPI draw(HTHEME, HDC target, int part, int state, const RECT* rect, const RECT* clip) {
-        dc = target;
-        ::FillRect(target, rect, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-        asked.push_back({clip ? "draw clipped" : "draw", part, state, CRect(*rect)});
-        return S_OK;
-    }
-    static HRESULT WINAPI content(HTHEME, HDC, int part, int state, const RECT* bounds, RECT* result) {
-        asked.push_back({"content", part, state, CRect(*bounds)});
-        *result = *bounds;
-        ::InflateRect(result, -3, -3);
-        return S_OK;
-    }
-    static ThemeApi api() {
-        ThemeApi entries = MakeThemeApi({});
-        entries.openThemeData = open;
-        entries.closeThemeData = close;
-        entries.isThemeActive = isActive;
-        entries.isThemeBackgroundPartiallyTransparent = isTransparent;
-        entries.drawThemeParentBackground = drawParent;
-        entries.drawThemeBackground = draw;
-        entries.getThemeBackgroundContentRect = content;
-        return entries;
-    }
-    ThemeApi m_former;
-};
 
 class DrawnCombo : public CKbUiComboBox {
 public:

@@ -7,30 +7,12 @@
 #include <set>
 #include <tuple>
 
+#include "fake_resolution.h"
 #include "picker_fixture.h"
 
 using namespace ui_test;
 
 namespace {
-
-UINT fakeDpi = 96;
-UINT dpiOf(HWND) { return fakeDpi; }
-
-/// Shows another resolution for as long as it lives.
-class FakeResolution {
-public:
-    explicit FakeResolution(UINT dpi, BOOL follows = TRUE) : m_former(KtUiExchangeDpiSource(dpiOf)) {
-        fakeDpi = dpi;
-        KtUiFollowSystemAppearance(follows);
-    }
-    ~FakeResolution() {
-        KtUiFollowSystemAppearance(FALSE);
-        KtUiExchangeDpiSource(m_former);
-    }
-
-private:
-    KtUiDpiSource m_former;
-};
 
 /// Last row and column of the image column that the picture of `cargo` reaches.
 template <class Picker>
@@ -103,7 +85,7 @@ TEST(Appearance, APickerGrowsWhenItsWindowGoesToAnotherMonitor) {
     const FakeResolution resolution(96);
     InHolder<CKtUiArrowHeadComboBox> in;
     ASSERT_EQ(in.picker.GetItemHeight(0), 15);
-    fakeDpi = 192;
+    resolution.show(192);
     in.picker.SendMessage(0x02E3);  // WM_DPICHANGED_AFTERPARENT
     EXPECT_EQ(in.picker.GetItemHeight(0), 32);
 }

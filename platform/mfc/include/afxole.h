@@ -1,0 +1,6 @@
+// Drag and drop.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/ole_drop.h>
