@@ -56,4 +56,5 @@
 #include <ktui/tips/kbui_text_tip.h>
 #include <ktui/tips/kbui_tip_window.h>
 #include <ktui/tips/kh_tip_ctrl.h>
+#include <ktui/tips/messages/alert_dialog.h>
 #include <ktui/tips/messages/ktui_task_dialog.h>

@@ -1,6 +1,7 @@
 #include <ktui/tips/kb_tool_tip_ctrl.h>
 
 #include <od_host_services.h>
+#include <od_tool_tip_setting.h>
 
 BEGIN_MESSAGE_MAP(CKbToolTipCtrl, CToolTipCtrl)
     ON_WM_CREATE()
@@ -24,8 +25,8 @@ void CKbToolTipCtrl::OnDestroy() { CToolTipCtrl::OnDestroy(); }
 
 BOOL CKbToolTipCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
     if (message == TTM_RELAYEVENT) {
-        const OdDbHostAppServices* const services = oddbHostApplicationServices();
-        if (services != nullptr && services->toolTips() == 0) {
+        const auto* const setting = dynamic_cast<const OdDbToolTipSetting*>(oddbHostApplicationServices());
+        if (setting != nullptr && setting->toolTips() == 0) {
             if (result != nullptr) *result = 1;
             return TRUE;
         }

@@ -102,8 +102,10 @@ private:
     }
 
     static DWORD uiBits(UINT state) {
-        return (state & UISF_HIDEACCEL ? kSplitAccelHidden : 0) |
-               (state & UISF_HIDEFOCUS ? kSplitFocusHidden : 0);
+        DWORD bits = 0;
+        if (state & UISF_HIDEACCEL) bits |= kSplitAccelHidden;
+        if (state & UISF_HIDEFOCUS) bits |= kSplitFocusHidden;
+        return bits;
     }
     void replaceUiState(UINT state) {
         setBits(kSplitAccelHidden | kSplitFocusHidden, false);

@@ -104,7 +104,7 @@ private:
                                        nullptr);
     }
 
-    void paintThemedPart(const RECT& part, int state) {
+    void paintThemedPart(RECT part, int state) {
         const ThemeApi& api = ActiveThemeApi();
         if (api.isThemeBackgroundPartiallyTransparent(m_theme, kPushButton, state))
             api.drawThemeParentBackground(m_window, m_dc, &part);

@@ -6,6 +6,8 @@
 
 #include <afxwin.h>
 
+#include <ktui/tips/kh_tip_ctrl.h>
+
 #include "scene_painter.h"
 
 /// Posted to the parent when the selection changed, and when the pointer moved (its place is pointer()).
@@ -42,6 +44,8 @@ protected:
     afx_msg void OnMButtonDown(UINT flags, CPoint point);
     afx_msg void OnMButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg void OnDestroy();
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     DECLARE_MESSAGE_MAP()
@@ -52,6 +56,9 @@ private:
     OdDbObjectId entityAt(CPoint pixel) const;
     void zoomAt(CPoint pixel, double factor);
     void panBy(CSize pixels);
+    /// Starts, keeps or takes away the tip of the object under the pointer.
+    void updateTip(CPoint pixel);
+    void hideTip();
 
     Scene m_scene;
     std::set<OdDbObjectId> m_selection;
@@ -60,5 +67,7 @@ private:
     bool m_panning = false;
     CPoint m_lastPan;
     OdGePoint2d m_pointer;
+    CKhTipCtrl m_tip;
+    OdDbObjectId m_tipEntity;  ///< whose tip is shown or waits; null for none
     bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
 };

@@ -25,9 +25,6 @@ public:
     /// Whether lineweights are shown in millimetres (true) or inches.
     virtual bool lineWeightsInMillimetres() const { return m_millimetres; }
     virtual void setLineWeightsInMillimetres(bool millimetres) { m_millimetres = millimetres; }
-    /// Whether tips are shown; 0 turns all of them off.
-    virtual short toolTips() const { return m_toolTips; }
-    virtual void setToolTips(short value) { m_toolTips = value; }
     /// The lineweight that OdDb::kLnWtByLwDefault stands for.
     virtual OdDb::LineWeight defaultLineWeight() const { return m_defaultLineWeight; }
     virtual void setDefaultLineWeight(OdDb::LineWeight weight) { m_defaultLineWeight = weight; }
@@ -36,7 +33,6 @@ private:
     OdDbDatabase* m_workingDatabase = nullptr;
     OdDb::LineWeight m_defaultLineWeight = OdDb::kLnWt025;
     short m_measurementInit = 1;
-    short m_toolTips = 1;
     bool m_millimetres = true;
 };
 
