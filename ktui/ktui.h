@@ -55,6 +55,10 @@
 #include <ktui/text/ktui_string.h>
 #include <ktui/text/ktui_string_exp.h>
 #include <ktui/text/registry_access.h>
+#include <ktui/tips/kb_tool_tip_ctrl.h>
 #include <ktui/tips/kbui_balloon_tip.h>
 #include <ktui/tips/kbui_text_tip.h>
 #include <ktui/tips/kbui_tip_window.h>
+#include <ktui/tips/kh_tip_ctrl.h>
+#include <ktui/tips/messages/alert_dialog.h>
+#include <ktui/tips/messages/ktui_task_dialog.h>

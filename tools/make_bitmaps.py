@@ -70,6 +70,21 @@ def drop_arrow(ink):
     return cell
 
 
+def link_arrow(size):
+    """The arrow before a command link: a shaft and a head that point to the right, without smoothing, since it is drawn
+    with a mask on whatever the background is."""
+    ink = (0, 102, 184)
+    middle, reach, weight = (size - 1) / 2, size * 0.36, size * 0.085
+
+    def is_ink(x, y):
+        along, across = x - middle, abs(y - middle)
+        in_shaft = across <= weight and -reach <= along <= reach - weight
+        in_head = across <= reach * 0.85 and abs(along + across - reach) <= weight * 1.5
+        return in_shaft or in_head
+
+    return [[ink if is_ink(x, y) else MASK for x in range(size)] for y in range(size)]
+
+
 def side_by_side(*cells):
     return [sum(rows, []) for rows in zip(*cells)]
 
@@ -184,6 +199,9 @@ def main():
     write_bmp(RES / "drop_arrows.bmp", side_by_side(drop_arrow((0, 0, 0)), drop_arrow((128, 128, 128))))
     write_bmp(RES / "arrowheads.bmp", picker_strips.arrowhead_strip())
     write_bmp(RES / "blocks.bmp", picker_strips.block_strip())
+    write_bmp(RES / "link_arrow.bmp", link_arrow(20))
+    for size in (25, 30, 40):
+        write_bmp(RES / f"link_arrow_{size}.bmp", link_arrow(size))
     write_ico(RES / "dialog.ico", [dialog_icon(size) for size in (16, 32, 48)])
     for size in LARGER_SIZES:
         write_bmp(RES / f"arrowheads_{size}.bmp", picker_strips.larger_arrowhead_strip(size))

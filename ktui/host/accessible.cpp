@@ -71,9 +71,8 @@ public:
     HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR* action) override {
         return text(child, action, &KbUiAccessibleItem::defaultAction);
     }
-    HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT, BSTR* description) override {
-        *description = nullptr;
-        return S_FALSE;
+    HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR* description) override {
+        return text(child, description, &KbUiAccessibleItem::description);
     }
     HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT, BSTR* help) override {
         *help = nullptr;

@@ -27,6 +27,7 @@ struct KbUiAccessibleItem {
     int child = 0;     ///< which one is asked for
     int children = 0;  ///< how many parts the control has; answered for child 0
     CString name;
+    CString description;    ///< empty for none
     CString value;          ///< empty for none
     CString defaultAction;  ///< what the action is called; empty for none
     LONG role = ROLE_SYSTEM_CLIENT;

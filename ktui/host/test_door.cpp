@@ -1,6 +1,7 @@
 #include <ktui/host/test_door.h>
 
 const KtUiTestEntries& KtUiTestDoor() {
-    static constexpr KtUiTestEntries entries = {&::ExchangeThemeApi, &::LoadedToolkit};
+    static constexpr KtUiTestEntries entries = {&::ExchangeThemeApi, &::LoadedToolkit, &::SplitButtonMessage,
+                                                &::SplitButtonWndProc, &::SplitButtonTextFlags};
     return entries;
 }

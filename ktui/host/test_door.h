@@ -5,10 +5,20 @@
 #include <ktui/host/loaded_module.h>
 #include <ktui/host/theme_api.h>
 
+// Of a room that stands on this one.
+struct SplitButtonRecord;
+LRESULT SplitButtonMessage(SplitButtonRecord* record, HWND window, UINT message, WPARAM wParam,
+                           LPARAM lParam);
+LRESULT CALLBACK SplitButtonWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+UINT SplitButtonTextFlags(DWORD style, DWORD exStyle, bool accelHidden);
+
 /// Each entry is the library's own function of that name.
 struct KtUiTestEntries {
     decltype(&::ExchangeThemeApi) exchangeThemeApi;
     decltype(&::LoadedToolkit) loadedToolkit;
+    decltype(&::SplitButtonMessage) splitButtonMessage;
+    decltype(&::SplitButtonWndProc) splitButtonWndProc;
+    decltype(&::SplitButtonTextFlags) splitButtonTextFlags;
 };
 
 /// The one export that no client may call.

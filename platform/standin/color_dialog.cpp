@@ -4,6 +4,7 @@
 
 #include "dialog_items.h"
 #include "resource.h"
+#include "standin_message.h"
 
 namespace {
 
@@ -59,7 +60,8 @@ void CStandinColorDialog::OnOK() {
 }
 
 void CStandinColorDialog::refuse(int field) {
-    AfxMessageBox(field == IDC_COLOR_INDEX ? IDS_COLOR_REFUSED : IDS_COLOR_PART_REFUSED, MB_ICONINFORMATION);
+    ShowStandinMessage(field == IDC_COLOR_INDEX ? IDS_COLOR_REFUSED : IDS_COLOR_PART_REFUSED,
+                       MB_ICONINFORMATION);
     CWnd* control = GetDlgItem(field);
     control->SetFocus();
     control->SendMessage(EM_SETSEL, 0, -1);

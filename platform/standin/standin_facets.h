@@ -8,6 +8,8 @@
 #include "plotting/style_sheets.h"
 #include "standin_host.h"
 
+#include <od_tool_tip_setting.h>
+
 class StandinProductInfo final : public CKhProductInfo {
 public:
     const wchar_t* companyFullName() override { return L"Quorvex Design Systems"; }
@@ -87,6 +89,12 @@ private:
     std::vector<CString> m_folders;
 };
 
+/// The services of the drawing runtime, with the setting that turns tips off: "General", "ToolTips".
+class StandinAppServices final : public OdDbHostAppServices, public OdDbToolTipSetting {
+public:
+    short toolTips() const override;
+};
+
 class StandinPaletteSizing final : public CKhPaletteSizing {
 public:
     void fillBackground(HDC dc, const RECT& rect) override;
@@ -130,7 +138,7 @@ struct StandinFacets {
         serviceManager.m_services[kKhPlotStyleService] = &styleSheets;
     }
 
-    OdDbHostAppServices services;
+    StandinAppServices services;
     OdDbHostAppServices* formerServices = nullptr;
     StandinProductInfo product;
     StandinProfileStore profile;

@@ -69,6 +69,12 @@ bool StandinProfileStore::setProfileInt(const wchar_t* section, const wchar_t* k
                             sizeof(value)) == ERROR_SUCCESS;
 }
 
+short StandinAppServices::toolTips() const {
+    int value = 1;
+    StandinProfileStore().getProfileInt(L"General", L"ToolTips", value, 0);
+    return static_cast<short>(value);
+}
+
 COLORREF StandinColorServices::colorOfIndex(int index) { return odcmLookupRGB(index, odcmAcadDarkPalette()); }
 int StandinColorServices::currentColorScheme(int) { return 0; }
 

@@ -4,6 +4,7 @@
 #include "plotting/plot_style_dialog.h"
 #include "resource.h"
 #include "standin_facets.h"
+#include "standin_message.h"
 
 extern "C" IMAGE_DOS_HEADER __ImageBase;
 
@@ -76,7 +77,7 @@ void StandinUiHost::showHelp(const wchar_t* topic) {
     CString text;
     text.LoadString(IDS_HELP_TEXT);
     if (topic != nullptr && *topic != 0) text += CString(L"\n") + topic;
-    AfxMessageBox(text, MB_ICONINFORMATION);
+    ShowStandinMessage(text, MB_ICONINFORMATION);
 }
 
 int StandinUiHost::getPathVariable(const wchar_t* name, wchar_t (&value)[kKhPathLength]) {

@@ -1,6 +1,8 @@
 #include "choice_dialog.h"
 
 #include "arrowhead_blocks.h"
+#include <ktui/host/message_box.h>
+
 #include "resource.h"
 
 IMPLEMENT_DYNAMIC(CNameChoiceDialog, CKtUiDialog)
@@ -49,7 +51,9 @@ OdString AskForBlock(CWnd* parent) {
     const std::vector<OdString> names =
         drawing != nullptr ? ChoosableBlocks(*drawing) : std::vector<OdString>();
     if (names.empty()) {
-        AfxMessageBox(IDS_NO_BLOCKS, MB_ICONINFORMATION);
+        CString text;
+        text.LoadString(IDS_NO_BLOCKS);
+        KtUiMessageBox(nullptr, text, MB_ICONINFORMATION);
         return {};
     }
     CNameChoiceDialog dialog(names, parent);

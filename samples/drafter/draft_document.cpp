@@ -2,16 +2,37 @@
 
 #include <ktut.h>
 
+#include <windows.h>
+
+namespace {
+
+/// When a file was written last; 0 for none.
+unsigned long long whenWritten(const wchar_t* path) {
+    WIN32_FILE_ATTRIBUTE_DATA data = {};
+    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &data)) return 0;
+    return static_cast<unsigned long long>(data.ftLastWriteTime.dwHighDateTime) << 32 |
+           data.ftLastWriteTime.dwLowDateTime;
+}
+
+}  // namespace
+
 CDraftDocument::CDraftDocument() : m_drawing(new OdDbDatabase) {}
 
 bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     if (drawing->readDxf(path, &error) != kOdOk) return false;
     m_drawing = drawing;
+    m_written = whenWritten(path);
     return true;
 }
 
-bool CDraftDocument::Save(const wchar_t* path) { return m_drawing->writeDxf(path) == kOdOk; }
+bool CDraftDocument::Save(const wchar_t* path) {
+    if (m_drawing->writeDxf(path) != kOdOk) return false;
+    m_written = whenWritten(path);
+    return true;
+}
+
+bool CDraftDocument::IsFileNewer() const { return m_written != 0 && whenWritten(path().c_str()) > m_written; }
 
 OdString CDraftDocument::name() const {
     OdString name, extension;

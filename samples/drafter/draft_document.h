@@ -18,6 +18,8 @@ public:
     /// Replaces the drawing by that of a file; on failure nothing changes and `error` says why.
     bool Open(const wchar_t* path, OdDbDxfError& error);
     bool Save(const wchar_t* path);
+    /// Whether the drawing's file was written by others since it was opened or saved.
+    bool IsFileNewer() const;
 
     /// Full path of the file, empty for a new drawing.
     OdString path() const { return m_drawing->getFilename(); }
@@ -31,5 +33,6 @@ private:
     bool setBool(const wchar_t* name, bool value) override;
 
     OdDbDatabasePtr m_drawing;
+    unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
     std::map<std::wstring, int> m_numbers;
 };

@@ -1,5 +1,7 @@
 #include "drawing_view.h"
 
+#include "object_tip.h"
+
 #include <afxext.h>
 
 #include <algorithm>
@@ -8,6 +10,7 @@
 namespace {
 
 constexpr int kPickDistance = 5;    // pixels
+constexpr int kTipOffset = 16;      // pixels right of and below the pointer
 constexpr double kZoomStep = 1.25;  // for one notch of the wheel
 constexpr int kPanStep = 48;        // pixels for an arrow key
 
@@ -31,6 +34,8 @@ BEGIN_MESSAGE_MAP(CDrawingView, CWnd)
     ON_WM_MBUTTONDOWN()
     ON_WM_MBUTTONUP()
     ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_WM_DESTROY()
     ON_WM_MOUSEWHEEL()
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
@@ -41,6 +46,7 @@ BOOL CDrawingView::CreateView(CWnd* parent, UINT id) {
 }
 
 void CDrawingView::SetScene(Scene scene, bool keepPlace) {
+    hideTip();
     m_scene = std::move(scene);
     if (!keepPlace) {
         m_selection.clear();
@@ -101,6 +107,7 @@ void CDrawingView::OnSize(UINT type, int cx, int cy) {
 }
 
 void CDrawingView::OnLButtonDown(UINT flags, CPoint point) {
+    hideTip();
     SetFocus();
     if (IsPickingPlaces()) {
         m_pointer = FromPixel(point);
@@ -133,6 +140,7 @@ void CDrawingView::OnMButtonUp(UINT, CPoint) {
 }
 
 void CDrawingView::OnMouseMove(UINT, CPoint point) {
+    updateTip(point);
     if (m_panning) {
         panBy(CSize(point.x - m_lastPan.x, point.y - m_lastPan.y));
         m_lastPan = point;
@@ -142,7 +150,34 @@ void CDrawingView::OnMouseMove(UINT, CPoint point) {
     GetParent()->PostMessage(WM_DRAFTER_POINTER);
 }
 
+void CDrawingView::updateTip(CPoint pixel) {
+    const OdDbObjectId entity = m_panning || !AreTipsOn() ? OdDbObjectId() : entityAt(pixel);
+    if (entity == m_tipEntity) return;
+    hideTip();
+    if (entity.isNull()) return;
+    TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, m_hWnd, 0};
+    ::TrackMouseEvent(&track);
+    if (m_tip.m_hWnd == nullptr && !m_tip.Create(this)) return;
+    m_tipEntity = entity;
+    CPoint place = pixel + CSize(kTipOffset, kTipOffset);
+    ClientToScreen(&place);
+    m_tip.Activate(place, DescribeObject(m_scene, entity));
+}
+
+void CDrawingView::hideTip() {
+    m_tipEntity = OdDbObjectId();
+    if (m_tip.m_hWnd != nullptr) m_tip.Deactivate();
+}
+
+void CDrawingView::OnMouseLeave() { hideTip(); }
+
+void CDrawingView::OnDestroy() {
+    m_tip.DestroyWindow();
+    CWnd::OnDestroy();
+}
+
 BOOL CDrawingView::OnMouseWheel(UINT, short delta, CPoint point) {
+    hideTip();
     ScreenToClient(&point);
     zoomAt(point, std::pow(kZoomStep, delta / static_cast<double>(WHEEL_DELTA)));
     return TRUE;

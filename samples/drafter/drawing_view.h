@@ -9,6 +9,8 @@
 
 #include <afxwin.h>
 
+#include <ktui/tips/kh_tip_ctrl.h>
+
 #include "scene_painter.h"
 
 /// Posted to the parent when the selection changed, and when the pointer moved (its place is pointer()).
@@ -58,6 +60,8 @@ protected:
     afx_msg void OnMButtonDown(UINT flags, CPoint point);
     afx_msg void OnMButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg void OnDestroy();
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     DECLARE_MESSAGE_MAP()
@@ -74,6 +78,9 @@ private:
     void paintBand(CDC& dc) const;
 
     enum class Picking { kNothing, kPlaces, kObjects };
+    /// Starts, keeps or takes away the tip of the object under the pointer.
+    void updateTip(CPoint pixel);
+    void hideTip();
 
     Scene m_scene;
     std::set<OdDbObjectId> m_selection;
@@ -87,5 +94,7 @@ private:
     std::vector<OdGePoint2d> m_places;
     std::set<OdDbObjectId> m_selectionBefore;
     PickEnded m_pickEnded;
+    CKhTipCtrl m_tip;
+    OdDbObjectId m_tipEntity;  ///< whose tip is shown or waits; null for none
     bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
 };

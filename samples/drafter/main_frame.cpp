@@ -5,10 +5,12 @@
 #include <ktut.h>
 #include <standin_host.h>
 #include <ktui/host/appearance.h>
+#include <ktui/host/message_box.h>
 
 #include "ask_file.h"
 #include "dimension_style_dialog.h"
 #include "measure_dialog.h"
+#include "messages.h"
 #include "properties_dialog.h"
 #include "resource.h"
 #include "text_style_dialog.h"
@@ -122,13 +124,7 @@ bool CMainFrame::OpenDrawing(const CString& path) {
     auto document = std::make_unique<CDraftDocument>();
     OdDbDxfError error;
     if (!document->Open(path, error)) {
-        CString text;
-        // What concerns the whole file has no line.
-        if (error.line == 0)
-            text.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
-        else
-            text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
-        AfxMessageBox(text, MB_ICONEXCLAMATION);
+        TellUnreadable(*this, path, error, shownName());
         return false;
     }
     m_host.SetCurrentDocument(document.get());
@@ -146,10 +142,13 @@ void CMainFrame::showDrawing(bool keepPlace) {
     OnSelection(0, 0);
 }
 
+CString CMainFrame::shownName() const {
+    const CString name = m_document->name().c_str();
+    return name.IsEmpty() ? textOf(IDS_UNTITLED) : name;
+}
+
 void CMainFrame::showTitle() {
-    CString name = m_document->name().c_str();
-    if (name.IsEmpty()) name = textOf(IDS_UNTITLED);
-    SetWindowText(name + (m_document->database()->isModified() ? L"* - " : L" - ") + GetTitle());
+    SetWindowText(shownName() + (m_document->database()->isModified() ? L"* - " : L" - ") + GetTitle());
 }
 
 bool CMainFrame::saveTo(const CString& path) {
@@ -163,21 +162,18 @@ bool CMainFrame::saveTo(const CString& path) {
         text.Format(IDS_WRITE_FAILED, path.GetString());
     else
         text.Format(IDS_WRITE_REFUSED, path.GetString(), reason.GetString());
-    AfxMessageBox(text, MB_ICONEXCLAMATION);
+    KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION);
     return false;
 }
 
 bool CMainFrame::mayDiscard() {
     if (!m_document->database()->isModified()) return true;
-    CString name = m_document->name().c_str(), text;
-    if (name.IsEmpty()) name = textOf(IDS_UNTITLED);
-    text.Format(IDS_SAVE_CHANGES, name.GetString());
-    const int answer = AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION);
-    if (answer == IDCANCEL) return false;
-    if (answer == IDNO) return true;
-    const CString path =
-        m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
-    return !path.IsEmpty() && saveTo(path);
+    switch (AskUnsavedChanges(*this, shownName())) {
+        case UnsavedChoice::kCancel: return false;
+        case UnsavedChoice::kDiscard: return true;
+        case UnsavedChoice::kSave: break;
+    }
+    return saveDrawing();
 }
 
 CString CMainFrame::askFileName(bool forSaving) {
@@ -190,11 +186,18 @@ void CMainFrame::OnFileOpen() {
     if (!path.IsEmpty()) OpenDrawing(path);
 }
 
-void CMainFrame::OnFileSave() {
-    const CString path =
-        m_document->path().isEmpty() ? askFileName(true) : CString(m_document->path().c_str());
-    if (!path.IsEmpty()) saveTo(path);
+bool CMainFrame::saveDrawing() {
+    bool asksName = m_document->path().isEmpty();
+    if (!asksName && m_document->IsFileNewer()) {
+        const NewerFileChoice choice = AskNewerFile(*this, m_document->path().c_str());
+        if (choice == NewerFileChoice::kCancel) return false;
+        asksName = choice == NewerFileChoice::kSaveAs;
+    }
+    const CString path = asksName ? askFileName(true) : CString(m_document->path().c_str());
+    return !path.IsEmpty() && saveTo(path);
 }
+
+void CMainFrame::OnFileSave() { saveDrawing(); }
 
 void CMainFrame::OnFileSaveAs() {
     const CString path = askFileName(true);
@@ -295,6 +298,6 @@ void CMainFrame::showPrompt() {
     m_status.SetText(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())), 0, 0);
 }
 
-void CMainFrame::OnAbout() { AfxMessageBox(textOf(IDS_ABOUT), MB_ICONINFORMATION); }
+void CMainFrame::OnAbout() { KtUiMessageBox(nullptr, textOf(IDS_ABOUT), MB_ICONINFORMATION); }
 
 void CMainFrame::OnUpdateHasSelection(CCmdUI* item) { item->Enable(!m_view.selection().empty()); }

@@ -60,8 +60,12 @@ private:
     /// Makes a font file known to the host, and to the system for as long as the program runs; its first
     /// style, or null with the reason in `message`.
     CKhFontStyle* loadFont(const CString& file, CString& message);
+    /// The drawing's name for the user, also of one without a file.
+    CString shownName() const;
     void showTitle();
     bool saveTo(const CString& path);
+    /// Saves under the drawing's name, asking for one where that is needed; false if it was not saved.
+    bool saveDrawing();
     /// Asks whether changes are to be saved; false if the user thought better of it.
     bool mayDiscard();
     /// Asks for a file name; empty if cancelled.

@@ -3,6 +3,8 @@
 #include <kh_font_list.h>
 #include <kh_system.h>
 
+#include <ktui/host/message_box.h>
+
 #include "ask_file.h"
 #include "resource.h"
 #include "unit_texts.h"
@@ -245,7 +247,7 @@ void CTextStyleDialog::OnBrowseFont() {
     CString message;
     const CKhFontStyle* style = m_loader(file, message);
     if (style == nullptr) {
-        AfxMessageBox(message, MB_ICONEXCLAMATION);
+        KtUiMessageBox(nullptr, message, MB_ICONEXCLAMATION);
         return;
     }
     OnFontList();

@@ -3,13 +3,13 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "message_text.h"
 #include "paths.h"
 
 namespace {
 
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 constexpr unsigned kPoll = 15;  // milliseconds
-constexpr int kMessageTextId = 0xFFFF;
 
 void sendKey(WORD virtualKey, bool up) {
     INPUT input = {};
@@ -148,7 +148,7 @@ HWND Drafter::waitForDialogOf(HWND owner) {
 
 std::wstring Drafter::dismissMessage(HWND owner) {
     HWND box = waitForDialogOf(owner);
-    const std::wstring text = box != nullptr ? textOf(item(box, kMessageTextId)) : L"";
+    const std::wstring text = box != nullptr ? ui_test::message_text(box) : L"";
     if (text.empty()) return L"";
     key(VK_RETURN);
     waitUntilGone(box);

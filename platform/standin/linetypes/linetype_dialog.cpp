@@ -7,6 +7,7 @@
 #include "dialog_items.h"
 #include "linetypes/load_linetypes_dialog.h"
 #include "resource.h"
+#include "standin_message.h"
 
 namespace {
 
@@ -102,7 +103,7 @@ BOOL CStandinLinetypeDialog::OnInitDialog() {
 void CStandinLinetypeDialog::OnOK() {
     const int row = selectedRow();
     if (row < 0) {
-        AfxMessageBox(IDS_LINETYPE_CHOOSE_ONE, MB_ICONINFORMATION);
+        ShowStandinMessage(IDS_LINETYPE_CHOOSE_ONE, MB_ICONINFORMATION);
         m_list.SetFocus();
         return;
     }
@@ -127,7 +128,7 @@ void CStandinLinetypeDialog::OnDelete() {
     if (!record) return;
     const OdDbLinetypeUse use = OdDbLinetypeUses(m_drawing).of(record->objectId());
     if (!use.isErasable()) {
-        AfxMessageBox(refusalOf(use, record->getName().c_str()), MB_ICONINFORMATION);
+        ShowStandinMessage(refusalOf(use, record->getName().c_str()), MB_ICONINFORMATION);
         return;
     }
     record->erase();

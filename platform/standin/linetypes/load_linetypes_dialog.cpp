@@ -8,6 +8,7 @@
 #include "file_bytes.h"
 #include "linetypes/linetype_loader.h"
 #include "resource.h"
+#include "standin_message.h"
 
 namespace {
 
@@ -107,7 +108,7 @@ void CLoadLinetypesDialog::OnOK() {
     }
     const auto definitions = chosen();
     if (definitions.empty()) {
-        AfxMessageBox(IDS_LINETYPE_CHOOSE_SOME, MB_ICONINFORMATION);
+        ShowStandinMessage(IDS_LINETYPE_CHOOSE_SOME, MB_ICONINFORMATION);
         m_list.SetFocus();
         return;
     }
@@ -118,7 +119,7 @@ void CLoadLinetypesDialog::OnOK() {
     if (!refused.IsEmpty()) {
         CString text;
         AfxFormatString1(text, IDS_LINETYPE_REFUSED, refused);
-        AfxMessageBox(text, MB_ICONINFORMATION);
+        ShowStandinMessage(text, MB_ICONINFORMATION);
     }
     if (!m_loaded.empty()) EndDialog(IDOK);
 }
@@ -150,7 +151,7 @@ void CLoadLinetypesDialog::readFile(const CString& name) {
         CString text;
         AfxFormatString1(text, m_path.IsEmpty() ? IDS_LINETYPE_NO_FILE : IDS_LINETYPE_UNREADABLE, name);
         m_path.Empty();
-        AfxMessageBox(text, MB_ICONEXCLAMATION);
+        ShowStandinMessage(text, MB_ICONEXCLAMATION);
         GotoDlgCtrl(GetDlgItem(IDC_LOAD_FILE));
         return;
     }
@@ -169,7 +170,7 @@ void CLoadLinetypesDialog::showProblems(const LinetypeFile& file) const {
     CString text;
     if (file.problems.empty() && m_definitions.empty()) {
         AfxFormatString1(text, IDS_LINETYPE_EMPTY_FILE, m_path);
-        AfxMessageBox(text, MB_ICONINFORMATION);
+        ShowStandinMessage(text, MB_ICONINFORMATION);
     }
     if (file.problems.empty()) return;
     const CString fileName = m_path.Mid(m_path.ReverseFind(L'\\') + 1);
@@ -183,7 +184,7 @@ void CLoadLinetypesDialog::showProblems(const LinetypeFile& file) const {
         lines += L"\n" + more;
     }
     AfxFormatString2(text, IDS_LINETYPE_PROBLEMS, m_path, lines);
-    AfxMessageBox(text, MB_ICONEXCLAMATION);
+    ShowStandinMessage(text, MB_ICONEXCLAMATION);
 }
 
 std::vector<const LinetypeDefinition*> CLoadLinetypesDialog::chosen() const {
@@ -200,7 +201,7 @@ int CLoadLinetypesDialog::askToReplace(const std::vector<const LinetypeDefinitio
     if (known.isEmpty()) return IDNO;
     CString text;
     AfxFormatString1(text, IDS_LINETYPE_REPLACE, known.text());
-    return AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION);
+    return ShowStandinMessage(text, MB_YESNOCANCEL | MB_ICONQUESTION);
 }
 
 void CLoadLinetypesDialog::load(const std::vector<const LinetypeDefinition*>& definitions, bool replace,

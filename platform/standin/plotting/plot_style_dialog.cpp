@@ -4,6 +4,7 @@
 
 #include "dialog_items.h"
 #include "resource.h"
+#include "standin_message.h"
 
 namespace {
 
@@ -64,7 +65,7 @@ BOOL CStandinPlotStyleDialog::OnInitDialog() {
 void CStandinPlotStyleDialog::OnOK() {
     const auto row = GetDlgItem(IDC_PLOT_STYLE_LIST)->SendMessage(LB_GETCURSEL);
     if (row < 0) {
-        AfxMessageBox(IDS_PLOT_STYLE_CHOOSE_ONE, MB_ICONINFORMATION);
+        ShowStandinMessage(IDS_PLOT_STYLE_CHOOSE_ONE, MB_ICONINFORMATION);
         GetDlgItem(IDC_PLOT_STYLE_LIST)->SetFocus();
         return;
     }

@@ -1,5 +1,6 @@
 // Fonts in the text style dialog as files: browsed for, come and gone while the dialog is open.
 #include "../standin/font_folder.h"
+#include "message_text.h"
 #include "text_style_fixture.h"
 
 namespace {
@@ -32,10 +33,11 @@ protected:
         picked = file;
         ui_test::when_window(
             [&dialog](HWND window) {
-                return ::GetWindow(window, GW_OWNER) == dialog.m_hWnd && ::GetDlgItem(window, 0xFFFF);
+                return ::GetWindow(window, GW_OWNER) == dialog.m_hWnd &&
+                       !ui_test::message_text(window).empty();
             },
             [&text](HWND box) {
-                text = ui_test::text_of(::GetDlgItem(box, 0xFFFF));
+                text = ui_test::message_text(box).c_str();
                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
             });
         click(dialog, IDC_BROWSE_FONT);

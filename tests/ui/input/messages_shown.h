@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "message_text.h"
 #include "test_host.h"
 
 namespace ui_test {
@@ -16,10 +17,7 @@ inline LRESULT CALLBACK closeBoxes(int code, WPARAM wParam, LPARAM lParam) {
     const HWND window = reinterpret_cast<HWND>(wParam);
     wchar_t name[16] = {};
     if (code == HCBT_ACTIVATE && ::GetClassNameW(window, name, 16) && wcscmp(name, L"#32770") == 0) {
-        constexpr int kTextOfBox = 0xFFFF;
-        wchar_t text[200] = {};
-        ::GetDlgItemTextW(window, kTextOfBox, text, 200);
-        textsOfBoxes().push_back(text);
+        textsOfBoxes().push_back(message_text(window).c_str());
         ::PostMessageW(window, WM_COMMAND, IDOK, 0);
     }
     return ::CallNextHookEx(nullptr, code, wParam, lParam);

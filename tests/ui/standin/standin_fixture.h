@@ -10,6 +10,7 @@
 #include <od_db.h>
 #include <standin_host.h>
 
+#include "message_text.h"
 #include "temporary_folder.h"
 #include "ui_test.h"
 
@@ -45,8 +46,7 @@ protected:
     /// Answers the next message box with `button` and puts its text into `text`.
     static void answerMessage(int button, CString& text) {
         when_dialog(kMessageCaption, [button, &text](HWND box) {
-            constexpr int kMessageText = 0xFFFF;
-            text = textOf(box, kMessageText);
+            text = message_text(box).c_str();
             ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
     }

@@ -1,0 +1,6 @@
+// Fonts that windows of every kind share.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/global_data.h>

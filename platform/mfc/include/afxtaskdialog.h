@@ -1,0 +1,6 @@
+// The system's task dialog.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/task_dialog.h>

@@ -1,0 +1,106 @@
+#include "messages.h"
+
+#include <kh_system.h>
+
+#include <ktui/tips/messages/ktui_task_dialog.h>
+
+#include "resource.h"
+
+namespace {
+
+constexpr int kLinks = 0x0010, kRelative = 0x1000;
+constexpr int kCancelButton = 8, kOkButton = 1;
+constexpr int kFirstCommand = 101;
+const wchar_t* const kSettings = L"Messages";
+const wchar_t* const kOverwriteNewer = L"OverwriteNewer";
+
+CString textOf(UINT id) {
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+CString formatted(UINT id, const CString& argument) {
+    CString text;
+    text.Format(id, argument.GetString());
+    return text;
+}
+
+const wchar_t* warningIcon() { return MAKEINTRESOURCEW(0xFFFF); }
+
+/// A question with commands of two lines each and a Cancel button.
+class Question : public CKtUiTaskDialog {
+public:
+    explicit Question(const CString& heading) {
+        SetWindowTitle(CKhSystem::instance()->productInfo()->messageCaption());
+        SetMainInstruction(heading);
+        SetOptions(kLinks | kRelative);
+        SetCommonButtons(kCancelButton);
+    }
+    void Offer(UINT title, UINT explanation) {
+        const int id = kFirstCommand + m_offered++;
+        AddCommandControl(id, textOf(title));
+        SetCommandControlExtend(id, textOf(explanation));
+    }
+    /// Index of the command chosen, -1 for none.
+    int Ask(CWnd& parent) {
+        const int answer = static_cast<int>(DoModal(parent.m_hWnd));
+        return answer >= kFirstCommand ? answer - kFirstCommand : -1;
+    }
+
+private:
+    int m_offered = 0;
+};
+
+}  // namespace
+
+UnsavedChoice AskUnsavedChanges(CWnd& parent, const CString& name) {
+    Question question(formatted(IDS_SAVE_CHANGES, name));
+    question.Offer(IDS_SAVE_COMMAND, IDS_SAVE_EXPLAINED);
+    question.Offer(IDS_DISCARD_COMMAND, IDS_DISCARD_EXPLAINED);
+    switch (question.Ask(parent)) {
+        case 0: return UnsavedChoice::kSave;
+        case 1: return UnsavedChoice::kDiscard;
+        default: return UnsavedChoice::kCancel;
+    }
+}
+
+void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept) {
+    CString reason;
+    // What concerns the whole file has no line.
+    if (error.line == 0)
+        reason.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
+    else
+        reason.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
+    CKtUiTaskDialog dialog;
+    dialog.SetWindowTitle(CKhSystem::instance()->productInfo()->messageCaption());
+    dialog.SetMainInstruction(textOf(IDS_UNREADABLE_HEADING));
+    dialog.SetContent(reason + L"\n\n" + formatted(IDS_DRAWING_KEPT, kept));
+    dialog.SetMainIcon(warningIcon());
+    dialog.SetOptions(0x0008 | 0x0002 | kRelative);
+    dialog.SetCommonButtons(kOkButton);
+    dialog.DoModal(parent.m_hWnd);
+}
+
+NewerFileChoice AskNewerFile(CWnd& parent, const CString& path) {
+    CKhProfileStore& settings = *CKhSystem::instance()->profileStore();
+    int always = 0;
+    if (settings.getProfileInt(kSettings, kOverwriteNewer, always, 0) && always)
+        return NewerFileChoice::kOverwrite;
+    Question question(textOf(IDS_NEWER_HEADING));
+    question.SetContent(formatted(IDS_NEWER_EXPLAINED, path));
+    question.SetMainIcon(warningIcon());
+    question.Offer(IDS_OVERWRITE_COMMAND, IDS_OVERWRITE_EXPLAINED);
+    question.Offer(IDS_SAVE_AS_COMMAND, IDS_SAVE_AS_EXPLAINED);
+    question.SetVerificationCheckboxText(textOf(IDS_NEVER_ASK_AGAIN));
+    const int answer = question.Ask(parent);
+    if (answer == 1) return NewerFileChoice::kSaveAs;
+    if (answer != 0) return NewerFileChoice::kCancel;
+    // Only an answer that can be given for the user is remembered.
+    if (question.GetVerificationCheckboxState()) settings.setProfileInt(kSettings, kOverwriteNewer, 1, 0);
+    return NewerFileChoice::kOverwrite;
+}
+
+void ForgetMessageAnswers() {
+    CKhSystem::instance()->profileStore()->setProfileInt(kSettings, kOverwriteNewer, 0, 0);
+}

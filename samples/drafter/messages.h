@@ -1,0 +1,25 @@
+// What the drafter asks and tells: every message that is more than a line.
+#pragma once
+
+#include <afxwin.h>
+
+#include <od_dxf_error.h>
+
+/// What to do with a drawing that was changed.
+enum class UnsavedChoice { kSave, kDiscard, kCancel };
+
+/// Asks what becomes of the changes to the drawing `name`.
+UnsavedChoice AskUnsavedChanges(CWnd& parent, const CString& name);
+
+/// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing that was open, still is.
+void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept);
+
+/// What to do when the file on disk was written after the drawing was opened.
+enum class NewerFileChoice { kOverwrite, kSaveAs, kCancel };
+
+/// Asks, unless the user has said that such files are always to be overwritten, which the verification box
+/// keeps among the settings of the user.
+NewerFileChoice AskNewerFile(CWnd& parent, const CString& path);
+
+/// Lets every question be asked again.
+void ForgetMessageAnswers();

@@ -1,0 +1,100 @@
+#include "object_tip.h"
+
+#include <afxwin.h>
+
+#include <cmath>
+#include <cstring>
+
+#include <ktut.h>
+#include <od_host_services.h>
+#include <od_tool_tip_setting.h>
+
+#include "resource.h"
+#include "unit_texts.h"
+
+namespace {
+
+struct Kind {
+    const char* name;  ///< in drawing files
+    UINT text;
+};
+
+constexpr Kind kKinds[] = {
+    {"LINE", IDS_KIND_LINE},           {"CIRCLE", IDS_KIND_CIRCLE}, {"ARC", IDS_KIND_ARC},
+    {"LWPOLYLINE", IDS_KIND_POLYLINE}, {"TEXT", IDS_KIND_TEXT},     {"MTEXT", IDS_KIND_TEXT},
+    {"POLYLINE", IDS_KIND_POLYLINE},   {"INSERT", IDS_KIND_INSERT}, {"ELLIPSE", IDS_KIND_ELLIPSE},
+};
+
+CString kindOf(const OdDbEntity& entity) {
+    CString text(entity.dxfName());
+    for (const Kind& kind : kKinds)
+        if (std::strcmp(kind.name, entity.dxfName()) == 0) text.LoadString(kind.text);
+    return text;
+}
+
+void addLine(OdArray<OdString>& lines, UINT id, const wchar_t* value) {
+    CString line;
+    line.Format(id, value);
+    lines.append(OdString(line));
+}
+
+bool isClosed(const std::vector<OdGePoint2d>& points) {
+    constexpr double kSame = 1e-9;
+    return points.size() > 2 &&
+           std::hypot(points.front().x - points.back().x, points.front().y - points.back().y) < kSame;
+}
+
+/// Adds the area of an object of one closed line or filled area, otherwise the length of its lines.
+void addMeasure(OdArray<OdString>& lines, const Scene& scene, const OdDbObjectId& entity) {
+    double length = 0, area = 0;
+    int paths = 0;
+    bool encloses = false;
+    for (const ScenePath& path : scene.paths) {
+        if (path.entity != entity) continue;
+        ++paths;
+        length += LengthOf(path.points);
+        encloses = path.filled || isClosed(path.points);
+        area += AreaOf(path.points);
+    }
+    if (paths == 0) return;
+    if (paths == 1 && encloses)
+        addLine(lines, IDS_TIP_AREA, FormatNumber(area));
+    else
+        addLine(lines, IDS_TIP_LENGTH, FormatDistance(length));
+}
+
+}  // namespace
+
+bool AreTipsOn() {
+    const auto* const setting = dynamic_cast<const OdDbToolTipSetting*>(oddbHostApplicationServices());
+    return setting == nullptr || setting->toolTips() != 0;
+}
+
+double LengthOf(const std::vector<OdGePoint2d>& points) {
+    double length = 0;
+    for (std::size_t i = 1; i < points.size(); ++i)
+        length += std::hypot(points[i].x - points[i - 1].x, points[i].y - points[i - 1].y);
+    return length;
+}
+
+double AreaOf(const std::vector<OdGePoint2d>& points) {
+    double twice = 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const OdGePoint2d& from = points[i];
+        const OdGePoint2d& to = points[(i + 1) % points.size()];
+        twice += from.x * to.y - to.x * from.y;
+    }
+    return std::fabs(twice) / 2;
+}
+
+OdArray<OdString> DescribeObject(const Scene& scene, const OdDbObjectId& entity) {
+    OdArray<OdString> lines;
+    const auto object = entity.open<OdDbEntity>();
+    if (!object) return lines;
+    lines.append(OdString(kindOf(*object)));
+    addLine(lines, IDS_TIP_LAYER, object->layer().c_str());
+    addLine(lines, IDS_TIP_COLOR, ktutColorToStr(object->color()).c_str());
+    addLine(lines, IDS_TIP_LINETYPE, object->linetype().c_str());
+    addMeasure(lines, scene, entity);
+    return lines;
+}

@@ -1,0 +1,183 @@
+// The tool-tip control with the toolkit's delay and width, and the tracking tip for items.
+#include <ktui/tips/kb_tool_tip_ctrl.h>
+#include <ktui/tips/tool_tip.h>
+
+#include <od_host_services.h>
+#include <od_tool_tip_setting.h>
+
+#include <vector>
+
+#include "sent_messages.h"
+#include "test_host.h"
+#include "ui_test.h"
+
+using namespace ui_test;
+
+namespace {
+
+class SettingServices : public OdDbHostAppServices, public OdDbToolTipSetting {
+public:
+    short toolTips() const override { return value; }
+    short value = 1;
+};
+
+class RelayingTip : public CKbToolTipCtrl {
+public:
+    std::vector<UINT> reached;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == TTM_RELAYEVENT) reached.push_back(message);
+        return CKbToolTipCtrl::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+class ToolTipCtrl : public ::testing::Test {
+protected:
+    ~ToolTipCtrl() override {
+        oddbSetHostApplicationServices(former);
+        CKbToolTipCtrl::SetDeaultDelayTime(500);
+    }
+    int DelayOfANewOne() {
+        CKbToolTipCtrl tip;
+        tip.Create(&parent);
+        // The automatic delay is the initial one, and the others follow from it.
+        const int delay = tip.GetDelayTime(TTDT_INITIAL);
+        tip.DestroyWindow();
+        return delay;
+    }
+    LRESULT Relay(RelayingTip& tip) {
+        MSG message = {parent.m_hWnd, WM_MOUSEMOVE, 0, 0, 0, {0, 0}};
+        return tip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
+    }
+    TestHost host;
+    ParentWindow parent;
+    OdDbHostAppServices* former = oddbHostApplicationServices();
+};
+
+class OpenToolTip : public CToolTip {
+public:
+    using CToolTip::CToolTip;
+    using CToolTip::m_shown;
+    using CToolTip::m_text;
+    using CToolTip::m_toolInfo;
+};
+
+class TrackingTip : public ::testing::Test {
+protected:
+    TrackingTip() : tip(control()) {}
+    CWnd& control() {
+        list.Create(L"LISTBOX", L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 100), &parent, 5);
+        return list;
+    }
+    TestHost host;
+    ParentWindow parent;
+    CWnd list;
+    OpenToolTip tip;
+};
+
+}  // namespace
+
+TEST_F(ToolTipCtrl, HasTheDelayAndAQuarterOfTheScreen) {
+    EXPECT_EQ(DelayOfANewOne(), 500);
+    CKbToolTipCtrl tip;
+    tip.Create(&parent);
+    EXPECT_EQ(tip.GetMaxTipWidth(), ::GetSystemMetrics(SM_CXSCREEN) / 4);
+}
+
+TEST_F(ToolTipCtrl, OnlyAPositiveDelayCounts) {
+    CKbToolTipCtrl::SetDeaultDelayTime(700);
+    EXPECT_EQ(DelayOfANewOne(), 700);
+    CKbToolTipCtrl::SetDeaultDelayTime(0);
+    EXPECT_EQ(DelayOfANewOne(), 700);
+    CKbToolTipCtrl::SetDeaultDelayTime(-1);
+    EXPECT_EQ(DelayOfANewOne(), 700);
+}
+
+TEST_F(ToolTipCtrl, TheHostsSettingKeepsEventsFromIt) {
+    SettingServices services;
+    RelayingTip tip;
+    tip.Create(&parent);
+    oddbSetHostApplicationServices(&services);
+    Relay(tip);
+    EXPECT_EQ(tip.reached.size(), 1u);
+    services.value = 0;
+    EXPECT_EQ(Relay(tip), 1);
+    EXPECT_EQ(tip.reached.size(), 1u);
+    oddbSetHostApplicationServices(nullptr);
+    Relay(tip);
+    EXPECT_EQ(tip.reached.size(), 2u);
+}
+
+TEST_F(TrackingTip, IsATopmostTipOfTheControl) {
+    wchar_t name[40] = {};
+    ::GetClassNameW(tip.m_hWnd, name, 40);
+    EXPECT_STREQ(name, L"tooltips_class32");
+    EXPECT_EQ(tip.GetStyle() & 3, 3u);
+    EXPECT_EQ(tip.GetExStyle() & WS_EX_TOPMOST, static_cast<DWORD>(WS_EX_TOPMOST));
+    EXPECT_EQ(tip.m_toolInfo.cbSize, 72u);
+    EXPECT_EQ(tip.m_toolInfo.uFlags, 160u);
+    EXPECT_EQ(tip.m_toolInfo.hwnd, list.m_hWnd);
+    EXPECT_EQ(tip.SendMessage(TTM_GETMAXTIPWIDTH), 32767);
+    EXPECT_EQ(tip.SendMessage(TTM_GETTOOLCOUNT), 1);
+    EXPECT_EQ(static_cast<COLORREF>(tip.SendMessage(TTM_GETTIPBKCOLOR)), ::GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(static_cast<COLORREF>(tip.SendMessage(TTM_GETTIPTEXTCOLOR)), ::GetSysColor(COLOR_WINDOWTEXT));
+    EXPECT_FALSE(tip.IsWindowVisible());
+}
+
+TEST_F(TrackingTip, ShowsATextOnceAndAnotherAnew) {
+    std::vector<UINT> sent;
+    const SentMessages watch([&](const CWPSTRUCT& message) {
+        if (message.hwnd == tip.m_hWnd && message.message >= WM_USER) sent.push_back(message.message);
+    });
+    tip.Show(CPoint(200, 150), L"a long entry");
+    EXPECT_TRUE(tip.IsWindowVisible());
+    EXPECT_EQ(tip.m_shown, 1);
+    EXPECT_EQ(sent, (std::vector<UINT>{TTM_UPDATETIPTEXTW, TTM_TRACKPOSITION, TTM_TRACKACTIVATE}));
+    sent.clear();
+    tip.Show(CPoint(210, 150), L"a long entry");
+    EXPECT_TRUE(sent.empty());
+    tip.Show(CPoint(210, 150), L"another entry");
+    ASSERT_EQ(sent.size(), 4u);
+    EXPECT_EQ(sent[0], static_cast<UINT>(TTM_TRACKACTIVATE));
+    EXPECT_EQ(tip.m_text, L"another entry");
+}
+
+TEST_F(TrackingTip, HidingForgetsTheText) {
+    tip.Show(CPoint(200, 150), L"entry");
+    tip.Hide();
+    EXPECT_FALSE(tip.IsWindowVisible());
+    EXPECT_EQ(tip.m_shown, 0);
+    EXPECT_TRUE(tip.m_text.IsEmpty());
+    tip.Show(CPoint(200, 150), L"entry");
+    EXPECT_TRUE(tip.IsWindowVisible());
+}
+
+TEST_F(TrackingTip, LeavesWithThePointer) {
+    tip.Show(CPoint(200, 150), L"entry");
+    tip.SendMessage(WM_MOUSELEAVE);
+    EXPECT_FALSE(tip.IsWindowVisible());
+}
+
+TEST_F(TrackingTip, AClickGoesToTheWindowBeneath) {
+    CRect area;
+    list.GetWindowRect(&area);
+    const CPoint place = area.TopLeft() + CSize(5, 6);
+    tip.Show(place, L"entry");
+    CRect shown;
+    tip.GetWindowRect(&shown);
+    CPoint point = place + CSize(3, 3);
+    const LPARAM onTip = MAKELPARAM(point.x - shown.left, point.y - shown.top);
+    std::vector<LPARAM> clicks;
+    {
+        const SentMessages watch([&](const CWPSTRUCT& message) {
+            if (message.hwnd == list.m_hWnd && message.message == WM_LBUTTONDOWN)
+                clicks.push_back(message.lParam);
+        });
+        tip.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, onTip);
+    }
+    EXPECT_FALSE(tip.IsWindowVisible());
+    ASSERT_EQ(clicks.size(), 1u);
+    EXPECT_EQ(clicks[0], MAKELPARAM(8, 9));
+    ::ReleaseCapture();
+}
