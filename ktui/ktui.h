@@ -7,6 +7,9 @@
 #include <ktui/dialogs/bring_into_view.h>
 #include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/kbui_dialog.h>
+#include <ktui/dialogs/kbui_dialog_bar.h>
+#include <ktui/dialogs/kbui_dialog_worksheet.h>
+#include <ktui/dialogs/kbui_file_dialog.h>
 #include <ktui/dialogs/kbui_tab.h>
 #include <ktui/dialogs/kbui_tab_child_dialog.h>
 #include <ktui/dialogs/kbui_tab_extension_manager.h>

@@ -8,10 +8,21 @@ bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     if (drawing->readDxf(path, &error) != kOdOk) return false;
     m_drawing = drawing;
+    m_isNew = false;
     return true;
 }
 
-bool CDraftDocument::Save(const wchar_t* path) { return m_drawing->writeDxf(path) == kOdOk; }
+bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
+    if (!Open(path, error)) return false;
+    m_isNew = true;
+    return true;
+}
+
+bool CDraftDocument::Save(const wchar_t* path) {
+    if (m_drawing->writeDxf(path) != kOdOk) return false;
+    m_isNew = false;
+    return true;
+}
 
 OdString CDraftDocument::name() const {
     OdString name, extension;

@@ -2,6 +2,7 @@
 // click.
 #pragma once
 
+#include <optional>
 #include <set>
 
 #include <afxwin.h>
@@ -25,6 +26,9 @@ public:
     /// Enlarges by `factor` about the middle of the window.
     void Zoom(double factor);
 
+    /// Colours of the view, and the length of the crosshair's arms in per cent of the view's half.
+    void SetLook(const SceneColors& colors, int crosshair);
+
     const std::set<OdDbObjectId>& selection() const { return m_selection; }
     void SetSelection(std::set<OdDbObjectId> selection);
     /// Place of the pointer in drawing units.
@@ -42,6 +46,7 @@ protected:
     afx_msg void OnMButtonDown(UINT flags, CPoint point);
     afx_msg void OnMButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     DECLARE_MESSAGE_MAP()
@@ -50,6 +55,10 @@ private:
     ScenePlace place() const;
     /// The entity whose line is nearest to a pixel; null when none is near.
     OdDbObjectId entityAt(CPoint pixel) const;
+    /// Draws the crosshair, or takes it away if it is there: it inverts what is below it.
+    void invertCrosshair(CDC& dc);
+    /// Moves the crosshair to a pixel; nowhere without one.
+    void moveCrosshair(std::optional<CPoint> pixel);
     void zoomAt(CPoint pixel, double factor);
     void panBy(CSize pixels);
 
@@ -60,5 +69,8 @@ private:
     bool m_panning = false;
     CPoint m_lastPan;
     OdGePoint2d m_pointer;
-    bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
+    SceneColors m_colors;
+    int m_crosshair = 5;
+    std::optional<CPoint> m_crosshairAt;  ///< client pixels; nothing while the pointer is elsewhere
+    bool m_fitPending = true;             ///< nothing was shown yet, so the next size decides the zoom
 };

@@ -8,6 +8,7 @@
 
 #include "ask_file.h"
 #include "dimension_style_dialog.h"
+#include "options_dialog.h"
 #include "properties_dialog.h"
 #include "resource.h"
 #include "text_style_dialog.h"
@@ -37,6 +38,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CMainFrame::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CMainFrame::OnPointer)
+    ON_COMMAND(ID_FILE_NEW, &CMainFrame::OnFileNew)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
@@ -48,11 +50,18 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
     ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CMainFrame::OnDimensionStyle)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
+    ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
+    ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
 END_MESSAGE_MAP()
 
-CMainFrame::CMainFrame(CStandinHost& host) : m_host(host), m_document(std::make_unique<CDraftDocument>()) {
+CMainFrame::CMainFrame(CStandinHost& host)
+    : m_host(host), m_document(std::make_unique<CDraftDocument>()), m_pickers([this] {
+          showDrawing(true);
+          m_view.SetFocus();
+      }) {
     m_host.SetCurrentDocument(m_document.get());
 }
 
@@ -63,6 +72,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (!m_view.CreateView(this, kViewId)) return -1;
     if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this, AFX_IDW_STATUS_BAR))
         return -1;
+    if (!m_pickers.CreateBar(this)) return -1;
+    CKtUiDialog keeper(0);
+    keeper.SetDialogName(L"Options");
+    m_options = LoadOptions(keeper);
+    // A drawing keeps its own units, also the one that is there at the start.
+    m_options.units = UnitsOf(*m_document->database());
+    useOptions(m_options);
     showDrawing(false);
     return 0;
 }
@@ -70,14 +86,21 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
 void CMainFrame::OnSize(UINT type, int cx, int cy) {
     CFrameWnd::OnSize(type, cx, cy);
     if (m_status.m_hWnd == nullptr) return;
-    m_status.SendMessage(WM_SIZE);
-    CRect status;
-    m_status.GetWindowRect(&status);
     const int pointer = KtUiAppearancePixels(m_hWnd, kPointerWidth);
     const int selection = KtUiAppearancePixels(m_hWnd, kSelectionWidth);
     int edges[3] = {cx - pointer - selection, cx - selection, -1};
     m_status.SetParts(3, edges);
-    m_view.MoveWindow(0, 0, cx, cy - status.Height());
+}
+
+/// The status line is a control of the system, which finds its place by itself.
+void CMainFrame::RecalcLayout(BOOL) {
+    if (m_status.m_hWnd == nullptr) return;
+    m_status.SendMessage(WM_SIZE);
+    CRect client, status;
+    GetClientRect(&client);
+    m_status.GetWindowRect(&status);
+    client.bottom -= status.Height();
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposDefault, nullptr, &client);
 }
 
 void CMainFrame::OnClose() {
@@ -98,6 +121,7 @@ LRESULT CMainFrame::OnSelection(WPARAM, LPARAM) {
     const int count = static_cast<int>(m_view.selection().size());
     if (count > 0) text.Format(IDS_STATUS_SELECTION, count);
     m_status.SetText(text, kSelectionPane, 0);
+    showPickers();
     return 0;
 }
 
@@ -115,20 +139,28 @@ bool CMainFrame::OpenDrawing(const CString& path) {
     auto document = std::make_unique<CDraftDocument>();
     OdDbDxfError error;
     if (!document->Open(path, error)) {
-        CString text;
-        // What concerns the whole file has no line.
-        if (error.line == 0)
-            text.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
-        else
-            text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
-        AfxMessageBox(text, MB_ICONEXCLAMATION);
+        tellUnreadable(path, error);
         return false;
     }
+    showDocument(std::move(document));
+    return true;
+}
+
+void CMainFrame::tellUnreadable(const CString& path, const OdDbDxfError& error) {
+    CString text;
+    // What concerns the whole file has no line.
+    if (error.line == 0)
+        text.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
+    else
+        text.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
+    AfxMessageBox(text, MB_ICONEXCLAMATION);
+}
+
+void CMainFrame::showDocument(std::unique_ptr<CDraftDocument> document) {
     m_host.SetCurrentDocument(document.get());
     m_view.SetScene({}, false);
     m_document = std::move(document);
     showDrawing(false);
-    return true;
 }
 
 void CMainFrame::showDrawing(bool keepPlace) {
@@ -177,6 +209,15 @@ CString CMainFrame::askFileName(bool forSaving) {
     return AskFileName(*this, {IDS_FILE_FILTER, L"dxf", forSaving});
 }
 
+void CMainFrame::OnFileNew() {
+    if (!mayDiscard()) return;
+    auto document = std::make_unique<CDraftDocument>();
+    OdDbDxfError error;
+    if (!m_options.templateFile.IsEmpty() && !document->StartFrom(m_options.templateFile, error))
+        tellUnreadable(m_options.templateFile, error);
+    showDocument(std::move(document));
+}
+
 void CMainFrame::OnFileOpen() {
     if (!mayDiscard()) return;
     const CString path = askFileName(false);
@@ -208,8 +249,7 @@ void CMainFrame::OnZoomIn() { m_view.Zoom(kZoomStep); }
 void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
 
 void CMainFrame::OnProperties() {
-    const std::vector<OdDbObjectId> objects(m_view.selection().begin(), m_view.selection().end());
-    CPropertiesDialog dialog(*m_document->database(), objects, this);
+    CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this);
     runDialog(dialog);
 }
 
@@ -237,6 +277,50 @@ void CMainFrame::runDialog(CDialog& dialog) {
     showDrawing(true);
     OnSelection(0, 0);
     m_view.SetFocus();
+}
+
+std::vector<OdDbObjectId> CMainFrame::selectedObjects() const {
+    return {m_view.selection().begin(), m_view.selection().end()};
+}
+
+void CMainFrame::showPickers() {
+    if (m_pickers.m_hWnd != nullptr) m_pickers.Show(*m_document->database(), selectedObjects());
+}
+
+void CMainFrame::OnPickerBar() { ShowControlBar(&m_pickers, !m_pickers.IsVisible(), FALSE); }
+
+void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
+
+void CMainFrame::OnOptions() {
+    const CString folder = ktutProgramFolder().c_str();
+    if (m_extensions == nullptr) m_extensions = std::make_unique<CExtensions>(folder + L"extensions\\");
+    // Other ways lead to the drawing's units too.
+    m_options.units = UnitsOf(*m_document->database());
+    COptionsDialog dialog(
+        m_options, [this](const DrafterOptions& options) { applyOptions(options); }, m_extensions.get(),
+        this);
+    if (dialog.DoModal() == IDOK) applyOptions(dialog.options());
+    m_view.SetFocus();
+}
+
+void CMainFrame::applyOptions(const DrafterOptions& options) {
+    m_options = options;
+    CKtUiDialog keeper(0);
+    keeper.SetDialogName(L"Options");
+    if (!SaveOptions(keeper, options)) AfxMessageBox(textOf(IDS_OPTIONS_NOT_STORED), MB_ICONEXCLAMATION);
+    useOptions(options);
+    showDrawing(true);
+}
+
+void CMainFrame::useOptions(const DrafterOptions& options) {
+    const CString folder = ktutProgramFolder().c_str();
+    std::vector<CString> folders = FoldersOf(options.supportFolders);
+    if (folders.empty()) folders = {folder + L"fonts", folder + L"support"};
+    m_host.SetSupportDirectories(std::move(folders));
+    m_host.SetPathVariable(L"PrinterStyleSheetDir",
+                           options.styleSheets.IsEmpty() ? folder + L"Plot Styles" : options.styleSheets);
+    m_view.SetLook({options.background, options.selection}, options.crosshair);
+    SetUnits(*m_document->database(), options.units);
 }
 
 void CMainFrame::OnAbout() { AfxMessageBox(textOf(IDS_ABOUT), MB_ICONINFORMATION); }

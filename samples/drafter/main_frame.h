@@ -6,6 +6,9 @@
 
 #include "draft_document.h"
 #include "drawing_view.h"
+#include "extensions.h"
+#include "options.h"
+#include "picker_bar.h"
 
 class CKhFontStyle;
 class CStandinHost;
@@ -22,6 +25,7 @@ public:
 
 protected:
     CWnd* GetMessageBar() override { return &m_status; }
+    void RecalcLayout(BOOL notify = TRUE) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -30,6 +34,7 @@ protected:
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnFileNew();
     afx_msg void OnFileOpen();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
@@ -41,11 +46,22 @@ protected:
     afx_msg void OnProperties();
     afx_msg void OnDimensionStyle();
     afx_msg void OnTextStyle();
+    afx_msg void OnPickerBar();
+    afx_msg void OnOptions();
     afx_msg void OnAbout();
+    afx_msg void OnUpdatePickerBar(CCmdUI* item);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
 private:
+    void showDocument(std::unique_ptr<CDraftDocument> document);
+    void tellUnreadable(const CString& path, const OdDbDxfError& error);
+    /// Gives the options to the host, the view and the drawing.
+    void useOptions(const DrafterOptions& options);
+    /// The same, and keeps them for the user.
+    void applyOptions(const DrafterOptions& options);
+    void showPickers();
+    std::vector<OdDbObjectId> selectedObjects() const;
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards.
     void runDialog(CDialog& dialog);
@@ -63,4 +79,7 @@ private:
     std::unique_ptr<CDraftDocument> m_document;
     CDrawingView m_view;
     CStatusBarCtrl m_status;
+    CPickerBar m_pickers;
+    DrafterOptions m_options;
+    std::unique_ptr<CExtensions> m_extensions;  ///< from the first time that Options is opened
 };
