@@ -38,11 +38,9 @@ void CPickerBar::addTips() {
 }
 
 void CPickerBar::fillLists() {
-    for (CKtUiMRUComboBox* picker :
-         {static_cast<CKtUiMRUComboBox*>(&m_linetype), static_cast<CKtUiMRUComboBox*>(&m_plotStyle)}) {
-        picker->ResetContent();
-        picker->AddItems();
-    }
+    m_linetype.ShowLTypes(true);
+    m_plotStyle.ResetContent();
+    m_plotStyle.AddItems();
 }
 
 void CPickerBar::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) {

@@ -9,9 +9,8 @@ int FillTitleBlock(OdDbDatabase& drawing, const TitleValues& values) {
     int filled = 0;
     const auto space = drawing.currentSpaceId().open<OdDbBlockTableRecord>();
     for (const OdDbEntity* entity : space->entities()) {
-        const auto text =
-            entity->isErased() ? OdDbTextPtr() : entity->objectId().open<OdDbText>(OdDb::kForWrite);
-        if (!text) continue;
+        const auto text = entity->objectId().open<OdDbText>(OdDb::kForWrite);
+        if (entity->isErased() || !text) continue;
         for (const auto& field : fields) {
             if (field.value.isEmpty() || text->textString().iCompare(field.mark) != 0) continue;
             text->setTextString(field.value);

@@ -1,13 +1,12 @@
 // The system's file dialog: what it is given, what it tells while it is open, what is chosen.
 #include <afxdlgs.h>
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "sent_messages.h"
 #include "ui_test.h"
 
 namespace {
@@ -207,7 +206,7 @@ TEST_F(FileDialog, AnotherTypeIsTold) {
     prepare(dialog);
     when_dialog(L"chooser", [&](HWND window) {
         ::SendDlgItemMessageW(window, cmb1, CB_SETCURSEL, 1, 0);
-        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(cmb1, CBN_SELCHANGE),
+        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(cmb1, CBN_SELENDOK),
                        reinterpret_cast<LPARAM>(::GetDlgItem(window, cmb1)));
         EXPECT_TRUE(has(dialog, "type"));
         ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
@@ -232,19 +231,22 @@ TEST_F(FileDialog, ControlsOfATemplateAreTheObjectsOwn) {
 TEST_F(FileDialog, ItsControlsTakeAnotherTextAndHide) {
     Dialog dialog(TRUE, nullptr, nullptr, 0, nullptr, &parent);
     prepare(dialog);
+    CString extension;
     dialog.onInitDone = [&] {
         dialog.SetControlText(IDOK, L"Take it");
         dialog.HideControl(stc2);
+        ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+            if (message.message == CDM_SETDEFEXT) extension = reinterpret_cast<LPCWSTR>(message.lParam);
+        });
         dialog.SetDefExt("txt");
     };
     when_dialog(L"chooser", [&](HWND window) {
         EXPECT_EQ(ui_test::text_of(::GetDlgItem(window, IDOK)), L"Take it");
         EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(window, stc2)));
-        ::SetDlgItemTextW(window, kName, L"three");
-        ::PostMessageW(window, WM_COMMAND, IDOK, 0);
+        ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
     });
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.GetFileName(), L"three.txt");
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(extension, L"txt");
 }
 
 TEST_F(FileDialog, ReadOnlyIsWhatTheFlagsSay) {
