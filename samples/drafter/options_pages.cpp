@@ -72,6 +72,11 @@ END_MESSAGE_MAP()
 
 CString COptionsPage::Problem(int&) { return {}; }
 
+BOOL COptionsPage::PreTranslateMessage(MSG* message) {
+    if (m_tab != nullptr && KtUiTurnTabByKey(*m_tab, *message)) return TRUE;
+    return CKtUiTabChildDialog::PreTranslateMessage(message);
+}
+
 BOOL COptionsPage::OnInitDialog() {
     const BOOL result = CKtUiTabChildDialog::OnInitDialog();
     Show();

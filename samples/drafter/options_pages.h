@@ -13,6 +13,8 @@ public:
     /// `options` (not owned) is what the dialog edits; the page shows it, and writes it at OK and Apply.
     explicit COptionsPage(DrafterOptions& options) : m_options(options) {}
 
+    BOOL PreTranslateMessage(MSG* message) override;
+
 protected:
     /// Shows the options in the controls.
     virtual void Show() = 0;

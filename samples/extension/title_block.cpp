@@ -26,6 +26,11 @@ class Page : public CKtUiTabChildDialog {
 public:
     Page() { SetDialogName(L"Title Block"); }
 
+    BOOL PreTranslateMessage(MSG* message) override {
+        if (m_tab != nullptr && KtUiTurnTabByKey(*m_tab, *message)) return TRUE;
+        return CKtUiTabChildDialog::PreTranslateMessage(message);
+    }
+
 protected:
     BOOL OnInitDialog() override {
         const BOOL result = CKtUiTabChildDialog::OnInitDialog();
