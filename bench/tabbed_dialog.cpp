@@ -52,16 +52,19 @@ END_MESSAGE_MAP()
 INT_PTR CALLBACK bare_page(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
 
 int CALLBACK end_sheet(HWND sheet, UINT message, LPARAM) {
-    if (message == PSCB_INITIALIZED) ::PostMessageW(sheet, WM_COMMAND, IDCANCEL, 0);
+    if (message != PSCB_INITIALIZED) return 0;
+    // A sheet makes its pages when they first come to the front.
+    for (WPARAM page = 1; page < kPages; ++page) ::PostMessageW(sheet, PSM_SETCURSEL, page, 0);
+    ::PostMessageW(sheet, WM_COMMAND, IDCANCEL, 0);
     return 0;
 }
 
-/// A property sheet whose pages are all made at its start, as those of the tabbed dialog are.
+/// A property sheet whose pages are all made, as those of the tabbed dialog are.
 void open_sheet(HWND owner) {
     PROPSHEETPAGEW pages[kPages] = {};
     for (PROPSHEETPAGEW& page : pages) {
         page.dwSize = sizeof page;
-        page.dwFlags = PSP_PREMATURE | PSP_USETITLE;
+        page.dwFlags = PSP_USETITLE;
         page.hInstance = ::GetModuleHandleW(nullptr);
         page.pszTemplate = MAKEINTRESOURCEW(IDD_TAB_PAGE);
         page.pszTitle = L"Page";

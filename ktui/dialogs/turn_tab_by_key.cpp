@@ -15,13 +15,22 @@ int stepOf(const MSG& message) {
     }
 }
 
+/// Tells the tab control's parent what the control would tell it; the parent's answer.
+LRESULT notify(const CKbUiTab& tab, UINT code) {
+    const auto id = static_cast<UINT_PTR>(tab.GetDlgCtrlID());
+    NMHDR header = {tab.m_hWnd, id, code};
+    return ::SendMessageW(::GetParent(tab.m_hWnd), WM_NOTIFY, id, reinterpret_cast<LPARAM>(&header));
+}
+
 }  // namespace
 
 BOOL KtUiTurnTabByKey(CKbUiTab& tab, const MSG& message) {
     const int step = stepOf(message);
     const int count = tab.GetItemCount();
     if (step == 0 || count == 0) return FALSE;
-    // The control asks and tells by its notifications when its focus mark moves.
-    tab.SetCurFocus((tab.GetCurSel() + step + count) % count);
+    // Moving the control's focus mark would ask too, but not every system heeds the answer.
+    if (notify(tab, TCN_SELCHANGING) != 0) return TRUE;
+    tab.SetCurSel((tab.GetCurSel() + step + count) % count);
+    notify(tab, TCN_SELCHANGE);
     return TRUE;
 }

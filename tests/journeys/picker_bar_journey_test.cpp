@@ -42,9 +42,9 @@ TEST_F(PickerBarJourney, ByMouseItFollowsTheSelectionAndActsOnIt) {
     selectAll();
     EXPECT_TRUE(waitUntil([&] { return shown(picker(IDC_TRUE_COLOR)) == L"none"; }));
     picture("journey-picker-bar");
-    drafter->pickByMouse(picker(IDC_TRUE_COLOR), L"Blue");
+    drafter->pickByMouse(picker(IDC_TRUE_COLOR), L"blue");
     EXPECT_TRUE(waitUntil([&] { return textOf(drafter->frame()).find(L'*') != std::wstring::npos; }));
-    EXPECT_EQ(shown(picker(IDC_TRUE_COLOR)), L"Blue");
+    EXPECT_EQ(shown(picker(IDC_TRUE_COLOR)), L"blue");
     const OdDbDatabasePtr drawing = saved();
     for (const OdDbEntity* each : entitiesOf(*drawing)) EXPECT_EQ(each->color().colorIndex(), 5);
     EXPECT_EQ(drawing->cecolor().colorIndex(), 256);

@@ -364,6 +364,7 @@ TEST_F(TabKeys, APageMayRefuse) {
     press(VK_TAB, true, false);
     EXPECT_TRUE(taken_);
     EXPECT_EQ(front(), 0);
+    EXPECT_EQ(dialog.tab.GetCurSel(), 0);
     EXPECT_EQ(taken(), (Log{"a leave?"}));
 }
 
