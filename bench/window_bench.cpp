@@ -26,6 +26,7 @@ constexpr Row kRows[] = {
     {"drawing_pickers", bench::measure_drawing_pickers},
     {"fonts", bench::measure_fonts},
     {"dialog", bench::measure_dialog},
+    {"tabbed_dialog", bench::measure_tabbed_dialog},
     {"resize", bench::measure_resize},
 };
 

@@ -17,6 +17,8 @@ void measure_drawing_pickers();
 void measure_fonts();
 /// Opening and closing a dialog of forty controls against the bare function with the same template.
 void measure_dialog();
+/// Opening and closing a tabbed dialog of five pages against a property sheet with the same pages.
+void measure_tabbed_dialog();
 /// One step of resizing two hundred controls against moving them one by one.
 void measure_resize();
 

@@ -14,7 +14,17 @@
 #include <ktui/dialogs/bring_into_view.h>
 #include <ktui/dialogs/kbui_base_dialog.h>
 #include <ktui/dialogs/kbui_dialog.h>
+#include <ktui/dialogs/kbui_dialog_bar.h>
+#include <ktui/dialogs/kbui_dialog_worksheet.h>
+#include <ktui/dialogs/kbui_file_dialog.h>
+#include <ktui/dialogs/kbui_tab.h>
+#include <ktui/dialogs/kbui_tab_child_dialog.h>
+#include <ktui/dialogs/kbui_tab_extension_manager.h>
+#include <ktui/dialogs/kbui_tab_main_dialog.h>
 #include <ktui/dialogs/ktui_dialog.h>
+#include <ktui/dialogs/ktui_tab.h>
+#include <ktui/dialogs/ktui_tab_dialogs.h>
+#include <ktui/dialogs/turn_tab_by_key.h>
 #include <ktui/docking/kbui_theme.h>
 #include <ktui/host/appearance.h>
 #include <ktui/host/draw_tip_text.h>

@@ -1,15 +1,19 @@
 #include <ktui/dialogs/kbui_base_dialog.h>
 
+#include <ktui/dialogs/resource_switch.h>
+#include <ktui/dialogs/tip_holder.h>
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_calls.h>
 #include <ktui/host/loaded_module.h>
 #include <ktui/text/dialog_root.h>
-#include <ktui/tips/kbui_text_tip.h>
 
 namespace {
 
 const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
-constexpr UINT kDialogIcon = 1017;  // of the library's own file
+constexpr UINT kDialogIcon = 1017;     // of the library's own file
+constexpr int kToolTipMaxWidth = 256;  // pixels before a text breaks
+
+constexpr TipHolderRules kTipRules = {true, TTM_SETMAXTIPWIDTH, 0, kToolTipMaxWidth};
 
 /// The icon of dialogs that have none of their own. Shared, so that it needs no freeing; asking the system
 /// for it costs a good part of a dialog's creation.
@@ -19,26 +23,6 @@ HICON defaultIcon() {
 }
 
 }  // namespace
-
-/// Kept: one saved handle per dialog, so a second DoModal inside the first is not provided for.
-class CKbUiBaseDialog::ResourceSwitch {
-public:
-    explicit ResourceSwitch(CKbUiBaseDialog& dialog) : m_dialog(dialog) {
-        if (m_dialog.m_resourceInstance == nullptr) return;
-        m_dialog.m_savedResource = AfxGetResourceHandle();
-        AfxSetResourceHandle(m_dialog.m_resourceInstance);
-    }
-    ~ResourceSwitch() {
-        if (m_dialog.m_resourceInstance == nullptr) return;
-        AfxSetResourceHandle(m_dialog.m_savedResource);
-        m_dialog.m_savedResource = nullptr;
-    }
-    ResourceSwitch(const ResourceSwitch&) = delete;
-    ResourceSwitch& operator=(const ResourceSwitch&) = delete;
-
-private:
-    CKbUiBaseDialog& m_dialog;
-};
 
 IMPLEMENT_DYNAMIC(CKbUiBaseDialog, CDialog)
 
@@ -55,13 +39,21 @@ END_MESSAGE_MAP()
 CKbUiBaseDialog::CKbUiBaseDialog(unsigned templateId, CWnd* parent, HINSTANCE resource)
     : CDialog(templateId, parent), m_resourceInstance(resource), m_appRootKey(ProductDialogRoot()) {}
 
-CKbUiBaseDialog::~CKbUiBaseDialog() {
-    m_useTips = 0;
-    destroyTips();
+CKbUiBaseDialog::~CKbUiBaseDialog() { tips().End(); }
+
+TipHolder CKbUiBaseDialog::tips() { return TipHolder(*this, m_useTips, m_textTip, m_toolTip, kTipRules); }
+
+void CKbUiBaseDialog::SetUseTips(int useTips) { tips().SetUseTips(useTips); }
+
+BOOL CKbUiBaseDialog::PreTranslateMessage(MSG* message) {
+    tips().Relay(*message);
+    return CDialog::PreTranslateMessage(message);
 }
 
+KBUI_REPLY CKbUiBaseDialog::OnNotifyUpdateTip(CWnd* control) { return tips().UpdateTip(*control); }
+
 BOOL CKbUiBaseDialog::Create(const wchar_t* templateName, CWnd* parent) {
-    ResourceSwitch resource(*this);
+    const ResourceSwitch resource(m_resourceInstance, m_savedResource);
     return CDialog::Create(templateName, parent);
 }
 
@@ -73,7 +65,7 @@ INT_PTR CKbUiBaseDialog::DoModal() {
     m_isModal = 1;
     INT_PTR result = 0;
     {
-        ResourceSwitch resource(*this);
+        const ResourceSwitch resource(m_resourceInstance, m_savedResource);
         EnableFloatingWindows(0);
         EnableMultiDocumentActivation(0);
         result = CDialog::DoModal();
@@ -103,36 +95,20 @@ void CKbUiBaseDialog::SetDialogIcon(HICON icon) {
 BOOL CKbUiBaseDialog::PreCreateWindow(CREATESTRUCT& create) { return CDialog::PreCreateWindow(create); }
 
 void CKbUiBaseDialog::PostNcDestroy() {
-    m_useTips = 0;
-    destroyTips();
+    tips().End();
     CDialog::PostNcDestroy();
 }
 
 void CKbUiBaseDialog::DoDataExchange(CDataExchange*) {}
 
 LRESULT CKbUiBaseDialog::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
-    const unsigned id = KbUiNotifyId(wParam);
-    if (id != 0) {
-        if (CWnd* control = GetDlgItem(static_cast<int>(id))) {
-            LRESULT reply = control->SendMessage(kbUiMessage, wParam, lParam);
-            if (reply == kKbUiReplyNativeTip && m_toolTip != nullptr)
-                reply = offerNativeTip(*control, id, lParam);
-            if (reply != 0) return static_cast<int>(reply);
-        }
-    }
-    return DoKbUiMessage(KbUiNotification(wParam), id, lParam);
+    const LRESULT reply = tips().Route(wParam, lParam);
+    if (reply != 0) return reply;
+    return DoKbUiMessage(KbUiNotification(wParam), KbUiNotifyId(wParam), lParam);
 }
 
 KBUI_REPLY CKbUiBaseDialog::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) {
     switch (notification) {
-        case kKbUiNotifyGeneric: return OnNotifyGeneric(id, data);
-        case kKbUiNotifyAppMainWindow:
-            *reinterpret_cast<CWnd**>(data) = AppMainWindow();
-            return kKbUiReplyHandled;
-        case kKbUiNotifyAppResourceInstance:
-            *reinterpret_cast<HINSTANCE*>(data) = AppResourceInstance();
-            return kKbUiReplyHandled;
-        case kKbUiNotifyUpdateTip: return OnNotifyUpdateTip(reinterpret_cast<CWnd*>(data));
         case kKbUiNotifyHideDialog:
             if (IsWindowVisible()) ShowWindow(SW_HIDE);
             return kKbUiReplyHandled;
@@ -140,12 +116,11 @@ KBUI_REPLY CKbUiBaseDialog::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id,
             // A dialog inside an editor command of its own stays hidden when a child dialog's command ends.
             if (!IsWindowVisible() && m_editorState != 1) ShowWindow(SW_RESTORE);
             return kKbUiReplyHandled;
-        case kKbUiNotifyControlChange: return OnNotifyControlChange(id, data);
         case kKbUiNotifyControlInvalid:
         case kKbUiNotifyControlValid:
             // Kept: the sender's datum is the verdict for both notifications.
             return OnNotifyControlValid(id, static_cast<int>(data));
-        default: return kKbUiReplyNone;
+        default: return NotificationHolder::Answer(*this, notification, id, data);
     }
 }
 

@@ -12,6 +12,7 @@
 #include <ktui/ktui_api.h>
 
 class CKbUiTextTip;
+class TipHolder;
 
 class KTUI_API CKbUiBaseDialog : public CDialog {
     DECLARE_DYNAMIC(CKbUiBaseDialog)
@@ -115,17 +116,9 @@ protected:
     CString m_appRootKey;
 
 private:
-    /// Makes the dialog's own resource module current for its lifetime.
-    class ResourceSwitch;
+    friend class NotificationHolder;
 
-    void createTips();
-    void destroyTips();
+    TipHolder tips();
     /// Whether the dialog, or the window that holds it as a child, runs a modal loop.
     bool isInModalLoop();
-    void tellMainWindow(LPARAM state);
-    /// Sends `notification` to every parent up to, and without, the main window.
-    void tellParents(KBUI_NOTIFY notification);
-    KBUI_REPLY offerNativeTip(CWnd& control, unsigned id, LPARAM update);
-    KBUI_REPLY showDrawnTip(CWnd& control, unsigned id, CRect rect);
-    KBUI_REPLY showTextTip(CWnd& control, unsigned id, CRect rect);
 };

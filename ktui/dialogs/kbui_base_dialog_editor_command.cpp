@@ -1,6 +1,7 @@
 // The editor command protocol: a dialog and its parents step aside while the user works in the drawing.
 #include <ktui/dialogs/kbui_base_dialog.h>
 
+#include <ktui/dialogs/editor_command_messages.h>
 #include <ktui/tips/kbui_text_tip.h>
 
 bool CKbUiBaseDialog::isInModalLoop() {
@@ -13,35 +14,19 @@ bool CKbUiBaseDialog::isInModalLoop() {
     return (window->m_nFlags & kModal) == kModal;
 }
 
-void CKbUiBaseDialog::tellMainWindow(LPARAM state) {
-    CWnd* main = AppMainWindow();
-    const unsigned id = static_cast<unsigned>(GetDlgCtrlID()) & 0xFFFF;
-    KbUiNotify(main, id, kKbUiNotifyEditorCommand, static_cast<unsigned __int64>(state));
-}
-
-void CKbUiBaseDialog::tellParents(KBUI_NOTIFY notification) {
-    CWnd* main = AppMainWindow();
-    const HWND last = main->GetSafeHwnd();
-    const HWND desktop = ::GetDesktopWindow();
-    const unsigned id = static_cast<unsigned>(GetDlgCtrlID()) & 0xFFFF;
-    for (HWND parent = ::GetParent(m_hWnd); parent != nullptr && parent != last && parent != desktop;
-         parent = ::GetParent(parent))
-        ::SendMessageW(parent, KbUiMessage(), PackKbUiNotification(id, notification), 0);
-}
-
 void CKbUiBaseDialog::BeginEditorCommand() {
     m_editorState = 1;
     m_savedFocus = ::GetFocus();
     m_wasEnabled = IsWindowEnabled();
     MakeDialogsVisible(0);
-    if (isInModalLoop()) tellMainWindow(1);
+    if (isInModalLoop()) TellMainWindow(AppMainWindow(), *this, 1);
 }
 
 void CKbUiBaseDialog::CompleteEditorCommand(int restoreDialogs) {
     m_editorState = 0;
     // Kept: without restoring, the dialogs stay hidden and the main window is not told.
     if (restoreDialogs == 0) return;
-    if (isInModalLoop()) tellMainWindow(0);
+    if (isInModalLoop()) TellMainWindow(AppMainWindow(), *this, 0);
     MakeDialogsVisible(1);
     EnableWindow(m_wasEnabled);
     ::SetFocus(m_savedFocus);
@@ -51,18 +36,18 @@ void CKbUiBaseDialog::CompleteEditorCommand(int restoreDialogs) {
 void CKbUiBaseDialog::CancelEditorCommand() {
     m_editorState = -1;
     // Kept: a cancel is told even by a modeless dialog.
-    tellMainWindow(-1);
+    TellMainWindow(AppMainWindow(), *this, -1);
     EndDialog(IDCANCEL);
 }
 
 void CKbUiBaseDialog::MakeDialogsVisible(int show) {
     if (show == 0) {
         SetWindowPos(&wndTop, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_HIDEWINDOW);
-        tellParents(kKbUiNotifyHideDialog);
+        TellParents(*this, kKbUiNotifyHideDialog, AppMainWindow()->GetSafeHwnd(), ::GetDesktopWindow());
         return;
     }
     // The reverse of hiding, so that this dialog ends on top.
-    tellParents(kKbUiNotifyShowDialog);
+    TellParents(*this, kKbUiNotifyShowDialog, AppMainWindow()->GetSafeHwnd(), ::GetDesktopWindow());
     SetWindowPos(&wndTop, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW | SWP_NOOWNERZORDER);
     SetFocus();
 }

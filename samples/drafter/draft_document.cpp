@@ -23,12 +23,21 @@ bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     if (drawing->readDxf(path, &error) != kOdOk) return false;
     m_drawing = drawing;
     m_written = whenWritten(path);
+    m_isNew = false;
+    return true;
+}
+
+bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
+    if (!Open(path, error)) return false;
+    m_isNew = true;
+    m_written = 0;
     return true;
 }
 
 bool CDraftDocument::Save(const wchar_t* path) {
     if (m_drawing->writeDxf(path) != kOdOk) return false;
     m_written = whenWritten(path);
+    m_isNew = false;
     return true;
 }
 

@@ -17,12 +17,14 @@ public:
 
     /// Replaces the drawing by that of a file; on failure nothing changes and `error` says why.
     bool Open(const wchar_t* path, OdDbDxfError& error);
+    /// The same for a template: the drawing is a new one then, without a file.
+    bool StartFrom(const wchar_t* path, OdDbDxfError& error);
     bool Save(const wchar_t* path);
     /// Whether the drawing's file was written by others since it was opened or saved.
     bool IsFileNewer() const;
 
     /// Full path of the file, empty for a new drawing.
-    OdString path() const { return m_drawing->getFilename(); }
+    OdString path() const { return m_isNew ? OdString() : m_drawing->getFilename(); }
     /// Name to show for the drawing, empty for a new one.
     OdString name() const;
 
@@ -34,5 +36,6 @@ private:
 
     OdDbDatabasePtr m_drawing;
     unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
+    bool m_isNew = false;              ///< the file that the drawing was read from is its template
     std::map<std::wstring, int> m_numbers;
 };

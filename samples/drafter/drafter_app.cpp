@@ -23,8 +23,6 @@ public:
         // again.
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
-        const CString folder = ktutProgramFolder().c_str();
-        m_host->SetSupportDirectories({folder + L"fonts", folder + L"support"});
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;

@@ -93,10 +93,42 @@ void CDrawingView::OnPaint() {
     GetClientRect(&client);
     if (client.IsRectEmpty()) return;
     CMemDC memory(dc, client);
-    memory.GetDC().FillSolidRect(&client, kDrawingPaper);
-    PaintScene(memory.GetDC(), m_scene, place(), m_selection);
+    memory.GetDC().FillSolidRect(&client, m_colors.paper);
+    PaintScene(memory.GetDC(), m_scene, place(), m_selection, m_colors);
     paintBand(memory.GetDC());
+    invertCrosshair(memory.GetDC());
 }
+
+void CDrawingView::SetLook(const SceneColors& colors, int crosshair) {
+    m_colors = colors;
+    m_crosshair = crosshair;
+    Invalidate();
+}
+
+void CDrawingView::invertCrosshair(CDC& dc) {
+    if (!m_crosshairAt) return;
+    CRect client;
+    GetClientRect(&client);
+    const int arm = std::max(client.Width(), client.Height()) * m_crosshair / 100;
+    const CPoint at = *m_crosshairAt;
+    const int former = dc.SetROP2(R2_NOT);
+    dc.MoveTo(at.x - arm, at.y);
+    dc.LineTo(at.x + arm + 1, at.y);
+    dc.MoveTo(at.x, at.y - arm);
+    dc.LineTo(at.x, at.y + arm + 1);
+    dc.SetROP2(former);
+}
+
+void CDrawingView::moveCrosshair(std::optional<CPoint> pixel) {
+    // What waits to be painted comes first, or the old lines would be inverted where they are gone already.
+    UpdateWindow();
+    CClientDC dc(this);
+    invertCrosshair(dc);
+    m_crosshairAt = pixel;
+    invertCrosshair(dc);
+}
+
+void CDrawingView::OnMouseLeave() { moveCrosshair({}); }
 
 BOOL CDrawingView::OnEraseBkgnd(CDC*) { return TRUE; }
 
@@ -145,6 +177,9 @@ void CDrawingView::OnMouseMove(UINT, CPoint point) {
         panBy(CSize(point.x - m_lastPan.x, point.y - m_lastPan.y));
         m_lastPan = point;
     }
+    TRACKMOUSEEVENT track = {sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, 0};
+    ::TrackMouseEvent(&track);
+    moveCrosshair(point);
     m_pointer = FromPixel(point);
     if (IsPickingPlaces()) Invalidate();
     GetParent()->PostMessage(WM_DRAFTER_POINTER);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <utility>
 #include <vector>
@@ -29,6 +30,9 @@ public:
     void ZoomExtents();
     /// Enlarges by `factor` about the middle of the window.
     void Zoom(double factor);
+
+    /// Colours of the view, and the length of the crosshair's arms in per cent of the view's half.
+    void SetLook(const SceneColors& colors, int crosshair);
 
     const std::set<OdDbObjectId>& selection() const { return m_selection; }
     void SetSelection(std::set<OdDbObjectId> selection);
@@ -70,6 +74,10 @@ private:
     ScenePlace place() const;
     /// The entity whose line is nearest to a pixel; null when none is near.
     OdDbObjectId entityAt(CPoint pixel) const;
+    /// Draws the crosshair, or takes it away if it is there: it inverts what is below it.
+    void invertCrosshair(CDC& dc);
+    /// Moves the crosshair to a pixel; nowhere without one.
+    void moveCrosshair(std::optional<CPoint> pixel);
     void zoomAt(CPoint pixel, double factor);
     void panBy(CSize pixels);
     void pickPlace(const OdGePoint2d& place);
@@ -96,5 +104,8 @@ private:
     PickEnded m_pickEnded;
     CKhTipCtrl m_tip;
     OdDbObjectId m_tipEntity;  ///< whose tip is shown or waits; null for none
-    bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
+    SceneColors m_colors;
+    int m_crosshair = 5;
+    std::optional<CPoint> m_crosshairAt;  ///< client pixels; nothing while the pointer is elsewhere
+    bool m_fitPending = true;             ///< nothing was shown yet, so the next size decides the zoom
 };

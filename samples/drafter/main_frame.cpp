@@ -11,6 +11,7 @@
 #include "dimension_style_dialog.h"
 #include "measure_dialog.h"
 #include "messages.h"
+#include "options_dialog.h"
 #include "properties_dialog.h"
 #include "resource.h"
 #include "text_style_dialog.h"
@@ -42,6 +43,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CMainFrame::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CMainFrame::OnPointer)
+    ON_COMMAND(ID_FILE_NEW, &CMainFrame::OnFileNew)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
@@ -55,11 +57,18 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
     ON_COMMAND(ID_TOOLS_MEASURE, &CMainFrame::OnMeasure)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
+    ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
+    ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
 END_MESSAGE_MAP()
 
-CMainFrame::CMainFrame(CStandinHost& host) : m_host(host), m_document(std::make_unique<CDraftDocument>()) {
+CMainFrame::CMainFrame(CStandinHost& host)
+    : m_host(host), m_document(std::make_unique<CDraftDocument>()), m_pickers([this] {
+          showDrawing(true);
+          m_view.SetFocus();
+      }) {
     m_host.SetCurrentDocument(m_document.get());
 }
 
@@ -70,6 +79,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (!m_view.CreateView(this, kViewId)) return -1;
     if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this, AFX_IDW_STATUS_BAR))
         return -1;
+    if (!m_pickers.CreateBar(this)) return -1;
+    CKtUiDialog keeper(0);
+    keeper.SetDialogName(L"Options");
+    m_options = LoadOptions(keeper);
+    // A drawing keeps its own units, also the one that is there at the start.
+    m_options.units = UnitsOf(*m_document->database());
+    useOptions(m_options);
     showDrawing(false);
     return 0;
 }
@@ -77,14 +93,21 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
 void CMainFrame::OnSize(UINT type, int cx, int cy) {
     CFrameWnd::OnSize(type, cx, cy);
     if (m_status.m_hWnd == nullptr) return;
-    m_status.SendMessage(WM_SIZE);
-    CRect status;
-    m_status.GetWindowRect(&status);
     const int pointer = KtUiAppearancePixels(m_hWnd, kPointerWidth);
     const int selection = KtUiAppearancePixels(m_hWnd, kSelectionWidth);
     int edges[3] = {cx - pointer - selection, cx - selection, -1};
     m_status.SetParts(3, edges);
-    m_view.MoveWindow(0, 0, cx, cy - status.Height());
+}
+
+/// The status line is a control of the system, which finds its place by itself.
+void CMainFrame::RecalcLayout(BOOL) {
+    if (m_status.m_hWnd == nullptr) return;
+    m_status.SendMessage(WM_SIZE);
+    CRect client, status;
+    GetClientRect(&client);
+    m_status.GetWindowRect(&status);
+    client.bottom -= status.Height();
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposDefault, nullptr, &client);
 }
 
 void CMainFrame::OnClose() {
@@ -106,6 +129,7 @@ LRESULT CMainFrame::OnSelection(WPARAM, LPARAM) {
     const int count = static_cast<int>(m_view.selection().size());
     if (count > 0) text.Format(IDS_STATUS_SELECTION, count);
     m_status.SetText(text, kSelectionPane, 0);
+    showPickers();
     return 0;
 }
 
@@ -127,11 +151,15 @@ bool CMainFrame::OpenDrawing(const CString& path) {
         TellUnreadable(*this, path, error, shownName());
         return false;
     }
+    showDocument(std::move(document));
+    return true;
+}
+
+void CMainFrame::showDocument(std::unique_ptr<CDraftDocument> document) {
     m_host.SetCurrentDocument(document.get());
     m_view.SetScene({}, false);
     m_document = std::move(document);
     showDrawing(false);
-    return true;
 }
 
 void CMainFrame::showDrawing(bool keepPlace) {
@@ -180,6 +208,15 @@ CString CMainFrame::askFileName(bool forSaving) {
     return AskFileName(*this, {IDS_FILE_FILTER, L"dxf", forSaving});
 }
 
+void CMainFrame::OnFileNew() {
+    if (!mayDiscard()) return;
+    auto document = std::make_unique<CDraftDocument>();
+    OdDbDxfError error;
+    if (!m_options.templateFile.IsEmpty() && !document->StartFrom(m_options.templateFile, error))
+        TellUnreadable(*this, m_options.templateFile, error, shownName());
+    showDocument(std::move(document));
+}
+
 void CMainFrame::OnFileOpen() {
     if (!mayDiscard()) return;
     const CString path = askFileName(false);
@@ -218,8 +255,7 @@ void CMainFrame::OnZoomIn() { m_view.Zoom(kZoomStep); }
 void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
 
 void CMainFrame::OnProperties() {
-    const std::vector<OdDbObjectId> objects(m_view.selection().begin(), m_view.selection().end());
-    CPropertiesDialog dialog(*m_document->database(), objects, this);
+    CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this);
     runDialog(dialog);
 }
 
@@ -296,6 +332,51 @@ void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
 
 void CMainFrame::showPrompt() {
     m_status.SetText(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())), 0, 0);
+}
+
+std::vector<OdDbObjectId> CMainFrame::selectedObjects() const {
+    return {m_view.selection().begin(), m_view.selection().end()};
+}
+
+void CMainFrame::showPickers() {
+    if (m_pickers.m_hWnd != nullptr) m_pickers.Show(*m_document->database(), selectedObjects());
+}
+
+void CMainFrame::OnPickerBar() { ShowControlBar(&m_pickers, !m_pickers.IsVisible(), FALSE); }
+
+void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
+
+void CMainFrame::OnOptions() {
+    const CString folder = ktutProgramFolder().c_str();
+    if (m_extensions == nullptr) m_extensions = std::make_unique<CExtensions>(folder + L"extensions\\");
+    // Other ways lead to the drawing's units too.
+    m_options.units = UnitsOf(*m_document->database());
+    COptionsDialog dialog(
+        m_options, [this](const DrafterOptions& options) { applyOptions(options); }, m_extensions.get(),
+        this);
+    if (dialog.DoModal() == IDOK) applyOptions(dialog.options());
+    m_view.SetFocus();
+}
+
+void CMainFrame::applyOptions(const DrafterOptions& options) {
+    m_options = options;
+    CKtUiDialog keeper(0);
+    keeper.SetDialogName(L"Options");
+    if (!SaveOptions(keeper, options))
+        KtUiMessageBox(nullptr, textOf(IDS_OPTIONS_NOT_STORED), MB_ICONEXCLAMATION);
+    useOptions(options);
+    showDrawing(true);
+}
+
+void CMainFrame::useOptions(const DrafterOptions& options) {
+    const CString folder = ktutProgramFolder().c_str();
+    std::vector<CString> folders = FoldersOf(options.supportFolders);
+    if (folders.empty()) folders = {folder + L"fonts", folder + L"support"};
+    m_host.SetSupportDirectories(std::move(folders));
+    m_host.SetPathVariable(L"PrinterStyleSheetDir",
+                           options.styleSheets.IsEmpty() ? folder + L"Plot Styles" : options.styleSheets);
+    m_view.SetLook({options.background, options.selection}, options.crosshair);
+    SetUnits(*m_document->database(), options.units);
 }
 
 void CMainFrame::OnAbout() { KtUiMessageBox(nullptr, textOf(IDS_ABOUT), MB_ICONINFORMATION); }

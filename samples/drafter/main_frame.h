@@ -7,6 +7,9 @@
 #include "draft_document.h"
 #include "drawing_picker.h"
 #include "drawing_view.h"
+#include "extensions.h"
+#include "options.h"
+#include "picker_bar.h"
 
 class CKhFontStyle;
 class CStandinHost;
@@ -25,6 +28,7 @@ protected:
     CWnd* GetMessageBar() override { return &m_status; }
     /// While the user picks, only what changes the view or the selection goes on.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void RecalcLayout(BOOL notify = TRUE) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -33,6 +37,7 @@ protected:
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnFileNew();
     afx_msg void OnFileOpen();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
@@ -47,6 +52,9 @@ protected:
     afx_msg void OnMeasure();
     afx_msg void OnAbout();
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnPickerBar();
+    afx_msg void OnOptions();
+    afx_msg void OnUpdatePickerBar(CCmdUI* item);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
@@ -54,6 +62,13 @@ private:
     void PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) override;
     void PickObjects(unsigned prompt, ObjectsPicked picked) override;
     void showPrompt();
+    void showDocument(std::unique_ptr<CDraftDocument> document);
+    /// Gives the options to the host, the view and the drawing.
+    void useOptions(const DrafterOptions& options);
+    /// The same, and keeps them for the user.
+    void applyOptions(const DrafterOptions& options);
+    void showPickers();
+    std::vector<OdDbObjectId> selectedObjects() const;
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards.
     void runDialog(CDialog& dialog);
@@ -76,4 +91,7 @@ private:
     CDrawingView m_view;
     CStatusBarCtrl m_status;
     unsigned m_firstPrompt = 0;
+    CPickerBar m_pickers;
+    DrafterOptions m_options;
+    std::unique_ptr<CExtensions> m_extensions;  ///< from the first time that Options is opened
 };

@@ -58,9 +58,9 @@ void addMeasure(OdArray<OdString>& lines, const Scene& scene, const OdDbObjectId
     }
     if (paths == 0) return;
     if (paths == 1 && encloses)
-        addLine(lines, IDS_TIP_AREA, FormatNumber(area));
+        addLine(lines, IDS_OBJECT_AREA, FormatNumber(area));
     else
-        addLine(lines, IDS_TIP_LENGTH, FormatDistance(length));
+        addLine(lines, IDS_OBJECT_LENGTH, FormatDistance(length));
 }
 
 }  // namespace
@@ -92,9 +92,9 @@ OdArray<OdString> DescribeObject(const Scene& scene, const OdDbObjectId& entity)
     const auto object = entity.open<OdDbEntity>();
     if (!object) return lines;
     lines.append(OdString(kindOf(*object)));
-    addLine(lines, IDS_TIP_LAYER, object->layer().c_str());
-    addLine(lines, IDS_TIP_COLOR, ktutColorToStr(object->color()).c_str());
-    addLine(lines, IDS_TIP_LINETYPE, object->linetype().c_str());
+    addLine(lines, IDS_OBJECT_LAYER, object->layer().c_str());
+    addLine(lines, IDS_OBJECT_COLOR, ktutColorToStr(object->color()).c_str());
+    addLine(lines, IDS_OBJECT_LINETYPE, object->linetype().c_str());
     addMeasure(lines, scene, entity);
     return lines;
 }

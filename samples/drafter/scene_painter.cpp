@@ -4,12 +4,13 @@
 #include <cmath>
 #include <numbers>
 
+#include <ktui/host/contrast.h>
+
 #include "dash_pattern.h"
 #include "text_face.h"
 
 namespace {
 
-constexpr COLORREF kSelected = RGB(90, 170, 255);
 constexpr double kMargin = 0.92;  // of the window that the drawing fills
 constexpr double kPixelsPerMillimetre = 96 / 25.4;
 constexpr double kCapitalShare = 0.72;  // height of capitals in that of a font
@@ -24,8 +25,9 @@ int penWidth(int lineWeight) {
 /// Paints the pieces of one scene.
 class ScenePainter {
 public:
-    ScenePainter(CDC& dc, const ScenePlace& place, const std::set<OdDbObjectId>& selection)
-        : m_dc(dc), m_place(place), m_selection(selection) {}
+    ScenePainter(CDC& dc, const ScenePlace& place, const std::set<OdDbObjectId>& selection,
+                 const SceneColors& colors)
+        : m_dc(dc), m_place(place), m_selection(selection), m_colors(colors) {}
 
     void draw(const ScenePath& path);
     void draw(const SceneText& text);
@@ -33,7 +35,11 @@ public:
 private:
     bool isSelected(const OdDbObjectId& entity) const { return m_selection.contains(entity); }
     COLORREF colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const {
-        return isSelected(entity) ? kSelected : style.color.color();
+        return isSelected(entity) ? m_colors.selection : onPaper(style.color.color());
+    }
+    COLORREF onPaper(COLORREF color) const {
+        constexpr COLORREF kWhite = RGB(255, 255, 255), kBlack = RGB(0, 0, 0);
+        return color == kWhite ? ReadableColor(kWhite, m_colors.paper, kMarkContrast, kBlack) : color;
     }
     void fill(const std::vector<CPoint>& pixels, COLORREF color);
     void write(const SceneText& text, int height, CPoint at);
@@ -41,6 +47,7 @@ private:
     CDC& m_dc;
     const ScenePlace& m_place;
     const std::set<OdDbObjectId>& m_selection;
+    const SceneColors& m_colors;
 };
 
 void ScenePainter::fill(const std::vector<CPoint>& pixels, COLORREF color) {
@@ -143,9 +150,9 @@ void ScenePlace::Fit(const SceneExtents& extents) {
     scale = std::min(size.cx / width, size.cy / height) * kMargin;
 }
 
-void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place,
-                const std::set<OdDbObjectId>& selection) {
-    ScenePainter painter(dc, place, selection);
+void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place, const std::set<OdDbObjectId>& selection,
+                const SceneColors& colors) {
+    ScenePainter painter(dc, place, selection, colors);
     for (const ScenePath& path : scene.paths) painter.draw(path);
     for (const SceneText& text : scene.texts) painter.draw(text);
 }

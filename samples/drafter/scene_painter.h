@@ -8,6 +8,13 @@
 #include "scene.h"
 
 constexpr COLORREF kDrawingPaper = RGB(33, 40, 48);
+constexpr COLORREF kSelectionColor = RGB(90, 170, 255);
+
+/// What a scene is painted on and with. White lines turn black on a light paper.
+struct SceneColors {
+    COLORREF paper = kDrawingPaper;
+    COLORREF selection = kSelectionColor;
+};
 
 /// Where a scene lies on a window: which place of the drawing is in the middle, and how large a unit is.
 struct ScenePlace {
@@ -24,4 +31,4 @@ struct ScenePlace {
 
 /// Paints the scene with pixel 0, 0 as the window's corner; what belongs to `selection` is highlighted.
 void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place,
-                const std::set<OdDbObjectId>& selection = {});
+                const std::set<OdDbObjectId>& selection = {}, const SceneColors& colors = {});

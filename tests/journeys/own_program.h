@@ -19,7 +19,7 @@ public:
         fs::remove_all(m_folder);
         fs::create_directories(m_folder);
         fs::copy_file(from / L"drafter.exe", m_folder / L"drafter.exe");
-        for (const wchar_t* each : {L"fonts", L"support", L"Plot Styles"})
+        for (const wchar_t* each : {L"extensions", L"fonts", L"support", L"Plot Styles"})
             fs::copy(from / each, m_folder / each, fs::copy_options::recursive);
         // The libraries stay where they are.
         wchar_t path[8192] = {};

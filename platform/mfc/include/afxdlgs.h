@@ -4,3 +4,4 @@
 #include <afxwin.h>
 
 #include <kmfc/common_dialogs.h>
+#include <kmfc/file_dialog.h>

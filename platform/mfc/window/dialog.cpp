@@ -197,8 +197,10 @@ void CDialog::EndDialog(int nResult) {
     // A modal dialog that ends before its loop begins is not shown.
     if ((m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) == WF_CONTINUEMODAL) m_nFlags |= WF_NEVERSHOWN;
     if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) EndModalLoop(nResult);
-    if (m_hWnd != nullptr) ::EndDialog(m_hWnd, nResult);
+    if (m_hWnd != nullptr) end_window(nResult);
 }
+
+void CDialog::end_window(int nResult) { ::EndDialog(m_hWnd, nResult); }
 
 void CDialog::OnOK() {
     if (UpdateData(TRUE)) EndDialog(IDOK);

@@ -1,4 +1,5 @@
 // CFrameWnd: menu, accelerators, messages, command routing, modal state.
+#include <kmfc/control_bar.h>
 #include <kmfc/frame.h>
 
 #include "thread_state.h"
@@ -11,6 +12,7 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_CREATE()
     ON_WM_CLOSE()
     ON_WM_DESTROY()
+    ON_WM_SIZE()
     ON_WM_ACTIVATE()
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUSELECT()
@@ -83,6 +85,24 @@ void CFrameWnd::PostNcDestroy() { delete this; }
 
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
+}
+
+void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
+    CWnd::OnSize(nType, cx, cy);
+    if (nType != SIZE_MINIMIZED) RecalcLayout();
+}
+
+void CFrameWnd::RecalcLayout(BOOL) {
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
+}
+
+void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
+    pBar->delay_show(bShow != FALSE);
+    if (!bDelay) RecalcLayout(FALSE);
+}
+
+CControlBar* CFrameWnd::GetControlBar(UINT nID) {
+    return nID != 0 ? DYNAMIC_DOWNCAST(CControlBar, GetDlgItem(static_cast<int>(nID))) : nullptr;
 }
 
 void CFrameWnd::ActivateFrame(int nCmdShow) {

@@ -56,6 +56,7 @@ DEFAULT_HANDLER(OnNcPaint)
 DEFAULT_HANDLER(OnNcRButtonDown, UINT, CPoint)
 DEFAULT_HANDLER(OnNcRButtonUp, UINT, CPoint)
 DEFAULT_HANDLER(OnPaint)
+HCURSOR CWnd::OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
 DEFAULT_RESULT(BOOL, OnQueryEndSession)
 DEFAULT_RESULT(BOOL, OnQueryOpen)
 DEFAULT_HANDLER(OnRButtonDblClk, UINT, CPoint)

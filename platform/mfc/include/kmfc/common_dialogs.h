@@ -1,4 +1,4 @@
-// The system's colour and font dialogs.
+// The system's colour and font dialogs, and the base of all of the system's dialogs.
 #pragma once
 
 #include <windows.h>

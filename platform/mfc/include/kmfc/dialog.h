@@ -55,6 +55,9 @@ protected:
     virtual BOOL SetOccDialogInfo(void*) { return TRUE; }
     BOOL CheckAutoCenter() override;
 
+    /// Ends the window as EndDialog asks for it.
+    virtual void end_window(int nResult);
+
     HWND PreModal();
     void PostModal();
 

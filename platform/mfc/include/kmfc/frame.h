@@ -4,6 +4,8 @@
 #include <afxcoll.h>
 #include <kmfc/app.h>
 
+class CControlBar;
+
 class KMFC_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 public:
@@ -35,6 +37,12 @@ public:
     void SetMessageText(LPCTSTR lpszText);
     void SetMessageText(UINT nID);
     virtual CWnd* GetMessageBar() { return nullptr; }
+    /// Gives the bars and the view (AFX_IDW_PANE_FIRST) their places; called at each change of size.
+    virtual void RecalcLayout(BOOL bNotify = TRUE);
+    /// Shows or hides a bar of the frame and lays out anew; with `bDelay` at the next layout that comes.
+    void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    /// The bar with `nID`, or null.
+    CControlBar* GetControlBar(UINT nID);
     virtual void ActivateFrame(int nCmdShow = -1);
     void BeginModalState();
     void EndModalState();
@@ -47,6 +55,7 @@ public:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
     afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
@@ -57,6 +66,7 @@ protected:
     void PostNcDestroy() override;
 
     CString m_strTitle;
+    CRect m_rectBorder{0, 0, 0, 0};  ///< room to leave around the view, on each side
     UINT m_nIDTracking = 0;
     UINT m_nIDLastMessage = 0;
     int m_cModalStack = 0;

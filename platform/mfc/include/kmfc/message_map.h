@@ -109,7 +109,7 @@ enum AfxSig : UINT_PTR {
     AfxSig_v_stylechange,    // OnStyleChanged(int, LPSTYLESTRUCT)
     AfxSig_v_hdrop,          // OnDropFiles(HDROP)
     AfxSig_v_wnd_l,          // OnCaptureChanged(CWnd*): the window is in lParam
-    AfxSig_l_v,              // OnThemeChanged()
+    AfxSig_l_v,              // OnThemeChanged(), OnQueryDragIcon()
     AfxSig_v_drawitem,       // DrawItem(LPDRAWITEMSTRUCT) of the control itself
     AfxSig_v_measureitem,
     AfxSig_v_deleteitem,

@@ -294,6 +294,14 @@ public:
     }
     BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
+    /// What RepositionBars does: lays out the bars and the window that is left over; answers the room that is
+    /// left in the rectangle, moving nothing; lays out with the rectangle's sides taken off what is left.
+    enum RepositionFlags : UINT { reposDefault = 0, reposQuery = 1, reposExtra = 2 };
+    /// Gives the child windows with ids `nIDFirst` to `nIDLast` places by WM_SIZEPARENT, and what is left of
+    /// the client area (or of `lpRectClient`) to the child `nIDLeftOver`.
+    void RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag = reposDefault,
+                        LPRECT lpRectParam = nullptr, LPCRECT lpRectClient = nullptr, BOOL bStretch = TRUE);
+
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE) {
         ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow);
     }
@@ -381,6 +389,7 @@ public:
     afx_msg void OnNcRButtonUp(UINT nHitTest, CPoint point);
     afx_msg void OnPaint();
     afx_msg void OnParentNotify(UINT message, LPARAM lParam);
+    afx_msg HCURSOR OnQueryDragIcon();
     afx_msg BOOL OnQueryEndSession();
     afx_msg BOOL OnQueryOpen();
     afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);

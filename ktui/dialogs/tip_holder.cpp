@@ -1,5 +1,4 @@
-// The tips of a dialog: the decision which tip to show, and the windows that show it.
-#include <ktui/dialogs/kbui_base_dialog.h>
+#include <ktui/dialogs/tip_holder.h>
 
 #include <ktui/host/appearance.h>
 #include <ktui/host/window_context.h>
@@ -9,8 +8,7 @@ namespace {
 
 constexpr COLORREF kToolTipPaper = 0xF9F9F9;
 constexpr COLORREF kToolTipInk = 0x4B4846;
-constexpr int kToolTipMargin = 3;      // pixels on each side
-constexpr int kToolTipMaxWidth = 256;  // pixels before a text breaks
+constexpr int kToolTipMargin = 3;  // pixels on each side
 
 /// A datum that points to a local object of the sender.
 template <class Object>
@@ -20,31 +18,36 @@ unsigned __int64 datumOf(Object& object) {
 
 }  // namespace
 
-void CKbUiBaseDialog::SetUseTips(int useTips) {
+void TipHolder::SetUseTips(int useTips) {
     m_useTips = useTips;
     if (useTips == 1)
-        createTips();
+        create();
     else
-        destroyTips();
+        destroy();
 }
 
-void CKbUiBaseDialog::createTips() {
+void TipHolder::End() {
+    m_useTips = 0;
+    destroy();
+}
+
+void TipHolder::create() {
     if (m_textTip == nullptr) {
         m_textTip = new CKbUiTextTip;
-        m_textTip->Create(this);
+        m_textTip->Create(&m_window);
     }
     if (m_toolTip != nullptr) return;
-    EnableToolTips(TRUE);
+    m_window.EnableToolTips(TRUE);
     m_toolTip = new CToolTipCtrl;
-    m_toolTip->Create(this, TTS_ALWAYSTIP);
+    m_toolTip->Create(&m_window, TTS_ALWAYSTIP);
     m_toolTip->SendMessage(TTM_SETTIPBKCOLOR, KtUiAppearanceColor(kToolTipPaper, COLOR_INFOBK));
     m_toolTip->SendMessage(TTM_SETTIPTEXTCOLOR, KtUiAppearanceColor(kToolTipInk, COLOR_INFOTEXT));
     RECT margin = {kToolTipMargin, kToolTipMargin, kToolTipMargin, kToolTipMargin};
     m_toolTip->SendMessage(TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
-    m_toolTip->SendMessage(TTM_SETMAXTIPWIDTH, 0, kToolTipMaxWidth);
+    m_toolTip->SendMessage(m_rules.lastMessage, m_rules.lastWord, m_rules.lastDatum);
 }
 
-void CKbUiBaseDialog::destroyTips() {
+void TipHolder::destroy() {
     if (m_textTip != nullptr) {
         m_textTip->DestroyWindow();
         delete m_textTip;
@@ -57,12 +60,20 @@ void CKbUiBaseDialog::destroyTips() {
     }
 }
 
-BOOL CKbUiBaseDialog::PreTranslateMessage(MSG* message) {
-    if (m_toolTip != nullptr) m_toolTip->SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(message));
-    return CDialog::PreTranslateMessage(message);
+void TipHolder::Relay(const MSG& message) {
+    if (m_toolTip != nullptr) m_toolTip->SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
 }
 
-KBUI_REPLY CKbUiBaseDialog::offerNativeTip(CWnd& control, unsigned id, LPARAM update) {
+LRESULT TipHolder::Route(WPARAM wParam, LPARAM lParam) {
+    const unsigned id = UnpackKbUiNotifyId(wParam);
+    CWnd* control = id != 0 ? m_window.GetDlgItem(static_cast<int>(id)) : nullptr;
+    if (control == nullptr) return 0;
+    LRESULT reply = control->SendMessage(KbUiMessage(), wParam, lParam);
+    if (reply == kKbUiReplyNativeTip && m_toolTip != nullptr) reply = offerNativeTip(*control, id, lParam);
+    return static_cast<int>(reply);
+}
+
+KBUI_REPLY TipHolder::offerNativeTip(CWnd& control, unsigned id, LPARAM update) {
     CString text;
     const KBUI_REPLY reply = KbUiNotify(control, id, kKbUiNotifyGetTipText, datumOf(text));
     if (update == 0)
@@ -72,43 +83,48 @@ KBUI_REPLY CKbUiBaseDialog::offerNativeTip(CWnd& control, unsigned id, LPARAM up
     return reply;
 }
 
-KBUI_REPLY CKbUiBaseDialog::OnNotifyUpdateTip(CWnd* control) {
+KBUI_REPLY TipHolder::UpdateTip(CWnd& control) {
     if (m_useTips != 1) {
         if (m_textTip != nullptr) m_textTip->Hide();
         return kKbUiReplyNone;
     }
     if (m_textTip == nullptr) return kKbUiReplyHandled;
-    const unsigned id = static_cast<unsigned>(control->GetDlgCtrlID());
+    const unsigned id = static_cast<unsigned>(control.GetDlgCtrlID());
     CPoint point;
     ::GetCursorPos(&point);
-    control->ScreenToClient(&point);
+    control.ScreenToClient(&point);
 
-    const KBUI_REPLY support = KbUiNotify(*control, id, kKbUiNotifyGetTipSupport, datumOf(point));
+    const KBUI_REPLY support = KbUiNotify(control, id, kKbUiNotifyGetTipSupport, datumOf(point));
     const bool sameItem = support == kKbUiReplyHandled || support == kKbUiReplyKeepTip;
     if (sameItem && m_textTip->IsWindowVisible()) return kKbUiReplyNone;
     m_textTip->Hide();
     if (support == kKbUiReplyNone) return kKbUiReplyNone;
-    if (KbUiNotify(*control, id, kKbUiNotifyHitTipRect, datumOf(point)) == kKbUiReplyNone)
+    if (KbUiNotify(control, id, kKbUiNotifyHitTipRect, datumOf(point)) == kKbUiReplyNone)
         return kKbUiReplyNone;
     CRect rect(0, 0, 0, 0);
-    const KBUI_REPLY found = KbUiNotify(*control, id, kKbUiNotifyGetTipRect, datumOf(rect));
-    if (found == kKbUiReplyNone || rect.IsRectEmpty()) return kKbUiReplyNone;
+    const KBUI_REPLY found = KbUiNotify(control, id, kKbUiNotifyGetTipRect, datumOf(rect));
+    if (m_rules.rectReplyCounts && found == kKbUiReplyNone) return kKbUiReplyNone;
+    if (rect.IsRectEmpty()) return kKbUiReplyNone;
     const bool text = support == kKbUiReplyHandled || support == kKbUiReplyTextTip;
-    return text ? showTextTip(*control, id, rect) : showDrawnTip(*control, id, rect);
+    return text ? showTextTip(control, id, rect) : showDrawnTip(control, id, rect);
 }
 
-KBUI_REPLY CKbUiBaseDialog::showDrawnTip(CWnd& control, unsigned id, CRect rect) {
-    m_textTip->SetUseText(0);
-    control.ClientToScreen(&rect);
+void TipHolder::showAt(CWnd& control, const CRect& rect) {
     m_textTip->SetControl(&control);
     m_textTip->MoveWindow(&rect, TRUE);
     m_textTip->Show();
+}
+
+KBUI_REPLY TipHolder::showDrawnTip(CWnd& control, unsigned id, CRect rect) {
+    m_textTip->SetUseText(0);
+    control.ClientToScreen(&rect);
+    showAt(control, rect);
     const WindowContext context(*m_textTip);
     KbUiNotify(control, id, kKbUiNotifyDrawTip, reinterpret_cast<unsigned __int64>(context.dc()));
     return kKbUiReplyHandled;
 }
 
-KBUI_REPLY CKbUiBaseDialog::showTextTip(CWnd& control, unsigned id, CRect rect) {
+KBUI_REPLY TipHolder::showTextTip(CWnd& control, unsigned id, CRect rect) {
     m_textTip->SetUseText(1);
     CString text;
     KbUiNotify(control, id, kKbUiNotifyGetTipText, datumOf(text));
@@ -118,8 +134,6 @@ KBUI_REPLY CKbUiBaseDialog::showTextTip(CWnd& control, unsigned id, CRect rect) 
     rect.top -= 2;
     rect.right += 4;
     rect.bottom += 2;
-    m_textTip->SetControl(&control);
-    m_textTip->MoveWindow(&rect, TRUE);
-    m_textTip->Show();
+    showAt(control, rect);
     return kKbUiReplyHandled;
 }

@@ -1,0 +1,44 @@
+// The picker bar: colour, linetype, lineweight and plot style of the selection, or of what is drawn next.
+// With different values in the selection a picker shows none.
+#pragma once
+
+#include <functional>
+
+#include <ktui/ktui.h>
+
+#include "property_pickers.h"
+
+class CPickerBar : public CKtUiDialogBar {
+    DECLARE_DYNAMIC(CPickerBar)
+
+public:
+    /// `changed` is called when the bar has changed the drawing.
+    explicit CPickerBar(std::function<void()> changed) : m_changed(std::move(changed)) {}
+
+    BOOL CreateBar(CWnd* frame);
+    /// Shows the values of `objects`, or the current settings without objects. Another drawing's lists are
+    /// filled anew.
+    void Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects);
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+private:
+    void bindPickers();
+    void addTips();
+    void fillLists();
+    void showPlotStyle(const std::optional<OdString>& name);
+    std::optional<OdString> pickedPlotStyle();
+    /// What was picked in the picker with `id` and differs from what it showed.
+    PropertyValues picked(UINT id);
+
+    std::function<void()> m_changed;
+    OdDbDatabase* m_drawing = nullptr;
+    std::vector<OdDbObjectId> m_objects;
+    PropertyValues m_shown;
+    bool m_showing = false;  ///< the pickers are being set, which is no choice of the user
+    CKtUiTrueColorComboBox m_color;
+    CLayerLineTypePicker m_linetype;
+    CLineWeightPicker m_lineWeight;
+    CKtUiPlotStyleNamesComboBox m_plotStyle;
+};

@@ -1,0 +1,76 @@
+// A draughtsman works with the picker bar of the frame, by mouse and by keys alone.
+#include <windows.h>
+#include <commctrl.h>
+
+#include "journey_fixture.h"
+
+using namespace journey;
+
+namespace {
+
+constexpr int kBar = 0xE805;
+
+class PickerBarJourney : public Journey {
+protected:
+    PickerBarJourney() {
+        OdDbDatabasePtr drawing(new OdDbDatabase);
+        const auto space = drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite);
+        for (int i = 0; i < 2; ++i) {
+            OdDbLine* const line = new OdDbLine;
+            line->setStartPoint({0, i * 50.0, 0});
+            line->setEndPoint({100, i * 50.0, 0});
+            OdCmColor color;
+            color.setColorIndex(i + 1);
+            line->setColor(color);
+            space->appendOdDbEntity(line);
+        }
+        open(*drawing, L"picker_bar.dxf");
+    }
+    HWND picker(int id) { return item(item(drafter->frame(), kBar), id); }
+    static std::wstring shown(HWND combo) {
+        return ::SendMessageW(combo, CB_GETCURSEL, 0, 0) < 0 ? L"none" : currentEntry(combo);
+    }
+    void selectAll() {
+        drafter->activate(drafter->frame());
+        drafter->key('A', true);
+    }
+};
+
+TEST_F(PickerBarJourney, ByMouseItFollowsTheSelectionAndActsOnIt) {
+    ASSERT_NE(picker(IDC_TRUE_COLOR), nullptr);
+    EXPECT_EQ(shown(picker(IDC_TRUE_COLOR)), L"ByLayer");
+    selectAll();
+    EXPECT_TRUE(waitUntil([&] { return shown(picker(IDC_TRUE_COLOR)) == L"none"; }));
+    picture("journey-picker-bar");
+    drafter->pickByMouse(picker(IDC_TRUE_COLOR), L"blue");
+    EXPECT_TRUE(waitUntil([&] { return textOf(drafter->frame()).find(L'*') != std::wstring::npos; }));
+    EXPECT_EQ(shown(picker(IDC_TRUE_COLOR)), L"blue");
+    const OdDbDatabasePtr drawing = saved();
+    for (const OdDbEntity* each : entitiesOf(*drawing)) EXPECT_EQ(each->color().colorIndex(), 5);
+    EXPECT_EQ(drawing->cecolor().colorIndex(), 256);
+}
+
+TEST_F(PickerBarJourney, ByKeysItSetsWhatNewObjectsGet) {
+    drafter->activate(drafter->frame());
+    drafter->click(picker(IDC_LINE_WEIGHT));
+    drafter->key(VK_ESCAPE);
+    drafter->pickByKeys(picker(IDC_LINE_WEIGHT), L"0.50 mm");
+    EXPECT_TRUE(waitUntil([&] { return textOf(drafter->frame()).find(L'*') != std::wstring::npos; }));
+    const OdDbDatabasePtr drawing = saved();
+    EXPECT_EQ(drawing->celweight(), OdDb::kLnWt050);
+    EXPECT_EQ(firstOf(*drawing)->lineWeight(), OdDb::kLnWtByLayer);
+}
+
+TEST_F(PickerBarJourney, TheMenuHidesItAndTheViewTakesTheRoom) {
+    const RECT before = rectOf(drafter->view());
+    drafter->activate(drafter->frame());
+    drafter->key('V', false, true);
+    drafter->key('P');
+    EXPECT_TRUE(waitUntil([&] { return rectOf(drafter->view()).top < before.top; }));
+    EXPECT_FALSE(::IsWindowVisible(item(drafter->frame(), kBar)));
+    drafter->key('V', false, true);
+    drafter->key('P');
+    EXPECT_TRUE(waitUntil([&] { return rectOf(drafter->view()).top == before.top; }));
+}
+
+}  // namespace

@@ -1,0 +1,89 @@
+// The worksheet's fixed answers.
+#include <ktui/dialogs/kbui_dialog_worksheet.h>
+
+#include "dialog_fixture.h"
+
+namespace {
+
+class OpenSheet : public CKtUiDialogWorksheet {
+public:
+    explicit OpenSheet(CWnd* parent) : CKtUiDialogWorksheet(IDD_ELASTIC, CKbUiWorksheetDraw(), parent) {}
+    using CKbUiDialogWorksheet::OnInitDialog;
+    using CKbUiDialogWorksheet::OnMoving;
+    using CKbUiDialogWorksheet::OnNcCreate;
+    using CKbUiDialogWorksheet::OnPaint;
+    using CKbUiDialogWorksheet::PreCreateWindow;
+};
+
+class Worksheet : public DialogTest {
+protected:
+    Worksheet() : sheet(&parent) {}
+    OpenSheet sheet;
+};
+
+TEST_F(Worksheet, HasNoTheme) {
+    EXPECT_EQ(sheet.GetTheme(), nullptr);
+    EXPECT_EQ(sheet.SetTheme(nullptr), 0);
+    sheet.ThemeModified(nullptr);
+    sheet.SetDraw(CKbUiWorksheetDraw());
+    EXPECT_EQ(sheet.SetDefaultDraw(), 0);
+    EXPECT_EQ(sheet.GetTheme(), nullptr);
+}
+
+TEST_F(Worksheet, ItsOwnOperationsAnswerZero) {
+    CREATESTRUCT create = {};
+    MSG message = {};
+    EXPECT_EQ(sheet.OnInitDialog(), 0);
+    EXPECT_EQ(sheet.PreCreateWindow(create), 0);
+    EXPECT_EQ(sheet.PreTranslateMessage(&message), 0);
+    EXPECT_EQ(sheet.OnNcCreate(&create), 0);
+    EXPECT_EQ(sheet.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, parent.m_hWnd, nullptr), 0);
+    EXPECT_EQ(sheet.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 9, 9), &parent, 0), 0);
+    EXPECT_EQ(sheet.m_hWnd, nullptr);
+}
+
+TEST_F(Worksheet, IsMadeFromItsTemplateAndKeepsItsWindowWhenToldToDestroyIt) {
+    HWND window = nullptr;
+    {
+        OpenSheet modeless(&parent);
+        ASSERT_TRUE(modeless.Create(IDD_ELASTIC, &parent));
+        window = modeless.m_hWnd;
+        EXPECT_NE(modeless.GetDlgItem(IDC_FIRST), nullptr);
+        EXPECT_EQ(modeless.DestroyWindow(), 0);
+        EXPECT_TRUE(::IsWindow(window));
+    }
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(Worksheet, TheMessagesOfItsMapHaveNoEffect) {
+    ASSERT_TRUE(sheet.Create(IDD_ELASTIC, &parent));
+    EXPECT_EQ(sheet.SendMessage(WM_NCHITTEST, 0, 0), HTNOWHERE);
+    EXPECT_EQ(sheet.SendMessage(WM_ERASEBKGND, 0, 0), 0);
+    EXPECT_EQ(sheet.SendMessage(WM_QUERYDRAGICON), 0);
+    EXPECT_EQ(sheet.SendMessage(WM_NCACTIVATE, TRUE), 0);
+    CDC* dc = sheet.GetDC();
+    EXPECT_EQ(sheet.SendMessage(WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(dc->m_hDC),
+                                reinterpret_cast<LPARAM>(sheet.m_hWnd)),
+              0);
+    sheet.ReleaseDC(dc);
+    // A size change moves no control.
+    CRect before, after;
+    sheet.MoveControlX(IDC_FIRST, 100);
+    sheet.GetDlgItem(IDC_FIRST)->GetWindowRect(&before);
+    sheet.SetWindowPos(nullptr, 0, 0, 700, 500, SWP_NOMOVE | SWP_NOZORDER);
+    sheet.GetDlgItem(IDC_FIRST)->GetWindowRect(&after);
+    EXPECT_EQ(before, after);
+}
+
+TEST_F(Worksheet, BothConstructorsAreThoseOfTheDialog) {
+    CKbUiWorksheetDraw draw;
+    CKbUiDialogWorksheet plain(IDD_ELASTIC, &parent, nullptr), drawn(IDD_ELASTIC, draw, &parent, nullptr);
+    CString first, second;
+    plain.GetDialogName(first);
+    drawn.GetDialogName(second);
+    EXPECT_EQ(first, second);
+    EXPECT_EQ(first.Right(5), L"-C8-0");
+    EXPECT_EQ(plain.GetUseTips(), 1);
+}
+
+}  // namespace

@@ -1,0 +1,5 @@
+// An extension of the drafter as a later version of it would have one.
+#include "../../../samples/drafter/extension_api.h"
+
+extern "C" __declspec(dllexport) int drafterExtensionVersion() { return kDrafterExtensionVersion + 1; }
+extern "C" __declspec(dllexport) void drafterExtensionAddTabs(CKbUiTabExtensionManager&) { __builtin_trap(); }

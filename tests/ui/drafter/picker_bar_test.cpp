@@ -1,0 +1,159 @@
+// The picker bar: the selection's values, what it changes, and its tips.
+#include "../../../samples/drafter/picker_bar.h"
+#include "drafter_fixture.h"
+
+namespace {
+
+using namespace ui_test;
+
+class OpenBar : public CPickerBar {
+public:
+    using CKbUiDialogBar::m_toolTip;
+    using CPickerBar::CPickerBar;
+};
+
+class PickerBar : public DrafterTest {
+protected:
+    PickerBar() : bar([this] { ++changes; }) {
+        frame = new CFrameWnd;
+        frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(40, 40, 900, 440));
+        EXPECT_TRUE(bar.CreateBar(frame));
+        frame->RecalcLayout();
+        auto space = drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite);
+        for (OdDbObjectId& id : lines) {
+            space->appendOdDbEntity(new OdDbLine, &id);
+        }
+        color(lines[0], 1);
+        color(lines[1], 3);
+    }
+    ~PickerBar() override { frame->DestroyWindow(); }
+    static void color(const OdDbObjectId& id, int index) {
+        OdCmColor value;
+        value.setColorIndex(index);
+        id.open<OdDbEntity>(OdDb::kForWrite)->setColor(value);
+    }
+    static int colorOf(const OdDbObjectId& id) { return id.open<OdDbEntity>()->color().colorIndex(); }
+    OdDbObjectId continuous() {
+        OdDbLinetypeTablePtr table;
+        drawing->getLinetypeTable(table);
+        return table->getAt(L"Continuous");
+    }
+    CString shown(int id) {
+        CWnd& combo = *bar.GetDlgItem(id);
+        const int index = selected(combo);
+        if (index < 0) return L"none";
+        CString text;
+        static_cast<CComboBox&>(combo).GetLBText(index, text);
+        return text;
+    }
+    /// Takes the entry with this text as the user does.
+    void take(int id, const wchar_t* text) {
+        CWnd& combo = *bar.GetDlgItem(id);
+        const LRESULT index =
+            combo.SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+        ASSERT_GE(index, 0) << CStringA(text).GetString();
+        combo.SendMessage(CB_SETCURSEL, static_cast<WPARAM>(index));
+        bar.SendMessage(WM_COMMAND, MAKEWPARAM(id, CBN_SELENDOK), reinterpret_cast<LPARAM>(combo.m_hWnd));
+    }
+
+    CFrameWnd* frame;
+    int changes = 0;
+    OpenBar bar;
+    OdDbObjectId lines[2];
+};
+
+TEST_F(PickerBar, ShowsTheValuesOfTheSelectionAndNoneWhereTheyDiffer) {
+    bar.Show(*drawing, {lines[0]});
+    EXPECT_EQ(shown(IDC_TRUE_COLOR).CompareNoCase(L"Red"), 0) << CStringA(shown(IDC_TRUE_COLOR)).GetString();
+    EXPECT_EQ(shown(IDC_LINETYPE), L"ByLayer");
+    EXPECT_EQ(shown(IDC_LINE_WEIGHT), L"ByLayer");
+    bar.Show(*drawing, {lines[0], lines[1]});
+    EXPECT_EQ(shown(IDC_TRUE_COLOR), L"none");
+    EXPECT_EQ(shown(IDC_LINETYPE), L"ByLayer");
+    lines[1].open<OdDbEntity>(OdDb::kForWrite)->setLineWeight(OdDb::kLnWt050);
+    lines[1].open<OdDbEntity>(OdDb::kForWrite)->setLinetype(continuous());
+    bar.Show(*drawing, {lines[0], lines[1]});
+    EXPECT_EQ(shown(IDC_LINE_WEIGHT), L"none");
+    EXPECT_EQ(shown(IDC_LINETYPE), L"none");
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(PickerBar, ActsOnTheSelection) {
+    bar.Show(*drawing, {lines[0], lines[1]});
+    take(IDC_TRUE_COLOR, L"Blue");
+    EXPECT_EQ(colorOf(lines[0]), 5);
+    EXPECT_EQ(colorOf(lines[1]), 5);
+    EXPECT_EQ(changes, 1);
+    take(IDC_LINETYPE, L"Continuous");
+    EXPECT_EQ(lines[0].open<OdDbEntity>()->linetypeId(), continuous());
+    EXPECT_EQ(changes, 2);
+    take(IDC_LINE_WEIGHT, L"0.50 mm");
+    EXPECT_EQ(lines[1].open<OdDbEntity>()->lineWeight(), OdDb::kLnWt050);
+    EXPECT_EQ(changes, 3);
+    EXPECT_EQ(drawing->cecolor().colorIndex(), 256);
+}
+
+TEST_F(PickerBar, WithoutASelectionSetsWhatNewObjectsGet) {
+    bar.Show(*drawing, {});
+    EXPECT_EQ(shown(IDC_TRUE_COLOR), L"ByLayer");
+    take(IDC_TRUE_COLOR, L"Green");
+    EXPECT_EQ(drawing->cecolor().colorIndex(), 3);
+    take(IDC_LINE_WEIGHT, L"0.50 mm");
+    EXPECT_EQ(drawing->celweight(), OdDb::kLnWt050);
+    take(IDC_LINETYPE, L"Continuous");
+    EXPECT_EQ(drawing->celtype(), continuous());
+    EXPECT_EQ(colorOf(lines[0]), 1);
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(PickerBar, TheSameValueAgainChangesNothing) {
+    bar.Show(*drawing, {lines[0]});
+    take(IDC_TRUE_COLOR, L"Red");
+    take(IDC_LINETYPE, L"ByLayer");
+    take(IDC_LINE_WEIGHT, L"ByLayer");
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(PickerBar, PlotStylesFollowTheKindOfTheDrawing) {
+    drawing->setPSTYLEMODE(1);
+    bar.Show(*drawing, {lines[0]});
+    EXPECT_FALSE(bar.GetDlgItem(IDC_PLOT_STYLE)->IsWindowEnabled());
+    drawing->setPSTYLEMODE(0);
+    bar.Show(*drawing, {lines[0]});
+    EXPECT_TRUE(bar.GetDlgItem(IDC_PLOT_STYLE)->IsWindowEnabled());
+    EXPECT_NE(shown(IDC_PLOT_STYLE), L"none");
+}
+
+TEST_F(PickerBar, LinetypesThatAreLoadedLaterAreOffered) {
+    bar.Show(*drawing, {});
+    OdDbLinetypeTablePtr table;
+    drawing->getLinetypeTable(table, OdDb::kForWrite);
+    const auto record = table->newRecord();
+    record->setName(L"LATER");
+    table->add(record);
+    bar.Show(*drawing, {});
+    take(IDC_LINETYPE, L"LATER");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(PickerBar, EachPickerHasATip) {
+    std::vector<CString> texts;
+    for (const int id : {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE}) {
+        CString text;
+        bar.m_toolTip->GetText(text, bar.GetDlgItem(id));
+        texts.push_back(text);
+    }
+    EXPECT_EQ(texts, (std::vector<CString>{L"Color", L"Linetype", L"Lineweight", L"Plot style"}));
+}
+
+TEST_F(PickerBar, ATipComesUpOverAPicker) {
+    CWnd& combo = *bar.GetDlgItem(IDC_LINETYPE);
+    CRect rect;
+    combo.GetWindowRect(&rect);
+    ASSERT_TRUE(move_cursor(rect.CenterPoint()));
+    MSG move = {combo.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5), ::GetTickCount(), rect.CenterPoint()};
+    bar.PreTranslateMessage(&move);
+    EXPECT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
+}
+
+}  // namespace
