@@ -38,7 +38,7 @@ ROOMS = {
         _toolkit("controls"),
         _toolkit("pickers"),
         _toolkit("dialogs"),
-        _toolkit("tips"),
+        _toolkit("tips", "ui_tips_test", "ui_messages_test"),
         _toolkit("docking"),
         Room("platform/ktdb", ("platform/ktdb",), ("ktdb_test",), ("ktdb_test",), 90),
         Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),

@@ -16,8 +16,8 @@
 
 namespace ui_test {
 
-/// Caption of the message boxes of a test program.
-constexpr const wchar_t* kMessageCaption = L"ui_test";
+/// Caption of the host's messages.
+constexpr const wchar_t* kMessageCaption = L"Velmora";
 
 class StandinTest : public ::testing::Test {
 protected:

@@ -139,7 +139,7 @@ TEST_F(RichTip, TextsAreTwelvePixelsLargerEachWayAsLinesAndSixAsOneText) {
     EXPECT_EQ(one.Width(), single.Width() + 12);
     EXPECT_EQ(one.Height(), single.Height() + 12);
     EXPECT_EQ(tip.m_lineHeight, single.Height());
-    tip.Activate(CPoint(200, 152), {OdString(L"Layer"), OdString(L"x"), OdString(L"")});
+    tip.Activate(CPoint(200, 152), {OdString(L"Layer"), OdString(L"x"), OdString()});
     EndDelay();
     EXPECT_EQ(Place().Width(), one.Width());
     EXPECT_EQ(Place().Height(), one.Height() + 2 * tip.m_lineHeight);

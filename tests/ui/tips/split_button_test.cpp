@@ -23,6 +23,7 @@ struct Forwarded {
 };
 std::vector<Forwarded> forwarded;
 bool refusesCreate = false;
+LRESULT cueState = 0;  ///< the answer to WM_QUERYUISTATE
 
 /// Stands where the library calls the system's button procedure.
 LRESULT WINAPI NoteForward(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -56,6 +57,7 @@ SplitButtonRecord* recordOf(HWND button) {
 }
 
 LRESULT CALLBACK WatchedProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_QUERYUISTATE) return cueState;
     if (message == WM_NOTIFY) {
         const auto* notice = reinterpret_cast<const NMBCDROPDOWN*>(lParam);
         notices.push_back({notice->hdr.code, notice->rcButton, recordOf(window)->m_word,
@@ -129,8 +131,9 @@ TEST_F(SplitButton, FailedCreationEndsIt) {
 }
 
 TEST_F(SplitButton, CreationTakesTheStateOfTheCues) {
-    ::SendMessageW(parent.m_hWnd, WM_CHANGEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEACCEL), 0);
+    cueState = UISF_HIDEACCEL;
     Make(12);
+    cueState = 0;
     EXPECT_EQ(Word() & (kSplitAccelHidden | kSplitFocusHidden), kSplitAccelHidden);
 }
 

@@ -164,10 +164,9 @@ TEST_F(TrackingTip, AClickGoesToTheWindowBeneath) {
     list.GetWindowRect(&area);
     const CPoint place = area.TopLeft() + CSize(5, 6);
     tip.Show(place, L"entry");
-    CRect shown;
-    tip.GetWindowRect(&shown);
     CPoint point = place + CSize(3, 3);
-    const LPARAM onTip = MAKELPARAM(point.x - shown.left, point.y - shown.top);
+    tip.ScreenToClient(&point);
+    const LPARAM onTip = MAKELPARAM(point.x, point.y);
     std::vector<LPARAM> clicks;
     {
         const SentMessages watch([&](const CWPSTRUCT& message) {
