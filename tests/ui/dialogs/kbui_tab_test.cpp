@@ -178,6 +178,15 @@ TEST_F(TabNotification, LeavingIsRefusedByAPageAndByAnItemWithoutOne) {
     EXPECT_NE(notify(TCN_SELCHANGING), 0);
 }
 
+TEST_F(TabNotification, ArrivingGivesTheControlTheFocus) {
+    addPages(2);
+    dialog.GetDlgItem(IDOK)->SetFocus();
+    dialog.tab.SetCurSel(1);
+    notify(TCN_SELCHANGE);
+    EXPECT_EQ(::GetFocus(), dialog.tab.m_hWnd);
+    EXPECT_EQ(taken(), (Log{"b in"}));
+}
+
 TEST_F(TabNotification, ArrivingAtAnItemWithoutAPageTellsNobody) {
     addPages(1);
     dialog.tab.InsertItem(1, L"bare");
