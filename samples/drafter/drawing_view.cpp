@@ -128,7 +128,10 @@ void CDrawingView::moveCrosshair(std::optional<CPoint> pixel) {
     invertCrosshair(dc);
 }
 
-void CDrawingView::OnMouseLeave() { moveCrosshair({}); }
+void CDrawingView::OnMouseLeave() {
+    hideTip();
+    moveCrosshair({});
+}
 
 BOOL CDrawingView::OnEraseBkgnd(CDC*) { return TRUE; }
 
@@ -190,8 +193,6 @@ void CDrawingView::updateTip(CPoint pixel) {
     if (entity == m_tipEntity) return;
     hideTip();
     if (entity.isNull()) return;
-    TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, m_hWnd, 0};
-    ::TrackMouseEvent(&track);
     if (m_tip.m_hWnd == nullptr && !m_tip.Create(this)) return;
     m_tipEntity = entity;
     CPoint place = pixel + CSize(kTipOffset, kTipOffset);
@@ -203,8 +204,6 @@ void CDrawingView::hideTip() {
     m_tipEntity = OdDbObjectId();
     if (m_tip.m_hWnd != nullptr) m_tip.Deactivate();
 }
-
-void CDrawingView::OnMouseLeave() { hideTip(); }
 
 void CDrawingView::OnDestroy() {
     m_tip.DestroyWindow();
