@@ -16,7 +16,8 @@ public:
     const wchar_t* companyShortName() override { return L"Quorvex"; }
     const wchar_t* productName() override { return L"Velmora"; }
     const wchar_t* programName() override { return L"Velmora"; }
-    const wchar_t* messageCaption() override { return L"Velmora"; }
+    /// The name of the application, as the system's own message boxes have it.
+    const wchar_t* messageCaption() override { return AfxGetAppName(); }
     const wchar_t* profileVersionKey() override { return L"1.0"; }
 };
 

@@ -17,7 +17,7 @@
 namespace ui_test {
 
 /// Caption of the host's messages.
-constexpr const wchar_t* kMessageCaption = L"Velmora";
+inline const wchar_t* messageCaption() { return AfxGetAppName(); }
 
 class StandinTest : public ::testing::Test {
 protected:
@@ -45,7 +45,7 @@ protected:
 
     /// Answers the next message box with `button` and puts its text into `text`.
     static void answerMessage(int button, CString& text) {
-        when_dialog(kMessageCaption, [button, &text](HWND box) {
+        when_dialog(messageCaption(), [button, &text](HWND box) {
             text = message_text(box).c_str();
             ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
