@@ -27,6 +27,7 @@ constexpr Row kRows[] = {
     {"fonts", bench::measure_fonts},
     {"dialog", bench::measure_dialog},
     {"tabbed_dialog", bench::measure_tabbed_dialog},
+    {"messages", bench::measure_messages},
     {"resize", bench::measure_resize},
 };
 

@@ -19,6 +19,9 @@ void measure_fonts();
 void measure_dialog();
 /// Opening and closing a tabbed dialog of five pages against a property sheet with the same pages.
 void measure_tabbed_dialog();
+/// The layout of a task dialog of ten commands against measuring its texts as often, and a tip shown against
+/// the system's.
+void measure_messages();
 /// One step of resizing two hundred controls against moving them one by one.
 void measure_resize();
 

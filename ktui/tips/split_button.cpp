@@ -125,8 +125,8 @@ private:
     }
 
     LRESULT onStyleChanging() {
-        const bool isStyle = static_cast<int>(m_wParam) == GWL_STYLE;
-        if (isStyle && isSplit() && isSplitType(styles().styleOld))
+        // Kept: extended styles are taken for styles.
+        if (isSplit() && isSplitType(styles().styleOld))
             styles().styleNew = static_cast<DWORD>(keepSplit(styles().styleNew));
         return forward();
     }

@@ -128,9 +128,12 @@ private:
         const int limit =
             static_cast<int>(m_measurer.Wrapped(kProbeText, TaskDialogFont::kText, right() - left).cx);
         const SIZE text = m_measurer.Wrapped(m_contents.verification, TaskDialogFont::kText, limit);
-        noteHeight(static_cast<int>(text.cy), 2 * m_unit);
+        const int height = std::max(static_cast<int>(text.cy), m_buttonHeight);
+        // Kept: a button's height counts as well, so that a box is too tall where two lines of the font are
+        // lower than a button.
+        noteHeight(height, 2 * m_unit);
         box.right = left + text.cx;
-        box.bottom = m_y + std::max(static_cast<int>(text.cy), m_buttonHeight);
+        box.bottom = m_y + height;
         // The box itself lies in the margin that the measure left.
         box.left = m_unit;
     }

@@ -27,6 +27,8 @@ constexpr int kStandardBaseX = 8, kStandardBaseY = 16;  // dialog base units at 
 BEGIN_MESSAGE_MAP(CUiTaskDialog, CKtUiDialog)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_VSCROLL()
+    ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 CUiTaskDialog::CUiTaskDialog(CTaskDialogImpl& impl, CWnd* parent)
@@ -40,6 +42,7 @@ BOOL CUiTaskDialog::OnInitDialog() {
     if (m_impl.m_commands.empty() && m_impl.m_commonButtons == 0) m_impl.m_commonButtons = kOkButton;
     createChildren(place());
     if (CWnd* first = GetNextDlgTabItem(nullptr)) first->SetFocus();
+    revealFocus();
     return FALSE;
 }
 
@@ -85,15 +88,27 @@ TaskDialogLayout CUiTaskDialog::place() {
     workArea.right -= frame.cx;
     workArea.bottom -= frame.cy;
 
-    const TaskDialogMetrics metrics = metricsFor(workArea);
+    TaskDialogMetrics metrics = metricsFor(workArea);
     const DialogMeasurer measurer(*this, m_textFont, m_headingFont);
     TaskDialogLayout layout = FitTaskDialog(m_impl.contents(), metrics, measurer);
+    CSize outer(layout.width, layout.height);
+    const bool isTooTall = layout.height > metrics.workHeight;
+    if (isTooTall) {
+        // What the screen has no room for is scrolled to, beside a bar that takes its share of the width.
+        const int bar = ::GetSystemMetrics(SM_CXVSCROLL);
+        metrics.workWidth -= bar;
+        layout = FitTaskDialog(m_impl.contents(), metrics, measurer);
+        outer = CSize(layout.width + bar, metrics.workHeight);
+        ModifyStyle(0, WS_VSCROLL);
+    }
     m_footerTop = layout.footerTop;
     m_textLeft = layout.textLeft;
-    SetWindowPos(nullptr, static_cast<int>(workArea.left) + (workArea.Width() - layout.width) / 2,
-                 static_cast<int>(workArea.top) + (workArea.Height() - layout.height) / 2,
-                 layout.width + static_cast<int>(frame.cx), layout.height + static_cast<int>(frame.cy),
+    SetWindowPos(nullptr,
+                 static_cast<int>(workArea.left) + (workArea.Width() - static_cast<int>(outer.cx)) / 2,
+                 static_cast<int>(workArea.top) + (workArea.Height() - static_cast<int>(outer.cy)) / 2,
+                 static_cast<int>(outer.cx + frame.cx), static_cast<int>(outer.cy + frame.cy),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    if (isTooTall) m_scrolled.begin(layout.height, metrics.workHeight, m_unit);
     return layout;
 }
 
@@ -181,8 +196,12 @@ void CUiTaskDialog::SetCommonButtonOptions(int disabledMask) {
 }
 
 BOOL CUiTaskDialog::PreTranslateMessage(MSG* message) {
-    if (message->message != WM_KEYDOWN || message->wParam != VK_RETURN)
-        return CKtUiDialog::PreTranslateMessage(message);
+    if (message->message != WM_KEYDOWN || message->wParam != VK_RETURN) {
+        const bool isKey = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+        const BOOL handled = CKtUiDialog::PreTranslateMessage(message);
+        if (isKey && m_hWnd != nullptr) revealFocus();
+        return handled;
+    }
     const HWND focus = ::GetFocus();
     for (const std::unique_ptr<CUiButton>& button : m_buttons)
         if (button->m_hWnd == focus) {
@@ -217,7 +236,27 @@ void CUiTaskDialog::OnCancel() {
     if (m_impl.isCancellable()) EndDialog(IDCANCEL);
 }
 
+void CUiTaskDialog::revealFocus() {
+    const HWND focus = ::GetFocus();
+    if (!m_scrolled.isOn() || !::IsChild(m_hWnd, focus)) return;
+    CRect rect;
+    ::GetWindowRect(focus, &rect);
+    ScreenToClient(&rect);
+    m_scrolled.reveal(rect);
+}
+
 BOOL CUiTaskDialog::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CUiTaskDialog::OnVScroll(UINT code, UINT position, CScrollBar* bar) {
+    if (bar == nullptr) m_scrolled.onScroll(code);
+    CKtUiDialog::OnVScroll(code, position, bar);
+}
+
+BOOL CUiTaskDialog::OnMouseWheel(UINT flags, short turn, CPoint point) {
+    if (!m_scrolled.isOn()) return CKtUiDialog::OnMouseWheel(flags, turn, point);
+    m_scrolled.onWheel(turn);
+    return TRUE;
+}
 
 void CUiTaskDialog::OnPaint() {
     CPaintDC dc(this);
@@ -226,9 +265,11 @@ void CUiTaskDialog::OnPaint() {
     dc.FillSolidRect(&client, MessagePaper());
     const int icon = KtUiAppearancePixels(m_hWnd, kIconSize);
     if (m_impl.m_mainIcon != nullptr)
-        ::DrawIconEx(dc.m_hDC, m_unit, m_unit, m_impl.m_mainIcon, icon, icon, 0, nullptr, DI_NORMAL);
+        ::DrawIconEx(dc.m_hDC, m_unit, m_unit - m_scrolled.offset(), m_impl.m_mainIcon, icon, icon, 0,
+                     nullptr, DI_NORMAL);
     if (m_footerTop < 0) return;
-    const CRect footer(0, m_footerTop, static_cast<int>(client.right), static_cast<int>(client.bottom));
+    const CRect footer(0, m_footerTop - m_scrolled.offset(), static_cast<int>(client.right),
+                       static_cast<int>(client.bottom));
     dc.FillSolidRect(&footer, ::GetSysColor(COLOR_3DFACE));
     const CRect line(footer.left, footer.top, footer.right, footer.top + 1);
     dc.FillSolidRect(&line, ::GetSysColor(COLOR_3DSHADOW));

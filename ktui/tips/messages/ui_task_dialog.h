@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <ktui/dialogs/ktui_dialog.h>
+#include <ktui/tips/messages/scrolled_contents.h>
 #include <ktui/tips/messages/task_dialog_layout.h>
 #include <ktui/tips/messages/ui_button.h>
 #include <ktui/tips/messages/ui_static.h>
@@ -30,12 +31,16 @@ protected:
 
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg BOOL OnMouseWheel(UINT flags, short turn, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
     void makeFonts();
     TaskDialogMetrics metricsFor(const CRect& workArea) const;
     TaskDialogLayout place();
+    /// Brings the control with the focus into view where the contents are taller than the screen.
+    void revealFocus();
     void createChildren(const TaskDialogLayout& layout);
     void createText(CUiStatic& text, const CString& words, const CRect& rect, COLORREF color, CFont& font);
     void makeButton(const TaskDialogPlacedButton& placed);
@@ -46,6 +51,7 @@ private:
     void end(int id);
 
     CTaskDialogImpl& m_impl;
+    ScrolledContents m_scrolled{*this};
     CFont m_textFont;
     CFont m_headingFont;
     int m_footerTop = -1;

@@ -252,6 +252,15 @@ TEST_F(TaskDialogLayoutTest, VerificationTextWrapsAtTheWidthOfTheProbe) {
     EXPECT_EQ(tall.height, 42 + 36 + 6);
 }
 
+TEST_F(TaskDialogLayoutTest, ABoxAsHighAsAButtonIsTooTallForASmallFont) {
+    contents.verification = Letters(3);
+    metrics.fontHeight = 11;  // two lines are 22, a button 24
+    EXPECT_EQ(At(350).checkBox.Height(), 24);
+    EXPECT_EQ(At(350).flags, kTaskDialogTooTall);
+    metrics.fontHeight = 12;
+    EXPECT_EQ(At(350).flags, 0u);
+}
+
 TEST_F(TaskDialogLayoutTest, VerificationTextHasNoMoreRoomThanTheDialog) {
     contents.verification = Letters(30);
     // From 36 to 188 are 152 pixels: 25 letters.

@@ -164,6 +164,9 @@ TEST_F(SplitButton, StylesStaySplit) {
         EXPECT_EQ(styles.styleNew, WS_CHILD | expected) << wanted;
         EXPECT_TRUE(wasForwarded(WM_STYLECHANGING));
     }
+    STYLESTRUCT extended = {12, 2};
+    Send(WM_STYLECHANGING, static_cast<WPARAM>(GWL_EXSTYLE), reinterpret_cast<LPARAM>(&extended));
+    EXPECT_EQ(extended.styleNew, 12u) << "extended styles are taken for styles";
     STYLESTRUCT fromPlain = {WS_CHILD | 0, WS_CHILD | 1};
     Send(WM_STYLECHANGING, static_cast<WPARAM>(GWL_STYLE), reinterpret_cast<LPARAM>(&fromPlain));
     EXPECT_EQ(fromPlain.styleNew, static_cast<DWORD>(WS_CHILD | 1));
