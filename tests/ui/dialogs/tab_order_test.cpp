@@ -137,26 +137,8 @@ TEST_F(TabOrder, AModuleCanAddNothingBeforeTheDialogHasStarted) {
     early.DestroyWindow();
 }
 
-class ReturnOnOthers : public TabTest {
-protected:
-    static BOOL press(CKbUiTabChildDialog& page, HWND target) {
-        MSG typed = {target, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
-        return page.PreTranslateMessage(&typed);
-    }
-};
-
-TEST_F(ReturnOnOthers, AButtonWhoseStyleLooksLikeSeveralLinesStillPressesOk) {
-    addPages(1);
-    CButton radio;
-    static_assert(BS_RADIOBUTTON == ES_MULTILINE);
-    radio.Create(L"", WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON, CRect(0, 0, 9, 9), &a, 1050);
-    radio.SetFocus();
-    EXPECT_TRUE(press(a, radio.m_hWnd));
-    EXPECT_EQ(taken(), (Log{"a exchange", "a ok"}));
-}
-
 /// Whether the key went on to the platform, which tells the main dialog of it, and who had the focus then.
-class ReturnGoesOn : public ReturnOnOthers {
+class ReturnGoesOn : public TabTest {
 protected:
     void pressIn(const CWnd& edit) {
         ::SetFocus(edit.m_hWnd);
@@ -167,7 +149,8 @@ protected:
             ++commands;
             focused = ::GetFocus();
         });
-        press(a, edit.m_hWnd);
+        MSG typed = {edit.m_hWnd, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
+        a.PreTranslateMessage(&typed);
     }
     int commands = 0;
     HWND focused = nullptr;
@@ -190,6 +173,16 @@ TEST_F(ReturnGoesOn, OnAPageWithoutATab) {
     EXPECT_EQ(commands, 1);
     EXPECT_EQ(focused, edit.m_hWnd);
     EXPECT_TRUE(taken().empty());
+}
+
+TEST_F(ReturnGoesOn, FromTheOkButtonOnAButtonWhoseStyleLooksLikeSeveralLines) {
+    addPages(1);
+    CButton radio;
+    static_assert(BS_RADIOBUTTON == ES_MULTILINE);
+    radio.Create(L"", WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON, CRect(0, 0, 9, 9), &a, 1050);
+    pressIn(radio);
+    EXPECT_EQ(commands, 1);
+    EXPECT_EQ(focused, ::GetDlgItem(dialog.m_hWnd, IDOK));
 }
 
 }  // namespace
