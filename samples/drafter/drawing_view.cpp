@@ -46,7 +46,7 @@ BOOL CDrawingView::CreateView(CWnd* parent, UINT id) {
 }
 
 void CDrawingView::SetScene(Scene scene, bool keepPlace) {
-    hideTip();
+    HideTip();
     m_scene = std::move(scene);
     if (!keepPlace) {
         m_selection.clear();
@@ -129,7 +129,7 @@ void CDrawingView::moveCrosshair(std::optional<CPoint> pixel) {
 }
 
 void CDrawingView::OnMouseLeave() {
-    hideTip();
+    HideTip();
     moveCrosshair({});
 }
 
@@ -142,7 +142,7 @@ void CDrawingView::OnSize(UINT type, int cx, int cy) {
 }
 
 void CDrawingView::OnLButtonDown(UINT flags, CPoint point) {
-    hideTip();
+    HideTip();
     SetFocus();
     if (IsPickingPlaces()) {
         m_pointer = FromPixel(point);
@@ -191,7 +191,7 @@ void CDrawingView::OnMouseMove(UINT, CPoint point) {
 void CDrawingView::updateTip(CPoint pixel) {
     const OdDbObjectId entity = m_panning || !AreTipsOn() ? OdDbObjectId() : entityAt(pixel);
     if (entity == m_tipEntity) return;
-    hideTip();
+    HideTip();
     if (entity.isNull()) return;
     if (m_tip.m_hWnd == nullptr && !m_tip.Create(this)) return;
     m_tipEntity = entity;
@@ -200,7 +200,7 @@ void CDrawingView::updateTip(CPoint pixel) {
     m_tip.Activate(place, DescribeObject(m_scene, entity));
 }
 
-void CDrawingView::hideTip() {
+void CDrawingView::HideTip() {
     m_tipEntity = OdDbObjectId();
     if (m_tip.m_hWnd != nullptr) m_tip.Deactivate();
 }
@@ -211,7 +211,7 @@ void CDrawingView::OnDestroy() {
 }
 
 BOOL CDrawingView::OnMouseWheel(UINT, short delta, CPoint point) {
-    hideTip();
+    HideTip();
     ScreenToClient(&point);
     zoomAt(point, std::pow(kZoomStep, delta / static_cast<double>(WHEEL_DELTA)));
     return TRUE;

@@ -36,6 +36,8 @@ public:
 
     const std::set<OdDbObjectId>& selection() const { return m_selection; }
     void SetSelection(std::set<OdDbObjectId> selection);
+    /// Takes away the tip of the object under the pointer, also one that waits.
+    void HideTip();
     /// Place of the pointer in drawing units.
     OdGePoint2d pointer() const { return m_pointer; }
 
@@ -88,7 +90,6 @@ private:
     enum class Picking { kNothing, kPlaces, kObjects };
     /// Starts, keeps or takes away the tip of the object under the pointer.
     void updateTip(CPoint pixel);
-    void hideTip();
 
     Scene m_scene;
     std::set<OdDbObjectId> m_selection;

@@ -40,6 +40,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_WM_SIZE()
     ON_WM_CLOSE()
     ON_WM_SETFOCUS()
+    ON_WM_ENABLE()
     ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CMainFrame::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CMainFrame::OnPointer)
@@ -116,6 +117,12 @@ void CMainFrame::OnClose() {
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_view.SetFocus(); }
+
+void CMainFrame::OnEnable(BOOL enable) {
+    CFrameWnd::OnEnable(enable);
+    // A dialog has come up, under a pointer that the view no longer hears of.
+    if (!enable) m_view.HideTip();
+}
 
 /// The window went to a monitor of another resolution: it takes the place that the system suggests.
 LRESULT CMainFrame::OnDpiChanged(WPARAM, LPARAM lParam) {

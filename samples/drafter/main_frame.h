@@ -34,6 +34,7 @@ protected:
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnClose();
     afx_msg void OnSetFocus(CWnd* former);
+    afx_msg void OnEnable(BOOL enable);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);

@@ -83,10 +83,7 @@ void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error
 }
 
 NewerFileChoice AskNewerFile(CWnd& parent, const CString& path) {
-    CKhProfileStore& settings = *CKhSystem::instance()->profileStore();
-    int always = 0;
-    if (settings.getProfileInt(kSettings, kOverwriteNewer, always, 0) && always)
-        return NewerFileChoice::kOverwrite;
+    if (AnyMessageAnswered()) return NewerFileChoice::kOverwrite;
     Question question(textOf(IDS_NEWER_HEADING));
     question.SetContent(formatted(IDS_NEWER_EXPLAINED, path));
     question.SetMainIcon(warningIcon());
@@ -97,8 +94,15 @@ NewerFileChoice AskNewerFile(CWnd& parent, const CString& path) {
     if (answer == 1) return NewerFileChoice::kSaveAs;
     if (answer != 0) return NewerFileChoice::kCancel;
     // Only an answer that can be given for the user is remembered.
-    if (question.GetVerificationCheckboxState()) settings.setProfileInt(kSettings, kOverwriteNewer, 1, 0);
+    if (question.GetVerificationCheckboxState())
+        CKhSystem::instance()->profileStore()->setProfileInt(kSettings, kOverwriteNewer, 1, 0);
     return NewerFileChoice::kOverwrite;
+}
+
+bool AnyMessageAnswered() {
+    int always = 0;
+    return CKhSystem::instance()->profileStore()->getProfileInt(kSettings, kOverwriteNewer, always, 0) &&
+           always != 0;
 }
 
 void ForgetMessageAnswers() {

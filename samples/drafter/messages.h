@@ -21,5 +21,7 @@ enum class NewerFileChoice { kOverwrite, kSaveAs, kCancel };
 /// keeps among the settings of the user.
 NewerFileChoice AskNewerFile(CWnd& parent, const CString& path);
 
+/// Whether the user has answered any question once and for all.
+bool AnyMessageAnswered();
 /// Lets every question be asked again.
 void ForgetMessageAnswers();

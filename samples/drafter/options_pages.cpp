@@ -5,6 +5,7 @@
 #include <ktdb.h>
 #include <ktut.h>
 
+#include "messages.h"
 #include "resource.h"
 
 namespace {
@@ -63,6 +64,10 @@ BEGIN_MESSAGE_MAP(CFilesPage, COptionsPage)
     ON_BN_CLICKED(IDC_BROWSE_TEMPLATE, &CFilesPage::OnBrowseTemplate)
 END_MESSAGE_MAP()
 
+BEGIN_MESSAGE_MAP(CDisplayPage, COptionsPage)
+    ON_BN_CLICKED(IDC_SHOW_MESSAGES, &CDisplayPage::OnShowMessages)
+END_MESSAGE_MAP()
+
 BEGIN_MESSAGE_MAP(CUnitsPage, COptionsPage)
     ON_CBN_SELCHANGE(IDC_LINEAR_UNITS, &CUnitsPage::OnChoice)
     ON_CBN_SELCHANGE(IDC_LINEAR_PRECISION, &CUnitsPage::OnChoice)
@@ -106,6 +111,8 @@ bool COptionsPage::accept() {
     sayProblem(problem);
     if (problem.IsEmpty()) return true;
     ::MessageBeep(MB_ICONEXCLAMATION);
+    // OK and Apply ask the pages behind as well, where the user would see neither the words nor the field.
+    if (m_tab != nullptr) m_tab->SetActiveTab(GetTabIndex());
     GotoDlgCtrl(GetDlgItem(id));
     return false;
 }
@@ -172,6 +179,21 @@ void CDisplayPage::Show() {
     showColor(m_background, m_options.background);
     showColor(m_selection, m_options.selection);
     SetDlgItemInt(IDC_CROSSHAIR, static_cast<UINT>(m_options.crosshair));
+    showMessagesState();
+}
+
+void CDisplayPage::showMessagesState() {
+    const bool answered = AnyMessageAnswered();
+    SetDlgItemText(IDC_MESSAGES_STATE, textOf(answered ? IDS_MESSAGES_ANSWERED : IDS_MESSAGES_ALL));
+    CWnd* const button = GetDlgItem(IDC_SHOW_MESSAGES);
+    // A disabled window that keeps the focus would swallow the keys.
+    if (!answered && ::GetFocus() == button->m_hWnd) NextDlgCtrl();
+    button->EnableWindow(answered);
+}
+
+void CDisplayPage::OnShowMessages() {
+    ForgetMessageAnswers();
+    showMessagesState();
 }
 
 void CDisplayPage::Collect() {

@@ -35,7 +35,7 @@ protected:
     DrafterOptions& m_options;
 
 private:
-    /// Says what is bad and goes there; true if nothing is.
+    /// Says what is bad and goes there, to the front if need be; true if nothing is.
     bool accept();
     void sayProblem(const CString& problem);
 };
@@ -54,6 +54,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+/// The messages button acts at once: it is no option that Cancel would take back.
 class CDisplayPage : public COptionsPage {
     DECLARE_DYNAMIC(CDisplayPage)
 
@@ -65,8 +66,13 @@ protected:
     void Show() override;
     void Collect() override;
     CString Problem(int& id) override;
+    afx_msg void OnShowMessages();
+    DECLARE_MESSAGE_MAP()
 
 private:
+    /// Says whether messages are held back, and enables the button if so.
+    void showMessagesState();
+
     CKtUiTrueColorComboBox m_background, m_selection;
 };
 

@@ -65,6 +65,8 @@ private:
         for (const Field& field : kFields) {
             if (text(field.id).GetLength() <= kLongestField) continue;
             SetDlgItemText(IDC_TITLE_MESSAGE, textOf(IDS_TOO_LONG));
+            // OK and Apply ask the page behind the others as well.
+            if (m_tab != nullptr) m_tab->SetActiveTab(GetTabIndex());
             GotoDlgCtrl(GetDlgItem(field.id));
             return false;
         }

@@ -92,6 +92,50 @@ TEST_F(Options, ByKeysAPageRefusesSaysWhyAndLetsGo) {
     cancel(dialog);
 }
 
+/// The tip of an object in the drawing, once it can be seen; null without one.
+HWND tipInSight() {
+    for (HWND tip = nullptr;
+         (tip = ::FindWindowExW(nullptr, tip, L"Quorvex Velmora tip", nullptr)) != nullptr;)
+        if (::IsWindowVisible(tip) && rectOf(tip).left >= 0) return tip;
+    return nullptr;
+}
+
+TEST_F(Options, TheTipOfAnObjectGoesWhenTheDialogComes) {
+    drafter->activate(drafter->frame());
+    const RECT view = rectOf(drafter->view());
+    const int middle = (view.bottom - view.top) / 2;
+    HWND tip = nullptr;
+    // The outline crosses the middle of the view, wherever that is.
+    for (int x = 8; tip == nullptr && x < view.right - view.left; x += 3) {
+        drafter->hover(drafter->view(), {x, middle});
+        waitUntil([&] { return (tip = tipInSight()) != nullptr; }, x % 2 != 0 ? 1 : 700);
+    }
+    ASSERT_NE(tip, nullptr);
+    HWND dialog = openOptions();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(waitUntil([&] { return tipInSight() == nullptr; }, 2000));
+    cancel(dialog);
+}
+
+TEST_F(Options, MessagesAreShownAgainByKeysAlone) {
+    const wchar_t* const key = L"Software\\Velmora\\ktui\\Default\\Messages";
+    const wchar_t* const name = L"OverwriteNewer";
+    DWORD answered = 1;
+    ::RegSetKeyValueW(HKEY_CURRENT_USER, key, name, REG_DWORD, &answered, sizeof answered);
+    HWND dialog = openOptions();
+    ASSERT_NE(dialog, nullptr);
+    drafter->key(VK_TAB, true);
+    HWND display = pageWith(dialog, IDC_SHOW_MESSAGES);
+    HWND button = item(display, IDC_SHOW_MESSAGES);
+    EXPECT_TRUE(::IsWindowEnabled(button));
+    drafter->key('M', false, true);
+    EXPECT_TRUE(waitUntil([&] { return !::IsWindowEnabled(button); }));
+    DWORD size = sizeof answered;
+    ::RegGetValueW(HKEY_CURRENT_USER, key, name, RRF_RT_REG_DWORD, nullptr, &answered, &size);
+    EXPECT_EQ(answered, 0u);
+    cancel(dialog);
+}
+
 TEST_F(Options, TheExtensionsPageFillsTheTitleBlock) {
     HWND dialog = openOptions();
     ASSERT_NE(dialog, nullptr);

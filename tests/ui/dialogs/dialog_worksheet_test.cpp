@@ -75,6 +75,76 @@ TEST_F(Worksheet, TheMessagesOfItsMapHaveNoEffect) {
     EXPECT_EQ(before, after);
 }
 
+/// Notes the messages that get as far as the platform's own processing.
+template <class Sheet>
+class Noting : public Sheet {
+public:
+    using Sheet::Sheet;
+    std::vector<UINT> processed;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        processed.push_back(message);
+        return Sheet::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+/// Whether `message`, sent to `sheet`, gets there.
+template <class Sheet>
+bool isProcessed(Noting<Sheet>& sheet, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    sheet.processed.clear();
+    sheet.SendMessage(message, wParam, lParam);
+    return std::find(sheet.processed.begin(), sheet.processed.end(), message) != sheet.processed.end();
+}
+
+/// Both names of the class with the messages that the application's name has handlers for.
+class WorksheetMessages : public Worksheet {
+protected:
+    WorksheetMessages() : kept(IDD_ELASTIC, &parent, nullptr), base(IDD_ELASTIC, &parent, nullptr) {
+        kept.Create(IDD_ELASTIC, &parent);
+        base.Create(IDD_ELASTIC, &parent);
+    }
+    Noting<CKtUiDialogWorksheet> kept;
+    Noting<CKbUiDialogWorksheet> base;
+};
+
+TEST_F(WorksheetMessages, OfItsMapEndAtTheirHandlers) {
+    const struct {
+        UINT message;
+        WPARAM word;
+    } ended[] = {{WM_MOUSEMOVE, 0},  {WM_SIZE, SIZE_RESTORED}, {WM_NCHITTEST, 0},    {WM_NCPAINT, 1},
+                 {WM_NCACTIVATE, 0}, {WM_NCLBUTTONUP, 0},      {WM_NCMOUSEMOVE, 0},  {WM_LBUTTONDOWN, 0},
+                 {WM_LBUTTONUP, 0},  {WM_QUERYDRAGICON, 0},    {WM_NCLBUTTONDOWN, 0}};
+    for (const auto& each : ended) {
+        EXPECT_FALSE(isProcessed(kept, each.message, each.word)) << std::hex << each.message;
+        EXPECT_TRUE(isProcessed(base, each.message, each.word))
+            << "without a map: " << std::hex << each.message;
+    }
+}
+
+TEST_F(WorksheetMessages, OfTheSystemGoOnToThePlatform) {
+    EXPECT_TRUE(isProcessed(kept, WM_SYSCOLORCHANGE));
+    EXPECT_TRUE(isProcessed(kept, WM_SYSCOMMAND, SC_HOTKEY));
+    EXPECT_TRUE(isProcessed(kept, WM_MOVE));
+}
+
+TEST_F(WorksheetMessages, AnOwnerDrawnControlIsDrawnOnTheBaseAlone) {
+    struct Drawn : CButton {
+        int times = 0;
+        void DrawItem(LPDRAWITEMSTRUCT) override { ++times; }
+    } onKept, onBase;
+    onKept.Create(L"", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 20, 20), &kept, 77);
+    onBase.Create(L"", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 20, 20), &base, 77);
+    for (Drawn* each : {&onKept, &onBase}) {
+        each->GetParent()->ShowWindow(SW_SHOW);
+        each->RedrawWindow();
+    }
+    EXPECT_EQ(onKept.times, 0);
+    EXPECT_GT(onBase.times, 0);
+    onKept.DestroyWindow();
+    onBase.DestroyWindow();
+}
+
 TEST_F(Worksheet, BothConstructorsAreThoseOfTheDialog) {
     CKbUiWorksheetDraw draw;
     CKbUiDialogWorksheet plain(IDD_ELASTIC, &parent, nullptr), drawn(IDD_ELASTIC, draw, &parent, nullptr);

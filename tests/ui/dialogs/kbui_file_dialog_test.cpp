@@ -36,11 +36,16 @@ public:
     std::vector<std::string> calls;
     KBUI_REPLY reply = kKbUiReplyNone;
     CWnd* mainWindow = nullptr;
+    int commandsPassedOn = 0;  ///< WM_COMMAND that got as far as the platform's own processing
     CWnd* AppMainWindow() override {
         return mainWindow != nullptr ? mainWindow : CKtUiFileDialog::AppMainWindow();
     }
 
 protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        commandsPassedOn += message == WM_COMMAND;
+        return CKtUiFileDialog::DefWindowProc(message, wParam, lParam);
+    }
     void OnInitDialogBegin() override { calls.push_back("begin"); }
     void OnInitDialogFinish() override { calls.push_back(m_icon == nullptr ? "finish" : "finish with icon"); }
     void DoDataExchange(CDataExchange*) override { calls.push_back("exchange"); }
@@ -174,6 +179,59 @@ TEST_F(FileTest, AControlsReplyIsReturnedAsItIs) {
     button.UnsubclassWindow();
 }
 
+TEST_F(FileTest, ReturnAndEscapeAreLeftToTheSystemsDialog) {
+    dialog.commandsPassedOn = 0;
+    dialog.SendMessage(WM_COMMAND, IDOK);
+    EXPECT_EQ(dialog.commandsPassedOn, 1) << "a dialog of the toolkit would have ended";
+    dialog.SendMessage(WM_COMMAND, IDCANCEL);
+    EXPECT_EQ(dialog.commandsPassedOn, 2);
+}
+
+TEST_F(FileTest, TheTabKeyGoesRoundItsControls) {
+    dialog.GetDlgItem(IDC_FIRST)->SetFocus();
+    MSG tab = {::GetFocus(), WM_KEYDOWN, VK_TAB, 1, 0, {}};
+    EXPECT_TRUE(dialog.PreTranslateMessage(&tab));
+    EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_SECOND);
+}
+
+TEST_F(FileTest, HasNoToolTipControlToRelayTo) {
+    EXPECT_EQ(dialog.GetWindow(GW_CHILD)->GetDlgCtrlID(), IDC_FIRST);
+    int relayed = 0;
+    ui_test::SentMessages sent(
+        [&](const CWPSTRUCT& message) { relayed += message.message == TTM_RELAYEVENT; });
+    MSG move = {dialog.m_hWnd, WM_MOUSEMOVE, 0, 0, 0, {}};
+    dialog.PreTranslateMessage(&move);
+    EXPECT_EQ(relayed, 0);
+}
+
+TEST_F(FileTest, KeepsItsContextHelpButton) {
+    OpenFile fresh;
+    fresh.Create(IDD_ELASTIC, &holder);
+    fresh.ModifyStyleEx(0, WS_EX_CONTEXTHELP);
+    fresh.OnInitDialog();
+    EXPECT_TRUE(fresh.GetExStyle() & WS_EX_CONTEXTHELP);
+    fresh.DestroyWindow();
+}
+
+TEST_F(FileTest, CompletingTellsTheMainWindowFirstAndEnablesTheDialogBeforeItGivesTheFocusBack) {
+    dialog.GetDlgItem(IDC_SECOND)->SetFocus();
+    dialog.BeginEditorCommand();
+    Calls order;
+    ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+        if (message.message == KbUiMessage() && message.hwnd == main.m_hWnd)
+            order.push_back(dialog.m_editorState == 0 ? "main, completed" : "main");
+        if (message.hwnd == dialog.m_hWnd && message.message == WM_SHOWWINDOW) order.push_back("show");
+        if (message.hwnd == dialog.m_hWnd && message.message == WM_ENABLE) order.push_back("enable");
+        if (message.hwnd == dialog.GetDlgItem(IDC_SECOND)->m_hWnd && message.message == WM_SETFOCUS)
+            order.push_back("focus");
+    });
+    dialog.EnableWindow(FALSE);
+    order.clear();
+    dialog.CompleteEditorCommand(1);
+    ASSERT_EQ(order.size(), 4u);
+    EXPECT_EQ(order, (Calls{"main, completed", "show", "enable", "focus"}));
+}
+
 TEST_F(FileTest, BeginTellsTheMainWindowThoughItIsModeless) {
     CWnd* focused = dialog.GetDlgItem(IDOK);
     focused->SetFocus();
@@ -233,7 +291,6 @@ TEST_F(FileTest, TheWalkStopsAtTheMainWindow) {
 }
 
 TEST_F(FileTest, HidingUsesShowWindowAndNoPlacement) {
-    std::vector<std::pair<UINT, WPARAM>> seen;
     dialog.ShowWindow(SW_MINIMIZE);
     dialog.MakeDialogsVisible(0);
     dialog.MakeDialogsVisible(1);
@@ -264,6 +321,20 @@ TEST_F(ShownFile, FloatingWindowsAreOffWhileItRunsWithItsOwnResources) {
     EXPECT_EQ(saved, former);
     EXPECT_EQ(AfxGetResourceHandle(), former);
     EXPECT_EQ(dialog.m_savedResource, nullptr);
+}
+
+TEST_F(ShownFile, WithoutResourcesOfItsOwnTheCurrentOnesStay) {
+    const HINSTANCE former = AfxGetResourceHandle();
+    HINSTANCE inside = nullptr, saved = former;
+    EXPECT_EQ(dialog.m_resourceInstance, nullptr);
+    when_dialog(L"chooser", [&](HWND window) {
+        inside = AfxGetResourceHandle();
+        saved = dialog.m_savedResource;
+        ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(inside, former);
+    EXPECT_EQ(saved, nullptr);
 }
 
 TEST_F(ShownFile, CancellingAnEditorCommandEndsIt) {

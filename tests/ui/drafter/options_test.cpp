@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "../../../samples/drafter/extensions.h"
+#include "../../../samples/drafter/messages.h"
 #include "../../../samples/drafter/options_dialog.h"
 #include "drafter_fixture.h"
 
@@ -113,6 +114,68 @@ TEST_F(OptionsTest, AFolderThatIsNotThereIsNamed) {
         EXPECT_NE(text_of(on(*dialog, kFiles, IDC_MESSAGE)).Find(L"C:\\windows"), -1);
     });
     EXPECT_TRUE(applied.empty());
+}
+
+TEST_F(OptionsTest, ABadPageBehindTheOthersComesToTheFrontAtOkAndApply) {
+    options.supportFolders = L"C:\\no such folder";
+    for (const int button : {IDOK, static_cast<int>(IDC_APPLY)}) {
+        const auto dialog = make();
+        show(*dialog, [&] {
+            tabs(*dialog).SetActiveTab(kUnits);
+            press(*dialog, button);
+            EXPECT_TRUE(dialog->IsWindowVisible());
+            EXPECT_EQ(tabs(*dialog).GetCurSel(), kFiles);
+            CWnd& field = on(*dialog, kFiles, IDC_SUPPORT_FOLDERS);
+            EXPECT_TRUE(field.IsWindowVisible());
+            EXPECT_EQ(::GetFocus(), field.m_hWnd);
+            EXPECT_NE(text_of(on(*dialog, kFiles, IDC_MESSAGE)).Find(L"C:\\no such folder."), -1);
+        });
+    }
+    EXPECT_TRUE(applied.empty());
+}
+
+/// A user who has answered the question about newer files once and for all.
+class AnsweredMessages : public OptionsTest {
+protected:
+    AnsweredMessages() { ForgetMessageAnswers(); }
+    ~AnsweredMessages() override { ForgetMessageAnswers(); }
+    static void answerOnceAndForAll() {
+        CKhSystem::instance()->profileStore()->setProfileInt(L"Messages", L"OverwriteNewer", 1, 0);
+    }
+};
+
+TEST_F(AnsweredMessages, AreShownAgainAfterTheButtonAndItsTextSaysSo) {
+    answerOnceAndForAll();
+    EXPECT_TRUE(AnyMessageAnswered());
+    EXPECT_EQ(AskNewerFile(parent, L"C:\\newer.dxf"), NewerFileChoice::kOverwrite);
+    CString before;
+    const auto dialog = make();
+    show(*dialog, [&] {
+        turn(*dialog, kDisplay);
+        CWnd& button = on(*dialog, kDisplay, IDC_SHOW_MESSAGES);
+        EXPECT_EQ(text_of(button), L"Show &messages again");
+        EXPECT_TRUE(button.IsWindowEnabled());
+        before = text_of(on(*dialog, kDisplay, IDC_MESSAGES_STATE));
+        EXPECT_NE(before.Find(L"once and for all"), -1);
+        button.SetFocus();
+        button.SendMessage(BM_CLICK);
+        EXPECT_FALSE(button.IsWindowEnabled());
+        EXPECT_NE(::GetFocus(), button.m_hWnd);
+        EXPECT_TRUE(::IsChild(dialog->m_hWnd, ::GetFocus()));
+        EXPECT_NE(text_of(on(*dialog, kDisplay, IDC_MESSAGES_STATE)), before);
+    });
+    // The dialog was cancelled: the button acts at once.
+    EXPECT_FALSE(AnyMessageAnswered());
+    when_dialog(L"", [](HWND question) { ::PostMessageW(question, WM_COMMAND, IDCANCEL, 0); });
+    EXPECT_EQ(AskNewerFile(parent, L"C:\\newer.dxf"), NewerFileChoice::kCancel);
+}
+
+TEST_F(AnsweredMessages, WithoutAnyThereIsNothingToPress) {
+    const auto dialog = make();
+    show(*dialog, [&] {
+        EXPECT_FALSE(on(*dialog, kDisplay, IDC_SHOW_MESSAGES).IsWindowEnabled());
+        EXPECT_NE(text_of(on(*dialog, kDisplay, IDC_MESSAGES_STATE)).Find(L"Every message"), -1);
+    });
 }
 
 TEST_F(OptionsTest, ApplyHandsOverWhatIsSetAndTheDialogStays) {
@@ -243,6 +306,20 @@ TEST_F(ExtensionTest, AddsItsPageAndFillsTheTitleBlock) {
         },
         IDOK);
     EXPECT_EQ(mark->textString(), L"Ada");
+}
+
+TEST_F(ExtensionTest, ItsBadPageComesToTheFrontAtOk) {
+    CExtensions extensions(folder);
+    const auto dialog = make(&extensions);
+    show(*dialog, [&] {
+        on(*dialog, kExtension, 1003).SetWindowText(CString(L'x', 81));
+        press(*dialog, IDOK);
+        EXPECT_TRUE(dialog->IsWindowVisible());
+        EXPECT_EQ(tabs(*dialog).GetCurSel(), kExtension);
+        EXPECT_EQ(::GetFocus(), on(*dialog, kExtension, 1003).m_hWnd);
+        EXPECT_FALSE(text_of(on(*dialog, kExtension, 1004)).IsEmpty());
+        on(*dialog, kExtension, 1003).SetWindowText(L"");
+    });
 }
 
 TEST_F(ExtensionTest, AMissingOneIsSaidAndTheRestWorks) {

@@ -50,6 +50,24 @@ protected:
             expectWhole(control, id);
         ::DestroyWindow(dialog);
     }
+    /// Expects `text`, which control `id` of a dialog shows at times, to fit into it.
+    void expectFits(int dialog, int id, const CString& text) {
+        const std::vector<BYTE> bytes = scaledTemplate(::GetModuleHandleW(nullptr), dialog, GetParam());
+        ASSERT_FALSE(bytes.empty()) << dialog;
+        const HWND window = ::CreateDialogIndirectParamW(::GetModuleHandleW(nullptr),
+                                                         reinterpret_cast<const DLGTEMPLATE*>(bytes.data()),
+                                                         parent.m_hWnd, plainDialog, 0);
+        ASSERT_NE(window, nullptr) << dialog;
+        ASSERT_FALSE(text.IsEmpty()) << dialog;
+        ::SetDlgItemTextW(window, id, text);
+        expectWhole(::GetDlgItem(window, id), dialog);
+        ::DestroyWindow(window);
+    }
+    static CString textOf(UINT id) {
+        CString text;
+        text.LoadString(::GetModuleHandleW(nullptr), id, GetParam().language);
+        return text;
+    }
     static void expectWhole(HWND control, int dialog) {
         wchar_t name[32] = {};
         ::GetClassNameW(control, name, 32);
@@ -62,7 +80,8 @@ protected:
         const HGDIOBJ former =
             ::SelectObject(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(control, WM_GETFONT, 0, 0)));
         RECT needed = {0, 0, client.right, 0};
-        ::DrawTextW(dc, text, -1, &needed, DT_CALCRECT | DT_SINGLELINE);
+        // A line of text that is too wide goes on below, where it must have room.
+        ::DrawTextW(dc, text, -1, &needed, DT_CALCRECT | (kind == L"Static" ? DT_WORDBREAK : DT_SINGLELINE));
         ::SelectObject(dc, former);
         ::ReleaseDC(control, dc);
         EXPECT_LE(needed.right, client.right)
@@ -76,6 +95,35 @@ TEST_P(Resolutions, TextsOfTheDrafterAreWhole) {
     for (const int id :
          {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME, IDD_BLOCK_CHOICE})
         expectWhole(::GetModuleHandleW(nullptr), id);
+}
+
+TEST_P(Resolutions, TextsOfTheOptionsAreWhole) {
+    for (const int id : {IDD_OPTIONS, IDD_OPTIONS_FILES, IDD_OPTIONS_DISPLAY, IDD_OPTIONS_UNITS})
+        expectWhole(::GetModuleHandleW(nullptr), id);
+    for (const UINT state : {IDS_MESSAGES_ALL, IDS_MESSAGES_ANSWERED})
+        expectFits(IDD_OPTIONS_DISPLAY, IDC_MESSAGES_STATE, textOf(state));
+    expectFits(IDD_OPTIONS_DISPLAY, IDC_MESSAGE, textOf(IDS_BAD_CROSSHAIR));
+}
+
+TEST_P(Resolutions, WhatIsWrongWithAnExtensionIsReadToItsEnd) {
+    const wchar_t* const path =
+        L"C:\\Program Files\\Velmora Drafting\\Drafter 1.0\\extensions\\title_block.dll";
+    CString text;
+    for (const UINT id : {IDS_EXTENSION_MISSING, IDS_EXTENSION_DAMAGED}) {
+        text.Format(textOf(id), path);
+        expectFits(IDD_OPTIONS, IDC_MESSAGE, text);
+    }
+    text.Format(textOf(IDS_EXTENSION_VERSION), path, 12, 11);
+    expectFits(IDD_OPTIONS, IDC_MESSAGE, text);
+}
+
+TEST_P(Resolutions, TextsOfTheExtensionsPageAreWhole) {
+    const CString program = program_path();
+    const HMODULE module =
+        ::LoadLibraryW(program.Left(program.ReverseFind(L'\\') + 1) + L"extensions\\title_block.dll");
+    ASSERT_NE(module, nullptr);
+    expectWhole(module, 200);
+    ::FreeLibrary(module);
 }
 
 TEST_P(Resolutions, TextsOfTheStandinHostAreWhole) {
