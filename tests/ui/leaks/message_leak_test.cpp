@@ -1,4 +1,4 @@
-// A task dialog of the toolkit with commands, an alert and a rich tip, each shown a thousand times.
+// A task dialog of the toolkit, an alert and a rich tip, each shown a thousand times.
 #include <ktui/tips/kh_tip_ctrl.h>
 #include <ktui/tips/messages/alert_dialog.h>
 #include <ktui/tips/messages/ktui_task_dialog.h>
@@ -15,10 +15,15 @@ constexpr UINT kEnd = WM_APP + 1;
 
 INT_PTR CALLBACK bareDialog(HWND dialog, UINT message, WPARAM, LPARAM buttons) {
     if (message == WM_INITDIALOG) {
-        for (LPARAM i = 0; i < buttons; ++i)
-            ::CreateWindowExW(0, i < 2 ? L"STATIC" : L"BUTTON", L"text",
-                              WS_CHILD | WS_VISIBLE | (i < 2 ? SS_OWNERDRAW : BS_PUSHBUTTON), 0,
-                              static_cast<int>(10 * i), 50, 10, dialog, nullptr, nullptr, nullptr);
+        for (LPARAM i = 0; i < buttons; ++i) {
+            const HWND child =
+                ::CreateWindowExW(0, i < 2 ? L"STATIC" : L"BUTTON", L"text",
+                                  WS_CHILD | WS_VISIBLE | (i < 2 ? SS_OWNERDRAW : BS_PUSHBUTTON), 0,
+                                  static_cast<int>(10 * i), 50, 10, dialog, nullptr, nullptr, nullptr);
+            // This Wine keeps a block for each text that is given a font.
+            ::SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)),
+                           FALSE);
+        }
         ::CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0, 0, dialog, nullptr,
                           nullptr, nullptr);
         ::PostMessageW(dialog, kEnd, 0, 0);
@@ -42,13 +47,15 @@ size_t growthOfBareDialogs(CWnd& parent, const wchar_t* module, int id, int chil
 
 }  // namespace
 
-TEST_F(MessageLeaks, AThousandTaskDialogsOfCommandsLeaveNothing) {
+TEST_F(MessageLeaks, AThousandTaskDialogsLeaveNothing) {
     const size_t systemGrowth = growthOfBareDialogs(parent, L"ktui.dll", 1020, 6);
     int answered = 0;
     leaks::expect_no_growth(
         [&] {
             CKtUiTaskDialog dialog;
             dialog.SetWindowTitle(L"task");
+            dialog.SetMainInstruction(L"The drawing was changed by another program");
+            dialog.SetContent(L"Which of the two is to be kept?");
             dialog.SetMainIcon(::CopyIcon(::LoadIconW(nullptr, IDI_EXCLAMATION)));
             dialog.SetOptions(0x12);
             dialog.AddCommandControl(101, L"Save");
