@@ -95,8 +95,8 @@ TEST_F(FileDialog, StartsWithWhatItIsGiven) {
     EXPECT_EQ(ofn.nMaxFile, static_cast<DWORD>(_MAX_PATH));
     EXPECT_EQ(ofn.Flags & (OFN_PATHMUSTEXIST | OFN_EXPLORER | OFN_ENABLEHOOK | OFN_OVERWRITEPROMPT),
               static_cast<DWORD>(OFN_PATHMUSTEXIST | OFN_EXPLORER | OFN_ENABLEHOOK));
-    EXPECT_EQ(std::wstring(ofn.lpstrFilter, 27),
-              std::wstring(L"Drawings\0*.dxf\0All\0*.*\0\0", 25) + std::wstring(ofn.lpstrFilter + 25, 2));
+    const std::wstring filter(L"Drawings\0*.dxf\0All\0*.*\0", 24);  // two zeros at its end
+    EXPECT_EQ(std::wstring(ofn.lpstrFilter, filter.size()), filter);
     EXPECT_EQ(CFileDialog(TRUE).GetOFN().Flags & (OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT),
               static_cast<DWORD>(OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT));
     EXPECT_EQ(CFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, 76).GetOFN().lStructSize, 76u);
