@@ -46,8 +46,11 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
         }
     }
     m_strTitle = lpszWindowName;
+    // The distances wrap around, so that CW_USEDEFAULT without a right edge is that width.
+    const UINT width = static_cast<UINT>(rect.right) - static_cast<UINT>(rect.left);
+    const UINT height = static_cast<UINT>(rect.bottom) - static_cast<UINT>(rect.top);
     if (CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                 rect.right - rect.left, rect.bottom - rect.top, kmfc::safe_handle(pParentWnd), menu,
+                 static_cast<int>(width), static_cast<int>(height), kmfc::safe_handle(pParentWnd), menu,
                  pContext))
         return TRUE;
     if (menu != nullptr) ::DestroyMenu(menu);

@@ -31,7 +31,7 @@ HRESULT WINAPI seen_dialog(const TASKDIALOGCONFIG* config, int* button, int* rad
     request.verification = text_of(config->pszVerificationText);
     request.icon = config->hMainIcon;
     for (UINT i = 0; i < config->cButtons; ++i)
-        request.commands.emplace_back(config->pButtons[i].nButtonID, config->pButtons[i].pszButtonText);
+        request.commands.emplace_back(+config->pButtons[i].nButtonID, +config->pButtons[i].pszButtonText);
     request.defaultButton = config->nDefaultButton;
     request.width = config->cxWidth;
     task_dialog_requests().push_back(request);

@@ -39,9 +39,10 @@ HRESULT WINAPI SeenDialog(const TASKDIALOGCONFIG* config, int* button, int* radi
     request.collapsedLabel = Text(config->pszCollapsedControlText);
     request.expandedLabel = Text(config->pszExpandedControlText);
     for (UINT i = 0; i < config->cButtons; ++i)
-        request.commands.emplace_back(config->pButtons[i].nButtonID, Text(config->pButtons[i].pszButtonText));
+        request.commands.emplace_back(+config->pButtons[i].nButtonID,
+                                      Text(config->pButtons[i].pszButtonText));
     for (UINT i = 0; i < config->cRadioButtons; ++i)
-        request.radios.emplace_back(config->pRadioButtons[i].nButtonID,
+        request.radios.emplace_back(+config->pRadioButtons[i].nButtonID,
                                     Text(config->pRadioButtons[i].pszButtonText));
     if (!answersAtOnce) return systemDialog(config, button, radio, verified);
     *button = 77;
@@ -113,16 +114,16 @@ TEST_F(TaskDialogClass, IsSupportedHere) { EXPECT_TRUE(CTaskDialog::IsSupported(
 
 TEST_F(TaskDialogClass, AsksForWhatItWasBuiltWith) {
     AtOnce();
-    EXPECT_EQ(request.config.cbSize, sizeof(TASKDIALOGCONFIG));
-    EXPECT_EQ(request.config.hwndParent, parent.m_hWnd);
+    EXPECT_EQ(+request.config.cbSize, sizeof(TASKDIALOGCONFIG));
+    EXPECT_EQ(+request.config.hwndParent, parent.m_hWnd);
     EXPECT_EQ(request.content, L"content");
     EXPECT_EQ(request.heading, L"heading");
-    EXPECT_EQ(request.config.dwCommonButtons, TDCBF_OK_BUTTON | TDCBF_CANCEL_BUTTON);
-    EXPECT_EQ(request.config.dwFlags, TDF_ENABLE_HYPERLINKS | TDF_ALLOW_DIALOG_CANCELLATION);
-    EXPECT_EQ(request.config.cButtons, 0u);
-    EXPECT_EQ(request.config.cRadioButtons, 0u);
-    EXPECT_EQ(request.config.pszFooter, nullptr);
-    EXPECT_EQ(request.config.pszVerificationText, nullptr);
+    EXPECT_EQ(+request.config.dwCommonButtons, TDCBF_OK_BUTTON | TDCBF_CANCEL_BUTTON);
+    EXPECT_EQ(+request.config.dwFlags, TDF_ENABLE_HYPERLINKS | TDF_ALLOW_DIALOG_CANCELLATION);
+    EXPECT_EQ(+request.config.cButtons, 0u);
+    EXPECT_EQ(+request.config.cRadioButtons, 0u);
+    EXPECT_EQ(+request.config.pszFooter, nullptr);
+    EXPECT_EQ(+request.config.pszVerificationText, nullptr);
 }
 
 TEST_F(TaskDialogClass, KeepsTheSystemsAnswers) {
@@ -143,8 +144,8 @@ TEST_F(TaskDialogClass, AsksForControlsInTheirOrderWithTheirDefaults) {
     using Pairs = std::vector<std::pair<int, std::wstring>>;
     EXPECT_EQ(request.commands, (Pairs{{103, L"c"}, {101, L"a"}}));
     EXPECT_EQ(request.radios, (Pairs{{202, L"r2"}, {201, L"r1"}}));
-    EXPECT_EQ(request.config.nDefaultButton, 101);
-    EXPECT_EQ(request.config.nDefaultRadioButton, 201);
+    EXPECT_EQ(+request.config.nDefaultButton, 101);
+    EXPECT_EQ(+request.config.nDefaultRadioButton, 201);
     dialog.RemoveAllCommandControls();
     dialog.RemoveAllRadioButtons();
     AtOnce();
@@ -174,15 +175,15 @@ TEST_F(TaskDialogClass, AnIconIsAHandleOrAName) {
     dialog.SetMainIcon(icon);
     dialog.SetFooterIcon(icon);
     AtOnce();
-    EXPECT_EQ(request.config.hMainIcon, icon);
-    EXPECT_EQ(request.config.hFooterIcon, icon);
+    EXPECT_EQ(+request.config.hMainIcon, icon);
+    EXPECT_EQ(+request.config.hFooterIcon, icon);
     EXPECT_TRUE(request.config.dwFlags & TDF_USE_HICON_MAIN);
     EXPECT_TRUE(request.config.dwFlags & TDF_USE_HICON_FOOTER);
     dialog.SetMainIcon(TD_WARNING_ICON);
     dialog.SetFooterIcon(TD_ERROR_ICON);
     AtOnce();
-    EXPECT_EQ(request.config.pszMainIcon, TD_WARNING_ICON);
-    EXPECT_EQ(request.config.pszFooterIcon, TD_ERROR_ICON);
+    EXPECT_EQ(+request.config.pszMainIcon, TD_WARNING_ICON);
+    EXPECT_EQ(+request.config.pszFooterIcon, TD_ERROR_ICON);
     EXPECT_FALSE(request.config.dwFlags & TDF_USE_HICON_MAIN);
     EXPECT_FALSE(request.config.dwFlags & TDF_USE_HICON_FOOTER);
 }
@@ -191,7 +192,7 @@ TEST_F(TaskDialogClass, OptionsAreTakenAsTheyAre) {
     dialog.SetOptions(TDF_USE_COMMAND_LINKS);
     EXPECT_EQ(dialog.GetOptions(), TDF_USE_COMMAND_LINKS);
     AtOnce();
-    EXPECT_EQ(request.config.dwFlags, TDF_USE_COMMAND_LINKS);
+    EXPECT_EQ(+request.config.dwFlags, TDF_USE_COMMAND_LINKS);
 }
 
 TEST_F(TaskDialogClass, CommonButtonsHaveTheirFlagsAndIds) {
