@@ -65,6 +65,13 @@ else()
   endif()
 endif()
 
+# Tests aren't optimised: compiling them takes half the time so, and what they try stands in the modules.
+add_library(ktui_test_settings INTERFACE)
+target_link_libraries(ktui_test_settings INTERFACE ktui_settings)
+if(MINGW)
+  target_compile_options(ktui_test_settings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-O0>)
+endif()
+
 # ktui_public_headers(target folder destination)
 # Makes the headers in `folder` the target's public ones, and installs the target and them (on Windows).
 function(ktui_public_headers target folder destination)
@@ -116,11 +123,14 @@ function(ktui_test name)
   endif()
   add_executable(${name} ${T_SOURCES})
   if(T_LABEL STREQUAL "core")
-    target_link_libraries(${name} PRIVATE ${T_LINK} ktui_gtest_main ktui_settings)
+    set(common ktui_gtest_main)
   else()
-    target_link_libraries(${name} PRIVATE ${T_LINK} ktui_ui_test ktui_settings)
-    # One precompiled header serves them all: making it takes as long as compiling several tests.
-    target_precompile_headers(${name} REUSE_FROM ktui_ui_test)
+    set(common ktui_ui_test)
+  endif()
+  target_link_libraries(${name} PRIVATE ${T_LINK} ${common} ktui_test_settings)
+  # One precompiled header serves them all: making it takes as long as compiling several tests.
+  if(WIN32)
+    target_precompile_headers(${name} REUSE_FROM ${common})
   endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES LABELS ${T_LABEL} TIMEOUT ${T_TIMEOUT})
