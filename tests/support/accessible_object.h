@@ -27,6 +27,7 @@ public:
 
     std::wstring name(LONG child = 0) const { return text(&IAccessible::get_accName, child); }
     std::wstring value(LONG child = 0) const { return text(&IAccessible::get_accValue, child); }
+    std::wstring description(LONG child = 0) const { return text(&IAccessible::get_accDescription, child); }
     std::wstring action(LONG child = 0) const { return text(&IAccessible::get_accDefaultAction, child); }
     LONG role(LONG child = 0) const { return number(&IAccessible::get_accRole, child); }
     LONG state(LONG child = 0) const { return number(&IAccessible::get_accState, child); }

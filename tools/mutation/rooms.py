@@ -32,7 +32,7 @@ _MFC = ("mfc_gdi_test", "mfc_controls_test", "mfc_window_test", "mfc_dialog_test
 ROOMS = {
     room.name: room
     for room in (
-        _toolkit("host"),
+        _toolkit("host", "ui_host_test", "ui_controls_test", "ui_messages_test"),
         _toolkit("text"),
         _toolkit("input"),
         _toolkit("controls"),

@@ -127,3 +127,12 @@ TEST_F(FramedTip, HasTheSystemsColoursForAHostThatFollowsThem) {
     EXPECT_EQ(canvas.at(100, 30), ::GetSysColor(COLOR_INFOBK));
     EXPECT_EQ(canvas.at(10, 5), ::GetSysColor(COLOR_INFOTEXT));
 }
+
+TEST_F(FramedTip, HasTheSystemsTipColoursForAHostThatFollowsTheSystem) {
+    KtUiFollowSystemAppearance(TRUE);
+    paint(L"");
+    KtUiFollowSystemAppearance(FALSE);
+    expectFrame(canvas, CRect(10, 5, 190, 55), ::GetSysColor(COLOR_INFOTEXT));
+    ASSERT_NE(::GetSysColor(COLOR_INFOBK), kFill);
+    EXPECT_EQ(canvas.at(100, 30), ::GetSysColor(COLOR_INFOBK));
+}
