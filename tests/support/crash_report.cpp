@@ -1,6 +1,8 @@
 #include "crash_report.h"
 
+#include <atomic>
 #include <cstdio>
+#include <cwchar>
 
 #include <windows.h>
 
@@ -44,6 +46,40 @@ LONG WINAPI report(EXCEPTION_POINTERS* exception) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
+std::atomic<unsigned> faults = 0;
+
+/// Whether code at `address` lies in a file of the program's own folder, and not in the system's.
+bool is_own_code(const void* address) {
+    HMODULE module = nullptr;
+    wchar_t program[MAX_PATH] = {}, file[MAX_PATH] = {};
+    if (!::GetModuleHandleExW(
+            GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+            static_cast<LPCWSTR>(address), &module))
+        return false;
+    ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+    ::GetModuleFileNameW(module, file, MAX_PATH);
+    const auto folder = std::wcsrchr(program, L'\\') - program;
+    return ::_wcsnicmp(program, file, static_cast<size_t>(folder) + 1) == 0;
+}
+
+/// Sees every exception first; the system swallows those that leave a window procedure.
+LONG WINAPI note_fault(EXCEPTION_POINTERS* exception) {
+    const DWORD code = exception->ExceptionRecord->ExceptionCode;
+    const bool is_fault = code == EXCEPTION_ACCESS_VIOLATION || code == EXCEPTION_ILLEGAL_INSTRUCTION ||
+                          code == EXCEPTION_INT_DIVIDE_BY_ZERO;
+    if (is_fault && is_own_code(exception->ExceptionRecord->ExceptionAddress)) {
+        ++faults;
+        std::fprintf(stderr, "fault: exception %08lx\n", code);
+        print_stack(*exception->ContextRecord);
+    }
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
 }  // namespace
 
-void install_crash_report() { ::SetUnhandledExceptionFilter(report); }
+unsigned fault_count() { return faults; }
+
+void install_crash_report() {
+    ::SetUnhandledExceptionFilter(report);
+    ::AddVectoredExceptionHandler(1, note_fault);
+}

@@ -5,3 +5,6 @@
 constexpr unsigned kCrashExitCode = 0xC5;
 
 void install_crash_report();
+
+/// How many faults there were so far in the program's own modules, those included that the system swallowed.
+unsigned fault_count();

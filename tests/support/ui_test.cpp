@@ -147,9 +147,27 @@ CString program_path() {
 
 }  // namespace ui_test
 
+namespace {
+
+/// Fails a test in which a module of ours faulted, although the system went on.
+class FaultListener : public ::testing::EmptyTestEventListener {
+    void OnTestStart(const ::testing::TestInfo&) override { m_before = fault_count(); }
+    void OnTestEnd(const ::testing::TestInfo&) override {
+        EXPECT_EQ(fault_count(), m_before) << "a window procedure faulted";
+    }
+    unsigned m_before = 0;
+};
+
+}  // namespace
+
 int main(int argc, char** argv) {
     install_crash_report();
     ::testing::InitGoogleTest(&argc, argv);
+    // Before the printer, which tells of the failures that it makes.
+    ::testing::TestEventListeners& listeners = ::testing::UnitTest::GetInstance()->listeners();
+    ::testing::TestEventListener* printer = listeners.Release(listeners.default_result_printer());
+    listeners.Append(new FaultListener);
+    listeners.Append(printer);
     AfxWinInit(::GetModuleHandleW(nullptr), nullptr, const_cast<LPWSTR>(L""), SW_SHOWNORMAL);
     const int result = RUN_ALL_TESTS();
     AfxWinTerm();

@@ -101,6 +101,13 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeCla
 BOOL CObject::IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
 void CObject::Serialize(CArchive&) {}
 void CObject::AssertValid() const {}
+void CObject::Dump(CDumpContext& dc) const {
+    dc << L"a " << GetRuntimeClass()->m_lpszClassName << L" at " << static_cast<const void*>(this) << L"\n";
+}
+
+void AFXAPI AfxDoForAllClasses(void (*pfn)(const CRuntimeClass* pClass, void* pContext), void* pContext) {
+    for (CRuntimeClass* c = hooks.walker(nullptr); c; c = hooks.walker(c)) pfn(c, pContext);
+}
 
 CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
     return pObject && pObject->IsKindOf(pClass) ? pObject : nullptr;

@@ -1,5 +1,6 @@
 // The common controls.
 #pragma once
+#define __AFXCMN_H__  ///< what programs test to see that this header was there
 
 #include <afxwin.h>
 

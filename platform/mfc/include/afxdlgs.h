@@ -1,5 +1,6 @@
 // The system's dialogs.
 #pragma once
+#define __AFXDLGS_H__  ///< what programs test to see that this header was there
 
 #include <afxwin.h>
 

@@ -1,5 +1,6 @@
 // Buttons with bitmaps, drawing off screen, and bars.
 #pragma once
+#define __AFXEXT_H__  ///< what programs test to see that this header was there
 
 #include <afxwin.h>
 

@@ -1,5 +1,6 @@
 // Arrays, lists and maps of any element type.
 #pragma once
+#define __AFXTEMPL_H__  ///< what programs test to see that this header was there
 
 #include "afx.h"
 

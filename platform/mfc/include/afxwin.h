@@ -1,5 +1,6 @@
 // Windows, menus, drawing, applications, frames, dialogs and the standard controls.
 #pragma once
+#define __AFXWIN_H__  ///< what programs test to see that this header was there
 
 #include <afx.h>
 #include <afxcoll.h>

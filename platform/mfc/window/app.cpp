@@ -1,6 +1,7 @@
 // CWinApp: start and end of the application, its services.
 #include <kmfc/app.h>
 #include <kmfc/ole_data.h>
+#include <kmfc/recent_file_list.h>
 
 #include "thread_state.h"
 
@@ -8,6 +9,8 @@ IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
     ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+    ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
+    ON_COMMAND_EX_RANGE(ID_FILE_MRU_FIRST, ID_FILE_MRU_LAST, &CWinApp::OnOpenRecentFile)
 END_MESSAGE_MAP()
 
 CWinApp::CWinApp(LPCTSTR lpszAppName) {
@@ -24,6 +27,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) {
 }
 
 CWinApp::~CWinApp() {
+    delete m_pRecentFileList;
     AFX_MODULE_STATE* state = AfxGetModuleState();
     if (state->m_pCurrentWinApp == this) state->m_pCurrentWinApp = nullptr;
     if (state->m_lpszCurrentAppName == m_pszAppName) state->m_lpszCurrentAppName = nullptr;
@@ -36,7 +40,10 @@ int CWinApp::Run() {
     if (m_pMainWnd == nullptr) AfxPostQuitMessage(0);
     return CWinThread::Run();
 }
-int CWinApp::ExitInstance() { return CWinThread::ExitInstance(); }
+int CWinApp::ExitInstance() {
+    SaveStdProfileSettings();
+    return CWinThread::ExitInstance();
+}
 BOOL CWinApp::OnIdle(LONG lCount) { return CWinThread::OnIdle(lCount); }
 
 void CWinApp::OnAppExit() {
@@ -44,6 +51,22 @@ void CWinApp::OnAppExit() {
 }
 
 void CWinApp::EnableModeless(BOOL) {}
+
+BOOL CWinApp::ProcessMessageFilter(int code, LPMSG lpMsg) {
+    // F1 reaches the application from dialogs and menus too, if it has a handler for help.
+    constexpr LPARAM repeated = 1 << 30;
+    const bool asked = (code == MSGF_DIALOGBOX || code == MSGF_MENU) && lpMsg != nullptr &&
+                       lpMsg->message == WM_KEYDOWN && lpMsg->wParam == VK_F1 &&
+                       (lpMsg->lParam & repeated) == 0 && ::GetKeyState(VK_SHIFT) >= 0 &&
+                       ::GetKeyState(VK_CONTROL) >= 0;
+    CWnd* main = asked ? GetMainWnd() : nullptr;
+    AFX_CMDHANDLERINFO handler;
+    if (main != nullptr && main->OnCmdMsg(ID_HELP, CN_COMMAND, nullptr, &handler)) {
+        main->SendMessage(WM_COMMAND, ID_HELP);
+        return TRUE;
+    }
+    return CWinThread::ProcessMessageFilter(code, lpMsg);
+}
 
 void CWinApp::DoWaitCursor(int nCode) {
     m_nWaitCursorCount += nCode;
@@ -99,6 +122,10 @@ BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) 
         app->m_pszAppName = app->m_strAppName;
     }
     state->m_lpszCurrentAppName = app->m_pszAppName;
+    if (app->m_pszHelpFilePath == nullptr) {
+        app->m_strHelpFilePath = path;
+        app->SetHelpMode(app->m_eHelpType);
+    }
     if (app->m_pszProfileName == nullptr) {
         app->m_strProfileName = name + L".INI";
         app->m_pszProfileName = app->m_strProfileName;

@@ -239,7 +239,13 @@ LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
     return Default();
 }
 
-LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM) { return FALSE; }
+LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM lParam) {
+    if (lParam == 0 && m_nIDHelp != 0) lParam = HID_BASE_RESOURCE + static_cast<LPARAM>(m_nIDHelp);
+    CWinApp* app = AfxGetApp();
+    if (lParam == 0 || app == nullptr) return FALSE;
+    app->WinHelp(static_cast<DWORD_PTR>(lParam));
+    return TRUE;
+}
 
 BOOL CDialog::OnInitDialog() { return UpdateData(FALSE) ? TRUE : (EndDialog(-1), FALSE); }
 

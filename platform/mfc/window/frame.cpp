@@ -17,6 +17,7 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUSELECT()
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+    ON_MESSAGE(WM_COMMANDHELP, &CFrameWnd::OnCommandHelp)
 END_MESSAGE_MAP()
 
 CFrameWnd::CFrameWnd() = default;
@@ -58,6 +59,7 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
 }
 
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, void* pContext) {
+    m_nIDHelp = nIDResource;
     CString full, title;
     if (full.LoadString(nIDResource)) AfxExtractSubString(title, full, 0);
     const LPCTSTR name = MAKEINTRESOURCEW(nIDResource);
@@ -213,4 +215,14 @@ void CFrameWnd::EndModalState() {
     }
     m_disabledWindows.RemoveAll();
     EnableWindow(TRUE);
+}
+
+LRESULT CFrameWnd::OnCommandHelp(WPARAM, LPARAM lParam) {
+    if (lParam == 0 && m_nIDTracking != 0 && m_nIDTracking != AFX_IDS_IDLEMESSAGE)
+        lParam = HID_BASE_COMMAND + static_cast<LPARAM>(m_nIDTracking);
+    if (lParam == 0 && m_nIDHelp != 0) lParam = HID_BASE_RESOURCE + static_cast<LPARAM>(m_nIDHelp);
+    CWinApp* app = AfxGetApp();
+    if (lParam == 0 || app == nullptr) return FALSE;
+    app->WinHelp(static_cast<DWORD_PTR>(lParam));
+    return TRUE;
 }

@@ -192,6 +192,111 @@ void fill_owner_draw(std::array<WindowInvoker, AfxSig_window_count>& t) {
     };
 }
 
+/// The clipboard, devices, the session, and what the system tells of its settings and menus.
+void fill_system(std::array<WindowInvoker, AfxSig_window_count>& t) {
+    t[AfxSig_v_appcommand] = INVOKER {
+        return call<void, CWnd*, UINT, UINT, UINT>(wnd, f, wnd_of(w), GET_APPCOMMAND_LPARAM(l),
+                                                   GET_DEVICE_LPARAM(l), GET_KEYSTATE_LPARAM(l)),
+               TRUE;
+    };
+    t[AfxSig_v_u_text] = INVOKER {
+        return call<void, UINT, LPTSTR>(wnd, f, static_cast<UINT>(w), reinterpret_cast<LPTSTR>(l)), 0;
+    };
+    t[AfxSig_v_text] = INVOKER { return call<void, LPTSTR>(wnd, f, reinterpret_cast<LPTSTR>(l)), 0; };
+    t[AfxSig_v_ctext] = INVOKER { return call<void, LPCTSTR>(wnd, f, reinterpret_cast<LPCTSTR>(l)), 0; };
+    t[AfxSig_v_hwnd_hwnd] = INVOKER {
+        return call<void, HWND, HWND>(wnd, f, reinterpret_cast<HWND>(w), reinterpret_cast<HWND>(l)), 0;
+    };
+    t[AfxSig_v_wnd_u_u] = INVOKER {
+        return call<void, CWnd*, UINT, UINT>(wnd, f, wnd_of(w), low(l), high(l)), 0;
+    };
+    t[AfxSig_v_wnd_global] = INVOKER {
+        return call<void, CWnd*, HGLOBAL>(wnd, f, wnd_of(w), reinterpret_cast<HGLOBAL>(l)), 0;
+    };
+    t[AfxSig_v_lo_hi] = INVOKER { return call<void, UINT, UINT>(wnd, f, LOWORD(w), HIWORD(w)), 0; };
+    t[AfxSig_i_lo_hi] = INVOKER { return call<int, UINT, UINT>(wnd, f, LOWORD(w), HIWORD(w)); };
+    t[AfxSig_b_u_dwp] = INVOKER {
+        return call<BOOL, UINT, DWORD_PTR>(wnd, f, static_cast<UINT>(w), static_cast<DWORD_PTR>(l));
+    };
+    t[AfxSig_u_u_l] = INVOKER {
+        return static_cast<LRESULT>(call<UINT, UINT, LPARAM>(wnd, f, static_cast<UINT>(w), l));
+    };
+    t[AfxSig_v_u_u] = INVOKER {
+        return call<void, UINT, UINT>(wnd, f, static_cast<UINT>(w), static_cast<UINT>(l)), 0;
+    };
+    t[AfxSig_v_u_dw] = INVOKER {
+        return call<void, UINT, DWORD>(wnd, f, static_cast<UINT>(w), static_cast<DWORD>(l)), 0;
+    };
+    t[AfxSig_v_spooler] = INVOKER { return call<void, UINT, UINT>(wnd, f, static_cast<UINT>(w), low(l)), 0; };
+    t[AfxSig_v_dw_b] = INVOKER { return call<void, DWORD, BOOL>(wnd, f, static_cast<DWORD>(w), l != 0), 0; };
+    t[AfxSig_v_ushort] = INVOKER {
+        return call<void, unsigned short>(wnd, f, static_cast<unsigned short>(w)), 0;
+    };
+    t[AfxSig_v_u_rawinput] = INVOKER {
+        return call<void, UINT, HRAWINPUT>(wnd, f, static_cast<UINT>(w), reinterpret_cast<HRAWINPUT>(l)), 0;
+    };
+    t[AfxSig_v_dc] = INVOKER {
+        return call<void, CDC*>(wnd, f, CDC::FromHandle(reinterpret_cast<HDC>(w))), 0;
+    };
+}
+
+/// More of menus, the mouse and windows.
+void fill_more_input(std::array<WindowInvoker, AfxSig_window_count>& t) {
+    t[AfxSig_v_u_wnd] = INVOKER {
+        return call<void, UINT, CWnd*>(wnd, f, static_cast<UINT>(w), wnd_of(l)), 0;
+    };
+    t[AfxSig_u_wnd_u] = INVOKER {
+        return static_cast<LRESULT>(call<UINT, CWnd*, UINT>(wnd, f, wnd_of(w), static_cast<UINT>(l)));
+    };
+    t[AfxSig_v_mdiactivate] = INVOKER {
+        // The window that gains is in lParam; the message goes to both.
+        return call<void, BOOL, CWnd*, CWnd*>(wnd, f, reinterpret_cast<HWND>(l) == wnd->m_hWnd, wnd_of(l),
+                                              wnd_of(w)),
+               0;
+    };
+    t[AfxSig_u_u_menu] = INVOKER {
+        return static_cast<LRESULT>(call<UINT, UINT, CMenu*>(wnd, f, static_cast<UINT>(w),
+                                                             CMenu::FromHandle(reinterpret_cast<HMENU>(l))));
+    };
+    t[AfxSig_v_u_menu] = INVOKER {
+        return call<void, UINT, CMenu*>(wnd, f, static_cast<UINT>(w),
+                                        CMenu::FromHandle(reinterpret_cast<HMENU>(l))),
+               0;
+    };
+    t[AfxSig_v_menu_hi] = INVOKER {
+        return call<void, CMenu*, UINT>(wnd, f, CMenu::FromHandle(reinterpret_cast<HMENU>(w)), high(l)), 0;
+    };
+    t[AfxSig_u_menuobject] = INVOKER {
+        return static_cast<LRESULT>(
+            call<UINT, MENUGETOBJECTINFO*>(wnd, f, reinterpret_cast<MENUGETOBJECTINFO*>(l)));
+    };
+    t[AfxSig_v_nextmenu] = INVOKER {
+        return call<void, UINT, LPMDINEXTMENU>(wnd, f, static_cast<UINT>(w),
+                                               reinterpret_cast<LPMDINEXTMENU>(l)),
+               0;
+    };
+    t[AfxSig_v_wheel] = INVOKER {
+        return call<void, UINT, short, CPoint>(wnd, f, GET_KEYSTATE_WPARAM(w), GET_WHEEL_DELTA_WPARAM(w),
+                                               point_of(l)),
+               0;
+    };
+    // An answer of TRUE says that the rectangle counts as the handler left it.
+    t[AfxSig_v_u_rect] = INVOKER {
+        return call<void, UINT, LPRECT>(wnd, f, static_cast<UINT>(w), reinterpret_cast<LPRECT>(l)), TRUE;
+    };
+    // The side buttons ask for an answer of TRUE.
+    t[AfxSig_v_x] = INVOKER {
+        return call<void, UINT, UINT, CPoint>(wnd, f, GET_KEYSTATE_WPARAM(w), GET_XBUTTON_WPARAM(w),
+                                              point_of(l)),
+               TRUE;
+    };
+    t[AfxSig_v_ncx] = INVOKER {
+        return call<void, short, UINT, CPoint>(wnd, f, static_cast<short>(GET_XBUTTON_WPARAM(w)),
+                                               static_cast<UINT>(GET_NCHITTEST_WPARAM(w)), point_of(l)),
+               TRUE;
+    };
+}
+
 #undef INVOKER
 
 const std::array<WindowInvoker, AfxSig_window_count>& window_invokers() {
@@ -201,6 +306,8 @@ const std::array<WindowInvoker, AfxSig_window_count>& window_invokers() {
         fill_input(t);
         fill_structures(t);
         fill_owner_draw(t);
+        fill_system(t);
+        fill_more_input(t);
         return t;
     }();
     return table;

@@ -171,9 +171,10 @@ void CWinThread::Delete() {
 
 CWinThread* AfxGetThread() { return thread_state().m_pCurrentWinThread; }
 
-CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority, UINT nStackSize,
-                           DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
-    auto* thread = new CWinThread(pfnThreadProc, pParam);
+namespace {
+
+CWinThread* begin_thread(CWinThread* thread, int nPriority, UINT nStackSize, DWORD dwCreateFlags,
+                         LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
     if (!thread->CreateThread(dwCreateFlags | CREATE_SUSPENDED, nStackSize, lpSecurityAttrs)) {
         thread->Delete();
         return nullptr;
@@ -181,6 +182,22 @@ CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPri
     thread->SetThreadPriority(nPriority);
     if (!(dwCreateFlags & CREATE_SUSPENDED)) thread->ResumeThread();
     return thread;
+}
+
+}  // namespace
+
+CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority, UINT nStackSize,
+                           DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
+    return begin_thread(new CWinThread(pfnThreadProc, pParam), nPriority, nStackSize, dwCreateFlags,
+                        lpSecurityAttrs);
+}
+
+CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority, UINT nStackSize, DWORD dwCreateFlags,
+                           LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
+    ENSURE_ARG(pThreadClass != nullptr && pThreadClass->IsDerivedFrom(RUNTIME_CLASS(CWinThread)));
+    auto* thread = static_cast<CWinThread*>(pThreadClass->CreateObject());
+    if (thread == nullptr) return nullptr;
+    return begin_thread(thread, nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs);
 }
 
 void AfxEndThread(UINT nExitCode, BOOL bDelete) {

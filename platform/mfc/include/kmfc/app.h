@@ -5,6 +5,13 @@
 #include <kmfc/module_state.h>
 #include <kmfc/thread.h>
 
+class CCommandLineInfo;
+class CDocument;
+class CRecentFileList;
+
+/// Which viewer shows the application's help.
+enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
+
 class KMFC_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
@@ -22,11 +29,43 @@ public:
     LPCTSTR m_pszProfileName =
         nullptr;  ///< application name after SetRegistryKey, otherwise an .INI file's name
 
+    LPCTSTR m_pszHelpFilePath = nullptr;  ///< the program's path with .HLP, or .CHM after EnableHtmlHelp
+    AFX_HELP_TYPE m_eHelpType = afxWinHelp;
+    DWORD m_dwPromptContext = 0;  ///< help context of the message box that is open
+    UINT m_nNumPreviewPages = 0;  ///< pages side by side in a print preview
+    CCommandLineInfo* m_pCmdInfo = nullptr;
+    CRecentFileList* m_pRecentFileList = nullptr;  ///< after LoadStdProfileSettings; the application's own
+
     BOOL InitInstance() override;
     int Run() override;
+    /// Writes the recent files and what else LoadStdProfileSettings read.
     int ExitInstance() override;
     BOOL OnIdle(LONG lCount) override;
     virtual BOOL InitApplication();
+    BOOL ProcessMessageFilter(int code, LPMSG lpMsg) override;
+
+    /// Hands the parameters of the command line to `rCmdInfo`, one by one.
+    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
+    /// Reads the list of recent files (none for 0) and the number of preview pages. Once only.
+    void LoadStdProfileSettings(UINT nMaxMRU = 4);
+    /// Puts a file first in the list of recent files, if there is one.
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);
+    /// Opens a file for the menu of recent files; null when it can't be. This one knows no documents.
+    virtual CDocument* OpenDocumentFile(LPCTSTR) { return nullptr; }
+    /// Null before SetRegistryKey. The caller closes the key.
+    HKEY GetAppRegistryKey();
+    HKEY GetSectionKey(LPCTSTR lpszSection);
+    LONG DelRegTree(HKEY hParentKey, const CString& strKeyName);
+
+    /// Shows the help of context `dwData`; a message tells when it can't be shown.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = HH_HELP_CONTEXT_COMMAND);
+    static constexpr UINT HH_HELP_CONTEXT_COMMAND = 0x000F;
+    void EnableHtmlHelp();
+    void SetHelpMode(AFX_HELP_TYPE eHelpType);
+    AFX_HELP_TYPE GetHelpMode() const { return m_eHelpType; }
+    HCURSOR LoadOEMCursor(UINT nIDCursor) const;
+    HICON LoadOEMIcon(UINT nIDIcon) const;
     /// Shows a message box on behalf of AfxMessageBox.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     virtual void DoWaitCursor(int nCode);  ///< 1 begins, 0 restores, -1 ends
@@ -54,9 +93,18 @@ public:
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
     afx_msg void OnAppExit();
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+    afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
+    afx_msg BOOL OnOpenRecentFile(UINT nID);
+
+protected:
+    void SaveStdProfileSettings();
 
 private:
-    CString m_strAppName, m_strExeName, m_strRegistryKey, m_strProfileName, m_strCmdLine;
+    CString m_strAppName, m_strExeName, m_strRegistryKey, m_strProfileName, m_strCmdLine, m_strHelpFilePath;
     int m_nWaitCursorCount = 0;
     HCURSOR m_hcurWaitCursorRestore = nullptr;
 

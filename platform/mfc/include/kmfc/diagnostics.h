@@ -14,6 +14,15 @@
 #else
 #define AFX_EXT_CLASS __declspec(dllimport)
 #endif
+#define AFX_EXT_API AFX_EXT_CLASS
+#define AFX_EXT_DATA AFX_EXT_CLASS
+#define AFX_EXT_DATADEF
+#define AFX_CLASS_EXPORT __declspec(dllexport)
+#define AFX_CLASS_IMPORT __declspec(dllimport)
+#define AFX_API_EXPORT __declspec(dllexport)
+#define AFX_API_IMPORT __declspec(dllimport)
+#define AFX_DATA_EXPORT __declspec(dllexport)
+#define AFX_DATA_IMPORT __declspec(dllimport)
 #else
 #define AFXAPI
 #define AFX_CDECL
@@ -33,7 +42,7 @@
 #ifdef _DEBUG
 #define ASSERT(condition) ((condition) ? (void)0 : AfxAssertFailedLine(__FILE__, __LINE__))
 #define VERIFY(condition) ASSERT(condition)
-#define ASSERT_VALID(object) ((object)->AssertValid())
+#define ASSERT_VALID(object) (::AfxAssertValidObject(object, __FILE__, __LINE__))
 #else
 #define ASSERT(condition) ((void)0)
 #define VERIFY(condition) ((void)(condition))
@@ -51,3 +60,11 @@
 #define ENSURE_ARG(condition) ENSURE(condition)
 #define ENSURE_VALID(object) ENSURE((object) != nullptr)
 #define UNUSED_ALWAYS(variable) ((void)(variable))
+#ifdef _DEBUG
+#define UNUSED(variable)
+#define DEBUG_ONLY(expression) (expression)
+#else
+#define UNUSED(variable) ((void)(variable))
+#define DEBUG_ONLY(expression) ((void)0)
+#endif
+#define AFXASSUME(condition) ASSERT(condition)

@@ -44,8 +44,8 @@ public:
     /// The bar with `nID`, or null.
     CControlBar* GetControlBar(UINT nID);
     virtual void ActivateFrame(int nCmdShow = -1);
-    void BeginModalState();
-    void EndModalState();
+    void BeginModalState() override;
+    void EndModalState() override;
     BOOL InModalState() const { return m_cModalStack != 0; }
 
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
@@ -60,6 +60,8 @@ public:
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
+    /// Help for the menu item that is tracked, or else for the frame.
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -67,6 +69,7 @@ protected:
 
     CString m_strTitle;
     CRect m_rectBorder{0, 0, 0, 0};  ///< room to leave around the view, on each side
+    UINT m_nIDHelp = 0;              ///< LoadFrame's resource id
     UINT m_nIDTracking = 0;
     UINT m_nIDLastMessage = 0;
     int m_cModalStack = 0;

@@ -152,7 +152,120 @@
 #define ON_WM_PASTE() AFX_WINDOW_ENTRY(WM_PASTE, AfxSig_v_v, void, OnPaste)
 #define ON_WM_CLEAR() AFX_WINDOW_ENTRY(WM_CLEAR, AfxSig_v_v, void, OnClear)
 
+#define ON_WM_APPCOMMAND() \
+    AFX_WINDOW_ENTRY(WM_APPCOMMAND, AfxSig_v_appcommand, void, OnAppCommand, CWnd*, UINT, UINT, UINT)
+#define ON_WM_ASKCBFORMATNAME() \
+    AFX_WINDOW_ENTRY(WM_ASKCBFORMATNAME, AfxSig_v_u_text, void, OnAskCbFormatName, UINT, LPTSTR)
+#define ON_WM_CHANGECBCHAIN() \
+    AFX_WINDOW_ENTRY(WM_CHANGECBCHAIN, AfxSig_v_hwnd_hwnd, void, OnChangeCbChain, HWND, HWND)
+#define ON_WM_CHANGEUISTATE() \
+    AFX_WINDOW_ENTRY(WM_CHANGEUISTATE, AfxSig_v_lo_hi, void, OnChangeUIState, UINT, UINT)
+#define ON_WM_CLIPBOARDUPDATE() AFX_WINDOW_ENTRY(WM_CLIPBOARDUPDATE, AfxSig_v_v, void, OnClipboardUpdate)
+#define ON_WM_COMPACTING() AFX_WINDOW_ENTRY(WM_COMPACTING, AfxSig_v_u, void, OnCompacting, UINT)
+#define ON_WM_DESTROYCLIPBOARD() AFX_WINDOW_ENTRY(WM_DESTROYCLIPBOARD, AfxSig_v_v, void, OnDestroyClipboard)
+#define ON_WM_DEVICECHANGE() \
+    AFX_WINDOW_ENTRY(WM_DEVICECHANGE, AfxSig_b_u_dwp, BOOL, OnDeviceChange, UINT, DWORD_PTR)
+#define ON_WM_DEVMODECHANGE() AFX_WINDOW_ENTRY(WM_DEVMODECHANGE, AfxSig_v_text, void, OnDevModeChange, LPTSTR)
+#define ON_WM_DRAWCLIPBOARD() AFX_WINDOW_ENTRY(WM_DRAWCLIPBOARD, AfxSig_v_v, void, OnDrawClipboard)
+#define ON_WM_DWMCOLORIZATIONCOLORCHANGED()                                                                  \
+    AFX_WINDOW_ENTRY(WM_DWMCOLORIZATIONCOLORCHANGED, AfxSig_v_dw_b, void, OnColorizationColorChanged, DWORD, \
+                     BOOL)
+#define ON_WM_DWMCOMPOSITIONCHANGED() \
+    AFX_WINDOW_ENTRY(WM_DWMCOMPOSITIONCHANGED, AfxSig_v_v, void, OnCompositionChanged)
+#define ON_WM_DWMNCRENDERINGCHANGED() \
+    AFX_WINDOW_ENTRY(WM_DWMNCRENDERINGCHANGED, AfxSig_v_b, void, OnNcRenderingChanged, BOOL)
+#define ON_WM_DWMWINDOWMAXIMIZEDCHANGE() \
+    AFX_WINDOW_ENTRY(WM_DWMWINDOWMAXIMIZEDCHANGE, AfxSig_v_b, void, OnWindowMaximizedChanged, BOOL)
+#define ON_WM_ENTERIDLE() AFX_WINDOW_ENTRY(WM_ENTERIDLE, AfxSig_v_u_wnd, void, OnEnterIdle, UINT, CWnd*)
+#define ON_WM_ENTERMENULOOP() AFX_WINDOW_ENTRY(WM_ENTERMENULOOP, AfxSig_v_b, void, OnEnterMenuLoop, BOOL)
+#define ON_WM_EXITMENULOOP() AFX_WINDOW_ENTRY(WM_EXITMENULOOP, AfxSig_v_b, void, OnExitMenuLoop, BOOL)
+#define ON_WM_FONTCHANGE() AFX_WINDOW_ENTRY(WM_FONTCHANGE, AfxSig_v_v, void, OnFontChange)
+#define ON_WM_HOTKEY() AFX_WINDOW_ENTRY(WM_HOTKEY, AfxSig_v_key, void, OnHotKey, UINT, UINT, UINT)
+#define ON_WM_HSCROLLCLIPBOARD() \
+    AFX_WINDOW_ENTRY(WM_HSCROLLCLIPBOARD, AfxSig_v_wnd_u_u, void, OnHScrollClipboard, CWnd*, UINT, UINT)
+#define ON_WM_ICONERASEBKGND() AFX_WINDOW_ENTRY(WM_ICONERASEBKGND, AfxSig_v_dc, void, OnIconEraseBkgnd, CDC*)
+#define ON_WM_INPUT() AFX_WINDOW_ENTRY(WM_INPUT, AfxSig_v_u_rawinput, void, OnRawInput, UINT, HRAWINPUT)
+#define ON_WM_INPUT_DEVICE_CHANGE() \
+    AFX_WINDOW_ENTRY(WM_INPUT_DEVICE_CHANGE, AfxSig_v_ushort, void, OnInputDeviceChange, unsigned short)
+#define ON_WM_INPUTLANGCHANGE() \
+    AFX_WINDOW_ENTRY(WM_INPUTLANGCHANGE, AfxSig_v_u_u, void, OnInputLangChange, UINT, UINT)
+#define ON_WM_INPUTLANGCHANGEREQUEST() \
+    AFX_WINDOW_ENTRY(WM_INPUTLANGCHANGEREQUEST, AfxSig_v_u_u, void, OnInputLangChangeRequest, UINT, UINT)
+#define ON_WM_MDIACTIVATE() \
+    AFX_WINDOW_ENTRY(WM_MDIACTIVATE, AfxSig_v_mdiactivate, void, OnMDIActivate, BOOL, CWnd*, CWnd*)
+#define ON_WM_MENUDRAG() AFX_WINDOW_ENTRY(WM_MENUDRAG, AfxSig_u_u_menu, UINT, OnMenuDrag, UINT, CMenu*)
+#define ON_WM_MENUGETOBJECT() \
+    AFX_WINDOW_ENTRY(WM_MENUGETOBJECT, AfxSig_u_menuobject, UINT, OnMenuGetObject, MENUGETOBJECTINFO*)
+#define ON_WM_MENURBUTTONUP() \
+    AFX_WINDOW_ENTRY(WM_MENURBUTTONUP, AfxSig_v_u_menu, void, OnMenuRButtonUp, UINT, CMenu*)
+#define ON_WM_MOUSEHOVER() AFX_WINDOW_ENTRY(WM_MOUSEHOVER, AfxSig_v_u_point, void, OnMouseHover, UINT, CPoint)
+#define ON_WM_MOUSEHWHEEL() \
+    AFX_WINDOW_ENTRY(WM_MOUSEHWHEEL, AfxSig_v_wheel, void, OnMouseHWheel, UINT, short, CPoint)
+#define ON_WM_MOVING() AFX_WINDOW_ENTRY(WM_MOVING, AfxSig_v_u_rect, void, OnMoving, UINT, LPRECT)
+#define ON_WM_NCMBUTTONDBLCLK() \
+    AFX_WINDOW_ENTRY(WM_NCMBUTTONDBLCLK, AfxSig_v_nchit_point, void, OnNcMButtonDblClk, UINT, CPoint)
+#define ON_WM_NCMBUTTONDOWN() \
+    AFX_WINDOW_ENTRY(WM_NCMBUTTONDOWN, AfxSig_v_nchit_point, void, OnNcMButtonDown, UINT, CPoint)
+#define ON_WM_NCMBUTTONUP() \
+    AFX_WINDOW_ENTRY(WM_NCMBUTTONUP, AfxSig_v_nchit_point, void, OnNcMButtonUp, UINT, CPoint)
+#define ON_WM_NCMOUSEHOVER() \
+    AFX_WINDOW_ENTRY(WM_NCMOUSEHOVER, AfxSig_v_nchit_point, void, OnNcMouseHover, UINT, CPoint)
+#define ON_WM_NCMOUSELEAVE() AFX_WINDOW_ENTRY(WM_NCMOUSELEAVE, AfxSig_v_v, void, OnNcMouseLeave)
+#define ON_WM_NCRBUTTONDBLCLK() \
+    AFX_WINDOW_ENTRY(WM_NCRBUTTONDBLCLK, AfxSig_v_nchit_point, void, OnNcRButtonDblClk, UINT, CPoint)
+#define ON_WM_NCXBUTTONDBLCLK() \
+    AFX_WINDOW_ENTRY(WM_NCXBUTTONDBLCLK, AfxSig_v_ncx, void, OnNcXButtonDblClk, short, UINT, CPoint)
+#define ON_WM_NCXBUTTONDOWN() \
+    AFX_WINDOW_ENTRY(WM_NCXBUTTONDOWN, AfxSig_v_ncx, void, OnNcXButtonDown, short, UINT, CPoint)
+#define ON_WM_NCXBUTTONUP() \
+    AFX_WINDOW_ENTRY(WM_NCXBUTTONUP, AfxSig_v_ncx, void, OnNcXButtonUp, short, UINT, CPoint)
+#define ON_WM_NEXTMENU() \
+    AFX_WINDOW_ENTRY(WM_NEXTMENU, AfxSig_v_nextmenu, void, OnNextMenu, UINT, LPMDINEXTMENU)
+#define ON_WM_NOTIFYFORMAT() \
+    AFX_WINDOW_ENTRY(WM_NOTIFYFORMAT, AfxSig_u_wnd_u, UINT, OnNotifyFormat, CWnd*, UINT)
+#define ON_WM_PAINTCLIPBOARD() \
+    AFX_WINDOW_ENTRY(WM_PAINTCLIPBOARD, AfxSig_v_wnd_global, void, OnPaintClipboard, CWnd*, HGLOBAL)
+#define ON_WM_PALETTECHANGED() \
+    AFX_WINDOW_ENTRY(WM_PALETTECHANGED, AfxSig_v_wnd, void, OnPaletteChanged, CWnd*)
+#define ON_WM_PALETTEISCHANGING() \
+    AFX_WINDOW_ENTRY(WM_PALETTEISCHANGING, AfxSig_v_wnd, void, OnPaletteIsChanging, CWnd*)
+#define ON_WM_POWERBROADCAST() \
+    AFX_WINDOW_ENTRY(WM_POWERBROADCAST, AfxSig_u_u_l, UINT, OnPowerBroadcast, UINT, LPARAM)
+#define ON_WM_QUERYNEWPALETTE() AFX_WINDOW_ENTRY(WM_QUERYNEWPALETTE, AfxSig_b_v, BOOL, OnQueryNewPalette)
+#define ON_WM_QUERYUISTATE() AFX_WINDOW_ENTRY(WM_QUERYUISTATE, AfxSig_u_v, UINT, OnQueryUIState)
+#define ON_WM_RENDERALLFORMATS() AFX_WINDOW_ENTRY(WM_RENDERALLFORMATS, AfxSig_v_v, void, OnRenderAllFormats)
+#define ON_WM_RENDERFORMAT() AFX_WINDOW_ENTRY(WM_RENDERFORMAT, AfxSig_v_u, void, OnRenderFormat, UINT)
+#define ON_WM_SIZECLIPBOARD() \
+    AFX_WINDOW_ENTRY(WM_SIZECLIPBOARD, AfxSig_v_wnd_global, void, OnSizeClipboard, CWnd*, HGLOBAL)
+#define ON_WM_SIZING() AFX_WINDOW_ENTRY(WM_SIZING, AfxSig_v_u_rect, void, OnSizing, UINT, LPRECT)
+#define ON_WM_SPOOLERSTATUS() \
+    AFX_WINDOW_ENTRY(WM_SPOOLERSTATUS, AfxSig_v_spooler, void, OnSpoolerStatus, UINT, UINT)
+#define ON_WM_SYSDEADCHAR() \
+    AFX_WINDOW_ENTRY(WM_SYSDEADCHAR, AfxSig_v_key, void, OnSysDeadChar, UINT, UINT, UINT)
+#define ON_WM_TCARD() AFX_WINDOW_ENTRY(WM_TCARD, AfxSig_v_u_dw, void, OnTCard, UINT, DWORD)
+#define ON_WM_TIMECHANGE() AFX_WINDOW_ENTRY(WM_TIMECHANGE, AfxSig_v_v, void, OnTimeChange)
+#define ON_WM_UNICHAR() AFX_WINDOW_ENTRY(WM_UNICHAR, AfxSig_v_key, void, OnUniChar, UINT, UINT, UINT)
+#define ON_WM_UNINITMENUPOPUP() \
+    AFX_WINDOW_ENTRY(WM_UNINITMENUPOPUP, AfxSig_v_menu_hi, void, OnUnInitMenuPopup, CMenu*, UINT)
+#define ON_WM_UPDATEUISTATE() \
+    AFX_WINDOW_ENTRY(WM_UPDATEUISTATE, AfxSig_v_lo_hi, void, OnUpdateUIState, UINT, UINT)
+#define ON_WM_USERCHANGED() AFX_WINDOW_ENTRY(WM_USERCHANGED, AfxSig_v_v, void, OnUserChanged)
+#define ON_WM_VSCROLLCLIPBOARD() \
+    AFX_WINDOW_ENTRY(WM_VSCROLLCLIPBOARD, AfxSig_v_wnd_u_u, void, OnVScrollClipboard, CWnd*, UINT, UINT)
+#define ON_WM_WININICHANGE() AFX_WINDOW_ENTRY(WM_WININICHANGE, AfxSig_v_ctext, void, OnWinIniChange, LPCTSTR)
+#define ON_WM_WTSSESSION_CHANGE() \
+    AFX_WINDOW_ENTRY(WM_WTSSESSION_CHANGE, AfxSig_v_u_u, void, OnSessionChange, UINT, UINT)
+#define ON_WM_XBUTTONDBLCLK() \
+    AFX_WINDOW_ENTRY(WM_XBUTTONDBLCLK, AfxSig_v_x, void, OnXButtonDblClk, UINT, UINT, CPoint)
+#define ON_WM_XBUTTONDOWN() \
+    AFX_WINDOW_ENTRY(WM_XBUTTONDOWN, AfxSig_v_x, void, OnXButtonDown, UINT, UINT, CPoint)
+#define ON_WM_XBUTTONUP() AFX_WINDOW_ENTRY(WM_XBUTTONUP, AfxSig_v_x, void, OnXButtonUp, UINT, UINT, CPoint)
+
 // Messages of a control handled by the control itself.
+#define ON_WM_CHARTOITEM_REFLECT() \
+    AFX_WINDOW_ENTRY(WM_REFLECT_BASE + WM_CHARTOITEM, AfxSig_i_lo_hi, int, CharToItem, UINT, UINT)
+#define ON_WM_VKEYTOITEM_REFLECT() \
+    AFX_WINDOW_ENTRY(WM_REFLECT_BASE + WM_VKEYTOITEM, AfxSig_i_lo_hi, int, VKeyToItem, UINT, UINT)
 #define ON_WM_CTLCOLOR_REFLECT() \
     AFX_WINDOW_ENTRY(WM_REFLECT_BASE + WM_CTLCOLOR, AfxSig_h_ctlcolor_reflect, HBRUSH, CtlColor, CDC*, UINT)
 #define ON_WM_DRAWITEM_REFLECT() \
@@ -245,6 +358,10 @@
 // Control notifications by name.
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
+#define ON_BN_PAINT(id, memberFxn) ON_CONTROL(BN_PAINT, id, memberFxn)
+#define ON_BN_HILITE(id, memberFxn) ON_CONTROL(BN_HILITE, id, memberFxn)
+#define ON_BN_UNHILITE(id, memberFxn) ON_CONTROL(BN_UNHILITE, id, memberFxn)
+#define ON_BN_DISABLE(id, memberFxn) ON_CONTROL(BN_DISABLE, id, memberFxn)
 #define ON_BN_SETFOCUS(id, memberFxn) ON_CONTROL(BN_SETFOCUS, id, memberFxn)
 #define ON_BN_KILLFOCUS(id, memberFxn) ON_CONTROL(BN_KILLFOCUS, id, memberFxn)
 #define ON_EN_SETFOCUS(id, memberFxn) ON_CONTROL(EN_SETFOCUS, id, memberFxn)
@@ -255,6 +372,8 @@
 #define ON_EN_MAXTEXT(id, memberFxn) ON_CONTROL(EN_MAXTEXT, id, memberFxn)
 #define ON_EN_HSCROLL(id, memberFxn) ON_CONTROL(EN_HSCROLL, id, memberFxn)
 #define ON_EN_VSCROLL(id, memberFxn) ON_CONTROL(EN_VSCROLL, id, memberFxn)
+#define ON_EN_ALIGN_LTR_EC(id, memberFxn) ON_CONTROL(EN_ALIGN_LTR_EC, id, memberFxn)
+#define ON_EN_ALIGN_RTL_EC(id, memberFxn) ON_CONTROL(EN_ALIGN_RTL_EC, id, memberFxn)
 #define ON_LBN_ERRSPACE(id, memberFxn) ON_CONTROL(LBN_ERRSPACE, id, memberFxn)
 #define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
 #define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)

@@ -114,8 +114,38 @@ enum AfxSig : UINT_PTR {
     AfxSig_v_measureitem,
     AfxSig_v_deleteitem,
     AfxSig_i_compareitem,
-    AfxSig_i_u_wnd_u,  // OnVKeyToItem(UINT, CListBox*, UINT)
-    AfxSig_l_w_l,      // LRESULT handler(WPARAM, LPARAM): ON_MESSAGE and registered messages
+    AfxSig_i_u_wnd_u,      // OnVKeyToItem(UINT, CListBox*, UINT)
+    AfxSig_l_w_l,          // LRESULT handler(WPARAM, LPARAM): ON_MESSAGE and registered messages
+    AfxSig_v_appcommand,   // OnAppCommand(CWnd*, UINT, UINT, UINT)
+    AfxSig_v_u_text,       // OnAskCbFormatName(UINT, LPTSTR)
+    AfxSig_v_hwnd_hwnd,    // OnChangeCbChain(HWND, HWND)
+    AfxSig_v_lo_hi,        // OnChangeUIState(UINT, UINT)
+    AfxSig_b_u_dwp,        // OnDeviceChange(UINT, DWORD_PTR)
+    AfxSig_v_text,         // OnDevModeChange(LPTSTR)
+    AfxSig_v_dw_b,         // OnColorizationColorChanged(DWORD, BOOL)
+    AfxSig_v_u_wnd,        // OnEnterIdle(UINT, CWnd*)
+    AfxSig_v_wnd_u_u,      // OnHScrollClipboard(CWnd*, UINT, UINT)
+    AfxSig_v_dc,           // OnIconEraseBkgnd(CDC*)
+    AfxSig_v_u_rawinput,   // OnRawInput(UINT, HRAWINPUT)
+    AfxSig_v_ushort,       // OnInputDeviceChange(unsigned short)
+    AfxSig_v_u_u,          // OnInputLangChange(UINT, UINT)
+    AfxSig_v_mdiactivate,  // OnMDIActivate(BOOL, CWnd*, CWnd*)
+    AfxSig_u_u_menu,       // OnMenuDrag(UINT, CMenu*)
+    AfxSig_u_menuobject,   // OnMenuGetObject(MENUGETOBJECTINFO*)
+    AfxSig_v_u_menu,       // OnMenuRButtonUp(UINT, CMenu*)
+    AfxSig_v_wheel,        // OnMouseHWheel(UINT, short, CPoint)
+    AfxSig_v_u_rect,       // OnMoving(UINT, LPRECT)
+    AfxSig_v_ncx,          // OnNcXButtonDblClk(short, UINT, CPoint)
+    AfxSig_v_nextmenu,     // OnNextMenu(UINT, LPMDINEXTMENU)
+    AfxSig_u_wnd_u,        // OnNotifyFormat(CWnd*, UINT)
+    AfxSig_v_wnd_global,   // OnPaintClipboard(CWnd*, HGLOBAL)
+    AfxSig_u_u_l,          // OnPowerBroadcast(UINT, LPARAM)
+    AfxSig_v_spooler,      // OnSpoolerStatus(UINT, UINT)
+    AfxSig_v_u_dw,         // OnTCard(UINT, DWORD)
+    AfxSig_v_menu_hi,      // OnUnInitMenuPopup(CMenu*, UINT)
+    AfxSig_v_ctext,        // OnWinIniChange(LPCTSTR)
+    AfxSig_v_x,            // OnXButtonDblClk(UINT, UINT, CPoint)
+    AfxSig_i_lo_hi,        // CharToItem(UINT, UINT) of the list itself
     AfxSig_window_count,
 
     // Commands and notifications.

@@ -5,6 +5,8 @@
 
 #include "kmfc/runtime_class.h"
 
+class CDumpContext;
+
 /// The root class: run-time class information and serialization. Objects are not copied.
 class KMFC_API CObject {
 public:
@@ -22,6 +24,8 @@ public:
     virtual void Serialize(CArchive& ar);
     /// Checks the object's invariants; the base has none beyond a live `this`.
     virtual void AssertValid() const;
+    /// Describes the object for a developer; the base names its class and its address.
+    virtual void Dump(CDumpContext& dc) const;
 
     static CRuntimeClass classCObject;
     static CRuntimeClass* PASCAL GetThisClass();

@@ -68,6 +68,11 @@ KMFC_API CWinThread* AfxGetThread();
 KMFC_API CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
                                     int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
                                     DWORD dwCreateFlags = 0, LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+/// A thread of a class with DECLARE_DYNCREATE: its InitInstance, then its Run. Null for a class that can't be
+/// made or a thread that can't be started.
+KMFC_API CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority = THREAD_PRIORITY_NORMAL,
+                                    UINT nStackSize = 0, DWORD dwCreateFlags = 0,
+                                    LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
 KMFC_API void AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
 /// Pumps one message of the current thread; what a loop outside CWinThread::Run calls.
 KMFC_API BOOL AfxPumpMessage();

@@ -149,6 +149,29 @@ public:
     BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags) {
         return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
     }
+    BOOL GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const {
+        return ::GetLayeredWindowAttributes(m_hWnd, pcrKey, pbAlpha, pdwFlags);
+    }
+    BOOL UpdateLayeredWindow(CDC* pDCDst, POINT* pptDst, SIZE* psize, CDC* pDCSrc, POINT* pptSrc,
+                             COLORREF crKey, BLENDFUNCTION* pblend, DWORD dwFlags) {
+        return ::UpdateLayeredWindow(m_hWnd, kmfc::safe_handle(pDCDst), pptDst, psize,
+                                     kmfc::safe_handle(pDCSrc), pptSrc, crKey, pblend, dwFlags);
+    }
+    int GetWindowRgn(HRGN hRgn) const { return ::GetWindowRgn(m_hWnd, hRgn); }
+    BOOL GetWindowInfo(PWINDOWINFO pwi) const { return ::GetWindowInfo(m_hWnd, pwi); }
+    BOOL GetTitleBarInfo(PTITLEBARINFO pti) const { return ::GetTitleBarInfo(m_hWnd, pti); }
+    /// Makes the client area of `lpClientRect` the rectangle of a window of this one's styles.
+    virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder);
+    enum AdjustType : UINT { adjustBorder = 0, adjustOutside = 1 };
+    UINT ArrangeIconicWindows() { return ::ArrangeIconicWindows(m_hWnd); }
+    void CloseWindow() { ::CloseWindow(m_hWnd); }
+    BOOL OpenIcon() { return ::OpenIcon(m_hWnd); }
+    BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags) { return ::AnimateWindow(m_hWnd, dwTime, dwFlags); }
+    BOOL FlashWindow(BOOL bInvert) { return ::FlashWindow(m_hWnd, bInvert); }
+    BOOL FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout) {
+        FLASHWINFO info = {sizeof(info), m_hWnd, dwFlags, uCount, dwTimeout};
+        return ::FlashWindowEx(&info);
+    }
 
     // Coordinates.
     void ClientToScreen(LPPOINT lpPoint) const { ::ClientToScreen(m_hWnd, lpPoint); }
@@ -167,6 +190,7 @@ public:
     void EndPaint(LPPAINTSTRUCT lpPaint) { ::EndPaint(m_hWnd, lpPaint); }
     CDC* GetDC();
     CDC* GetWindowDC();
+    CDC* GetDCEx(CRgn* prgnClip, DWORD flags);
     int ReleaseDC(CDC* pDC);
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     void SetRedraw(BOOL bRedraw = TRUE) { ::SendMessageW(m_hWnd, WM_SETREDRAW, bRedraw, 0); }
@@ -179,6 +203,21 @@ public:
     BOOL LockWindowUpdate() { return ::LockWindowUpdate(m_hWnd); }
     void UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
     void Print(CDC* pDC, DWORD dwFlags) const;
+    void PrintClient(CDC* pDC, DWORD dwFlags) const {
+        ::SendMessageW(m_hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(kmfc::safe_handle(pDC)), dwFlags);
+    }
+    BOOL PrintWindow(CDC* pDC, UINT nFlags) const {
+        return ::PrintWindow(m_hWnd, kmfc::safe_handle(pDC), nFlags);
+    }
+    int GetUpdateRgn(CRgn* pRgn, BOOL bErase = FALSE);
+    void InvalidateRgn(CRgn* pRgn, BOOL bErase = TRUE);
+    void ValidateRgn(CRgn* pRgn);
+    BOOL DrawAnimatedRects(int idAni, CONST RECT* lprcFrom, CONST RECT* lprcTo) {
+        return ::DrawAnimatedRects(m_hWnd, idAni, lprcFrom, lprcTo);
+    }
+    BOOL DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags) {
+        return ::DrawCaption(m_hWnd, kmfc::safe_handle(pDC), lprc, uFlags);
+    }
 
     // Timers, state, input.
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer = nullptr) {
@@ -196,6 +235,54 @@ public:
     static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
     static CWnd* GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
+    BOOL DragDetect(POINT pt) const { return ::DragDetect(m_hWnd, pt); }
+    BOOL RegisterTouchWindow(BOOL bRegister = TRUE, ULONG ulFlags = 0);
+    BOOL IsTouchWindow() const { return m_bIsTouchWindowRegistered; }
+
+    // The caret.
+    void CreateCaret(CBitmap* pBitmap);
+    void CreateSolidCaret(int nWidth, int nHeight) { ::CreateCaret(m_hWnd, nullptr, nWidth, nHeight); }
+    void CreateGrayCaret(int nWidth, int nHeight) {
+        ::CreateCaret(m_hWnd, reinterpret_cast<HBITMAP>(1), nWidth, nHeight);
+    }
+    static CPoint GetCaretPos() {
+        CPoint point;
+        ::GetCaretPos(&point);
+        return point;
+    }
+    static void SetCaretPos(POINT point) { ::SetCaretPos(point.x, point.y); }
+    void ShowCaret() { ::ShowCaret(m_hWnd); }
+    void HideCaret() { ::HideCaret(m_hWnd); }
+
+    // The clipboard.
+    BOOL OpenClipboard() { return ::OpenClipboard(m_hWnd); }
+    static CWnd* GetClipboardOwner() { return FromHandle(::GetClipboardOwner()); }
+    static CWnd* GetClipboardViewer() { return FromHandle(::GetClipboardViewer()); }
+    static CWnd* GetOpenClipboardWindow() { return FromHandle(::GetOpenClipboardWindow()); }
+    HWND SetClipboardViewer() { return ::SetClipboardViewer(m_hWnd); }
+    BOOL ChangeClipboardChain(HWND hWndNext) { return ::ChangeClipboardChain(m_hWnd, hWndNext); }
+
+    // Help.
+    DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
+    BOOL SetWindowContextHelpId(DWORD dwContextHelpId) {
+        return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId);
+    }
+    /// Asks the application for help by its top-level window's message WM_COMMANDHELP; see CWinApp::WinHelp.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    /// Handlers of ID_HELP and its kin: the help of what is at hand, the index, the contents, help on help.
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+    void NotifyWinEvent(DWORD event, LONG idObjectType, LONG idObject) {
+        ::NotifyWinEvent(event, m_hWnd, idObjectType, idObject);
+    }
+    BOOL HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite);
+
+    /// While a modal dialog is up: owned windows of this one take no input.
+    virtual void BeginModalState() { ::EnableWindow(m_hWnd, FALSE); }
+    virtual void EndModalState() { ::EnableWindow(m_hWnd, TRUE); }
 
     // Dialog items.
     CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
@@ -221,6 +308,25 @@ public:
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         return ::SendDlgItemMessageW(m_hWnd, nID, message, wParam, lParam);
     }
+    int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType) {
+        return ::DlgDirListW(m_hWnd, lpPathSpec, nIDListBox, nIDStaticPath, nFileType);
+    }
+    int DlgDirListComboBox(LPTSTR lpPathSpec, int nIDComboBox, int nIDStaticPath, UINT nFileType) {
+        return ::DlgDirListComboBoxW(m_hWnd, lpPathSpec, nIDComboBox, nIDStaticPath, nFileType);
+    }
+    /// `lpString` takes at most `nSize` characters; MAX_PATH without it.
+    BOOL DlgDirSelect(LPTSTR lpString, int nSize, int nIDListBox) {
+        return ::DlgDirSelectExW(m_hWnd, lpString, nSize, nIDListBox);
+    }
+    BOOL DlgDirSelect(LPTSTR lpString, int nIDListBox) {
+        return DlgDirSelect(lpString, MAX_PATH, nIDListBox);
+    }
+    BOOL DlgDirSelectComboBox(LPTSTR lpString, int nSize, int nIDComboBox) {
+        return ::DlgDirSelectComboBoxExW(m_hWnd, lpString, nSize, nIDComboBox);
+    }
+    BOOL DlgDirSelectComboBox(LPTSTR lpString, int nIDComboBox) {
+        return DlgDirSelectComboBox(lpString, MAX_PATH, nIDComboBox);
+    }
     CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     void NextDlgCtrl() const { ::SendMessageW(m_hWnd, WM_NEXTDLGCTL, 0, 0); }
@@ -238,6 +344,9 @@ public:
     }
     static CWnd* FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName) {
         return FromHandle(::FindWindowW(lpszClassName, lpszWindowName));
+    }
+    static CWnd* FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass, LPCTSTR lpszWindow) {
+        return FromHandle(::FindWindowExW(hwndParent, hwndChildAfter, lpszClass, lpszWindow));
     }
     CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const { return FromHandle(::GetWindow(m_hWnd, nFlag)); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
@@ -307,6 +416,16 @@ public:
     }
     void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
+    BOOL EnableScrollBar(int nSBFlags, UINT nArrowFlags = ESB_ENABLE_BOTH) {
+        return ::EnableScrollBar(m_hWnd, static_cast<UINT>(nSBFlags), nArrowFlags);
+    }
+    BOOL GetScrollBarInfo(LONG idObject, PSCROLLBARINFO psbi) const {
+        return ::GetScrollBarInfo(m_hWnd, idObject, psbi);
+    }
+    /// The last place that the box can reach, the page taken into account.
+    int GetScrollLimit(int nBar);
+    int ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
+                       LPRECT lpRectUpdate, UINT flags);
     void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = nullptr, LPCRECT lpClipRect = nullptr) {
         ::ScrollWindow(m_hWnd, xAmount, yAmount, lpRect, lpClipRect);
     }
@@ -413,6 +532,73 @@ public:
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
     afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
+    afx_msg void OnAppCommand(CWnd* pWnd, UINT nCmd, UINT nDevice, UINT nKey);
+    afx_msg void OnAskCbFormatName(UINT nMaxCount, LPTSTR lpszString);
+    afx_msg void OnChangeCbChain(HWND hWndRemove, HWND hWndAfter);
+    afx_msg void OnChangeUIState(UINT nAction, UINT nUIElement);
+    afx_msg void OnClipboardUpdate();
+    afx_msg void OnCompacting(UINT nCpuTime);
+    afx_msg void OnDestroyClipboard();
+    afx_msg BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
+    afx_msg void OnDevModeChange(LPTSTR lpDeviceName);
+    afx_msg void OnDrawClipboard();
+    afx_msg void OnColorizationColorChanged(DWORD dwColorizationColor, BOOL bOpacity);
+    afx_msg void OnCompositionChanged();
+    afx_msg void OnNcRenderingChanged(BOOL bIsRendering);
+    afx_msg void OnWindowMaximizedChanged(BOOL bIsMaximized);
+    afx_msg void OnEnterIdle(UINT nWhy, CWnd* pWho);
+    afx_msg void OnEnterMenuLoop(BOOL bIsTrackPopupMenu);
+    afx_msg void OnExitMenuLoop(BOOL bIsTrackPopupMenu);
+    afx_msg void OnFontChange();
+    afx_msg void OnHotKey(UINT nHotKeyId, UINT nKey1, UINT nKey2);
+    afx_msg void OnHScrollClipboard(CWnd* pClipAppWnd, UINT nSBCode, UINT nPos);
+    afx_msg void OnIconEraseBkgnd(CDC* pDC);
+    afx_msg void OnRawInput(UINT nInputCode, HRAWINPUT hRawInput);
+    afx_msg void OnInputDeviceChange(unsigned short uFlag);
+    afx_msg void OnInputLangChange(UINT nCharSet, UINT nLocaleId);
+    afx_msg void OnInputLangChangeRequest(UINT nFlags, UINT nLocaleId);
+    afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
+    afx_msg UINT OnMenuDrag(UINT nPos, CMenu* pMenu);
+    afx_msg UINT OnMenuGetObject(MENUGETOBJECTINFO* pMenu);
+    afx_msg void OnMenuRButtonUp(UINT nPos, CMenu* pMenu);
+    afx_msg void OnMouseHover(UINT nFlags, CPoint point);
+    afx_msg void OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnMoving(UINT nSide, LPRECT lpRect);
+    afx_msg void OnNcMButtonDblClk(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMouseHover(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMouseLeave();
+    afx_msg void OnNcRButtonDblClk(UINT nHitTest, CPoint point);
+    afx_msg void OnNcXButtonDblClk(short nButton, UINT nHitTest, CPoint point);
+    afx_msg void OnNcXButtonDown(short nButton, UINT nHitTest, CPoint point);
+    afx_msg void OnNcXButtonUp(short nButton, UINT nHitTest, CPoint point);
+    afx_msg void OnNextMenu(UINT nKey, LPMDINEXTMENU lpMdiNextMenu);
+    afx_msg UINT OnNotifyFormat(CWnd* pWnd, UINT nCommand);
+    afx_msg void OnPaintClipboard(CWnd* pClipAppWnd, HGLOBAL hPaintStruct);
+    afx_msg void OnPaletteChanged(CWnd* pFocusWnd);
+    afx_msg void OnPaletteIsChanging(CWnd* pRealizeWnd);
+    afx_msg UINT OnPowerBroadcast(UINT nPowerEvent, LPARAM nEventData);
+    afx_msg BOOL OnQueryNewPalette();
+    afx_msg UINT OnQueryUIState();
+    afx_msg void OnRenderAllFormats();
+    afx_msg void OnRenderFormat(UINT nFormat);
+    afx_msg void OnSizeClipboard(CWnd* pClipAppWnd, HGLOBAL hRect);
+    afx_msg void OnSizing(UINT nSide, LPRECT lpRect);
+    afx_msg void OnSpoolerStatus(UINT nStatus, UINT nJobs);
+    afx_msg void OnSysDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnTCard(UINT idAction, DWORD dwActionData);
+    afx_msg void OnTimeChange();
+    afx_msg void OnUniChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnUnInitMenuPopup(CMenu* pPopupMenu, UINT nFlags);
+    afx_msg void OnUpdateUIState(UINT nAction, UINT nUIElement);
+    afx_msg void OnUserChanged();
+    afx_msg void OnVScrollClipboard(CWnd* pClipAppWnd, UINT nSBCode, UINT nPos);
+    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    afx_msg void OnSessionChange(UINT nSessionState, UINT nId);
+    afx_msg void OnXButtonDblClk(UINT nFlags, UINT nButton, CPoint point);
+    afx_msg void OnXButtonDown(UINT nFlags, UINT nButton, CPoint point);
+    afx_msg void OnXButtonUp(UINT nFlags, UINT nButton, CPoint point);
 
 protected:
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
