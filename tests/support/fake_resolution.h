@@ -3,6 +3,8 @@
 
 #include <ktui/host/appearance.h>
 
+#include <vector>
+
 namespace ui_test {
 
 /// Shows another resolution for as long as it lives.
@@ -19,6 +21,11 @@ public:
 
     /// Changes the resolution meanwhile.
     void show(UINT dpi) const { fakeDpi() = dpi; }
+    /// The windows whose resolution was asked for.
+    static std::vector<HWND>& asked() {
+        static std::vector<HWND> windows;
+        return windows;
+    }
     FakeResolution(const FakeResolution&) = delete;
     FakeResolution& operator=(const FakeResolution&) = delete;
 
@@ -27,7 +34,10 @@ private:
         static UINT dpi = 96;
         return dpi;
     }
-    static UINT dpiOf(HWND) { return fakeDpi(); }
+    static UINT dpiOf(HWND window) {
+        asked().push_back(window);
+        return fakeDpi();
+    }
     KtUiDpiSource m_former;
 };
 

@@ -4,10 +4,7 @@
 #define __AFXRES_H__
 
 #ifdef RC_INVOKED
-#include <winuser.h>
-#include <winver.h>
-#include <commctrl.h>
-#include <dlgs.h>
+#include <winresrc.h>
 #endif
 
 #ifndef IDC_STATIC

@@ -75,6 +75,11 @@ TEST(TransparentPixels, ThePrimariesBecomeTheirGreys) {
     EXPECT_EQ(GreyOf(0, 0, 255), 29);
     EXPECT_EQ(GreyOf(255, 255, 255), 255);
     EXPECT_EQ(GreyOf(0, 0, 0), 0);
+    // Each weight to the last digit: one more or less would cross a step.
+    EXPECT_EQ(GreyOf(200, 4, 25), 64);
+    EXPECT_EQ(GreyOf(200, 31, 0), 77);
+    EXPECT_EQ(GreyOf(200, 6, 120), 77);
+    EXPECT_EQ(GreyOf(200, 36, 255), 110);
 }
 
 TEST(TransparentPixels, NothingIsReadOrWrittenBesideThePicture) {

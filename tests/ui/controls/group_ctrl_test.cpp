@@ -82,6 +82,7 @@ TEST_F(GroupCtrl, AChildsBitmapIsLoadedByNameForTheOtherForm) {
     ASSERT_EQ(group.offered.size(), 1u);
     EXPECT_EQ(group.GetSelIndex(), 1);
     EXPECT_FALSE(group.AddWnd(&child, L"child", L""));
+    EXPECT_FALSE(group.AddWnd(&child, L"child", static_cast<const wchar_t*>(nullptr)));
     EXPECT_FALSE(group.AddWnd(&child, L"child", L"NOWHERE"));
     EXPECT_EQ(group.offered.size(), 1u);
     EXPECT_EQ(group.GetSelIndex(), 1);
@@ -278,6 +279,32 @@ TEST_F(CoupledGroup, SwallowsItsMessages) {
     EXPECT_EQ(couple.SendMessage(WM_CTLCOLORSTATIC, 0, 0), 0);
     for (const UINT message : {WM_SIZE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEMOVE})
         EXPECT_EQ(couple.SendMessage(message, 0, 0), 0) << message;
+}
+
+std::vector<UINT> reachedThePlatform;
+
+LRESULT CALLBACK noteReached(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    reachedThePlatform.push_back(message);
+    return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+TEST_F(CoupledGroup, ItsMessagesGoNoFurther) {
+    WNDCLASSW plain = {};
+    plain.lpfnWndProc = noteReached;
+    plain.hInstance = AfxGetInstanceHandle();
+    plain.lpszClassName = L"KtuiNotesMessages";
+    ASSERT_NE(::RegisterClassW(&plain), 0);
+    const ui_test::ParentWindow holder;
+    couple.SubclassWindow(::CreateWindowExW(0, plain.lpszClassName, L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 50,
+                                            holder.m_hWnd, nullptr, plain.hInstance, nullptr));
+    reachedThePlatform.clear();
+    for (const UINT message : {WM_PAINT, WM_SIZE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEMOVE})
+        couple.SendMessage(message, 0, 0);
+    EXPECT_EQ(reachedThePlatform, std::vector<UINT>{});
+    couple.SendMessage(WM_RBUTTONDOWN, 0, 0);
+    EXPECT_EQ(reachedThePlatform, std::vector<UINT>{WM_RBUTTONDOWN}) << "others do";
+    couple.DestroyWindow();
+    ::UnregisterClassW(plain.lpszClassName, plain.hInstance);
 }
 
 TEST_F(CoupledGroup, ItsOperationsStandInTheirOrder) {

@@ -211,6 +211,9 @@ TEST_F(OwnerDrawButton, ADrawnTipIsAFilledFrame) {
     EXPECT_EQ(canvas.at(8, 8), ::GetSysColor(COLOR_BTNFACE));
     EXPECT_EQ(canvas.at(14, 12), RGB(1, 2, 3));
     EXPECT_EQ(canvas.count(RGB(0, 0, 0)), 2 * 10 + 2 * 5);
+    EXPECT_EQ(::GetCurrentObject(canvas.dc.m_hDC, OBJ_BRUSH), ::GetStockObject(WHITE_BRUSH))
+        << "its tools are put back";
+    EXPECT_EQ(::GetCurrentObject(canvas.dc.m_hDC, OBJ_PEN), ::GetStockObject(BLACK_PEN));
 }
 
 TEST_F(OwnerDrawButton, AButtonWithoutAnyOfTheStylesOfElevenDrawsNoTip) {
@@ -245,6 +248,8 @@ TEST_F(OwnerDrawButton, VisualStylesAreOpenedOnAttachingAndClosedWithTheWindow) 
     EXPECT_EQ(FakeTheme::opened, attached.m_hWnd);
     EXPECT_NE(attached.GetVisualStylesTheme(), nullptr);
     FakeTheme::asked.clear();
+    attached.ValidateRect(nullptr);
+    ASSERT_FALSE(takeDirty(attached));
     attached.SendMessage(WM_THEMECHANGED);
     EXPECT_EQ(FakeTheme::asked, (std::vector<ui_test::Asked>{{"close"}, {"open BUTTON"}}));
     EXPECT_TRUE(takeDirty(attached));

@@ -139,6 +139,8 @@ TEST_F(ComboChildren, ThatAreReplacedAreLetGoAndTheNewOnesTakenAtTheNextQuestion
     EXPECT_EQ(combo.GetListBox(), &two);
     combo.SetListBox(nullptr, FALSE);
     combo.SetEditBox(nullptr, FALSE);
+    EXPECT_EQ(combo.GetEditBox(), nullptr);
+    EXPECT_EQ(combo.GetListBox(), nullptr);
 }
 
 TEST_F(ComboChildren, OwnershipGoesByTheLastPart) {

@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "canvas.h"
+#include "fake_resolution.h"
 #include "recording_holder.h"
 #include "scheme_in_force.h"
+#include "sent_messages.h"
 #include "test_host.h"
 
 namespace {
@@ -346,4 +348,102 @@ TEST_F(SearchBox, PicturesStandInTheMiddleInTheColoursOfTextsAndWindows) {
         EXPECT_TRUE(canvas == expected) << id;
         EXPECT_GT(canvas.count(ui_test::scheme::kWindowText), 20);
     }
+}
+
+TEST_F(SearchBox, CannotBeMadeWithoutAParent) {
+    EXPECT_FALSE(box.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 170, 34), nullptr, kId));
+    EXPECT_EQ(box.m_hWnd, nullptr);
+    EXPECT_EQ(box.m_editor, nullptr);
+}
+
+TEST_F(SearchBox, OnePixelOfRoomIsEnoughForTheEditor) {
+    ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 35, 34), &holder, kId));
+    ASSERT_EQ(box.client().Width(), box.client().Height() + 1);
+    ASSERT_NE(box.m_editor, nullptr);
+    EXPECT_EQ(box.placeOf(kEditor).Width(), 1);
+}
+
+TEST_F(SearchBox, ItsStylesAreThoseAskedForAndTwoMore) {
+    make();
+    EXPECT_EQ(box.GetStyle() & 0xFFFF, DWORD{ES_AUTOHSCROLL});
+    EXPECT_EQ(box.GetStyle() & 0xFFFF0000, DWORD{WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN});
+    for (const UINT id : {kClear, kSearch}) EXPECT_STREQ(ui_test::text_of(box.inside(id)), L"");
+}
+
+TEST_F(SearchBox, TheEditorGetsItsPromptBeforeTheControl) {
+    std::vector<CString> texts;
+    const ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+        if (message.message == WM_SETTEXT) texts.emplace_back(reinterpret_cast<LPCWSTR>(message.lParam));
+    });
+    make();
+    ASSERT_GE(texts.size(), 2u);
+    EXPECT_STREQ(texts[0], L"name");
+    for (size_t i = 1; i < texts.size(); ++i) EXPECT_STREQ(texts[i], L"Search layers");
+}
+
+TEST_F(SearchBox, APromptIsSelectedByAskingForAll) {
+    make();
+    std::vector<std::pair<WPARAM, LPARAM>> selections;
+    const ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+        if (message.message == EM_SETSEL && message.hwnd == box.m_editor->m_hWnd)
+            selections.emplace_back(message.wParam, message.lParam);
+    });
+    box.SetFocus();
+    ASSERT_FALSE(selections.empty());
+    EXPECT_EQ(selections[0].first, 0u);
+    EXPECT_EQ(selections[0].second, -1);
+}
+
+TEST_F(SearchBox, ClearingChangesTheButtonsThoughNobodyListensToTheEditor) {
+    class Deaf : public Box {
+        void EditChanged() override {}
+    } deaf;
+    ASSERT_TRUE(deaf.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 170, 34), &holder, kId));
+    deaf.SetWindowText(L"wall");
+    deaf.m_searchButton->ShowWindow(SW_HIDE);
+    deaf.m_clearButton->ShowWindow(SW_SHOW);
+    ASSERT_TRUE(deaf.shows(kClear));
+    deaf.ClearEditor();
+    EXPECT_TRUE(deaf.shows(kSearch));
+    EXPECT_FALSE(deaf.shows(kClear));
+    deaf.DestroyWindow();
+}
+
+TEST_F(SearchBox, PicturesComeInTheSizeOfTheResolution) {
+    for (const UINT id : {kSearch, kClear}) {
+        int inked[2] = {};
+        for (const UINT dpi : {96u, 144u}) {
+            const ui_test::FakeResolution resolution(dpi);
+            Box sized;
+            ASSERT_TRUE(sized.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 170, 34), &holder, kId));
+            ui_test::Canvas canvas(40, 40, RGB(1, 2, 3));
+            DRAWITEMSTRUCT item = {};
+            item.CtlType = ODT_BUTTON;
+            item.CtlID = id;
+            item.hwndItem = sized.inside(id);
+            item.hDC = canvas.dc.m_hDC;
+            item.rcItem = CRect(0, 0, 40, 40);
+            sized.SendMessage(WM_DRAWITEM, id, reinterpret_cast<LPARAM>(&item));
+            inked[dpi == 144] = canvas.count(::GetSysColor(COLOR_WINDOWTEXT));
+            sized.DestroyWindow();
+        }
+        EXPECT_GT(inked[0], 20) << id;
+        EXPECT_GT(inked[1], inked[0] * 5 / 4) << id;
+    }
+}
+
+TEST_F(SearchBox, DrawingLeavesTheColoursOfTheDeviceContext) {
+    make();
+    ui_test::Canvas canvas(18, 18);
+    canvas.dc.SetBkColor(RGB(1, 2, 3));
+    canvas.dc.SetTextColor(RGB(4, 5, 6));
+    DRAWITEMSTRUCT item = {};
+    item.CtlType = ODT_BUTTON;
+    item.CtlID = kSearch;
+    item.hwndItem = box.inside(kSearch);
+    item.hDC = canvas.dc.m_hDC;
+    item.rcItem = CRect(0, 0, 18, 18);
+    box.SendMessage(WM_DRAWITEM, kSearch, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(canvas.dc.GetTextColor(), RGB(4, 5, 6));
+    EXPECT_EQ(canvas.dc.GetBkColor(), RGB(1, 2, 3));
 }

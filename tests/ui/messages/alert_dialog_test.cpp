@@ -132,3 +132,12 @@ TEST_F(Alert, RunsWithTheResourceLibraryAndPutsTheFormerBack) {
     EXPECT_EQ(host.pushes, 1);
     EXPECT_EQ(host.pops, 1);
 }
+
+TEST_F(Alert, OkFromElsewhereIsTheDefault) {
+    const auto ok = [](HWND box) { ::PostMessageW(box, WM_COMMAND, IDOK, 0); };
+    EXPECT_EQ(Ask(0, ok), 0);
+    EXPECT_EQ(Ask(1, ok), 1);
+    EXPECT_EQ(Ask(7, ok), -1);
+    EXPECT_EQ(Ask(0, ok, nullptr), 0);
+    EXPECT_EQ(Ask(7, ok, nullptr), -1);
+}

@@ -156,3 +156,15 @@ TEST_F(OwnTaskDialog, HasItsTitleAndDisablesItsParent) {
     EXPECT_FALSE(enabled);
     EXPECT_TRUE(parent.IsWindowEnabled());
 }
+
+TEST_F(OwnTaskDialog, ACommandThatIsNobodysIsNotTaken) {
+    dialog.SetContent(L"body");
+    LRESULT clicked = -1, other = -1;
+    Run([&](HWND box) {
+        clicked = ::SendMessageW(box, WM_COMMAND, MAKEWPARAM(4242, BN_CLICKED), 0);
+        other = ::SendMessageW(box, WM_COMMAND, MAKEWPARAM(4242, BN_SETFOCUS), 0);
+        press(box, IDOK);
+    });
+    EXPECT_EQ(clicked, 0);
+    EXPECT_EQ(other, 0);
+}

@@ -405,3 +405,15 @@ TEST_F(OwnTaskDialogPaint, ClientAreaStandsInTheMiddleOfTheWorkArea) {
     EXPECT_EQ(window.left, work.left + (work.Width() - frame.cx - client.Width()) / 2);
     EXPECT_EQ(window.top, work.top + (work.Height() - frame.cy - client.Height()) / 2);
 }
+
+TEST_F(OwnTaskDialog, ErasesNothingBeforeItPaints) {
+    dialog.SetContent(L"body");
+    ui_test::Canvas canvas(50, 50, RGB(1, 2, 3));
+    LRESULT answer = 0;
+    Run([&](HWND box) {
+        answer = ::SendMessageW(box, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.dc.m_hDC), 0);
+        press(box, IDOK);
+    });
+    EXPECT_EQ(answer, 1);
+    EXPECT_TRUE(canvas.isAll(RGB(1, 2, 3)));
+}

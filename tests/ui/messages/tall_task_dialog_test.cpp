@@ -170,3 +170,19 @@ TEST_F(TallTaskDialog, IconAndFooterAreScrolledAlong) {
         EXPECT_FALSE(isPaper(box, 1, last));
     });
 }
+
+TEST_F(TallTaskDialog, ACommandAboveComesIntoViewAtTheTop) {
+    constexpr int kMany = 100;
+    for (int i = kCommands; i < kMany; ++i) dialog.AddCommandControl(kFirst + i, L"one more");
+    Look([&](HWND box) {
+        Scroll(box, SB_BOTTOM);
+        int above = kFirst + kMany - 1;
+        while (child_of(box, above).rect.top >= 0) --above;
+        ::SetFocus(::GetDlgItem(box, above + 1));
+        MSG key = {::GetDlgItem(box, above + 1), WM_KEYDOWN, VK_UP, 1, 0, {}};
+        CWnd::FromHandle(box)->PreTranslateMessage(&key);
+        ASSERT_EQ(::GetDlgCtrlID(::GetFocus()), above);
+        EXPECT_EQ(child_of(box, above).rect.top, 0);
+        EXPECT_GT(Position(box), 0);
+    });
+}

@@ -1,8 +1,11 @@
 // The tip that a host places anywhere: when it waits, when it shows, how large it is and what it looks like.
 #include <ktui/tips/kh_tip_ctrl.h>
 
+#include <afxglobals.h>
 #include <kh_color_services.h>
+#include <ktui/host/appearance.h>
 
+#include "canvas.h"
 #include "picture.h"
 #include "tip_fixture.h"
 
@@ -181,4 +184,69 @@ TEST_F(RichTip, ATextHasTheColoursOfTheHostsScheme) {
 
 TEST_F(RichTip, LeavesItsBackgroundToItsPainting) {
     EXPECT_EQ(tip.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(::GetDC(tip.m_hWnd))), 1);
+}
+
+namespace {
+
+/// Whether the picture is a frame of `ink` around `paper` with `words` from (`inset`, `inset`) on, line below
+/// line.
+void ExpectDrawn(const Picture& picture, const std::vector<CString>& words, int inset, int lineHeight,
+                 COLORREF ink, COLORREF text, COLORREF paper) {
+    Canvas canvas(picture.width(), picture.height(), ink);
+    canvas.dc.FillSolidRect(1, 1, picture.width() - 2, picture.height() - 2, paper);
+    CFont* const former = canvas.dc.SelectObject(&afxGlobalData.fontTooltip);
+    canvas.dc.SetBkMode(TRANSPARENT);
+    canvas.dc.SetTextColor(text);
+    int top = inset;
+    for (const CString& line : words) {
+        canvas.dc.TextOut(inset, top, line);
+        top += lineHeight;
+    }
+    canvas.dc.SelectObject(former);
+    int differing = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) differing += canvas.at(x, y) != picture.at(x, y);
+    EXPECT_EQ(differing, 0);
+}
+
+}  // namespace
+
+TEST_F(RichTip, IsPaintedAnewWhenItsSizeChanges) {
+    EXPECT_EQ(::GetClassLongPtrW(tip.m_hWnd, GCL_STYLE), static_cast<ULONG_PTR>(CS_VREDRAW | CS_HREDRAW));
+}
+
+TEST_F(RichTip, CannotBeMadeForAWindowThatIsNone) {
+    CWnd nowhere;
+    nowhere.m_hWnd = reinterpret_cast<HWND>(static_cast<ULONG_PTR>(0x12));
+    OpenTip homeless;
+    EXPECT_FALSE(homeless.Create(&nowhere));
+    EXPECT_EQ(homeless.m_hWnd, nullptr);
+    nowhere.m_hWnd = nullptr;
+}
+
+TEST_F(RichTip, LinesBeginFivePixelsInsideEachWay) {
+    tip.Activate(CPoint(100, 100), lines);
+    EndDelay();
+    pump();
+    ExpectDrawn(Picture(tip), {L"Line", L"Layer: Walls and doors"}, 5, tip.m_lineHeight, RGB(0, 0, 0),
+                RGB(0, 0, 0), RGB(255, 255, 255));
+}
+
+TEST_F(RichTip, LinesHaveTheSystemsColoursForAHostThatFollowsIt) {
+    KtUiFollowSystemAppearance(TRUE);
+    tip.Activate(CPoint(100, 100), lines);
+    EndDelay();
+    pump();
+    const Picture picture(tip);
+    KtUiFollowSystemAppearance(FALSE);
+    ExpectDrawn(picture, {L"Line", L"Layer: Walls and doors"}, 5, tip.m_lineHeight,
+                ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOBK));
+}
+
+TEST_F(RichTip, ATextIsBlackOnBlackWithoutAScheme) {
+    host.hasColorServices = false;
+    tip.Activate(CPoint(100, 100), L"Layer", false);
+    pump();
+    const Picture picture(tip);
+    EXPECT_EQ(picture.count(RGB(0, 0, 0)), picture.width() * picture.height());
 }

@@ -349,3 +349,30 @@ TEST_F(SplitButton, TextFlagsFollowTheStyle) {
     EXPECT_EQ(flags(BS_MULTILINE, 0, true),
               static_cast<UINT>(DT_CENTER | DT_VCENTER | DT_WORDBREAK | DT_HIDEPREFIX));
 }
+
+TEST_F(SplitButton, AStyleBecomesASplitOneWithItsDefaultBitKept) {
+    Make(12);
+    Send(BM_SETSTYLE, 3);
+    EXPECT_EQ(::GetWindowLongW(window, GWL_STYLE) & 0xF, 13) << "2 goes, 12 comes, 1 stays";
+    Send(BM_SETSTYLE, 2);
+    EXPECT_EQ(::GetWindowLongW(window, GWL_STYLE) & 0xF, 12);
+}
+
+TEST_F(SplitButton, WithoutARecordItKeepsNothingAndStillServes) {
+    Make(12);
+    SplitButtonRecord* const record = recordOf(window);
+    const int extra = static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA)) - 8;
+    ::SetWindowLongPtrW(window, extra, 0);
+    const DWORD before = record->m_word;
+    STYLESTRUCT styles = {12, 13};
+    Send(WM_SETREDRAW, FALSE);
+    Send(WM_SETREDRAW, TRUE);
+    Send(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
+    Send(WM_STYLECHANGED, static_cast<WPARAM>(GWL_STYLE), reinterpret_cast<LPARAM>(&styles));
+    Send(WM_THEMECHANGED);
+    EXPECT_EQ(Send(BM_GETSTATE) & 0x400, 0);
+    EXPECT_TRUE(wasForwarded(WM_UPDATEUISTATE));
+    EXPECT_TRUE(wasForwarded(WM_THEMECHANGED));
+    EXPECT_EQ(record->m_word, before);
+    ::SetWindowLongPtrW(window, extra, reinterpret_cast<LONG_PTR>(record));
+}
