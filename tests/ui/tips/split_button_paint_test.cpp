@@ -1,9 +1,11 @@
 // How emulated split buttons are painted: the parts and states asked of a theme, what is drawn without one,
 // the clips, the glyph, the icon, the text and the focus.
+#include <ktui/host/platform_versions.h>
 #include <ktui/host/test_door.h>
 #include <ktui/tips/split_button.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "canvas.h"
@@ -447,4 +449,69 @@ TEST_F(SplitButtonPaint, PaintingOnTheScreenValidatesIt) {
     EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, 0, 0), 0);
     EXPECT_FALSE(::GetUpdateRect(window, nullptr, FALSE));
     EXPECT_EQ(Count("frame"), 2);
+}
+
+namespace {
+
+/// Another version of the system for as long as it lives.
+class OtherSystem {
+public:
+    explicit OtherSystem(DWORD code) : m_former(std::exchange(version(), code)) {}
+    ~OtherSystem() { version() = m_former; }
+    OtherSystem(const OtherSystem&) = delete;
+    OtherSystem& operator=(const OtherSystem&) = delete;
+
+private:
+    /// The library keeps it as found when it was loaded.
+    static DWORD& version() { return const_cast<DWORD&>(KtUiTestDoor().loadedToolkit().osVersionCode); }
+    DWORD m_former;
+};
+
+constexpr DWORD kBeforeSplitButtons = MakeOsVersionCode(2, 5, 2);
+
+}  // namespace
+
+TEST_F(SplitButtonPaint, AnOlderSystemsThemedIconIsDrawnHere) {
+    const OtherSystem older(kBeforeSplitButtons);
+    UseTheme();
+    record.m_word = BS_ICON;
+    const HICON picture = ::LoadIconW(nullptr, IDI_HAND);
+    ::SendMessageW(window, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(picture));
+    Paint();
+    ASSERT_EQ(calls.size(), 3u);
+    EXPECT_EQ(calls[0].name, "parent");
+    EXPECT_EQ(calls[0].rect, kAll);
+    EXPECT_EQ(calls[1].name, "background");
+    EXPECT_EQ(calls[1].part, 1);
+    EXPECT_EQ(calls[1].state, 1);
+    EXPECT_EQ(calls[1].rect, kAll);
+    EXPECT_EQ(calls[2].name, "state");
+    const int size = ::GetSystemMetrics(SM_CXICON);
+    EXPECT_EQ(calls[2].rect.TopLeft(), CPoint((kWidth - size) / 2, (kHeight - size) / 2));
+    EXPECT_EQ(calls[2].flags, static_cast<UINT>(DST_ICON | DSS_NORMAL));
+    ::EnableWindow(window, FALSE);
+    Paint();
+    ASSERT_EQ(calls.size(), 3u);
+    EXPECT_EQ(calls[1].state, 4);
+    EXPECT_EQ(calls[2].flags, static_cast<UINT>(DST_ICON | DSS_DISABLED));
+}
+
+TEST_F(SplitButtonPaint, WhatASystemDrawsItselfIsLeftToIt) {
+    const auto drawnHere = [&] {
+        Canvas canvas(kWidth, kHeight, kGround);
+        calls.clear();
+        KtUiTestDoor().splitButtonMessage(&record, window, WM_PRINTCLIENT,
+                                          reinterpret_cast<WPARAM>(canvas.dc.m_hDC), 0);
+        return Count("background") + Count("state");
+    };
+    UseTheme();
+    record.m_word = BS_ICON;
+    EXPECT_EQ(drawnHere(), 0) << "a system with split buttons";
+    const OtherSystem older(kBeforeSplitButtons);
+    EXPECT_EQ(drawnHere(), 2);
+    record.m_word = 0;
+    EXPECT_EQ(drawnHere(), 0) << "no icon";
+    record.m_word = BS_ICON;
+    record.m_theme = nullptr;
+    EXPECT_EQ(drawnHere(), 0) << "no theme";
 }
