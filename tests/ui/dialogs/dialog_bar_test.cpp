@@ -20,6 +20,11 @@ public:
     std::vector<std::string> calls;
     KBUI_REPLY reply = kKbUiReplyNone;
     bool failsToStart = false;
+    /// The answer in the place of the class's own, if there is one.
+    std::optional<KBUI_REPLY> answers;
+    KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) override {
+        return answers ? *answers : CKtUiDialogBar::DoKbUiMessage(notification, id, data);
+    }
 
 protected:
     KBUI_REPLY OnNotifyControlChange(unsigned id, __int64 data) override { return note("change", id, data); }
@@ -268,3 +273,10 @@ TEST_F(BarTest, TheTipsGoWithTheWindow) {
 }
 
 }  // namespace
+
+TEST_F(BarTest, ANotificationIsTheOverridesToAnswer) {
+    bar.answers = static_cast<KBUI_REPLY>(0x57);
+    EXPECT_EQ(send(kKbUiNotifyGeneric, 3, 4), 0x57);
+    bar.answers.reset();
+    EXPECT_EQ(send(kKbUiNotifyGeneric, 3, 4), 0);
+}

@@ -4,6 +4,8 @@
 
 #include <ktui/dialogs/ktui_dialog.h>
 
+#include <optional>
+
 #include "resource.h"
 #include "test_host.h"
 #include "ui_test.h"
@@ -39,7 +41,12 @@ public:
     __int64 lastData = 0;
     KBUI_REPLY hookReply = kKbUiReplyNone;
     CWnd* mainWindow = nullptr;
+    /// The answer to notifications in the place of the class's own, if there is one.
+    std::optional<KBUI_REPLY> answers;
 
+    KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) override {
+        return answers ? *answers : CKtUiDialog::DoKbUiMessage(notification, id, data);
+    }
     CWnd* AppMainWindow() override {
         return mainWindow != nullptr ? mainWindow : CKtUiDialog::AppMainWindow();
     }

@@ -1,4 +1,5 @@
 // Which tip a dialog shows for the place of the pointer in one of its controls, and the windows that show it.
+#include <ktui/host/appearance.h>
 #include "base_dialog_fixture.h"
 #include "sent_messages.h"
 
@@ -401,6 +402,18 @@ TEST_F(BaseDialog, WithTipsOffNothingIsAsked) {
     dialog.SetUseTips(0);
     EXPECT_EQ(updateTip(), 0);
     EXPECT_TRUE(button.heard.empty());
+}
+
+TEST_F(BaseDialog, ToolTipsHaveTheSystemsColoursForAHostThatFollowsIt) {
+    KtUiFollowSystemAppearance(TRUE);
+    dialog.SetUseTips(0);
+    dialog.SetUseTips(1);
+    KtUiFollowSystemAppearance(FALSE);
+    ASSERT_NE(dialog.m_toolTip, nullptr);
+    EXPECT_EQ(static_cast<COLORREF>(dialog.m_toolTip->SendMessage(TTM_GETTIPBKCOLOR)),
+              ::GetSysColor(COLOR_INFOBK));
+    EXPECT_EQ(static_cast<COLORREF>(dialog.m_toolTip->SendMessage(TTM_GETTIPTEXTCOLOR)),
+              ::GetSysColor(COLOR_INFOTEXT));
 }
 
 }  // namespace

@@ -112,3 +112,10 @@ TEST_F(BaseDialog, OtherRepliesAddNoTool) {
 }
 
 }  // namespace
+
+TEST_F(BaseDialog, ANotificationIsTheOverridesToAnswer) {
+    dialog.answers = static_cast<KBUI_REPLY>(0x57);
+    EXPECT_EQ(send(kKbUiNotifyGeneric, 3, 4), 0x57);
+    dialog.answers.reset();
+    EXPECT_EQ(send(kKbUiNotifyGeneric, 3, 4), 0);
+}

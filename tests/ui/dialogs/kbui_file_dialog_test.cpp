@@ -36,6 +36,11 @@ public:
     std::vector<std::string> calls;
     KBUI_REPLY reply = kKbUiReplyNone;
     CWnd* mainWindow = nullptr;
+    /// The answer in the place of the class's own, if there is one.
+    std::optional<KBUI_REPLY> answers;
+    KBUI_REPLY DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) override {
+        return answers ? *answers : CKtUiFileDialog::DoKbUiMessage(notification, id, data);
+    }
     int commandsPassedOn = 0;  ///< WM_COMMAND that got as far as the platform's own processing
     CWnd* AppMainWindow() override {
         return mainWindow != nullptr ? mainWindow : CKtUiFileDialog::AppMainWindow();
@@ -358,3 +363,24 @@ TEST_F(ShownFile, OnlyTheCancelledStateCounts) {
 }
 
 }  // namespace
+
+TEST_F(FileTest, ANotificationIsTheOverridesToAnswer) {
+    dialog.answers = static_cast<KBUI_REPLY>(0x57);
+    EXPECT_EQ(send(kKbUiNotifyGeneric, 3, 4), 0x57);
+    dialog.answers.reset();
+    EXPECT_EQ(send(kKbUiNotifyGeneric, 3, 4), 0);
+}
+
+TEST_F(FileTest, ItsOwnAnswersAreNone) {
+    struct Open : CKtUiFileDialog {
+        using CKbUiFileDialog::OnNotifyControlChange;
+        using CKbUiFileDialog::OnNotifyControlValid;
+        using CKbUiFileDialog::OnNotifyGeneric;
+        using CKbUiFileDialog::OnNotifyUpdateTip;
+        using CKtUiFileDialog::CKtUiFileDialog;
+    } open(TRUE);
+    EXPECT_EQ(open.OnNotifyControlChange(1, 2), kKbUiReplyNone);
+    EXPECT_EQ(open.OnNotifyControlValid(1, 2), kKbUiReplyNone);
+    EXPECT_EQ(open.OnNotifyGeneric(1, 2), kKbUiReplyNone);
+    EXPECT_EQ(open.OnNotifyUpdateTip(nullptr), kKbUiReplyNone);
+}

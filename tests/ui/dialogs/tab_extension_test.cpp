@@ -65,6 +65,7 @@ TEST_F(TabExtension, ADialogOfAnotherNameIsLeftAlone) {
 
 TEST_F(TabExtension, TheNameIsTheDialogsOrTheOneMadeOfItsTemplate) {
     EXPECT_STREQ(dialog.GetXtabPointer()->GetDialogName(), L"tabbed");
+    EXPECT_EQ(dialog.GetXtabPointer()->AddExtendedTabs(), 0);
     class Unnamed : public CKtUiTabMainDialog {
     public:
         Unnamed() : CKtUiTabMainDialog(IDD_TABBED) {}
