@@ -14,6 +14,10 @@ BOOL CSpinButtonCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, 
     return CWnd::Create(UPDOWN_CLASSW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
+BOOL CSpinButtonCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::CreateEx(dwExStyle, UPDOWN_CLASSW, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy) {
     return window_of(SendMessage(UDM_SETBUDDY, reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndBuddy))));
 }
@@ -22,6 +26,10 @@ CWnd* CSpinButtonCtrl::GetBuddy() const { return window_of(SendMessage(UDM_GETBU
 
 BOOL CSliderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create(TRACKBAR_CLASSW, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CSliderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::CreateEx(dwExStyle, TRACKBAR_CLASSW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 CWnd* CSliderCtrl::GetBuddy(BOOL fLocation) const {
@@ -33,8 +41,20 @@ CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation) {
     return window_of(SendMessage(TBM_SETBUDDY, static_cast<WPARAM>(fLocation), buddy));
 }
 
+CToolTipCtrl* CSliderCtrl::GetToolTips() const {
+    return static_cast<CToolTipCtrl*>(window_of(SendMessage(TBM_GETTOOLTIPS)));
+}
+
+void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip) {
+    SendMessage(TBM_SETTOOLTIPS, reinterpret_cast<WPARAM>(kmfc::safe_handle(pWndTip)));
+}
+
 BOOL CProgressCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create(PROGRESS_CLASSW, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::CreateEx(dwExStyle, PROGRESS_CLASSW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 void CProgressCtrl::GetRange(int& nLower, int& nUpper) const {

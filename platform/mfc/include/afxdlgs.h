@@ -1,4 +1,4 @@
-// The system's dialogs.
+// The system's dialogs, and dialogs of pages.
 #pragma once
 #define __AFXDLGS_H__  ///< what programs test to see that this header was there
 
@@ -6,3 +6,4 @@
 
 #include <kmfc/common_dialogs.h>
 #include <kmfc/file_dialog.h>
+#include <kmfc/property_sheet.h>

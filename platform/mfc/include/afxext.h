@@ -8,3 +8,5 @@
 #include <kmfc/control_bar.h>
 #include <kmfc/dialog_bar.h>
 #include <kmfc/mem_dc.h>
+#include <kmfc/status_bar.h>
+#include <kmfc/tool_bar.h>

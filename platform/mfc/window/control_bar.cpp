@@ -75,6 +75,7 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_NCCALCSIZE()
     ON_WM_NCPAINT()
     ON_WM_CTLCOLOR()
+    ON_WM_MOUSELEAVE()
     ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
 END_MESSAGE_MAP()
@@ -91,7 +92,9 @@ BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
 }
 
 int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    return CWnd::OnCreate(lpCreateStruct) == -1 ? -1 : 0;
+    if (CWnd::OnCreate(lpCreateStruct) == -1) return -1;
+    EnableToolTips((m_dwStyle & CBRS_TOOLTIPS) != 0);
+    return 0;
 }
 
 BOOL CControlBar::DestroyWindow() { return m_hWnd != nullptr && CWnd::DestroyWindow(); }
@@ -101,6 +104,7 @@ void CControlBar::PostNcDestroy() {
 }
 
 void CControlBar::SetBarStyle(DWORD dwStyle) {
+    EnableToolTips((dwStyle & CBRS_TOOLTIPS) != 0);
     if (m_dwStyle == dwStyle) return;
     m_dwStyle = dwStyle;
     if (m_hWnd != nullptr)
@@ -190,8 +194,33 @@ LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
                                                         : DefWindowProc(message, wParam, lParam);
 }
 
+void CControlBar::tell_frame(INT_PTR tool) {
+    if (tool == m_flyTool) return;
+    m_flyTool = tool;
+    CFrameWnd* frame = GetTopLevelFrame();
+    if (frame == nullptr) return;
+    const UINT message = tool != -1 ? WM_SETMESSAGESTRING : WM_POPMESSAGESTRING;
+    frame->SendMessage(message, tool != -1 ? static_cast<WPARAM>(tool) : AFX_IDS_IDLEMESSAGE);
+}
+
+void CControlBar::follow_mouse(const MSG& message) {
+    if (!(m_dwStyle & CBRS_FLYBY) || message.message != WM_MOUSEMOVE) return;
+    CPoint point(message.pt);
+    ScreenToClient(&point);
+    tell_frame(OnToolHitTest(point, nullptr));
+    // One that leaves the bar goes without a move.
+    TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, message.hwnd, 0};
+    if (message.hwnd == m_hWnd) ::TrackMouseEvent(&track);
+}
+
+void CControlBar::OnMouseLeave() {
+    Default();
+    tell_frame(-1);
+}
+
 BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
     if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+    follow_mouse(*pMsg);
     // The frame's accelerators come before the keys of the bar, or a dialog would swallow them.
     for (CFrameWnd* frame = GetTopLevelFrame(); frame != nullptr; frame = frame->GetParentFrame())
         if (frame->PreTranslateMessage(pMsg)) return TRUE;

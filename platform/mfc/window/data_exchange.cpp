@@ -79,11 +79,20 @@ void exchange_integer(CDataExchange* exchange, int id, T& value, UINT prompt) {
     const CString text = control_text(control);
     wchar_t* end = nullptr;
     errno = 0;
-    const long long parsed = wcstoll(text, &end, 10);
-    const bool fits = errno == 0 && parsed >= static_cast<long long>(std::numeric_limits<T>::min()) &&
-                      parsed <= static_cast<long long>(std::numeric_limits<T>::max());
+    T parsed_value = 0;
+    bool fits = false;
+    if constexpr (std::is_same_v<T, unsigned long long>) {
+        parsed_value = wcstoull(text, &end, 10);
+        // The function takes a sign for the number from above.
+        fits = errno == 0 && wcschr(text, L'-') == nullptr;
+    } else {
+        const long long parsed = wcstoll(text, &end, 10);
+        fits = errno == 0 && parsed >= static_cast<long long>(std::numeric_limits<T>::min()) &&
+               parsed <= static_cast<long long>(std::numeric_limits<T>::max());
+        parsed_value = static_cast<T>(parsed);
+    }
     if (end == text.GetString() || !at_end(end) || !fits) refuse(exchange, prompt);
-    value = static_cast<T>(parsed);
+    value = parsed_value;
 }
 
 template <class T>
@@ -122,6 +131,12 @@ void DDX_Text(CDataExchange* pDX, int nIDC, long& value) {
     exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT);
 }
 void DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value) {
+    exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_INT);
+}
+void DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value) {
     exchange_integer(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
 }
 void DDX_Text(CDataExchange* pDX, int nIDC, float& value) { exchange_real(pDX, nIDC, value, FLT_DIG); }
@@ -293,6 +308,15 @@ void DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
 }
 void DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
     check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxUnsigned(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal) {
+    check_integer_range(pDX, value, minVal, maxVal);
+}
+void DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal) {
+    check_range<unsigned long long>(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE, L"%llu");
 }
 void DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float maxVal) {
     check_range<double>(pDX, value, minVal, maxVal, AFX_IDP_PARSE_REAL_RANGE, L"%.6g");

@@ -2,6 +2,8 @@
 #include <kmfc/control_bar.h>
 #include <kmfc/frame.h>
 
+#include <kmfc/status_bar.h>
+
 #include "thread_state.h"
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -18,6 +20,17 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_MENUSELECT()
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
     ON_MESSAGE(WM_COMMANDHELP, &CFrameWnd::OnCommandHelp)
+    ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_KANA, &CFrameWnd::OnUpdateKeyIndicator)
 END_MESSAGE_MAP()
 
 CFrameWnd::CFrameWnd() = default;
@@ -98,11 +111,13 @@ void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CFrameWnd::RecalcLayout(BOOL) {
+    m_isLayoutPending = false;
     RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
 }
 
 void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
     pBar->delay_show(bShow != FALSE);
+    m_isLayoutPending = true;
     if (!bDelay) RecalcLayout(FALSE);
 }
 
@@ -161,6 +176,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
 }
 
 void CFrameWnd::OnMenuSelect(UINT nItemID, UINT nFlags, HMENU) {
+    m_isMenuUp = nFlags != 0xFFFF;
     if (nFlags == 0xFFFF) {
         m_nIDTracking = AFX_IDS_IDLEMESSAGE;
         SendMessage(WM_SETMESSAGESTRING, m_nIDTracking);
@@ -185,8 +201,61 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM wParam, LPARAM lParam) {
     else if (wParam != 0)
         GetMessageString(static_cast<UINT>(wParam), text);
     if (CWnd* bar = GetMessageBar()) bar->SetWindowText(text);
-    m_nIDLastMessage = static_cast<UINT>(wParam);
+    m_nIDLastMessage = m_nIDTracking = static_cast<UINT>(wParam);
     return static_cast<LRESULT>(previous);
+}
+
+CWnd* CFrameWnd::GetMessageBar() { return GetDescendantWindow(AFX_IDW_STATUS_BAR, TRUE); }
+
+LRESULT CFrameWnd::OnPopMessageString(WPARAM wParam, LPARAM lParam) {
+    return m_isMenuUp ? 0 : SendMessage(WM_SETMESSAGESTRING, wParam, lParam);
+}
+
+LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
+    // Bars that are to be shown or hidden wait for this.
+    if (m_isLayoutPending) RecalcLayout(FALSE);
+    return 0;
+}
+
+BOOL CFrameWnd::OnToolTipText(UINT, NMHDR* pNMHDR, LRESULT* pResult) {
+    auto& question = *reinterpret_cast<NMTTDISPINFOW*>(pNMHDR);
+    UINT_PTR id = pNMHDR->idFrom;
+    if (question.uFlags & TTF_IDISHWND)
+        id = static_cast<UINT_PTR>(static_cast<UINT>(::GetDlgCtrlID(reinterpret_cast<HWND>(id))));
+    CString full;
+    if (id == 0 || id > 0xFFFF || !full.LoadString(static_cast<UINT>(id))) return FALSE;
+    if (!AfxExtractSubString(m_tipText, full, 1)) return FALSE;
+    question.lpszText = const_cast<LPWSTR>(m_tipText.GetString());
+    question.hinst = nullptr;
+    *pResult = 0;
+    return TRUE;
+}
+
+void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* pCmdUI) {
+    const CControlBar* bar = GetControlBar(pCmdUI->m_nID);
+    if (bar == nullptr)
+        pCmdUI->ContinueRouting();
+    else
+        pCmdUI->SetCheck(bar->IsVisible() ? 1 : 0);
+}
+
+BOOL CFrameWnd::OnBarCheck(UINT nID) {
+    CControlBar* bar = GetControlBar(nID);
+    if (bar == nullptr) return FALSE;
+    ShowControlBar(bar, !bar->IsVisible(), FALSE);
+    return TRUE;
+}
+
+void CFrameWnd::OnUpdateKeyIndicator(CCmdUI* pCmdUI) {
+    int key = 0;
+    switch (pCmdUI->m_nID) {
+        case ID_INDICATOR_CAPS: key = VK_CAPITAL; break;
+        case ID_INDICATOR_NUM: key = VK_NUMLOCK; break;
+        case ID_INDICATOR_SCRL: key = VK_SCROLL; break;
+        case ID_INDICATOR_KANA: key = VK_KANA; break;
+        default: pCmdUI->ContinueRouting(); return;
+    }
+    pCmdUI->Enable(::GetKeyState(key) & 1);
 }
 
 void CFrameWnd::SetMessageText(LPCTSTR lpszText) {

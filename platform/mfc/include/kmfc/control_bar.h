@@ -64,7 +64,8 @@ public:
         m_rectBorder.SetRect(cxLeft, cyTop, cxRight, cyBottom);
     }
     void SetBorders(LPCRECT lpRect) { m_rectBorder = *lpRect; }
-    /// CBRS_ styles. Changing them draws the bar anew; the frame's RecalcLayout gives it its new place.
+    /// CBRS_ styles. Changing them draws the bar anew; the frame's RecalcLayout gives it its new place. With
+    /// CBRS_TOOLTIPS tips are shown for the bar's tools, with CBRS_FLYBY their messages in the frame.
     DWORD GetBarStyle() { return m_dwStyle; }
     void SetBarStyle(DWORD dwStyle);
     BOOL IsFloating() const { return FALSE; }
@@ -97,6 +98,7 @@ protected:
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
     afx_msg void OnNcPaint();
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg void OnMouseLeave();
     afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
@@ -111,7 +113,12 @@ private:
     void delay_show(bool show) { m_pending = show ? Pending::show : Pending::hide; }
     void end_pending();
 
+    /// Tells the frame which tool of the bar is under the mouse.
+    void follow_mouse(const MSG& message);
+    void tell_frame(INT_PTR tool);
+
     Pending m_pending = Pending::none;
+    INT_PTR m_flyTool = -1;  ///< the tool whose message the frame shows
 
     friend class CFrameWnd;
 };

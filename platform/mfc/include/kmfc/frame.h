@@ -6,6 +6,9 @@
 
 class CControlBar;
 
+/// Sent to a frame when a tool's message is over: shows message `wParam`, unless a menu's is up.
+constexpr UINT WM_POPMESSAGESTRING = 0x0375;
+
 class KMFC_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 public:
@@ -36,7 +39,8 @@ public:
     /// Shows `lpszText` where the frame shows messages.
     void SetMessageText(LPCTSTR lpszText);
     void SetMessageText(UINT nID);
-    virtual CWnd* GetMessageBar() { return nullptr; }
+    /// The bar that shows messages: the one with AFX_IDW_STATUS_BAR, or null.
+    virtual CWnd* GetMessageBar();
     /// Gives the bars and the view (AFX_IDW_PANE_FIRST) their places; called at each change of size.
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     /// Shows or hides a bar of the frame and lays out anew; with `bDelay` at the next layout that comes.
@@ -62,6 +66,16 @@ public:
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     /// Help for the menu item that is tracked, or else for the frame.
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
+    /// Answers a tip: the second line of the string of the tool's command.
+    afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    /// Checks the menu item of the bar with the item's id when the bar is visible.
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
+    /// Shows or hides the bar with that id; FALSE without one.
+    afx_msg BOOL OnBarCheck(UINT nID);
+    /// Enables the pane of a key that is on.
+    afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -76,4 +90,9 @@ protected:
     CDWordArray m_disabledWindows;  ///< windows that BeginModalState disabled (low words of their handles)
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    CString m_tipText;               ///< what the tip that is up shows
+    bool m_isMenuUp = false;         ///< a menu's message is shown
+    bool m_isLayoutPending = false;  ///< a bar waits to be shown or hidden
 };

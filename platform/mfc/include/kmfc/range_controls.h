@@ -9,6 +9,7 @@ class KMFC_API CSpinButtonCtrl : public CWnd {
 public:
     CSpinButtonCtrl() = default;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     BOOL SetAccel(int nAccel, UDACCEL* pAccel) {
         return static_cast<BOOL>(SendMessage(UDM_SETACCEL, static_cast<WPARAM>(nAccel), as_param(pAccel)));
@@ -47,6 +48,7 @@ class KMFC_API CSliderCtrl : public CWnd {
 public:
     CSliderCtrl() = default;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     int GetPos() const { return send(TBM_GETPOS); }
     void SetPos(int nPos) { send(TBM_SETPOS, TRUE, nPos); }
@@ -79,6 +81,13 @@ public:
     BOOL SetTic(int nTic) { return send(TBM_SETTIC, 0, nTic); }
     void SetTicFreq(int nFreq) { send(TBM_SETTICFREQ, static_cast<WPARAM>(nFreq)); }
     void ClearTics(BOOL bRedraw = FALSE) { send(TBM_CLEARTICS, static_cast<WPARAM>(bRedraw)); }
+    DWORD* GetTicArray() const { return reinterpret_cast<DWORD*>(SendMessage(TBM_GETPTICS)); }
+    int GetThumbLength() const { return send(TBM_GETTHUMBLENGTH); }
+    void SetThumbLength(int nLength) { send(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(nLength)); }
+    CToolTipCtrl* GetToolTips() const;
+    void SetToolTips(CToolTipCtrl* pWndTip);
+    /// Where a tip stands, TBTS_; the place before.
+    int SetTipSide(int nLocation) { return send(TBM_SETTIPSIDE, static_cast<WPARAM>(nLocation)); }
     void GetThumbRect(LPRECT lprc) const { SendMessage(TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(lprc)); }
     void GetChannelRect(LPRECT lprc) const {
         SendMessage(TBM_GETCHANNELRECT, 0, reinterpret_cast<LPARAM>(lprc));
@@ -98,12 +107,21 @@ class KMFC_API CProgressCtrl : public CWnd {
 public:
     CProgressCtrl() = default;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     void SetRange(short nLower, short nUpper) { SendMessage(PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper)); }
     void SetRange32(int nLower, int nUpper) {
         SendMessage(PBM_SETRANGE32, static_cast<WPARAM>(nLower), nUpper);
     }
     void GetRange(int& nLower, int& nUpper) const;
+    int GetStep() const { return static_cast<int>(SendMessage(PBM_GETSTEP)); }
+    COLORREF GetBarColor() const { return static_cast<COLORREF>(SendMessage(PBM_GETBARCOLOR)); }
+    COLORREF GetBkColor() const { return static_cast<COLORREF>(SendMessage(PBM_GETBKCOLOR)); }
+    /// PBST_; setting answers the state before.
+    int GetState() const { return static_cast<int>(SendMessage(PBM_GETSTATE)); }
+    int SetState(int iState) {
+        return static_cast<int>(SendMessage(PBM_SETSTATE, static_cast<WPARAM>(iState)));
+    }
     int GetPos() const { return static_cast<int>(SendMessage(PBM_GETPOS)); }
     /// Each answers the position before.
     int SetPos(int nPos) { return static_cast<int>(SendMessage(PBM_SETPOS, static_cast<WPARAM>(nPos))); }

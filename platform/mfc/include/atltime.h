@@ -1,0 +1,4 @@
+// CTime and CTimeSpan.
+#pragma once
+
+#include <kmfc/time.h>

@@ -1,0 +1,393 @@
+// CToolBar: buttons from resources, their layout in rows, states and tips by way of the frame.
+#include <kmfc/tool_bar.h>
+
+#include <algorithm>
+
+#include <kmfc/frame.h>
+
+IMPLEMENT_DYNAMIC(CToolBar, CControlBar)
+
+BEGIN_MESSAGE_MAP(CToolBar, CControlBar)
+    ON_WM_NCCREATE()
+    ON_WM_NCCALCSIZE()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr int kGap = 8;                           // pixels of a separator
+constexpr int kExtraWidth = 7, kExtraHeight = 7;  // pixels of a button around its picture
+constexpr DWORD kControlStyles = CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NODIVIDER | CCS_NORESIZE;
+const LPCTSTR kToolBarType = MAKEINTRESOURCEW(241);
+
+/// The head of a TOOLBAR resource; the commands follow it.
+struct ToolBarResource {
+    WORD version;  ///< 1
+    WORD width;    ///< of a picture, in pixels
+    WORD height;
+    WORD count;  ///< of commands, 0 for a gap
+
+    const WORD* commands() const { return reinterpret_cast<const WORD*>(this + 1); }
+};
+
+/// The toolbar resource of that name; null when there is none or its bytes do not fit its count.
+const ToolBarResource* find_tool_bar(LPCTSTR name) {
+    HINSTANCE module = AfxFindResourceHandle(name, kToolBarType);
+    HRSRC place = ::FindResourceW(module, name, kToolBarType);
+    HGLOBAL loaded = place != nullptr ? ::LoadResource(module, place) : nullptr;
+    const auto* bar =
+        loaded != nullptr ? static_cast<const ToolBarResource*>(::LockResource(loaded)) : nullptr;
+    if (bar == nullptr) return nullptr;
+    const DWORD size = ::SizeofResource(module, place);
+    const bool whole = size >= sizeof *bar && size - sizeof *bar >= bar->count * sizeof(WORD);
+    return whole && bar->version == 1 ? bar : nullptr;
+}
+
+}  // namespace
+
+CToolBar::~CToolBar() {
+    m_bAutoDelete = FALSE;
+    DestroyWindow();
+    if (m_hbmLoaded != nullptr) ::DeleteObject(m_hbmLoaded);
+}
+
+BOOL CToolBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
+    return CreateEx(pParentWnd, 0, dwStyle, CRect(0, 0, 0, 0), nID);
+}
+
+BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRect rcBorders, UINT nID) {
+    SetBorders(rcBorders);
+    m_dwStyle = dwStyle & CBRS_ALL;
+    const DWORD style = (dwStyle & ~CBRS_ALL) | kControlStyles | dwCtrlStyle;
+    if (!CWnd::Create(TOOLBARCLASSNAMEW, nullptr, style, CRect(0, 0, 0, 0), pParentWnd, nID)) return FALSE;
+    SetBarStyle(m_dwStyle);
+    SetSizes(m_sizeButton, m_sizeImage);
+    return TRUE;
+}
+
+BOOL CToolBar::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (!CControlBar::OnNcCreate(lpCreateStruct)) return FALSE;
+    DefWindowProc(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    return TRUE;
+}
+
+void CToolBar::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp) {
+    CControlBar::OnNcCalcSize(bCalcValidRects, lpncsp);
+    RECT& inside = lpncsp->rgrc[0];
+    const CRect borders = GetBorders();
+    inside.left += borders.left;
+    inside.top += borders.top;
+    inside.right -= borders.right;
+    inside.bottom -= borders.bottom;
+}
+
+CToolBarCtrl& CToolBar::GetToolBarCtrl() const {
+    // The control's class has no members of its own: it only names the messages of the window.
+    return *reinterpret_cast<CToolBarCtrl*>(const_cast<CToolBar*>(this));
+}
+
+BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName) {
+    const ToolBarResource* bar = find_tool_bar(lpszResourceName);
+    if (bar == nullptr) return FALSE;
+    CArray<UINT, UINT> commands;
+    for (int i = 0; i < bar->count; ++i) commands.Add(bar->commands()[i]);
+    const CSize image(bar->width, bar->height);
+    const CSize formerButton = m_sizeButton, formerImage = m_sizeImage;
+    SetSizes(CSize(image.cx + kExtraWidth, image.cy + kExtraHeight), image);
+    if (LoadBitmap(lpszResourceName) && SetButtons(commands.GetData(), bar->count)) return TRUE;
+    SetSizes(formerButton, formerImage);
+    return FALSE;
+}
+
+BOOL CToolBar::LoadBitmap(LPCTSTR lpszResourceName) {
+    HINSTANCE module = AfxFindResourceHandle(lpszResourceName, RT_BITMAP);
+    const auto bitmap = static_cast<HBITMAP>(
+        ::LoadImageW(module, lpszResourceName, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS | LR_CREATEDIBSECTION));
+    if (bitmap == nullptr) return FALSE;
+    if (!take_bitmap(bitmap)) {
+        ::DeleteObject(bitmap);
+        return FALSE;
+    }
+    if (m_hbmLoaded != nullptr) ::DeleteObject(m_hbmLoaded);
+    m_hbmLoaded = bitmap;
+    return TRUE;
+}
+
+BOOL CToolBar::SetBitmap(HBITMAP hbmImageWell) { return take_bitmap(hbmImageWell); }
+
+/// Gives the control the pictures, in place of those it had.
+BOOL CToolBar::take_bitmap(HBITMAP bitmap) {
+    BITMAP size = {};
+    if (m_hWnd == nullptr || m_sizeImage.cx <= 0 || !::GetObjectW(bitmap, sizeof size, &size)) return FALSE;
+    const int count = size.bmWidth / m_sizeImage.cx;
+    CToolBarCtrl& control = GetToolBarCtrl();
+    if (m_hbmShown == nullptr) {
+        TBADDBITMAP added = {nullptr, reinterpret_cast<UINT_PTR>(bitmap)};
+        if (control.SendMessage(TB_ADDBITMAP, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(&added)) !=
+            0)
+            return FALSE;
+    } else {
+        TBREPLACEBITMAP exchange = {nullptr, reinterpret_cast<UINT_PTR>(m_hbmShown), nullptr,
+                                    reinterpret_cast<UINT_PTR>(bitmap), count};
+        if (!control.ReplaceBitmap(&exchange)) return FALSE;
+    }
+    m_hbmShown = bitmap;
+    m_shownCount = count;
+    return TRUE;
+}
+
+BOOL CToolBar::SetButtons(const UINT* lpIDArray, int nIDCount) {
+    if (m_hWnd == nullptr || nIDCount < 0) return FALSE;
+    CToolBarCtrl& control = GetToolBarCtrl();
+    for (int left = control.GetButtonCount(); left > 0; --left)
+        if (!control.DeleteButton(left - 1)) return FALSE;
+    m_nCount = 0;
+    int picture = 0;
+    for (int i = 0; i < nIDCount; ++i) {
+        TBBUTTON made = {};
+        made.iString = -1;
+        made.fsState = TBSTATE_ENABLED;
+        if (lpIDArray == nullptr) {
+            made.fsState = TBSTATE_HIDDEN;
+        } else if (lpIDArray[i] == ID_SEPARATOR) {
+            made.fsStyle = TBSTYLE_SEP;
+            made.iBitmap = kGap;
+        } else {
+            made.idCommand = static_cast<int>(lpIDArray[i]);
+            made.iBitmap = picture++;
+        }
+        if (!control.InsertButton(i, &made)) return FALSE;
+        ++m_nCount;
+    }
+    m_wrapWidth = 0;
+    wrap(32767);
+    return TRUE;
+}
+
+void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {
+    m_sizeButton = sizeButton;
+    m_sizeImage = sizeImage;
+    if (m_hWnd == nullptr) return;
+    GetToolBarCtrl().SetBitmapSize(sizeImage);
+    GetToolBarCtrl().SetButtonSize(sizeButton);
+    Invalidate();
+}
+
+void CToolBar::SetHeight(int cyHeight) {
+    m_height = std::max(cyHeight, 0);
+    if (m_hWnd != nullptr) Invalidate();
+}
+
+bool CToolBar::button(int index, TBBUTTON& info) const {
+    info = {};
+    return m_hWnd != nullptr && index >= 0 && GetToolBarCtrl().GetButton(index, &info);
+}
+
+void CToolBar::put_button(int index, const TBBUTTON& info) {
+    TBBUTTON former = {}, changed = info;
+    if (!button(index, former) || memcmp(&former, &changed, sizeof former) == 0) return;
+    CToolBarCtrl& control = GetToolBarCtrl();
+    SetRedraw(FALSE);
+    control.DeleteButton(index);
+    control.InsertButton(index, &changed);
+    SetRedraw(TRUE);
+    CRect place;
+    GetItemRect(index, &place);
+    // Buttons behind one that changed its width move.
+    if (former.fsStyle != changed.fsStyle || (changed.fsStyle & TBSTYLE_SEP))
+        Invalidate();
+    else
+        InvalidateRect(&place);
+}
+
+int CToolBar::CommandToIndex(UINT nIDFind) const {
+    return m_hWnd != nullptr ? GetToolBarCtrl().CommandToIndex(nIDFind) : -1;
+}
+
+UINT CToolBar::GetItemID(int nIndex) const {
+    TBBUTTON info;
+    return button(nIndex, info) ? static_cast<UINT>(info.idCommand) : ID_SEPARATOR;
+}
+
+void CToolBar::GetItemRect(int nIndex, LPRECT lpRect) const {
+    ::SetRectEmpty(lpRect);
+    if (m_hWnd != nullptr && !GetToolBarCtrl().GetItemRect(nIndex, lpRect)) ::SetRectEmpty(lpRect);
+}
+
+UINT CToolBar::GetButtonStyle(int nIndex) const {
+    TBBUTTON info;
+    if (!button(nIndex, info)) return TBBS_SEPARATOR;
+    return static_cast<UINT>(MAKELONG(info.fsStyle, info.fsState ^ TBSTATE_ENABLED));
+}
+
+void CToolBar::SetButtonStyle(int nIndex, UINT nStyle) {
+    TBBUTTON info;
+    if (!button(nIndex, info)) return;
+    // Rows are the bar's, not the caller's.
+    const int wrapped = info.fsState & TBSTATE_WRAP;
+    info.fsStyle = static_cast<BYTE>(LOWORD(nStyle));
+    info.fsState = static_cast<BYTE>((HIWORD(nStyle) ^ TBSTATE_ENABLED) | wrapped);
+    put_button(nIndex, info);
+}
+
+void CToolBar::GetButtonInfo(int nIndex, UINT& nID, UINT& nStyle, int& iImage) const {
+    TBBUTTON info;
+    button(nIndex, info);
+    nID = GetItemID(nIndex);
+    nStyle = GetButtonStyle(nIndex);
+    iImage = info.iBitmap;
+}
+
+void CToolBar::SetButtonInfo(int nIndex, UINT nID, UINT nStyle, int iImage) {
+    TBBUTTON info;
+    if (!button(nIndex, info)) return;
+    const int wrapped = info.fsState & TBSTATE_WRAP;
+    info.idCommand = static_cast<int>(nID);
+    info.iBitmap = iImage;
+    info.fsStyle = static_cast<BYTE>(LOWORD(nStyle));
+    info.fsState = static_cast<BYTE>((HIWORD(nStyle) ^ TBSTATE_ENABLED) | wrapped);
+    put_button(nIndex, info);
+}
+
+CString CToolBar::GetButtonText(int nIndex) const {
+    TBBUTTON info;
+    if (!button(nIndex, info) || info.iString < 0 || info.iString >= m_texts.GetSize()) return CString();
+    return m_texts[info.iString];
+}
+
+BOOL CToolBar::SetButtonText(int nIndex, LPCTSTR lpszText) {
+    TBBUTTON info;
+    if (!button(nIndex, info)) return FALSE;
+    const CString text(lpszText);
+    INT_PTR place = 0;
+    while (place < m_texts.GetSize() && m_texts[place] != text) ++place;
+    if (place == m_texts.GetSize()) {
+        // The control keeps its texts for good, so the same one is added once only.
+        CString listed = text;
+        listed.AppendChar(L'\0');
+        if (GetToolBarCtrl().AddStrings(listed) != place) return FALSE;
+        m_texts.Add(text);
+    }
+    info.iString = place;
+    put_button(nIndex, info);
+    return TRUE;
+}
+
+/// What rows need, in pixels.
+CSize CToolBar::extent() const {
+    CSize size(0, 0);
+    for (int i = 0; i < m_nCount; ++i) {
+        CRect place;
+        GetItemRect(i, &place);
+        size.cx = std::max(size.cx, place.right);
+        size.cy = std::max(size.cy, place.bottom);
+    }
+    return size;
+}
+
+void CToolBar::wrap(int width) {
+    if (m_wrapWidth == width) return;
+    m_wrapWidth = width;
+    int x = 0;
+    for (int i = 0; i < m_nCount; ++i) {
+        TBBUTTON info, next;
+        button(i, info);
+        CRect place, following;
+        GetItemRect(i, &place);
+        GetItemRect(i + 1, &following);
+        x += place.Width();
+        const bool isLast = !button(i + 1, next);
+        const bool ends = !isLast && (width == 0 || x + following.Width() > width);
+        if (ends) x = 0;
+        info.fsState = static_cast<BYTE>(ends ? info.fsState | TBSTATE_WRAP : info.fsState & ~TBSTATE_WRAP);
+        put_button(i, info);
+    }
+}
+
+CSize CToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
+    return CalcDynamicLayout(-1, (bStretch ? LM_STRETCH : 0) | (bHorz ? LM_HORZ : 0));
+}
+
+CSize CToolBar::CalcDynamicLayout(int nLength, DWORD dwMode) {
+    const bool horizontal = (dwMode & LM_HORZ) != 0;
+    const int former = m_wrapWidth;
+    CRect frame(0, 0, 0, 0);
+    const CRect borders = GetBorders();
+    const int line = (m_dwStyle & CBRS_BORDER_3D) ? 2 : 1;
+    const auto lines = [&](DWORD one, DWORD other) {
+        return line * (((m_dwStyle & one) != 0) + ((m_dwStyle & other) != 0));
+    };
+    const CSize around(borders.left + borders.right + lines(CBRS_BORDER_LEFT, CBRS_BORDER_RIGHT),
+                       borders.top + borders.bottom + lines(CBRS_BORDER_TOP, CBRS_BORDER_BOTTOM));
+    wrap(!horizontal ? 0 : nLength > 0 ? std::max<int>(nLength - around.cx, 1) : 32767);
+    CSize size = extent();
+    // Only asked: the bar itself stands otherwise.
+    const bool own = ((m_dwStyle & CBRS_ORIENT_VERT) != 0) != horizontal;
+    if (!own) wrap(former);
+    if (size.cy == 0) size.cy = m_sizeButton.cy;
+    if (m_height != 0 && horizontal) size.cy = m_height;
+    size += around;
+    const CSize whole = CControlBar::CalcFixedLayout((dwMode & LM_STRETCH) != 0, horizontal);
+    return CSize(std::max(size.cx, whole.cx), std::max(size.cy, whole.cy));
+}
+
+INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
+    const INT_PTR child = CWnd::OnToolHitTest(point, pTI);
+    if (child != -1) return child;
+    for (int i = 0; i < m_nCount; ++i) {
+        TBBUTTON info;
+        CRect place;
+        GetItemRect(i, &place);
+        if (!place.PtInRect(point) || !button(i, info) || (info.fsStyle & TBSTYLE_SEP)) continue;
+        if (pTI != nullptr && pTI->cbSize >= TTTOOLINFOW_V1_SIZE) {
+            pTI->hwnd = m_hWnd;
+            pTI->rect = place;
+            pTI->uId = static_cast<UINT_PTR>(info.idCommand);
+            pTI->lpszText = LPSTR_TEXTCALLBACKW;
+        }
+        return info.idCommand;
+    }
+    return -1;
+}
+
+/// A button that is asked for its state.
+class CToolCmdUI : public CCmdUI {
+public:
+    explicit CToolCmdUI(CToolBar& bar) : m_bar(bar) { m_pOther = &bar; }
+
+    void Enable(BOOL bOn) override {
+        m_bEnableChanged = TRUE;
+        UINT style = m_bar.GetButtonStyle(index()) & ~TBBS_DISABLED;
+        // A button that is disabled is let go.
+        if (!bOn) style = (style | TBBS_DISABLED) & ~TBBS_PRESSED;
+        m_bar.SetButtonStyle(index(), style);
+    }
+    void SetCheck(int nCheck) override {
+        UINT style = m_bar.GetButtonStyle(index()) & ~(TBBS_CHECKED | TBBS_INDETERMINATE);
+        if (nCheck == 1) style |= TBBS_CHECKED;
+        if (nCheck == 2) style |= TBBS_INDETERMINATE;
+        m_bar.SetButtonStyle(index(), style | TBBS_CHECKBOX);
+    }
+    void SetRadio(BOOL bOn) override { SetCheck(bOn ? 1 : 0); }
+    void SetText(LPCTSTR) override {}
+
+private:
+    int index() const { return static_cast<int>(m_nIndex); }
+    CToolBar& m_bar;
+};
+
+void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    CToolCmdUI request(*this);
+    request.m_nIndexMax = static_cast<UINT>(m_nCount);
+    for (request.m_nIndex = 0; request.m_nIndex < request.m_nIndexMax; ++request.m_nIndex) {
+        TBBUTTON info;
+        if (!button(static_cast<int>(request.m_nIndex), info) || (info.fsStyle & TBSTYLE_SEP)) continue;
+        request.m_nID = static_cast<UINT>(info.idCommand);
+        request.m_bContinueRouting = FALSE;
+        if (CWnd::OnCmdMsg(request.m_nID, CN_UPDATE_COMMAND_UI, &request, nullptr) &&
+            !request.m_bContinueRouting)
+            continue;
+        request.DoUpdate(pTarget, bDisableIfNoHndler);
+    }
+    // Controls that stand in the bar.
+    UpdateDialogControls(pTarget, bDisableIfNoHndler);
+}
