@@ -1,0 +1,699 @@
+// Toolbars and status bars in a frame: buttons and panes, places, states at idle, messages and tips.
+#include <afxcmn.h>
+#include <afxext.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "picture.h"
+#include "ui_test.h"
+
+namespace {
+
+constexpr UINT kNew = 2001, kOpen = 2002, kCut = 2003, kUnhandled = 2004;
+constexpr UINT kPane = 2010, kShort = 2011;
+
+class Frame : public CFrameWnd {
+public:
+    int news = 0, dropDowns = 0;
+    BOOL openEnabled = TRUE;
+    int cutCheck = 0;
+    bool cutIsRadio = false;
+    CString paneText;
+    BOOL paneEnabled = TRUE;
+    int paneCheck = 0;
+    using CFrameWnd::m_nIDLastMessage;
+
+protected:
+    afx_msg void OnNew() { ++news; }
+    afx_msg void OnOpen() {}
+    afx_msg void OnUpdateOpen(CCmdUI* item) { item->Enable(openEnabled); }
+    afx_msg void OnUpdateCut(CCmdUI* item) {
+        if (cutIsRadio)
+            item->SetRadio(cutCheck);
+        else
+            item->SetCheck(cutCheck);
+        item->SetText(L"never shown");
+    }
+    afx_msg void OnUpdatePane(CCmdUI* item) {
+        item->Enable(paneEnabled);
+        item->SetText(paneText);
+        item->SetCheck(paneCheck);
+    }
+    afx_msg void OnDropDown(NMHDR* header, LRESULT* result) {
+        dropDowns += static_cast<int>(reinterpret_cast<NMTOOLBAR*>(header)->iItem);
+        *result = TBDDRET_DEFAULT;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Frame, CFrameWnd)
+    ON_COMMAND(kNew, &Frame::OnNew)
+    ON_COMMAND(kOpen, &Frame::OnOpen)
+    ON_COMMAND(kCut, &Frame::OnOpen)
+    ON_UPDATE_COMMAND_UI(kOpen, &Frame::OnUpdateOpen)
+    ON_UPDATE_COMMAND_UI(kCut, &Frame::OnUpdateCut)
+    ON_UPDATE_COMMAND_UI(kPane, &Frame::OnUpdatePane)
+    ON_NOTIFY(TBN_DROPDOWN, AFX_IDW_TOOLBAR, &Frame::OnDropDown)
+END_MESSAGE_MAP()
+
+class FrameBars : public ::testing::Test {
+protected:
+    FrameBars() : frame(new Frame) {
+        frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 550, 450));
+        view.Create(AfxRegisterWndClass(0), L"view", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), frame,
+                    AFX_IDW_PANE_FIRST);
+        frame->GetClientRect(&client);
+    }
+    ~FrameBars() override { frame->DestroyWindow(); }
+    CRect rectOf(const CWnd& window) {
+        CRect rect;
+        window.GetWindowRect(&rect);
+        frame->ScreenToClient(&rect);
+        return rect;
+    }
+    void idle() {
+        frame->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        frame->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+    }
+    Frame* frame;
+    CWnd view;
+    CRect client;
+};
+
+class ToolBar : public FrameBars {
+protected:
+    ToolBar() {
+        made =
+            bar.CreateEx(frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS | CBRS_FLYBY);
+    }
+    CPoint centre(int index) {
+        CRect place;
+        bar.GetItemRect(index, &place);
+        return place.CenterPoint();
+    }
+    void click(int index) {
+        const LPARAM at = MAKELPARAM(centre(index).x, centre(index).y);
+        bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
+        bar.SendMessage(WM_LBUTTONUP, 0, at);
+    }
+    /// What the bar does with a move of the mouse to a place of its client area.
+    void moveTo(CPoint point) {
+        CPoint screen = point;
+        bar.ClientToScreen(&screen);
+        MSG move = {bar.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y), 0, screen};
+        CWnd::WalkPreTranslateTree(frame->m_hWnd, &move);
+    }
+    CToolBar bar;
+    BOOL made;
+};
+
+TEST_F(ToolBar, ComesFromItsResource) {
+    ASSERT_TRUE(made);
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    EXPECT_EQ(bar.GetCount(), 4);
+    EXPECT_EQ(bar.GetToolBarCtrl().GetButtonCount(), 4);
+    EXPECT_EQ(bar.GetItemID(0), kNew);
+    EXPECT_EQ(bar.GetItemID(1), kOpen);
+    EXPECT_EQ(bar.GetItemID(2), static_cast<UINT>(ID_SEPARATOR));
+    EXPECT_EQ(bar.GetItemID(3), kCut);
+    EXPECT_EQ(bar.CommandToIndex(kCut), 3);
+    EXPECT_EQ(bar.CommandToIndex(99), -1);
+    std::vector<int> pictures;
+    for (int i = 0; i < 4; ++i) {
+        UINT id = 0, style = 0;
+        int picture = 0;
+        bar.GetButtonInfo(i, id, style, picture);
+        EXPECT_EQ(style, i == 2 ? TBBS_SEPARATOR : TBBS_BUTTON) << i;
+        pictures.push_back(picture);
+    }
+    EXPECT_EQ(pictures, (std::vector<int>{0, 1, 8, 2}));
+    const CSize size = bar.GetToolBarCtrl().GetButtonSize();
+    EXPECT_GE(size.cx, 8 + 7);
+    EXPECT_GE(size.cy, 8 + 6);
+}
+
+TEST_F(ToolBar, ADamagedOrMissingResourceChangesNothing) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    const CSize before = bar.GetToolBarCtrl().GetButtonSize();
+    EXPECT_FALSE(bar.LoadToolBar(4711));
+    EXPECT_FALSE(bar.LoadToolBar(441)) << "more commands than bytes";
+    EXPECT_FALSE(bar.LoadToolBar(442)) << "another version";
+    EXPECT_FALSE(bar.LoadToolBar(443)) << "no bitmap";
+    EXPECT_FALSE(bar.LoadBitmap(4711));
+    EXPECT_FALSE(bar.SetBitmap(nullptr));
+    EXPECT_EQ(bar.GetCount(), 4);
+    EXPECT_EQ(bar.GetToolBarCtrl().GetButtonSize(), before);
+    CToolBar none;
+    EXPECT_FALSE(none.LoadToolBar(440));
+    EXPECT_FALSE(none.SetButtons(nullptr, 2));
+    EXPECT_EQ(none.GetItemID(0), static_cast<UINT>(ID_SEPARATOR));
+}
+
+TEST_F(ToolBar, ShowsThePicturesOfItsBitmap) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    frame->RecalcLayout();
+    bar.UpdateWindow();
+    // Each picture of the bitmap is of one colour.
+    const COLORREF colors[] = {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255)};
+    int color = 0;
+    for (const int index : {0, 1, 3}) {
+        CRect place;
+        bar.GetItemRect(index, &place);
+        EXPECT_GE(ui_test::Picture(bar, place).count(colors[color]), 40) << index;
+        ++color;
+    }
+}
+
+TEST_F(ToolBar, ButtonsAreSetByCommandsAndOneByOne) {
+    const UINT ids[] = {kNew, ID_SEPARATOR, kOpen};
+    ASSERT_TRUE(bar.SetButtons(ids, 3));
+    EXPECT_EQ(bar.GetCount(), 3);
+    bar.SetButtonInfo(1, ID_SEPARATOR, TBBS_SEPARATOR, 40);
+    CRect gap;
+    bar.GetItemRect(1, &gap);
+    EXPECT_EQ(gap.Width(), 40);
+    bar.SetButtonInfo(0, kCut, TBBS_CHECKBOX, 2);
+    UINT id = 0, style = 0;
+    int picture = 0;
+    bar.GetButtonInfo(0, id, style, picture);
+    EXPECT_EQ(id, kCut);
+    EXPECT_EQ(style, TBBS_CHECKBOX);
+    EXPECT_EQ(picture, 2);
+    bar.SetButtonStyle(0, TBBS_CHECKBOX | TBBS_CHECKED | TBBS_DISABLED);
+    EXPECT_TRUE(bar.GetToolBarCtrl().IsButtonChecked(kCut));
+    EXPECT_FALSE(bar.GetToolBarCtrl().IsButtonEnabled(kCut));
+    EXPECT_EQ(bar.GetButtonStyle(0), TBBS_CHECKBOX | TBBS_CHECKED | TBBS_DISABLED);
+    EXPECT_EQ(bar.GetButtonStyle(2), TBBS_BUTTON);
+    EXPECT_EQ(bar.GetButtonStyle(9), TBBS_SEPARATOR);
+    bar.SetButtonStyle(9, TBBS_CHECKBOX);
+    bar.SetButtonInfo(-1, 1, 1, 1);
+    ASSERT_TRUE(bar.SetButtons(nullptr, 2));
+    EXPECT_EQ(bar.GetCount(), 2);
+    CRect hidden;
+    bar.GetItemRect(0, &hidden);
+    EXPECT_TRUE(hidden.IsRectEmpty());
+    bar.SetButtonInfo(0, kNew, TBBS_BUTTON, 0);
+    bar.GetItemRect(0, &hidden);
+    EXPECT_FALSE(hidden.IsRectEmpty());
+    EXPECT_EQ(bar.CommandToIndex(kNew), 0);
+}
+
+TEST_F(ToolBar, TextsStandOnButtons) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    EXPECT_EQ(bar.GetButtonText(0), L"");
+    EXPECT_TRUE(bar.SetButtonText(0, L"New"));
+    EXPECT_TRUE(bar.SetButtonText(1, L"Open"));
+    EXPECT_TRUE(bar.SetButtonText(3, L"New"));
+    CString text;
+    bar.GetButtonText(1, text);
+    EXPECT_EQ(text, L"Open");
+    EXPECT_EQ(bar.GetButtonText(3), L"New");
+    wchar_t own[32] = {};
+    bar.GetToolBarCtrl().SendMessage(TB_GETBUTTONTEXTW, kNew, reinterpret_cast<LPARAM>(own));
+    EXPECT_STREQ(own, L"New");
+    // A change of the style keeps the text.
+    bar.SetButtonStyle(0, TBBS_CHECKBOX);
+    EXPECT_EQ(bar.GetButtonText(0), L"New");
+    EXPECT_FALSE(bar.SetButtonText(7, L"x"));
+    EXPECT_EQ(bar.GetButtonText(7), L"");
+    EXPECT_EQ(bar.GetToolBarCtrl().GetString(1, text), 4);
+    EXPECT_EQ(text, L"Open");
+    EXPECT_EQ(bar.GetToolBarCtrl().GetString(2, text), -1) << "the same text is added once";
+}
+
+TEST_F(ToolBar, StandsAlongItsEdgeAsHighAsItsButtons) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    frame->RecalcLayout();
+    CRect button;
+    bar.GetItemRect(0, &button);
+    EXPECT_EQ(rectOf(bar), CRect(0, 0, client.right, button.bottom + 1)) << "and a line below";
+    EXPECT_EQ(rectOf(view), CRect(0, button.bottom + 1, client.right, client.bottom));
+    bar.SetHeight(50);
+    frame->RecalcLayout();
+    EXPECT_EQ(rectOf(bar).Height(), 51);
+    bar.SetHeight(0);
+    bar.SetSizes(CSize(40, 30), CSize(8, 8));
+    frame->RecalcLayout();
+    EXPECT_EQ(bar.GetToolBarCtrl().GetButtonSize(), CSize(40, 30));
+    EXPECT_EQ(rectOf(bar).Height(), 31);
+}
+
+TEST_F(ToolBar, ItsSizeFollowsItsButtonsAndTheAskedDirection) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    const CSize button = bar.GetToolBarCtrl().GetButtonSize();
+    const CSize row = bar.CalcFixedLayout(FALSE, TRUE);
+    EXPECT_EQ(row.cx, 3 * button.cx + 8);
+    EXPECT_EQ(row.cy, button.cy + 1);
+    EXPECT_EQ(bar.CalcFixedLayout(TRUE, TRUE), CSize(32767, row.cy));
+    const CSize column = bar.CalcFixedLayout(FALSE, FALSE);
+    EXPECT_EQ(column.cx, button.cx);
+    EXPECT_GE(column.cy, 3 * button.cy);
+    EXPECT_EQ(bar.CalcFixedLayout(FALSE, TRUE), row) << "asking for the other direction changes nothing";
+    const CSize narrow = bar.CalcDynamicLayout(2 * button.cx, LM_HORZ);
+    EXPECT_EQ(narrow.cx, 2 * button.cx);
+    EXPECT_GT(narrow.cy, button.cy + 1);
+}
+
+TEST_F(ToolBar, AtASideItStandsInAColumn) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    bar.SetBarStyle(CBRS_ALIGN_LEFT);
+    frame->RecalcLayout();
+    const CSize button = bar.GetToolBarCtrl().GetButtonSize();
+    EXPECT_EQ(rectOf(bar), CRect(0, 0, button.cx, client.bottom));
+    CRect first, second;
+    bar.GetItemRect(0, &first);
+    bar.GetItemRect(1, &second);
+    EXPECT_EQ(second.left, first.left);
+    EXPECT_EQ(second.top, first.bottom);
+}
+
+TEST_F(ToolBar, BordersAreLeftAroundTheButtons) {
+    CToolBar other;
+    ASSERT_TRUE(other.CreateEx(frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_ALIGN_BOTTOM,
+                               CRect(1, 2, 3, 4), 0xE810));
+    ASSERT_TRUE(other.LoadToolBar(440));
+    frame->RecalcLayout();
+    CRect inside, window;
+    other.GetClientRect(&inside);
+    other.ClientToScreen(&inside);
+    other.GetWindowRect(&window);
+    EXPECT_EQ(inside.left - window.left, 1);
+    EXPECT_EQ(inside.top - window.top, 2);
+    EXPECT_EQ(window.right - inside.right, 3);
+    EXPECT_EQ(window.bottom - inside.bottom, 4);
+    EXPECT_EQ(window.Height(), other.GetToolBarCtrl().GetButtonSize().cy + 6);
+}
+
+TEST_F(ToolBar, AClickIsACommandOfTheFrame) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    frame->RecalcLayout();
+    click(0);
+    EXPECT_EQ(frame->news, 1);
+    frame->openEnabled = FALSE;
+    idle();
+    click(1);
+    EXPECT_EQ(frame->news, 1);
+}
+
+TEST_F(ToolBar, TheFrameSaysAtIdleWhatTheButtonsAre) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    CToolBarCtrl& control = bar.GetToolBarCtrl();
+    frame->openEnabled = FALSE;
+    frame->cutCheck = 1;
+    idle();
+    EXPECT_TRUE(control.IsButtonEnabled(kNew));
+    EXPECT_FALSE(control.IsButtonEnabled(kOpen));
+    EXPECT_TRUE(control.IsButtonChecked(kCut));
+    EXPECT_EQ(bar.GetButtonStyle(3) & TBBS_CHECKBOX, TBBS_CHECKBOX);
+    EXPECT_EQ(bar.GetButtonText(3), L"");
+    frame->openEnabled = TRUE;
+    frame->cutCheck = 2;
+    idle();
+    EXPECT_TRUE(control.IsButtonEnabled(kOpen));
+    EXPECT_FALSE(control.IsButtonChecked(kCut));
+    EXPECT_TRUE(control.IsButtonIndeterminate(kCut));
+    frame->cutIsRadio = true;
+    idle();
+    EXPECT_TRUE(control.IsButtonChecked(kCut));
+    EXPECT_FALSE(control.IsButtonIndeterminate(kCut));
+    bar.SetButtonInfo(0, kUnhandled, TBBS_BUTTON, 0);
+    idle();
+    EXPECT_FALSE(control.IsButtonEnabled(kUnhandled)) << "nobody handles it";
+}
+
+TEST_F(ToolBar, AnArrowDropsDownThroughTheFrame) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    bar.GetToolBarCtrl().SetExtendedStyle(TBSTYLE_EX_DRAWDDARROWS);
+    bar.SetButtonStyle(1, TBBS_DROPDOWN);
+    frame->RecalcLayout();
+    CRect place;
+    bar.GetItemRect(1, &place);
+    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.right - 4, place.CenterPoint().y));
+    bar.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(place.right - 4, place.CenterPoint().y));
+    EXPECT_EQ(frame->dropDowns, static_cast<int>(kOpen));
+}
+
+TEST_F(ToolBar, ControlsInItWorkAsInADialogBar) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    frame->RecalcLayout();
+    CButton inside;
+    inside.Create(L"x", WS_CHILD | WS_VISIBLE, CRect(200, 2, 230, 20), &bar, kNew);
+    inside.SendMessage(BM_CLICK);
+    EXPECT_EQ(frame->news, 1);
+    TOOLINFO tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    EXPECT_EQ(bar.OnToolHitTest(CPoint(210, 10), &tool), static_cast<INT_PTR>(kNew));
+    EXPECT_EQ(tool.uId, reinterpret_cast<UINT_PTR>(inside.m_hWnd));
+    inside.SetDlgCtrlID(static_cast<int>(kUnhandled));
+    idle();
+    EXPECT_FALSE(inside.IsWindowEnabled());
+}
+
+TEST_F(ToolBar, ToolsAreFoundUnderTheMouse) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    TOOLINFO tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    EXPECT_EQ(bar.OnToolHitTest(centre(1), &tool), static_cast<INT_PTR>(kOpen));
+    CRect place;
+    bar.GetItemRect(1, &place);
+    EXPECT_EQ(CRect(tool.rect), place);
+    EXPECT_EQ(tool.uId, kOpen);
+    EXPECT_EQ(tool.lpszText, LPSTR_TEXTCALLBACKW);
+    EXPECT_EQ(bar.OnToolHitTest(centre(2), &tool), -1) << "a gap";
+    EXPECT_EQ(bar.OnToolHitTest(CPoint(400, 5), &tool), -1);
+}
+
+TEST_F(ToolBar, TheFrameAnswersTipsWithTheSecondLine) {
+    NMTTDISPINFOW question = {};
+    CToolTipCtrl tip;
+    tip.Create(frame);
+    question.hdr = {tip.m_hWnd, kNew, static_cast<UINT>(TTN_NEEDTEXTW)};
+    bar.SendMessage(WM_NOTIFY, kNew, reinterpret_cast<LPARAM>(&question));
+    ASSERT_NE(question.lpszText, nullptr);
+    EXPECT_STREQ(question.lpszText, L"New thing");
+    CButton child;
+    child.Create(L"x", WS_CHILD, CRect(0, 0, 1, 1), &bar, kOpen);
+    question.hdr.idFrom = reinterpret_cast<UINT_PTR>(child.m_hWnd);
+    question.uFlags = TTF_IDISHWND;
+    bar.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&question));
+    EXPECT_STREQ(question.lpszText, L"Open thing");
+    question.uFlags = 0;
+    question.lpszText = nullptr;
+    for (const UINT without : {kCut, kUnhandled}) {
+        question.hdr.idFrom = without;
+        bar.SendMessage(WM_NOTIFY, without, reinterpret_cast<LPARAM>(&question));
+        EXPECT_EQ(question.lpszText, nullptr) << without;
+    }
+}
+
+TEST_F(ToolBar, ATipIsShownForAButton) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    frame->RecalcLayout();
+    CPoint screen = centre(0);
+    bar.ClientToScreen(&screen);
+    ASSERT_TRUE(ui_test::move_cursor(screen));
+    moveTo(centre(0));
+    HWND tip = nullptr;
+    EXPECT_TRUE(ui_test::pump_until([&] {
+        tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr);
+        return tip != nullptr && ::IsWindowVisible(tip) && ui_test::text_of(tip) == L"New thing";
+    }));
+    bar.SetBarStyle(bar.GetBarStyle() & ~CBRS_TOOLTIPS);
+    EXPECT_FALSE(bar.m_nFlags & WF_TOOLTIPS);
+}
+
+class StatusBar : public FrameBars {
+protected:
+    StatusBar() {
+        bar.Create(frame);
+        const UINT ids[] = {ID_SEPARATOR, kPane, ID_INDICATOR_CAPS};
+        set = bar.SetIndicators(ids, 3);
+        frame->RecalcLayout();
+    }
+    CString shownText(int index) { return bar.GetStatusBarCtrl().GetText(index); }
+    CRect pane(int index) {
+        CRect place;
+        bar.GetItemRect(index, &place);
+        return place;
+    }
+    CStatusBar bar;
+    BOOL set;
+};
+
+TEST_F(StatusBar, StandsAtTheBottomWithItsPanes) {
+    ASSERT_TRUE(set);
+    EXPECT_EQ(rectOf(bar).bottom, client.bottom);
+    EXPECT_EQ(rectOf(bar).left, 0);
+    EXPECT_EQ(rectOf(bar).right, client.right);
+    CClientDC dc(&bar);
+    dc.SelectObject(bar.GetFont());
+    TEXTMETRIC metrics;
+    dc.GetTextMetrics(&metrics);
+    EXPECT_GT(rectOf(bar).Height(), metrics.tmHeight + 2);
+    EXPECT_EQ(rectOf(view).bottom, rectOf(bar).top);
+    EXPECT_EQ(bar.GetCount(), 3);
+    EXPECT_EQ(bar.GetItemID(1), kPane);
+    EXPECT_EQ(bar.CommandToIndex(ID_INDICATOR_CAPS), 2);
+    EXPECT_EQ(bar.CommandToIndex(99), -1);
+    EXPECT_EQ(shownText(1), L"a pane");
+    EXPECT_EQ(bar.GetPaneText(1), L"a pane");
+    UINT id = 0, style = 0;
+    int width = 0;
+    bar.GetPaneInfo(1, id, style, width);
+    EXPECT_EQ(id, kPane);
+    EXPECT_EQ(style, SBPS_NORMAL);
+    EXPECT_EQ(width, dc.GetTextExtent(L"a pane").cx);
+    EXPECT_EQ(bar.GetPaneStyle(0), SBPS_STRETCH | SBPS_NOBORDERS);
+}
+
+TEST_F(StatusBar, TheStretchingPaneTakesWhatIsLeft) {
+    const int before = pane(0).Width(), second = pane(1).Width();
+    EXPECT_GT(second, 0);
+    frame->SetWindowPos(nullptr, 0, 0, 600, 400, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(pane(0).Width(), before + 100);
+    EXPECT_EQ(pane(1).Width(), second);
+    CRect all;
+    bar.GetClientRect(&all);
+    EXPECT_LE(pane(2).right, all.right);
+    EXPECT_GE(pane(2).right, all.right - 4);
+    bar.SetPaneInfo(1, kPane, SBPS_NORMAL, 200);
+    EXPECT_GE(pane(1).Width(), 200);
+    EXPECT_LE(pane(1).Width(), 210);
+    bar.SetPaneStyle(0, SBPS_NORMAL);
+    bar.SetPaneStyle(1, SBPS_STRETCH);
+    EXPECT_GE(pane(2).right, all.right - 4);
+    EXPECT_GT(pane(1).Width(), 200);
+}
+
+TEST_F(StatusBar, ItsWindowTextIsTheFirstPane) {
+    bar.SetWindowText(L"a message");
+    EXPECT_EQ(shownText(0), L"a message");
+    CString text;
+    bar.GetWindowText(text);
+    EXPECT_EQ(text, L"a message");
+    EXPECT_EQ(shownText(1), L"a pane");
+    wchar_t few[4] = {};
+    EXPECT_EQ(::GetWindowTextW(bar.m_hWnd, few, 4), 3);
+    EXPECT_STREQ(few, L"a m");
+}
+
+TEST_F(StatusBar, PaneTextsAreSetAtOnceOrAtIdle) {
+    EXPECT_TRUE(bar.SetPaneText(2, L"now"));
+    EXPECT_EQ(shownText(2), L"now");
+    EXPECT_TRUE(bar.SetPaneText(2, L"later", FALSE));
+    EXPECT_EQ(shownText(2), L"now");
+    EXPECT_EQ(bar.GetPaneText(2), L"later");
+    idle();
+    bar.SetPaneStyle(2, SBPS_NORMAL);
+    EXPECT_EQ(shownText(2), L"later");
+    EXPECT_FALSE(bar.SetPaneText(3, L"x"));
+    EXPECT_FALSE(bar.SetPaneText(-1, L"x"));
+    EXPECT_EQ(bar.GetPaneText(3), L"");
+    EXPECT_EQ(bar.GetItemID(3), 0u);
+    EXPECT_TRUE(pane(3).IsRectEmpty());
+    bar.SetPaneStyle(9, SBPS_POPOUT);
+    bar.SetPaneInfo(9, 1, 2, 3);
+}
+
+TEST_F(StatusBar, TheFrameSaysAtIdleWhatPanesShow) {
+    frame->paneText = L"told";
+    frame->paneCheck = 1;
+    idle();
+    EXPECT_EQ(shownText(1), L"told");
+    EXPECT_TRUE(bar.GetPaneStyle(1) & SBPS_POPOUT);
+    int type = 0;
+    bar.GetStatusBarCtrl().GetText(1, &type);
+    EXPECT_EQ(type, SBT_POPOUT);
+    frame->paneEnabled = FALSE;
+    frame->paneCheck = 0;
+    idle();
+    EXPECT_EQ(shownText(1), L"");
+    EXPECT_EQ(bar.GetPaneText(1), L"told");
+    EXPECT_FALSE(bar.GetPaneStyle(1) & SBPS_POPOUT);
+}
+
+TEST_F(StatusBar, KeysAreShownWhileTheyAreOn) {
+    BYTE keys[256] = {};
+    ::GetKeyboardState(keys);
+    for (const BYTE on : {1, 0, 1}) {
+        keys[VK_CAPITAL] = on;
+        ::SetKeyboardState(keys);
+        idle();
+        EXPECT_EQ(shownText(2), on ? L"CAP" : L"") << int(on);
+    }
+    keys[VK_CAPITAL] = 0;
+    ::SetKeyboardState(keys);
+}
+
+TEST_F(StatusBar, AMissingStringLeavesThePanesAsTheyWere) {
+    const UINT ids[] = {ID_SEPARATOR, 4711};
+    EXPECT_FALSE(bar.SetIndicators(ids, 2));
+    EXPECT_FALSE(bar.SetIndicators(ids, 0));
+    EXPECT_EQ(bar.GetCount(), 3);
+    EXPECT_TRUE(bar.SetIndicators(nullptr, 2));
+    EXPECT_EQ(bar.GetCount(), 2);
+    EXPECT_EQ(bar.GetItemID(1), 0u);
+    CStatusBar none;
+    EXPECT_FALSE(none.SetIndicators(ids, 1));
+    EXPECT_FALSE(none.SetPaneText(0, L"x"));
+}
+
+TEST_F(StatusBar, OwnerDrawnPanesAreDrawnByTheBar) {
+    class Drawn : public CStatusBar {
+    public:
+        std::vector<UINT> panes;
+        void DrawItem(LPDRAWITEMSTRUCT item) override { panes.push_back(item->itemID); }
+    } drawn;
+    ASSERT_TRUE(drawn.CreateEx(frame, SBT_TOOLTIPS, WS_CHILD | WS_VISIBLE | CBRS_BOTTOM, 0xE811));
+    const UINT ids[] = {ID_SEPARATOR, kPane};
+    ASSERT_TRUE(drawn.SetIndicators(ids, 2));
+    drawn.SetPaneStyle(1, SBPS_OWNERDRAW);
+    frame->RecalcLayout();
+    drawn.RedrawWindow();
+    ASSERT_FALSE(drawn.panes.empty());
+    EXPECT_EQ(drawn.panes.back(), 1u);
+}
+
+TEST_F(StatusBar, ShowsTheMessagesOfTheFrame) {
+    EXPECT_EQ(frame->GetMessageBar(), &bar);
+    frame->SetMessageText(L"hello");
+    EXPECT_EQ(shownText(0), L"hello");
+    frame->SetMessageText(kNew);
+    EXPECT_EQ(shownText(0), L"Makes a new thing");
+    EXPECT_EQ(frame->m_nIDLastMessage, kNew);
+    frame->SendMessage(WM_MENUSELECT, MAKEWPARAM(kOpen, 0), 1);
+    EXPECT_EQ(shownText(0), L"Opens a thing");
+    // The message of a tool does not take a menu's place.
+    frame->SendMessage(WM_POPMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
+    EXPECT_EQ(shownText(0), L"Opens a thing");
+    frame->SendMessage(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+    EXPECT_EQ(shownText(0), L"At rest");
+    frame->SetMessageText(kNew);
+    frame->SendMessage(WM_POPMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
+    EXPECT_EQ(shownText(0), L"At rest");
+}
+
+TEST_F(StatusBar, IsShownAndHiddenFromTheMenu) {
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, ID_VIEW_STATUS_BAR, L"Status bar");
+    menu.AppendMenu(MF_STRING, ID_VIEW_TOOLBAR, L"Toolbar");
+    const auto open = [&] {
+        frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
+    };
+    open();
+    EXPECT_TRUE(menu.GetMenuState(ID_VIEW_STATUS_BAR, MF_BYCOMMAND) & MF_CHECKED);
+    frame->SendMessage(WM_COMMAND, ID_VIEW_STATUS_BAR);
+    EXPECT_FALSE(bar.IsWindowVisible());
+    EXPECT_EQ(rectOf(view).bottom, client.bottom);
+    open();
+    EXPECT_FALSE(menu.GetMenuState(ID_VIEW_STATUS_BAR, MF_BYCOMMAND) & MF_CHECKED);
+    frame->SendMessage(WM_COMMAND, ID_VIEW_STATUS_BAR);
+    EXPECT_TRUE(bar.IsWindowVisible());
+    EXPECT_EQ(rectOf(view).bottom, rectOf(bar).top);
+    // There is no toolbar.
+    EXPECT_EQ(frame->SendMessage(WM_COMMAND, ID_VIEW_TOOLBAR), 0);
+    EXPECT_TRUE(bar.IsWindowVisible());
+}
+
+TEST_F(StatusBar, ADelayedChangeComesAtIdle) {
+    frame->ShowControlBar(&bar, FALSE, TRUE);
+    EXPECT_TRUE(bar.IsWindowVisible());
+    idle();
+    EXPECT_FALSE(bar.IsWindowVisible());
+    EXPECT_EQ(rectOf(view).bottom, client.bottom);
+}
+
+TEST_F(ToolBar, TheMessageOfTheToolUnderTheMouseIsShown) {
+    ASSERT_TRUE(bar.LoadToolBar(440));
+    CStatusBar status;
+    status.Create(frame);
+    const UINT ids[] = {ID_SEPARATOR};
+    status.SetIndicators(ids, 1);
+    frame->RecalcLayout();
+    moveTo(centre(0));
+    EXPECT_EQ(status.GetPaneText(0), L"Makes a new thing");
+    moveTo(centre(1));
+    EXPECT_EQ(status.GetPaneText(0), L"Opens a thing");
+    moveTo(centre(2));
+    EXPECT_EQ(status.GetPaneText(0), L"At rest");
+    moveTo(centre(0));
+    bar.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(status.GetPaneText(0), L"At rest");
+    bar.SetBarStyle(bar.GetBarStyle() & ~CBRS_FLYBY);
+    moveTo(centre(1));
+    EXPECT_EQ(status.GetPaneText(0), L"At rest");
+}
+
+TEST_F(FrameBars, TheControlOfTheSystemHasItsMessages) {
+    CToolBarCtrl control;
+    ASSERT_TRUE(control.Create(WS_CHILD | WS_VISIBLE | CCS_NORESIZE, CRect(0, 0, 300, 40), frame, 77));
+    TBBUTTON buttons[3] = {};
+    for (int i = 0; i < 3; ++i) {
+        buttons[i].idCommand = 100 + i;
+        buttons[i].fsState = TBSTATE_ENABLED;
+        buttons[i].iString = -1;
+        buttons[i].iBitmap = I_IMAGENONE;
+    }
+    EXPECT_TRUE(control.AddButtons(3, buttons));
+    EXPECT_EQ(control.GetButtonCount(), 3);
+    EXPECT_EQ(control.CommandToIndex(102), 2);
+    EXPECT_TRUE(control.MoveButton(2, 0));
+    EXPECT_EQ(control.CommandToIndex(102), 0);
+    EXPECT_TRUE(control.SetCmdID(0, 110));
+    EXPECT_EQ(control.CommandToIndex(110), 0);
+    EXPECT_TRUE(control.DeleteButton(0));
+    EXPECT_EQ(control.GetButtonCount(), 2);
+    EXPECT_TRUE(control.CheckButton(100));
+    EXPECT_TRUE(control.IsButtonChecked(100));
+    EXPECT_TRUE(control.EnableButton(100, FALSE));
+    EXPECT_FALSE(control.IsButtonEnabled(100));
+    EXPECT_TRUE(control.HideButton(101));
+    EXPECT_TRUE(control.IsButtonHidden(101));
+    EXPECT_TRUE(control.SetState(101, TBSTATE_ENABLED | TBSTATE_PRESSED));
+    EXPECT_EQ(control.GetState(101), TBSTATE_ENABLED | TBSTATE_PRESSED);
+    EXPECT_TRUE(control.IsButtonPressed(101));
+    EXPECT_TRUE(control.PressButton(101, FALSE));
+    EXPECT_FALSE(control.IsButtonPressed(101));
+    EXPECT_EQ(control.AddString(500), 0);
+    EXPECT_EQ(control.AddString(4711), -1);
+    CString text;
+    EXPECT_EQ(control.GetString(0, text), 23);
+    EXPECT_EQ(text, L"a string of the control");
+    TBBUTTONINFO info = {};
+    info.dwMask = TBIF_LPARAM;
+    info.lParam = 42;
+    EXPECT_TRUE(control.SetButtonInfo(100, &info));
+    info.lParam = 0;
+    EXPECT_TRUE(control.GetButtonInfo(100, &info));
+    EXPECT_EQ(info.lParam, 42u);
+    EXPECT_FALSE(control.GetButtonInfo(4711, &info));
+    EXPECT_TRUE(control.SetButtonSize(CSize(33, 27)));
+    EXPECT_EQ(control.GetButtonSize().cy, 27);
+    CImageList images;
+    images.Create(8, 8, ILC_COLOR24, 1, 1);
+    EXPECT_EQ(control.SetImageList(&images), nullptr);
+    EXPECT_EQ(control.GetImageList()->m_hImageList, images.m_hImageList);
+    EXPECT_EQ(control.SetHotImageList(&images), nullptr);
+    EXPECT_EQ(control.GetHotImageList()->m_hImageList, images.m_hImageList);
+    EXPECT_EQ(control.SetDisabledImageList(&images), nullptr);
+    EXPECT_EQ(control.GetDisabledImageList()->m_hImageList, images.m_hImageList);
+    CRect place, byId;
+    EXPECT_TRUE(control.GetItemRect(0, &place));
+    EXPECT_TRUE(control.GetRect(100, &byId));
+    EXPECT_EQ(place, byId);
+    CPoint inside = place.CenterPoint();
+    EXPECT_EQ(control.HitTest(&inside), 0);
+    EXPECT_EQ(control.AddBitmap(1, static_cast<CBitmap*>(nullptr)), -1);
+    control.SetOwner(&view);
+    control.SetOwner(nullptr);
+    control.SetStyle(control.GetStyle() | TBSTYLE_FLAT);
+    EXPECT_TRUE(control.GetStyle() & TBSTYLE_FLAT);
+    control.SetToolTips(nullptr);
+    EXPECT_EQ(control.GetToolTips(), nullptr);
+    EXPECT_EQ(control.GetRows(), 1);
+}
+
+}  // namespace
