@@ -28,7 +28,11 @@ DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const {
 }
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew) {
-    return static_cast<BOOL>(send(DTM_SETSYSTEMTIME, pTimeNew != nullptr ? GDT_VALID : GDT_NONE, pTimeNew));
+    if (pTimeNew != nullptr) return static_cast<BOOL>(send(DTM_SETSYSTEMTIME, GDT_VALID, pTimeNew));
+    // The structure means nothing here, but some systems want one.
+    SYSTEMTIME unused = {};
+    ::GetLocalTime(&unused);
+    return static_cast<BOOL>(send(DTM_SETSYSTEMTIME, GDT_NONE, &unused));
 }
 
 BOOL CDateTimeCtrl::SetTime(const COleDateTime& timeNew) {
@@ -73,7 +77,9 @@ BOOL CDateTimeCtrl::SetRange(const CTime* pMinRange, const CTime* pMaxRange) {
 }
 
 CMonthCalCtrl* CDateTimeCtrl::GetMonthCalCtrl() const {
-    return static_cast<CMonthCalCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(send(DTM_GETMONTHCAL))));
+    const HWND calendar = reinterpret_cast<HWND>(send(DTM_GETMONTHCAL));
+    // Some systems keep a calendar that is closed.
+    return ::IsWindowVisible(calendar) ? static_cast<CMonthCalCtrl*>(CWnd::FromHandle(calendar)) : nullptr;
 }
 
 CFont* CDateTimeCtrl::GetMonthCalFont() const {
