@@ -214,6 +214,8 @@ LRESULT CFrameWnd::OnPopMessageString(WPARAM wParam, LPARAM lParam) {
 LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
     // Bars that are to be shown or hidden wait for this.
     if (m_isLayoutPending) RecalcLayout(FALSE);
+    // The first time, or after what is tracked was set by a derived class.
+    if (m_nIDTracking != m_nIDLastMessage) SetMessageText(m_nIDTracking);
     return 0;
 }
 

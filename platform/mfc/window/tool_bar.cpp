@@ -2,6 +2,7 @@
 #include <kmfc/tool_bar.h>
 
 #include <algorithm>
+#include <vector>
 
 #include <kmfc/frame.h>
 
@@ -19,27 +20,44 @@ constexpr int kExtraWidth = 7, kExtraHeight = 7;  // pixels of a button around i
 constexpr DWORD kControlStyles = CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NODIVIDER | CCS_NORESIZE;
 const LPCTSTR kToolBarType = MAKEINTRESOURCEW(241);
 
-/// The head of a TOOLBAR resource; the commands follow it.
+/// What a TOOLBAR resource says.
 struct ToolBarResource {
-    WORD version;  ///< 1
-    WORD width;    ///< of a picture, in pixels
-    WORD height;
-    WORD count;  ///< of commands, 0 for a gap
-
-    const WORD* commands() const { return reinterpret_cast<const WORD*>(this + 1); }
+    CSize image{0, 0};           ///< of each picture, in pixels
+    std::vector<UINT> commands;  ///< 0 for a gap
 };
 
-/// The toolbar resource of that name; null when there is none or its bytes do not fit its count.
-const ToolBarResource* find_tool_bar(LPCTSTR name) {
+/// The numbers of a resource, which are of type `Number` there, behind a head of `head` numbers: width,
+/// height and count are its last three. False when the bytes are not as many as the count says.
+template <class Number>
+bool read_numbers(const BYTE* bytes, size_t size, size_t head, ToolBarResource& bar) {
+    const auto at = [bytes](size_t place) {
+        Number number = 0;
+        memcpy(&number, bytes + place * sizeof number, sizeof number);
+        return static_cast<UINT>(number);
+    };
+    if (size < head * sizeof(Number)) return false;
+    const UINT width = at(head - 3), height = at(head - 2), count = at(head - 1);
+    constexpr UINT kLargest = 0x7FFF;
+    if (width == 0 || height == 0 || width > kLargest || height > kLargest) return false;
+    if (count > kLargest || size < (head + count) * sizeof(Number)) return false;
+    bar.image = CSize(static_cast<int>(width), static_cast<int>(height));
+    for (size_t i = 0; i < count; ++i) bar.commands.push_back(at(head + i));
+    return true;
+}
+
+/// Reads the toolbar resource of that name; false when there is none or it is damaged.
+bool read_tool_bar(LPCTSTR name, ToolBarResource& bar) {
     HINSTANCE module = AfxFindResourceHandle(name, kToolBarType);
     HRSRC place = ::FindResourceW(module, name, kToolBarType);
     HGLOBAL loaded = place != nullptr ? ::LoadResource(module, place) : nullptr;
-    const auto* bar =
-        loaded != nullptr ? static_cast<const ToolBarResource*>(::LockResource(loaded)) : nullptr;
-    if (bar == nullptr) return nullptr;
-    const DWORD size = ::SizeofResource(module, place);
-    const bool whole = size >= sizeof *bar && size - sizeof *bar >= bar->count * sizeof(WORD);
-    return whole && bar->version == 1 ? bar : nullptr;
+    const auto* bytes = loaded != nullptr ? static_cast<const BYTE*>(::LockResource(loaded)) : nullptr;
+    if (bytes == nullptr) return false;
+    const size_t size = ::SizeofResource(module, place);
+    WORD start[2] = {};
+    if (size >= sizeof start) memcpy(start, bytes, sizeof start);
+    // Words behind version 1; a free resource compiler writes double words and no version.
+    if (start[1] != 0) return start[0] == 1 && read_numbers<WORD>(bytes, size, 4, bar);
+    return read_numbers<DWORD>(bytes, size, 3, bar);
 }
 
 }  // namespace
@@ -86,14 +104,13 @@ CToolBarCtrl& CToolBar::GetToolBarCtrl() const {
 }
 
 BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName) {
-    const ToolBarResource* bar = find_tool_bar(lpszResourceName);
-    if (bar == nullptr) return FALSE;
-    CArray<UINT, UINT> commands;
-    for (int i = 0; i < bar->count; ++i) commands.Add(bar->commands()[i]);
-    const CSize image(bar->width, bar->height);
+    ToolBarResource bar;
+    if (!read_tool_bar(lpszResourceName, bar)) return FALSE;
     const CSize formerButton = m_sizeButton, formerImage = m_sizeImage;
-    SetSizes(CSize(image.cx + kExtraWidth, image.cy + kExtraHeight), image);
-    if (LoadBitmap(lpszResourceName) && SetButtons(commands.GetData(), bar->count)) return TRUE;
+    SetSizes(CSize(bar.image.cx + kExtraWidth, bar.image.cy + kExtraHeight), bar.image);
+    if (LoadBitmap(lpszResourceName) &&
+        SetButtons(bar.commands.data(), static_cast<int>(bar.commands.size())))
+        return TRUE;
     SetSizes(formerButton, formerImage);
     return FALSE;
 }

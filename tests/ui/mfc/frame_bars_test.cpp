@@ -141,6 +141,8 @@ TEST_F(ToolBar, ADamagedOrMissingResourceChangesNothing) {
     EXPECT_FALSE(bar.LoadToolBar(441)) << "more commands than bytes";
     EXPECT_FALSE(bar.LoadToolBar(442)) << "another version";
     EXPECT_FALSE(bar.LoadToolBar(443)) << "no bitmap";
+    EXPECT_FALSE(bar.LoadToolBar(445)) << "more commands than bytes, in double words";
+    EXPECT_FALSE(bar.LoadToolBar(446)) << "too short";
     EXPECT_FALSE(bar.LoadBitmap(4711));
     EXPECT_FALSE(bar.SetBitmap(nullptr));
     EXPECT_EQ(bar.GetCount(), 4);
@@ -149,6 +151,15 @@ TEST_F(ToolBar, ADamagedOrMissingResourceChangesNothing) {
     EXPECT_FALSE(none.LoadToolBar(440));
     EXPECT_FALSE(none.SetButtons(nullptr, 2));
     EXPECT_EQ(none.GetItemID(0), static_cast<UINT>(ID_SEPARATOR));
+}
+
+TEST_F(ToolBar, ComesFromAStatementOfTheResourceCompilerToo) {
+    ASSERT_TRUE(bar.LoadToolBar(444));
+    EXPECT_EQ(bar.GetCount(), 3);
+    EXPECT_EQ(bar.GetItemID(0), kNew);
+    EXPECT_EQ(bar.GetItemID(1), static_cast<UINT>(ID_SEPARATOR));
+    EXPECT_EQ(bar.GetItemID(2), kCut);
+    EXPECT_EQ(bar.GetToolBarCtrl().GetButtonSize().cx, 8 + 7);
 }
 
 TEST_F(ToolBar, ShowsThePicturesOfItsBitmap) {
@@ -558,7 +569,11 @@ TEST_F(StatusBar, OwnerDrawnPanesAreDrawnByTheBar) {
 
 TEST_F(StatusBar, ShowsTheMessagesOfTheFrame) {
     EXPECT_EQ(frame->GetMessageBar(), &bar);
+    idle();
+    EXPECT_EQ(shownText(0), L"At rest");
     frame->SetMessageText(L"hello");
+    EXPECT_EQ(shownText(0), L"hello");
+    idle();
     EXPECT_EQ(shownText(0), L"hello");
     frame->SetMessageText(kNew);
     EXPECT_EQ(shownText(0), L"Makes a new thing");

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -415,8 +416,14 @@ TEST_F(SheetOfPages, APageWithoutATemplateIsNoReasonToCrash) {
     Page missing(4711, "m", log);
     CPropertySheet lone(L"lone", &parent);
     lone.AddPage(&missing);
-    ui_test::later([&] { lone.EndDialog(7); }, 100);
+    const auto isOver = std::make_shared<bool>(false);
+    ui_test::later(
+        [&lone, isOver] {
+            if (!*isOver) lone.EndDialog(7);
+        },
+        100);
     lone.DoModal();
+    *isOver = true;
     EXPECT_TRUE(parent.IsWindowEnabled());
     EXPECT_EQ(missing.m_hWnd, nullptr);
     // The next window is not taken for the missing page's.

@@ -82,9 +82,9 @@ protected:
     void PostNcDestroy() override;
 
     CString m_strTitle;
-    CRect m_rectBorder{0, 0, 0, 0};  ///< room to leave around the view, on each side
-    UINT m_nIDHelp = 0;              ///< LoadFrame's resource id
-    UINT m_nIDTracking = 0;
+    CRect m_rectBorder{0, 0, 0, 0};            ///< room to leave around the view, on each side
+    UINT m_nIDHelp = 0;                        ///< LoadFrame's resource id
+    UINT m_nIDTracking = AFX_IDS_IDLEMESSAGE;  ///< the command whose message is due
     UINT m_nIDLastMessage = 0;
     int m_cModalStack = 0;
     CDWordArray m_disabledWindows;  ///< windows that BeginModalState disabled (low words of their handles)

@@ -7,6 +7,7 @@
 
 #ifdef _WIN32
 #include <windows.h>
+#include <tchar.h>
 #include <commctrl.h>
 // A macro of two arguments that would swallow CWnd::GetNextWindow.
 #undef GetNextWindow

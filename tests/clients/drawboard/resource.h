@@ -1,0 +1,8 @@
+//{{NO_DEPENDENCIES}}
+// Used by drawboard.rc
+//
+#define IDR_MAINFRAME 128
+#define ID_DRAW_LINE 32771
+#define ID_DRAW_BOX 32772
+#define ID_DRAW_CLEAR 32773
+#define ID_INDICATOR_SHAPES 32780

@@ -1,0 +1,13 @@
+//{{NO_DEPENDENCIES}}
+// Used by orders.rc
+//
+#define IDD_ORDERS_DIALOG 102
+#define IDR_MAINFRAME 128
+#define IDP_TOTAL 130
+#define IDC_CUSTOMER 1000
+#define IDC_QUANTITY 1001
+#define IDC_EXPRESS 1002
+#define IDC_ADD 1003
+#define IDC_LIST 1004
+#define IDC_TOTAL 1005
+#define IDC_KIND 1006

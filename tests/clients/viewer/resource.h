@@ -1,0 +1,4 @@
+//{{NO_DEPENDENCIES}}
+// Used by viewer.rc
+//
+#define IDR_MAINFRAME 128
