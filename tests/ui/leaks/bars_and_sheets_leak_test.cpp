@@ -3,7 +3,7 @@
 #include <afxdlgs.h>
 #include <afxext.h>
 
-#include "leak_fixture.h"
+#include "leak_growth.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ public:
     }
 };
 
-class BarsAndSheets : public Leaks {
+class BarsAndSheets : public ::testing::Test {
 protected:
     void openSheet() {
         CPropertySheet sheet(L"sheet", &parent);
@@ -104,6 +104,7 @@ protected:
         ui_test::pump();
         ::DestroyWindow(frame);
     }
+    ui_test::ParentWindow parent;
     int opened = 0;
 };
 
