@@ -225,8 +225,6 @@ void CPropertySheet::end_modal(HWND owner, bool enableOwner) {
     const HWND active = ::GetActiveWindow();
     if (owner != nullptr && (active == nullptr || active == m_hWnd)) ::SetActiveWindow(owner);
     if (m_hWnd != nullptr) DestroyWindow();
-    // The system enables the owner of a sheet that goes, even if it was disabled before.
-    if (owner != nullptr && !enableOwner && owner != ::GetDesktopWindow()) ::EnableWindow(owner, FALSE);
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {

@@ -261,6 +261,10 @@ TEST_F(ToolBar, ItsSizeFollowsItsButtonsAndTheAskedDirection) {
     const CSize column = bar.CalcFixedLayout(FALSE, FALSE);
     EXPECT_EQ(column.cx, button.cx);
     EXPECT_GE(column.cy, 3 * button.cy);
+    CRect first, second;
+    bar.GetItemRect(0, &first);
+    bar.GetItemRect(1, &second);
+    EXPECT_EQ(first.top, second.top) << "the buttons stay in their row";
     EXPECT_EQ(bar.CalcFixedLayout(FALSE, TRUE), row) << "asking for the other direction changes nothing";
     const CSize narrow = bar.CalcDynamicLayout(2 * button.cx, LM_HORZ);
     EXPECT_EQ(narrow.cx, 2 * button.cx);

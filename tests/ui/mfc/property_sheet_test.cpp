@@ -294,7 +294,7 @@ TEST_F(SheetOfPages, ApplyIsEnabledWhileAPageIsModified) {
         second.SetModified(TRUE);
         first.SetModified(FALSE);
         note();
-        second.SetModified(FALSE);
+        second.OnOK();
         note();
         second.SetModified();
         log.clear();
@@ -387,6 +387,12 @@ TEST_F(SheetOfPages, StartsWithThePageThatWasChosen) {
     EXPECT_EQ(log.front(), "2 init");
     CPropertySheet other(L"other", &parent, 1);
     EXPECT_EQ(other.m_psh.nStartPage, 1u);
+    // One that is none is the first.
+    log.clear();
+    sheet.m_psh.nStartPage = 9;
+    run([&] { press(PSBTN_OK); });
+    ASSERT_FALSE(log.empty());
+    EXPECT_EQ(log.front(), "1 init");
 }
 
 TEST_F(SheetOfPages, WhatIsNoPageIsRefused) {
@@ -641,7 +647,7 @@ TEST_F(Modeless, ItsPagesWorkAndItsCloseBoxDestroysIt) {
 
 TEST_F(Modeless, StandsInItsParentAsAChild) {
     sheet.DestroyWindow();
-    ASSERT_TRUE(sheet.Create(&parent, WS_CHILD | WS_VISIBLE | DS_CONTROL));
+    ASSERT_TRUE(sheet.Create(&parent, WS_CHILD | WS_VISIBLE));
     EXPECT_EQ(::GetParent(sheet.m_hWnd), parent.m_hWnd);
     EXPECT_EQ(sheet.GetStyle() & (WS_CHILD | WS_CAPTION), static_cast<DWORD>(WS_CHILD));
     EXPECT_TRUE(sheet.GetExStyle() & WS_EX_CONTROLPARENT);
