@@ -45,11 +45,11 @@ OdArray<OdDbAttribute*> OdDbBlockReference::attributes() const {
 
 OdResult OdDbBlockReference::appendAttribute(const OdSmartPtr<OdDbAttribute>& attribute) {
     if (!attribute || attribute->database()) return kOdInvalidInput;
+    editGroups();
     auto place = m_parts.end();
     if (!m_parts.empty() && dynamic_cast<OdDbSequenceEnd*>(m_parts.back().get())) --place;
     m_parts.insert(place, OdDbEntityPtr(attribute.get()));
     if (store()) store()->adoptEntity(OdDbEntityPtr(attribute.get()), handle());
-    editGroups();
     return kOdOk;
 }
 

@@ -232,6 +232,7 @@ OdResult OdDbDatabase::setCurrentPlotStyleName(const wchar_t* name) {
 const OdDbHeader& OdDbDatabase::header() const { return m_store->header; }
 
 OdDbHeader& OdDbDatabase::editHeader() {
+    m_store->willChangeHeader();
     m_modified = true;
     return m_store->header;
 }

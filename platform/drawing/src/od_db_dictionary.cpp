@@ -81,6 +81,7 @@ OdResult OdDbDictionary::setAt(const wchar_t* name, const OdDbObjectPtr& object,
         store()->adopt(object, 0, handle());
         store()->fileObjects.push_back(object.get());
     }
+    store()->willChange(*this);
     if (const Entry* entry = find(name))
         const_cast<Entry*>(entry)->handle = object->handle();
     else
@@ -93,6 +94,7 @@ OdResult OdDbDictionary::setAt(const wchar_t* name, const OdDbObjectPtr& object,
 OdResult OdDbDictionary::remove(const wchar_t* name) {
     const Entry* entry = find(name);
     if (!entry) return kOdKeyNotFound;
+    if (store()) store()->willChange(*this);
     m_entries.erase(m_entries.begin() + (entry - m_entries.data()));
     if (database()) database()->setModified(true);
     return kOdOk;
@@ -103,8 +105,8 @@ OdDbObjectId OdDbDictionary::defaultId() const {
 }
 
 void OdDbDictionary::setDefaultId(const OdDbObjectId& id) {
-    m_hasDefault = true;
     OdGroupList& groups = editGroups();
+    m_hasDefault = true;
     OdGroup group;
     if (!groups.findMarker("AcDbDictionaryWithDefault", group)) {
         OdGroupList marker;

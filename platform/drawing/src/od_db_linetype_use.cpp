@@ -7,17 +7,6 @@ namespace {
 constexpr int kLinetypeName = 6;
 constexpr int kApplicationData = 102;
 
-/// Whether the object, or what holds it, was erased.
-bool isGone(const OdDbDatabase& drawing, const OdDbObject& object) {
-    constexpr int kDeepest = 8;  // attribute, insert, block, table; a damaged file may hold a ring
-    const OdDbObject* at = &object;
-    for (int i = 0; at && i < kDeepest; ++i) {
-        if (at->isErased()) return true;
-        at = drawing.objectByHandle(at->ownerId().handle());
-    }
-    return false;
-}
-
 }  // namespace
 
 OdDbLinetypeUses::OdDbLinetypeUses(OdDbDatabase& drawing) {
@@ -35,7 +24,7 @@ OdDbLinetypeUses::OdDbLinetypeUses(OdDbDatabase& drawing) {
     if (OdDbLinetypeUse* current = named(drawing.header().text("CELTYPE"))) current->isCurrent = true;
     countHeader(drawing.header());
     for (const auto& entry : drawing.m_store->objects)
-        if (!isGone(drawing, *entry.second)) countObject(*entry.second);
+        if (!drawing.m_store->isGone(*entry.second)) countObject(*entry.second);
 }
 
 OdDbLinetypeUse OdDbLinetypeUses::of(const OdDbObjectId& id) const {

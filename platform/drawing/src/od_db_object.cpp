@@ -59,13 +59,17 @@ OdDbDatabase* OdDbObject::database() const { return m_store ? m_store->database 
 OdDbObjectId OdDbObject::ownerId() const { return m_store ? m_store->id(m_owner) : OdDbObjectId(); }
 
 OdResult OdDbObject::erase(bool erasing) {
+    if (m_store) m_store->willChange(*this);
     m_erased = erasing;
     if (m_store) m_store->database->setModified(true);
     return kOdOk;
 }
 
 OdGroupList& OdDbObject::editGroups() {
-    if (m_store) m_store->database->setModified(true);
+    if (m_store) {
+        m_store->willChange(*this);
+        m_store->database->setModified(true);
+    }
     return m_groups;
 }
 

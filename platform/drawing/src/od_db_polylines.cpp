@@ -56,10 +56,10 @@ OdArray<OdDbVertex*> OdDb2dPolyline::vertices() const {
 
 OdResult OdDb2dPolyline::appendVertex(const OdSmartPtr<OdDbVertex>& vertex) {
     if (!vertex || vertex->database()) return kOdInvalidInput;
+    editGroups();
     auto place = m_parts.end();
     if (!m_parts.empty() && dynamic_cast<OdDbSequenceEnd*>(m_parts.back().get())) --place;
     m_parts.insert(place, OdDbEntityPtr(vertex.get()));
     if (store()) store()->adoptEntity(OdDbEntityPtr(vertex.get()), handle());
-    editGroups();
     return kOdOk;
 }

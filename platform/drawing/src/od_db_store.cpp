@@ -1,5 +1,6 @@
 #include "od_db_store.h"
 
+#include "od_db_change_notes.h"
 #include "od_dxf_markers.h"
 
 namespace {
@@ -38,6 +39,39 @@ OdDbStore::~OdDbStore() {
     for (auto& entry : objects) entry.second->m_store = nullptr;
 }
 
+bool OdDbStore::isGone(const OdDbObject& gone) const {
+    constexpr int kDeepest = 8;  // attribute, insert, block, table; a damaged file may hold a ring
+    const OdDbObject* at = &gone;
+    for (int i = 0; at && i < kDeepest; ++i) {
+        if (at->isErased()) return true;
+        at = object(at->m_owner);
+    }
+    return false;
+}
+
+void OdDbStore::willChange(const OdDbObject& object) const {
+    if (notes) notes->willChange(object);
+}
+
+void OdDbStore::willChangeHeader() const {
+    if (notes) notes->willChangeHeader();
+}
+
+void OdDbStore::made(const OdDbObject& object) const {
+    if (notes) notes->made(object);
+}
+
+void OdDbStore::refreshNames() {
+    m_lastLayer = 0;
+    for (auto& table : tables) {
+        table->m_byName.clear();
+        for (OdDbSymbolTableRecord* record : table->m_records) {
+            const auto place = table->m_byName.emplace(odFoldedName(record->m_name), record);
+            if (!place.second && place.first->second->isErased()) place.first->second = record;
+        }
+    }
+}
+
 OdDbObject* OdDbStore::object(OdDbHandle handle) const {
     const auto found = objects.find(handle);
     return found == objects.end() ? nullptr : found->second.get();
@@ -50,6 +84,7 @@ void OdDbStore::adopt(const OdDbObjectPtr& object, OdDbHandle handle, OdDbHandle
     object->m_owner = owner;
     object->m_store = this;
     objects.emplace(handle, object);
+    made(*object);
 }
 
 OdDbSymbolTableRecord* OdDbStore::addRecord(OdTableKind kind, const OdDbSymbolTableRecordPtr& record,

@@ -34,11 +34,30 @@ struct OdRawSection {
     std::vector<OdRawRecord> records;
 };
 
+struct OdDbChangeNotes;
+
 struct OdDbStore {
     explicit OdDbStore(OdDbDatabase* owner) : database(owner) {}
     OdDbStore(const OdDbStore&) = delete;
     OdDbStore& operator=(const OdDbStore&) = delete;
     ~OdDbStore();
+
+    static OdDbStore& of(OdDbDatabase& database) { return *database.m_store; }
+
+    /// Whether the object, or what holds it, was erased.
+    bool isGone(const OdDbObject& object) const;
+
+    /// To be called before an object's fields or the header's variables change, and after an object was taken
+    /// in.
+    void willChange(const OdDbObject& object) const;
+    void willChangeHeader() const;
+    void made(const OdDbObject& object) const;
+    /// Finds records by their names again after names or erased records have changed without the tables.
+    void refreshNames();
+    /// Gives a layer another name, which is free, also where the drawing names it in words.
+    void renameLayer(OdDbLayerTableRecord& layer, const OdString& name);
+    bool& isErasedOf(OdDbObject& object) const { return object.m_erased; }
+    OdString& nameOf(OdDbSymbolTableRecord& record) const { return record.m_name; }
 
     /// The object with this number, or null.
     OdDbObject* object(OdDbHandle handle) const;
@@ -111,6 +130,7 @@ struct OdDbStore {
     OdGroupList thumbnail;
     std::vector<OdRawSection> sections;
     std::vector<OdRawSection> otherTables;  // tables that no class stands for
+    OdDbChangeNotes* notes = nullptr;       // what is told of changes; null while nobody notes them
 
 private:
     OdDbDictionary* needDictionary(const wchar_t* name, bool withDefault = false);
