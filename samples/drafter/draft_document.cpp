@@ -16,12 +16,14 @@ unsigned long long whenWritten(const wchar_t* path) {
 
 }  // namespace
 
-CDraftDocument::CDraftDocument() : m_drawing(new OdDbDatabase) {}
+CDraftDocument::CDraftDocument()
+    : m_drawing(new OdDbDatabase), m_history(std::make_unique<CUndoHistory>(m_drawing)) {}
 
 bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     if (drawing->readDxf(path, &error) != kOdOk) return false;
     m_drawing = drawing;
+    m_history = std::make_unique<CUndoHistory>(m_drawing);
     m_written = whenWritten(path);
     m_isNew = false;
     return true;
@@ -36,6 +38,7 @@ bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
 
 bool CDraftDocument::Save(const wchar_t* path) {
     if (m_drawing->writeDxf(path) != kOdOk) return false;
+    m_history->MarkSaved();
     m_written = whenWritten(path);
     m_isNew = false;
     return true;

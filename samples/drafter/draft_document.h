@@ -2,14 +2,20 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 
 #include <kh_system.h>
 #include <od_db.h>
 
+#include "undo_history.h"
+
 class CDraftDocument final : public KtApDocument, private CKhVariableStore {
 public:
     CDraftDocument();
+
+    /// The changes of the drawing since it was opened.
+    CUndoHistory& history() { return *m_history; }
 
     OdDbDatabase* database() override { return m_drawing.get(); }
     CKhDrawingView* drawingView() override { return nullptr; }
@@ -35,6 +41,7 @@ private:
     bool setBool(const wchar_t* name, bool value) override;
 
     OdDbDatabasePtr m_drawing;
+    std::unique_ptr<CUndoHistory> m_history;
     unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
     bool m_isNew = false;              ///< the file that the drawing was read from is its template
     std::map<std::wstring, int> m_numbers;

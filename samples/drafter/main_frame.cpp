@@ -48,6 +48,8 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
+    ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnUndo)
+    ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnRedo)
     ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
     ON_COMMAND(ID_EDIT_DESELECT, &CMainFrame::OnDeselect)
     ON_COMMAND(ID_VIEW_EXTENTS, &CMainFrame::OnZoomExtents)
@@ -62,12 +64,14 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CStandinHost& host)
-    : m_host(host), m_document(std::make_unique<CDraftDocument>()), m_pickers([this] {
-          showDrawing(true);
+    : m_host(host), m_document(std::make_unique<CDraftDocument>()), m_pickers([this](UINT name) {
+          finishChange(name);
           m_view.SetFocus();
       }) {
     m_host.SetCurrentDocument(m_document.get());
@@ -248,33 +252,24 @@ void CMainFrame::OnFileSaveAs() {
     if (!path.IsEmpty()) saveTo(path);
 }
 
-void CMainFrame::OnSelectAll() {
-    std::set<OdDbObjectId> all;
-    const auto space = m_document->database()->currentSpaceId().open<OdDbBlockTableRecord>();
-    for (const OdDbEntity* entity : space->entities())
-        if (!entity->isErased()) all.insert(entity->objectId());
-    m_view.SetSelection(std::move(all));
-}
-
-void CMainFrame::OnDeselect() { m_view.SetSelection({}); }
 void CMainFrame::OnZoomExtents() { m_view.ZoomExtents(); }
 void CMainFrame::OnZoomIn() { m_view.Zoom(kZoomStep); }
 void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
 
 void CMainFrame::OnProperties() {
     CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this);
-    runDialog(dialog);
+    runDialog(dialog, IDS_CHANGE_PROPERTIES);
 }
 
 void CMainFrame::OnDimensionStyle() {
     CDimensionStyleDialog dialog(*m_document->database(), this);
-    runDialog(dialog);
+    runDialog(dialog, IDS_CHANGE_DIMENSION_STYLE);
 }
 
 void CMainFrame::OnTextStyle() {
     const auto load = [this](const CString& file, CString& message) { return loadFont(file, message); };
     CTextStyleDialog dialog(*m_document->database(), this, load);
-    runDialog(dialog);
+    runDialog(dialog, IDS_CHANGE_TEXT_STYLE);
 }
 
 CKhFontStyle* CMainFrame::loadFont(const CString& file, CString& message) {
@@ -284,17 +279,18 @@ CKhFontStyle* CMainFrame::loadFont(const CString& file, CString& message) {
     return style;
 }
 
-void CMainFrame::runDialog(CDialog& dialog) {
+void CMainFrame::runDialog(CDialog& dialog, UINT name) {
+    CDrawingChange change(m_document->history());
     // A cancelled dialog may have changed the drawing as well: the linetype manager behind a picker does.
-    dialog.DoModal();
+    const bool isConfirmed = dialog.DoModal() == IDOK;
+    change.Keep(textOf(isConfirmed ? name : IDS_CHANGE_LINETYPES).GetString());
     showDrawing(true);
-    OnSelection(0, 0);
     m_view.SetFocus();
 }
 
 void CMainFrame::OnMeasure() {
     CMeasureDialog dialog(*m_document->database(), *this, this);
-    runDialog(dialog);
+    runDialog(dialog, IDS_CHANGE_LINETYPES);
 }
 
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -362,6 +358,9 @@ void CMainFrame::OnOptions() {
         m_options, [this](const DrafterOptions& options) { applyOptions(options); }, m_extensions.get(),
         this);
     if (dialog.DoModal() == IDOK) applyOptions(dialog.options());
+    // An extension's page may have edited the drawing as well, and what was applied stays when it is
+    // cancelled.
+    finishChange(IDS_CHANGE_OPTIONS);
     m_view.SetFocus();
 }
 

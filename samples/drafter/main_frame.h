@@ -42,6 +42,8 @@ protected:
     afx_msg void OnFileOpen();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
+    afx_msg void OnUndo();
+    afx_msg void OnRedo();
     afx_msg void OnSelectAll();
     afx_msg void OnDeselect();
     afx_msg void OnZoomExtents();
@@ -56,6 +58,8 @@ protected:
     afx_msg void OnPickerBar();
     afx_msg void OnOptions();
     afx_msg void OnUpdatePickerBar(CCmdUI* item);
+    afx_msg void OnUpdateUndo(CCmdUI* item);
+    afx_msg void OnUpdateRedo(CCmdUI* item);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
@@ -71,8 +75,11 @@ private:
     void showPickers();
     std::vector<OdDbObjectId> selectedObjects() const;
     void showDrawing(bool keepPlace);
-    /// Shows a dialog that edits the drawing, and the drawing as it is afterwards.
-    void runDialog(CDialog& dialog);
+    /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
+    /// under the string `name`.
+    void runDialog(CDialog& dialog, UINT name);
+    /// Makes one step of Undo of what was changed, under the string `name`, and shows the drawing.
+    void finishChange(UINT name);
     /// Makes a font file known to the host, and to the system for as long as the program runs; its first
     /// style, or null with the reason in `message`.
     CKhFontStyle* loadFont(const CString& file, CString& message);

@@ -6,6 +6,18 @@
 
 #include "resource.h"
 
+namespace {
+
+constexpr struct {
+    UINT id;
+    UINT name;  ///< of what it picks: its tip, and what the menu offers to undo
+} kPickers[] = {{IDC_TRUE_COLOR, IDS_TIP_COLOR},
+                {IDC_LINETYPE, IDS_TIP_LINETYPE},
+                {IDC_LINE_WEIGHT, IDS_TIP_WEIGHT},
+                {IDC_PLOT_STYLE, IDS_TIP_PLOT_STYLE}};
+
+}  // namespace
+
 IMPLEMENT_DYNAMIC(CPickerBar, CKtUiDialogBar)
 
 BOOL CPickerBar::CreateBar(CWnd* frame) {
@@ -23,18 +35,17 @@ void CPickerBar::bindPickers() {
 }
 
 void CPickerBar::addTips() {
-    const struct {
-        CWnd& picker;
-        UINT text;
-    } tips[] = {{m_color, IDS_TIP_COLOR},
-                {m_linetype, IDS_TIP_LINETYPE},
-                {m_lineWeight, IDS_TIP_WEIGHT},
-                {m_plotStyle, IDS_TIP_PLOT_STYLE}};
-    for (const auto& each : tips) {
+    for (const auto& each : kPickers) {
         CString text;
-        text.LoadString(each.text);
-        if (m_toolTip != nullptr) m_toolTip->AddTool(&each.picker, text);
+        text.LoadString(each.name);
+        if (m_toolTip != nullptr) m_toolTip->AddTool(GetDlgItem(static_cast<int>(each.id)), text);
     }
+}
+
+UINT CPickerBar::nameOf(UINT id) {
+    for (const auto& each : kPickers)
+        if (each.id == id) return each.name;
+    return IDS_CHANGE_PROPERTIES;
 }
 
 void CPickerBar::fillLists() {
@@ -113,6 +124,6 @@ BOOL CPickerBar::OnCommand(WPARAM wParam, LPARAM lParam) {
     const PropertyValues values = picked(LOWORD(wParam));
     if (!values.color && !values.linetype && !values.lineWeight && !values.plotStyle) return result;
     WriteProperties(*m_drawing, m_objects, values);
-    m_changed();
+    m_changed(nameOf(LOWORD(wParam)));
     return TRUE;
 }

@@ -12,8 +12,8 @@ class CPickerBar : public CKtUiDialogBar {
     DECLARE_DYNAMIC(CPickerBar)
 
 public:
-    /// `changed` is called when the bar has changed the drawing.
-    explicit CPickerBar(std::function<void()> changed) : m_changed(std::move(changed)) {}
+    /// `changed` is called when the bar has changed the drawing, with the name of what was changed: a string.
+    explicit CPickerBar(std::function<void(UINT name)> changed) : m_changed(std::move(changed)) {}
 
     BOOL CreateBar(CWnd* frame);
     /// Shows the values of `objects`, or the current settings without objects. Another drawing's lists are
@@ -26,13 +26,14 @@ protected:
 private:
     void bindPickers();
     void addTips();
+    static UINT nameOf(UINT id);
     void fillLists();
     void showPlotStyle(const std::optional<OdString>& name);
     std::optional<OdString> pickedPlotStyle();
     /// What was picked in the picker with `id` and differs from what it showed.
     PropertyValues picked(UINT id);
 
-    std::function<void()> m_changed;
+    std::function<void(UINT name)> m_changed;
     OdDbDatabase* m_drawing = nullptr;
     std::vector<OdDbObjectId> m_objects;
     PropertyValues m_shown;

@@ -185,6 +185,16 @@
 #define IDS_KIND_TEXT 422
 #define IDS_KIND_INSERT 423
 #define IDS_KIND_ELLIPSE 424
+// Names of changes, for Undo and Redo.
+#define IDS_UNDO 430
+#define IDS_REDO 431
+#define IDS_UNDO_NAMED 432
+#define IDS_REDO_NAMED 433
+#define IDS_CHANGE_PROPERTIES 434
+#define IDS_CHANGE_DIMENSION_STYLE 435
+#define IDS_CHANGE_TEXT_STYLE 436
+#define IDS_CHANGE_OPTIONS 437
+#define IDS_CHANGE_LINETYPES 438
 // What each place of a measure is for, in the order of picking.
 #define IDS_PICK_FROM 380
 #define IDS_PICK_TO 381

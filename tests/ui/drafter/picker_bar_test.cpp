@@ -14,7 +14,11 @@ public:
 
 class PickerBar : public DrafterTest {
 protected:
-    PickerBar() : bar([this] { ++changes; }) {
+    PickerBar()
+        : bar([this](UINT name) {
+              ++changes;
+              changed = name;
+          }) {
         frame = new CFrameWnd;
         frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(40, 40, 900, 440));
         EXPECT_TRUE(bar.CreateBar(frame));
@@ -58,6 +62,7 @@ protected:
 
     CFrameWnd* frame;
     int changes = 0;
+    UINT changed = 0;  ///< name of what was
     OpenBar bar;
     OdDbObjectId lines[2];
 };
@@ -84,12 +89,15 @@ TEST_F(PickerBar, ActsOnTheSelection) {
     EXPECT_EQ(colorOf(lines[0]), 5);
     EXPECT_EQ(colorOf(lines[1]), 5);
     EXPECT_EQ(changes, 1);
+    EXPECT_EQ(changed, UINT{IDS_TIP_COLOR});
     take(IDC_LINETYPE, L"Continuous");
     EXPECT_EQ(lines[0].open<OdDbEntity>()->linetypeId(), continuous());
     EXPECT_EQ(changes, 2);
+    EXPECT_EQ(changed, UINT{IDS_TIP_LINETYPE});
     take(IDC_LINE_WEIGHT, L"0.50 mm");
     EXPECT_EQ(lines[1].open<OdDbEntity>()->lineWeight(), OdDb::kLnWt050);
     EXPECT_EQ(changes, 3);
+    EXPECT_EQ(changed, UINT{IDS_TIP_WEIGHT});
     EXPECT_EQ(drawing->cecolor().colorIndex(), 256);
 }
 
