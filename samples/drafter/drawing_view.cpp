@@ -1,5 +1,6 @@
 #include "drawing_view.h"
 
+#include "hit_test.h"
 #include "object_tip.h"
 
 #include <afxext.h>
@@ -14,14 +15,6 @@ constexpr int kTipOffset = 16;      // pixels right of and below the pointer
 constexpr double kZoomStep = 1.25;  // for one notch of the wheel
 constexpr int kPanStep = 48;        // pixels for an arrow key
 
-double distanceToSegment(CPoint at, CPoint from, CPoint to) {
-    const double dx = to.x - from.x, dy = to.y - from.y;
-    const double length = dx * dx + dy * dy;
-    double along = length > 0 ? ((at.x - from.x) * dx + (at.y - from.y) * dy) / length : 0;
-    along = std::clamp(along, 0.0, 1.0);
-    return std::hypot(at.x - from.x - along * dx, at.y - from.y - along * dy);
-}
-
 }  // namespace
 
 IMPLEMENT_DYNAMIC(CDrawingView, CWnd)
@@ -31,6 +24,8 @@ BEGIN_MESSAGE_MAP(CDrawingView, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_CAPTURECHANGED()
     ON_WM_MBUTTONDOWN()
     ON_WM_MBUTTONUP()
     ON_WM_MOUSEMOVE()
@@ -47,7 +42,9 @@ BOOL CDrawingView::CreateView(CWnd* parent, UINT id) {
 
 void CDrawingView::SetScene(Scene scene, bool keepPlace) {
     HideTip();
+    if (m_windowFrom) stopWindow();
     m_scene = std::move(scene);
+    std::erase_if(m_selection, [](const OdDbObjectId& each) { return !each.isValid(); });
     if (!keepPlace) {
         m_selection.clear();
         ZoomExtents();
@@ -96,6 +93,7 @@ void CDrawingView::OnPaint() {
     memory.GetDC().FillSolidRect(&client, m_colors.paper);
     PaintScene(memory.GetDC(), m_scene, place(), m_selection, m_colors);
     paintBand(memory.GetDC());
+    paintWindow(memory.GetDC());
     invertCrosshair(memory.GetDC());
 }
 
@@ -149,18 +147,11 @@ void CDrawingView::OnLButtonDown(UINT flags, CPoint point) {
         pickPlace(m_pointer);
         return;
     }
-    // While objects are picked, each click adds one or takes it away.
-    if (IsPicking()) flags |= MK_CONTROL;
     const OdDbObjectId entity = entityAt(point);
-    std::set<OdDbObjectId> selection;
-    if (flags & (MK_CONTROL | MK_SHIFT)) selection = m_selection;
-    if (!entity.isNull()) {
-        if ((flags & MK_CONTROL) && selection.contains(entity))
-            selection.erase(entity);
-        else
-            selection.insert(entity);
-    }
-    SetSelection(std::move(selection));
+    if (entity.isNull())
+        startWindow(point);
+    else
+        select({entity}, (flags & (MK_CONTROL | MK_SHIFT)) != 0);
 }
 
 void CDrawingView::OnMButtonDown(UINT, CPoint point) {
@@ -175,7 +166,10 @@ void CDrawingView::OnMButtonUp(UINT, CPoint) {
 }
 
 void CDrawingView::OnMouseMove(UINT, CPoint point) {
-    updateTip(point);
+    if (m_windowFrom)
+        dragWindow(point);
+    else
+        updateTip(point);
     if (m_panning) {
         panBy(CSize(point.x - m_lastPan.x, point.y - m_lastPan.y));
         m_lastPan = point;
@@ -218,6 +212,7 @@ BOOL CDrawingView::OnMouseWheel(UINT, short delta, CPoint point) {
 }
 
 void CDrawingView::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    if (key == VK_ESCAPE && m_windowFrom) return stopWindow();
     if (IsPicking() && pickByKey(key)) return;
     switch (key) {
         case VK_ESCAPE: SetSelection({}); break;
@@ -249,31 +244,5 @@ void CDrawingView::panBy(CSize pixels) {
 }
 
 OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {
-    OdDbObjectId found;
-    double nearest = kPickDistance;
-    for (const ScenePath& path : m_scene.paths) {
-        for (std::size_t i = 1; i < path.points.size(); ++i) {
-            const double distance =
-                distanceToSegment(pixel, ToPixel(path.points[i - 1]), ToPixel(path.points[i]));
-            if (distance > nearest) continue;
-            nearest = distance;
-            found = path.entity;
-        }
-    }
-    if (!found.isNull()) return found;
-    for (const SceneText& text : m_scene.texts) {
-        // A text is hit inside its box, turned back to the horizontal.
-        const CPoint at = ToPixel(text.position);
-        const double dx = pixel.x - at.x, dy = at.y - pixel.y;
-        const double c = std::cos(text.rotation), s = std::sin(text.rotation);
-        const double along = dx * c + dy * s, above = -dx * s + dy * c;
-        const double width = text.text.length() * text.height * m_scale * 0.8;
-        const double left = -width * text.horizontal / 2, low = text.vertical == 2   ? -0.5
-                                                                : text.vertical == 3 ? -1
-                                                                                     : 0;
-        const double height = text.height * m_scale;
-        if (along >= left && along <= left + width && above >= low * height && above <= (low + 1) * height)
-            return text.entity;
-    }
-    return found;
+    return EntityAt(m_scene, FromPixel(pixel), kPickDistance / m_scale);
 }

@@ -50,6 +50,8 @@ public:
     void PickObjects(PickEnded ended);
     bool IsPicking() const { return m_picking != Picking::kNothing; }
     bool IsPickingPlaces() const { return m_picking == Picking::kPlaces; }
+    /// Has the user select by two corners, picked by clicks or by keys, as by a window drawn with the mouse.
+    void SelectByCorners(PickEnded ended);
     /// Ends picking as Enter or Escape would.
     void EndPicking(bool isPicked);
     const std::vector<OdGePoint2d>& places() const { return m_places; }
@@ -63,6 +65,8 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* now);
     afx_msg void OnMButtonDown(UINT flags, CPoint point);
     afx_msg void OnMButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
@@ -87,6 +91,16 @@ private:
     bool stepPointer(CSize pixels);
     void paintBand(CDC& dc) const;
 
+    // Selecting by a window: what is wholly inside when it was drawn to the right, and what it touches when
+    // to the left.
+    void startWindow(CPoint pixel);
+    void dragWindow(CPoint pixel);
+    void stopWindow();
+    void selectByWindow(const OdGePoint2d& from, const OdGePoint2d& to, bool toSelection);
+    /// Selects the objects, or adds them to the selection, from which they go if all of them were in it.
+    void select(const std::set<OdDbObjectId>& objects, bool toSelection);
+    void paintWindow(CDC& dc) const;
+
     enum class Picking { kNothing, kPlaces, kObjects };
     /// Starts, keeps or takes away the tip of the object under the pointer.
     void updateTip(CPoint pixel);
@@ -101,6 +115,9 @@ private:
     Picking m_picking = Picking::kNothing;
     std::size_t m_wantedPlaces = 0;
     std::vector<OdGePoint2d> m_places;
+    std::optional<CPoint> m_windowFrom;  ///< client pixels; while the user draws a window
+    CPoint m_windowTo;
+    bool m_pickingCorners = false;  ///< the places that are picked are corners of a window
     std::set<OdDbObjectId> m_selectionBefore;
     PickEnded m_pickEnded;
     CKhTipCtrl m_tip;

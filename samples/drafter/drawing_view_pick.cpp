@@ -73,7 +73,7 @@ bool CDrawingView::stepPointer(CSize pixels) {
 }
 
 void CDrawingView::paintBand(CDC& dc) const {
-    if (m_picking != Picking::kPlaces || m_places.empty()) return;
+    if (m_picking != Picking::kPlaces || m_places.empty() || m_pickingCorners) return;
     CPen pen(PS_DOT, 1, kBandColor);
     CPen* former = dc.SelectObject(&pen);
     const int mode = dc.SetBkMode(TRANSPARENT);

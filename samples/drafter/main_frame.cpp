@@ -51,15 +51,18 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnUndo)
     ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnRedo)
     ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
+    ON_COMMAND(ID_EDIT_SELECT_WINDOW, &CMainFrame::OnSelectWindow)
     ON_COMMAND(ID_EDIT_DESELECT, &CMainFrame::OnDeselect)
     ON_COMMAND(ID_VIEW_EXTENTS, &CMainFrame::OnZoomExtents)
     ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
     ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
+    ON_COMMAND(ID_FORMAT_LAYERS, &CMainFrame::OnLayers)
     ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CMainFrame::OnDimensionStyle)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
     ON_COMMAND(ID_TOOLS_MEASURE, &CMainFrame::OnMeasure)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
+    ON_COMMAND(ID_VIEW_SEARCH_LAYERS, &CMainFrame::OnSearchLayers)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
@@ -70,10 +73,13 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CStandinHost& host)
-    : m_host(host), m_document(std::make_unique<CDraftDocument>()), m_pickers([this](UINT name) {
+    : m_host(host),
+      m_document(std::make_unique<CDraftDocument>()),
+      m_pickers([this](UINT name) {
           finishChange(name);
           m_view.SetFocus();
-      }) {
+      }),
+      m_layers([this] { showDrawing(true); }) {
     m_host.SetCurrentDocument(m_document.get());
 }
 
@@ -126,6 +132,8 @@ void CMainFrame::OnEnable(BOOL enable) {
     CFrameWnd::OnEnable(enable);
     // A dialog has come up, under a pointer that the view no longer hears of.
     if (!enable) m_view.HideTip();
+    // A modal dialog keeps the user from the modeless one too, also while it has stepped aside.
+    if (m_layers.m_hWnd != nullptr) m_layers.EnableWindow(enable && !m_isInCommand);
 }
 
 /// The window went to a monitor of another resolution: it takes the place that the system suggests.
@@ -177,8 +185,9 @@ void CMainFrame::showDrawing(bool keepPlace) {
     OdDbDatabase& drawing = *m_document->database();
     m_view.SetScene(BuildScene(drawing, drawing.currentSpaceId()), keepPlace);
     showTitle();
-    m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0);
+    showIdle();
     OnSelection(0, 0);
+    showLayers();
 }
 
 CString CMainFrame::shownName() const {
@@ -257,8 +266,19 @@ void CMainFrame::OnZoomIn() { m_view.Zoom(kZoomStep); }
 void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
 
 void CMainFrame::OnProperties() {
-    CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this);
+    CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this, this);
     runDialog(dialog, IDS_CHANGE_PROPERTIES);
+}
+
+void CMainFrame::OnLayers() {
+    if (m_layers.m_hWnd == nullptr && !m_layers.CreateBeside(this)) return;
+    showLayers();
+    m_layers.ShowWindow(SW_SHOW);
+    m_layers.SetActiveWindow();
+}
+
+void CMainFrame::showLayers() {
+    if (m_layers.m_hWnd != nullptr) m_layers.Show(*m_document->database(), m_document->history());
 }
 
 void CMainFrame::OnDimensionStyle() {
@@ -310,12 +330,13 @@ BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
 LRESULT CMainFrame::OnKbUiMessage(WPARAM wParam, LPARAM lParam) {
     if (KbUiNotification(wParam) != kKbUiNotifyEditorCommand) return kKbUiReplyNone;
     const bool begins = lParam == 1;
+    m_isInCommand = begins;
     EnableWindow(begins);
     if (begins) {
         SetActiveWindow();
         m_view.SetFocus();
     } else {
-        m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0);
+        showIdle();
     }
     return kKbUiReplyHandled;
 }
@@ -333,6 +354,8 @@ void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
     m_status.SetText(textOf(prompt), 0, 0);
 }
 
+void CMainFrame::showIdle() { m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0); }
+
 void CMainFrame::showPrompt() {
     m_status.SetText(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())), 0, 0);
 }
@@ -346,6 +369,23 @@ void CMainFrame::showPickers() {
 }
 
 void CMainFrame::OnPickerBar() { ShowControlBar(&m_pickers, !m_pickers.IsVisible(), FALSE); }
+
+void CMainFrame::OnSearchLayers() {
+    if (!m_pickers.IsVisible()) ShowControlBar(&m_pickers, TRUE, FALSE);
+    m_pickers.SearchLayers();
+}
+
+/// In a text that is being edited the keys of editing keep their meaning.
+BOOL CMainFrame::PreTranslateMessage(MSG* message) {
+    const CWnd* focus = GetFocus();
+    wchar_t name[8] = {};
+    if (focus != nullptr) ::GetClassNameW(focus->m_hWnd, name, 8);
+    const bool isEditing = ::lstrcmpiW(name, L"Edit") == 0;
+    if (isEditing && message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST &&
+        (message->wParam == VK_HOME || ::wcschr(L"AZY", static_cast<wchar_t>(message->wParam)) != nullptr))
+        return FALSE;
+    return CFrameWnd::PreTranslateMessage(message);
+}
 
 void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
 

@@ -8,6 +8,7 @@
 #include "drawing_picker.h"
 #include "drawing_view.h"
 #include "extensions.h"
+#include "layers_dialog.h"
 #include "options.h"
 #include "picker_bar.h"
 
@@ -23,6 +24,8 @@ public:
 
     /// Shows the drawing in `path`; tells the user why if it cannot be read, and the present drawing stays.
     bool OpenDrawing(const CString& path);
+
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     CWnd* GetMessageBar() override { return &m_status; }
@@ -45,17 +48,20 @@ protected:
     afx_msg void OnUndo();
     afx_msg void OnRedo();
     afx_msg void OnSelectAll();
+    afx_msg void OnSelectWindow();
     afx_msg void OnDeselect();
     afx_msg void OnZoomExtents();
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnProperties();
+    afx_msg void OnLayers();
     afx_msg void OnDimensionStyle();
     afx_msg void OnTextStyle();
     afx_msg void OnMeasure();
     afx_msg void OnAbout();
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPickerBar();
+    afx_msg void OnSearchLayers();
     afx_msg void OnOptions();
     afx_msg void OnUpdatePickerBar(CCmdUI* item);
     afx_msg void OnUpdateUndo(CCmdUI* item);
@@ -66,6 +72,7 @@ protected:
 private:
     void PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) override;
     void PickObjects(unsigned prompt, ObjectsPicked picked) override;
+    void showIdle();
     void showPrompt();
     void showDocument(std::unique_ptr<CDraftDocument> document);
     /// Gives the options to the host, the view and the drawing.
@@ -73,6 +80,7 @@ private:
     /// The same, and keeps them for the user.
     void applyOptions(const DrafterOptions& options);
     void showPickers();
+    void showLayers();
     std::vector<OdDbObjectId> selectedObjects() const;
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
@@ -100,6 +108,8 @@ private:
     CStatusBarCtrl m_status;
     unsigned m_firstPrompt = 0;
     CPickerBar m_pickers;
+    CLayersDialog m_layers;      ///< its window exists while it is open
+    bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
     DrafterOptions m_options;
     std::unique_ptr<CExtensions> m_extensions;  ///< from the first time that Options is opened
 };

@@ -1,5 +1,6 @@
 // The main window's Edit menu: undo, redo and the selection.
 #include "main_frame.h"
+#include "resource.h"
 #include "undo_menu.h"
 
 void CMainFrame::finishChange(UINT name) {
@@ -27,6 +28,13 @@ void CMainFrame::OnSelectAll() {
     for (const OdDbEntity* entity : space->entities())
         if (!entity->isErased()) all.insert(entity->objectId());
     m_view.SetSelection(std::move(all));
+}
+
+void CMainFrame::OnSelectWindow() {
+    m_firstPrompt = IDS_PICK_CORNER;
+    m_view.SetFocus();
+    m_view.SelectByCorners([this](bool) { showIdle(); });
+    showPrompt();
 }
 
 void CMainFrame::OnDeselect() { m_view.SetSelection({}); }

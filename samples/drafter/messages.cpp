@@ -28,12 +28,19 @@ CString formatted(UINT id, const CString& argument) {
 
 const wchar_t* warningIcon() { return MAKEINTRESOURCEW(0xFFFF); }
 
-/// A question with commands of two lines each and a Cancel button.
+/// A text for the toolkit's own task dialog, which takes an ampersand as the mark of a key.
+CString plain(const CString& text) {
+    CString shown = text;
+    shown.Replace(L"&", L"&&");
+    return shown;
+}
+
+/// A question with commands of two lines each and a Cancel button, which makes it the toolkit's own.
 class Question : public CKtUiTaskDialog {
 public:
     explicit Question(const CString& heading) {
         SetWindowTitle(CKhSystem::instance()->productInfo()->messageCaption());
-        SetMainInstruction(heading);
+        SetMainInstruction(plain(heading));
         SetOptions(kLinks | kRelative);
         SetCommonButtons(kCancelButton);
     }
@@ -85,7 +92,7 @@ void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error
 NewerFileChoice AskNewerFile(CWnd& parent, const CString& path) {
     if (AnyMessageAnswered()) return NewerFileChoice::kOverwrite;
     Question question(textOf(IDS_NEWER_HEADING));
-    question.SetContent(formatted(IDS_NEWER_EXPLAINED, path));
+    question.SetContent(plain(formatted(IDS_NEWER_EXPLAINED, path)));
     question.SetMainIcon(warningIcon());
     question.Offer(IDS_OVERWRITE_COMMAND, IDS_OVERWRITE_EXPLAINED);
     question.Offer(IDS_SAVE_AS_COMMAND, IDS_SAVE_AS_EXPLAINED);

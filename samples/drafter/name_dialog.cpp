@@ -8,13 +8,16 @@ BEGIN_MESSAGE_MAP(CNameDialog, CFieldsDialog)
     ON_EN_CHANGE(IDC_STYLE_NAME, &CNameDialog::OnNameChange)
 END_MESSAGE_MAP()
 
-CNameDialog::CNameDialog(std::vector<OdString> taken, CWnd* parent)
-    : CFieldsDialog(IDD_STYLE_NAME, L"StyleName", parent), m_taken(std::move(taken)) {
+CNameDialog::CNameDialog(std::vector<OdString> taken, CWnd* parent, const Words& words)
+    : CFieldsDialog(IDD_STYLE_NAME, L"StyleName", parent), m_taken(std::move(taken)), m_words(words) {
     AddField(IDC_STYLE_NAME, m_edit, IDS_BAD_STYLE_NAME);
 }
 
 BOOL CNameDialog::OnInitDialog() {
     const BOOL result = CFieldsDialog::OnInitDialog();
+    CString title;
+    title.LoadString(m_words.title);
+    SetWindowText(title);
     m_edit.SetStyleMask(kKtUiEditNoBlank);
     ResizeFrame({IDC_STYLE_NAME});
     LockDialogHeight();
@@ -31,7 +34,7 @@ void CNameDialog::OnOK() {
     const CString name = FieldText(IDC_STYLE_NAME);
     if (name.IsEmpty() || isTaken(name)) {
         CString text;
-        text.LoadString(name.IsEmpty() ? IDS_BAD_STYLE_NAME : IDS_TAKEN_STYLE_NAME);
+        text.LoadString(name.IsEmpty() ? IDS_BAD_STYLE_NAME : m_words.taken);
         ShowMessage(text);
         m_edit.SetFocus();
         return;

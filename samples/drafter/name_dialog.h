@@ -1,4 +1,4 @@
-// Asks for the name of a new style: a symbol name that is not taken.
+// Asks for the name of a new style or layer: a symbol name that is not taken.
 #pragma once
 
 #include "fields_dialog.h"
@@ -7,7 +7,11 @@ class CNameDialog : public CFieldsDialog {
     DECLARE_DYNAMIC(CNameDialog)
 
 public:
-    CNameDialog(std::vector<OdString> taken, CWnd* parent);
+    /// Strings: the title, and what is said of a name that is taken.
+    struct Words {
+        UINT title, taken;
+    };
+    CNameDialog(std::vector<OdString> taken, CWnd* parent, const Words& words);
     /// The name after DoModal has answered IDOK.
     const OdString& name() const { return m_name; }
 
@@ -23,6 +27,7 @@ private:
     bool isTaken(const CString& name) const;
 
     std::vector<OdString> m_taken;
+    Words m_words;
     OdString m_name;
     CReportingEdit<CKtUiSymbolEdit> m_edit;
 };

@@ -3,34 +3,16 @@
 #include <afxwin.h>
 
 #include <cmath>
-#include <cstring>
 
 #include <ktut.h>
 #include <od_host_services.h>
 #include <od_tool_tip_setting.h>
 
+#include "object_kinds.h"
 #include "resource.h"
 #include "unit_texts.h"
 
 namespace {
-
-struct Kind {
-    const char* name;  ///< in drawing files
-    UINT text;
-};
-
-constexpr Kind kKinds[] = {
-    {"LINE", IDS_KIND_LINE},           {"CIRCLE", IDS_KIND_CIRCLE}, {"ARC", IDS_KIND_ARC},
-    {"LWPOLYLINE", IDS_KIND_POLYLINE}, {"TEXT", IDS_KIND_TEXT},     {"MTEXT", IDS_KIND_TEXT},
-    {"POLYLINE", IDS_KIND_POLYLINE},   {"INSERT", IDS_KIND_INSERT}, {"ELLIPSE", IDS_KIND_ELLIPSE},
-};
-
-CString kindOf(const OdDbEntity& entity) {
-    CString text(entity.dxfName());
-    for (const Kind& kind : kKinds)
-        if (std::strcmp(kind.name, entity.dxfName()) == 0) text.LoadString(kind.text);
-    return text;
-}
 
 void addLine(OdArray<OdString>& lines, UINT id, const wchar_t* value) {
     CString line;
@@ -91,7 +73,7 @@ OdArray<OdString> DescribeObject(const Scene& scene, const OdDbObjectId& entity)
     OdArray<OdString> lines;
     const auto object = entity.open<OdDbEntity>();
     if (!object) return lines;
-    lines.append(OdString(kindOf(*object)));
+    lines.append(OdString(KindOf(*object)));
     addLine(lines, IDS_OBJECT_LAYER, object->layer().c_str());
     addLine(lines, IDS_OBJECT_COLOR, ktutColorToStr(object->color()).c_str());
     addLine(lines, IDS_OBJECT_LINETYPE, object->linetype().c_str());

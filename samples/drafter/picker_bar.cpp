@@ -4,6 +4,7 @@
 
 #include <ktdb.h>
 
+#include "layer_list.h"
 #include "resource.h"
 
 namespace {
@@ -14,7 +15,8 @@ constexpr struct {
 } kPickers[] = {{IDC_TRUE_COLOR, IDS_TIP_COLOR},
                 {IDC_LINETYPE, IDS_TIP_LINETYPE},
                 {IDC_LINE_WEIGHT, IDS_TIP_WEIGHT},
-                {IDC_PLOT_STYLE, IDS_TIP_PLOT_STYLE}};
+                {IDC_PLOT_STYLE, IDS_TIP_PLOT_STYLE},
+                {IDC_LAYER, IDS_TIP_LAYER}};
 
 }  // namespace
 
@@ -32,6 +34,13 @@ void CPickerBar::bindPickers() {
     m_linetype.SubclassDlgItem(IDC_LINETYPE, this);
     m_lineWeight.SubclassDlgItem(IDC_LINE_WEIGHT, this);
     m_plotStyle.SubclassDlgItem(IDC_PLOT_STYLE, this);
+    m_layer.SubclassDlgItem(IDC_LAYER, this);
+    m_search.SubclassDlgItem(IDC_LAYER_SEARCH, this);
+    CString prompt;
+    prompt.LoadString(IDS_SEARCH_LAYERS);
+    m_search.SetDefaultText(prompt);
+    m_search.SetNotification(prompt);
+    m_search.ClearEditor();
 }
 
 void CPickerBar::addTips() {
@@ -54,6 +63,14 @@ void CPickerBar::fillLists() {
     m_plotStyle.AddItems();
 }
 
+void CPickerBar::fillLayers() {
+    CString filter;
+    if (!m_search.IsEditEmpty()) m_search.GetWindowText(filter);
+    m_layer.Fill(*m_drawing, OdString(filter));
+    m_layer.SetCurSel(-1);
+    if (m_shown.layer) m_layer.Show(*m_shown.layer);
+}
+
 void CPickerBar::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) {
     m_showing = true;
     m_drawing = &drawing;
@@ -68,6 +85,7 @@ void CPickerBar::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) 
     m_lineWeight.SetCurSel(m_shown.lineWeight ? m_lineWeight.FindItemByLineWeight(*m_shown.lineWeight) : -1);
     showPlotStyle(m_shown.plotStyle);
     m_shown.plotStyle = pickedPlotStyle();
+    fillLayers();
     m_showing = false;
 }
 
@@ -113,17 +131,70 @@ PropertyValues CPickerBar::picked(UINT id) {
         values.plotStyle = pickedPlotStyle();
         if (values.plotStyle && m_shown.plotStyle && m_shown.plotStyle->iCompare(*values.plotStyle) == 0)
             values.plotStyle.reset();
+    } else if (id == IDC_LAYER) {
+        values.layer = m_layer.Picked();
+        if (values.layer == m_shown.layer) values.layer.reset();
     }
     return values;
 }
 
 BOOL CPickerBar::OnCommand(WPARAM wParam, LPARAM lParam) {
     const BOOL result = CKtUiDialogBar::OnCommand(wParam, lParam);
+    if (m_showing || m_drawing == nullptr) return result;
+    if (LOWORD(wParam) == IDC_LAYER_SEARCH && HIWORD(wParam) == EN_CHANGE) {
+        m_showing = true;
+        fillLayers();
+        m_showing = false;
+        return TRUE;
+    }
     const bool chosen = HIWORD(wParam) == CBN_SELENDOK || HIWORD(wParam) == CBN_CLOSEUP;
-    if (m_showing || !chosen || m_drawing == nullptr) return result;
-    const PropertyValues values = picked(LOWORD(wParam));
-    if (!values.color && !values.linetype && !values.lineWeight && !values.plotStyle) return result;
+    return chosen && write(picked(LOWORD(wParam)), nameOf(LOWORD(wParam))) ? TRUE : result;
+}
+
+bool CPickerBar::write(const PropertyValues& values, UINT name) {
+    if (!values.color && !values.linetype && !values.lineWeight && !values.plotStyle && !values.layer)
+        return false;
     WriteProperties(*m_drawing, m_objects, values);
-    m_changed(nameOf(LOWORD(wParam)));
-    return TRUE;
+    m_changed(name);
+    return true;
+}
+
+BOOL CPickerBar::PreTranslateMessage(MSG* message) {
+    const CWnd* focus = GetFocus();
+    const bool isSearching = focus != nullptr && (focus == &m_search || focus->GetParent() == &m_search);
+    if (isSearching && message->message == WM_KEYDOWN && searchByKey(static_cast<UINT>(message->wParam)))
+        return TRUE;
+    return CKtUiDialogBar::PreTranslateMessage(message);
+}
+
+/// Serves the keys that mean something for the search; false for one that the box or the bar takes.
+bool CPickerBar::searchByKey(UINT key) {
+    switch (key) {
+        case VK_ESCAPE:
+            m_search.ClearEditor();
+            GetParentFrame()->SetFocus();
+            return true;
+        case VK_DOWN:
+            m_layer.SetFocus();
+            m_layer.ShowDropDown(TRUE);
+            return true;
+        case VK_RETURN: {
+            PropertyValues values;
+            if (const auto first = firstFound()) values.layer = first;
+            if (values.layer == m_shown.layer) values.layer.reset();
+            m_search.ClearEditor();
+            if (m_drawing != nullptr) write(values, IDS_TIP_LAYER);
+            return true;
+        }
+        default: return false;
+    }
+}
+
+std::optional<OdString> CPickerBar::firstFound() {
+    if (m_search.IsEditEmpty() || m_drawing == nullptr) return {};
+    CString filter;
+    m_search.GetWindowText(filter);
+    const auto found = ListLayers(*m_drawing, OdString(filter));
+    if (found.empty()) return {};
+    return found.front().name;
 }

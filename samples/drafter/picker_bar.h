@@ -1,11 +1,13 @@
-// The picker bar: colour, linetype, lineweight and plot style of the selection, or of what is drawn next.
-// With different values in the selection a picker shows none.
+// The picker bar: colour, linetype, lineweight, plot style and layer of the selection, or of what is drawn
+// next. With different values in the selection a picker shows none. What is typed into the search box narrows
+// the list of layers; Enter takes the first of them, the down arrow drops the list, Escape empties the box.
 #pragma once
 
 #include <functional>
 
 #include <ktui/ktui.h>
 
+#include "layer_picker.h"
 #include "property_pickers.h"
 
 class CPickerBar : public CKtUiDialogBar {
@@ -16,6 +18,9 @@ public:
     explicit CPickerBar(std::function<void(UINT name)> changed) : m_changed(std::move(changed)) {}
 
     BOOL CreateBar(CWnd* frame);
+    /// Puts the focus into the search box.
+    void SearchLayers() { m_search.SetFocus(); }
+    BOOL PreTranslateMessage(MSG* message) override;
     /// Shows the values of `objects`, or the current settings without objects. Another drawing's lists are
     /// filled anew.
     void Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects);
@@ -28,6 +33,12 @@ private:
     void addTips();
     static UINT nameOf(UINT id);
     void fillLists();
+    void fillLayers();
+    bool searchByKey(UINT key);
+    /// The first layer that is found by what the search box holds; nothing without one.
+    std::optional<OdString> firstFound();
+    /// Writes what was picked; false if that is nothing.
+    bool write(const PropertyValues& values, UINT name);
     void showPlotStyle(const std::optional<OdString>& name);
     std::optional<OdString> pickedPlotStyle();
     /// What was picked in the picker with `id` and differs from what it showed.
@@ -42,4 +53,6 @@ private:
     CLayerLineTypePicker m_linetype;
     CLineWeightPicker m_lineWeight;
     CKtUiPlotStyleNamesComboBox m_plotStyle;
+    CLayerPicker m_layer;
+    CKbUiSearchBox m_search;
 };

@@ -2,6 +2,8 @@
 
 #include <ktut.h>
 
+#include "measurement.h"
+#include "object_kinds.h"
 #include "resource.h"
 #include "unit_texts.h"
 
@@ -34,14 +36,17 @@ BEGIN_MESSAGE_MAP(CPropertiesDialog, CFieldsDialog)
     ON_CBN_SELENDOK(IDC_TRUE_COLOR, &CPropertiesDialog::OnTrueColor)
     ON_CBN_CLOSEUP(IDC_INDEX_COLOR, &CPropertiesDialog::OnIndexColor)
     ON_CBN_SELENDOK(IDC_INDEX_COLOR, &CPropertiesDialog::OnIndexColor)
+    ON_BN_CLICKED(IDC_PICK_ROTATION, &CPropertiesDialog::OnPickRotation)
+    ON_BN_CLICKED(IDC_SELECT_OBJECTS, &CPropertiesDialog::OnSelectObjects)
 END_MESSAGE_MAP()
 
-CPropertiesDialog::CPropertiesDialog(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects, CWnd* parent)
+CPropertiesDialog::CPropertiesDialog(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects, CWnd* parent,
+                                     CDrawingPicker* picker)
     : CFieldsDialog(IDD_PROPERTIES, L"Properties", parent),
       m_drawing(drawing),
-      m_objects(std::move(objects)) {
+      m_objects(std::move(objects)),
+      m_picker(picker) {
     AddField(IDC_LINETYPE_SCALE, m_linetypeScale, IDS_BAD_LINETYPE_SCALE);
-    AddField(IDC_LAYER, m_layer, IDS_BAD_LAYER);
     AddField(IDC_HYPERLINK, m_hyperlink, IDS_BAD_HYPERLINK);
     AddField(IDC_ELEVATION, m_elevation, IDS_BAD_ELEVATION, FormatDistance(12.5));
     AddField(IDC_THICKNESS, m_thickness, IDS_BAD_THICKNESS, FormatDistance(kLargestThickness));
@@ -51,6 +56,7 @@ CPropertiesDialog::CPropertiesDialog(OdDbDatabase& drawing, std::vector<OdDbObje
 void CPropertiesDialog::DoDataExchange(CDataExchange* exchange) {
     CFieldsDialog::DoDataExchange(exchange);
     m_pickers.Exchange(exchange);
+    DDX_Control(exchange, IDC_LAYER, m_layer);
     DDX_Control(exchange, IDC_LAYER_LIST, m_layers);
 }
 
@@ -58,11 +64,11 @@ BOOL CPropertiesDialog::OnInitDialog() {
     const BOOL result = CFieldsDialog::OnInitDialog();
     showTitle();
     m_linetypeScale.SetStyleMask(kKtUiEditNoNegative | kKtUiEditNoZero);
-    m_layer.SetStyleMask(kKtUiEditNoBlank);
     m_elevation.SetStyleMask(kKtUiEditValidateOnKillFocus);
     m_thickness.SetStyleMask(kKtUiEditValidateOnKillFocus | kKtUiEditNoNegative);
     m_thickness.SetRange(0, kLargestThickness);
     m_rotation.SetStyleMask(kKtUiEditValidateOnKillFocus);
+    attachPickButtons();
     fillFields();
     fillLayers();
     registerResizing();
@@ -73,10 +79,8 @@ void CPropertiesDialog::showTitle() {
     CString title;
     if (m_objects.empty())
         title.LoadString(IDS_TITLE_CURRENT);
-    else if (m_objects.size() == 1)
-        title.LoadString(IDS_TITLE_OBJECT);
     else
-        title.Format(IDS_TITLE_OBJECTS, static_cast<int>(m_objects.size()));
+        title.Format(IDS_TITLE_OBJECTS, DescribeObjects(m_objects).GetString());
     SetWindowText(title);
 }
 
@@ -91,9 +95,15 @@ void CPropertiesDialog::fillFields() {
     const PropertyValues values = ReadProperties(m_drawing, m_objects);
     m_pickers.Show(m_drawing, values);
     m_rotation.EnableWindow(values.hasRotation);
+    GetDlgItem(IDC_PICK_ROTATION)->EnableWindow(values.hasRotation && m_picker != nullptr);
     m_hyperlink.EnableWindow(values.hasHyperlink);
     fillField(IDC_LINETYPE_SCALE, shown(values.linetypeScale, FormatNumber));
-    fillField(IDC_LAYER, shown(values.layer));
+    m_layer.Fill(m_drawing);
+    if (values.layer)
+        m_layer.Show(*values.layer);
+    else
+        m_layer.ShowVaries();
+    m_shownLayer = values.layer;
     fillField(IDC_HYPERLINK, shown(values.hyperlink));
     fillField(IDC_ELEVATION, shown(values.elevation, FormatDistance));
     fillField(IDC_THICKNESS, shown(values.thickness, FormatDistance));
@@ -137,16 +147,48 @@ void CPropertiesDialog::registerResizing() {
     ResizeRow(IDC_LINETYPE, IDC_WEIGHT_LABEL, IDC_LINE_WEIGHT);
     ResizeRow(IDC_PLOT_STYLE, IDC_SCALE_LABEL, IDC_LINETYPE_SCALE);
     ResizeRow(IDC_ELEVATION, IDC_THICKNESS_LABEL, IDC_THICKNESS);
-    ResizeRow(IDC_ROTATION, 0, 0);
+    ResizeRow(IDC_ROTATION, IDC_PICK_ROTATION, 0);
+    ResizeRow(0, IDC_OBJECTS_LABEL, 0);
+    ResizeRow(0, IDC_SELECT_OBJECTS, 0);
     StretchControlXY(IDC_LAYER_LIST, 100, 100);
     ResizeFrame({IDC_GROUP_GENERAL, IDC_GROUP_GEOMETRY, IDC_LAYER, IDC_HYPERLINK});
+}
+
+void CPropertiesDialog::attachPickButtons() {
+    m_pickRotation.SubclassDlgItem(IDC_PICK_ROTATION, this);
+    m_pickRotation.AutoLoad();
+    m_selectObjects.SubclassDlgItem(IDC_SELECT_OBJECTS, this);
+    m_selectObjects.AutoLoad();
+    m_selectObjects.EnableWindow(m_picker != nullptr);
+}
+
+void CPropertiesDialog::OnPickRotation() {
+    if (m_picker == nullptr) return;
+    BeginEditorCommand();
+    m_picker->PickPlaces(2, IDS_PICK_FROM, [this](const std::vector<OdGePoint2d>& places) {
+        CompleteEditorCommand(TRUE);
+        if (places.size() < 2) return;
+        m_rotation.SetWindowText(FormatAngle(MeasureLine(places[0], places[1]).direction));
+    });
+}
+
+void CPropertiesDialog::OnSelectObjects() {
+    if (m_picker == nullptr) return;
+    BeginEditorCommand();
+    m_picker->PickObjects(IDS_PICK_OBJECTS, [this](const std::set<OdDbObjectId>* objects) {
+        CompleteEditorCommand(TRUE);
+        if (objects == nullptr) return;
+        m_objects.assign(objects->begin(), objects->end());
+        showTitle();
+        fillFields();
+    });
 }
 
 void CPropertiesDialog::Apply() {
     PropertyValues values;
     m_pickers.Collect(values);
     values.linetypeScale = EditedDistance(IDC_LINETYPE_SCALE);
-    if (IsEdited(IDC_LAYER)) values.layer = OdString(FieldText(IDC_LAYER));
+    if (const auto layer = m_layer.Picked(); layer && layer != m_shownLayer) values.layer = layer;
     if (IsEdited(IDC_HYPERLINK)) values.hyperlink = OdString(FieldText(IDC_HYPERLINK));
     values.elevation = EditedDistance(IDC_ELEVATION);
     values.thickness = EditedDistance(IDC_THICKNESS);

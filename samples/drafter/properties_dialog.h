@@ -5,15 +5,19 @@
 // values.
 #pragma once
 
+#include "drawing_picker.h"
 #include "fields_dialog.h"
+#include "layer_picker.h"
 #include "property_pickers.h"
 
 class CPropertiesDialog : public CFieldsDialog {
     DECLARE_DYNAMIC(CPropertiesDialog)
 
 public:
-    /// Edits `objects` of `drawing`; without objects the current settings.
-    CPropertiesDialog(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects, CWnd* parent);
+    /// Edits `objects` of `drawing`; without objects the current settings. `picker` lets the user pick a
+    /// rotation, or other objects to edit; without one there are no buttons for it.
+    CPropertiesDialog(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects, CWnd* parent,
+                      CDrawingPicker* picker = nullptr);
 
 protected:
     BOOL OnInitDialog() override;
@@ -22,6 +26,8 @@ protected:
 
     afx_msg void OnTrueColor() { m_pickers.OnTrueColor(); }
     afx_msg void OnIndexColor() { m_pickers.OnIndexColor(); }
+    afx_msg void OnPickRotation();
+    afx_msg void OnSelectObjects();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -30,12 +36,17 @@ private:
     void fillField(unsigned id, const std::optional<CString>& text);
     void fillLayers();
     void registerResizing();
+    void attachPickButtons();
 
     OdDbDatabase& m_drawing;
     std::vector<OdDbObjectId> m_objects;
+    CDrawingPicker* m_picker;
+    CKtUiPickButton m_pickRotation;
+    CKtUiSelectButton m_selectObjects;
     CPropertyPickers m_pickers;
     CReportingEdit<CKtUiNumericEdit> m_linetypeScale;
-    CReportingEdit<CKtUiSymbolEdit> m_layer;
+    CLayerPicker m_layer;
+    std::optional<OdString> m_shownLayer;  ///< nothing while it varies
     CReportingEdit<CKtUiStringEdit> m_hyperlink;
     CReportingEdit<CKtUiNumericEdit> m_elevation;
     CReportingEdit<CKtUiNumericEdit> m_thickness;

@@ -1,5 +1,7 @@
 #include "property_values.h"
 
+#include "layer_list.h"
+
 namespace {
 
 /// Keeps a value while all objects agree on it.
@@ -51,17 +53,6 @@ PropertyValues readCurrent(OdDbDatabase& drawing) {
     return values;
 }
 
-OdDbObjectId layerNamed(OdDbDatabase& drawing, const OdString& name) {
-    OdDbLayerTablePtr table;
-    drawing.getLayerTable(table, OdDb::kForWrite);
-    OdDbObjectId id = table->getAt(name);
-    if (!id.isNull()) return id;
-    const OdDbSymbolTableRecordPtr layer = table->newRecord();
-    layer->setName(name);
-    table->add(layer, &id);
-    return id;
-}
-
 /// Makes the plot style known to the drawing; the two that stand for another's need no entry.
 void needPlotStyle(OdDbDatabase& drawing, const OdString& name) {
     OdDbDictionaryPtr names;
@@ -76,7 +67,7 @@ void writeCurrent(OdDbDatabase& drawing, const PropertyValues& values) {
     if (values.linetypeScale) drawing.setCELTSCALE(*values.linetypeScale);
     if (values.lineWeight) drawing.setCelweight(*values.lineWeight);
     if (values.plotStyle) drawing.setCurrentPlotStyleName(*values.plotStyle);
-    if (values.layer) drawing.setClayer(layerNamed(drawing, *values.layer));
+    if (values.layer) drawing.setClayer(NeedLayer(drawing, *values.layer));
     if (values.elevation) drawing.setELEVATION(*values.elevation);
     if (values.thickness) drawing.setTHICKNESS(*values.thickness);
 }
@@ -126,7 +117,7 @@ void WriteProperties(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& obj
         writeCurrent(drawing, values);
         return;
     }
-    const OdDbObjectId layer = values.layer ? layerNamed(drawing, *values.layer) : OdDbObjectId();
+    const OdDbObjectId layer = values.layer ? NeedLayer(drawing, *values.layer) : OdDbObjectId();
     for (const OdDbObjectId& id : objects) {
         const auto entity = id.open<OdDbEntity>(OdDb::kForWrite);
         if (!entity) continue;

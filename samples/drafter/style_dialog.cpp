@@ -61,7 +61,7 @@ void CStyleDialog::OnStylesCancelled() {
 void CStyleDialog::OnNewStyle() {
     if (RefuseInvalid()) return;
     KeepStyle(m_current);
-    CNameDialog dialog(StyleNames(), this);
+    CNameDialog dialog(StyleNames(), this, {IDS_NEW_STYLE_TITLE, IDS_TAKEN_STYLE_NAME});
     if (dialog.DoModal() != IDOK) return;
     CopyStyle(m_current, dialog.name());
     ListStyles(dialog.name());

@@ -206,14 +206,8 @@ void Drafter::hover(HWND window, POINT client) {
 }
 
 void Drafter::click(HWND window, POINT client) {
-    // Two clicks in quick succession would be a double click.
-    const ULONGLONG quiet = m_lastClick + ::GetDoubleClickTime() + kPoll, now = ::GetTickCount64();
-    if (now < quiet) ::Sleep(static_cast<DWORD>(quiet - now));
-    m_lastClick = ::GetTickCount64();
-    hover(window, client);
+    press(window, client);
     ::ClientToScreen(window, &client);
-    sendMouse(client, MOUSEEVENTF_LEFTDOWN);
-    ::Sleep(kPoll);
     sendMouse(client, MOUSEEVENTF_LEFTUP);
     settle(window);
 }
@@ -222,6 +216,34 @@ void Drafter::click(HWND window) {
     RECT client = {};
     ::GetClientRect(window, &client);
     click(window, {client.right / 2, client.bottom / 2});
+}
+
+void Drafter::press(HWND window, POINT client) {
+    // Two clicks in quick succession would be a double click.
+    const ULONGLONG quiet = m_lastClick + ::GetDoubleClickTime() + kPoll, now = ::GetTickCount64();
+    if (now < quiet) ::Sleep(static_cast<DWORD>(quiet - now));
+    m_lastClick = ::GetTickCount64();
+    hover(window, client);
+    ::ClientToScreen(window, &client);
+    sendMouse(client, MOUSEEVENTF_LEFTDOWN);
+    settle(window);
+}
+
+void Drafter::release() {
+    POINT at = {};
+    ::GetCursorPos(&at);
+    sendMouse(at, MOUSEEVENTF_LEFTUP);
+    settle(m_frame);
+}
+
+void Drafter::drag(HWND window, POINT from, POINT to, bool shift) {
+    press(window, from);
+    hover(window, to);
+    // Moves of the pointer bring the keyboard's own state back, so the key comes last.
+    if (shift) sendKey(VK_SHIFT, false);
+    release();
+    if (shift) sendKey(VK_SHIFT, true);
+    settle(window);
 }
 
 void Drafter::replaceText(HWND control, const std::wstring& text) {

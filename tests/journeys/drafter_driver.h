@@ -41,6 +41,11 @@ public:
     /// Clicks with the left button at a client point of `window`, or at its middle.
     void click(HWND window, POINT client);
     void click(HWND window);
+    /// Draws with the left button held from one client point of `window` to the other.
+    void drag(HWND window, POINT from, POINT to, bool shift = false);
+    /// Presses the left button at a client point of `window`, and lets it go where the pointer is.
+    void press(HWND window, POINT client);
+    void release();
     /// Moves the pointer to a client point of `window`.
     void hover(HWND window, POINT client);
     /// Gives the control the focus by a click and replaces its text.

@@ -61,6 +61,27 @@ TEST_F(PickerBarJourney, ByKeysItSetsWhatNewObjectsGet) {
     EXPECT_EQ(firstOf(*drawing)->lineWeight(), OdDb::kLnWtByLayer);
 }
 
+TEST_F(PickerBarJourney, ByKeysALayerIsSearchedForAndTaken) {
+    drafter->activate(drafter->frame());
+    drafter->key('L', true);
+    HWND layers = drafter->waitForDialog(L"Layers");
+    ASSERT_NE(layers, nullptr);
+    drafter->key('N', false, true);
+    drafter->type(L"facade");
+    drafter->key(VK_RETURN);
+    drafter->key(VK_ESCAPE);
+    ASSERT_TRUE(drafter->waitUntilGone(layers));
+    selectAll();
+    drafter->key('F', true);
+    drafter->type(L"FAC");
+    picture("journey-search-box");
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(waitUntil([&] { return shown(picker(IDC_LAYER)) == L"facade"; }));
+    picture("journey-search-taken");
+    const OdDbDatabasePtr drawing = saved();
+    for (const OdDbEntity* each : entitiesOf(*drawing)) EXPECT_EQ(each->layer(), L"facade");
+}
+
 TEST_F(PickerBarJourney, TheMenuHidesItAndTheViewTakesTheRoom) {
     const RECT before = rectOf(drafter->view());
     drafter->activate(drafter->frame());

@@ -54,18 +54,25 @@ TEST_F(Properties, ABadValueIsMarkedOkRefusesAndTheFocusGoesThere) {
     EXPECT_DOUBLE_EQ(firstOf(*saved())->thickness(), 4);
 }
 
-TEST_F(Properties, LettersInANumberAndAnIllegalLayerNameAreRefused) {
+TEST_F(Properties, LettersInANumberAndAnIllegalNameOfANewLayerAreRefused) {
     HWND dialog = openOnAll();
     ASSERT_NE(dialog, nullptr);
     drafter->replaceText(item(dialog, IDC_ELEVATION), L"abc");
     drafter->click(item(dialog, IDOK));
     EXPECT_TRUE(::IsWindowVisible(dialog));
     drafter->replaceText(item(dialog, IDC_ELEVATION), L"1");
-    drafter->replaceText(item(dialog, IDC_LAYER), L"a<b");
-    drafter->click(item(dialog, IDOK));
-    EXPECT_TRUE(::IsWindowVisible(dialog));
-    EXPECT_NE(textOf(item(dialog, IDC_MESSAGE)), L"");
-    drafter->replaceText(item(dialog, IDC_LAYER), L"Journey");
+    drafter->pickLast(item(dialog, IDC_LAYER));
+    HWND name = drafter->waitForDialog(L"New Layer");
+    ASSERT_NE(name, nullptr);
+    drafter->replaceText(item(name, IDC_STYLE_NAME), L"a<b");
+    drafter->click(item(name, IDOK));
+    EXPECT_TRUE(::IsWindowVisible(name));
+    EXPECT_NE(textOf(item(name, IDC_MESSAGE)), L"");
+    drafter->replaceText(item(name, IDC_STYLE_NAME), L"Journey");
+    picture("journey-new-layer");
+    ok(name);
+    EXPECT_EQ(currentEntry(item(dialog, IDC_LAYER)), L"Journey");
+    picture("journey-layer-picked");
     ok(dialog);
     EXPECT_EQ(firstOf(*saved())->layer(), L"Journey");
 }

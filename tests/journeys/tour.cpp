@@ -57,8 +57,13 @@ int run(const std::wstring& source) {
     tell("properties", L"Opened " + textOf(dialog));
     enter(drafter, dialog, IDC_THICKNESS, L"Thickness", "invalid", L"-3");
     enter(drafter, dialog, IDC_THICKNESS, L"Thickness", "thickness", L"2.50000001");
-    enter(drafter, dialog, IDC_LAYER, L"Layer", "layer-invalid", L"walls|old?");
-    enter(drafter, dialog, IDC_LAYER, L"Layer", "layer", L"Tour");
+    drafter.pickLast(item(dialog, IDC_LAYER));
+    HWND layer = drafter.waitForDialog(L"New Layer");
+    enter(drafter, layer, IDC_STYLE_NAME, L"New layer", "layer-invalid", L"walls|old?");
+    enter(drafter, layer, IDC_STYLE_NAME, L"New layer", "layer", L"Tour");
+    drafter.key(VK_RETURN);
+    drafter.waitUntilGone(layer);
+    tell("layer-picked", L"The layer is " + currentEntry(item(dialog, IDC_LAYER)));
     HWND color = item(dialog, IDC_TRUE_COLOR);
     drafter.drop(color);
     tell("color-list", L"Dropped the colour list: " + std::to_wstring(entryCount(color)) + L" entries");

@@ -82,7 +82,8 @@ TEST_F(FieldMessages, PuttingTheFormerTextBackIsNoMistake) {
 }
 
 TEST_F(DrafterTest, ATakenNameIsToldUntilItIsChanged) {
-    WithOwnSettings<CNameDialog> dialog(std::vector<OdString>{L"Taken"}, &parent);
+    WithOwnSettings<CNameDialog> dialog(std::vector<OdString>{L"Taken"}, &parent,
+                                        CNameDialog::Words{IDS_NEW_STYLE_TITLE, IDS_TAKEN_STYLE_NAME});
     show(dialog, [&] {
         item(dialog, IDC_STYLE_NAME).SendMessage(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"taken"));
         dialog.SendMessage(WM_COMMAND, IDOK);

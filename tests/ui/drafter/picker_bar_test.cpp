@@ -1,5 +1,7 @@
 // The picker bar: the selection's values, what it changes, and its tips.
 #include "../../../samples/drafter/picker_bar.h"
+
+#include "../../../samples/drafter/layer_list.h"
 #include "drafter_fixture.h"
 
 namespace {
@@ -144,14 +146,73 @@ TEST_F(PickerBar, LinetypesThatAreLoadedLaterAreOffered) {
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(PickerBar, TheLayerIsThatOfTheSelectionAndIsSet) {
+    NeedLayer(*drawing, L"walls");
+    const OdDbObjectId doors = NeedLayer(*drawing, L"doors");
+    lines[1].open<OdDbEntity>(OdDb::kForWrite)->setLayer(doors);
+    bar.Show(*drawing, {lines[1]});
+    EXPECT_EQ(shown(IDC_LAYER), L"doors");
+    bar.Show(*drawing, {lines[0], lines[1]});
+    EXPECT_EQ(shown(IDC_LAYER), L"none");
+    take(IDC_LAYER, L"walls");
+    EXPECT_EQ(lines[0].open<OdDbEntity>()->layer(), L"walls");
+    EXPECT_EQ(lines[1].open<OdDbEntity>()->layer(), L"walls");
+    EXPECT_EQ(changed, UINT{IDS_TIP_LAYER});
+    bar.Show(*drawing, {});
+    EXPECT_EQ(shown(IDC_LAYER), L"0");
+    take(IDC_LAYER, L"doors");
+    EXPECT_EQ(drawing->clayer(), doors);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(PickerBar, TheSearchBoxNarrowsTheLayersAndEnterTakesTheFirst) {
+    for (const wchar_t* name : {L"walls", L"outer walls", L"doors"}) NeedLayer(*drawing, name);
+    bar.Show(*drawing, {lines[0]});
+    CWnd& layers = *bar.GetDlgItem(IDC_LAYER);
+    const auto count = [&] { return layers.SendMessage(CB_GETCOUNT); };
+    const LRESULT all = count();
+    bar.SearchLayers();
+    pump();
+    CWnd* const editor = CWnd::GetFocus();
+    ASSERT_NE(editor, nullptr);
+    editor->SetWindowText(L"WALL");
+    pump();
+    EXPECT_EQ(count(), all - 1) << "two are left, and the one that is shown";
+    EXPECT_EQ(shown(IDC_LAYER), L"0");
+    EXPECT_EQ(changes, 0) << "searching changes nothing";
+    MSG enter = {editor->m_hWnd, WM_KEYDOWN, VK_RETURN, 1, ::GetTickCount(), {}};
+    EXPECT_TRUE(bar.PreTranslateMessage(&enter));
+    EXPECT_EQ(lines[0].open<OdDbEntity>()->layer(), L"outer walls");
+    EXPECT_EQ(changes, 1);
+    bar.Show(*drawing, {lines[0]});
+    EXPECT_EQ(count(), all) << "the box is empty again";
+}
+
+TEST_F(PickerBar, EscapeInTheSearchBoxGivesUp) {
+    NeedLayer(*drawing, L"walls");
+    bar.Show(*drawing, {lines[0]});
+    CWnd& layers = *bar.GetDlgItem(IDC_LAYER);
+    const LRESULT all = layers.SendMessage(CB_GETCOUNT);
+    bar.SearchLayers();
+    pump();
+    CWnd* const editor = CWnd::GetFocus();
+    editor->SetWindowText(L"zzz");
+    pump();
+    MSG escape = {editor->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, ::GetTickCount(), {}};
+    EXPECT_TRUE(bar.PreTranslateMessage(&escape));
+    pump();
+    EXPECT_EQ(layers.SendMessage(CB_GETCOUNT), all);
+    EXPECT_EQ(changes, 0);
+}
+
 TEST_F(PickerBar, EachPickerHasATip) {
     std::vector<CString> texts;
-    for (const int id : {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE}) {
+    for (const int id : {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE, IDC_LAYER}) {
         CString text;
         bar.m_toolTip->GetText(text, bar.GetDlgItem(id));
         texts.push_back(text);
     }
-    EXPECT_EQ(texts, (std::vector<CString>{L"Color", L"Linetype", L"Lineweight", L"Plot style"}));
+    EXPECT_EQ(texts, (std::vector<CString>{L"Color", L"Linetype", L"Lineweight", L"Plot style", L"Layer"}));
 }
 
 TEST_F(PickerBar, ATipComesUpOverAPicker) {

@@ -74,6 +74,8 @@ protected:
         const std::wstring kind = name;
         const CString text = text_of(control);
         if (text.IsEmpty() || (kind != L"Static" && kind != L"Button")) return;
+        // The name of a picture, which is not drawn.
+        if (text[0] == L'|') return;
         RECT client;
         ::GetClientRect(control, &client);
         const HDC dc = ::GetDC(control);
@@ -92,9 +94,21 @@ protected:
 };
 
 TEST_P(Resolutions, TextsOfTheDrafterAreWhole) {
-    for (const int id :
-         {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME, IDD_BLOCK_CHOICE})
+    for (const int id : {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME,
+                         IDD_BLOCK_CHOICE, IDD_LAYERS, IDD_MEASURE})
         expectWhole(::GetModuleHandleW(nullptr), id);
+}
+
+TEST_P(Resolutions, WhyALayerIsKeptIsReadToItsEnd) {
+    const wchar_t* const name = L"ARCH-WALLS-EXTERIOR-INSULATION";
+    CString text;
+    for (const UINT id :
+         {IDS_TAKEN_LAYER, IDS_FIXED_LAYER, IDS_KEEP_STANDARD, IDS_KEEP_DEPENDENT, IDS_KEEP_CURRENT,
+          IDS_KEEP_OBJECT, IDS_KEEP_OBJECTS, IDS_KEEP_BLOCK, IDS_KEEP_NAMED}) {
+        text.Format(textOf(id), name, 1234, L"WINDOW-DOUBLE");
+        expectFits(IDD_LAYERS, IDC_MESSAGE, text);
+    }
+    expectFits(IDD_LAYERS, IDC_MESSAGE, textOf(IDS_BAD_LAYER));
 }
 
 TEST_P(Resolutions, TextsOfTheOptionsAreWhole) {

@@ -151,7 +151,7 @@ TEST_F(Varies, OneObjectIsOne) {
     objects.resize(1);
     WithOwnSettings<CPropertiesDialog> one(*drawing, objects, &parent);
     show(one, [&] {
-        EXPECT_STREQ(text_of(one.m_hWnd), L"Properties - 1 object");
+        EXPECT_STREQ(text_of(one.m_hWnd), L"Properties - Line");
         EXPECT_EQ(
             item(one, IDC_LINE_WEIGHT)
                 .SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(kVaries)),
