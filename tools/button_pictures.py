@@ -86,6 +86,19 @@ def pick_set(size):
     return picture.rows
 
 
+def drop_layers(size):
+    """A stack of two sheets, and an arrow that comes down on it."""
+    picture = Picture(size, 16)
+    for top, fill in ((9, ORANGE), (6.6, FILL)):
+        sheet = ((8, top - 2.4), (14, top + 1.4), (8, top + 5.2), (2, top + 1.4))
+        picture.shape(lambda x, y, sheet=sheet: inside(x, y, sheet), fill, EDGE)
+    picture.box(7, 1, 9, 5, BLUE)
+    arrow = ((4.6, 4.6), (11.4, 4.6), (8, 8.4))
+    for x, y in picture.covered(lambda px, py: inside(px, py, arrow)):
+        picture.put(x, y, BLUE)
+    return picture.rows
+
+
 def warning(size):
     """A triangle with an exclamation mark."""
     picture = Picture(size, 32)

@@ -10,6 +10,7 @@ import button_pictures
 import picker_strips
 
 RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
+DRAFTER = pathlib.Path(__file__).resolve().parent.parent / "samples" / "drafter" / "res"
 MASK = (255, 0, 255)
 LARGER_SIZES = (20, 24, 32)  # pixels, for 125, 150 and 200 %
 LARGER_PERCENTS = (125, 150, 200)
@@ -187,11 +188,11 @@ def keyed_icon(rows):
     return [[CLEAR if pixel == button_pictures.KEY else pixel + (255,) for pixel in row] for row in rows]
 
 
-def write_button_picture(name, draw, size):
+def write_button_picture(name, draw, size, folder=RES):
     """The picture at its agreed size, and at those for larger resolutions."""
-    write_bmp(RES / f"{name}.bmp", draw(size))
+    write_bmp(folder / f"{name}.bmp", draw(size))
     for percent in LARGER_PERCENTS:
-        write_bmp(RES / f"{name}_{percent}.bmp", draw(size * percent // 100))
+        write_bmp(folder / f"{name}_{percent}.bmp", draw(size * percent // 100))
 
 
 def main():
@@ -210,6 +211,8 @@ def main():
     write_ico(RES / "shape_font.ico", [shape_font_icon()] + [larger_shape_font_icon(size) for size in LARGER_SIZES])
     write_button_picture("pick", button_pictures.pick, 16)
     write_button_picture("pick_set", button_pictures.pick_set, 16)
+    DRAFTER.mkdir(exist_ok=True)
+    write_button_picture("drop_layers", button_pictures.drop_layers, 16, DRAFTER)
     write_button_picture("warning", button_pictures.warning, 32)
     for name, draw in (("search", button_pictures.search), ("clear", button_pictures.clear)):
         write_mono_bmp(RES / f"{name}.bmp", draw(16))

@@ -13,7 +13,9 @@ CString AskFileName(CWnd& owner, const FileQuestion& question) {
     request.lStructSize = sizeof(request);
     request.hwndOwner = owner.m_hWnd;
     request.lpstrFilter = filter;
+    ::lstrcpynW(path, question.name, MAX_PATH);
     request.lpstrFile = path;
+    if (!question.folder.IsEmpty()) request.lpstrInitialDir = question.folder;
     request.nMaxFile = MAX_PATH;
     request.lpstrDefExt = question.extension;
     request.Flags =

@@ -8,6 +8,8 @@ struct FileQuestion {
     UINT filter;               ///< string with the kinds of file, parted by |
     const wchar_t* extension;  ///< put behind a name without one; null for none
     bool isForSaving = false;
+    CString name = CString();    ///< proposed at first
+    CString folder = CString();  ///< shown at first; empty for the system's choice
 };
 
 /// Asks in front of `owner` for a file to open, which is there, or to save to; its whole path, or an empty

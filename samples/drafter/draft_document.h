@@ -8,6 +8,7 @@
 #include <kh_system.h>
 #include <od_db.h>
 
+#include "drawing_lock.h"
 #include "undo_history.h"
 
 class CDraftDocument final : public KtApDocument, private CKhVariableStore {
@@ -29,6 +30,12 @@ public:
     /// Whether the drawing's file was written by others since it was opened or saved.
     bool IsFileNewer() const;
 
+    /// The lock of the drawing's file.
+    CDrawingLock& lock() { return m_lock; }
+    /// Whether another program has the file, so that it must not be written.
+    bool IsReadOnly() const { return m_isReadOnly; }
+    void SetReadOnly(bool readOnly) { m_isReadOnly = readOnly; }
+
     /// Full path of the file, empty for a new drawing.
     OdString path() const { return m_isNew ? OdString() : m_drawing->getFilename(); }
     /// Name to show for the drawing, empty for a new one.
@@ -43,6 +50,8 @@ private:
     OdDbDatabasePtr m_drawing;
     std::unique_ptr<CUndoHistory> m_history;
     unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
-    bool m_isNew = false;              ///< the file that the drawing was read from is its template
+    CDrawingLock m_lock;
+    bool m_isReadOnly = false;
+    bool m_isNew = false;  ///< the file that the drawing was read from is its template
     std::map<std::wstring, int> m_numbers;
 };

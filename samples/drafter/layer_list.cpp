@@ -29,6 +29,21 @@ bool isGoodName(const OdString& name) {
            std::none_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
 }
 
+/// The linetype of `drawing` with the name of another drawing's, which is copied if it is missing.
+OdDbObjectId needLinetype(OdDbDatabase& drawing, const OdDbObjectId& other) {
+    const auto source = other.open<OdDbLinetypeTableRecord>();
+    OdDbLinetypeTablePtr table;
+    drawing.getLinetypeTable(table);
+    OdDbObjectId id = source ? table->getAt(source->getName()) : table->getAt(L"Continuous");
+    if (!id.isNull()) return id;
+    OdDbLinetypeTableRecordPtr copy(new OdDbLinetypeTableRecord);
+    copy->setName(source->getName());
+    copy->setComments(source->comments());
+    copy->setDashes(source->dashes());
+    table->add(OdDbSymbolTableRecordPtr(copy.get()), &id);
+    return id;
+}
+
 LayerNeed needOf(const OdDbLayerUse& use) {
     if (use.isStandard) return LayerNeed::kIsStandard;
     if (use.isDependent) return LayerNeed::kIsDependent;
@@ -100,6 +115,19 @@ void ChangeLayers(const std::vector<OdDbObjectId>& layers, const LayerChange& ch
         if (change.linetype) layer->setLinetypeObjectId(*change.linetype);
         if (change.lineWeight) layer->setLineWeight(*change.lineWeight);
     }
+}
+
+int TakeLayers(OdDbDatabase& drawing, OdDbDatabase& from) {
+    const std::vector<LayerRow> rows = ListLayers(from);
+    for (const LayerRow& row : rows) {
+        LayerChange change;
+        change.isOn = row.isOn;
+        change.color = row.color;
+        change.lineWeight = row.lineWeight;
+        change.linetype = needLinetype(drawing, row.linetype);
+        ChangeLayers({NeedLayer(drawing, row.name)}, change);
+    }
+    return static_cast<int>(rows.size());
 }
 
 LayerRefusal DeleteLayers(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& layers) {

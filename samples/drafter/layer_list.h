@@ -45,6 +45,10 @@ struct LayerChange {
 };
 void ChangeLayers(const std::vector<OdDbObjectId>& layers, const LayerChange& change);
 
+/// Gives the layers of `drawing` the settings that layers of the same names have in `from`, and makes those
+/// that it lacks, with linetypes that it lacks. Answers how many layers `from` has.
+int TakeLayers(OdDbDatabase& drawing, OdDbDatabase& from);
+
 /// Why a layer can't be deleted.
 enum class LayerNeed { kNone, kIsStandard, kIsDependent, kIsCurrent, kHasObjects, kIsInBlock, kIsNamed };
 struct LayerRefusal {

@@ -48,6 +48,9 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
+    ON_COMMAND_RANGE(ID_RECENT_FILE, ID_RECENT_FILE + 8, &CMainFrame::OnRecentFile)
+    ON_UPDATE_COMMAND_UI(ID_RECENT_FILE, &CMainFrame::OnUpdateRecent)
+    ON_WM_DROPFILES()
     ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnUndo)
     ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnRedo)
     ON_COMMAND(ID_EDIT_SELECT_ALL, &CMainFrame::OnSelectAll)
@@ -97,6 +100,8 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     // A drawing keeps its own units, also the one that is there at the start.
     m_options.units = UnitsOf(*m_document->database());
     useOptions(m_options);
+    loadRecent();
+    DragAcceptFiles();
     showDrawing(false);
     return 0;
 }
@@ -163,24 +168,6 @@ LRESULT CMainFrame::OnPointer(WPARAM, LPARAM) {
     return 0;
 }
 
-bool CMainFrame::OpenDrawing(const CString& path) {
-    auto document = std::make_unique<CDraftDocument>();
-    OdDbDxfError error;
-    if (!document->Open(path, error)) {
-        TellUnreadable(*this, path, error, shownName());
-        return false;
-    }
-    showDocument(std::move(document));
-    return true;
-}
-
-void CMainFrame::showDocument(std::unique_ptr<CDraftDocument> document) {
-    m_host.SetCurrentDocument(document.get());
-    m_view.SetScene({}, false);
-    m_document = std::move(document);
-    showDrawing(false);
-}
-
 void CMainFrame::showDrawing(bool keepPlace) {
     OdDbDatabase& drawing = *m_document->database();
     m_view.SetScene(BuildScene(drawing, drawing.currentSpaceId()), keepPlace);
@@ -196,69 +183,9 @@ CString CMainFrame::shownName() const {
 }
 
 void CMainFrame::showTitle() {
-    SetWindowText(shownName() + (m_document->database()->isModified() ? L"* - " : L" - ") + GetTitle());
-}
-
-bool CMainFrame::saveTo(const CString& path) {
-    if (m_document->Save(path)) {
-        showTitle();
-        return true;
-    }
-    const CString reason = WhyNotWritable(path);
-    CString text;
-    if (reason.IsEmpty())
-        text.Format(IDS_WRITE_FAILED, path.GetString());
-    else
-        text.Format(IDS_WRITE_REFUSED, path.GetString(), reason.GetString());
-    KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION);
-    return false;
-}
-
-bool CMainFrame::mayDiscard() {
-    if (!m_document->database()->isModified()) return true;
-    switch (AskUnsavedChanges(*this, shownName())) {
-        case UnsavedChoice::kCancel: return false;
-        case UnsavedChoice::kDiscard: return true;
-        case UnsavedChoice::kSave: break;
-    }
-    return saveDrawing();
-}
-
-CString CMainFrame::askFileName(bool forSaving) {
-    return AskFileName(*this, {IDS_FILE_FILTER, L"dxf", forSaving});
-}
-
-void CMainFrame::OnFileNew() {
-    if (!mayDiscard()) return;
-    auto document = std::make_unique<CDraftDocument>();
-    OdDbDxfError error;
-    if (!m_options.templateFile.IsEmpty() && !document->StartFrom(m_options.templateFile, error))
-        TellUnreadable(*this, m_options.templateFile, error, shownName());
-    showDocument(std::move(document));
-}
-
-void CMainFrame::OnFileOpen() {
-    if (!mayDiscard()) return;
-    const CString path = askFileName(false);
-    if (!path.IsEmpty()) OpenDrawing(path);
-}
-
-bool CMainFrame::saveDrawing() {
-    bool asksName = m_document->path().isEmpty();
-    if (!asksName && m_document->IsFileNewer()) {
-        const NewerFileChoice choice = AskNewerFile(*this, m_document->path().c_str());
-        if (choice == NewerFileChoice::kCancel) return false;
-        asksName = choice == NewerFileChoice::kSaveAs;
-    }
-    const CString path = asksName ? askFileName(true) : CString(m_document->path().c_str());
-    return !path.IsEmpty() && saveTo(path);
-}
-
-void CMainFrame::OnFileSave() { saveDrawing(); }
-
-void CMainFrame::OnFileSaveAs() {
-    const CString path = askFileName(true);
-    if (!path.IsEmpty()) saveTo(path);
+    CString title = shownName();
+    if (m_document->IsReadOnly()) title += textOf(IDS_READ_ONLY_MARK);
+    SetWindowText(title + (m_document->database()->isModified() ? L"* - " : L" - ") + GetTitle());
 }
 
 void CMainFrame::OnZoomExtents() { m_view.ZoomExtents(); }

@@ -45,6 +45,9 @@ protected:
     afx_msg void OnFileOpen();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
+    afx_msg void OnRecentFile(UINT id);
+    afx_msg void OnUpdateRecent(CCmdUI* item);
+    afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnUndo();
     afx_msg void OnRedo();
     afx_msg void OnSelectAll();
@@ -101,12 +104,16 @@ private:
     bool mayDiscard();
     /// Asks for a file name; empty if cancelled.
     CString askFileName(bool forSaving);
+    void loadRecent();
+    /// Makes a drawing the newest of the recent ones.
+    void keepRecent(const CString& path);
 
     CStandinHost& m_host;
     std::unique_ptr<CDraftDocument> m_document;
     CDrawingView m_view;
     CStatusBarCtrl m_status;
     unsigned m_firstPrompt = 0;
+    std::vector<OdString> m_recent;  ///< whole paths of drawings, newest first
     CPickerBar m_pickers;
     CLayersDialog m_layers;      ///< its window exists while it is open
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command

@@ -72,6 +72,21 @@ UnsavedChoice AskUnsavedChanges(CWnd& parent, const CString& name) {
     }
 }
 
+InUseChoice AskInUse(CWnd& parent, const CString& path, const CString& holder) {
+    Question question(textOf(IDS_IN_USE_HEADING));
+    CString content;
+    content.Format(holder.IsEmpty() ? IDS_IN_USE : IDS_IN_USE_BY, path.GetString(), holder.GetString());
+    question.SetContent(plain(content));
+    question.SetMainIcon(warningIcon());
+    question.Offer(IDS_READ_ONLY_COMMAND, IDS_READ_ONLY_EXPLAINED);
+    question.Offer(IDS_ANYWAY_COMMAND, IDS_ANYWAY_EXPLAINED);
+    switch (question.Ask(parent)) {
+        case 0: return InUseChoice::kReadOnly;
+        case 1: return InUseChoice::kAnyway;
+        default: return InUseChoice::kCancel;
+    }
+}
+
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept) {
     CString reason;
     // What concerns the whole file has no line.

@@ -11,6 +11,12 @@ enum class UnsavedChoice { kSave, kDiscard, kCancel };
 /// Asks what becomes of the changes to the drawing `name`.
 UnsavedChoice AskUnsavedChanges(CWnd& parent, const CString& name);
 
+/// What to do with a drawing that another program has open.
+enum class InUseChoice { kReadOnly, kAnyway, kCancel };
+
+/// Asks how the drawing at `path`, which `holder` has open, is to be opened.
+InUseChoice AskInUse(CWnd& parent, const CString& path, const CString& holder);
+
 /// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing that was open, still is.
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept);
 

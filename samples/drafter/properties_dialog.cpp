@@ -2,6 +2,7 @@
 
 #include <ktut.h>
 
+#include "layer_list.h"
 #include "measurement.h"
 #include "object_kinds.h"
 #include "resource.h"
@@ -150,6 +151,8 @@ void CPropertiesDialog::registerResizing() {
     ResizeRow(IDC_ROTATION, IDC_PICK_ROTATION, 0);
     ResizeRow(0, IDC_OBJECTS_LABEL, 0);
     ResizeRow(0, IDC_SELECT_OBJECTS, 0);
+    MoveControlX(IDC_DROP_LABEL, 100);
+    MoveControlX(IDC_DROP_LAYERS, 100);
     StretchControlXY(IDC_LAYER_LIST, 100, 100);
     ResizeFrame({IDC_GROUP_GENERAL, IDC_GROUP_GEOMETRY, IDC_LAYER, IDC_HYPERLINK});
 }
@@ -160,6 +163,10 @@ void CPropertiesDialog::attachPickButtons() {
     m_selectObjects.SubclassDlgItem(IDC_SELECT_OBJECTS, this);
     m_selectObjects.AutoLoad();
     m_selectObjects.EnableWindow(m_picker != nullptr);
+    m_dropSite.Attach(IDC_DROP_LAYERS, this, [this](const OdDbDatabasePtr& drawing, const CString& words) {
+        m_layersFrom = drawing;
+        ShowMessage(words);
+    });
 }
 
 void CPropertiesDialog::OnPickRotation() {
@@ -193,6 +200,7 @@ void CPropertiesDialog::Apply() {
     values.elevation = EditedDistance(IDC_ELEVATION);
     values.thickness = EditedDistance(IDC_THICKNESS);
     values.rotation = EditedAngle(IDC_ROTATION);
+    if (m_layersFrom) TakeLayers(m_drawing, *m_layersFrom);
     WriteProperties(m_drawing, m_objects, values);
     SaveColumnSizes(&m_layers);
 }

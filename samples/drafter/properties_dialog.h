@@ -7,6 +7,7 @@
 
 #include "drawing_picker.h"
 #include "fields_dialog.h"
+#include "layer_drop_site.h"
 #include "layer_picker.h"
 #include "property_pickers.h"
 
@@ -52,4 +53,6 @@ private:
     CReportingEdit<CKtUiNumericEdit> m_thickness;
     CReportingEdit<CKtUiAngleEdit> m_rotation;
     CKbUiListCtrl m_layers;
+    CLayerDropSite m_dropSite;
+    OdDbDatabasePtr m_layersFrom;  ///< whose layer settings are taken with OK; null for none
 };

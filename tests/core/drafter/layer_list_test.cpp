@@ -136,6 +136,47 @@ TEST_F(LayerList, WhoNeedsALayerIsSaidAndNothingIsDeletedThen) {
     EXPECT_EQ(DeleteLayers(*drawing, {layer(L"outer Walls")}).need, LayerNeed::kIsDependent);
 }
 
+TEST_F(LayerList, TheSettingsOfAnotherDrawingsLayersAreTaken) {
+    OdDbDatabasePtr other(new OdDbDatabase);
+    OdDbLinetypeTablePtr linetypes;
+    other->getLinetypeTable(linetypes);
+    OdSmartPtr<OdDbLinetypeTableRecord> dashed(new OdDbLinetypeTableRecord);
+    OdDbObjectId dashedId;
+    OdArray<double> dashes;
+    dashes.append(2);
+    dashes.append(-1);
+    dashed->setName(L"DASHED");
+    dashed->setComments(L"__ __");
+    dashed->setDashes(dashes);
+    linetypes->add(OdDbSymbolTableRecordPtr(dashed.get()), &dashedId);
+    OdCmColor red;
+    red.setColorIndex(1);
+    LayerChange change;
+    change.color = red;
+    change.isOn = false;
+    change.lineWeight = OdDb::kLnWt050;
+    change.linetype = dashedId;
+    ChangeLayers({NeedLayer(*other, L"WALLS"), NeedLayer(*other, L"roof")}, change);
+    layer(L"Doors").open<OdDbLayerTableRecord>()->setColor(red);
+    EXPECT_EQ(TakeLayers(*drawing, *other), 3);
+    EXPECT_EQ(names(), (Names{L"0", L"Doors", L"outer Walls", L"roof", L"walls"}));
+    for (const wchar_t* name : {L"walls", L"roof"}) {
+        const auto record = layer(name).open<OdDbLayerTableRecord>();
+        EXPECT_EQ(record->colorIndex(), 1);
+        EXPECT_TRUE(record->isOff());
+        EXPECT_EQ(record->lineWeight(), OdDb::kLnWt050);
+        const auto linetype = record->linetypeObjectId().open<OdDbLinetypeTableRecord>();
+        EXPECT_EQ(linetype->getName(), L"DASHED");
+        EXPECT_EQ(linetype->database(), drawing.get());
+        EXPECT_EQ(linetype->comments(), L"__ __");
+        EXPECT_EQ(linetype->dashLengthAt(1), -1);
+    }
+    EXPECT_EQ(layer(L"Doors").open<OdDbLayerTableRecord>()->colorIndex(), 1) << "what the other lacks stays";
+    EXPECT_FALSE(layer(L"0").open<OdDbLayerTableRecord>()->isOff());
+    EXPECT_EQ(TakeLayers(*drawing, *other), 3);
+    EXPECT_EQ(names().size(), 5u) << "once more makes nothing new";
+}
+
 TEST_F(LayerList, ABlockThatNeedsALayerIsNamed) {
     OdDbBlockTablePtr blocks;
     drawing->getBlockTable(blocks);

@@ -74,8 +74,8 @@ protected:
         const std::wstring kind = name;
         const CString text = text_of(control);
         if (text.IsEmpty() || (kind != L"Static" && kind != L"Button")) return;
-        // The name of a picture, which is not drawn.
-        if (text[0] == L'|') return;
+        // A picture, whose caption is not drawn.
+        if (text.Find(L'|') >= 0) return;
         RECT client;
         ::GetClientRect(control, &client);
         const HDC dc = ::GetDC(control);

@@ -1,0 +1,36 @@
+#include "layer_drop_site.h"
+
+#include "dropped_files.h"
+#include "layer_list.h"
+#include "resource.h"
+
+IMPLEMENT_DYNAMIC(CLayerDropSite, CKtUiDropSite)
+
+void CLayerDropSite::Attach(UINT id, CWnd* dialog, Dropped dropped) {
+    m_dropped = std::move(dropped);
+    SubclassDlgItem(id, dialog);
+    AutoLoad();
+    DragAcceptFiles();
+}
+
+void CLayerDropSite::OnDragDrop(HDROP drop) {
+    const std::vector<CString> files = TakeDroppedFiles(drop);
+    if (files.empty() || !m_dropped) return;
+    const CString& path = files.front();
+    CString words;
+    if (const UINT problem = WhyNoDrawing(path)) {
+        words.Format(problem, path.GetString());
+        words.Replace(L"\n\n", L" - ");
+        m_dropped({}, words);
+        return;
+    }
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    OdDbDxfError error;
+    if (drawing->readDxf(path, &error) != kOdOk) {
+        words.Format(IDS_DROP_UNREADABLE, path.GetString(), error.text.c_str());
+        m_dropped({}, words);
+        return;
+    }
+    words.Format(IDS_DROP_LAYERS, static_cast<int>(ListLayers(*drawing).size()), path.GetString());
+    m_dropped(drawing, words);
+}

@@ -1,0 +1,183 @@
+// A draughtsman opens drawings: recent ones, dropped ones, and one that another program has.
+#include <filesystem>
+
+#include <shlobj.h>
+
+#include "journey_fixture.h"
+#include "message_text.h"
+
+using namespace journey;
+
+namespace {
+
+class Files : public Journey {
+protected:
+    Files() : first(scratchCopy(L"bracket.dxf")) {}
+
+    bool titleBegins(const std::wstring& name) {
+        return waitUntil([&] { return textOf(drafter->frame()).rfind(name, 0) == 0; });
+    }
+    void drop(const std::vector<std::wstring>& files) { dropOn(drafter->frame(), files); }
+    /// Drops files on a window, as the shell does: their names are in the memory of the program.
+    void dropOn(HWND window, const std::vector<std::wstring>& files) {
+        std::wstring names;
+        for (const std::wstring& file : files) names += file + L'\0';
+        names += L'\0';
+        std::vector<char> block(sizeof(DROPFILES) + names.size() * sizeof(wchar_t));
+        auto* const head = reinterpret_cast<DROPFILES*>(block.data());
+        head->pFiles = sizeof(DROPFILES);
+        head->fWide = TRUE;
+        memcpy(block.data() + sizeof(DROPFILES), names.data(), names.size() * sizeof(wchar_t));
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(drafter->frame(), &process);
+        const HANDLE program =
+            ::OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE | PROCESS_VM_READ, FALSE, process);
+        ASSERT_NE(program, nullptr);
+        void* const there =
+            ::VirtualAllocEx(program, nullptr, block.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+        ASSERT_NE(there, nullptr);
+        ASSERT_TRUE(::WriteProcessMemory(program, there, block.data(), block.size(), nullptr));
+        ::CloseHandle(program);
+        ::PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(there), 0);
+    }
+    std::wstring message() { return drafter->dismissMessage(drafter->frame()); }
+
+    std::wstring first;
+};
+
+TEST_F(Files, ARecentDrawingIsOpenedByKeysAndOneThatIsGoneIsDropped) {
+    const std::wstring second = scratchCopy(L"site_plan.dxf");
+    open(first);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    drafter->openDrawing(second);
+    ASSERT_TRUE(titleBegins(L"site_plan.dxf"));
+    drafter->activate(drafter->frame());
+    drafter->key('F', false, true);
+    picture("journey-recent-files");
+    drafter->key('2');
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+    // Now the site plan is the second one; it goes.
+    std::filesystem::remove(second);
+    drafter->activate(drafter->frame());
+    drafter->key('F', false, true);
+    drafter->key('2');
+    EXPECT_NE(message().find(L"no longer there"), std::wstring::npos);
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+    drafter->activate(drafter->frame());
+    drafter->key('F', false, true);
+    picture("journey-recent-gone");
+    drafter->key('2');
+    drafter->key(VK_ESCAPE);
+    drafter->key(VK_ESCAPE);
+    EXPECT_TRUE(titleBegins(L"bracket.dxf")) << "it is in the list no more";
+}
+
+TEST_F(Files, ANewDrawingHasAProposedNameInTheLastFolder) {
+    open(first);
+    const std::filesystem::path proposed = std::filesystem::path(first).parent_path() / L"Drawing1.dxf";
+    std::filesystem::remove(proposed);
+    drafter->activate(drafter->frame());
+    drafter->key('N', true);
+    ASSERT_TRUE(titleBegins(L"Untitled"));
+    drafter->key('S', true);
+    HWND dialog = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(dialog, nullptr);
+    picture("journey-proposed-name");
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_TRUE(titleBegins(L"Drawing1.dxf"));
+    EXPECT_TRUE(std::filesystem::exists(proposed));
+    std::filesystem::remove(proposed);
+}
+
+TEST_F(Files, ASecondProgramIsToldAndOpensReadOnly) {
+    open(first);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    Drafter other(L"");
+    ASSERT_NE(other.frame(), nullptr);
+    other.openDrawing(first);
+    HWND question = other.waitForDialogOf(other.frame());
+    ASSERT_NE(question, nullptr);
+    picture("journey-in-use");
+    other.key(VK_RETURN);
+    EXPECT_TRUE(other.waitUntilGone(question));
+    EXPECT_TRUE(waitUntil([&] {
+        return textOf(other.frame()).find(L"bracket.dxf [read-only]") != std::wstring::npos;
+    })) << "the first command is that";
+    // Saving asks for another name.
+    other.activate(other.frame());
+    other.key('S', true);
+    HWND dialog = other.waitForDialogOf(other.frame());
+    EXPECT_NE(dialog, nullptr);
+    other.key(VK_ESCAPE);
+    EXPECT_TRUE(other.waitUntilGone(dialog));
+}
+
+TEST_F(Files, WhatTheFirstProgramHasClosedIsFree) {
+    open(first);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    drafter->activate(drafter->frame());
+    drafter->key('N', true);
+    ASSERT_TRUE(titleBegins(L"Untitled"));
+    Drafter other(first);
+    ASSERT_NE(other.frame(), nullptr);
+    EXPECT_TRUE(waitUntil([&] { return textOf(other.frame()).rfind(L"bracket.dxf - ", 0) == 0; }));
+}
+
+TEST_F(Files, ADroppedDrawingIsOpened) {
+    open(L"");
+    drop({first});
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+}
+
+TEST_F(Files, OfTenDroppedFilesTheFirstIsOpenedAndThatIsSaid) {
+    open(L"");
+    std::vector<std::wstring> ten = {first};
+    for (int i = 1; i < 10; ++i) ten.push_back(scratchCopy(L"site_plan.dxf"));
+    drop(ten);
+    EXPECT_NE(message().find(L"first of 10 files"), std::wstring::npos);
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+}
+
+TEST_F(Files, AFolderAndAFileThatIsGoneAreRefusedInWords) {
+    open(first);
+    drop({std::filesystem::path(first).parent_path().wstring()});
+    EXPECT_NE(message().find(L"This is a folder"), std::wstring::npos);
+    drop({first + L".gone"});
+    EXPECT_NE(message().find(L"no longer there"), std::wstring::npos);
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+}
+
+TEST_F(Files, ADrawingDroppedInPropertiesGivesItsLayerSettings) {
+    OdDbDatabasePtr other(new OdDbDatabase);
+    OdDbLayerTablePtr layers;
+    other->getLayerTable(layers);
+    OdSmartPtr<OdDbLayerTableRecord> layer(new OdDbLayerTableRecord);
+    layer->setName(L"FROM ELSEWHERE");
+    layers->add(OdDbSymbolTableRecordPtr(layer.get()));
+    layer->setLineWeight(OdDb::kLnWt070);
+    const std::wstring elsewhere = scratchPath(L"elsewhere.dxf");
+    ASSERT_EQ(other->writeDxf(elsewhere.c_str()), kOdOk);
+    open(path = first);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    drafter->activate(drafter->frame());
+    HWND dialog = drafter->openProperties();
+    ASSERT_NE(dialog, nullptr);
+    const auto says = [&](const wchar_t* words) {
+        return waitUntil([&] { return textOf(item(dialog, IDC_MESSAGE)).find(words) != std::wstring::npos; });
+    };
+    dropOn(item(dialog, IDC_DROP_LAYERS), {first + L".gone"});
+    EXPECT_TRUE(says(L"no longer there"));
+    dropOn(item(dialog, IDC_DROP_LAYERS), {elsewhere});
+    EXPECT_TRUE(says(L"2 layers"));
+    picture("journey-drop-site");
+    ok(dialog);
+    const OdDbDatabasePtr drawing = saved();
+    OdDbLayerTablePtr table;
+    drawing->getLayerTable(table);
+    const auto taken = table->getAt(L"FROM ELSEWHERE").open<OdDbLayerTableRecord>();
+    ASSERT_TRUE(taken);
+    EXPECT_EQ(taken->lineWeight(), OdDb::kLnWt070);
+}
+
+}  // namespace
