@@ -23,11 +23,7 @@ protected:
         line->setLayer(table->getAt(L"walls"));
         open(*drawing, L"layers.dxf");
     }
-    HWND openLayers() {
-        drafter->activate(drafter->frame());
-        drafter->key('L', true);
-        return dialog = drafter->waitForDialog(L"Layers");
-    }
+    HWND openLayers() { return dialog = openByKey('L'); }
     static OdDbLayerTableRecordPtr layerOf(OdDbDatabase& drawing, const wchar_t* name) {
         OdDbLayerTablePtr table;
         drawing.getLayerTable(table);

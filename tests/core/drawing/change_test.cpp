@@ -21,6 +21,11 @@ protected:
         drawing->getLayerTable(table);
         return table;
     }
+    OdDbObjectId continuous() {
+        OdDbLinetypeTablePtr table;
+        drawing->getLinetypeTable(table);
+        return table->getAt(L"Continuous");
+    }
     OdDbObjectId addLayer(const wchar_t* name) {
         const OdDbSymbolTableRecordPtr layer = layers()->newRecord();
         layer->setName(name);
@@ -54,6 +59,7 @@ TEST_F(Change, PropertiesOfEntitiesComeBack) {
     const auto entity = line.open<OdDbLine>(OdDb::kForWrite);
     entity->setColorIndex(3);
     entity->setLayer(layer);
+    entity->setLinetype(continuous());
     entity->setEndPoint({7, 8, 0});
     entity->setHyperlink(L"http://one.example");
     expectBothWays();
