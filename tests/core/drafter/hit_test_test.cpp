@@ -136,6 +136,10 @@ TEST_F(HitTest, ATextIsHitInItsBoxAlsoTurned) {
     EXPECT_TRUE(isInside(id, 9, 9, 20, 13));
     EXPECT_FALSE(isInside(id, 11, 9, 20, 13));
     EXPECT_TRUE(isTouched(id, 12, 10.5, 12.5, 11)) << "a window within the text";
+    EXPECT_TRUE(at(19, 11).isNull());
+    id.open<OdDbText>(OdDb::kForWrite)->editGroups().setReal(41, 2);
+    EXPECT_EQ(at(19, 11), id) << "twice as wide";
+    id.open<OdDbText>(OdDb::kForWrite)->editGroups().setReal(41, 1);
     id.open<OdDbText>(OdDb::kForWrite)->setRotation(std::numbers::pi / 2);
     EXPECT_EQ(at(9, 13), id);
     EXPECT_TRUE(at(13, 11).isNull());
@@ -186,7 +190,8 @@ TEST_F(HitTest, ABlockReferenceIsHitWhereItsBlockIsDrawnAndIsOneObject) {
     EXPECT_EQ(at(100, 92), id);
     EXPECT_TRUE(at(0, 0).isNull()) << "where the block was made nothing is drawn";
     EXPECT_TRUE(isInside(id, 89, 89, 111, 111));
-    EXPECT_FALSE(isInside(id, 89, 99, 111, 101)) << "only one of its lines is inside";
+    EXPECT_FALSE(isInside(id, 89, 99, 111, 101)) << "only its first line is inside";
+    EXPECT_FALSE(isInside(id, 99, 89, 101, 111)) << "only its last line is inside";
     EXPECT_TRUE(isTouched(id, 105, 99, 106, 101));
 }
 
@@ -199,6 +204,22 @@ TEST_F(HitTest, ALineThatOnlyPassesThroughIsTouchedAndNotInside) {
     EXPECT_TRUE(isTouched(level, 0, 0, 20, 20));
     EXPECT_FALSE(isTouched(level, 0, 11, 20, 20));
     EXPECT_FALSE(isTouched(level, 51, 0, 60, 20));
+}
+
+TEST_F(HitTest, WhichWayALineRunsMakesNoDifference) {
+    const OdDbObjectId slanting = addLine(100, 110, -100, -90);
+    const OdDbObjectId level = addLine(50, 10, -5, 10);
+    const OdDbObjectId upright = addLine(5, 50, 5, -50);
+    for (const OdDbObjectId& line : {slanting, level, upright}) EXPECT_TRUE(isTouched(line, 0, 0, 20, 20));
+    EXPECT_FALSE(isTouched(slanting, 15, 0, 20, 5));
+    EXPECT_FALSE(isTouched(upright, 6, 0, 20, 20));
+}
+
+TEST_F(HitTest, WhatBelongsToNoObjectIsNotSelected) {
+    Scene loose;
+    loose.paths.push_back({{{1, 1}, {2, 2}}, false, {}, {}});
+    EXPECT_TRUE(EntitiesTouching(loose, window(0, 0, 5, 5)).empty());
+    EXPECT_TRUE(EntitiesInside(loose, window(0, 0, 5, 5)).empty());
 }
 
 TEST_F(HitTest, WhatIsOnALayerThatIsOffIsNotFound) {

@@ -125,6 +125,14 @@ TEST_F(Change, APlaceForAnotherObjectInADictionaryComesBack) {
     expectBothWays();
 }
 
+TEST_F(Change, ADictionaryThatGotADefaultHasNoneAgain) {
+    OdDbDictionaryPtr root;
+    drawing->getNamedObjectsDictionary(root);
+    root->setDefaultId(root->getAt(L"ACAD_GROUP"));
+    expectBothWays();
+    EXPECT_EQ(root->defaultId(), root->getAt(L"ACAD_GROUP"));
+}
+
 TEST_F(Change, TheOriginOfABlockComesBack) {
     space()->setOrigin({3, 4, 0});
     expectBothWays();
