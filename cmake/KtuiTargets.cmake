@@ -79,8 +79,8 @@ function(ktui_public_headers target folder destination)
   if(WIN32)
     install(TARGETS ${target} EXPORT ktui)
     install(DIRECTORY ${folder}/ DESTINATION ${destination} FILES_MATCHING PATTERN *.h PATTERN afx*.rc
-            PATTERN standin_facets.h EXCLUDE PATTERN standin_message.h EXCLUDE PATTERN file_bytes.h EXCLUDE PATTERN dialog_items.h EXCLUDE PATTERN resource.h EXCLUDE PATTERN color_dialog.h EXCLUDE
-            PATTERN fonts EXCLUDE PATTERN linetypes EXCLUDE PATTERN plotting EXCLUDE)
+            PATTERN standin_facets.h EXCLUDE PATTERN standin_message.h EXCLUDE PATTERN file_bytes.h EXCLUDE PATTERN own_resources.h EXCLUDE PATTERN color_schemes.h EXCLUDE PATTERN dialog_items.h EXCLUDE PATTERN resource.h EXCLUDE PATTERN color_dialog.h EXCLUDE
+            PATTERN fonts EXCLUDE PATTERN help EXCLUDE PATTERN security EXCLUDE PATTERN linetypes EXCLUDE PATTERN plotting EXCLUDE)
   endif()
 endfunction()
 

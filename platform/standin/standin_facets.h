@@ -2,23 +2,34 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 #include "fonts/font_service.h"
+#include "help/help_service.h"
+#include "plotting/plot_service.h"
 #include "plotting/style_sheets.h"
+#include "security/security_service.h"
 #include "standin_host.h"
 
 #include <od_tool_tip_setting.h>
 
 class StandinProductInfo final : public CKhProductInfo {
 public:
-    const wchar_t* companyFullName() override { return L"Quorvex Design Systems"; }
-    const wchar_t* companyShortName() override { return L"Quorvex"; }
-    const wchar_t* productName() override { return L"Velmora"; }
-    const wchar_t* programName() override { return L"Velmora"; }
-    /// The name of the application, as the system's own message boxes have it.
-    const wchar_t* messageCaption() override { return AfxGetAppName(); }
-    const wchar_t* profileVersionKey() override { return L"1.0"; }
+    const wchar_t* companyFullName() override { return kept(m_product.companyFullName); }
+    const wchar_t* companyShortName() override { return kept(m_product.companyShortName); }
+    const wchar_t* productName() override { return kept(m_product.productName); }
+    const wchar_t* programName() override { return kept(m_product.programName); }
+    const wchar_t* messageCaption() override;
+    const wchar_t* profileVersionKey() override { return kept(m_product.version); }
+
+    StandinProduct m_product;
+
+private:
+    /// The text at an address that stays, also when the names are set anew.
+    const wchar_t* kept(const CString& text) { return m_texts.insert(text.GetString()).first->c_str(); }
+
+    std::set<std::wstring> m_texts;
 };
 
 /// Settings in the registry, a key for each section.
@@ -34,6 +45,8 @@ public:
     COLORREF colorOfIndex(int index) override;
     int currentColorScheme(int kind) override;
     bool schemeColor(int scheme, int role, COLORREF& color, int flags) override;
+
+    StandinColorScheme m_scheme = StandinColorScheme::kSystem;
 };
 
 class StandinServiceManager final : public CKhServiceManager {
@@ -62,12 +75,13 @@ public:
     KtApDocument* currentDocument() override { return m_document; }
     void pushResourceHandle(HINSTANCE handle) override;
     void popResourceHandle() override;
-    int saveFormatCount() override { return 0; }
-    bool saveFormatAt(int, int&, OdString&) override { return false; }
-    bool saveFormatName(int, OdString&) override { return false; }
+    int saveFormatCount() override { return static_cast<int>(m_formats.size()); }
+    bool saveFormatAt(int index, int& format, OdString& name) override;
+    bool saveFormatName(int format, OdString& name) override;
     CKhDrawingView* drawingView() override { return &m_view; }
 
     KtApDocument* m_document = nullptr;
+    std::vector<StandinSaveFormat> m_formats;
 
 private:
     std::vector<HINSTANCE> m_pushed;
@@ -90,10 +104,17 @@ private:
     std::vector<CString> m_folders;
 };
 
-/// The services of the drawing runtime, with the setting that turns tips off: "General", "ToolTips".
+/// The services of the drawing runtime. Their settings are kept in section "General" of the profile in force:
+/// "ToolTips" (0 turns tips off), "Measurement", "LineweightMillimeters", "LineweightDefault".
 class StandinAppServices final : public OdDbHostAppServices, public OdDbToolTipSetting {
 public:
     short toolTips() const override;
+    short measurementInit() const override;
+    void setMeasurementInit(short value) override;
+    bool lineWeightsInMillimetres() const override;
+    void setLineWeightsInMillimetres(bool millimetres) override;
+    OdDb::LineWeight defaultLineWeight() const override;
+    void setDefaultLineWeight(OdDb::LineWeight weight) override;
 };
 
 class StandinPaletteSizing final : public CKhPaletteSizing {
@@ -111,8 +132,7 @@ private:
 
 class StandinUiHost final : public CKhUiHost {
 public:
-    StandinUiHost(CWinApp& application, StandinStyleSheets& styleSheets)
-        : m_application(application), m_styleSheets(styleSheets) {}
+    StandinUiHost(CWinApp& application, StandinStyleSheets& styleSheets);
 
     CWinApp* application() override { return &m_application; }
     CWnd* mainFrame() override { return m_application.m_pMainWnd; }
@@ -126,6 +146,7 @@ public:
     int getPathVariable(const wchar_t* name, wchar_t (&value)[kKhPathLength]) override;
 
     std::map<std::wstring, CString> m_pathVariables = {{L"PrinterStyleSheetDir", L"Plot Styles"}};
+    HelpService m_help;
 
 private:
     CWinApp& m_application;
@@ -133,10 +154,27 @@ private:
     CString m_chosenPlotStyle;
 };
 
+/// The facets that answer, each the host's own until it is replaced.
+struct FacetsInForce {
+    CKhServiceManager* services;
+    CKhRuntimeHost* runtime;
+    CKhProductInfo* product;
+    CKhProfileStore* profile;
+    CKhDocumentServices* documents;
+    CKhColorServices* colors;
+    CKhUiHost* ui;
+    CKhPaletteHost* palettes;
+};
+
 /// Everything that a CStandinHost holds.
 struct StandinFacets {
     explicit StandinFacets(CWinApp& application) : ui(application, styleSheets) {
-        serviceManager.m_services[kKhPlotStyleService] = &styleSheets;
+        serviceManager.m_services = {{kKhPlotStyleService, &styleSheets},
+                                     {kKhPlotService, &plotting},
+                                     {kKhSecurityService, &security}};
+    }
+    FacetsInForce own() {
+        return {&serviceManager, &runtime, &product, &profile, &documents, &colors, &ui, &palettes};
     }
 
     StandinAppServices services;
@@ -146,10 +184,11 @@ struct StandinFacets {
     StandinColorServices colors;
     StandinServiceManager serviceManager;
     StandinStyleSheets styleSheets;
+    StandinPlotService plotting;
+    StandinSecurity security;
     StandinDocumentServices documents;
     StandinRuntimeHost runtime;
     StandinPaletteHost palettes;
     StandinUiHost ui;
-    CKhUiHost* uiInForce = &ui;
-    CKhColorServices* colorsInForce = &colors;
+    FacetsInForce inForce = own();
 };

@@ -17,14 +17,14 @@ CStandinHost::~CStandinHost() {
     oddbSetHostApplicationServices(m_facets->formerServices);
 }
 
-CKhServiceManager* CStandinHost::serviceManager() { return &m_facets->serviceManager; }
-CKhRuntimeHost* CStandinHost::runtimeHost() { return &m_facets->runtime; }
-CKhProductInfo* CStandinHost::productInfo() { return &m_facets->product; }
-CKhProfileStore* CStandinHost::profileStore() { return &m_facets->profile; }
-CKhDocumentServices* CStandinHost::documentServices() { return &m_facets->documents; }
-CKhColorServices* CStandinHost::colorServices() { return m_facets->colorsInForce; }
-CKhUiHost* CStandinHost::uiHost() { return m_facets->uiInForce; }
-CKhPaletteHost* CStandinHost::paletteHost() { return &m_facets->palettes; }
+CKhServiceManager* CStandinHost::serviceManager() { return m_facets->inForce.services; }
+CKhRuntimeHost* CStandinHost::runtimeHost() { return m_facets->inForce.runtime; }
+CKhProductInfo* CStandinHost::productInfo() { return m_facets->inForce.product; }
+CKhProfileStore* CStandinHost::profileStore() { return m_facets->inForce.profile; }
+CKhDocumentServices* CStandinHost::documentServices() { return m_facets->inForce.documents; }
+CKhColorServices* CStandinHost::colorServices() { return m_facets->inForce.colors; }
+CKhUiHost* CStandinHost::uiHost() { return m_facets->inForce.ui; }
+CKhPaletteHost* CStandinHost::paletteHost() { return m_facets->inForce.palettes; }
 
 void CStandinHost::SetCurrentDocument(KtApDocument* document) {
     m_facets->documents.m_document = document;
@@ -43,10 +43,53 @@ void CStandinHost::SetService(const wchar_t* name, CKhService* service) {
     m_facets->serviceManager.m_services[name] = service;
 }
 
-void CStandinHost::ReplaceUiHost(CKhUiHost* facet) { m_facets->uiInForce = facet; }
-void CStandinHost::ReplaceColorServices(CKhColorServices* facet) { m_facets->colorsInForce = facet; }
+void CStandinHost::SetProduct(StandinProduct product) { m_facets->product.m_product = std::move(product); }
 
-void CStandinHost::RestoreFacets() {
-    m_facets->uiInForce = &m_facets->ui;
-    m_facets->colorsInForce = &m_facets->colors;
+void CStandinHost::SetSaveFormats(std::vector<StandinSaveFormat> formats) {
+    m_facets->documents.m_formats = std::move(formats);
 }
+
+void CStandinHost::SetColorScheme(StandinColorScheme scheme) { m_facets->colors.m_scheme = scheme; }
+
+void CStandinHost::SetHelpFolder(const wchar_t* folder) { m_facets->ui.m_help.m_folder = folder; }
+
+void CStandinHost::SetHelpOpener(std::function<bool(const CString& page)> opener) {
+    m_facets->ui.m_help.m_opener = std::move(opener);
+}
+
+void CStandinHost::SetHelpTopic(unsigned helpId, const wchar_t* topic) {
+    m_facets->ui.m_help.m_ids[helpId] = topic;
+}
+
+namespace {
+
+/// Puts `facet` in force, or the host's own in the place of null.
+template <class Facet, class Own>
+void replaceFacet(Facet*& inForce, Facet* facet, Own& own) {
+    inForce = facet != nullptr ? facet : &own;
+}
+
+}  // namespace
+
+void CStandinHost::ReplaceServiceManager(CKhServiceManager* facet) {
+    replaceFacet(m_facets->inForce.services, facet, m_facets->serviceManager);
+}
+void CStandinHost::ReplaceRuntimeHost(CKhRuntimeHost* facet) {
+    replaceFacet(m_facets->inForce.runtime, facet, m_facets->runtime);
+}
+void CStandinHost::ReplaceProductInfo(CKhProductInfo* facet) {
+    replaceFacet(m_facets->inForce.product, facet, m_facets->product);
+}
+void CStandinHost::ReplaceProfileStore(CKhProfileStore* facet) {
+    replaceFacet(m_facets->inForce.profile, facet, m_facets->profile);
+}
+void CStandinHost::ReplaceDocumentServices(CKhDocumentServices* facet) {
+    replaceFacet(m_facets->inForce.documents, facet, m_facets->documents);
+}
+void CStandinHost::ReplacePaletteHost(CKhPaletteHost* facet) {
+    replaceFacet(m_facets->inForce.palettes, facet, m_facets->palettes);
+}
+void CStandinHost::ReplaceColorServices(CKhColorServices* facet) { m_facets->inForce.colors = facet; }
+void CStandinHost::ReplaceUiHost(CKhUiHost* facet) { m_facets->inForce.ui = facet; }
+
+void CStandinHost::RestoreFacets() { m_facets->inForce = m_facets->own(); }

@@ -8,6 +8,7 @@
 // background; dialogs are this module's own. A single facet can be replaced, as tests do.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,6 +17,7 @@
 #include <od_db.h>
 
 #include "standin_api.h"
+#include "standin_settings.h"
 
 class CKhFontStyle;
 struct StandinFacets;
@@ -59,14 +61,41 @@ public:
     /// program's until it is set; folders are separated by semicolons.
     void SetPathVariable(const wchar_t* name, const wchar_t* value);
     /// Makes the host answer `service` to serviceManager()->getService(name); null takes it away. Not owned.
-    /// At first there is "CKhPlotStyle", which reads the style sheets in the folders of that path variable.
+    /// At first there are "CKhPlotStyle", which reads the style sheets in the folders of that path variable,
+    /// "CKhPlotSvr", which keeps the options of an export, and "CKhSecurity", which seals drawing files.
     void SetService(const wchar_t* name, CKhService* service);
 
-    // Replacing a facet: `facet` (not owned) answers from now on, also null where the interface lets a facet
-    // be null.
-    void ReplaceUiHost(CKhUiHost* facet);
+    /// The names that productInfo() answers. Texts that were answered before stay valid.
+    void SetProduct(StandinProduct product);
+    /// The formats that drawings can be saved in besides the built-in ones, in the order of lists; none at
+    /// first.
+    void SetSaveFormats(std::vector<StandinSaveFormat> formats);
+    /// The scheme that colorServices() answers; at first kSystem, and so the one that the system is in at
+    /// each question. Windows that show are not told.
+    void SetColorScheme(StandinColorScheme scheme);
+    /// The folder of the help pages, FOLDER\en\TOPIC.html and FOLDER\zh\TOPIC.html; null or empty for "help"
+    /// below the program's folder. The page of the user's language opens, or else the English one. Without a
+    /// topic it is that of the dialog at hand: its help tag (CKbUiDialog::SetDialogName and
+    /// SetDialogHelpTag), or the topic of its template's help id; the page of a tab counts before its dialog.
+    /// Else it is "index".
+    void SetHelpFolder(const wchar_t* folder);
+    /// What opens a help page, a full path; false if it can't. Null for the system's browser.
+    void SetHelpOpener(std::function<bool(const CString& page)> opener);
+    /// The topic of dialogs whose template has the help id `helpId`. Ids 20001 to 20099 are the host's own.
+    void SetHelpTopic(unsigned helpId, const wchar_t* topic);
+
+    // Replacing a facet: `facet` (not owned) answers from now on. Null puts the host's own back, but for
+    // colours and windows, which may be null. What is replaced serves the host's other facets too:
+    // measurement and lineweight settings, for instance, go to the profile store in force.
+    void ReplaceServiceManager(CKhServiceManager* facet);
+    void ReplaceRuntimeHost(CKhRuntimeHost* facet);
+    void ReplaceProductInfo(CKhProductInfo* facet);
+    void ReplaceProfileStore(CKhProfileStore* facet);
+    void ReplaceDocumentServices(CKhDocumentServices* facet);
     void ReplaceColorServices(CKhColorServices* facet);
-    /// Puts the host's own facets back.
+    void ReplaceUiHost(CKhUiHost* facet);
+    void ReplacePaletteHost(CKhPaletteHost* facet);
+    /// Puts all of the host's own facets back.
     void RestoreFacets();
 
 private:

@@ -1,6 +1,7 @@
-// The facets without windows: settings, colours, files, documents, services.
+// The facets without windows: settings, colours, files, services.
 #include <ktut.h>
 
+#include "color_schemes.h"
 #include "dash_pattern.h"
 #include "standin_facets.h"
 
@@ -69,38 +70,19 @@ bool StandinProfileStore::setProfileInt(const wchar_t* section, const wchar_t* k
                             sizeof(value)) == ERROR_SUCCESS;
 }
 
-short StandinAppServices::toolTips() const {
-    int value = 1;
-    StandinProfileStore().getProfileInt(L"General", L"ToolTips", value, 0);
-    return static_cast<short>(value);
+COLORREF StandinColorServices::colorOfIndex(int index) { return odcmLookupRGB(index, odcmAcadDarkPalette()); }
+
+int StandinColorServices::currentColorScheme(int) {
+    return static_cast<int>(m_scheme == StandinColorScheme::kSystem ? SystemColorScheme() : m_scheme);
 }
 
-COLORREF StandinColorServices::colorOfIndex(int index) { return odcmLookupRGB(index, odcmAcadDarkPalette()); }
-int StandinColorServices::currentColorScheme(int) { return 0; }
-
-bool StandinColorServices::schemeColor(int, int role, COLORREF& color, int) {
-    switch (role) {
-        case kKhColorRoleTipText: color = RGB(70, 72, 75); return true;
-        case kKhColorRoleTipBorder: color = RGB(70, 72, 75); return true;
-        case kKhColorRoleTipBackground: color = RGB(249, 249, 249); return true;
-        default: return false;
-    }
+bool StandinColorServices::schemeColor(int scheme, int role, COLORREF& color, int) {
+    return ColorOfScheme(scheme, role, color);
 }
 
 CKhService* StandinServiceManager::getService(const wchar_t* name) {
     const auto found = m_services.find(name);
     return found != m_services.end() ? found->second : nullptr;
-}
-
-void StandinDocumentServices::pushResourceHandle(HINSTANCE handle) {
-    m_pushed.push_back(AfxGetResourceHandle());
-    AfxSetResourceHandle(handle);
-}
-
-void StandinDocumentServices::popResourceHandle() {
-    if (m_pushed.empty()) return;
-    AfxSetResourceHandle(m_pushed.back());
-    m_pushed.pop_back();
 }
 
 void StandinRuntimeHost::findFile(OdString& path, const wchar_t* name, const OdDbDatabase* drawing, int) {

@@ -1,33 +1,27 @@
 // The facet with windows: the host's dialogs, help, path variables.
 #include "color_dialog.h"
 #include "linetypes/linetype_dialog.h"
+#include "own_resources.h"
 #include "plotting/plot_style_dialog.h"
 #include "resource.h"
 #include "standin_facets.h"
-#include "standin_message.h"
-
-extern "C" IMAGE_DOS_HEADER __ImageBase;
 
 namespace {
-
-/// Takes resources from this module for as long as it lives.
-class OwnResources {
-public:
-    OwnResources() : m_former(AfxGetResourceHandle()) {
-        AfxSetResourceHandle(reinterpret_cast<HINSTANCE>(&__ImageBase));
-    }
-    ~OwnResources() { AfxSetResourceHandle(m_former); }
-    OwnResources(const OwnResources&) = delete;
-    OwnResources& operator=(const OwnResources&) = delete;
-
-private:
-    HINSTANCE m_former;
-};
 
 /// The window that a dialog opened now belongs to: the one in use.
 CWnd* dialogParent() { return CWnd::GetActiveWindow(); }
 
 }  // namespace
+
+StandinUiHost::StandinUiHost(CWinApp& application, StandinStyleSheets& styleSheets)
+    : m_application(application), m_styleSheets(styleSheets) {
+    m_help.m_ids = {{HID_COLOR, L"SelectColor"},
+                    {HID_LINETYPES, L"LinetypeManager"},
+                    {HID_LOAD_LINETYPES, L"LoadLinetypes"},
+                    {HID_PLOT_STYLES, L"SelectPlotStyle"},
+                    {HID_SECURITY, L"SecurityOptions"},
+                    {HID_EXPORT_OPTIONS, L"ExportOptions"}};
+}
 
 bool StandinUiHost::showColorIndexDialog(int& index, bool allowMeta, int layerIndex) {
     const OwnResources resources;
@@ -72,13 +66,7 @@ bool StandinUiHost::showLinetypeDialog(const OdDbObjectId& current, OdDbObjectId
     return true;
 }
 
-void StandinUiHost::showHelp(const wchar_t* topic) {
-    const OwnResources resources;
-    CString text;
-    text.LoadString(IDS_HELP_TEXT);
-    if (topic != nullptr && *topic != 0) text += CString(L"\n") + topic;
-    ShowStandinMessage(text, MB_ICONINFORMATION);
-}
+void StandinUiHost::showHelp(const wchar_t* topic) { m_help.show(topic); }
 
 int StandinUiHost::getPathVariable(const wchar_t* name, wchar_t (&value)[kKhPathLength]) {
     const auto found = m_pathVariables.find(name);
