@@ -8,6 +8,7 @@
 IMPLEMENT_DYNAMIC(CNameChoiceDialog, CKtUiDialog)
 
 BEGIN_MESSAGE_MAP(CNameChoiceDialog, CKtUiDialog)
+    ON_WM_HELPINFO()
     ON_LBN_SELCHANGE(IDC_CHOICES, &CNameChoiceDialog::OnChoice)
     ON_LBN_DBLCLK(IDC_CHOICES, &CNameChoiceDialog::OnDoubleClick)
 END_MESSAGE_MAP()

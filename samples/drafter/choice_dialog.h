@@ -19,6 +19,8 @@ protected:
 
     afx_msg void OnChoice();
     afx_msg void OnDoubleClick();
+    /// Its page alone: the owner would open it a second time.
+    afx_msg BOOL OnHelpInfo(HELPINFO*) { return DoDialogHelp(); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -69,6 +69,8 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
+    ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
+    ON_WM_HELPINFO()
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
     ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
@@ -233,6 +235,17 @@ void CMainFrame::runDialog(CDialog& dialog, UINT name) {
     change.Keep(textOf(isConfirmed ? name : IDS_CHANGE_LINETYPES).GetString());
     showDrawing(true);
     m_view.SetFocus();
+}
+
+void CMainFrame::OnHelpTopics() { m_host.uiHost()->showHelp(L"index"); }
+
+/// F1 in the frame, or in a dialog that is not of the toolkit: the others have opened their page already.
+BOOL CMainFrame::OnHelpInfo(HELPINFO* info) {
+    auto window = static_cast<HWND>(info->hItemHandle);
+    for (; window != nullptr && window != m_hWnd; window = ::GetParent(window))
+        if (dynamic_cast<CKbUiBaseDialog*>(CWnd::FromHandlePermanent(window)) != nullptr) return TRUE;
+    m_host.uiHost()->showHelp(nullptr);
+    return TRUE;
 }
 
 void CMainFrame::OnMeasure() {

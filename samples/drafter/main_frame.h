@@ -62,6 +62,8 @@ protected:
     afx_msg void OnTextStyle();
     afx_msg void OnMeasure();
     afx_msg void OnAbout();
+    afx_msg void OnHelpTopics();
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPickerBar();
     afx_msg void OnSearchLayers();

@@ -5,6 +5,7 @@
 IMPLEMENT_DYNAMIC(CNameDialog, CFieldsDialog)
 
 BEGIN_MESSAGE_MAP(CNameDialog, CFieldsDialog)
+    ON_WM_HELPINFO()
     ON_EN_CHANGE(IDC_STYLE_NAME, &CNameDialog::OnNameChange)
 END_MESSAGE_MAP()
 

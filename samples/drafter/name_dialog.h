@@ -21,6 +21,8 @@ protected:
     void Apply() override;
 
     afx_msg void OnNameChange() { ShowMessage(CString()); }
+    /// Its page alone: the owner would open it a second time.
+    afx_msg BOOL OnHelpInfo(HELPINFO*) { return DoDialogHelp(); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -40,11 +40,15 @@ void COptionsDialog::addPages() {
     const struct {
         UINT name, page;
         CKbUiTabChildDialog& dialog;
-    } pages[] = {{IDS_PAGE_FILES, IDD_OPTIONS_FILES, m_files},
-                 {IDS_PAGE_DISPLAY, IDD_OPTIONS_DISPLAY, m_display},
-                 {IDS_PAGE_UNITS, IDD_OPTIONS_UNITS, m_units}};
+        const wchar_t* help;
+    } pages[] = {{IDS_PAGE_FILES, IDD_OPTIONS_FILES, m_files, L"OptionsFiles"},
+                 {IDS_PAGE_DISPLAY, IDD_OPTIONS_DISPLAY, m_display, L"OptionsDisplay"},
+                 {IDS_PAGE_UNITS, IDD_OPTIONS_UNITS, m_units, L"OptionsUnits"}};
     int index = 0;
-    for (const auto& each : pages) AddTab(index++, each.name, each.page, &each.dialog);
+    for (const auto& each : pages) {
+        each.dialog.SetDialogHelpTag(each.help);
+        AddTab(index++, each.name, each.page, &each.dialog);
+    }
     if (m_extensions == nullptr) return;
     m_extensions->AddTabs(*GetXtabPointer());
     SetDlgItemText(IDC_MESSAGE, m_extensions->problem());

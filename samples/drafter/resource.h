@@ -19,6 +19,7 @@
 #define ID_VIEW_SEARCH_LAYERS 0x8019
 // Nine, in this order.
 #define ID_RECENT_FILE 0x8020
+#define ID_HELP_TOPICS 0x8030
 
 #define IDD_PROPERTIES 200
 #define IDC_TRUE_COLOR 1001
@@ -97,6 +98,7 @@
 #define IDC_MESSAGES_STATE 1155
 
 #define IDD_PICKER_BAR 209
+#define HID_PICKER_BAR 1  // help id of its template
 
 #define IDD_MEASURE 210
 #define IDC_PICK_DISTANCE 1170

@@ -24,7 +24,10 @@ CString textOf(UINT id) {
 /// Keeps what was entered for the user beside the options of the drafter.
 class Page : public CKtUiTabChildDialog {
 public:
-    Page() { SetDialogName(L"Title Block"); }
+    Page() {
+        SetDialogName(L"Title Block");
+        SetDialogHelpTag(L"TitleBlock");
+    }
 
     BOOL PreTranslateMessage(MSG* message) override {
         if (m_tab != nullptr && KtUiTurnTabByKey(*m_tab, *message)) return TRUE;
