@@ -1,0 +1,33 @@
+// Resource ids of the gallery sample.
+#ifndef GALLERY_RESOURCE_H
+#define GALLERY_RESOURCE_H
+
+#define IDD_GALLERY 100
+#define IDC_PAGES 1001
+#define IDC_PAGE_PLACE 1002
+#define IDC_LOG 1003
+#define IDC_CODE 1004
+#define IDC_LOG_LABEL 1005
+#define IDC_CODE_LABEL 1006
+
+#define IDD_GALLERY_PAGE 101
+
+#define IDD_RESIZED 110
+#define IDC_RESIZED_LIST 1101
+#define IDC_RESIZED_NAME 1102
+
+#define IDD_TABBED 111
+#define IDC_TABBED_TABS 1110
+#define IDD_TAB_PAGE 112
+#define IDC_TAB_NAME 1120
+#define IDD_WORKSHEET 113
+#define IDD_BAR 114
+#define IDC_BAR_COLOR 1140
+#define IDC_BAR_LINETYPE 1141
+#define IDC_BAR_WEIGHT 1142
+
+#define IDS_TAB_FIRST 200
+#define IDS_TAB_SECOND 201
+#define IDS_TAB_EMPTY 202
+
+#endif
