@@ -123,10 +123,12 @@ class CDrawnButtonPage : public CGalleryPage {
 class CGroupPage : public CGalleryPage {
     void Build() override {
         auto& group = ShowTall<CKbUiGroupCtrl>(Both(L"Group", L"组"), WS_BORDER, 40);
+        // It never ends a painting, so the system would ask for one for ever.
+        group.ShowWindow(SW_HIDE);
         Say(
             Both(L"Group controls keep their interface for hosts that draw them; here they hold their "
                  L"settings and draw nothing.",
-                 L"组控件保留其接口，由宿主绘制；在此仅保存设置，不绘制内容。"));
+                 L"组控件仅是接口：只保存设置，不绘制也不添加内容。这里的组控件已隐藏。"));
         Switch(Both(L"Active", L"活动"), group.GetActive(), [&group](bool on) { group.SetActive(on); });
         Switch(Both(L"Header hidden", L"隐藏标题"), group.GetHideGroupHeader(),
                [&group](bool on) { group.SetHideGroupHeader(on); });

@@ -75,15 +75,35 @@ private:
     CTabPage m_second{L"Section"};
 };
 
+/// A worksheet brings no behaviour of its own, down to painting and being destroyed: the client takes from a
+/// plain dialog what it wants.
 class CNoteSheet : public CKtUiDialogWorksheet {
 public:
     explicit CNoteSheet(CWnd* parent) : CKtUiDialogWorksheet(IDD_WORKSHEET, parent, AfxGetInstanceHandle()) {
         SetDialogName(L"Gallery Worksheet");
     }
+    BOOL DestroyWindow() override { return ::DestroyWindow(m_hWnd); }
+    BOOL PreTranslateMessage(MSG* message) override { return IsDialogMessage(message); }
 
 protected:
     void OnCancel() override { ShowWindow(SW_HIDE); }
+    LRESULT OnPlain(WPARAM, LPARAM) { return Default(); }
+    DECLARE_MESSAGE_MAP()
 };
+
+BEGIN_MESSAGE_MAP(CNoteSheet, CKtUiDialogWorksheet)
+    ON_MESSAGE(WM_ERASEBKGND, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_CTLCOLORDLG, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_CTLCOLORSTATIC, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_CTLCOLORBTN, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_NCPAINT, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_NCACTIVATE, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_NCHITTEST, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_NCLBUTTONDOWN, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_NCLBUTTONUP, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_NCMOUSEMOVE, &CNoteSheet::OnPlain)
+    ON_MESSAGE(WM_SIZE, &CNoteSheet::OnPlain)
+END_MESSAGE_MAP()
 
 CString answerText(INT_PTR answer) { return answer == IDOK ? L"IDOK" : L"IDCANCEL"; }
 
@@ -210,9 +230,11 @@ class CFileDialogPage : public CGalleryPage {
     void Build() override {
         Say(Both(L"The system's file dialog with the toolkit's notifications and editor commands.",
                  L"系统文件对话框，带有工具包的通知和编辑器命令。"));
-        Command(Both(L"Open...", L"打开..."), [this] { return ask(TRUE); });
+        m_posed = Command(Both(L"Open...", L"打开..."), [this] { return ask(TRUE); });
         Command(Both(L"Save as...", L"另存为..."), [this] { return ask(FALSE); });
     }
+    void Pose() override { Press(m_posed); }
+    UINT m_posed = 0;
     CString ask(int open) {
         CKtUiFileDialog dialog(open, L"dxf", nullptr, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
                                Both(L"DXF drawings (*.dxf)|*.dxf|All files (*.*)|*.*||",
@@ -239,9 +261,10 @@ std::vector<GalleryEntry> DialogPages() {
          L"m_tabs;\n"
          L"};\n// int OnTabChanging() of a page may refuse"},
         {kFamily, kChinese, L"Worksheet", L"工作表", MakePage<CWorksheetPage>,
-         L"class CNotes : public CKtUiDialogWorksheet {\npublic:\n    CNotes(CWnd* parent)\n"
-         L"        : CKtUiDialogWorksheet(IDD_NOTES, parent) {}\n};\n\nm_notes.Create(IDD_NOTES, this);\n"
-         L"m_notes.ShowWindow(SW_SHOW);"},
+         L"class CNotes : public CKtUiDialogWorksheet {\n    BOOL DestroyWindow() override {\n"
+         L"        return ::DestroyWindow(m_hWnd);\n    }\n    LRESULT OnPlain(WPARAM, LPARAM) {\n"
+         L"        return Default();\n    }\n};\n// what the client wants of a plain dialog:\n"
+         L"ON_MESSAGE(WM_ERASEBKGND, &CNotes::OnPlain)\nON_MESSAGE(WM_NCPAINT, &CNotes::OnPlain)"},
         {kFamily, kChinese, L"Dialog bar", L"对话框栏", MakePage<CBarPage>,
          L"class CPickers : public CKtUiDialogBar {\n    CKtUiTrueColorComboBox m_color;\n};\n\n"
          L"m_bar.Create(frame, IDD_BAR, CBRS_TOP,\n             AFX_IDW_DIALOGBAR);\n"

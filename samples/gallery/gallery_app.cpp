@@ -19,25 +19,6 @@
 
 namespace {
 
-constexpr DWORD kPatience = 20000;  // milliseconds until a picture counts as not taken
-
-/// Dispatches messages until `done`; false if that takes too long.
-bool pumpUntil(const std::function<bool()>& done, DWORD patience = kPatience) {
-    const ULONGLONG end = ::GetTickCount64() + patience;
-    while (!done()) {
-        if (::GetTickCount64() > end) return false;
-        MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (message.message == WM_QUIT) return false;
-            if (AfxGetApp()->PreTranslateMessage(&message)) continue;
-            ::TranslateMessage(&message);
-            ::DispatchMessageW(&message);
-        }
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-    }
-    return true;
-}
-
 /// The name of a page's picture: "07-true-color".
 CString pictureName(int number, CString name) {
     name.MakeLower();
@@ -47,21 +28,82 @@ CString pictureName(int number, CString name) {
     return text;
 }
 
-/// Opens every page and waits for its picture; false if one was not taken.
-bool takePictures(CGalleryDialog& gallery, const CString& folder) {
-    constexpr DWORD kSettles = 700;  // milliseconds for tips and fades
+/// The list of the pictures, a line each: name, family and page, in English, parted by tabs.
+void listPictures(const CGalleryDialog& gallery, const CString& folder) {
+    std::ofstream list(ktutCombinePath(folder, L"pages.txt").c_str());
     for (int i = 0; i < gallery.PageCount(); ++i) {
-        gallery.OpenPage(i);
-        gallery.Page()->Pose();
-        pumpUntil([] { return false; }, kSettles);
-        const CString request =
-            CString(ktutCombinePath(folder, pictureName(i + 1, gallery.Entry(i).name)).c_str()) + L".request";
-        std::ofstream(request.GetString()).put('\n');
-        if (!pumpUntil([&] { return !ktutPathExists(request); })) return false;
-        gallery.Page()->EndPose();
+        const GalleryEntry& entry = gallery.Entry(i);
+        list << CStringA(pictureName(i + 1, entry.name)).GetString() << '\t'
+             << CStringA(entry.family).GetString() << '\t' << CStringA(entry.name).GetString() << '\n';
     }
-    return true;
 }
+
+/// Goes through the pages by a timer, which also runs while a page shows a modal dialog: opens a page, has
+/// its picture taken, goes on.
+class PictureTaker {
+public:
+    PictureTaker(CGalleryDialog& gallery, const CString& folder) : m_gallery(gallery), m_folder(folder) {
+        taker = this;
+        ::SetTimer(nullptr, 0, kTick, [](HWND, UINT, UINT_PTR, DWORD) { taker->step(); });
+    }
+    int result() const { return m_result; }
+
+private:
+    static constexpr UINT kTick = 50;      // milliseconds
+    static constexpr int kSettles = 16;    // ticks for lists, tips and dialogs to come up, or to go
+    static constexpr int kPatience = 400;  // ticks until a picture counts as not taken
+    enum class Phase { kOpen, kSettle, kTaken, kClose };
+
+    void step() {
+        ++m_ticks;
+        switch (m_phase) {
+            case Phase::kOpen: return open();
+            case Phase::kSettle:
+                if (m_ticks >= kSettles) request();
+                return;
+            case Phase::kTaken:
+                if (m_ticks >= kPatience) return end(1);
+                if (!ktutPathExists(m_request)) next(Phase::kClose);
+                return;
+            case Phase::kClose:
+                if (m_ticks == 1) m_gallery.Page()->EndPose();
+                if (m_ticks >= kSettles && m_gallery.IsWindowEnabled()) next(Phase::kOpen);
+                return;
+        }
+    }
+    void open() {
+        if (m_page == m_gallery.PageCount()) return end(0);
+        next(Phase::kSettle);
+        // The system may take the window for the one in front before it can be.
+        if (m_page == 0) ::SetForegroundWindow(::GetDesktopWindow());
+        m_gallery.SetForegroundWindow();
+        m_gallery.OpenPage(m_page++);
+        m_gallery.Page()->Pose();
+    }
+    void request() {
+        const CString name = pictureName(m_page, m_gallery.Entry(m_page - 1).name);
+        m_request = CString(ktutCombinePath(m_folder, name).c_str()) + L".request";
+        std::ofstream(m_request.GetString()).put('\n');
+        next(Phase::kTaken);
+    }
+    void next(Phase phase) {
+        m_phase = phase;
+        m_ticks = 0;
+    }
+    void end(int result) {
+        m_result = result;
+        ::PostQuitMessage(result);
+    }
+
+    static inline PictureTaker* taker = nullptr;
+    CGalleryDialog& m_gallery;
+    const CString m_folder;
+    CString m_request;
+    Phase m_phase = Phase::kClose;  // the window comes up first
+    int m_page = 0;
+    int m_ticks = 1;
+    int m_result = 1;
+};
 
 class CGalleryApp : public CWinApp {
 public:
@@ -94,7 +136,11 @@ private:
             gallery.ShowWindow(SW_SHOW);
             gallery.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
             gallery.SetForegroundWindow();
-            m_result = takePictures(gallery, folder) ? 0 : 1;
+            gallery.SetActiveWindow();
+            listPictures(gallery, folder);
+            const PictureTaker pictures(gallery, folder);
+            Run();
+            m_result = pictures.result();
             gallery.DestroyWindow();
         } else {
             gallery.DoModal();

@@ -5,7 +5,6 @@
 namespace {
 
 constexpr int kLongestLog = 500;  // lines
-constexpr int kCodeHeight = 80;   // tenths of a point
 
 }  // namespace
 
@@ -27,8 +26,6 @@ BOOL CGalleryDialog::OnInitDialog() {
     StretchControlX(IDC_PAGE_PLACE, 100);
     for (const unsigned id : {IDC_LOG, IDC_CODE}) StretchControlY(id, 100);
     StretchControlX(IDC_CODE, 100);
-    m_codeFont.CreatePointFont(kCodeHeight, L"Courier New");
-    GetDlgItem(IDC_CODE)->SetFont(&m_codeFont);
     fillTree();
     OpenPage(0);
     m_tree.SetFocus();

@@ -32,6 +32,5 @@ private:
     std::vector<GalleryEntry> m_entries;
     std::vector<HTREEITEM> m_items;
     CTreeCtrl m_tree;
-    CFont m_codeFont;
     std::unique_ptr<CGalleryPage> m_page;
 };

@@ -146,12 +146,13 @@ void CGalleryPage::Switch(const CString& text, bool on, std::function<void(bool)
                          }});
 }
 
-void CGalleryPage::Command(const CString& text, std::function<CString()> pressed) {
+UINT CGalleryPage::Command(const CString& text, std::function<CString()> pressed) {
     const UINT id = addButton(text, BS_PUSHBUTTON, kCommandWidth);
     m_clicked.push_back({id, [this, text, pressed] {
                              const CString answer = pressed();
                              if (!answer.IsEmpty()) Tell(text + L": " + answer);
                          }});
+    return id;
 }
 
 void CGalleryPage::Tell(const CString& line) {
@@ -171,11 +172,13 @@ void CGalleryPage::PoseFocus(CWnd& control) {
 void CGalleryPage::EndPose() {
     if (m_posed != nullptr) m_posed->SendMessage(CB_SHOWDROPDOWN, FALSE);
     m_posed = nullptr;
+    const HWND top = ::GetAncestor(m_hWnd, GA_ROOT), dialog = ::GetLastActivePopup(top);
+    if (dialog != top && !::IsWindowEnabled(top)) ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
 }
 
 CString CGalleryPage::nameOf(unsigned id) const {
     for (const auto& [each, name] : m_names)
-        if (each == id) return name;
+        if (each == id) return name + L": ";
     return {};
 }
 
@@ -190,7 +193,7 @@ BOOL CGalleryPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     const auto control = reinterpret_cast<HWND>(lParam);
     wchar_t name[32] = {};
     if (control != nullptr) ::GetClassNameW(control, name, 32);
-    if (const wchar_t* word = commandWord(name, code)) Tell(nameOf(id) + L": " + word);
+    if (const wchar_t* word = commandWord(name, code)) Tell(nameOf(id) + word);
     return CKtUiDialog::OnCommand(wParam, lParam);
 }
 
@@ -214,7 +217,7 @@ HBRUSH CGalleryPage::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
 void CGalleryPage::Hear(KBUI_NOTIFY notification, unsigned id) {
     if (notification == kKbUiNotifyControlInvalid) Mark(id, true);
     if (notification == kKbUiNotifyControlValid) Mark(id, false);
-    if (const wchar_t* word = wordOf(notification)) Tell(nameOf(id) + L": " + word);
+    if (const wchar_t* word = wordOf(notification)) Tell(nameOf(id) + word);
 }
 
 KBUI_REPLY CGalleryPage::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __int64 data) {

@@ -34,7 +34,7 @@ public:
     void Hear(KBUI_NOTIFY notification, unsigned id);
     /// What is to be seen when a picture is taken: a list open, a tip shown. Nothing at first.
     virtual void Pose() {}
-    /// Undoes Pose.
+    /// Undoes Pose; a modal dialog over the gallery is cancelled.
     virtual void EndPose();
 
 protected:
@@ -71,11 +71,14 @@ protected:
     /// A check box, ticked if `on`; `turned` runs at each click, and the log tells.
     void Switch(const CString& text, bool on, std::function<void(bool on)> turned);
     /// A push button; `pressed` runs at each click, and its answer goes to the log if there is one.
-    void Command(const CString& text, std::function<CString()> pressed);
+    /// Answers the id of the button.
+    UINT Command(const CString& text, std::function<CString()> pressed);
     /// A line for the log.
     void Tell(const CString& line);
     /// Shows the value of control `id` as a bad one, or no longer.
     void Mark(unsigned id, bool isInvalid);
+    /// Presses a command for a picture, as soon as messages are dispatched.
+    void Press(UINT command) { PostMessage(WM_COMMAND, MAKEWPARAM(command, BN_CLICKED)); }
     /// Opens the list of a combo box for a picture.
     void PoseOpen(CWnd& combo);
     /// Makes the focus go to `control` for a picture.
@@ -99,6 +102,7 @@ private:
     CRect pixels(CRect units) const;
     void finish(CWnd& control);
     UINT addButton(const CString& text, DWORD style, int width);
+    /// What lines of the log begin with for control `id`; nothing for a control without a row.
     CString nameOf(unsigned id) const;
 
     template <class Control>

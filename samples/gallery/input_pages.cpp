@@ -101,7 +101,7 @@ class CTypedComboPage : public CGalleryPage {
 class CTellingSearchBox : public CKbUiSearchBox {
 public:
     explicit CTellingSearchBox(std::function<void(const wchar_t*)> tell) : m_tell(std::move(tell)) {
-        SetDefaultText(Both(L"Search layers", L"搜索图层"));
+        SetNotification(Both(L"Search layers", L"搜索图层"));
     }
     void EditChanged() override {
         m_tell(L"EditChanged");
@@ -189,7 +189,7 @@ std::vector<GalleryEntry> InputPages() {
              L"        filterLayers();\n"
              L"    }\n"
              L"};\n"
-             L"m_search.SetDefaultText(L\"Search layers\");\n"
+             L"m_search.SetNotification(L\"Search layers\");\n"
              L"m_search.Create(WS_CHILD | WS_VISIBLE\n"
              L"    | WS_BORDER, place, this, IDC_SEARCH);"}};
 }

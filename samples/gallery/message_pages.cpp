@@ -21,22 +21,26 @@ class CMessageBoxPage : public CGalleryPage {
                      {L"Retry, Cancel", L"重试、取消", MB_RETRYCANCEL | MB_ICONSTOP},
                      {L"Abort, Retry, Ignore", L"中止、重试、忽略", MB_ABORTRETRYIGNORE | MB_ICONSTOP}};
         for (const auto& each : boxes)
-            Command(Both(each.english, each.chinese), [this, type = each.type] { return ask(type); });
+            m_posed =
+                Command(Both(each.english, each.chinese), [this, type = each.type] { return ask(type); });
     }
     CString ask(UINT type) {
         return numbered(KtUiMessageBox(
-            m_hasCaption ? Both(L"Bracket", L"支架").GetString() : nullptr,
+            Both(L"Bracket", L"支架"),
             Both(L"The drawing was changed by another program.", L"图形已被其他程序更改。"), type));
     }
-    bool m_hasCaption = true;
+    void Pose() override { Press(m_posed - 2); }  // Yes, No, Cancel
+    UINT m_posed = 0;
 };
 
 class CAlertPage : public CGalleryPage {
     void Build() override {
         Command(Both(L"One answer", L"一个答案"), [this] { return ask(false, 0); });
-        Command(Both(L"Two answers", L"两个答案"), [this] { return ask(true, 0); });
+        m_posed = Command(Both(L"Two answers", L"两个答案"), [this] { return ask(true, 0); });
         Command(Both(L"Cancel is the default", L"默认为取消"), [this] { return ask(true, 2); });
     }
+    void Pose() override { Press(m_posed); }
+    UINT m_posed = 0;
     CString ask(bool two, unsigned standard) {
         return numbered(
             KbUiAlertDialog(Both(L"Export", L"输出"),
@@ -52,10 +56,11 @@ class CTaskDialogPage : public CGalleryPage {
         Switch(Both(L"Verification box", L"验证框"), true, [this](bool on) { m_verifies = on; });
         Switch(Both(L"Thirty commands", L"三十个命令"), false, [this](bool on) { m_many = on; });
         Switch(Both(L"A long text", L"长文本"), false, [this](bool on) { m_isLong = on; });
-        Command(Both(L"Ask", L"询问"), [this] { return ask(); });
+        m_posed = Command(Both(L"Ask", L"询问"), [this] { return ask(); });
     }
+    void Pose() override { Press(m_posed); }
     CString ask() {
-        constexpr int kFirst = 101, kLinks = 0x0040, kCancel = 0x0008;
+        constexpr int kFirst = 101, kLinks = 0x0010, kRelative = 0x1000, kCancel = 0x0008;
         CKtUiTaskDialog dialog;
         dialog.SetWindowTitle(Both(L"Gallery", L"控件库"));
         dialog.SetMainInstruction(
@@ -64,7 +69,7 @@ class CTaskDialogPage : public CGalleryPage {
         if (m_isLong)
             for (int i = 0; i < 5; ++i) content += content;
         dialog.SetContent(content);
-        dialog.SetOptions(m_links ? kLinks : 0);
+        dialog.SetOptions(kRelative | (m_links ? kLinks : 0));
         dialog.SetCommonButtons(kCancel);
         const int count = m_many ? 30 : 2;
         for (int i = 0; i < count; ++i) {
@@ -81,6 +86,7 @@ class CTaskDialogPage : public CGalleryPage {
             text += Both(L", and don't ask again", L"，且不再询问");
         return text;
     }
+    UINT m_posed = 0;
     bool m_links = true, m_verifies = true, m_many = false, m_isLong = false;
 };
 
@@ -98,7 +104,7 @@ std::vector<GalleryEntry> MessagePages() {
              L"    case 1: askFile(); break;\n    default: break;  // Cancel\n}"},
             {kFamily, kChinese, L"Task dialog", L"任务对话框", MakePage<CTaskDialogPage>,
              L"CKtUiTaskDialog dialog;\ndialog.SetMainInstruction(L\"Save the changes?\");\n"
-             L"dialog.SetOptions(0x40);        // links\ndialog.SetCommonButtons(0x08);  // Cancel\n"
+             L"dialog.SetOptions(0x10);        // links\ndialog.SetCommonButtons(0x08);  // Cancel\n"
              L"dialog.AddCommandControl(101, L\"Save\");\ndialog.SetCommandControlExtend(101,\n"
              L"    L\"The file is replaced.\");\ndialog.SetVerificationCheckboxText(\n    L\"Don't ask "
              L"again\");\n"

@@ -104,15 +104,13 @@ class CPlotStylePage : public CPickerPage<CKtUiPlotStyleNamesComboBox> {
 };
 
 class CStyleTablesPage : public CPickerPage<CKtUiPlotStyleTablesComboBox> {
-    void prepare(CKtUiPlotStyleTablesComboBox& picker) override {
-        picker.SetFileType(true, true);
-        refill(picker);
-    }
+    /// It has filled itself when it was made.
+    void prepare(CKtUiPlotStyleTablesComboBox& picker) override { picker.SetFileType(true, true); }
     void addOptions() override {
-        Command(Both(L"Add a missing table", L"添加缺失的样式表"), [this]() -> CString {
-            const int index = m_picker->AddMissingStyleTable(L"office.ctb");
-            m_picker->SetCurSel(index);
-            return m_picker->IsMissing(index) ? Both(L"missing", L"缺失") : Both(L"found", L"已找到");
+        Command(Both(L"How many tables?", L"样式表数量"), [this]() -> CString {
+            CString count;
+            count.Format(L"%d", m_picker->GetCount() - 1);
+            return count;
         });
     }
 };
@@ -179,10 +177,9 @@ std::vector<GalleryEntry> PickerPages() {
          L"if (drawing.getPSTYLEMODE() != 0)\n    m_style.SetColorDependentMode();\nelse\n"
          L"    m_style.AddItems();\n\nCString chosen;\nm_style.GetLBText(m_style.GetCurSel(), chosen);"},
         {kFamily, kChinese, L"Plot style table", L"打印样式表", MakePage<CStyleTablesPage>,
-         L"CKtUiPlotStyleTablesComboBox m_table;\n\nDDX_Control(x, IDC_TABLE, m_table);\n"
-         L"m_table.SetFileType(true, true);\nm_table.AddItems();\n"
-         L"m_table.AddMissingStyleTable(L\"office.ctb\");\n\nif (m_table.IsMissing(m_table.GetCurSel()))\n"
-         L"    warn();"},
+         L"CKtUiPlotStyleTablesComboBox m_table;\n\n// fills itself from the folders of the path\n"
+         L"// variable \"PrinterStyleSheetDir\"\nDDX_Control(x, IDC_TABLE, m_table);\n\nCString chosen;\n"
+         L"m_table.GetLBText(m_table.GetCurSel(), chosen);"},
         {kFamily, kChinese, L"Arrowhead", L"箭头", MakePage<CArrowheadPage>,
          L"CKtUiArrowHeadComboBox m_arrow;\n\nDDX_Control(x, IDC_ARROW, m_arrow);\n"
          L"m_arrow.SetUseOrigin2(1);\nm_arrow.SetCurSel(0);\n\nint chosen = static_cast<int>(\n"

@@ -11,11 +11,6 @@ class CTextTipPage : public CGalleryPage {
         Say(Both(L"A control whose text is cut off shows it whole in a text tip where the pointer rests.",
                  L"文本被截断的控件在指针停留处以文本提示完整显示。"));
         Switch(Both(L"Tips on", L"启用提示"), GetUseTips() != 0, [this](bool on) { SetUseTips(on); });
-        m_tip = std::make_unique<CKbUiTextTip>();
-        m_tip->Create(this);
-        AtEnd([this] {
-            if (m_tip->m_hWnd) m_tip->DestroyWindow();
-        });
     }
     void Pose() override {
         CPoint inside(8, 6);
@@ -24,7 +19,6 @@ class CTextTipPage : public CGalleryPage {
         m_edit->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(8, 6));
     }
     CKtUiStringEdit* m_edit = nullptr;
-    std::unique_ptr<CKbUiTextTip> m_tip;
 };
 
 class CRichTipPage : public CGalleryPage {

@@ -166,6 +166,66 @@ void showTextStyle(Drafter& drafter) {
     tell("text-drawn", L"OK: the titles are drawn with it");
 }
 
+/// Every page of the options, the extension's too; turned by keys, which are the same in any language.
+void showOptions(Drafter& drafter) {
+    drafter.activate(drafter.frame());
+    drafter.key('O', true, false, true);
+    HWND dialog = opened(drafter, drafter.frame(), "the options");
+    HWND tabs = item(dialog, IDC_TABS);
+    const int count = static_cast<int>(::SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
+    const char* const names[] = {"options-files", "options-display", "options-units", "options-extension"};
+    for (int i = 0; i < count && i < 4; ++i) {
+        waitUntil([&] { return ::SendMessageW(tabs, TCM_GETCURSEL, 0, 0) == i; });
+        tell(names[i], L"Page " + std::to_wstring(i + 1) + L" of \"" + textOf(dialog) + L"\"");
+        drafter.key(VK_NEXT, true);
+    }
+    close(drafter, dialog);
+    if (count != 4) throw Missing{"the extension's page"};
+}
+
+/// Measures a distance in the drawing.
+void showMeasure(Drafter& drafter) {
+    HWND dialog = openByKey(drafter, 'M', "the measure dialog");
+    drafter.click(item(dialog, IDC_PICK_DISTANCE));
+    waitUntil([&] { return !::IsWindowVisible(dialog) && ::IsWindowEnabled(drafter.frame()); });
+    HWND status = ::GetDlgItem(drafter.frame(), 0xE801);
+    const std::wstring first = textOf(status);
+    drafter.click(drafter.view(), {200, 200});
+    waitUntil([&] { return textOf(status) != first; });
+    drafter.hover(drafter.view(), {360, 280});
+    tell("measure-band", L"Picked the first place: a rubber band follows");
+    drafter.click(drafter.view(), {400, 300});
+    waitUntil([&] { return ::IsWindowVisible(dialog) && !::IsWindowEnabled(drafter.frame()); });
+    tell("measure", L"The distance is " + textOf(item(dialog, IDC_MEASURED_DISTANCE)));
+    close(drafter, dialog);
+}
+
+void showPickerBar(Drafter& drafter) {
+    drafter.activate(drafter.frame());
+    drafter.key('A', true);
+    HWND bar = ::GetDlgItem(drafter.frame(), 0xE805);
+    if (bar == nullptr) throw Missing{"the picker bar"};
+    HWND color = item(bar, IDC_TRUE_COLOR);
+    drafter.drop(color);
+    tell("picker-bar",
+         L"Dropped the colors of the picker bar: " + std::to_wstring(entryCount(color)) + L" entries");
+    drafter.key(VK_ESCAPE);
+    drafter.activate(drafter.frame());
+    drafter.key(VK_ESCAPE);
+}
+
+/// The question that closing with changes asks; cancelled.
+void showQuestion(Drafter& drafter) {
+    HWND dialog = openByKey(drafter, '1', "the properties dialog");
+    drafter.pick(item(dialog, IDC_LINE_WEIGHT), 8);
+    drafter.click(item(dialog, IDOK));
+    drafter.waitUntilGone(dialog);
+    ::PostMessageW(drafter.frame(), WM_CLOSE, 0, 0);
+    HWND question = opened(drafter, drafter.frame(), "the question for changes");
+    tell("unsaved-changes", L"Closed with changes: \"" + textOf(question) + L"\" asks");
+    close(drafter, question);
+}
+
 /// Whether the saved drawing holds what was picked.
 bool isStored(Drafter& drafter, const std::wstring& path) {
     drafter.activate(drafter.frame());
@@ -210,6 +270,10 @@ int ShowDialogs() {
         showProperties(drafter);
         showDimensionStyle(drafter);
         showTextStyle(drafter);
+        showOptions(drafter);
+        showMeasure(drafter);
+        showPickerBar(drafter);
+        showQuestion(drafter);
     } catch (const Missing& missing) {
         std::printf("error: %s did not come up\n", missing.what);
         return 1;
