@@ -80,7 +80,7 @@ class CTaskDialogPage : public CGalleryPage {
                 kFirst + i, Both(L"The file on the disk is replaced, or not.", L"替换或保留磁盘上的文件。"));
         }
         if (m_verifies) dialog.SetVerificationCheckboxText(Both(L"&Don't ask again", L"不再询问(&D)"));
-        const auto answer = dialog.DoModal(m_hWnd);
+        const auto answer = dialog.DoModal(::GetAncestor(m_hWnd, GA_ROOT));
         CString text = numbered(answer);
         if (m_verifies && dialog.GetVerificationCheckboxState())
             text += Both(L", and don't ask again", L"，且不再询问");
