@@ -121,15 +121,15 @@ TEST_F(HelpTopics, ADialogThatBelongsToADialogOpensItsPageOnce) {
 }
 
 TEST_F(HelpTopics, ThePickerBarHasOne) {
-    CFrameWnd frame;
-    frame.Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 700, 300));
+    auto* frame = new CFrameWnd;  // deletes itself
+    frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 700, 300));
     CPickerBar bar([] {});
-    ASSERT_TRUE(bar.CreateBar(&frame));
+    ASSERT_TRUE(bar.CreateBar(frame));
     bar.ShowWindow(SW_SHOW);
     bar.GetDlgItem(IDC_LINETYPE)->SetFocus();
     host.uiHost()->showHelp(nullptr);
     EXPECT_EQ(topics, times(1, L"PickerBar"));
-    frame.DestroyWindow();
+    frame->DestroyWindow();
 }
 
 namespace {

@@ -24,11 +24,14 @@ protected:
         ::SetThreadLocale(MAKELCID(GetParam(), SORT_DEFAULT));
         host.SetCurrentDocument(&document);
         gallery = std::make_unique<Gallery>();
+        // What the host's messages belong to.
+        AfxGetApp()->m_pMainWnd = gallery.get();
         gallery->Create(IDD_GALLERY, nullptr);
         gallery->ShowWindow(SW_SHOW);
         ui_test::pump();
     }
     ~Pages() override {
+        AfxGetApp()->m_pMainWnd = nullptr;
         gallery->DestroyWindow();
         gallery.reset();
         host.SetCurrentDocument(nullptr);
