@@ -7,6 +7,7 @@
 #include "../../../samples/drafter/dimension_style_dialog.h"
 #include "../../../samples/drafter/drawing_picker.h"
 #include "../../../samples/drafter/extensions.h"
+#include "../../../samples/drafter/layers_dialog.h"
 #include "../../../samples/drafter/measure_dialog.h"
 #include "../../../samples/drafter/name_dialog.h"
 #include "../../../samples/drafter/options_dialog.h"
@@ -93,6 +94,21 @@ TEST_F(HelpTopics, EachDialogOpensItsOwn) {
     EXPECT_EQ(topicsOf(block), times(1, L"BlockChoice"));
 }
 
+TEST_F(HelpTopics, TheLayersDialogHasOneInTheListAndInTheSearchBox) {
+    CUndoHistory history(drawing);
+    CLayersDialog layers([] {});
+    ASSERT_TRUE(layers.CreateBeside(&parent));
+    layers.Show(*drawing, history);
+    layers.ShowWindow(SW_SHOW);
+    for (const int id : {IDC_LAYER_LIST, IDC_LAYER_SEARCH}) {
+        topics.clear();
+        layers.GetDlgItem(id)->SetFocus();
+        pressF1();
+        EXPECT_EQ(topics, times(1, L"Layers")) << id;
+    }
+    layers.DestroyWindow();
+}
+
 TEST_F(HelpTopics, ThePagesOfTheOptionsHaveTheirs) {
     EXPECT_EQ(topicOfPage(0), L"OptionsFiles");
     EXPECT_EQ(topicOfPage(1), L"OptionsDisplay");
@@ -145,7 +161,8 @@ const std::map<UINT, const wchar_t*> kTopics = {{IDD_PROPERTIES, L"Properties"},
                                                 {IDD_OPTIONS_DISPLAY, L"OptionsDisplay"},
                                                 {IDD_OPTIONS_UNITS, L"OptionsUnits"},
                                                 {IDD_PICKER_BAR, L"PickerBar"},
-                                                {IDD_MEASURE, L"Measure"}};
+                                                {IDD_MEASURE, L"Measure"},
+                                                {IDD_LAYERS, L"Layers"}};
 
 /// The ids of the dialog templates of a module.
 std::vector<UINT> dialogsOf(HMODULE module) {
