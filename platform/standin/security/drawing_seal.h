@@ -10,6 +10,8 @@
 #include <optional>
 #include <string>
 
+#include "standin_api.h"
+
 struct DrawingSeal {
     std::string digest;  ///< SHA-256 of the drawing file, 64 digits 0-9a-f
     std::string date;    ///< universal time, "2026-03-01 14:05"
@@ -18,8 +20,8 @@ struct DrawingSeal {
 };
 
 /// The text of the seal's file, UTF-8, lines ended by CR and LF.
-std::string sealText(const DrawingSeal& seal);
+STANDIN_API std::string sealText(const DrawingSeal& seal);
 /// The seal that `text` holds; nothing if it is none, or not whole. Lines may end with LF alone.
-std::optional<DrawingSeal> parseSeal(const std::string& text);
+STANDIN_API std::optional<DrawingSeal> parseSeal(const std::string& text);
 /// `name` as a signer: control characters become blanks, blanks around it go.
-std::string signerName(const std::string& name);
+STANDIN_API std::string signerName(const std::string& name);

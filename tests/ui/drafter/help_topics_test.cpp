@@ -88,7 +88,8 @@ TEST_F(HelpTopics, EachDialogOpensItsOwn) {
     NoPicker picker;
     WithOwnSettings<CMeasureDialog> measure(*drawing, picker, &parent);
     EXPECT_EQ(topicsOf(measure), times(1, L"Measure"));
-    WithOwnSettings<CNameDialog> name(std::vector<OdString>(), &parent);
+    WithOwnSettings<CNameDialog> name(std::vector<OdString>(), &parent,
+                                      CNameDialog::Words{IDS_NEW_STYLE_TITLE, IDS_TAKEN_STYLE_NAME});
     EXPECT_EQ(topicsOf(name), times(2, L"StyleName"));
     WithOwnSettings<CNameChoiceDialog> block(std::vector<OdString>{L"A"}, &parent);
     EXPECT_EQ(topicsOf(block), times(1, L"BlockChoice"));
@@ -139,7 +140,7 @@ TEST_F(HelpTopics, ADialogThatBelongsToADialogOpensItsPageOnce) {
 TEST_F(HelpTopics, ThePickerBarHasOne) {
     auto* frame = new CFrameWnd;  // deletes itself
     frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 700, 300));
-    CPickerBar bar([] {});
+    CPickerBar bar([](UINT) {});
     ASSERT_TRUE(bar.CreateBar(frame));
     bar.ShowWindow(SW_SHOW);
     bar.GetDlgItem(IDC_LINETYPE)->SetFocus();

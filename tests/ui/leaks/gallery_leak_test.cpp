@@ -49,6 +49,9 @@ protected:
         for (const BareWindow& each : page) {
             const HWND window = ::CreateWindowExW(0, each.name.c_str(), L"", each.style, 0, 0, 60, 20,
                                                   parent.m_hWnd, nullptr, AfxGetInstanceHandle(), nullptr);
+            // This Wine's static control keeps a block for each font that it is given.
+            ::SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)),
+                           FALSE);
             ::DestroyWindow(window);
         }
     }
