@@ -112,7 +112,13 @@ bool obey(std::wistringstream& line) {
                               reinterpret_cast<LPARAM>(from));
     }
     line >> id;
-    if (!wait_for([&] { return control(id) != nullptr; })) return false;
+    // What a user does goes to what is seen; a page that comes back sets its controls before it is shown.
+    const bool is_deed = verb == L"click" || verb == L"type";
+    if (!wait_for([&] {
+            const HWND found = control(id);
+            return found != nullptr && (!is_deed || (::IsWindowVisible(found) && ::IsWindowEnabled(found)));
+        }))
+        return false;
     if (verb == L"click") return ::PostMessageW(control(id), BM_CLICK, 0, 0);
     if (verb == L"type")
         return ::SendMessageW(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(rest(line).c_str())) != 0;

@@ -24,7 +24,8 @@ std::wstring findHelpPage(const std::wstring& folder, const std::wstring& langua
     const std::wstring wanted = topic.empty() ? kHelpStartTopic : topic;
     if (!isHelpTopic(wanted)) return {};
     for (const std::wstring& each : {language, std::wstring(kEnglish)}) {
-        const std::wstring page = folder + L"\\" + each + L"\\" + wanted + L".html";
+        std::wstring page = folder;
+        page.append(L"\\").append(each).append(L"\\").append(wanted).append(L".html");
         if (exists(page)) return page;
     }
     return {};
