@@ -183,11 +183,17 @@ void CDrawingView::OnMouseMove(UINT, CPoint point) {
 }
 
 void CDrawingView::updateTip(CPoint pixel) {
-    const OdDbObjectId entity = m_panning || !AreTipsOn() ? OdDbObjectId() : entityAt(pixel);
+    // Where a place is picked, a tip would cover the drawing.
+    const bool isQuiet = m_panning || IsPickingPlaces() || !AreTipsOn();
+    const OdDbObjectId entity = isQuiet ? OdDbObjectId() : entityAt(pixel);
     if (entity == m_tipEntity) return;
     HideTip();
     if (entity.isNull()) return;
-    if (m_tip.m_hWnd == nullptr && !m_tip.Create(this)) return;
+    if (m_tip.m_hWnd == nullptr) {
+        if (!m_tip.Create(this)) return;
+        // The mouse goes through the tip, which is layered: what is clicked is the drawing behind it.
+        m_tip.ModifyStyleEx(0, WS_EX_TRANSPARENT);
+    }
     m_tipEntity = entity;
     CPoint place = pixel + CSize(kTipOffset, kTipOffset);
     ClientToScreen(&place);

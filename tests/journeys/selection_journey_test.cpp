@@ -107,4 +107,32 @@ TEST_F(Selection, ByKeysAlone) {
     EXPECT_EQ(selected(), L"Properties - Line") << "given up";
 }
 
+/// The tip of an object, once it has come up beside the pointer.
+HWND shownTip() {
+    HWND shown = nullptr;
+    waitUntil([&] {
+        for (HWND tip = nullptr;
+             (tip = ::FindWindowExW(nullptr, tip, L"Quorvex Velmora tip", nullptr)) != nullptr;) {
+            RECT place = {};
+            ::GetWindowRect(tip, &place);
+            if (::IsWindowVisible(tip) && place.left > 0 && place.right > place.left) shown = tip;
+        }
+        return shown != nullptr;
+    });
+    return shown;
+}
+
+TEST_F(Selection, AClickOnATipIsAClickOnWhatLiesBehindIt) {
+    drafter->key('A', true);
+    drafter->hover(drafter->view(), at(30, 40));
+    HWND tip = shownTip();
+    ASSERT_NE(tip, nullptr);
+    RECT place = {};
+    ::GetWindowRect(tip, &place);
+    POINT inside = {place.left + 4, place.top + 4};
+    ::ScreenToClient(drafter->view(), &inside);
+    drafter->click(drafter->view(), inside);
+    EXPECT_EQ(selected(), L"Properties - current settings") << "there was nothing behind it";
+}
+
 }  // namespace
