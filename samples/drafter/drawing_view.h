@@ -65,6 +65,8 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    /// A press soon after another one counts like any other.
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* now);
     afx_msg void OnMButtonDown(UINT flags, CPoint point);

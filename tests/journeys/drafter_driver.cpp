@@ -222,10 +222,10 @@ void Drafter::press(HWND window, POINT client) {
     // Two clicks in quick succession would be a double click.
     const ULONGLONG quiet = m_lastClick + ::GetDoubleClickTime() + kPoll, now = ::GetTickCount64();
     if (now < quiet) ::Sleep(static_cast<DWORD>(quiet - now));
-    m_lastClick = ::GetTickCount64();
     hover(window, client);
     ::ClientToScreen(window, &client);
     sendMouse(client, MOUSEEVENTF_LEFTDOWN);
+    m_lastClick = ::GetTickCount64();
     settle(window);
 }
 

@@ -135,4 +135,13 @@ TEST_F(Selection, AClickOnATipIsAClickOnWhatLiesBehindIt) {
     EXPECT_EQ(selected(), L"Properties - current settings") << "there was nothing behind it";
 }
 
+TEST_F(Selection, APressSoonAfterAnotherCountsLikeAnyOther) {
+    drafter->key('A', true);
+    const POINT beside = at(80, 45);
+    const LPARAM place = MAKELPARAM(beside.x, beside.y);
+    ::PostMessageW(drafter->view(), WM_LBUTTONDBLCLK, MK_LBUTTON, place);
+    ::PostMessageW(drafter->view(), WM_LBUTTONUP, 0, place);
+    EXPECT_EQ(selected(), L"Properties - current settings");
+}
+
 }  // namespace
