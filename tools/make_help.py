@@ -18,12 +18,7 @@ PAGE = """<!DOCTYPE html>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width">
 <title>{title}</title>
-<style>
-body {{ font: 15px/1.5 "Segoe UI", "Microsoft YaHei", sans-serif; max-width: 42em; margin: 2em auto; padding: 0 1em; color: #202020; background: #fff; }}
-h1 {{ font-size: 1.6em; border-bottom: 1px solid #c8c8c8; }} h2 {{ font-size: 1.2em; }}
-code {{ background: #f0f0f0; padding: 0 .25em; }} a {{ color: #0054a6; }}
-@media (prefers-color-scheme: dark) {{ body {{ color: #e8e8e8; background: #202225; }} code {{ background: #383b40; }} a {{ color: #7ab8f5; }} }}
-</style>
+<link rel="stylesheet" href="../help.css">
 </head>
 <body>
 {body}

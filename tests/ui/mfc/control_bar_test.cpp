@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "frame_with_view.h"
 #include "sent_messages.h"
 #include "ui_test.h"
 
@@ -66,25 +67,7 @@ BEGIN_MESSAGE_MAP(Frame, CFrameWnd)
     ON_UPDATE_COMMAND_UI(kTwo, &Frame::OnUpdateTwo)
 END_MESSAGE_MAP()
 
-class Bars : public ::testing::Test {
-protected:
-    Bars() : frame(new Frame) {
-        frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 550, 450));
-        view.Create(AfxRegisterWndClass(0), L"view", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), frame,
-                    AFX_IDW_PANE_FIRST);
-        frame->GetClientRect(&client);
-    }
-    ~Bars() override { frame->DestroyWindow(); }
-    CRect rectOf(const CWnd& window) {
-        CRect rect;
-        window.GetWindowRect(&rect);
-        frame->ScreenToClient(&rect);
-        return rect;
-    }
-    Frame* frame;
-    CWnd view;
-    CRect client;
-};
+using Bars = FrameWithView<Frame>;
 
 TEST_F(Bars, TakeTheirEdgesInTheOrderOfTheWindowsAndTheViewTheRest) {
     PlainBar top(CSize(10, 20)), left(CSize(30, 10)), bottom(CSize(10, 15)), right(CSize(25, 10));
