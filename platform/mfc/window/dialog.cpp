@@ -3,6 +3,7 @@
 
 #include <kmfc/dialog.h>
 
+#include "command_route.h"
 #include "thread_state.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -251,14 +252,7 @@ BOOL CDialog::OnInitDialog() { return UpdateData(FALSE) ? TRUE : (EndDialog(-1),
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
-    // Commands and their update requests go on to the owner; notifications of the dialog's controls do not.
-    if (nCode != CN_COMMAND && nCode != CN_UPDATE_COMMAND_UI) return FALSE;
-    if (nID >= 0xF000 || nID < 0x8000) return FALSE;
-    if (CWnd* owner = GetParent()) {
-        if (owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
-    }
-    CWinThread* thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return kmfc::route_to_owner(*this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {

@@ -7,6 +7,7 @@
 
 #include <kmfc/tab_ctrl.h>
 
+#include "command_route.h"
 #include "thread_state.h"
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
@@ -155,17 +156,22 @@ BOOL CPropertySheet::create_window(HWND owner, DWORD style, DWORD exStyle) {
 }
 
 LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND window = m_hWnd;
+    const auto leave = [this, window = m_hWnd] {
+        // The object may have gone with its window.
+        if (CWnd::FromHandlePermanent(window) != this) return false;
+        --m_depth;
+        if (std::exchange(m_hooked, false)) AfxUnhookWindowCreate();
+        return true;
+    };
     ++m_depth;
-    const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
-    // The object may have gone with its window.
-    if (CWnd::FromHandlePermanent(window) != this) return result;
-    --m_depth;
-    if (m_hooked) {
-        m_hooked = false;
-        AfxUnhookWindowCreate();
+    LRESULT result = 0;
+    try {
+        result = CWnd::WindowProc(message, wParam, lParam);
+    } catch (...) {
+        leave();
+        throw;
     }
-    if (m_depth == 0 && is_closed()) end_closed();
+    if (leave() && m_depth == 0 && is_closed()) end_closed();
     return result;
 }
 
@@ -394,13 +400,7 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
 
 BOOL CPropertySheet::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
-    if (nCode != CN_COMMAND && nCode != CN_UPDATE_COMMAND_UI) return FALSE;
-    if (nID >= 0xF000 || nID < 0x8000) return FALSE;
-    if (CWnd* owner = GetParent()) {
-        if (owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
-    }
-    CWinThread* thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return kmfc::route_to_owner(*this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 LRESULT CPropertySheet::OnCommandHelp(WPARAM wParam, LPARAM lParam) {

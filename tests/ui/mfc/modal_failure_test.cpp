@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ui_test.h"
+#include "watchdog.h"
 
 namespace {
 
@@ -84,26 +85,6 @@ protected:
 BEGIN_MESSAGE_MAP(Late, Failing)
     ON_MESSAGE(WM_INITDIALOG, &Late::OnInitialise)
 END_MESSAGE_MAP()
-
-/// Ends a loop that hangs, and says so.
-class Watchdog {
-public:
-    Watchdog() : m_timer(::SetTimer(nullptr, 0, 5000, &bite)) { hung = false; }
-    ~Watchdog() {
-        ::KillTimer(nullptr, m_timer);
-        EXPECT_FALSE(hung) << "the modal loop went on without its window";
-    }
-    Watchdog(const Watchdog&) = delete;
-    Watchdog& operator=(const Watchdog&) = delete;
-
-private:
-    static void CALLBACK bite(HWND, UINT, UINT_PTR, DWORD) {
-        if (!hung) ::PostQuitMessage(0);
-        hung = true;
-    }
-    static inline bool hung = false;
-    UINT_PTR m_timer;
-};
 
 /// Template bytes of an empty dialog that asks to be visible.
 const std::vector<WORD>& visible_template() {
@@ -314,7 +295,7 @@ TEST_F(ModalFailure, WhatAHandlerThrowsComesOutOfDoModal) {
     Failing dialog(401, &parent);
     dialog.onAct = [](Failing&) { throw std::runtime_error("in a handler"); };
     dialog.onInit = [](Failing& d) { d.PostMessage(kAct); };
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     std::string text;
     try {
         dialog.DoModal();
@@ -334,7 +315,7 @@ TEST_F(ModalFailure, WhatAHandlerOfASentMessageThrowsWakesTheLoop) {
         sender = std::thread([&answer, window] { answer = ::SendMessageW(window, kAct, 0, 0); });
     });
     {
-        const Watchdog watchdog;
+        const ui_test::Watchdog watchdog;
         EXPECT_THROW(dialog.DoModal(), int);
     }
     sender.join();
@@ -351,7 +332,7 @@ TEST_F(ModalFailure, WhatTheIdleHandlerThrowsComesOutToo) {
             return Failing::WindowProc(message, wParam, lParam);
         }
     } dialog(401, &parent);
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_THROW(dialog.DoModal(), int);
     expect_clean(dialog);
 }
@@ -396,7 +377,7 @@ TEST_F(ModalFailure, OfTheInnerDialogGoesToTheHandlerOfTheOuter) {
         d.EndDialog(8);
     };
     outer.onInit = [](Failing& d) { d.PostMessage(kAct); };
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_EQ(outer.DoModal(), 8);
     EXPECT_EQ(caught, "inner");
     EXPECT_TRUE(outerEnabled);
@@ -409,7 +390,7 @@ TEST_F(ModalFailure, NobodyCatchesInBetweenEndsBoth) {
     inner.onInit = [](Failing& d) { d.PostMessage(kAct); };
     outer.onAct = [&](Failing&) { inner.DoModal(); };
     outer.onInit = [](Failing& d) { d.PostMessage(kAct); };
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_THROW(outer.DoModal(), int);
     EXPECT_EQ(inner.m_hWnd, nullptr);
     expect_clean(outer);
@@ -420,7 +401,7 @@ TEST_F(ModalFailure, TheLoopOfAnyWindowIsLeftInOrder) {
     ASSERT_TRUE(dialog.Create(401, &parent));
     dialog.onAct = [](Failing&) { throw 6; };
     dialog.PostMessage(kAct);
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_THROW(dialog.RunModalLoop(MLF_SHOWONIDLE), int);
     EXPECT_TRUE(::IsWindow(dialog.m_hWnd)) << "the loop does not own the window";
     parent.SetActiveWindow();
@@ -443,7 +424,7 @@ TEST_F(ModalFailure, ADialogThatIsDestroyedWhileItStartsEnds) {
         Failing hidden(401, &parent), shown(visible_bytes(), &parent);
         Failing& dialog = visible ? shown : hidden;
         dialog.onInit = [](Failing& d) { d.DestroyWindow(); };
-        const Watchdog watchdog;
+        const ui_test::Watchdog watchdog;
         EXPECT_EQ(dialog.DoModal(), -1);
         expect_clean(dialog);
     }
@@ -467,7 +448,7 @@ TEST_F(ModalFailure, ADialogThatIsDestroyedByOthersEnds) {
         Failing dialog(401, &parent);
         dialog.onAct = [](Failing& d) { d.DestroyWindow(); };
         ui_test::when_dialog(L"plain", destroy);
-        const Watchdog watchdog;
+        const ui_test::Watchdog watchdog;
         EXPECT_EQ(dialog.DoModal(), -1);
         EXPECT_EQ(dialog.endings, seen ? std::vector<int>{-1} : std::vector<int>());
         expect_clean(dialog);
@@ -481,7 +462,7 @@ TEST_F(ModalFailure, ADialogWhoseOwnerIsDestroyedEnds) {
                                CRect(0, 0, 90, 90), nullptr, 0));
     Failing dialog(401, &owner);
     ui_test::when_dialog(L"plain", [&](HWND) { owner.DestroyWindow(); });
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
     EXPECT_EQ(owner.m_hWnd, nullptr);
@@ -489,7 +470,7 @@ TEST_F(ModalFailure, ADialogWhoseOwnerIsDestroyedEnds) {
 
 TEST_F(ModalFailure, ALoopWithoutAWindowEndsAtOnce) {
     CWnd none;
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_EQ(none.RunModalLoop(), -1);
     EXPECT_EQ(none.m_nFlags, 0u);
 }
@@ -522,7 +503,7 @@ TEST_F(ModalFailure, TemporaryObjectsOfADialogGoWhileItIsIdle) {
         d.EndDialog(1);
     };
     ui_test::when_dialog(L"plain", [&](HWND) { dialog.PostMessage(kAct); });
-    const Watchdog watchdog;
+    const ui_test::Watchdog watchdog;
     EXPECT_EQ(dialog.DoModal(), 1);
     EXPECT_EQ(control, nullptr) << "made inside, so it has gone";
     EXPECT_EQ(kept, ::GetDesktopWindow()) << "made before, and perhaps in use by whoever opened the dialog";

@@ -1,5 +1,6 @@
 // Property sheets, modal and modeless: what their buttons and keys do, titles, flags, and what comes back.
 #include "sheet_fixture.h"
+#include "watchdog.h"
 
 namespace {
 
@@ -65,6 +66,31 @@ TEST_F(SheetOfPages, KeepsItsParentDisabledAndGivesItTheActivation) {
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_TRUE(parent.IsWindowEnabled());
     EXPECT_EQ(::GetActiveWindow(), parent.m_hWnd);
+}
+
+TEST_F(SheetOfPages, IsClosedByItsButtonsAfterAHandlerThrew) {
+    class Throwing : public CPropertySheet {
+    public:
+        using CPropertySheet::CPropertySheet;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_APP + 5) AfxThrowUserException();
+            return CPropertySheet::WindowProc(message, wParam, lParam);
+        }
+        BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+            if (id == 0x8123 && code == CN_COMMAND) AfxThrowUserException();
+            return CPropertySheet::OnCmdMsg(id, code, extra, info);
+        }
+    } throwing(L"throws", &parent);
+    throwing.AddPage(&third);
+    ui_test::when_window([&](HWND window) { return window == throwing.m_hWnd; },
+                         [&](HWND window) {
+                             ::SendMessageW(window, WM_APP + 5, 0, 0);
+                             ::SendMessageW(window, WM_COMMAND, 0x8123, 0);
+                             ::PostMessageW(window, PSM_PRESSBUTTON, PSBTN_OK, 0);
+                         });
+    const ui_test::Watchdog watchdog;
+    EXPECT_EQ(throwing.DoModal(), IDOK);
+    EXPECT_TRUE(parent.IsWindowEnabled());
 }
 
 TEST_F(SheetOfPages, LeavesAParentDisabledThatWasDisabledBefore) {
