@@ -1,5 +1,5 @@
 // OdDbDatabase, one drawing in memory: tables, dictionaries, layouts, entities and header variables, read
-// from and written to ASCII DXF files from R12 to 2018.
+// from and written to DXF files, text or binary, from R12 to 2018.
 //
 //     OdSmartPtr<OdDbDatabase> drawing(new OdDbDatabase);
 //     OdDbDxfError error;
@@ -20,6 +20,7 @@
 #include "od_db_linetype_table.h"
 #include "od_db_text_style_table.h"
 #include "od_dxf_error.h"
+#include "od_dxf_form.h"
 #include "od_header_variables.h"
 
 struct OdDbStore;
@@ -32,21 +33,26 @@ public:
     OdDbDatabase();
     ~OdDbDatabase() override;
 
-    /// Replaces the contents by those of an ASCII DXF file. On failure nothing changes, the result isn't
+    /// Replaces the contents by those of a DXF file. On failure nothing changes, the result isn't
     /// kOdOk, and `error` (if not null) says why.
     OdResult readDxf(const wchar_t* path, OdDbDxfError* error = nullptr);
     /// The same from the bytes of such a file.
     OdResult readDxfBytes(std::string_view bytes, OdDbDxfError* error = nullptr);
-    /// Writes the drawing as an ASCII DXF file of `version`; kDHL_Unknown writes the version it was read
-    /// from. The text goes to a file beside `path` first, which then takes its place: a failure leaves an
-    /// older file whole. R12 has no form for some entities: flat polylines, ellipses, splines and paragraphs
-    /// become what R12 has, and the others are left out and counted in `error`.
+    /// Writes the drawing as a DXF file. Its bytes go to a file beside `path` first, which then takes its
+    /// place: a failure leaves an older file whole. R12 has no form for some entities: flat polylines,
+    /// ellipses, splines and paragraphs become what R12 has, and the others are left out and counted in
+    /// `error`.
+    OdResult writeDxf(const wchar_t* path, const OdDxfForm& form, OdDbDxfError* error = nullptr);
+    /// The same in the version given (kDHL_Unknown: that of the file that was read), binary if that file was.
     OdResult writeDxf(const wchar_t* path, OdDb::DwgVersion version = OdDb::kDHL_Unknown,
                       OdDbDxfError* error = nullptr);
-    /// The same into memory. Lines end with CR LF.
+    /// The same into memory. Lines of a text end with CR LF.
+    std::string writeDxfBytes(const OdDxfForm& form, OdDbDxfError* error = nullptr);
     std::string writeDxfBytes(OdDb::DwgVersion version = OdDb::kDHL_Unknown, OdDbDxfError* error = nullptr);
     /// The version of the file that was read; kDHL_1032 for a new drawing.
     OdDb::DwgVersion originalFileVersion() const;
+    /// Whether that file was a binary one; false for a new drawing.
+    bool originalFileIsBinary() const;
     /// The path last read from or written to; empty for none.
     const OdString& getFilename() const { return m_fileName; }
     /// Whether anything was opened for writing or set since the last read or write.

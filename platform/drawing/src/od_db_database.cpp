@@ -27,7 +27,7 @@ OdDbDatabase::~OdDbDatabase() = default;
 OdResult OdDbDatabase::readDxf(const wchar_t* path, OdDbDxfError* error) {
     std::string bytes;
     if (!odReadFile(path, bytes))
-        return fail(error, {OdDxfErrorCode::kCannotOpen, 0, L"The file can't be opened for reading.", 0});
+        return fail(error, {OdDxfErrorCode::kCannotOpen, 0, L"The file can't be opened for reading."});
     const OdResult result = readDxfBytes(bytes, error);
     if (result == kOdOk) m_fileName = path;
     return result;
@@ -53,23 +53,31 @@ OdResult OdDbDatabase::readDxfBytes(std::string_view bytes, OdDbDxfError* error)
 }
 
 OdResult OdDbDatabase::writeDxf(const wchar_t* path, OdDb::DwgVersion version, OdDbDxfError* error) {
-    const std::string text = writeDxfBytes(version, error);
-    if (!odReplaceFile(path, text))
-        return fail(error, {OdDxfErrorCode::kCannotWrite, 0, L"The file can't be written.", 0});
+    return writeDxf(path, {version, originalFileIsBinary()}, error);
+}
+
+OdResult OdDbDatabase::writeDxf(const wchar_t* path, const OdDxfForm& form, OdDbDxfError* error) {
+    const std::string bytes = writeDxfBytes(form, error);
+    if (!odReplaceFile(path, bytes))
+        return fail(error, {OdDxfErrorCode::kCannotWrite, 0, L"The file can't be written."});
     m_fileName = path;
     m_modified = false;
     return kOdOk;
 }
 
 std::string OdDbDatabase::writeDxfBytes(OdDb::DwgVersion version, OdDbDxfError* error) {
+    return writeDxfBytes({version, originalFileIsBinary()}, error);
+}
+
+std::string OdDbDatabase::writeDxfBytes(const OdDxfForm& form, OdDbDxfError* error) {
     OdDbDxfError report;
-    std::string text =
-        odWriteDxf(*m_store, version == OdDb::kDHL_Unknown ? m_store->version : version, report.leftOut);
+    std::string bytes = odWriteDxf(*m_store, form, report.leftOut);
     if (error) *error = report;
-    return text;
+    return bytes;
 }
 
 OdDb::DwgVersion OdDbDatabase::originalFileVersion() const { return m_store->version; }
+bool OdDbDatabase::originalFileIsBinary() const { return m_store->binary; }
 
 OdResult OdDbDatabase::openTable(int kind, OdDbSymbolTablePtr& table, OdDb::OpenMode mode) {
     table = m_store->tables[kind];

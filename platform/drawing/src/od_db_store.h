@@ -118,6 +118,7 @@ struct OdDbStore {
 
     OdDbDatabase* database;
     OdDb::DwgVersion version = OdDb::kDHL_1032;
+    bool binary = false;  // the form that was read
     int codePage = 1252;
     std::string codePageName = "ANSI_1252";
     OdDbHeader header;

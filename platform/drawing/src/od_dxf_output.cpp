@@ -1,5 +1,6 @@
 #include "od_dxf_output.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "od_code_page.h"
@@ -49,6 +50,25 @@ std::string odHandleText(OdDbHandle handle) {
     return text;
 }
 
+void odAppendReal(double value, std::string& text, int precision) {
+    // The longest is the greatest number with all its decimals.
+    char buffer[360];
+    char* const limit = buffer + sizeof buffer;
+    const bool full = precision >= kOdFullPrecision;
+    const char* end =
+        full ? std::to_chars(buffer, limit, value).ptr
+             : std::to_chars(buffer, limit, value, std::chars_format::fixed, std::max(precision, 0)).ptr;
+    std::string_view digits(buffer, static_cast<std::size_t>(end - buffer));
+    const bool hasPoint = digits.find_first_of(".en") != std::string_view::npos;
+    if (!full && hasPoint) {
+        digits.remove_suffix(digits.size() - 1 - digits.find_last_not_of('0'));
+        if (digits.back() == '.') digits.remove_suffix(1);
+    }
+    if (!full && digits == "-0") digits.remove_prefix(1);
+    text += digits;
+    if (digits.find_first_of(".en") == std::string_view::npos) text += ".0";
+}
+
 void OdDxfOutput::putCode(int code) {
     char digits[12];
     const auto result = std::to_chars(digits, digits + sizeof digits, code);
@@ -71,14 +91,9 @@ void OdDxfOutput::putText(int code, std::string_view utf8) {
 }
 
 void OdDxfOutput::putReal(int code, double value) {
-    char digits[40];
-    char* end = std::to_chars(digits, digits + sizeof digits - 2, value).ptr;
-    if (std::string_view(digits, static_cast<std::size_t>(end - digits)).find_first_of(".e") ==
-        std::string_view::npos) {
-        *end++ = '.';
-        *end++ = '0';
-    }
-    put(code, std::string_view(digits, static_cast<std::size_t>(end - digits)));
+    putCode(code);
+    odAppendReal(value, m_text, m_precision);
+    m_text += kLineEnd;
 }
 
 void OdDxfOutput::putInteger(int code, std::int64_t value) {

@@ -4,13 +4,20 @@
 #include <string>
 #include "od_group_list.h"
 
+constexpr int kOdFullPrecision = 16;
+
 /// What the groups that are being written belong to; it decides which of them a version has.
 enum class OdDxfPart { kHeader, kCommon, kEntity, kRecord, kObject };
+
+/// Appends a real with a decimal point and at most `precision` decimals (0 to 16); with 16, with all the
+/// digits that tell it from its neighbours, however many.
+void odAppendReal(double value, std::string& text, int precision = kOdFullPrecision);
 
 /// Appends pairs to a text.
 class OdDxfOutput {
 public:
-    OdDxfOutput(OdDb::DwgVersion version, int codePage) : m_version(version), m_codePage(codePage) {}
+    OdDxfOutput(OdDb::DwgVersion version, int codePage, int precision = kOdFullPrecision)
+        : m_version(version), m_codePage(codePage), m_precision(precision) {}
 
     OdDb::DwgVersion version() const { return m_version; }
     bool isR12() const { return m_version <= OdDb::kDHL_1009; }
@@ -38,6 +45,7 @@ private:
     void putCode(int code);
     OdDb::DwgVersion m_version;
     int m_codePage;
+    int m_precision;
     OdDbHandle m_greatest = 0;
     std::string m_text;
 };

@@ -1,6 +1,7 @@
 #include "od_dxf_reader.h"
 
 #include "od_db_store.h"
+#include "od_dxf_binary.h"
 #include "od_dxf_entities.h"
 #include "od_dxf_markers.h"
 #include "od_dxf_record.h"
@@ -189,9 +190,7 @@ private:
     OdDxfRecord m_record;
 };
 
-}  // namespace
-
-bool odReadDxf(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
+bool read_text(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
     OdDxfOverview overview;
     if (!odOverviewDxf(text, overview, error)) return false;
     store.version = overview.version;
@@ -207,4 +206,22 @@ bool odReadDxf(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
     if (!done) reader.scanner().fail(OdDxfErrorCode::kBadStructure, L"The file ends within a section.");
     error = reader.scanner().error();
     return done;
+}
+
+}  // namespace
+
+bool odReadDxf(std::string_view bytes, OdDbStore& store, OdDbDxfError& error) {
+    store.binary = odIsBinaryDxf(bytes);
+    if (!store.binary) return read_text(bytes, store, error);
+    std::string text;
+    OdDbDxfError cut;
+    const bool whole = odTextOfBinaryDxf(bytes, text, cut);
+    if (read_text(text, store, error)) return true;
+    if (!whole && (error.code == OdDxfErrorCode::kTruncated || error.code == OdDxfErrorCode::kEmpty)) {
+        error = cut;
+    } else {
+        error.byte = odByteOfDxfLine(bytes, error.line);
+        error.line = 0;
+    }
+    return false;
 }

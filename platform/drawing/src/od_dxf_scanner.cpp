@@ -79,9 +79,9 @@ bool finishOverview(OdDxfScanner& scanner, bool ended, OdDbDxfError& error) {
 
 bool refuseAtOnce(std::string_view text, OdDbDxfError& error) {
     if (trimmed(text).find_first_not_of("\r\n") == std::string_view::npos)
-        error = {OdDxfErrorCode::kEmpty, 0, L"The file is empty.", 0};
+        error = {OdDxfErrorCode::kEmpty, 0, L"The file is empty."};
     else if (text.substr(0, kBinaryMark.size()) == kBinaryMark)
-        error = {OdDxfErrorCode::kBinary, 1, L"Binary DXF files can't be read.", 0};
+        error = {OdDxfErrorCode::kBinary, 1, L"The binary file was changed as if it were a text."};
     else
         return false;
     return true;
@@ -145,7 +145,7 @@ bool OdDxfScanner::handle(OdDbHandle& value) {
 }
 
 bool OdDxfScanner::fail(OdDxfErrorCode code, const wchar_t* text) {
-    if (!failed()) m_error = {code, m_line, text, 0};
+    if (!failed()) m_error = {code, m_line, text};
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "od_dxf_writer.h"
 
 #include "od_db_store.h"
+#include "od_dxf_binary.h"
 #include "od_dxf_entity_writer.h"
 #include "od_dxf_output.h"
 #include "od_dxf_r12.h"
@@ -24,8 +25,8 @@ const char* versionName(OdDb::DwgVersion version) {
 /// Writes one store in one version.
 class Writer {
 public:
-    Writer(OdDbStore& store, OdDb::DwgVersion version)
-        : m_store(store), m_out(version, store.codePage), m_entities(store, m_out) {}
+    Writer(OdDbStore& store, OdDb::DwgVersion version, int precision)
+        : m_store(store), m_out(version, store.codePage, precision), m_entities(store, m_out) {}
 
     std::string run(int& leftOut) {
         // The header names the next free handle, which is known only when all else is written.
@@ -199,6 +200,9 @@ private:
 
 }  // namespace
 
-std::string odWriteDxf(OdDbStore& store, OdDb::DwgVersion version, int& leftOut) {
-    return Writer(store, version).run(leftOut);
+std::string odWriteDxf(OdDbStore& store, const OdDxfForm& form, int& leftOut) {
+    const OdDb::DwgVersion version = form.version == OdDb::kDHL_Unknown ? store.version : form.version;
+    const std::string text =
+        Writer(store, version, form.binary ? kOdFullPrecision : form.precision).run(leftOut);
+    return form.binary ? odBinaryOfDxfText(text, version > OdDb::kDHL_1009) : text;
 }

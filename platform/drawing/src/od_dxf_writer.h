@@ -1,14 +1,14 @@
-// Writing a store as the text of an ASCII DXF file.
+// Writing a store as a DXF file.
 #pragma once
 
 #include <string>
 #include "od_db_types.h"
+#include "od_dxf_form.h"
 
 struct OdDbStore;
 
-/// The whole text, in the form and encoding of `version`. `leftOut` becomes the count of the entities that
-/// the version has no form for.
-std::string odWriteDxf(OdDbStore& store, OdDb::DwgVersion version, int& leftOut);
+/// The whole file. `leftOut` becomes the count of the entities that the version has no form for.
+std::string odWriteDxf(OdDbStore& store, const OdDxfForm& form, int& leftOut);
 
 /// The hexadecimal digits of a handle, as files have them.
 std::string odHandleText(OdDbHandle handle);

@@ -24,10 +24,6 @@ TEST(DxfErrors, EmptyFiles) {
     for (const char* text : {"", "\n\n", "  \r\n\t"}) EXPECT_EQ(errorOf(text).code, OdDxfErrorCode::kEmpty);
 }
 
-TEST(DxfErrors, BinaryFiles) {
-    EXPECT_EQ(errorOf(std::string("AutoCAD Binary DXF\r\n\x1A\0\0\0", 24)).code, OdDxfErrorCode::kBinary);
-}
-
 TEST(DxfErrors, FilesOfAnotherKind) {
     EXPECT_EQ(errorOf("AC1015\0\0\0").code, OdDxfErrorCode::kNotDxf);
     EXPECT_EQ(errorOf("hello\nworld\n").code, OdDxfErrorCode::kNotDxf);
