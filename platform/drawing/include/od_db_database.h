@@ -21,6 +21,7 @@
 #include "od_db_text_style_table.h"
 #include "od_dxf_error.h"
 #include "od_dxf_form.h"
+#include "od_dxf_reading.h"
 #include "od_header_variables.h"
 
 struct OdDbStore;
@@ -34,10 +35,12 @@ public:
     ~OdDbDatabase() override;
 
     /// Replaces the contents by those of a DXF file. On failure nothing changes, the result isn't
-    /// kOdOk, and `error` (if not null) says why.
-    OdResult readDxf(const wchar_t* path, OdDbDxfError* error = nullptr);
+    /// kOdOk, and `error` (if not null) says why. What is wrong in a file that can be read all the same is
+    /// mended; `reading` (if not null) tells where and how, or forbids it.
+    OdResult readDxf(const wchar_t* path, OdDbDxfError* error = nullptr, OdDxfReading* reading = nullptr);
     /// The same from the bytes of such a file.
-    OdResult readDxfBytes(std::string_view bytes, OdDbDxfError* error = nullptr);
+    OdResult readDxfBytes(std::string_view bytes, OdDbDxfError* error = nullptr,
+                          OdDxfReading* reading = nullptr);
     /// Writes the drawing as a DXF file. Its bytes go to a file beside `path` first, which then takes its
     /// place: a failure leaves an older file whole. R12 has no form for some entities: flat polylines,
     /// ellipses, splines and paragraphs become what R12 has, and the others are left out and counted in

@@ -24,24 +24,25 @@ OdDbDatabase::OdDbDatabase() : m_store(std::make_unique<OdDbStore>(this)) {
 
 OdDbDatabase::~OdDbDatabase() = default;
 
-OdResult OdDbDatabase::readDxf(const wchar_t* path, OdDbDxfError* error) {
+OdResult OdDbDatabase::readDxf(const wchar_t* path, OdDbDxfError* error, OdDxfReading* reading) {
     std::string bytes;
     if (!odReadFile(path, bytes))
         return fail(error, {OdDxfErrorCode::kCannotOpen, 0, L"The file can't be opened for reading."});
-    const OdResult result = readDxfBytes(bytes, error);
+    const OdResult result = readDxfBytes(bytes, error, reading);
     if (result == kOdOk) m_fileName = path;
     return result;
 }
 
-OdResult OdDbDatabase::readDxfBytes(std::string_view bytes, OdDbDxfError* error) {
+OdResult OdDbDatabase::readDxfBytes(std::string_view bytes, OdDbDxfError* error, OdDxfReading* reading) {
     auto fresh = std::make_unique<OdDbStore>(this);
     const bool wasModified = m_modified;
     OdDbDxfError reason;
+    OdDxfReading own;
     // While it is filled, the new store stands in the old one's place, so that ids made on the way lead into
     // it.
     std::swap(m_store, fresh);
     m_store->makeTables();
-    if (!odReadDxf(bytes, *m_store, reason)) {
+    if (!odReadDxf(bytes, *m_store, reading ? *reading : own, reason)) {
         std::swap(m_store, fresh);
         m_modified = wasModified;
         return fail(error, reason);

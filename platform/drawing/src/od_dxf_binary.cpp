@@ -238,12 +238,20 @@ bool odTextOfBinaryDxf(std::string_view bytes, std::string& text, OdDbDxfError& 
     return false;
 }
 
-std::size_t odByteOfDxfLine(std::string_view bytes, int line) {
-    Groups groups(bytes);
+struct OdDxfLinePlaces::Walk {
+    Groups groups;
     Group group;
-    for (int at = 1; groups.next(group); at += 2)
-        if (line <= at + 1) return group.begin;
-    return groups.place();
+    int line = 0;  // of the group's value
+};
+
+OdDxfLinePlaces::OdDxfLinePlaces(std::string_view bytes) : m_walk(new Walk{Groups(bytes), {}}) {}
+OdDxfLinePlaces::~OdDxfLinePlaces() = default;
+
+std::size_t OdDxfLinePlaces::byteOf(int line) {
+    Walk& walk = *m_walk;
+    for (; walk.line < line; walk.line += 2)
+        if (!walk.groups.next(walk.group)) return walk.groups.place();
+    return walk.group.begin;
 }
 
 std::string odBinaryOfDxfText(std::string_view text, bool wideCodes) {

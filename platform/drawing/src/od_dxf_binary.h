@@ -2,6 +2,7 @@
 // only codes and values are written as bytes. The reader and the writer know the text form alone.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include "od_dxf_error.h"
@@ -13,8 +14,20 @@ bool odIsBinaryDxf(std::string_view bytes);
 /// file that is cut off gives the groups before the cut and false, with `error` set.
 bool odTextOfBinaryDxf(std::string_view bytes, std::string& text, OdDbDxfError& error);
 
-/// The byte, counted from 0, at which the group that the text form has at this line begins.
-std::size_t odByteOfDxfLine(std::string_view bytes, int line);
+/// Where the groups of a binary file begin that stand at given lines of its text form.
+class OdDxfLinePlaces {
+public:
+    explicit OdDxfLinePlaces(std::string_view bytes);
+    ~OdDxfLinePlaces();
+    OdDxfLinePlaces(const OdDxfLinePlaces&) = delete;
+    OdDxfLinePlaces& operator=(const OdDxfLinePlaces&) = delete;
+    /// The byte, counted from 0. Each line asked for must not be before the one before.
+    std::size_t byteOf(int line);
+
+private:
+    struct Walk;
+    std::unique_ptr<Walk> m_walk;
+};
 
 /// The binary form of a text that was written here. Codes take one byte up to R12 (`wideCodes` false), two
 /// from R13 on. A whole number that has no room in the bytes of its code is written as the nearest that has;

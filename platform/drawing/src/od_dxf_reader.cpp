@@ -1,5 +1,7 @@
 #include "od_dxf_reader.h"
 
+#include <utility>
+
 #include "od_db_store.h"
 #include "od_dxf_binary.h"
 #include "od_dxf_entities.h"
@@ -12,17 +14,22 @@ namespace {
 /// Reads the sections of one file into a store.
 class Reader {
 public:
-    Reader(std::string_view text, OdDbStore& store)
+    Reader(std::string_view text, OdDbStore& store, OdDxfReading& reading)
         : m_store(store),
-          m_records(text, store.codePage, store.version >= OdDb::kDHL_1021),
+          m_records(text, store.codePage, store.version >= OdDb::kDHL_1021, reading),
           m_entities(store, m_records) {}
 
     bool run() {
         while (scanner().next() && !scanner().isRecord("EOF")) {
-            if (!scanner().isRecord("SECTION"))
-                return scanner().fail(OdDxfErrorCode::kBadStructure, L"A section was expected.");
-            if (!section()) return false;
+            if (!scanner().isRecord("SECTION") &&
+                !passOver(L"A section was expected; what stands before the next was passed over."))
+                return false;
+            // The beginning of a section ends one that has no end mark.
+            while (scanner().isRecord("SECTION"))
+                if (!section()) return false;
+            if (scanner().isRecord("EOF")) break;
         }
+        useNames();
         return !scanner().failed();
     }
     OdDxfScanner& scanner() { return m_records.scanner(); }
@@ -30,8 +37,7 @@ public:
 private:
     bool section() {
         if (!scanner().next()) return false;
-        if (scanner().code() != 2)
-            return scanner().fail(OdDxfErrorCode::kBadStructure, L"A section's name was expected.");
+        if (scanner().code() != 2) return passOver(L"A section has no name; it was passed over.");
         const std::string name(scanner().word());
         if (!scanner().next()) return false;
         if (name == "HEADER") return header();
@@ -47,7 +53,19 @@ private:
 
     bool sectionEnd() {
         return scanner().isRecord("ENDSEC") ||
-               scanner().fail(OdDxfErrorCode::kBadStructure, L"The section doesn't end where it must.");
+               passOver(
+                   L"The section doesn't end where it must; what stands before the next was passed over.");
+    }
+
+    /// Goes on to where a section ends or begins, and notes why.
+    bool passOver(const wchar_t* why) { return passOverTo("ENDSEC", why); }
+
+    /// Goes on to the next record of this type or the section's edge, and notes why.
+    bool passOverTo(std::string_view type, const wchar_t* why) {
+        if (!scanner().mend(OdDxfErrorCode::kBadStructure, why)) return false;
+        while (scanner().code() != 0 || (!scanner().isRecord(type) && !atSectionEdge()))
+            if (!scanner().next()) return false;
+        return true;
     }
 
     /// Whether no more records of the section can come.
@@ -91,8 +109,12 @@ private:
     }
 
     bool tables() {
-        while (scanner().isRecord("TABLE"))
-            if (!table()) return false;
+        while (!atSectionEdge())
+            if (!(scanner().isRecord("TABLE")
+                      ? table()
+                      : passOverTo("TABLE",
+                                   L"A table was expected; what stands before the next was passed over.")))
+                return false;
         return sectionEnd();
     }
 
@@ -105,7 +127,7 @@ private:
         if (m_record.handle) unknown.lead.addText(5, odHandleText(m_record.handle));
         if (m_record.owner) unknown.lead.addHandle(330, m_record.owner);
         unknown.lead.add(m_record.groups);
-        while (!scanner().isRecord("ENDTAB") && !atSectionEdge()) {
+        while (!scanner().isRecord("ENDTAB") && !scanner().isRecord("TABLE") && !atSectionEdge()) {
             OdRawRecord record{std::string(scanner().word()), {}};
             if (!scanner().next() || !lead(record.groups)) return false;
             unknown.records.push_back(std::move(record));
@@ -115,9 +137,9 @@ private:
     }
 
     bool tableEnd() {
-        if (!scanner().isRecord("ENDTAB"))
-            return scanner().fail(OdDxfErrorCode::kBadStructure, L"The table doesn't end where it must.");
-        return scanner().next();
+        if (scanner().isRecord("ENDTAB")) return scanner().next();
+        return scanner().mend(OdDxfErrorCode::kBadStructure,
+                              L"The table doesn't end where it must; it ends here.");
     }
 
     bool knownTable(OdTableKind kind) {
@@ -134,13 +156,19 @@ private:
             odCompleteRecordMarkers(m_record.type, m_record.groups);
             m_store.groupsOf(*record) = m_record.groups;
             m_store.addRecord(kind, record, m_record.name, m_record.handle);
+            for (const OdDxfNameForHandle& name : m_record.namesForHandles)
+                m_names.push_back({record.get(), name});
         }
         return tableEnd();
     }
 
     bool blocks() {
-        while (scanner().isRecord("BLOCK"))
-            if (!block()) return false;
+        while (!atSectionEdge())
+            if (!(scanner().isRecord("BLOCK")
+                      ? block()
+                      : passOverTo("BLOCK",
+                                   L"A block was expected; what stands before the next was passed over.")))
+                return false;
         return sectionEnd();
     }
 
@@ -156,7 +184,8 @@ private:
         }
         if (!m_entities.readUntil("ENDBLK", record.handle())) return false;
         if (!scanner().isRecord("ENDBLK"))
-            return scanner().fail(OdDxfErrorCode::kBadStructure, L"The block doesn't end where it must.");
+            return scanner().mend(OdDxfErrorCode::kBadStructure,
+                                  L"The block doesn't end where it must; it ends here.");
         if (!m_records.read(OdDxfRecordKind::kBlock, m_record)) return false;
         m_store.blockEnd(record) = m_record.groups;
         m_store.blockEndHandle(record) = m_record.handle;
@@ -184,15 +213,32 @@ private:
         return true;
     }
 
+    /// Puts the handles of the records whose names stood for them, now that all are known.
+    void useNames() {
+        for (const auto& [style, name] : m_names) {
+            const OdTableKind kind = name.code == 340  ? kTextStyleTable
+                                     : name.code < 345 ? kBlockTable
+                                                       : kLinetypeTable;
+            if (const OdDbSymbolTableRecord* meant = m_store.record(kind, name.name))
+                m_store.groupsOf(*style).setHandle(name.code, meant->handle());
+        }
+    }
+
+    struct StyleName {
+        OdDbSymbolTableRecord* style;
+        OdDxfNameForHandle name;
+    };
+
     OdDbStore& m_store;
     OdDxfRecordReader m_records;
+    std::vector<StyleName> m_names;
     OdDxfEntityReader m_entities;
     OdDxfRecord m_record;
 };
 
-bool read_text(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
+bool read_text(std::string_view text, OdDbStore& store, OdDxfReading& reading, OdDbDxfError& error) {
     OdDxfOverview overview;
-    if (!odOverviewDxf(text, overview, error)) return false;
+    if (!odOverviewDxf(text, reading.strict, overview, error)) return false;
     store.version = overview.version;
     if (!overview.codePageName.empty()) {
         store.codePageName = overview.codePageName;
@@ -200,7 +246,7 @@ bool read_text(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
     }
     store.nextHandle = overview.firstFreeHandle;
     store.objects.reserve(overview.records);
-    Reader reader(text, store);
+    Reader reader(text, store, reading);
     const bool done = reader.run();
     // The first look found an end mark, but the sections don't lead to it.
     if (!done) reader.scanner().fail(OdDxfErrorCode::kBadStructure, L"The file ends within a section.");
@@ -208,20 +254,26 @@ bool read_text(std::string_view text, OdDbStore& store, OdDbDxfError& error) {
     return done;
 }
 
+/// Tells the places in a binary file, where there are no lines.
+void tell_bytes(std::string_view bytes, OdDxfReading& reading, OdDbDxfError& error) {
+    OdDxfLinePlaces places(bytes);
+    for (OdDxfMend& mend : reading.mends) mend.byte = places.byteOf(std::exchange(mend.line, 0));
+    if (error.line != 0) error.byte = places.byteOf(std::exchange(error.line, 0));
+}
+
 }  // namespace
 
-bool odReadDxf(std::string_view bytes, OdDbStore& store, OdDbDxfError& error) {
+bool odReadDxf(std::string_view bytes, OdDbStore& store, OdDxfReading& reading, OdDbDxfError& error) {
+    reading.mends.clear();
+    reading.mendCount = 0;
     store.binary = odIsBinaryDxf(bytes);
-    if (!store.binary) return read_text(bytes, store, error);
+    if (!store.binary) return read_text(bytes, store, reading, error);
     std::string text;
     OdDbDxfError cut;
     const bool whole = odTextOfBinaryDxf(bytes, text, cut);
-    if (read_text(text, store, error)) return true;
-    if (!whole && (error.code == OdDxfErrorCode::kTruncated || error.code == OdDxfErrorCode::kEmpty)) {
-        error = cut;
-    } else {
-        error.byte = odByteOfDxfLine(bytes, error.line);
-        error.line = 0;
-    }
-    return false;
+    const bool done = read_text(text, store, reading, error);
+    tell_bytes(bytes, reading, error);
+    const bool cutOff = error.code == OdDxfErrorCode::kTruncated || error.code == OdDxfErrorCode::kEmpty;
+    if (!done && !whole && cutOff) error = cut;
+    return done;
 }

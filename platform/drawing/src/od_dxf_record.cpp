@@ -73,6 +73,32 @@ bool OdDxfRecordReader::takeOut(OdDxfRecordKind kind, OdDxfRecord& record) {
     return kind == OdDxfRecordKind::kBlock && code == 3;
 }
 
+/// Whether the scanner's pair is a name that a dimension style has instead of a handle.
+bool OdDxfRecordReader::takeNameForHandle(OdDxfRecord& record) {
+    constexpr int kFirst = 340, kLast = 347;
+    const int code = m_scanner.code();
+    const std::string_view word = m_scanner.word();
+    if (record.type != "DIMSTYLE" || code < kFirst || code > kLast) return false;
+    if (odHandleFromText(word) != 0 || word == "0") return false;
+    if (!m_scanner.mend(
+            OdDxfErrorCode::kBadNumber,
+            L"A name stood where a handle belongs; that of the record with this name stands for it."))
+        return true;
+    record.groups.addHandle(code, 0);
+    record.namesForHandles.push_back({code, odWide(name())});
+    return true;
+}
+
+/// Ends a block of application data that the file left open.
+bool OdDxfRecordReader::close(OdDxfRecord& record) {
+    if (!m_scanner.mend(OdDxfErrorCode::kBadStructure,
+                        L"A block of application data didn't end where it must; it ends here."))
+        return false;
+    record.groups.addText(102, "}");
+    m_inside = false;
+    return true;
+}
+
 bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
     constexpr int kEmbeddedObject = 101;
     constexpr int kFirstExtendedData = 1000;
@@ -84,21 +110,20 @@ bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
     record.linetype.clear();
     record.paperSpace = record.partsFollow = false;
     record.name.empty();
+    record.namesForHandles.clear();
     m_markers = 0;
     m_inside = m_foreign = m_ownerTaken = false;
     while (m_scanner.next() && m_scanner.code() != 0) {
         const int code = m_scanner.code();
         if (code == kEmbeddedObject || code >= kFirstExtendedData) m_foreign = true;
-        if (m_foreign && m_inside) break;
+        if (m_foreign && m_inside && !close(record)) return false;
         if (code == 102 && !m_foreign) m_inside = !m_scanner.word().empty() && m_scanner.word()[0] == '{';
         if (code == 100 && !m_inside && !m_foreign) ++m_markers;
-        if (!m_inside && !m_foreign && takeOut(kind, record)) continue;
+        if (!m_inside && !m_foreign && (takeOut(kind, record) || takeNameForHandle(record))) continue;
         if (!append(record.groups)) return false;
     }
     if (m_scanner.failed()) return false;
-    if (m_inside)
-        return m_scanner.fail(OdDxfErrorCode::kBadStructure,
-                              L"A block of application data doesn't end where it must.");
+    if (m_inside && !close(record)) return false;
     if (m_scanner.code() == 0) return true;
     return m_scanner.fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
 }

@@ -6,18 +6,25 @@
 #include "od_code_page.h"
 #include "od_dxf_scanner.h"
 
+/// A name where a handle belongs, as some programs write dimension styles.
+struct OdDxfNameForHandle {
+    int code;
+    OdString name;
+};
+
 /// A record's type, groups and what was taken out of the groups.
 struct OdDxfRecord {
     std::string type;
     OdGroupList groups;
-    OdDbHandle handle = 0;     ///< group 5, or 105 of a dimension style
-    OdDbHandle owner = 0;      ///< group 330 before the first subclass marker
-    std::string layer;         ///< group 8 of an entity
-    std::string linetype;      ///< group 6 of an entity
-    bool paperSpace = false;   ///< group 67 of an entity
-    bool partsFollow = false;  ///< group 66 of an insertion or polyline
-    OdString name;             ///< group 2 of a table record or block
-    int line = 0;              ///< where the record begins
+    OdDbHandle handle = 0;                            ///< group 5, or 105 of a dimension style
+    OdDbHandle owner = 0;                             ///< group 330 before the first subclass marker
+    std::string layer;                                ///< group 8 of an entity
+    std::string linetype;                             ///< group 6 of an entity
+    bool paperSpace = false;                          ///< group 67 of an entity
+    bool partsFollow = false;                         ///< group 66 of an insertion or polyline
+    OdString name;                                    ///< group 2 of a table record or block
+    std::vector<OdDxfNameForHandle> namesForHandles;  ///< of a dimension style; the groups hold 0 for them
+    int line = 0;                                     ///< where the record begins
 };
 
 /// What is taken out of a record's groups besides handle and owner.
@@ -26,8 +33,8 @@ enum class OdDxfRecordKind { kObject, kEntity, kTableRecord, kBlock };
 /// Reads records one after the other. The scanner always stands on the group 0 that comes next.
 class OdDxfRecordReader {
 public:
-    OdDxfRecordReader(std::string_view text, int codePage, bool utf8)
-        : m_scanner(text), m_decoder(codePage, utf8) {}
+    OdDxfRecordReader(std::string_view text, int codePage, bool utf8, OdDxfReading& reading)
+        : m_scanner(text, &reading), m_decoder(codePage, utf8) {}
 
     OdDxfScanner& scanner() { return m_scanner; }
     /// Reads the record that the scanner stands on, up to the next group 0.
@@ -45,6 +52,8 @@ public:
 private:
     bool takeOut(OdDxfRecordKind kind, OdDxfRecord& record);
     bool takeOutOfEntity(OdDxfRecord& record);
+    bool takeNameForHandle(OdDxfRecord& record);
+    bool close(OdDxfRecord& record);
     OdDxfScanner m_scanner;
     OdDxfTextDecoder m_decoder;
     int m_markers = 0;  // subclass markers met so far

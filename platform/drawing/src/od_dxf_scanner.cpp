@@ -7,6 +7,8 @@
 namespace {
 
 constexpr int kComment = 999;
+constexpr int kLeastCode = -5;
+constexpr int kGreatestCode = 1071;
 constexpr std::string_view kBinaryMark = "AutoCAD Binary DXF";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr OdDbHandle kGreatestHandle = OdDbHandle{1} << 60;
@@ -46,7 +48,7 @@ struct VersionName {
 constexpr VersionName kVersions[] = {
     {1032, OdDb::kDHL_1032}, {1027, OdDb::kDHL_1027}, {1024, OdDb::kDHL_1024},
     {1021, OdDb::kDHL_1021}, {1018, OdDb::kDHL_1018}, {1015, OdDb::kDHL_1015},
-    {1014, OdDb::kDHL_1014}, {1010, OdDb::kDHL_1012}, {1009, OdDb::kDHL_1009}};
+    {1014, OdDb::kDHL_1014}, {1010, OdDb::kDHL_1012}, {1004, OdDb::kDHL_1009}};
 
 /// The version that "AC1015" and the like name; versions between two releases count as the older one.
 OdDb::DwgVersion versionNamed(std::string_view name) {
@@ -62,16 +64,15 @@ bool noteHeader(OdDxfScanner& scanner, std::string_view variable, OdDxfOverview&
     if (variable == "$ACADVER" && scanner.code() == 1) {
         overview.version = versionNamed(scanner.word());
         if (overview.version == OdDb::kDHL_Unknown)
-            return scanner.fail(OdDxfErrorCode::kUnsupportedVersion,
-                                L"The file's version is older than R12.");
+            return scanner.fail(OdDxfErrorCode::kUnsupportedVersion, L"The file's version is older than R9.");
     } else if (variable == "$DWGCODEPAGE") {
         overview.codePageName = scanner.word();
     }
     return true;
 }
 
-bool finishOverview(OdDxfScanner& scanner, bool ended, OdDbDxfError& error) {
-    if (!scanner.failed() && !ended)
+bool finishOverview(OdDxfScanner& scanner, bool whole, OdDbDxfError& error) {
+    if (!scanner.failed() && !whole)
         scanner.fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
     error = scanner.error();
     return !scanner.failed();
@@ -89,9 +90,12 @@ bool refuseAtOnce(std::string_view text, OdDbDxfError& error) {
 
 }  // namespace
 
+OdDxfScanner::OdDxfScanner(std::string_view text, OdDxfReading* reading)
+    : m_reading(reading), m_lineEnd(text.find('\n') == std::string_view::npos ? '\r' : '\n'), m_rest(text) {}
+
 bool OdDxfScanner::takeLine(std::string_view& line) {
     if (m_rest.empty()) return false;
-    const std::size_t end = m_rest.find('\n');
+    const std::size_t end = m_rest.find(m_lineEnd);
     line = m_rest.substr(0, end);
     m_rest.remove_prefix(end == std::string_view::npos ? m_rest.size() : end + 1);
     if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
@@ -99,20 +103,46 @@ bool OdDxfScanner::takeLine(std::string_view& line) {
     return true;
 }
 
+/// What comes behind the last line: a missing end mark, once.
+bool OdDxfScanner::endOfText() {
+    if (m_cutOff || !mends() || m_line == 0) return false;
+    m_cutOff = true;
+    m_code = 0;
+    m_value = "EOF";
+    return mend(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
+}
+
+/// Takes lines until one is a group code. False at the end and on an error.
+bool OdDxfScanner::takeCode() {
+    std::string_view line;
+    while (takeLine(line)) {
+        if (parseWhole(trimmed(line), m_code, 10)) {
+            if (m_code >= kLeastCode && m_code <= kGreatestCode) return true;
+            if (m_line == 1) return fail(OdDxfErrorCode::kNotDxf, L"A group code was expected.");
+            if (!mend(OdDxfErrorCode::kBadGroupCode,
+                      L"A group code that doesn't exist was passed over with its value."))
+                return false;
+            takeLine(line);
+            continue;
+        }
+        if (trimmed(line).empty() && m_rest.find_first_not_of(" \t\r\n\x1A") == std::string_view::npos)
+            return false;
+        if (m_line == 1) return fail(OdDxfErrorCode::kNotDxf, L"A group code was expected.");
+        if (!mend(OdDxfErrorCode::kBadGroupCode, L"A line that is no group code was passed over."))
+            return false;
+    }
+    return false;
+}
+
 bool OdDxfScanner::next() {
     if (m_line == 0 && m_rest.substr(0, kByteOrderMark.size()) == kByteOrderMark)
         m_rest.remove_prefix(kByteOrderMark.size());
     do {
-        std::string_view line;
-        if (failed() || !takeLine(line)) return false;
-        if (!parseWhole(trimmed(line), m_code, 10) || m_code < -5 || m_code > 1071) {
-            if (trimmed(line).empty() && m_rest.find_first_not_of(" \t\r\n\x1A") == std::string_view::npos)
-                return false;
-            return fail(m_line == 1 ? OdDxfErrorCode::kNotDxf : OdDxfErrorCode::kBadGroupCode,
-                        L"A group code was expected.");
-        }
-        if (!takeLine(m_value))
-            return fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
+        if (failed()) return false;
+        if (!takeCode()) return !failed() && endOfText();
+        if (takeLine(m_value)) continue;
+        return mends() ? endOfText()
+                       : fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
     } while (m_code == kComment);
     return true;
 }
@@ -123,25 +153,37 @@ std::string_view OdDxfScanner::word() const {
 }
 
 bool OdDxfScanner::real(double& value) {
-    return parseReal(word(), value) || fail(OdDxfErrorCode::kBadNumber, L"A number was expected.");
+    if (parseReal(word(), value)) return true;
+    value = 0;
+    return mend(OdDxfErrorCode::kBadNumber, L"A number was expected; 0 stands for it.");
 }
 
 bool OdDxfScanner::integer(std::int64_t& value) {
     std::string_view digits = word();
     if (!digits.empty() && digits.front() == '+') digits.remove_prefix(1);
     if (parseWhole(digits, value, 10)) return true;
-    double whole = 0;
+    double real = 0;
     constexpr double kLimit = 9e15;
-    if (parseReal(digits, whole) && std::fabs(whole) < kLimit && whole == std::floor(whole)) {
-        value = static_cast<std::int64_t>(whole);
-        return true;
+    if (!parseReal(digits, real) || std::fabs(real) >= kLimit) {
+        value = 0;
+        return mend(OdDxfErrorCode::kBadNumber, L"A whole number was expected; 0 stands for it.");
     }
-    return fail(OdDxfErrorCode::kBadNumber, L"A whole number was expected.");
+    value = std::llround(real);
+    return real == std::floor(real) ||
+           mend(OdDxfErrorCode::kBadNumber, L"A whole number was expected; the nearest stands for it.");
 }
 
 bool OdDxfScanner::handle(OdDbHandle& value) {
     if (parseWhole(word(), value, 16)) return true;
-    return fail(OdDxfErrorCode::kBadNumber, L"A handle was expected.");
+    value = 0;
+    return mend(OdDxfErrorCode::kBadNumber, L"A handle was expected; 0 stands for it.");
+}
+
+bool OdDxfScanner::mend(OdDxfErrorCode code, const wchar_t* text) {
+    if (!mends()) return fail(code, text);
+    if (m_reading->mends.size() < OdDxfReading::kMostMends) m_reading->mends.push_back({m_line, 0, text});
+    ++m_reading->mendCount;
+    return true;
 }
 
 bool OdDxfScanner::fail(OdDxfErrorCode code, const wchar_t* text) {
@@ -154,10 +196,12 @@ OdDbHandle odHandleFromText(std::string_view digits) {
     return parseWhole(trimmed(digits), value, 16) && value < kGreatestHandle ? value : 0;
 }
 
-bool odOverviewDxf(std::string_view text, OdDxfOverview& overview, OdDbDxfError& error) {
+bool odOverviewDxf(std::string_view text, bool strict, OdDxfOverview& overview, OdDbDxfError& error) {
     constexpr int kVariableName = 9;
     if (refuseAtOnce(text, error)) return false;
-    OdDxfScanner scanner(text);
+    OdDxfReading passing;
+    passing.strict = strict;
+    OdDxfScanner scanner(text, &passing);
     std::string_view variable;
     bool ended = false;
     bool opening = false;
@@ -184,5 +228,7 @@ bool odOverviewDxf(std::string_view text, OdDxfOverview& overview, OdDbDxfError&
             if (free > overview.firstFreeHandle) overview.firstFreeHandle = free;
         }
     }
-    return finishOverview(scanner, ended, error);
+    // Of a file that is cut off, something must be left beside the first section's beginning and the end
+    // mark.
+    return finishOverview(scanner, ended && (!scanner.cutOff() || overview.records > 2), error);
 }

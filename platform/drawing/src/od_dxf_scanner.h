@@ -3,15 +3,18 @@
 
 #include <string_view>
 #include "od_dxf_error.h"
+#include "od_dxf_reading.h"
 #include "od_group_list.h"
 
 /// Walks the pairs of a DXF text. After a false answer, `error()` says why if it wasn't the plain end.
 class OdDxfScanner {
 public:
-    explicit OdDxfScanner(std::string_view text) : m_rest(text) {}
+    /// Lines end with LF or CR LF, or all of them with CR alone. With `reading` (which outlives the scanner)
+    /// and unless it is strict, what is wrong is mended and noted there; otherwise it is an error.
+    explicit OdDxfScanner(std::string_view text, OdDxfReading* reading = nullptr);
 
     /// Goes on to the next pair; comments (999) are passed over. False at the end of the text and on an
-    /// error.
+    /// error. Where things are mended, an end mark stands behind the last pair if the text has none.
     bool next();
     int code() const { return m_code; }
     /// The value's line without its end, blanks and all.
@@ -23,18 +26,31 @@ public:
     /// Whether this pair is a group 0 of this type.
     bool isRecord(std::string_view type) const { return m_code == 0 && word() == type; }
 
-    /// The value as a number; false (with the error set) if it isn't one.
+    /// The value as a number. What is none becomes 0, and a real that should be whole the nearest; where
+    /// nothing is mended, the answer is false with the error set.
     bool real(double& value);
     bool integer(std::int64_t& value);
     bool handle(OdDbHandle& value);
 
     /// Notes a failure at the present line. Always false.
     bool fail(OdDxfErrorCode code, const wchar_t* text);
+    /// Notes at the present line that something was put right, and answers true; where nothing is mended, the
+    /// same as fail().
+    bool mend(OdDxfErrorCode code, const wchar_t* text);
+    /// Whether the end mark at which the scanner stands was missing.
+    bool cutOff() const { return m_cutOff; }
     const OdDbDxfError& error() const { return m_error; }
     bool failed() const { return m_error.code != OdDxfErrorCode::kNone; }
 
 private:
     bool takeLine(std::string_view& line);
+    bool takeCode();
+    bool endOfText();
+    bool mends() const { return m_reading && !m_reading->strict; }
+
+    OdDxfReading* m_reading;
+    char m_lineEnd;
+    bool m_cutOff = false;
     std::string_view m_rest;
     std::string_view m_value;
     int m_code = 0;
@@ -53,6 +69,6 @@ struct OdDxfOverview {
     std::size_t records = 0;
 };
 
-/// Looks through the whole text: whether it is a complete DXF file, its version and code page, and which
-/// handles are taken. False with `error` set if it isn't.
-bool odOverviewDxf(std::string_view text, OdDxfOverview& overview, OdDbDxfError& error);
+/// Looks through the whole text: whether it is a DXF file (a complete one, if `strict`), its version and code
+/// page, and which handles are taken. False with `error` set if it isn't.
+bool odOverviewDxf(std::string_view text, bool strict, OdDxfOverview& overview, OdDbDxfError& error);

@@ -70,7 +70,9 @@ std::string binaryOf(const std::string& text) {
 OdDbDxfError errorOf(const std::string& bytes) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     OdDbDxfError error;
-    EXPECT_NE(drawing->readDxfBytes(bytes, &error), kOdOk);
+    OdDxfReading strict;
+    strict.strict = true;
+    EXPECT_NE(drawing->readDxfBytes(bytes, &error, &strict), kOdOk);
     return error;
 }
 
@@ -299,6 +301,26 @@ TEST(DxfBinary, AFailureIsToldByTheByteOfItsGroup) {
     error = errorOf(coded.end());
     EXPECT_EQ(error.code, OdDxfErrorCode::kBadGroupCode);
     EXPECT_EQ(error.byte, code);
+}
+
+TEST(DxfBinary, WhatIsMendedIsToldByTheByteOfItsGroup) {
+    Bytes file = withCircle(true);
+    const std::size_t first = file.size();
+    file.raw(39, real(std::numeric_limits<double>::infinity())).raw(48, real(2));
+    const std::size_t second = file.size();
+    file.text(2000, "no code");
+    const std::size_t last = file.size();
+    file.raw(62, number(5, 2));
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    OdDxfReading reading;
+    ASSERT_EQ(drawing->readDxfBytes(file.bytes(), nullptr, &reading), kOdOk);
+    ASSERT_GE(reading.mends.size(), 3u);
+    const std::size_t places[] = {first, second, last};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(reading.mends[static_cast<std::size_t>(i)].line, 0);
+        EXPECT_EQ(reading.mends[static_cast<std::size_t>(i)].byte, places[i]) << i;
+    }
+    EXPECT_EQ(modelEntities(*drawing).size(), 1u);
 }
 
 TEST(DxfBinary, AMarkThatWasSentAsATextIsRefused) {

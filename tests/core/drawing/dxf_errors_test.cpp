@@ -1,4 +1,5 @@
-// Files that are refused: the reason, its line, and the drawing as it was.
+// Files that are refused, most of them by strict reading only: the reason, its line, and the drawing as it
+// was.
 #include <gtest/gtest.h>
 
 #include "dxf_text.h"
@@ -10,7 +11,10 @@ OdDbDxfError errorOf(const std::string& text) {
     const OdDbDatabasePtr hold(&drawing);
     const std::string before = drawing.writeDxfBytes();
     OdDbDxfError error;
-    EXPECT_NE(drawing.readDxfBytes(text, &error), kOdOk);
+    OdDxfReading strict;
+    strict.strict = true;
+    EXPECT_NE(drawing.readDxfBytes(text, &error, &strict), kOdOk);
+    EXPECT_EQ(strict.mendCount, 0u);
     EXPECT_EQ(drawing.writeDxfBytes(), before) << "a refused file leaves the drawing as it was";
     EXPECT_FALSE(error.text.isEmpty());
     return error;
@@ -37,7 +41,9 @@ TEST(DxfErrors, EveryTruncationIsNoticed) {
     for (std::size_t size = 1; size < end; ++size) {
         OdDbDatabasePtr drawing(new OdDbDatabase);
         OdDbDxfError error;
-        ASSERT_NE(drawing->readDxfBytes(whole.substr(0, size), &error), kOdOk) << size;
+        OdDxfReading strict;
+        strict.strict = true;
+        ASSERT_NE(drawing->readDxfBytes(whole.substr(0, size), &error, &strict), kOdOk) << size;
         EXPECT_GT(error.line, 0) << size;
     }
     EXPECT_EQ(errorOf(whole.substr(0, whole.rfind("0\nEOF"))).code, OdDxfErrorCode::kTruncated);
@@ -79,8 +85,8 @@ TEST(DxfErrors, AnOpenBlockOfApplicationDataIsTold) {
               OdDxfErrorCode::kBadStructure);
 }
 
-TEST(DxfErrors, VersionsBeforeR12AreRefused) {
-    EXPECT_EQ(errorOf(dxf(header("AC1006") + "0|EOF")).code, OdDxfErrorCode::kUnsupportedVersion);
+TEST(DxfErrors, VersionsBeforeR9AreRefused) {
+    EXPECT_EQ(errorOf(dxf(header("AC1003") + "0|EOF")).code, OdDxfErrorCode::kUnsupportedVersion);
     EXPECT_EQ(errorOf(dxf(header("MC0.0") + "0|EOF")).code, OdDxfErrorCode::kUnsupportedVersion);
 }
 
