@@ -42,11 +42,11 @@
 #include <ktui/input/ktui_typed_edits.h>
 #include <ktui/input/ktui_combo_box.h>
 #include <ktui/input/ktui_edit.h>
-#include <ktui/navigation/ktui_nav_dialog.h>
-#include <ktui/navigation/nav_array.h>
-#include <ktui/navigation/nav_data.h>
-#include <ktui/navigation/nav_dialog.h>
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/ktui_nav_dialog.h>
+#include <ktui/nav/nav_array.h>
+#include <ktui/nav/nav_data.h>
+#include <ktui/nav/nav_dialog.h>
+#include <ktui/nav/nav_filter.h>
 #include <ktui/pickers/arrow_head_combo_box.h>
 #include <ktui/pickers/color_combo_box.h>
 #include <ktui/pickers/config_util.h>

@@ -41,7 +41,7 @@ ROOMS = {
         _toolkit("dialogs"),
         _toolkit("tips", "ui_tips_test", "ui_messages_test"),
         _toolkit("docking"),
-        _toolkit("navigation"),
+        _toolkit("nav"),
         Room("platform/ktdb", ("platform/ktdb",), ("ktdb_test",), ("ktdb_test",), 90),
         Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),
         Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),

@@ -1,5 +1,5 @@
 // What the platform's file dialog starts with, from the settings and what is stored.
-#include <ktui/navigation/file_dialog_start.h>
+#include <ktui/nav/file_dialog_start.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // What the platform's file dialog is told about file types.
-#include <ktui/navigation/filter_string.h>
+#include <ktui/nav/filter_string.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // What a navigation dialog gives back: chosen items, and the array that owns them.
-#include <ktui/navigation/nav_data.h>
+#include <ktui/nav/nav_data.h>
 
 #include <gtest/gtest.h>
 

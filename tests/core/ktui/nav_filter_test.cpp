@@ -1,5 +1,5 @@
 // The file types of a navigation dialog.
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/nav_filter.h>
 
 #include <gtest/gtest.h>
 

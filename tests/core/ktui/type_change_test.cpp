@@ -1,5 +1,5 @@
 // What a change of the file type brings about.
-#include <ktui/navigation/type_change.h>
+#include <ktui/nav/type_change.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <ktui/navigation/filter_string.h>
+#include <ktui/nav/filter_string.h>
 
 namespace {
 

@@ -4,7 +4,7 @@
 // type chosen, and keeps folder and type for its next run.
 #pragma once
 
-#include <ktui/navigation/nav_dialog.h>
+#include <ktui/nav/nav_dialog.h>
 
 class KTUI_API CKtUiNavDialog : public CNavDialog {
     DECLARE_DYNAMIC(CKtUiNavDialog)

@@ -1,4 +1,4 @@
-#include <ktui/navigation/item_id_list.h>
+#include <ktui/nav/item_id_list.h>
 
 #ifdef _WIN32
 

@@ -1,5 +1,5 @@
 // Identifier lists of the shell go back to the shell's allocator.
-#include <ktui/navigation/nav_data.h>
+#include <ktui/nav/nav_data.h>
 
 #include <shlobj.h>
 

@@ -2,9 +2,9 @@
 // test decides what "the user" does in it.
 #pragma once
 
-#include <ktui/navigation/ktui_nav_dialog.h>
-#include <ktui/navigation/nav_dialog_imp.h>
-#include <ktui/navigation/nav_file_dlg.h>
+#include <ktui/nav/ktui_nav_dialog.h>
+#include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_file_dlg.h>
 
 #include <functional>
 #include <optional>

@@ -11,8 +11,8 @@
 #pragma once
 
 #include <ktui/dialogs/kbui_dialog.h>
-#include <ktui/navigation/nav_data.h>
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/nav_data.h>
+#include <ktui/nav/nav_filter.h>
 
 class CNavDialogImp;
 

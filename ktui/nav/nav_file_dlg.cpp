@@ -1,9 +1,9 @@
-#include <ktui/navigation/nav_file_dlg.h>
+#include <ktui/nav/nav_file_dlg.h>
 
 #include <shlobj.h>
 
 #include <ktui/host/loaded_module.h>
-#include <ktui/navigation/nav_dialog_imp.h>
+#include <ktui/nav/nav_dialog_imp.h>
 
 namespace {
 

@@ -11,7 +11,7 @@
 #pragma once
 
 #include <ktui/ktui_api.h>
-#include <ktui/navigation/nav_array.h>
+#include <ktui/nav/nav_array.h>
 
 /// The elements are the patterns, each with its wildcard, as in `*.dwg`.
 class KTUI_API CNavFilter : public CStringArray {

@@ -2,7 +2,7 @@
 // any window. Private to the library; its tests link it by itself.
 #pragma once
 
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/nav_filter.h>
 
 /// Texts and match lists by turns, each with a "|" behind it and one more at the end; empty for no filters.
 CString BuildFilterString(const CNavFilterArray& filters);

@@ -1,4 +1,4 @@
-#include <ktui/navigation/nav_dialog_imp.h>
+#include <ktui/nav/nav_dialog_imp.h>
 
 #include <shlobj.h>
 #include <shlwapi.h>
@@ -10,11 +10,11 @@
 
 #include <ktui/host/loaded_module.h>
 #include <ktui/host/resource_scope.h>
-#include <ktui/navigation/file_dialog_start.h>
-#include <ktui/navigation/filter_string.h>
-#include <ktui/navigation/ktui_nav_dialog.h>
-#include <ktui/navigation/nav_file_dlg.h>
-#include <ktui/navigation/type_change.h>
+#include <ktui/nav/file_dialog_start.h>
+#include <ktui/nav/filter_string.h>
+#include <ktui/nav/ktui_nav_dialog.h>
+#include <ktui/nav/nav_file_dlg.h>
+#include <ktui/nav/type_change.h>
 
 static_assert(kFileOverwritePrompt == OFN_OVERWRITEPROMPT && kFileNoChangeDir == OFN_NOCHANGEDIR &&
               kFileAllowMultiSelect == OFN_ALLOWMULTISELECT &&

@@ -5,7 +5,7 @@
 #include <afx.h>
 
 #include <ktui/ktui_api.h>
-#include <ktui/navigation/nav_array.h>
+#include <ktui/nav/nav_array.h>
 
 class GNavPathname;
 struct _ITEMIDLIST;

@@ -1,8 +1,8 @@
-#include <ktui/navigation/file_dialog_start.h>
+#include <ktui/nav/file_dialog_start.h>
 
 #include <algorithm>
 
-#include <ktui/navigation/filter_string.h>
+#include <ktui/nav/filter_string.h>
 
 namespace {
 

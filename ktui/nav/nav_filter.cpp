@@ -1,4 +1,4 @@
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/nav_filter.h>
 
 CNavFilter::~CNavFilter() { RemoveAll(); }
 

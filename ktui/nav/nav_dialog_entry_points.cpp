@@ -1,5 +1,5 @@
 // Operations of a navigation dialog that clients link against and that do nothing here.
-#include <ktui/navigation/nav_dialog.h>
+#include <ktui/nav/nav_dialog.h>
 
 void CNavDialog::SetToolsMenuItemsPresent(int) {}
 void CNavDialog::SetNoExtraExtensions(int) {}

@@ -1,7 +1,7 @@
 // A navigation dialog over the platform's own file dialog.
-#include <ktui/navigation/ktui_nav_dialog.h>
-#include <ktui/navigation/nav_dialog_imp.h>
-#include <ktui/navigation/nav_file_dlg.h>
+#include <ktui/nav/ktui_nav_dialog.h>
+#include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_file_dlg.h>
 
 #include <algorithm>
 #include <functional>

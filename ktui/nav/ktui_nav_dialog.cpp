@@ -1,4 +1,4 @@
-#include <ktui/navigation/ktui_nav_dialog.h>
+#include <ktui/nav/ktui_nav_dialog.h>
 
 #include <direct.h>
 
@@ -6,8 +6,8 @@
 #include <od_db_database.h>
 #include <od_host_services.h>
 
-#include <ktui/navigation/nav_dialog_imp.h>
-#include <ktui/navigation/nav_file_dlg.h>
+#include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_file_dlg.h>
 #include <ktui/pickers/working_drawing.h>
 
 IMPLEMENT_DYNAMIC(CKtUiNavDialog, CNavDialog)

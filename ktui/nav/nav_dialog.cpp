@@ -1,9 +1,9 @@
-#include <ktui/navigation/nav_dialog.h>
+#include <ktui/nav/nav_dialog.h>
 
 #include <kh_system.h>
 
-#include <ktui/navigation/nav_dialog_imp.h>
-#include <ktui/navigation/nav_file_dlg.h>
+#include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_file_dlg.h>
 
 IMPLEMENT_DYNAMIC(CNavDialog, CKbUiDialog)
 

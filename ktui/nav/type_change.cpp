@@ -1,6 +1,6 @@
-#include <ktui/navigation/type_change.h>
+#include <ktui/nav/type_change.h>
 
-#include <ktui/navigation/file_dialog_start.h>
+#include <ktui/nav/file_dialog_start.h>
 
 std::optional<CString> FolderToEnter(const CString& templatePath) {
     if (templatePath.IsEmpty()) return std::nullopt;

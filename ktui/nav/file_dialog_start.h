@@ -6,7 +6,7 @@
 #include <functional>
 #include <optional>
 
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/nav_filter.h>
 
 // Flags of the platform's file dialog (OFN_...), which the native build has no names for.
 constexpr unsigned long kFileOverwritePrompt = 0x00000002;

@@ -1,8 +1,8 @@
 // The settings of a navigation dialog, one getter and setter each.
-#include <ktui/navigation/nav_dialog.h>
+#include <ktui/nav/nav_dialog.h>
 
-#include <ktui/navigation/nav_dialog_imp.h>
-#include <ktui/navigation/nav_file_dlg.h>
+#include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_file_dlg.h>
 
 CNavDataArray* CNavDialog::GetDataArray() const { return m_imp->m_dataArray; }
 CNavFilterArray* CNavDialog::GetFilterArray() const { return m_imp->m_filterArray; }

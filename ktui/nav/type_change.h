@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include <ktui/navigation/nav_filter.h>
+#include <ktui/nav/nav_filter.h>
 
 /// The folder to go to, with a backslash at its end, for the path where templates lie; nothing for none.
 std::optional<CString> FolderToEnter(const CString& templatePath);

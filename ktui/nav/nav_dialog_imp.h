@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include <ktui/navigation/nav_dialog.h>
+#include <ktui/nav/nav_dialog.h>
 
 class CNavFileDlg;
 class StartTexts;

@@ -1,6 +1,6 @@
-#include <ktui/navigation/nav_data.h>
+#include <ktui/nav/nav_data.h>
 
-#include <ktui/navigation/item_id_list.h>
+#include <ktui/nav/item_id_list.h>
 
 CNavData::~CNavData() {
     FreeItemIdList(m_id);
