@@ -47,6 +47,8 @@
 #include <ktui/nav/nav_data.h>
 #include <ktui/nav/nav_dialog.h>
 #include <ktui/nav/nav_filter.h>
+#include <ktui/nav/thumbnail.h>
+#include <ktui/nav/thumbnail_ctrl.h>
 #include <ktui/pickers/arrow_head_combo_box.h>
 #include <ktui/pickers/color_combo_box.h>
 #include <ktui/pickers/config_util.h>

@@ -10,12 +10,11 @@
 #endif
 
 #include "number_cases.h"
+#include "preview_bytes.h"
+
+using preview_bytes::dibOf, preview_bytes::dwgWith, preview_bytes::put32;
 
 namespace {
-
-void put32(std::string& out, std::uint32_t value) {
-    for (int shift = 0; shift < 32; shift += 8) out += static_cast<char>(value >> shift);
-}
 
 /// A 2 by 2 image of 24 bits.
 std::string smallDib() {
@@ -40,38 +39,6 @@ std::string hex(const std::string& bytes) {
 std::string dxfWith(const std::string& hexText) {
     return "  0\r\nSECTION\r\n  2\r\nTHUMBNAILIMAGE\r\n 90\r\n56\r\n310\r\n" + hexText.substr(0, 40) +
            "\r\n310\r\n" + hexText.substr(40) + "\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n";
-}
-
-std::string dwgWith(const std::string& dib) {
-    constexpr std::uint32_t kSection = 64;
-    std::string file = "AC1015";
-    file.resize(13);
-    put32(file, kSection);
-    file.resize(kSection);
-    file += std::string("\x1F\x25\x6D\x07\xD4\x36\x28\x28\x9D\x57\xCA\x3F\x9D\x44\x10\x2B", 16);
-    put32(file, 100);
-    file += '\x02';
-    file += '\x01';
-    put32(file, 200);
-    put32(file, 0);
-    file += '\x02';
-    put32(file, static_cast<std::uint32_t>(file.size()) + 8);
-    put32(file, static_cast<std::uint32_t>(dib.size()));
-    return file + dib;
-}
-
-/// An image of one colour with a colour table; `used` of its entries are said to be there.
-std::string dibOf(std::uint32_t width, std::int32_t height, char bits, std::uint32_t used, std::size_t size) {
-    std::string dib;
-    put32(dib, 40);
-    put32(dib, width);
-    put32(dib, static_cast<std::uint32_t>(height));
-    dib += std::string("\x01\x00", 2) + bits + '\0';
-    for (int i = 0; i < 4; ++i) put32(dib, 0);
-    put32(dib, used);
-    put32(dib, 0);
-    dib.resize(size, '\x55');
-    return dib;
 }
 
 bool find(const std::string& file, std::string& dib) {
