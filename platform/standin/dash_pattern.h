@@ -15,5 +15,5 @@ STANDIN_API void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, cons
 
 /// Fills `area` (pixels of `dc`) with `background` and draws the pattern `dashes` along its middle in
 /// `foreground`, about two and a half repeats of it whatever the drawing's unit.
-void DrawLinetypeSample(CDC& dc, const CRect& area, const std::vector<double>& dashes, COLORREF foreground,
-                        COLORREF background);
+STANDIN_API void DrawLinetypeSample(CDC& dc, const CRect& area, const std::vector<double>& dashes,
+                                    COLORREF foreground, COLORREF background);

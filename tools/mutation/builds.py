@@ -81,7 +81,7 @@ def at_fault(output, tree):
         error = ERROR.match(block)
         if not error:
             continue
-        named = re.findall(r"the value of ‘(?:[\w ]*::)?(\w+)’|‘(?:const )?(?:\w+ )*(\w+)’ is not usable in a constant|call to non-‘constexpr’ function ‘[^’(]*?(\w+)\(", block)
+        named = re.findall(r"the value of ‘(?:[\w {}]*::)*(\w+)’|‘(?:const )?(?:\w+ )*(\w+)’ is not usable in a constant|call to non-‘constexpr’ function ‘[^’(]*?(\w+)\(", block)
         constants |= {n for group in named for n in group if n}
         found = []
         # Where a template was asked for stands before the error in it.

@@ -45,7 +45,7 @@ ROOMS = {
         Room("platform/ktdb", ("platform/ktdb",), ("ktdb_test",), ("ktdb_test",), 90),
         Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),
         Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),
-        Room("platform/standin", ("platform/standin",), ("standin_core_test",), ("ui_standin_test",), 90),
+        Room("platform/standin", ("platform/standin",), ("standin_core_test",), ("standin_core_test", "ui_standin_test"), 90),
         Room("platform/drawing", ("platform/drawing",), ("drawing_test",), (), 90),
         Room("platform/mfc", ("platform/mfc",), ("mfc_core_test",), _MFC, 80),
     )

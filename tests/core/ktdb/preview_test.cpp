@@ -9,8 +9,8 @@
 #include <windows.h>
 #endif
 
+#include "../../support/preview_bytes.h"
 #include "number_cases.h"
-#include "preview_bytes.h"
 
 using preview_bytes::dibOf, preview_bytes::dwgWith, preview_bytes::put32;
 

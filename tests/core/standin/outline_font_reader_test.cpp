@@ -97,6 +97,27 @@ TEST(OutlineFont, RomanNamesKeepTheirAccents) {
     EXPECT_EQ(title(TinyFont().raw(1, 0, 0, 1, "Z\x9Frich \xE7")), L"Z\xFCrich \xC1/Regular");
 }
 
+TEST(OutlineFont, EveryRomanByteHasItsCharacter) {
+    std::string bytes;
+    for (int byte = 0x80; byte < 0x100; ++byte) bytes += static_cast<char>(byte);
+    const std::wstring upper =
+        L"\u00C4\u00C5\u00C7\u00C9\u00D1\u00D6\u00DC\u00E1\u00E0\u00E2\u00E4\u00E3\u00E5\u00E7\u00E9\u00E8"
+        L"\u00EA\u00EB\u00ED\u00EC\u00EE\u00EF\u00F1\u00F3\u00F2\u00F4\u00F6\u00F5\u00FA\u00F9\u00FB\u00FC"
+        L"\u2020\u00B0\u00A2\u00A3\u00A7\u2022\u00B6\u00DF\u00AE\u00A9\u2122\u00B4\u00A8\u2260\u00C6\u00D8"
+        L"\u221E\u00B1\u2264\u2265\u00A5\u00B5\u2202\u2211\u220F\u03C0\u222B\u00AA\u00BA\u03A9\u00E6\u00F8"
+        L"\u00BF\u00A1\u00AC\u221A\u0192\u2248\u2206\u00AB\u00BB\u2026\u00A0\u00C0\u00C3\u00D5\u0152\u0153"
+        L"\u2013\u2014\u201C\u201D\u2018\u2019\u00F7\u25CA\u00FF\u0178\u2044\u20AC\u2039\u203A\uFB01\uFB02"
+        L"\u2021\u00B7\u201A\u201E\u2030\u00C2\u00CA\u00C1\u00CB\u00C8\u00CD\u00CE\u00CF\u00CC\u00D3\u00D4"
+        L"\uF8FF\u00D2\u00DA\u00DB\u00D9\u0131\u02C6\u02DC\u00AF\u02D8\u02D9\u02DA\u00B8\u02DD\u02DB\u02C7";
+    EXPECT_EQ(title(TinyFont().raw(1, 0, 0, 1, "A" + bytes + "~")), L"A" + upper + L"~/Regular");
+}
+
+TEST(OutlineFont, CharactersOfTwoUnitsStayOne) {
+    // In every width of wchar_t.
+    EXPECT_EQ(title(TinyFont().raw(3, 1, 0x409, 1, font_bytes::utf16(u"a\U0001F600\U0010FFFDz"))),
+              L"a\U0001F600\U0010FFFDz/Regular");
+}
+
 TEST(OutlineFont, SymbolFontsNameThemselvesInUnicode) {
     EXPECT_EQ(title(TinyFont().name(3, 0, 0x409, 1, std::string("Signs"))), L"Signs/Regular");
 }

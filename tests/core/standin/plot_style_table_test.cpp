@@ -247,6 +247,12 @@ TEST(PlotStyleTable, LargeOnesAreReadUpToTheLimit) {
     EXPECT_LT(bomb.size(), kMostPlotStyleText / 100);
     EXPECT_EQ(faultOf(bomb), PlotStyleFault::kTooLarge);
     EXPECT_EQ(faultOf(std::string(kMostPlotStyleText + 1, ' ')), PlotStyleFault::kTooLarge);
+    // Without packing as well, to the byte: 4 MB behind the first line.
+    const std::string firstLine = "PIAFILEVERSION_2.0,STBVER1\r\n";
+    EXPECT_EQ(faultOf(firstLine + kText + std::string((4u << 20) - sizeof kText + 1, '\n')),
+              PlotStyleFault::kNone);
+    EXPECT_EQ(faultOf(firstLine + kText + std::string((4u << 20) - sizeof kText + 2, '\n')),
+              PlotStyleFault::kTooLarge);
     // The same with a length that hides it.
     std::string hidden = bomb;
     setNumber(hidden, kHeadSize + 4, 1000);
