@@ -1,6 +1,7 @@
 // The drafter: a small host that shows the toolkit at work on a drawing.
 //
 //     drafter.exe [drawing.dxf]
+#include <afxadv.h>
 #include <afxwin.h>
 #include <ktut.h>
 #include <standin_host.h>
@@ -11,6 +12,9 @@
 #include "resource.h"
 
 namespace {
+
+constexpr UINT kMostRecentFiles = 9;
+constexpr int kLongestRecentPath = 60;  // characters, in the menu
 
 class CDrafterApp : public CWinApp {
 public:
@@ -24,6 +28,9 @@ public:
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
         m_host->SetHelpTopic(HID_PICKER_BAR, L"PickerBar");
+        SetRegistryKey(L"Velmora");
+        LoadStdProfileSettings(kMostRecentFiles);
+        m_pRecentFileList->m_nMaxDisplayLength = kLongestRecentPath;
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
@@ -37,6 +44,8 @@ public:
 
     int ExitInstance() override {
         m_host.reset();
+        // The list was written at each change, and by other drafters since.
+        m_pRecentFileList->ReadList();
         return CWinApp::ExitInstance();
     }
 

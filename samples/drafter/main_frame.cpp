@@ -48,8 +48,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
-    ON_COMMAND_RANGE(ID_RECENT_FILE, ID_RECENT_FILE + 8, &CMainFrame::OnRecentFile)
-    ON_UPDATE_COMMAND_UI(ID_RECENT_FILE, &CMainFrame::OnUpdateRecent)
+    ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE9, &CMainFrame::OnRecentFile)
     ON_WM_DROPFILES()
     ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnUndo)
     ON_COMMAND(ID_EDIT_REDO, &CMainFrame::OnRedo)
@@ -102,7 +101,6 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     // A drawing keeps its own units, also the one that is there at the start.
     m_options.units = UnitsOf(*m_document->database());
     useOptions(m_options);
-    loadRecent();
     DragAcceptFiles();
     showDrawing(false);
     return 0;

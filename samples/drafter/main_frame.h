@@ -46,7 +46,6 @@ protected:
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
     afx_msg void OnRecentFile(UINT id);
-    afx_msg void OnUpdateRecent(CCmdUI* item);
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnUndo();
     afx_msg void OnRedo();
@@ -100,22 +99,24 @@ private:
     CString shownName() const;
     void showTitle();
     bool saveTo(const CString& path);
+    /// Locks the file that the drawing is to be saved to, unless it is locked already; false if another
+    /// program has it, which is told.
+    bool lockForSaving(const CString& path, CDrawingLock& lock);
     /// Saves under the drawing's name, asking for one where that is needed; false if it was not saved.
     bool saveDrawing();
     /// Asks whether changes are to be saved; false if the user thought better of it.
     bool mayDiscard();
     /// Asks for a file name; empty if cancelled.
     CString askFileName(bool forSaving);
-    void loadRecent();
-    /// Makes a drawing the newest of the recent ones.
+    /// Makes a drawing the newest of the application's recent files.
     void keepRecent(const CString& path);
+    void forgetRecent(const CString& path);
 
     CStandinHost& m_host;
     std::unique_ptr<CDraftDocument> m_document;
     CDrawingView m_view;
     CStatusBarCtrl m_status;
     unsigned m_firstPrompt = 0;
-    std::vector<OdString> m_recent;  ///< whole paths of drawings, newest first
     CPickerBar m_pickers;
     CLayersDialog m_layers;      ///< its window exists while it is open
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command

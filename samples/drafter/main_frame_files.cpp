@@ -1,6 +1,8 @@
 // The main window's File menu: drawings are opened, saved, dropped, and remembered.
 #include "main_frame.h"
 
+#include <afxadv.h>
+
 #include <ktui/host/message_box.h>
 #include <ktut.h>
 #include <standin_host.h>
@@ -8,7 +10,6 @@
 #include "ask_file.h"
 #include "dropped_files.h"
 #include "messages.h"
-#include "recent_list.h"
 #include "resource.h"
 
 namespace {
@@ -21,30 +22,14 @@ CString textOf(UINT id) {
 
 CString folderOf(const CString& path) { return path.Left(path.ReverseFind(L'\\')); }
 
-/// Where the recent drawings are kept, per user.
-class RecentStore {
-public:
-    RecentStore() : m_keeper(0) { m_keeper.SetDialogName(L"RecentDrawings"); }
-    std::vector<OdString> Load() {
-        std::vector<OdString> files;
-        CString path;
-        for (std::size_t i = 0; i < kMostRecentFiles; ++i)
-            if (m_keeper.GetDialogData(name(i), path) && !path.IsEmpty()) files.push_back(OdString(path));
-        return files;
-    }
-    void Save(const std::vector<OdString>& files) {
-        for (std::size_t i = 0; i < kMostRecentFiles; ++i)
-            m_keeper.SetDialogData(name(i), i < files.size() ? files[i].c_str() : L"");
-    }
+/// The path as others name the file too: a lock and the recent drawings know a drawing by it.
+CString wholePath(const CString& path) {
+    wchar_t whole[MAX_PATH] = {};
+    const DWORD length = ::GetFullPathNameW(path, MAX_PATH, whole, nullptr);
+    return length > 0 && length < MAX_PATH ? CString(whole) : path;
+}
 
-private:
-    static CString name(std::size_t index) {
-        CString text;
-        text.Format(L"File%d", static_cast<int>(index + 1));
-        return text;
-    }
-    CKtUiDialog m_keeper;
-};
+CRecentFileList& recentFiles() { return *AfxGetApp()->m_pRecentFileList; }
 
 void tell(UINT id, const CString& path, int count = 0) {
     CString text;
@@ -54,7 +39,8 @@ void tell(UINT id, const CString& path, int count = 0) {
 
 }  // namespace
 
-bool CMainFrame::OpenDrawing(const CString& path) {
+bool CMainFrame::OpenDrawing(const CString& file) {
+    const CString path = wholePath(file);
     auto document = std::make_unique<CDraftDocument>();
     // The drawing that is open already has its lock.
     const bool isSame = m_document->lock().Holds(path);
@@ -89,10 +75,11 @@ bool CMainFrame::saveTo(const CString& path) {
         KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION);
         return false;
     }
+    CDrawingLock lock;
+    if (!lockForSaving(path, lock)) return false;
     if (m_document->Save(path)) {
-        CString holder;
         m_document->SetReadOnly(false);
-        m_document->lock().Take(path, holder);
+        if (lock.Holds(path)) m_document->lock() = std::move(lock);
         keepRecent(path);
         showTitle();
         return true;
@@ -107,6 +94,16 @@ bool CMainFrame::saveTo(const CString& path) {
     return false;
 }
 
+bool CMainFrame::lockForSaving(const CString& path, CDrawingLock& lock) {
+    if (m_document->lock().Holds(path)) return true;
+    CString holder;
+    const bool isInUse = lock.Take(path, holder) == CDrawingLock::Result::kInUse;
+    // Of the drawing's own file the user was told when it was opened.
+    if (!isInUse || path.CompareNoCase(m_document->path().c_str()) == 0) return true;
+    TellInUse(path, holder);
+    return false;
+}
+
 bool CMainFrame::mayDiscard() {
     if (!m_document->database()->isModified()) return true;
     switch (AskUnsavedChanges(*this, shownName())) {
@@ -118,7 +115,7 @@ bool CMainFrame::mayDiscard() {
 }
 
 CString CMainFrame::askFileName(bool forSaving) {
-    const CString folder = m_recent.empty() ? CString() : folderOf(m_recent.front().c_str());
+    const CString folder = folderOf(recentFiles()[0]);
     CString name;
     if (forSaving) name = m_document->name().isEmpty() ? textOf(IDS_PROPOSED_NAME) : shownName();
     return AskFileName(*this, {IDS_FILE_FILTER, L"dxf", forSaving, name, folder});
@@ -157,43 +154,29 @@ void CMainFrame::OnFileSaveAs() {
     if (!path.IsEmpty()) saveTo(path);
 }
 
-void CMainFrame::loadRecent() { m_recent = RecentStore().Load(); }
-
 void CMainFrame::keepRecent(const CString& path) {
-    wchar_t whole[MAX_PATH] = {};
-    const bool isWhole = ::GetFullPathNameW(path, MAX_PATH, whole, nullptr) < MAX_PATH;
-    m_recent = WithRecent(m_recent, isWhole ? OdString(whole) : OdString(path));
-    RecentStore().Save(m_recent);
+    // Another drafter may have put its own there since.
+    recentFiles().ReadList();
+    recentFiles().Add(path);
+    recentFiles().WriteList();
+}
+
+void CMainFrame::forgetRecent(const CString& path) {
+    CRecentFileList& recent = recentFiles();
+    recent.ReadList();
+    for (int i = 0; i < recent.GetSize(); ++i)
+        if (recent[i].CompareNoCase(path) == 0) recent.Remove(i);
+    recent.WriteList();
 }
 
 void CMainFrame::OnRecentFile(UINT id) {
-    const std::size_t index = id - ID_RECENT_FILE;
-    if (index >= m_recent.size() || !mayDiscard()) return;
-    const CString path = m_recent[index].c_str();
-    if (::GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES) {
-        OpenDrawing(path);
-        return;
+    const CString path = recentFiles()[static_cast<int>(id - ID_FILE_MRU_FILE1)];
+    if (path.IsEmpty()) return;
+    if (::GetFileAttributesW(path) == INVALID_FILE_ATTRIBUTES) {
+        tell(IDS_RECENT_GONE, path);
+        return forgetRecent(path);
     }
-    tell(IDS_RECENT_GONE, path);
-    m_recent = WithoutRecent(m_recent, m_recent[index]);
-    RecentStore().Save(m_recent);
-}
-
-/// The menu shows the recent drawings in the place of one greyed item.
-void CMainFrame::OnUpdateRecent(CCmdUI* item) {
-    if (item->m_pMenu == nullptr) return;
-    if (m_recent.empty()) {
-        item->SetText(textOf(IDS_NO_RECENT));
-        item->Enable(FALSE);
-        return;
-    }
-    for (UINT i = 0; i < kMostRecentFiles; ++i) item->m_pMenu->DeleteMenu(ID_RECENT_FILE + i, MF_BYCOMMAND);
-    for (std::size_t i = 0; i < m_recent.size(); ++i)
-        item->m_pMenu->InsertMenu(item->m_nIndex++, MF_STRING | MF_BYPOSITION,
-                                  ID_RECENT_FILE + static_cast<UINT>(i), RecentEntry(i, m_recent[i]));
-    item->m_nIndex--;
-    item->m_nIndexMax = item->m_pMenu->GetMenuItemCount();
-    item->m_bEnableChanged = TRUE;
+    if (mayDiscard()) OpenDrawing(path);
 }
 
 /// The first of the files that are dropped on the window is opened.

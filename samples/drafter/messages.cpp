@@ -2,6 +2,7 @@
 
 #include <kh_system.h>
 
+#include <ktui/host/message_box.h>
 #include <ktui/tips/messages/ktui_task_dialog.h>
 
 #include "resource.h"
@@ -33,6 +34,12 @@ CString plain(const CString& text) {
     CString shown = text;
     shown.Replace(L"&", L"&&");
     return shown;
+}
+
+CString inUse(const CString& path, const CString& holder) {
+    CString text;
+    text.Format(holder.IsEmpty() ? IDS_IN_USE : IDS_IN_USE_BY, path.GetString(), holder.GetString());
+    return text;
 }
 
 /// A question with commands of two lines each and a Cancel button, which makes it the toolkit's own.
@@ -74,9 +81,7 @@ UnsavedChoice AskUnsavedChanges(CWnd& parent, const CString& name) {
 
 InUseChoice AskInUse(CWnd& parent, const CString& path, const CString& holder) {
     Question question(textOf(IDS_IN_USE_HEADING));
-    CString content;
-    content.Format(holder.IsEmpty() ? IDS_IN_USE : IDS_IN_USE_BY, path.GetString(), holder.GetString());
-    question.SetContent(plain(content));
+    question.SetContent(plain(inUse(path, holder)));
     question.SetMainIcon(warningIcon());
     question.Offer(IDS_READ_ONLY_COMMAND, IDS_READ_ONLY_EXPLAINED);
     question.Offer(IDS_ANYWAY_COMMAND, IDS_ANYWAY_EXPLAINED);
@@ -85,6 +90,10 @@ InUseChoice AskInUse(CWnd& parent, const CString& path, const CString& holder) {
         case 1: return InUseChoice::kAnyway;
         default: return InUseChoice::kCancel;
     }
+}
+
+void TellInUse(const CString& path, const CString& holder) {
+    KtUiMessageBox(nullptr, formatted(IDS_SAVE_IN_USE, inUse(path, holder)), MB_ICONEXCLAMATION);
 }
 
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept) {

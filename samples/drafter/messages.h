@@ -17,6 +17,9 @@ enum class InUseChoice { kReadOnly, kAnyway, kCancel };
 /// Asks how the drawing at `path`, which `holder` has open, is to be opened.
 InUseChoice AskInUse(CWnd& parent, const CString& path, const CString& holder);
 
+/// Tells that the drawing at `path`, which `holder` has open, can't be saved over.
+void TellInUse(const CString& path, const CString& holder);
+
 /// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing that was open, still is.
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept);
 

@@ -103,8 +103,8 @@ std::wstring drawingsFolder();
 std::wstring scratchCopy(const std::wstring& drawing);
 std::wstring scratchPath(const std::wstring& name);
 
-/// Settings of the sample's dialogs in the registry: forgets them, and reads one number (`found` tells
-/// whether it is there).
+/// Settings of the sample in the registry: forgets those of its dialogs and its recent files, and reads one
+/// number (`found` tells whether it is there).
 void forgetSettings();
 int setting(const std::wstring& dialog, const std::wstring& value, bool& found);
 void storeSetting(const std::wstring& dialog, const std::wstring& value, int number);

@@ -40,6 +40,24 @@ protected:
         ::CloseHandle(program);
         ::PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(there), 0);
     }
+    /// Answers File > Save As with a path.
+    static void saveAs(Drafter& drafter, const std::wstring& path) {
+        const bool isThere = std::filesystem::exists(path);
+        drafter.activate(drafter.frame());
+        drafter.key('F', false, true);
+        drafter.key('A');
+        HWND dialog = drafter.waitForDialogOf(drafter.frame());
+        ASSERT_NE(dialog, nullptr);
+        drafter.replaceText(focusOf(dialog), path);
+        drafter.key(VK_RETURN);
+        // The system asks about a file that is there.
+        if (isThere) {
+            HWND question = drafter.waitForDialogOf(dialog);
+            ASSERT_NE(question, nullptr);
+            drafter.click(item(question, IDYES));
+        }
+        EXPECT_TRUE(drafter.waitUntilGone(dialog));
+    }
     std::wstring message() { return drafter->dismissMessage(drafter->frame()); }
 
     std::wstring first;
@@ -70,6 +88,14 @@ TEST_F(Files, ARecentDrawingIsOpenedByKeysAndOneThatIsGoneIsDropped) {
     drafter->key(VK_ESCAPE);
     drafter->key(VK_ESCAPE);
     EXPECT_TRUE(titleBegins(L"bracket.dxf")) << "it is in the list no more";
+    // The next program has the list as well.
+    drafter.reset();
+    open(L"");
+    drafter->activate(drafter->frame());
+    drafter->key('F', false, true);
+    drafter->key('2');
+    drafter->key('1');
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
 }
 
 TEST_F(Files, ANewDrawingHasAProposedNameInTheLastFolder) {
@@ -111,6 +137,31 @@ TEST_F(Files, ASecondProgramIsToldAndOpensReadOnly) {
     EXPECT_NE(dialog, nullptr);
     other.key(VK_ESCAPE);
     EXPECT_TRUE(other.waitUntilGone(dialog));
+}
+
+TEST_F(Files, SavingOverADrawingThatAnotherProgramHasOpenIsRefused) {
+    open(first);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    const std::wstring second = scratchCopy(L"site_plan.dxf");
+    const std::uintmax_t size = std::filesystem::file_size(first);
+    Drafter other(second);
+    ASSERT_NE(other.frame(), nullptr);
+    ASSERT_TRUE(waitUntil([&] { return textOf(other.frame()).rfind(L"site_plan.dxf", 0) == 0; }));
+    saveAs(other, first);
+    picture("journey-save-in-use");
+    const std::wstring words = other.dismissMessage(other.frame());
+    EXPECT_NE(words.find(L"bracket.dxf is open in a program of "), std::wstring::npos);
+    EXPECT_NE(words.find(L"another name"), std::wstring::npos);
+    EXPECT_EQ(std::filesystem::file_size(first), size) << "nothing was written";
+    EXPECT_EQ(textOf(other.frame()).rfind(L"site_plan.dxf", 0), 0u);
+    // Under another name it is saved, and has the lock of that one.
+    const std::wstring third = scratchPath(L"third.dxf");
+    std::filesystem::remove(third);
+    saveAs(other, third);
+    EXPECT_TRUE(waitUntil([&] { return textOf(other.frame()).rfind(L"third.dxf", 0) == 0; }));
+    EXPECT_TRUE(std::filesystem::exists(third + L".lock"));
+    EXPECT_FALSE(std::filesystem::exists(second + L".lock"));
+    EXPECT_TRUE(std::filesystem::exists(first + L".lock"));
 }
 
 TEST_F(Files, WhatTheFirstProgramHasClosedIsFree) {
