@@ -18,12 +18,28 @@ constexpr struct {
                 {IDC_PLOT_STYLE, IDS_TIP_PLOT_STYLE},
                 {IDC_LAYER, IDS_TIP_LAYER}};
 
+constexpr int kInOrder[] = {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT,
+                            IDC_PLOT_STYLE, IDC_LAYER,    IDC_LAYER_SEARCH};
+
+/// The height to be given to a control so that it stays what it is: that of a combo box counts its list.
+int heightOf(CWnd& control) {
+    CRect rect;
+    if (control.SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect)) == 0)
+        control.GetWindowRect(&rect);
+    return rect.Height();
+}
+
 }  // namespace
 
 IMPLEMENT_DYNAMIC(CPickerBar, CKtUiDialogBar)
 
+BEGIN_MESSAGE_MAP(CPickerBar, CKtUiDialogBar)
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
 BOOL CPickerBar::CreateBar(CWnd* frame) {
     if (!Create(frame, IDD_PICKER_BAR, CBRS_TOP, AFX_IDW_DIALOGBAR)) return FALSE;
+    rememberTemplate();
     bindPickers();
     addTips();
     return TRUE;
@@ -41,6 +57,47 @@ void CPickerBar::bindPickers() {
     m_search.SetDefaultText(prompt);
     m_search.SetNotification(prompt);
     m_search.ClearEditor();
+}
+
+void CPickerBar::rememberTemplate() {
+    std::vector<CRect> rects;
+    for (const int id : kInOrder) {
+        CRect rect;
+        GetDlgItem(id)->GetWindowRect(&rect);
+        ScreenToClient(&rect);
+        rects.push_back(rect);
+        m_widths.push_back(rect.Width());
+    }
+    m_edge = rects[0].left;
+    m_gap = rects[1].left - rects[0].right;
+    m_rowTop = rects[0].top;
+    m_rowPitch = m_sizeDefault.cy;
+}
+
+std::vector<BarPlace> CPickerBar::placesIn(int room) const {
+    return PlaceInRows(m_widths, room, m_edge, m_gap);
+}
+
+CSize CPickerBar::CalcFixedLayout(BOOL stretch, BOOL horizontal) {
+    CSize size = CKtUiDialogBar::CalcFixedLayout(stretch, horizontal);
+    CRect frame;
+    GetParent()->GetClientRect(&frame);
+    size.cy = m_rowPitch * RowCount(placesIn(frame.Width()));
+    return size;
+}
+
+void CPickerBar::OnSize(UINT type, int cx, int cy) {
+    CKtUiDialogBar::OnSize(type, cx, cy);
+    std::size_t index = 0;
+    for (const BarPlace& place : placesIn(cx)) {
+        CWnd& picker = *GetDlgItem(kInOrder[index++]);
+        CRect present;
+        picker.GetWindowRect(&present);
+        // The height of a drop-down list stays that of its template.
+        const UINT keeps = present.Width() == place.width ? SWP_NOSIZE : 0;
+        picker.SetWindowPos(nullptr, place.left, m_rowTop + place.row * m_rowPitch, place.width,
+                            heightOf(picker), keeps | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 void CPickerBar::addTips() {

@@ -52,6 +52,27 @@ protected:
         static_cast<CComboBox&>(combo).GetLBText(index, text);
         return text;
     }
+    /// Gives the frame a width, and the bar the layout that comes of it.
+    void makeWide(int pixels) {
+        frame->SetWindowPos(nullptr, 0, 0, pixels, 400, SWP_NOMOVE | SWP_NOZORDER);
+        pump();
+    }
+    std::vector<CRect> pickerRects() {
+        std::vector<CRect> rects;
+        for (const int id :
+             {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE, IDC_LAYER, IDC_LAYER_SEARCH}) {
+            CRect rect;
+            bar.GetDlgItem(id)->GetWindowRect(&rect);
+            bar.ScreenToClient(&rect);
+            rects.push_back(rect);
+        }
+        return rects;
+    }
+    CRect clientOfBar() {
+        CRect client;
+        bar.GetClientRect(&client);
+        return client;
+    }
     /// Takes the entry with this text as the user does.
     void take(int id, const wchar_t* text) {
         CWnd& combo = *bar.GetDlgItem(id);
@@ -203,6 +224,49 @@ TEST_F(PickerBar, EscapeInTheSearchBoxGivesUp) {
     pump();
     EXPECT_EQ(layers.SendMessage(CB_GETCOUNT), all);
     EXPECT_EQ(changes, 0);
+}
+
+TEST_F(PickerBar, WhatARowHasNoRoomForGoesOnInTheNext) {
+    makeWide(1200);
+    const std::vector<CRect> wide = pickerRects();
+    const int row = clientOfBar().Height();
+    for (const CRect& each : wide) EXPECT_EQ(each.top, wide[0].top) << "one row";
+    LONG height = 0;
+    for (const int width : {760, 560, 400, 260, 140}) {
+        makeWide(width);
+        const CRect client = clientOfBar();
+        EXPECT_GT(client.Height(), row) << width;
+        EXPECT_GE(client.Height(), height) << width << ": no fewer rows than before";
+        height = client.Height();
+        std::vector<CRect> before;
+        for (const CRect& each : pickerRects()) {
+            EXPECT_EQ(client | each, client) << width << ": nothing is cut off";
+            for (const CRect& other : before) {
+                EXPECT_FALSE(CRect().IntersectRect(each, other)) << width;
+                EXPECT_TRUE(each.top > other.top || (each.top == other.top && each.left > other.left))
+                    << width << ": in their order";
+            }
+            before.push_back(each);
+        }
+    }
+    makeWide(1200);
+    EXPECT_EQ(pickerRects(), wide);
+    EXPECT_EQ(clientOfBar().Height(), row);
+}
+
+TEST_F(PickerBar, AListIsAsHighAsBeforeWhenTheBarWasNarrow) {
+    const auto listHeight = [&] {
+        CRect rect;
+        bar.GetDlgItem(IDC_LINETYPE)
+            ->SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect));
+        return rect.Height();
+    };
+    const int before = listHeight();
+    makeWide(120);
+    EXPECT_LT(pickerRects()[1].Width(), 120) << "narrowed to the row";
+    EXPECT_EQ(listHeight(), before);
+    makeWide(1200);
+    EXPECT_EQ(listHeight(), before);
 }
 
 TEST_F(PickerBar, EachPickerHasATip) {
