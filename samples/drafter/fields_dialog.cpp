@@ -112,8 +112,9 @@ std::optional<double> CFieldsDialog::EditedAngle(unsigned id) const {
     return number;
 }
 
-void CFieldsDialog::ShowMessage(const CString& text) {
+void CFieldsDialog::say(const CString& text, bool isProblem) {
     m_message = text;
+    m_messageIsProblem = isProblem;
     showProblem();
 }
 
@@ -171,7 +172,7 @@ void CFieldsDialog::OnShowWindow(BOOL show, UINT status) {
 HBRUSH CFieldsDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
     HBRUSH brush = CKtUiDialog::OnCtlColor(dc, control, kind);
     if (kind == CTLCOLOR_STATIC && control->GetDlgCtrlID() == IDC_MESSAGE) {
-        dc->SetTextColor(messageInk());
+        if (m_messageIsProblem || badField() != nullptr) dc->SetTextColor(messageInk());
         return brush;
     }
     // A list that can't be used looks like it below its last row as well.

@@ -39,8 +39,10 @@ protected:
     std::optional<double> EditedAngle(unsigned id) const;
     /// Tells the problem of the first invalid field and puts the focus there; false if there is none.
     bool RefuseInvalid();
-    /// Words of the dialog's own for the line IDC_MESSAGE; they show while no field is invalid.
-    void ShowMessage(const CString& text);
+    /// Words of the dialog's own for the line IDC_MESSAGE, on a problem and on what is none; they show while
+    /// no field is invalid. A problem is told in red.
+    void ShowMessage(const CString& text) { say(text, true); }
+    void ShowNote(const CString& text) { say(text, false); }
 
     /// Resizing of a row of two columns: label and control at the left, label and control at the right; each
     /// control takes half of the growth. An id of 0 stands for nothing.
@@ -80,9 +82,11 @@ private:
     /// The invalid field to speak of; null if there is none.
     const Field* badField() const;
     void showProblem();
+    void say(const CString& text, bool isProblem);
     static void bringBackVaries(const Field& field);
 
     std::vector<Field> m_fields;
     CString m_message;  ///< the dialog's own words
+    bool m_messageIsProblem = true;
     CBrush m_invalidBrush;
 };

@@ -17,9 +17,11 @@ void CLayerDropSite::OnDragDrop(HDROP drop) {
     const std::vector<CString> files = TakeDroppedFiles(drop);
     if (files.empty() || !m_dropped) return;
     const CString& path = files.front();
+    // The line of the dialog is too short for most paths.
+    const CString name = path.Mid(path.ReverseFind(L'\\') + 1);
     CString words;
     if (const UINT problem = WhyNoDrawing(path)) {
-        words.Format(problem, path.GetString());
+        words.Format(problem, name.GetString());
         words.Replace(L"\n\n", L" - ");
         m_dropped({}, words);
         return;
@@ -27,10 +29,10 @@ void CLayerDropSite::OnDragDrop(HDROP drop) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     OdDbDxfError error;
     if (drawing->readDxf(path, &error) != kOdOk) {
-        words.Format(IDS_DROP_UNREADABLE, path.GetString(), error.text.c_str());
+        words.Format(IDS_DROP_UNREADABLE, name.GetString(), error.text.c_str());
         m_dropped({}, words);
         return;
     }
-    words.Format(IDS_DROP_LAYERS, static_cast<int>(ListLayers(*drawing).size()), path.GetString());
+    words.Format(IDS_DROP_LAYERS, name.GetString(), static_cast<int>(ListLayers(*drawing).size()));
     m_dropped(drawing, words);
 }

@@ -165,7 +165,10 @@ void CPropertiesDialog::attachPickButtons() {
     m_selectObjects.EnableWindow(m_picker != nullptr);
     m_dropSite.Attach(IDC_DROP_LAYERS, this, [this](const OdDbDatabasePtr& drawing, const CString& words) {
         m_layersFrom = drawing;
-        ShowMessage(words);
+        if (drawing)
+            ShowNote(words);
+        else
+            ShowMessage(words);
     });
 }
 

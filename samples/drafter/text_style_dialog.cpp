@@ -267,7 +267,7 @@ void CTextStyleDialog::showLoadedBigFont(const CString& name) {
     if (font == nullptr || !font->isShx()) {
         CString text;
         text.Format(IDS_BIG_FONT_ADDED, name.GetString());
-        ShowMessage(text);
+        ShowNote(text);
         return;
     }
     m_useBigFont.SetCheck(BST_CHECKED);

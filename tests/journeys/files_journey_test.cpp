@@ -220,7 +220,7 @@ TEST_F(Files, ADrawingDroppedInPropertiesGivesItsLayerSettings) {
     dropOn(item(dialog, IDC_DROP_LAYERS), {first + L".gone"});
     EXPECT_TRUE(says(L"no longer there"));
     dropOn(item(dialog, IDC_DROP_LAYERS), {elsewhere});
-    EXPECT_TRUE(says(L"2 layers"));
+    EXPECT_TRUE(says(L"elsewhere.dxf (layers: 2)"));
     picture("journey-drop-site");
     ok(dialog);
     const OdDbDatabasePtr drawing = saved();

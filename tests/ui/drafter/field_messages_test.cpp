@@ -3,6 +3,10 @@
 #include "../../../samples/drafter/properties_dialog.h"
 #include "drafter_fixture.h"
 
+#include <shlobj.h>
+
+#include "picture.h"
+
 using namespace ui_test;
 
 namespace {
@@ -79,6 +83,55 @@ TEST_F(FieldMessages, PuttingTheFormerTextBackIsNoMistake) {
         enter(IDC_THICKNESS, before);
         EXPECT_TRUE(saysNothing());
     });
+}
+
+/// The handle of a drop of one file; the window that takes it frees it.
+HDROP dropOf(const CString& path) {
+    const SIZE_T bytes = sizeof(DROPFILES) + (static_cast<SIZE_T>(path.GetLength()) + 2) * sizeof(wchar_t);
+    const HGLOBAL block = ::GlobalAlloc(GHND, bytes);
+    auto* const head = static_cast<DROPFILES*>(::GlobalLock(block));
+    head->pFiles = sizeof(DROPFILES);
+    head->fWide = TRUE;
+    wcscpy(reinterpret_cast<wchar_t*>(head + 1), path);
+    ::GlobalUnlock(block);
+    return static_cast<HDROP>(block);
+}
+
+/// Whether a window shows anything in red.
+bool hasRed(CWnd& window) {
+    constexpr int kMuch = 80;
+    window.RedrawWindow();
+    const Picture picture(window);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (GetRValue(picture.at(x, y)) > GetGValue(picture.at(x, y)) + kMuch) return true;
+    return false;
+}
+
+TEST_F(FieldMessages, WhatADropWillDoIsNoProblemAndAFileThatIsGoneIsOne) {
+    wchar_t folder[MAX_PATH] = {};
+    ::GetTempPathW(MAX_PATH, folder);
+    const CString path = CString(folder) + L"a drawing to drop.dxf";
+    ASSERT_EQ(OdDbDatabasePtr(new OdDbDatabase)->writeDxf(path), kOdOk);
+    show(dialog, [&] {
+        CWnd& line = item(dialog, IDC_MESSAGE);
+        const auto drop = [&](const CString& file) {
+            item(dialog, IDC_DROP_LAYERS).SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(dropOf(file)));
+            pump();
+        };
+        drop(path);
+        EXPECT_STREQ(text_of(line.m_hWnd),
+                     L"OK takes the layer settings of a drawing to drop.dxf (layers: 1).");
+        EXPECT_FALSE(hasRed(line));
+        drop(path + L".gone");
+        EXPECT_GE(text_of(line.m_hWnd).Find(L"a drawing to drop.dxf.gone - "), 0);
+        EXPECT_TRUE(hasRed(line));
+        drop(path);
+        EXPECT_FALSE(hasRed(line)) << "the next drop serves";
+        enter(IDC_THICKNESS, L"-1");
+        EXPECT_TRUE(hasRed(line)) << "a bad field comes first, and is a problem";
+    });
+    ::DeleteFileW(path);
 }
 
 TEST_F(DrafterTest, ATakenNameIsToldUntilItIsChanged) {
