@@ -1,5 +1,7 @@
 #include "options_dialog.h"
 
+#include <kh_system.h>
+
 #include "extensions.h"
 #include "resource.h"
 
@@ -64,6 +66,15 @@ void COptionsDialog::openLastPage() {
 
 BOOL COptionsDialog::PreTranslateMessage(MSG* message) {
     return KtUiTurnTabByKey(m_tabs, *message) || CKtUiTabMainDialog::PreTranslateMessage(message);
+}
+
+int COptionsDialog::DoDialogHelp() {
+    CKbUiTabChildDialog* page = m_tabs.GetDialogPointer(m_tabs.GetActiveTab());
+    if (::GetFocus() != m_tabs.m_hWnd || page == nullptr) return CKtUiTabMainDialog::DoDialogHelp();
+    CString topic;
+    page->GetDialogHelpTag(topic);
+    CKhSystem::instance()->uiHost()->showHelp(topic);
+    return 1;
 }
 
 void COptionsDialog::OnApply() {

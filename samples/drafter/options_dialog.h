@@ -23,6 +23,8 @@ public:
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
+    /// F1 on the strip of tabs is about the page in front.
+    int DoDialogHelp() override;
     afx_msg void OnApply();
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()

@@ -3,6 +3,8 @@
 
 namespace {
 
+constexpr int kLongText = 5000;  // characters
+
 CString numbered(INT_PTR answer) {
     CString text;
     text.Format(L"%d", static_cast<int>(answer));
@@ -65,9 +67,9 @@ class CTaskDialogPage : public CGalleryPage {
         dialog.SetWindowTitle(Both(L"Gallery", L"控件库"));
         dialog.SetMainInstruction(
             Both(L"Save the changes to bracket.dxf?", L"是否保存对 bracket.dxf 的更改？"));
-        CString content = Both(L"It was changed ten minutes ago. ", L"十分钟前作了更改。");
-        if (m_isLong)
-            for (int i = 0; i < 5; ++i) content += content;
+        const CString sentence = Both(L"It was changed ten minutes ago. ", L"十分钟前作了更改。");
+        CString content = sentence;
+        while (m_isLong && content.GetLength() < kLongText) content += sentence;
         dialog.SetContent(content);
         dialog.SetOptions(kRelative | (m_links ? kLinks : 0));
         dialog.SetCommonButtons(kCancel);

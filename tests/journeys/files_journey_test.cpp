@@ -1,8 +1,7 @@
 // A draughtsman opens drawings: recent ones, dropped ones, and one that another program has.
 #include <filesystem>
 
-#include <shlobj.h>
-
+#include "dropped_on.h"
 #include "journey_fixture.h"
 #include "message_text.h"
 
@@ -18,27 +17,8 @@ protected:
         return waitUntil([&] { return textOf(drafter->frame()).rfind(name, 0) == 0; });
     }
     void drop(const std::vector<std::wstring>& files) { dropOn(drafter->frame(), files); }
-    /// Drops files on a window, as the shell does: their names are in the memory of the program.
-    void dropOn(HWND window, const std::vector<std::wstring>& files) {
-        std::wstring names;
-        for (const std::wstring& file : files) names += file + L'\0';
-        names += L'\0';
-        std::vector<char> block(sizeof(DROPFILES) + names.size() * sizeof(wchar_t));
-        auto* const head = reinterpret_cast<DROPFILES*>(block.data());
-        head->pFiles = sizeof(DROPFILES);
-        head->fWide = TRUE;
-        memcpy(block.data() + sizeof(DROPFILES), names.data(), names.size() * sizeof(wchar_t));
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(drafter->frame(), &process);
-        const HANDLE program =
-            ::OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE | PROCESS_VM_READ, FALSE, process);
-        ASSERT_NE(program, nullptr);
-        void* const there =
-            ::VirtualAllocEx(program, nullptr, block.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-        ASSERT_NE(there, nullptr);
-        ASSERT_TRUE(::WriteProcessMemory(program, there, block.data(), block.size(), nullptr));
-        ::CloseHandle(program);
-        ::PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(there), 0);
+    static void dropOn(HWND window, const std::vector<std::wstring>& files) {
+        ASSERT_TRUE(DropOn(window, files));
     }
     /// Answers File > Save As with a path.
     static void saveAs(Drafter& drafter, const std::wstring& path) {
@@ -219,6 +199,8 @@ TEST_F(Files, ADrawingDroppedInPropertiesGivesItsLayerSettings) {
     };
     dropOn(item(dialog, IDC_DROP_LAYERS), {first + L".gone"});
     EXPECT_TRUE(says(L"no longer there"));
+    dropOn(item(dialog, IDC_DROP_LAYERS), {std::filesystem::path(first).parent_path().wstring()});
+    EXPECT_TRUE(says(L"This is a folder"));
     dropOn(item(dialog, IDC_DROP_LAYERS), {elsewhere});
     EXPECT_TRUE(says(L"elsewhere.dxf (layers: 2)"));
     picture("journey-drop-site");

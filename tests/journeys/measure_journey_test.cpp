@@ -1,6 +1,7 @@
 // A draughtsman measures in the drawing: the dialog goes away, picks are made, the dialog comes back.
 #include <cstdlib>
 
+#include "dropped_on.h"
 #include "journey_fixture.h"
 
 using namespace journey;
@@ -129,6 +130,23 @@ TEST_F(Measure, WhileItPicksTheFrameTakesNoOtherCommandAndClosingGivesUp) {
     ASSERT_TRUE(isBack());
     EXPECT_TRUE(drafter->isRunning());
     cancel(dialog);
+}
+
+TEST_F(Measure, ByKeysNoOtherDrawingComesWhileItPicksAndClosingEndsThePickFirst) {
+    ASSERT_NE(openMeasure(), nullptr);
+    drafter->key(VK_SPACE);
+    ASSERT_TRUE(isAway());
+    drafter->key('N', true);
+    drafter->key('O', true);
+    ASSERT_TRUE(DropOn(drafter->frame(), {scratchCopy(L"site_plan.dxf")}));
+    drafter->key(VK_RETURN);
+    drafter->key(VK_F4, false, true);
+    ASSERT_TRUE(isBack());
+    EXPECT_EQ(textOf(drafter->frame()).rfind(L"bracket.dxf - ", 0), 0u);
+    EXPECT_EQ(shown(IDC_MEASURED_DISTANCE), L"") << "of one place there is none";
+    cancel(dialog);
+    drafter->key(VK_F4, false, true);
+    EXPECT_TRUE(waitUntil([this] { return !drafter->isRunning(); }));
 }
 
 }  // namespace

@@ -167,6 +167,27 @@ TEST_F(Options, WithoutTheExtensionTheRestWorksAndTheDialogSaysSo) {
     drafter.reset();
 }
 
+TEST_F(Options, AnExtensionOfAnotherVersionIsSaidAndTheRestWorks) {
+    drafter.reset();
+    const OwnProgram program;
+    std::filesystem::copy_file(std::filesystem::path(programFolder()) / L"later_title_block.dll",
+                               program.file(L"extensions\\title_block.dll"),
+                               std::filesystem::copy_options::overwrite_existing);
+    open(path, program.folder());
+    HWND dialog = openOptions();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(::SendMessageW(item(dialog, IDC_TABS), TCM_GETITEMCOUNT, 0, 0), 3);
+    EXPECT_NE(textOf(item(dialog, IDC_MESSAGE)).find(L"was made for version"), std::wstring::npos);
+    picture("journey-options-other-version");
+    drafter->key(VK_TAB, true);
+    drafter->key(VK_TAB, true);
+    HWND units = pageWith(dialog, IDC_LINEAR_UNITS);
+    drafter->pick(item(units, IDC_LINEAR_UNITS), 3);
+    ok(dialog);
+    EXPECT_EQ(saved()->getLUNITS(), 4);
+    drafter.reset();
+}
+
 TEST_F(Options, ADamagedExtensionIsSaid) {
     drafter.reset();
     const OwnProgram program;

@@ -24,6 +24,11 @@ protected:
             line->setColor(color);
             space->appendOdDbEntity(line);
         }
+        OdDbLayerTablePtr layers;
+        drawing->getLayerTable(layers, OdDb::kForWrite);
+        const OdSmartPtr<OdDbLayerTableRecord> layer(new OdDbLayerTableRecord);
+        layer->setName(L"walls");
+        layers->add(OdDbSymbolTableRecordPtr(layer.get()));
         open(*drawing, L"picker_bar.dxf");
     }
     HWND picker(int id) { return item(item(drafter->frame(), kBar), id); }
@@ -80,6 +85,35 @@ TEST_F(PickerBarJourney, ByKeysALayerIsSearchedForAndTaken) {
     picture("journey-search-taken");
     const OdDbDatabasePtr drawing = saved();
     for (const OdDbEntity* each : entitiesOf(*drawing)) EXPECT_EQ(each->layer(), L"facade");
+}
+
+TEST_F(PickerBarJourney, InANarrowWindowTheSearchBoxIsInReachOfKeysAndMouse) {
+    drafter->place(drafter->frame(), {20, 20, 330, 500});
+    HWND box = picker(IDC_LAYER_SEARCH);
+    const RECT bar = rectOf(item(drafter->frame(), kBar)), view = rectOf(drafter->view());
+    for (const int id :
+         {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE, IDC_LAYER, IDC_LAYER_SEARCH}) {
+        const RECT rect = rectOf(picker(id));
+        EXPECT_TRUE(rect.left >= bar.left && rect.right <= bar.right && rect.top >= bar.top &&
+                    rect.bottom <= bar.bottom)
+            << id;
+    }
+    EXPECT_EQ(bar.bottom, view.top) << "the drawing begins below all rows";
+    selectAll();
+    drafter->key('F', true);
+    drafter->type(L"wal");
+    picture("journey-narrow-search");
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(waitUntil([&] { return shown(picker(IDC_LAYER)) == L"walls"; }));
+    const int all = entryCount(picker(IDC_LAYER));
+    drafter->click(box);
+    drafter->type(L"none of them");
+    EXPECT_TRUE(waitUntil([&] { return entryCount(picker(IDC_LAYER)) < all; }));
+    // The cross at the end of the box empties it.
+    const RECT rect = rectOf(box);
+    drafter->click(box, {rect.right - rect.left - 12, (rect.bottom - rect.top) / 2});
+    EXPECT_TRUE(waitUntil([&] { return entryCount(picker(IDC_LAYER)) == all; }));
+    picture("journey-narrow-cleared");
 }
 
 TEST_F(PickerBarJourney, TheMenuHidesItAndTheViewTakesTheRoom) {

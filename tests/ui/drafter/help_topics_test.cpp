@@ -119,6 +119,12 @@ TEST_F(HelpTopics, ThePagesOfTheOptionsHaveTheirs) {
         DrafterOptions(), [](const DrafterOptions&) {}, nullptr, &parent);
     topics.clear();
     show(dialog, [&] {
+        CKbUiTab& tabs = *dialog.GetTabControl();
+        tabs.SetActiveTab(1);
+        tabs.SetFocus();
+        pressF1();
+        EXPECT_EQ(topics, times(1, L"OptionsDisplay")) << "on the strip, with that page in front";
+        topics.clear();
         dialog.GetDlgItem(IDHELP)->SetFocus();
         dialog.SendMessage(WM_COMMAND, IDHELP);
     });
