@@ -145,6 +145,7 @@ TEST_F(Measure, ByKeysNoOtherDrawingComesWhileItPicksAndClosingEndsThePickFirst)
     EXPECT_EQ(textOf(drafter->frame()).rfind(L"bracket.dxf - ", 0), 0u);
     EXPECT_EQ(shown(IDC_MEASURED_DISTANCE), L"") << "of one place there is none";
     cancel(dialog);
+    drafter->activate(drafter->frame());
     drafter->key(VK_F4, false, true);
     EXPECT_TRUE(waitUntil([this] { return !drafter->isRunning(); }));
 }
