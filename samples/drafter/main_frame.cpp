@@ -92,7 +92,8 @@ CMainFrame::~CMainFrame() { m_host.SetCurrentDocument(nullptr); }
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;
     if (!m_view.CreateView(this, kViewId)) return -1;
-    if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this, AFX_IDW_STATUS_BAR))
+    if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS, CRect(0, 0, 0, 0), this,
+                         AFX_IDW_STATUS_BAR))
         return -1;
     if (!m_pickers.CreateBar(this)) return -1;
     CKtUiDialog keeper(0);
@@ -112,7 +113,7 @@ void CMainFrame::OnSize(UINT type, int cx, int cy) {
     const int pointer = KtUiAppearancePixels(m_hWnd, kPointerWidth);
     const int selection = KtUiAppearancePixels(m_hWnd, kSelectionWidth);
     int edges[3] = {cx - pointer - selection, cx - selection, -1};
-    m_status.SetParts(3, edges);
+    m_status.Part(3, edges);
 }
 
 /// The status line is a control of the system, which finds its place by itself.
@@ -289,13 +290,13 @@ void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
     m_view.PickObjects([this, picked = std::move(picked)](bool isPicked) {
         picked(isPicked ? &m_view.selection() : nullptr);
     });
-    m_status.SetText(textOf(prompt), 0, 0);
+    m_status.Say(textOf(prompt));
 }
 
-void CMainFrame::showIdle() { m_status.SetText(textOf(AFX_IDS_IDLEMESSAGE), 0, 0); }
+void CMainFrame::showIdle() { m_status.Say(textOf(AFX_IDS_IDLEMESSAGE)); }
 
 void CMainFrame::showPrompt() {
-    m_status.SetText(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())), 0, 0);
+    m_status.Say(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())));
 }
 
 std::vector<OdDbObjectId> CMainFrame::selectedObjects() const {

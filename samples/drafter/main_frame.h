@@ -1,7 +1,6 @@
 // The drafter's main window: menu, drawing view, status line.
 #pragma once
 
-#include <afxcmn.h>
 #include <afxwin.h>
 
 #include "draft_document.h"
@@ -11,6 +10,7 @@
 #include "layers_dialog.h"
 #include "options.h"
 #include "picker_bar.h"
+#include "status_line.h"
 
 class CKhFontStyle;
 class CStandinHost;
@@ -115,7 +115,7 @@ private:
     CStandinHost& m_host;
     std::unique_ptr<CDraftDocument> m_document;
     CDrawingView m_view;
-    CStatusBarCtrl m_status;
+    CStatusLine m_status;
     unsigned m_firstPrompt = 0;
     CPickerBar m_pickers;
     CLayersDialog m_layers;      ///< its window exists while it is open

@@ -256,17 +256,31 @@ TEST_F(PickerBar, WhatARowHasNoRoomForGoesOnInTheNext) {
 
 TEST_F(PickerBar, AListIsAsHighAsBeforeWhenTheBarWasNarrow) {
     const auto listHeight = [&] {
+        CWnd& combo = *bar.GetDlgItem(IDC_LINETYPE);
+        drop(combo);
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ::GetComboBoxInfo(combo.m_hWnd, &info);
         CRect rect;
-        bar.GetDlgItem(IDC_LINETYPE)
-            ->SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect));
+        ::GetWindowRect(info.hwndList, &rect);
+        combo.SendMessage(CB_SHOWDROPDOWN, FALSE);
         return rect.Height();
     };
+    for (int i = 0; i < 40; ++i) {
+        OdDbLinetypeTablePtr table;
+        drawing->getLinetypeTable(table, OdDb::kForWrite);
+        const auto record = table->newRecord();
+        record->setName(OdString((L"L" + std::to_wstring(i)).c_str()));
+        table->add(record);
+    }
+    bar.Show(*drawing, {});
     const int before = listHeight();
     makeWide(120);
     EXPECT_LT(pickerRects()[1].Width(), 120) << "narrowed to the row";
     EXPECT_EQ(listHeight(), before);
     makeWide(1200);
     EXPECT_EQ(listHeight(), before);
+    EXPECT_GT(before, 100);
 }
 
 TEST_F(PickerBar, EachPickerHasATip) {
