@@ -197,6 +197,9 @@ PropertyValues CPickerBar::picked(UINT id) {
 
 BOOL CPickerBar::OnCommand(WPARAM wParam, LPARAM lParam) {
     const BOOL result = CKtUiDialogBar::OnCommand(wParam, lParam);
+    // A tip would lie on the list.
+    const bool drops = HIWORD(wParam) == CBN_DROPDOWN;
+    if (m_toolTip != nullptr && (drops || HIWORD(wParam) == CBN_CLOSEUP)) m_toolTip->Activate(!drops);
     if (m_showing || m_drawing == nullptr) return result;
     if (LOWORD(wParam) == IDC_LAYER_SEARCH && HIWORD(wParam) == EN_CHANGE) {
         m_showing = true;

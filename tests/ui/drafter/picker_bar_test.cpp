@@ -303,4 +303,27 @@ TEST_F(PickerBar, ATipComesUpOverAPicker) {
     EXPECT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
 }
 
+TEST_F(PickerBar, ATipGoesWhenTheListIsDroppedAndComesUpAgainWhenItIsClosed) {
+    bar.Show(*drawing, {});
+    CWnd& combo = *bar.GetDlgItem(IDC_LINETYPE);
+    CRect rect;
+    combo.GetWindowRect(&rect);
+    ASSERT_TRUE(move_cursor(rect.CenterPoint()));
+    const auto point = [&](int x) {
+        MSG move = {combo.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(x, 5), ::GetTickCount(), rect.CenterPoint()};
+        bar.PreTranslateMessage(&move);
+    };
+    point(5);
+    ASSERT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
+    drop(combo);
+    EXPECT_FALSE(bar.m_toolTip->IsWindowVisible());
+    point(6);
+    EXPECT_FALSE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }, 1500))
+        << "nor does it come back meanwhile";
+    combo.SendMessage(CB_SHOWDROPDOWN, FALSE);
+    pump();
+    point(7);
+    EXPECT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
+}
+
 }  // namespace
