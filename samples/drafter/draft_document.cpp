@@ -21,7 +21,9 @@ CDraftDocument::CDraftDocument()
 
 bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
-    if (drawing->readDxf(path, &error) != kOdOk) return false;
+    OdDxfReading reading;
+    if (drawing->readDxf(path, &error, &reading) != kOdOk) return false;
+    m_reading = std::move(reading);
     m_drawing = drawing;
     m_history = std::make_unique<CUndoHistory>(m_drawing);
     m_written = whenWritten(path);

@@ -22,8 +22,10 @@ public:
     CKhDrawingView* drawingView() override { return nullptr; }
     CKhVariableStore* variables() override { return this; }
 
-    /// Replaces the drawing by that of a file; on failure nothing changes and `error` says why.
+    /// Replaces the drawing by that of a file; on failure nothing changes and `error` says why. What was
+    /// mended in it stands in Reading().
     bool Open(const wchar_t* path, OdDbDxfError& error);
+    const OdDxfReading& Reading() const { return m_reading; }
     /// The same for a template: the drawing is a new one then, without a file.
     bool StartFrom(const wchar_t* path, OdDbDxfError& error);
     bool Save(const wchar_t* path);
@@ -48,6 +50,7 @@ private:
     bool setBool(const wchar_t* name, bool value) override;
 
     OdDbDatabasePtr m_drawing;
+    OdDxfReading m_reading;
     std::unique_ptr<CUndoHistory> m_history;
     unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
     CDrawingLock m_lock;

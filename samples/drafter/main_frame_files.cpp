@@ -56,7 +56,9 @@ bool CMainFrame::OpenDrawing(const CString& file) {
         return false;
     }
     if (isSame) document->lock() = std::move(m_document->lock());
+    const CString mended = MendedText(document->Reading());
     showDocument(std::move(document));
+    if (!mended.IsEmpty()) m_status.Say(mended);
     keepRecent(path);
     return true;
 }

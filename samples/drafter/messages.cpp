@@ -1,5 +1,7 @@
 #include "messages.h"
 
+#include <string>
+
 #include <kh_system.h>
 
 #include <ktui/host/message_box.h>
@@ -96,10 +98,26 @@ void TellInUse(const CString& path, const CString& holder) {
     KtUiMessageBox(nullptr, formatted(IDS_SAVE_IN_USE, inUse(path, holder)), MB_ICONEXCLAMATION);
 }
 
+CString MendedText(const OdDxfReading& reading) {
+    CString text;
+    if (reading.mends.empty()) return text;
+    const OdDxfMend& first = reading.mends.front();
+    const int count = static_cast<int>(reading.mendCount);
+    // Binary files have no lines.
+    if (first.line != 0)
+        text.Format(IDS_MENDED_AT_LINE, count, first.line, first.text.c_str());
+    else
+        text.Format(IDS_MENDED_AT_BYTE, count, std::to_wstring(first.byte).c_str(), first.text.c_str());
+    return text;
+}
+
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept) {
     CString reason;
-    // What concerns the whole file has no line.
-    if (error.line == 0)
+    // What concerns the whole file has no line, and what stands in a binary one has a byte.
+    if (error.byte != 0)
+        reason.Format(IDS_READ_FAILED_AT_BYTE, path.GetString(), std::to_wstring(error.byte).c_str(),
+                      error.text.c_str());
+    else if (error.line == 0)
         reason.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
     else
         reason.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include <od_dxf_error.h>
+#include <od_dxf_reading.h>
 
 /// What to do with a drawing that was changed.
 enum class UnsavedChoice { kSave, kDiscard, kCancel };
@@ -19,6 +20,9 @@ InUseChoice AskInUse(CWnd& parent, const CString& path, const CString& holder);
 
 /// Tells that the drawing at `path`, which `holder` has open, can't be saved over.
 void TellInUse(const CString& path, const CString& holder);
+
+/// What was mended in a drawing, how often, and where first; for one line. Empty for nothing.
+CString MendedText(const OdDxfReading& reading);
 
 /// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing that was open, still is.
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept);

@@ -1,5 +1,6 @@
 // A draughtsman opens drawings: recent ones, dropped ones, and one that another program has.
 #include <filesystem>
+#include <fstream>
 
 #include "dropped_on.h"
 #include "journey_fixture.h"
@@ -153,6 +154,43 @@ TEST_F(Files, WhatTheFirstProgramHasClosedIsFree) {
     Drafter other(first);
     ASSERT_NE(other.frame(), nullptr);
     EXPECT_TRUE(waitUntil([&] { return textOf(other.frame()).rfind(L"bracket.dxf - ", 0) == 0; }));
+}
+
+TEST_F(Files, WhatWasMendedInADrawingIsSaidAndTheDrawingOpens) {
+    std::string text;
+    {
+        std::ifstream file(std::filesystem::path(first), std::ios::binary);
+        text.assign(std::istreambuf_iterator<char>(file), {});
+    }
+    // The end mark is missing.
+    text.erase(text.rfind("EOF"));
+    const std::filesystem::path cut = std::filesystem::path(first).replace_filename(L"cut.dxf");
+    std::ofstream(cut, std::ios::binary) << text;
+    open(cut.wstring());
+    ASSERT_TRUE(titleBegins(L"cut.dxf"));
+    const HWND status = ::GetDlgItem(drafter->frame(), 0xE801);
+    EXPECT_TRUE(waitUntil([&] { return textOf(status).find(L"end") != std::wstring::npos; }))
+        << odUtf8(textOf(status));
+    EXPECT_EQ(textOf(status).rfind(L"Places mended in the drawing: 1. Line ", 0), 0u)
+        << odUtf8(textOf(status));
+}
+
+TEST_F(Files, ABinaryDrawingStaysOneWhenItIsSaved) {
+    const std::filesystem::path binary = std::filesystem::path(first).replace_filename(L"binary.dxf");
+    {
+        OdDbDatabasePtr drawing(new OdDbDatabase);
+        ASSERT_EQ(drawing->readDxf(first.c_str()), kOdOk);
+        ASSERT_EQ(drawing->writeDxf(binary.wstring().c_str(), OdDxfForm{OdDb::kDHL_1032, true}), kOdOk);
+    }
+    open(binary.wstring());
+    ASSERT_TRUE(titleBegins(L"binary.dxf"));
+    const auto before = std::filesystem::last_write_time(binary);
+    drafter->activate(drafter->frame());
+    drafter->key('S', true);
+    EXPECT_TRUE(waitUntil([&] { return std::filesystem::last_write_time(binary) != before; }));
+    OdDbDatabasePtr again(new OdDbDatabase);
+    EXPECT_EQ(again->readDxf(binary.wstring().c_str()), kOdOk);
+    EXPECT_TRUE(again->originalFileIsBinary());
 }
 
 TEST_F(Files, ADroppedDrawingIsOpened) {
