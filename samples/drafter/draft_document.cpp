@@ -41,6 +41,7 @@ bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
 bool CDraftDocument::Save(const wchar_t* path) {
     if (m_drawing->writeDxf(path) != kOdOk) return false;
     m_history->MarkSaved();
+    m_reading = {};
     m_written = whenWritten(path);
     m_isNew = false;
     return true;

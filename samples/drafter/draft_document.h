@@ -23,7 +23,7 @@ public:
     CKhVariableStore* variables() override { return this; }
 
     /// Replaces the drawing by that of a file; on failure nothing changes and `error` says why. What was
-    /// mended in it stands in Reading().
+    /// mended in it stands in Reading() until the drawing is saved.
     bool Open(const wchar_t* path, OdDbDxfError& error);
     const OdDxfReading& Reading() const { return m_reading; }
     /// The same for a template: the drawing is a new one then, without a file.

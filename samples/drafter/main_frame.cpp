@@ -293,7 +293,16 @@ void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
     m_status.Say(textOf(prompt));
 }
 
-void CMainFrame::showIdle() { m_status.Say(textOf(AFX_IDS_IDLEMESSAGE)); }
+void CMainFrame::GetMessageString(UINT id, CString& message) const {
+    if (id == AFX_IDS_IDLEMESSAGE) message = MendedText(m_document->Reading());
+    if (id != AFX_IDS_IDLEMESSAGE || message.IsEmpty()) CFrameWnd::GetMessageString(id, message);
+}
+
+void CMainFrame::showIdle() {
+    CString text;
+    GetMessageString(AFX_IDS_IDLEMESSAGE, text);
+    m_status.Say(text);
+}
 
 void CMainFrame::showPrompt() {
     m_status.Say(textOf(m_firstPrompt + static_cast<unsigned>(m_view.places().size())));

@@ -29,6 +29,8 @@ public:
 
 protected:
     CWnd* GetMessageBar() override { return &m_status; }
+    /// While nothing else is to be said, what was mended in the drawing.
+    void GetMessageString(UINT id, CString& message) const override;
     /// While the user picks, only what changes the view or the selection goes on.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void RecalcLayout(BOOL notify = TRUE) override;

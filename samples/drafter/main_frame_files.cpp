@@ -56,9 +56,7 @@ bool CMainFrame::OpenDrawing(const CString& file) {
         return false;
     }
     if (isSame) document->lock() = std::move(m_document->lock());
-    const CString mended = MendedText(document->Reading());
     showDocument(std::move(document));
-    if (!mended.IsEmpty()) m_status.Say(mended);
     keepRecent(path);
     return true;
 }
@@ -84,6 +82,7 @@ bool CMainFrame::saveTo(const CString& path) {
         if (lock.Holds(path)) m_document->lock() = std::move(lock);
         keepRecent(path);
         showTitle();
+        showIdle();
         return true;
     }
     const CString reason = WhyNotWritable(path);
