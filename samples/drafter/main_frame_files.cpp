@@ -58,6 +58,7 @@ bool CMainFrame::OpenDrawing(const CString& file) {
     if (isSame) document->lock() = std::move(m_document->lock());
     showDocument(std::move(document));
     keepRecent(path);
+    if (m_document->Reading().mendCount > 0) TellMended(*this, path, m_document->Reading());
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "messages.h"
 
 #include <string>
+#include <algorithm>
 
 #include <kh_system.h>
 
@@ -14,6 +15,7 @@ namespace {
 constexpr int kLinks = 0x0010, kRelative = 0x1000;
 constexpr int kCancelButton = 8, kOkButton = 1;
 constexpr int kFirstCommand = 101;
+constexpr std::size_t kListedMends = 5;  // of those of a drawing
 const wchar_t* const kSettings = L"Messages";
 const wchar_t* const kOverwriteNewer = L"OverwriteNewer";
 
@@ -42,6 +44,29 @@ CString inUse(const CString& path, const CString& holder) {
     CString text;
     text.Format(holder.IsEmpty() ? IDS_IN_USE : IDS_IN_USE_BY, path.GetString(), holder.GetString());
     return text;
+}
+
+/// What was mended, with its place.
+CString placed(const OdDxfMend& mend) {
+    CString text;
+    // A binary file has no lines.
+    if (mend.line != 0)
+        text.Format(IDS_MENDED_LINE, mend.line, mend.text.c_str());
+    else
+        text.Format(IDS_MENDED_BYTE, std::to_wstring(mend.byte).c_str(), mend.text.c_str());
+    return text;
+}
+
+/// A message of a heading and a text with the warning sign and an OK button.
+void warn(CWnd& parent, UINT heading, const CString& text) {
+    CKtUiTaskDialog dialog;
+    dialog.SetWindowTitle(CKhSystem::instance()->productInfo()->messageCaption());
+    dialog.SetMainInstruction(textOf(heading));
+    dialog.SetContent(text);
+    dialog.SetMainIcon(warningIcon());
+    dialog.SetOptions(0x0008 | 0x0002 | kRelative);
+    dialog.SetCommonButtons(kOkButton);
+    dialog.DoModal(parent.m_hWnd);
 }
 
 /// A question with commands of two lines each and a Cancel button, which makes it the toolkit's own.
@@ -100,14 +125,9 @@ void TellInUse(const CString& path, const CString& holder) {
 
 CString MendedText(const OdDxfReading& reading) {
     CString text;
-    if (reading.mends.empty()) return text;
-    const OdDxfMend& first = reading.mends.front();
-    const int count = static_cast<int>(reading.mendCount);
-    // Binary files have no lines.
-    if (first.line != 0)
-        text.Format(IDS_MENDED_AT_LINE, count, first.line, first.text.c_str());
-    else
-        text.Format(IDS_MENDED_AT_BYTE, count, std::to_wstring(first.byte).c_str(), first.text.c_str());
+    if (!reading.mends.empty())
+        text.Format(IDS_MENDED_STATUS, static_cast<int>(reading.mendCount),
+                    placed(reading.mends.front()).GetString());
     return text;
 }
 
@@ -121,14 +141,21 @@ void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error
         reason.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
     else
         reason.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
-    CKtUiTaskDialog dialog;
-    dialog.SetWindowTitle(CKhSystem::instance()->productInfo()->messageCaption());
-    dialog.SetMainInstruction(textOf(IDS_UNREADABLE_HEADING));
-    dialog.SetContent(reason + L"\n\n" + formatted(IDS_DRAWING_KEPT, kept));
-    dialog.SetMainIcon(warningIcon());
-    dialog.SetOptions(0x0008 | 0x0002 | kRelative);
-    dialog.SetCommonButtons(kOkButton);
-    dialog.DoModal(parent.m_hWnd);
+    warn(parent, IDS_UNREADABLE_HEADING, reason + L"\n\n" + formatted(IDS_DRAWING_KEPT, kept));
+}
+
+void TellMended(CWnd& parent, const CString& path, const OdDxfReading& reading) {
+    CString list;
+    const std::size_t listed = std::min(reading.mends.size(), kListedMends);
+    for (std::size_t i = 0; i < listed; ++i) list += L"\n" + placed(reading.mends[i]);
+    if (reading.mendCount > listed) {
+        CString more;
+        more.Format(IDS_MENDED_MORE, static_cast<int>(reading.mendCount - listed));
+        list += L"\n" + more;
+    }
+    CString text;
+    text.Format(IDS_MENDED, path.GetString(), list.GetString());
+    warn(parent, IDS_MENDED_HEADING, text);
 }
 
 NewerFileChoice AskNewerFile(CWnd& parent, const CString& path) {

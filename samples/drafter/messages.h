@@ -27,6 +27,9 @@ CString MendedText(const OdDxfReading& reading);
 /// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing that was open, still is.
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept);
 
+/// Tells what was wrong in the drawing at `path`, which was opened all the same, and where.
+void TellMended(CWnd& parent, const CString& path, const OdDxfReading& reading);
+
 /// What to do when the file on disk was written after the drawing was opened.
 enum class NewerFileChoice { kOverwrite, kSaveAs, kCancel };
 
