@@ -19,7 +19,7 @@ unsigned long long whenWritten(const wchar_t* path) {
 CDraftDocument::CDraftDocument()
     : m_drawing(new OdDbDatabase), m_history(std::make_unique<CUndoHistory>(m_drawing)) {}
 
-bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error, OdDxfReading* reading) {
+bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     OdDxfReading reading;
     if (drawing->readDxf(path, &error, &reading) != kOdOk) return false;

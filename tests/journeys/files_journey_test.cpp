@@ -199,89 +199,90 @@ TEST_F(Files, ABinaryDrawingStaysOneWhenItIsSaved) {
     OdDbDatabasePtr again(new OdDbDatabase);
     EXPECT_EQ(again->readDxf(binary.wstring().c_str()), kOdOk);
     EXPECT_TRUE(again->originalFileIsBinary());
-    TEST_F(Files, ADamagedDrawingIsOpenedWithWhatCanBeKeptAndTheLineIsTold) {
-        const std::wstring damaged = scratchPath(L"damaged.dxf");
-        std::string text = "0\nSECTION\n2\nENTITIES\n";
-        for (int i = 0; i < 8; ++i) text += "0\nCIRCLE\n8\n0\n10\nabc\n20\n7\n40\n2\n";
-        std::ofstream(std::filesystem::path(damaged), std::ios::binary) << text << "0\nENDSEC\n0\nEOF\n";
-        open(L"");
-        drafter->openDrawing(damaged);
-        HWND told = drafter->waitForDialogOf(drafter->frame());
-        ASSERT_NE(told, nullptr);
-        picture("journey-damaged");
-        const std::wstring words = message();
-        EXPECT_NE(words.find(L"damaged.dxf"), std::wstring::npos);
-        EXPECT_NE(words.find(L"Line 10: A number was expected"), std::wstring::npos);
-        EXPECT_NE(words.find(L"Line 50: "), std::wstring::npos) << "the fifth";
-        EXPECT_NE(words.find(L"And 3 more."), std::wstring::npos);
-        EXPECT_TRUE(titleBegins(L"damaged.dxf - "));
-        // What was opened is whole when it is saved.
-        drafter->activate(drafter->frame());
-        drafter->key('S', true);
-        OdDbDatabasePtr drawing(new OdDbDatabase);
-        OdDxfReading strict;
-        strict.strict = true;
-        EXPECT_TRUE(waitUntil([&] { return drawing->readDxf(damaged.c_str(), nullptr, &strict) == kOdOk; }));
-        EXPECT_EQ(entitiesOf(*drawing).size(), 8u);
-    }
+}
 
-    TEST_F(Files, ADroppedDrawingIsOpened) {
-        open(L"");
-        drop({first});
-        EXPECT_TRUE(titleBegins(L"bracket.dxf"));
-    }
+TEST_F(Files, ADamagedDrawingIsOpenedWithWhatCanBeKeptAndTheLineIsTold) {
+    const std::wstring damaged = scratchPath(L"damaged.dxf");
+    std::string text = "0\nSECTION\n2\nENTITIES\n";
+    for (int i = 0; i < 8; ++i) text += "0\nCIRCLE\n8\n0\n10\nabc\n20\n7\n40\n2\n";
+    std::ofstream(std::filesystem::path(damaged), std::ios::binary) << text << "0\nENDSEC\n0\nEOF\n";
+    open(L"");
+    drafter->openDrawing(damaged);
+    HWND told = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(told, nullptr);
+    picture("journey-damaged");
+    const std::wstring words = message();
+    EXPECT_NE(words.find(L"damaged.dxf"), std::wstring::npos);
+    EXPECT_NE(words.find(L"Line 10: A number was expected"), std::wstring::npos);
+    EXPECT_NE(words.find(L"Line 50: "), std::wstring::npos) << "the fifth";
+    EXPECT_NE(words.find(L"And 3 more."), std::wstring::npos);
+    EXPECT_TRUE(titleBegins(L"damaged.dxf - "));
+    // What was opened is whole when it is saved.
+    drafter->activate(drafter->frame());
+    drafter->key('S', true);
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    OdDxfReading strict;
+    strict.strict = true;
+    EXPECT_TRUE(waitUntil([&] { return drawing->readDxf(damaged.c_str(), nullptr, &strict) == kOdOk; }));
+    EXPECT_EQ(entitiesOf(*drawing).size(), 8u);
+}
 
-    TEST_F(Files, OfTenDroppedFilesTheFirstIsOpenedAndThatIsSaid) {
-        open(L"");
-        std::vector<std::wstring> ten = {first};
-        for (int i = 1; i < 10; ++i) ten.push_back(scratchCopy(L"site_plan.dxf"));
-        drop(ten);
-        EXPECT_NE(message().find(L"first of 10 files"), std::wstring::npos);
-        EXPECT_TRUE(titleBegins(L"bracket.dxf"));
-    }
+TEST_F(Files, ADroppedDrawingIsOpened) {
+    open(L"");
+    drop({first});
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+}
 
-    TEST_F(Files, AFolderAndAFileThatIsGoneAreRefusedInWords) {
-        open(first);
-        drop({std::filesystem::path(first).parent_path().wstring()});
-        EXPECT_NE(message().find(L"This is a folder"), std::wstring::npos);
-        drop({first + L".gone"});
-        EXPECT_NE(message().find(L"no longer there"), std::wstring::npos);
-        EXPECT_TRUE(titleBegins(L"bracket.dxf"));
-    }
+TEST_F(Files, OfTenDroppedFilesTheFirstIsOpenedAndThatIsSaid) {
+    open(L"");
+    std::vector<std::wstring> ten = {first};
+    for (int i = 1; i < 10; ++i) ten.push_back(scratchCopy(L"site_plan.dxf"));
+    drop(ten);
+    EXPECT_NE(message().find(L"first of 10 files"), std::wstring::npos);
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+}
 
-    TEST_F(Files, ADrawingDroppedInPropertiesGivesItsLayerSettings) {
-        OdDbDatabasePtr other(new OdDbDatabase);
-        OdDbLayerTablePtr layers;
-        other->getLayerTable(layers);
-        OdSmartPtr<OdDbLayerTableRecord> layer(new OdDbLayerTableRecord);
-        layer->setName(L"FROM ELSEWHERE");
-        layers->add(OdDbSymbolTableRecordPtr(layer.get()));
-        layer->setLineWeight(OdDb::kLnWt070);
-        const std::wstring elsewhere = scratchPath(L"elsewhere.dxf");
-        ASSERT_EQ(other->writeDxf(elsewhere.c_str()), kOdOk);
-        open(path = first);
-        ASSERT_TRUE(titleBegins(L"bracket.dxf"));
-        drafter->activate(drafter->frame());
-        HWND dialog = drafter->openProperties();
-        ASSERT_NE(dialog, nullptr);
-        const auto says = [&](const wchar_t* words) {
-            return waitUntil(
-                [&] { return textOf(item(dialog, IDC_MESSAGE)).find(words) != std::wstring::npos; });
-        };
-        dropOn(item(dialog, IDC_DROP_LAYERS), {first + L".gone"});
-        EXPECT_TRUE(says(L"no longer there"));
-        dropOn(item(dialog, IDC_DROP_LAYERS), {std::filesystem::path(first).parent_path().wstring()});
-        EXPECT_TRUE(says(L"This is a folder"));
-        dropOn(item(dialog, IDC_DROP_LAYERS), {elsewhere});
-        EXPECT_TRUE(says(L"elsewhere.dxf (layers: 2)"));
-        picture("journey-drop-site");
-        ok(dialog);
-        const OdDbDatabasePtr drawing = saved();
-        OdDbLayerTablePtr table;
-        drawing->getLayerTable(table);
-        const auto taken = table->getAt(L"FROM ELSEWHERE").open<OdDbLayerTableRecord>();
-        ASSERT_TRUE(taken);
-        EXPECT_EQ(taken->lineWeight(), OdDb::kLnWt070);
-    }
+TEST_F(Files, AFolderAndAFileThatIsGoneAreRefusedInWords) {
+    open(first);
+    drop({std::filesystem::path(first).parent_path().wstring()});
+    EXPECT_NE(message().find(L"This is a folder"), std::wstring::npos);
+    drop({first + L".gone"});
+    EXPECT_NE(message().find(L"no longer there"), std::wstring::npos);
+    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+}
+
+TEST_F(Files, ADrawingDroppedInPropertiesGivesItsLayerSettings) {
+    OdDbDatabasePtr other(new OdDbDatabase);
+    OdDbLayerTablePtr layers;
+    other->getLayerTable(layers);
+    OdSmartPtr<OdDbLayerTableRecord> layer(new OdDbLayerTableRecord);
+    layer->setName(L"FROM ELSEWHERE");
+    layers->add(OdDbSymbolTableRecordPtr(layer.get()));
+    layer->setLineWeight(OdDb::kLnWt070);
+    const std::wstring elsewhere = scratchPath(L"elsewhere.dxf");
+    ASSERT_EQ(other->writeDxf(elsewhere.c_str()), kOdOk);
+    open(path = first);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    drafter->activate(drafter->frame());
+    HWND dialog = drafter->openProperties();
+    ASSERT_NE(dialog, nullptr);
+    const auto says = [&](const wchar_t* words) {
+        return waitUntil([&] { return textOf(item(dialog, IDC_MESSAGE)).find(words) != std::wstring::npos; });
+    };
+    dropOn(item(dialog, IDC_DROP_LAYERS), {first + L".gone"});
+    EXPECT_TRUE(says(L"no longer there"));
+    dropOn(item(dialog, IDC_DROP_LAYERS), {std::filesystem::path(first).parent_path().wstring()});
+    EXPECT_TRUE(says(L"This is a folder"));
+    dropOn(item(dialog, IDC_DROP_LAYERS), {elsewhere});
+    EXPECT_TRUE(says(L"elsewhere.dxf (layers: 2)"));
+    picture("journey-drop-site");
+    ok(dialog);
+    const OdDbDatabasePtr drawing = saved();
+    OdDbLayerTablePtr table;
+    drawing->getLayerTable(table);
+    const auto taken = table->getAt(L"FROM ELSEWHERE").open<OdDbLayerTableRecord>();
+    ASSERT_TRUE(taken);
+    EXPECT_EQ(taken->lineWeight(), OdDb::kLnWt070);
+}
 
 }  // namespace
