@@ -145,8 +145,18 @@ std::wstring Program::dismissMessage(HWND owner) {
 
 bool Program::waitUntilGone(HWND window) {
     const bool gone = waitUntil([=] { return !::IsWindow(window) || !::IsWindowVisible(window); });
+    // What it belonged to takes the keys a moment later.
+    waitUntil([this] { return !isRunning() || hasKeys(); }, 1000);
     settle(m_frame);
     return gone;
+}
+
+bool Program::hasKeys() const {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(m_frame, nullptr), &info);
+    return info.hwndActive != nullptr && info.hwndFocus != nullptr && ::IsWindowEnabled(info.hwndActive) &&
+           ::GetForegroundWindow() == info.hwndActive;
 }
 
 void Program::activate(HWND window) {

@@ -68,6 +68,9 @@ protected:
     HWND findWindow(const std::function<bool(HWND)>& wanted) const;
 
 private:
+    /// Whether one of its windows gets the keys.
+    bool hasKeys() const;
+
     PROCESS_INFORMATION m_process = {};
     HWND m_frame = nullptr;
     ULONGLONG m_lastClick = 0;  ///< tick count

@@ -218,12 +218,11 @@ TEST_F(Properties, AClippedLayerNameShowsATip) {
     cancel(dialog);
 }
 
-TEST_F(Properties, ADamagedDrawingIsRefusedInWordsAndTheProgramGoesOn) {
+TEST_F(Properties, AFileThatIsNoDrawingIsRefusedInWordsAndTheProgramGoesOn) {
     const std::wstring bad = scratchCopy(L"bracket.dxf") + L".bad.dxf";
     HANDLE file = ::CreateFileW(bad.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
-    ::WriteFile(file, "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n  0\r\nLINE\r\n 10\r\nnonsense\r\n", 56, &written,
-                nullptr);
+    ::WriteFile(file, "Minutes of a meeting\r\nnot a drawing\r\n", 37, &written, nullptr);
     ::CloseHandle(file);
     Drafter second(bad);
     HWND message = second.waitForDialog(L"Drafter");
