@@ -28,7 +28,7 @@ def _toolkit(name, *windows):
 
 
 _MFC = ("mfc_gdi_test", "mfc_controls_test", "mfc_window_test", "mfc_dialog_test", "mfc_application_test", "mfc_bars_test", "mfc_task_dialog_test", "mfc_ole_test",
-        "mfc_resources_test", "mfc_property_sheet_test", "mfc_frame_bars_test", "mfc_more_controls_test", "mfc_image_test")
+        "mfc_resources_test", "mfc_property_sheet_test", "mfc_frame_bars_test", "mfc_more_controls_test", "mfc_image_test", "mfc_files_test")
 
 ROOMS = {
     room.name: room

@@ -15,4 +15,8 @@
 #include "kmfc/position.h"
 #include "kmfc/geometry.h"
 #include "kmfc/file.h"
+#include "kmfc/stdio_file.h"
 #include "kmfc/archive.h"
+#ifdef _WIN32
+#include "kmfc/file_find.h"
+#endif

@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <kmfc/combo_box_ex.h>
+#include <kmfc/drag_list_box.h>
 #include <kmfc/header_ctrl.h>
 #include <kmfc/hot_key_ctrl.h>
 #include <kmfc/image_list.h>

@@ -16,6 +16,7 @@
 #include <kmfc/gdi.h>
 #include <kmfc/menu.h>
 #include <kmfc/module_state.h>
+#include <kmfc/shortcut.h>
 #include <kmfc/standard_controls.h>
 #include <kmfc/thread.h>
 #include <kmfc/wnd.h>

@@ -48,6 +48,19 @@ private:
 
 bool is_ctl_color(UINT message) { return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC; }
 
+constexpr UINT kFirstRegisteredMessage = 0xC000;
+
+/// Whether a list box tells by the message of a drag of its items.
+bool is_drag_list(UINT message) {
+    static const UINT registered = ::RegisterWindowMessageW(DRAGLISTMSGSTRING);
+    return message >= kFirstRegisteredMessage && message == registered;
+}
+
+/// The list box that such a message is of.
+HWND dragged_list(LPARAM lParam) {
+    return lParam != 0 ? reinterpret_cast<const DRAGLISTINFO*>(lParam)->hWnd : nullptr;
+}
+
 /// Tells the top-level window that a window below it became active or inactive.
 void announce_activation(CWnd* wnd, WPARAM wParam, CWnd* other) {
     if (wnd->GetStyle() & WS_CHILD) return;
@@ -186,7 +199,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 
     const UINT key = is_ctl_color(message) ? WM_CTLCOLOR : message;
     const AFX_MSGMAP_ENTRY* entry = thread_state().m_cache.Find(GetMessageMap(), key);
-    if (entry == nullptr) return FALSE;
+    if (entry == nullptr) return is_drag_list(message) && ReflectLastMsg(dragged_list(lParam), pResult);
     result = CallHandler(*entry, message, wParam, lParam);
     if (message == WM_SETCURSOR || message == WM_MOUSEWHEEL) {
         // A handler that did not take the message leaves it to the parent.
