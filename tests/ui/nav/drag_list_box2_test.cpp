@@ -308,6 +308,27 @@ TEST_F(DragList2, TheMarkIsABarAcrossTheRowThatGoesAgain) {
     EXPECT_TRUE(Picture(list) == before);
 }
 
+int barsDrawn = 0;
+
+BOOL WINAPI countsBars(HDC dc, int x, int y, int width, int height, DWORD operation) {
+    ++barsDrawn;
+    return ::PatBlt(dc, x, y, width, height, operation);
+}
+
+TEST_F(DragList2, AMarkThatStaysIsNotDrawnAgain) {
+    const ui_test::ReplacedImport counts(::GetModuleHandleW(nullptr), "PatBlt", &countsBars);
+    ASSERT_TRUE(counts.isThere());
+    barsDrawn = 0;
+    list.DrawInsert(2);
+    EXPECT_EQ(barsDrawn, 1);
+    list.DrawInsert(2);
+    EXPECT_EQ(barsDrawn, 1);
+    list.DrawInsert(3);
+    EXPECT_EQ(barsDrawn, 3);
+    list.DrawInsert(-1);
+    EXPECT_EQ(barsDrawn, 4);
+}
+
 TEST_F(DragList2, AnEmptyListHasNoMark) {
     list.ResetContent();
     ui_test::pump();
