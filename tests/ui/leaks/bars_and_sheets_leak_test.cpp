@@ -4,6 +4,7 @@
 #include <afxext.h>
 
 #include "leak_growth.h"
+#include "empty_page.h"
 
 namespace {
 
@@ -11,28 +12,11 @@ using namespace leaks;
 
 constexpr UINT kCommand = 2001, kPane = 61201;
 
-/// The bytes of an empty page.
-const WORD* page_template() {
-    constexpr DWORD kStyle = WS_CHILD | WS_CAPTION | WS_DISABLED;
-    alignas(4) static const WORD words[] = {
-        LOWORD(kStyle), HIWORD(kStyle), 0, 0, 0, 0, 0, 120, 60, 0, 0, L'p', 0};
-    return words;
-}
-
-class Page : public CPropertyPage {
-public:
-    Page() {
-        m_psp.dwFlags |= PSP_DLGINDIRECT;
-        m_psp.pResource = reinterpret_cast<LPCDLGTEMPLATE>(page_template());
-        m_psp.hInstance = AfxGetInstanceHandle();
-    }
-};
-
 class BarsAndSheets : public ::testing::Test {
 protected:
     void openSheet() {
         CPropertySheet sheet(L"sheet", &parent);
-        Page first, second;
+        EmptyPage first, second;
         sheet.AddPage(&first);
         sheet.AddPage(&second);
         const int button = ++opened % 2 == 0 ? PSBTN_OK : PSBTN_CANCEL;
@@ -43,28 +27,6 @@ protected:
             sheet.PressButton(button);
         });
         ASSERT_EQ(sheet.DoModal(), button == PSBTN_OK ? IDOK : IDCANCEL);
-    }
-    /// The same by the system alone.
-    void openBareSheet() {
-        PROPSHEETPAGE pages[2] = {};
-        for (PROPSHEETPAGE& page : pages) {
-            page.dwSize = sizeof page;
-            page.dwFlags = PSP_DLGINDIRECT;
-            page.pResource = reinterpret_cast<LPCDLGTEMPLATE>(page_template());
-            page.pfnDlgProc = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return 0; };
-        }
-        PROPSHEETHEADER header = {};
-        header.dwSize = sizeof header;
-        header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS;
-        header.hwndParent = parent.m_hWnd;
-        header.pszCaption = L"bare";
-        header.nPages = 2;
-        header.ppsp = pages;
-        const auto sheet = reinterpret_cast<HWND>(::PropertySheetW(&header));
-        ASSERT_NE(sheet, nullptr);
-        ::SendMessageW(sheet, PSM_SETCURSEL, 1, 0);
-        ui_test::pump();
-        ::DestroyWindow(sheet);
     }
     void openFrame() {
         auto* frame = new CFrameWnd;
@@ -111,7 +73,7 @@ protected:
 }  // namespace
 
 TEST_F(BarsAndSheets, AThousandPropertySheetsLeaveNothing) {
-    const size_t growth = heap_growth([&] { openBareSheet(); });
+    const size_t growth = heap_growth([&] { open_bare_sheet(parent, 0); });
     expect_no_growth([&] { openSheet(); }, growth, kShownGdiSlack);
     EXPECT_EQ(opened, kTimes + kWarmUp);
 }

@@ -1,0 +1,67 @@
+// The system's own dialogs, opened bare and ended at once: what they leave is the system's.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <commdlg.h>
+
+#include "ui_test.h"
+
+namespace leaks {
+
+constexpr const wchar_t* kChooser = L"chooser";
+constexpr const wchar_t* kTask = L"task";
+
+/// Cancels the dialog with the title kChooser as soon as it is there.
+inline void cancel_when_shown() {
+    ui_test::when_dialog(kChooser, [](HWND dialog) { ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
+}
+
+/// Clicks a button of the task dialog with the title kTask as soon as it is there.
+inline void click_when_shown(int button) {
+    ui_test::when_dialog(kTask, [button](HWND dialog) {
+        ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        ::PostMessageW(dialog, TDM_CLICK_BUTTON, static_cast<WPARAM>(button), 0);
+    });
+}
+
+/// Opens the Explorer-style file dialog with a hook, and cancels it.
+inline void open_bare_file_dialog(HWND parent) {
+    wchar_t file[MAX_PATH] = L"plan";
+    OPENFILENAMEW request = {};
+    request.lStructSize = sizeof request;
+    request.hwndOwner = parent;
+    request.lpstrFilter = L"Drawings\0*.dxf\0";
+    request.lpstrFile = file;
+    request.nMaxFile = MAX_PATH;
+    request.lpstrTitle = kChooser;
+    request.lpstrDefExt = L"dxf";
+    request.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_HIDEREADONLY | OFN_ENABLESIZING;
+    request.lpfnHook = [](HWND, UINT, WPARAM, LPARAM) -> UINT_PTR { return 0; };
+    cancel_when_shown();
+    EXPECT_FALSE(::GetOpenFileNameW(&request));
+}
+
+/// Opens the system's task dialog with two commands and a verification box, and clicks one.
+inline void open_bare_task_dialog(HWND parent) {
+    static const auto taskDialog = reinterpret_cast<decltype(&::TaskDialogIndirect)>(
+        reinterpret_cast<void*>(::GetProcAddress(::LoadLibraryW(L"COMCTL32.DLL"), "TaskDialogIndirect")));
+    const TASKDIALOG_BUTTON commands[] = {{101, L"first"}, {102, L"second"}};
+    TASKDIALOGCONFIG request = {};
+    request.cbSize = sizeof request;
+    request.hwndParent = parent;
+    request.pszWindowTitle = kTask;
+    request.pszMainInstruction = L"heading";
+    request.pszContent = L"content";
+    request.pszVerificationText = L"again";
+    request.dwCommonButtons = TDCBF_CANCEL_BUTTON;
+    request.cButtons = 2;
+    request.pButtons = commands;
+    int button = 0;
+    click_when_shown(102);
+    EXPECT_EQ(taskDialog(&request, &button, nullptr, nullptr), S_OK);
+    EXPECT_EQ(button, 102);
+}
+
+}  // namespace leaks
