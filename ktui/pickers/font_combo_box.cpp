@@ -3,6 +3,7 @@
 #include <kh_font_list.h>
 #include <kh_system.h>
 #include <ktui/host/appearance.h>
+#include <ktui/host/window_context.h>
 #include <ktui/pickers/font_icon.h>
 #include <ktui/res/resource_ids.h>
 
@@ -104,6 +105,7 @@ void CKtUiFontComboBox::OnAddItems() {
 
 BOOL CKtUiFontComboBox::OnDropDown() {
     int widest = 0;
+    const HeldWindowContext held(*this);
     const int count = GetCount();
     for (int i = 0; i < count; ++i) {
         CString text;

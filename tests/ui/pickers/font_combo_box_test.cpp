@@ -4,6 +4,7 @@
 
 #include "font_fixture.h"
 #include "picker_fixture.h"
+#include "replaced_import.h"
 
 using ui_test::Canvas;
 using ui_test::FakeFonts;
@@ -13,6 +14,18 @@ using ui_test::InHolder;
 namespace {
 
 using Texts = std::vector<std::wstring>;
+
+std::vector<HWND> contextsTaken, contextsReleased;
+
+HDC WINAPI NoteContext(HWND window) {
+    contextsTaken.push_back(window);
+    return ::GetDC(window);
+}
+
+int WINAPI NoteRelease(HWND window, HDC dc) {
+    contextsReleased.push_back(window);
+    return ::ReleaseDC(window, dc);
+}
 
 constexpr COLORREF kUntouched = RGB(200, 100, 50);
 
@@ -217,6 +230,21 @@ TEST(FontPicker, DropWidthFollowsTheWidestNameAndTheImage) {
     of.picker.GetTextExtent(of.in.texts().back().c_str(), text, height);
     EXPECT_GT(text, 200);
     EXPECT_EQ(of.picker.GetDroppedWidth(), text + of.picker.ImageWidth());
+}
+
+TEST(FontPicker, ItsDeviceContextIsTakenOnceForAllNames) {
+    FontPickerInHolder of;
+    ASSERT_GT(of.picker.GetCount(), 3);
+    contextsTaken.clear();
+    contextsReleased.clear();
+    const ui_test::ReplacedImport get(::GetModuleHandleW(L"kmfc.dll"), "GetDC", &NoteContext);
+    const ui_test::ReplacedImport release(::GetModuleHandleW(L"kmfc.dll"), "ReleaseDC", &NoteRelease);
+    ASSERT_TRUE(get.isThere() && release.isThere());
+    of.picker.GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(of.picker.GetDlgCtrlID(), CBN_DROPDOWN),
+                                       reinterpret_cast<LPARAM>(of.picker.m_hWnd));
+    const std::vector<HWND> onlyOnce = {of.picker.m_hWnd};
+    EXPECT_EQ(contextsTaken, onlyOnce);
+    EXPECT_EQ(contextsReleased, onlyOnce);
 }
 
 TEST(FontPicker, DropWidthOfAnEmptyListIsZero) {
