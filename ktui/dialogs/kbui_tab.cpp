@@ -1,14 +1,26 @@
 #include <ktui/dialogs/kbui_tab.h>
 
+#include <ktdsres/resource_ids.h>
 #include <ktui/dialogs/kbui_tab_child_dialog.h>
 #include <ktui/dialogs/kbui_tab_main_dialog.h>
+#include <ktui/dialogs/tab_item_text.h>
 #include <ktui/dialogs/tab_pages.h>
+#include <ktui/host/accessible.h>
+#include <ktui/host/string_resources.h>
+
+namespace {
+
+const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
+
+}  // namespace
 
 IMPLEMENT_DYNAMIC(CKbUiTab, CTabCtrl)
 
 BEGIN_MESSAGE_MAP(CKbUiTab, CTabCtrl)
     ON_NOTIFY_REFLECT_EX(TCN_SELCHANGING, &CKbUiTab::OnSelChanging)
     ON_NOTIFY_REFLECT_EX(TCN_SELCHANGE, &CKbUiTab::OnSelChange)
+    ON_MESSAGE(WM_GETOBJECT, &CKbUiTab::OnGetObject)
+    ON_REGISTERED_MESSAGE(accessibleMessage, &CKbUiTab::OnAccessible)
 END_MESSAGE_MAP()
 
 CKbUiTab::CKbUiTab() = default;
@@ -168,4 +180,56 @@ int CKbUiTab::ExchangeData(int save) {
         if (page != nullptr && !page->ExchangeData(save)) return 0;
     }
     return 1;
+}
+
+LRESULT CKbUiTab::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT answer = AnswerGetObject(*this, wParam, lParam);
+    return answer ? answer : Default();
+}
+
+LRESULT CKbUiTab::OnAccessible(WPARAM wParam, LPARAM lParam) {
+    const auto request = static_cast<KbUiAccessibleRequest>(wParam);
+    if (request == KbUiAccessibleRequest::kLater) {
+        changeAsAUserDoes(static_cast<int>(lParam));
+        return 1;
+    }
+    auto& item = *reinterpret_cast<KbUiAccessibleItem*>(lParam);
+    const int index = item.child - 1;
+    if (request == KbUiAccessibleRequest::kAct)
+        return index >= 0 &&
+               PostMessage(accessibleMessage, static_cast<WPARAM>(KbUiAccessibleRequest::kLater), index);
+    if (index >= 0) return tellOfItem(index, item);
+    CString caption;
+    GetWindowText(caption);
+    item.name = WithoutAccessKey(caption);
+    item.role = ROLE_SYSTEM_PAGETABLIST;
+    item.children = GetItemCount();
+    return 1;
+}
+
+LRESULT CKbUiTab::tellOfItem(int index, KbUiAccessibleItem& item) {
+    if (index >= GetItemCount()) return 0;
+    CString text;
+    ReadTabItemText(*this, index, text);
+    item.name = WithoutAccessKey(text);
+    item.role = ROLE_SYSTEM_PAGETAB;
+    item.defaultAction = LoadToolkitString(IDS_ACTION_SWITCH, L"切换");
+    GetItemRect(index, &item.place);
+    item.states = STATE_SYSTEM_SELECTABLE;
+    if (index == GetCurSel()) item.states |= STATE_SYSTEM_SELECTED;
+    // The mark of the focus is on one item only.
+    if (index != GetCurFocus()) item.statesWithout = STATE_SYSTEM_FOCUSED;
+    return 1;
+}
+
+LRESULT CKbUiTab::notify(UINT code) {
+    NMHDR header = {m_hWnd, static_cast<UINT_PTR>(GetDlgCtrlID()), code};
+    return GetParent()->SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+}
+
+void CKbUiTab::changeAsAUserDoes(int index) {
+    if (index == GetCurSel() || index >= GetItemCount() || !IsWindowEnabled()) return;
+    if (notify(TCN_SELCHANGING) != 0) return;
+    SetCurSel(index);
+    notify(TCN_SELCHANGE);
 }

@@ -17,6 +17,7 @@
 
 class CKbUiTabChildDialog;
 class CKbUiTabMainDialog;
+struct KbUiAccessibleItem;
 
 class KTUI_API CKbUiTab : public CTabCtrl {
     DECLARE_DYNAMIC(CKbUiTab)
@@ -75,6 +76,9 @@ protected:
 
     afx_msg BOOL OnSelChanging(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnSelChange(NMHDR* header, LRESULT* result);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    /// A list of tabs, each named by its text, whose action changes to it as a click does.
+    afx_msg LRESULT OnAccessible(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CPtrArray m_pages;  ///< CKbUiTabChildDialog pointers, not owned
@@ -83,6 +87,11 @@ protected:
     unsigned m_applyButtonId = 0;
 
 private:
+    LRESULT tellOfItem(int index, KbUiAccessibleItem& item);
+    /// Changes to the item as the control does at a click: the page in front may refuse.
+    void changeAsAUserDoes(int index);
+    /// Sends the parent a notification without data; its answer.
+    LRESULT notify(UINT code);
     int BringTabToFront(int index);
     void PositionTabDialog(CKbUiTabChildDialog* page, int index);
     /// Marks the page at `index` as visited and tells it that it is in front; nothing if there is none.

@@ -2,24 +2,8 @@
 
 #include <ktui/dialogs/kbui_tab.h>
 #include <ktui/dialogs/kbui_tab_child_dialog.h>
+#include <ktui/dialogs/tab_item_text.h>
 #include <ktui/dialogs/tab_pages.h>
-
-namespace {
-
-constexpr int kItemTextLength = 260;
-
-bool readItemText(const CKbUiTab& tab, int index, CString& text) {
-    wchar_t buffer[kItemTextLength] = {};
-    TCITEMW item = {};
-    item.mask = TCIF_TEXT;
-    item.pszText = buffer;
-    item.cchTextMax = kItemTextLength;
-    if (!tab.GetItem(index, &item)) return false;
-    text = item.pszText;
-    return true;
-}
-
-}  // namespace
 
 IMPLEMENT_DYNAMIC(CKbUiTabMainDialog, CKbUiDialog)
 
@@ -67,7 +51,7 @@ void CKbUiTabMainDialog::UpdateDefaultButton(HWND from, HWND to) {
 int CKbUiTabMainDialog::GetInitialRequestedTabIndex() {
     const int count = m_tab != nullptr ? m_tab->GetItemCount() : 0;
     return InitialTabIndex(m_initialTabIndex, count, [this](int index, CString& text) {
-        return m_tab != nullptr && readItemText(*m_tab, index, text);
+        return m_tab != nullptr && ReadTabItemText(*m_tab, index, text);
     });
 }
 

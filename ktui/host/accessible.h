@@ -20,6 +20,7 @@ constexpr const wchar_t* kAccessibleMessageName = L"KtUiAccessibleMessage";
 enum class KbUiAccessibleRequest : WPARAM {
     kFacts = 1,  ///< fill the item; answer 1
     kAct = 2,    ///< do the item's default action; answer 1 if there is one. Must not wait for the user.
+    kLater = 3,  ///< posted by a control to itself, to act when nobody waits; lParam is its own
 };
 
 /// A control (child 0) or one of its parts that is no window (child 1 and up).

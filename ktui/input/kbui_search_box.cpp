@@ -1,9 +1,12 @@
 #include <ktui/input/kbui_search_box.h>
 
 #include <ktdsres/resource_ids.h>
+#include <ktui/host/accessible.h>
 #include <ktui/host/string_resources.h>
 
 namespace {
+
+const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
 
 // Ids of the controls inside.
 constexpr UINT kClearButton = 1125;
@@ -33,6 +36,8 @@ BEGIN_MESSAGE_MAP(CKbUiSearchBox, CKbUiEdit)
     ON_EN_KILLFOCUS(kEditor, &CKbUiSearchBox::KillEditFocus)
     ON_CONTROL_REFLECT_EX(EN_SETFOCUS, &CKbUiSearchBox::SetEditFocus)
     ON_WM_SIZE()
+    ON_MESSAGE(WM_GETOBJECT, &CKbUiSearchBox::OnGetObject)
+    ON_REGISTERED_MESSAGE(accessibleMessage, &CKbUiSearchBox::OnAccessible)
 END_MESSAGE_MAP()
 
 CKbUiSearchBox::CKbUiSearchBox() : m_notification(LoadToolkitString(IDS_START_SEARCH, L"开始查找")) {}
@@ -163,6 +168,20 @@ void CKbUiSearchBox::OnSize(UINT type, int cx, int cy) {
     m_editor->MoveWindow(&editor);
     m_searchButton->MoveWindow(&button);
     m_clearButton->MoveWindow(&button);
+}
+
+LRESULT CKbUiSearchBox::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT answer = AnswerGetObject(*this, wParam, lParam);
+    return answer ? answer : Default();
+}
+
+LRESULT CKbUiSearchBox::OnAccessible(WPARAM wParam, LPARAM lParam) {
+    if (static_cast<KbUiAccessibleRequest>(wParam) != KbUiAccessibleRequest::kFacts) return 0;
+    auto& item = *reinterpret_cast<KbUiAccessibleItem*>(lParam);
+    item.name = m_notification;
+    item.role = ROLE_SYSTEM_TEXT;
+    if (!IsEditEmpty()) GetWindowText(item.value);
+    return 1;
 }
 
 LRESULT CKbUiSearchBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

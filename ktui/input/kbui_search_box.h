@@ -46,6 +46,9 @@ protected:
     afx_msg BOOL SetEditFocus();
     afx_msg void KillEditFocus();
     afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    /// A field that is named by its prompt and has what is searched for as its value.
+    afx_msg LRESULT OnAccessible(WPARAM wParam, LPARAM lParam);
     afx_msg void OnEditorChange() { EditChanged(); }
     afx_msg void OnClearButton() { ClearButtonClicked(); }
     afx_msg void OnSearchButton() { SearchButtonClicked(); }

@@ -8,6 +8,12 @@
 /// Takes the typing.
 class KTUI_API CKbUiSearchBoxEditor : public CKbUiEdit {
     DECLARE_DYNAMIC(CKbUiSearchBoxEditor)
+
+protected:
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    /// Named like the search box that it lies on.
+    afx_msg LRESULT OnAccessible(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
 };
 
 /// Shows a magnifier.
@@ -20,6 +26,8 @@ public:
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAccessible(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 };
 
@@ -33,5 +41,7 @@ public:
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAccessible(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 };

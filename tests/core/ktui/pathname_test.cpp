@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "../../support/slot_of.h"
+
 namespace {
 
 /// A path that a test fills.
@@ -280,4 +282,13 @@ TEST(Pathname, OfTheApplicationLayerAnswersTheSame) {
     EXPECT_EQ(path.now(), L"a");
     const OpenPath<CKtUiPathname> copy(path);
     EXPECT_EQ(copy.text(), nullptr);
+}
+
+TEST(Pathname, VirtualOperationsStandInAFixedOrder) {
+    using ui_test::slotOf;
+    EXPECT_EQ(slotOf(&CKbUiPathname::Parse), 0);
+    EXPECT_EQ(slotOf(&CKbUiPathname::AssignCopy), 1);
+    EXPECT_EQ(slotOf(&CKtUiPathname::Parse), 0);
+    EXPECT_EQ(slotOf(&CKtUiPathname::AssignCopy), 1);
+    EXPECT_EQ(slotOf(&CKtUiPathname::Status), 2);
 }

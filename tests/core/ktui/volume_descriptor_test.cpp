@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
+#include "../../support/slot_of.h"
+
 namespace {
 
 /// A descriptor whose fields a test fills.
@@ -131,4 +135,25 @@ TEST(VolumeDescriptorBase, IsDeletedThroughItsBase) {
     CKbUiVolumeDescriptor* base = new Counted;
     delete base;
     EXPECT_EQ(gone, 1);
+}
+
+TEST(VolumeDescriptorBase, VirtualOperationsStandInAFixedOrderBehindTheDestructor) {
+    using Volume = CKbUiVolumeDescriptor;
+    using ui_test::slotOf;
+    using ByString = int (Volume::*)(const CString*, const CString*) const;
+    using ByText = int (Volume::*)(const wchar_t*, const CString*) const;
+    const std::vector<long long> slots = {slotOf(&Volume::CheckReadOnly),
+                                          slotOf(&Volume::AllowsCaseSensitiveLookup),
+                                          slotOf(&Volume::IsCaseSensitive),
+                                          slotOf(&Volume::PreservesCase),
+                                          slotOf(&Volume::VolCase),
+                                          slotOf(static_cast<ByString>(&Volume::VolMatch)),
+                                          slotOf(static_cast<ByText>(&Volume::VolMatch)),
+                                          slotOf(&Volume::GetLocalName),
+                                          slotOf(&Volume::VolumeValid),
+                                          slotOf(&Volume::WillFit),
+                                          slotOf(&Volume::GetVolFreeSpace)};
+    constexpr long long kDestructors = 2;  // this compiler has two entries for one
+    for (std::size_t i = 0; i < slots.size(); ++i)
+        EXPECT_EQ(slots[i], kDestructors + static_cast<long long>(i)) << i;
 }

@@ -124,6 +124,43 @@ TEST_F(OwnTaskDialogPaint, HeadingIsLargerThanTheBodyBySixTenths) {
     EXPECT_EQ(body, unit);
 }
 
+TEST_F(OwnTaskDialogPaint, AnAmpersandInATextMarksWhatFollowsAndTwoAreOne) {
+    dialog.SetMainInstruction(L"R&&D");
+    dialog.SetContent(L"R&D");
+    Look([](HWND box) {
+        const auto drawn = [&](int child) {
+            const HWND text = children_of(box)[static_cast<std::size_t>(child)].window;
+            CRect place;
+            ::GetClientRect(text, &place);
+            Canvas canvas(place.Width(), place.Height(), Paper());
+            DRAWITEMSTRUCT item = {};
+            item.CtlType = ODT_STATIC;
+            item.hwndItem = text;
+            item.hDC = canvas.dc.m_hDC;
+            item.rcItem = place;
+            ::SendMessageW(box, WM_DRAWITEM, static_cast<WPARAM>(::GetDlgCtrlID(text)),
+                           reinterpret_cast<LPARAM>(&item));
+            return canvas.pixels();
+        };
+        const auto plain = [&](int child, const wchar_t* words, UINT flags, COLORREF ink) {
+            const HWND text = children_of(box)[static_cast<std::size_t>(child)].window;
+            CRect place;
+            ::GetClientRect(text, &place);
+            Canvas canvas(place.Width(), place.Height(), Paper());
+            CFont* const former = canvas.dc.SelectObject(
+                CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageW(text, WM_GETFONT, 0, 0))));
+            canvas.dc.SetBkMode(TRANSPARENT);
+            canvas.dc.SetTextColor(ink);
+            canvas.dc.DrawText(words, -1, &place, flags);
+            canvas.dc.SelectObject(former);
+            return canvas.pixels();
+        };
+        EXPECT_EQ(drawn(0), plain(0, L"R&D", DT_WORDBREAK | DT_NOPREFIX, kHeadingColor));
+        EXPECT_EQ(drawn(1), plain(1, L"R&D", DT_WORDBREAK, ::GetSysColor(COLOR_WINDOWTEXT)));
+        EXPECT_NE(drawn(1), plain(1, L"R&D", DT_WORDBREAK | DT_NOPREFIX, ::GetSysColor(COLOR_WINDOWTEXT)));
+    });
+}
+
 TEST_F(OwnTaskDialogPaint, TextsStandOneUnitFromTheEdgesAndHalfAUnitAndOneApart) {
     const wchar_t* const words = L"The drawing was changed by another program.";
     dialog.SetMainInstruction(words);
