@@ -28,6 +28,7 @@ constexpr Row kRows[] = {
     {"dialog", bench::measure_dialog},
     {"tabbed_dialog", bench::measure_tabbed_dialog},
     {"messages", bench::measure_messages},
+    {"buttons", bench::measure_buttons},
     {"resize", bench::measure_resize},
 };
 

@@ -22,6 +22,8 @@ void measure_tabbed_dialog();
 /// The layout of a task dialog of ten commands against measuring its texts as often, and a tip shown against
 /// the system's.
 void measure_messages();
+/// Painting two hundred bitmap buttons against as many bare ones with the same picture.
+void measure_buttons();
 /// One step of resizing two hundred controls against moving them one by one.
 void measure_resize();
 

@@ -13,6 +13,23 @@ void ReadPixelsWithAlpha(HBITMAP source, std::uint8_t* pixels, std::size_t count
     ClearInvisiblePixels(pixels, count);
 }
 
+/// Whether the bits of a bitmap are its colours, in rows from the top: one of the system's own with 32 bits.
+bool HasPlainBits(const BITMAP& bitmap) {
+    constexpr WORD kPixelBits = 8 * kPixelBytes;
+    return bitmap.bmBits == nullptr && bitmap.bmPlanes == 1 && bitmap.bmBitsPixel == kPixelBits;
+}
+
+/// The same as ReadKeyedPixels without a device context, which takes several times as long as all the rest.
+void ReadPlainPixels(HBITMAP source, std::uint8_t* pixels, int width, int height, int flags) {
+    const std::size_t columns = static_cast<std::size_t>(width), rows = static_cast<std::size_t>(height);
+    ::GetBitmapBits(source, static_cast<LONG>(columns * rows * kPixelBytes), pixels);
+    MakeTransparentPixels(pixels, width, height, flags, [pixels, columns](int x, int y) {
+        const std::uint8_t* bits =
+            pixels + (static_cast<std::size_t>(y) * columns + static_cast<std::size_t>(x)) * kPixelBytes;
+        return static_cast<std::uint32_t>(RGB(bits[2], bits[1], bits[0]));
+    });
+}
+
 void ReadKeyedPixels(HBITMAP source, std::uint8_t* pixels, int width, int height, int flags) {
     CDC memory;
     memory.CreateCompatibleDC(nullptr);
@@ -35,6 +52,8 @@ HBITMAP ktuiTransparentBitmap(HBITMAP source, int flags) {
     if (!pixels) return nullptr;
     if (flags & kSourceHasAlpha)
         ReadPixelsWithAlpha(source, pixels.get(), count);
+    else if (HasPlainBits(bitmap))
+        ReadPlainPixels(source, pixels.get(), width, height, flags);
     else
         ReadKeyedPixels(source, pixels.get(), width, height, flags);
     return ::CreateBitmap(width, height, 1, 32, pixels.get());

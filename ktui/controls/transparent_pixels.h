@@ -25,7 +25,8 @@ constexpr std::uint8_t GreyOf(std::uint8_t red, std::uint8_t green, std::uint8_t
 using PixelColor = std::function<std::uint32_t(int x, int y)>;
 
 /// Fills `pixels`, `width` by `height` of them, from the colours of a source; kSourceHasAlpha is not looked
-/// at.
+/// at. The colour at 0, 0 is asked for first, and then that of each pixel before it is filled, row by row:
+/// the source may be `pixels` itself.
 void MakeTransparentPixels(std::uint8_t* pixels, int width, int height, int flags, const PixelColor& colorAt);
 
 /// Clears the colour of every pixel of `count` whose alpha is 0.

@@ -67,6 +67,17 @@ TEST(TransparentBitmap, TheSourceIsNotChanged) {
     EXPECT_EQ(after, bits);
 }
 
+TEST(TransparentBitmap, ASectionWithItsRowsFromTheBottomIsReadAsItShows) {
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof info.bmiHeader, 2, 2, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* rows = nullptr;
+    const HBITMAP section = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &rows, nullptr, 0);
+    const DWORD fromTheBottom[] = {0x00102030, 0x00C0C0C0, 0x00FF00FF, 0x00405060};
+    memcpy(rows, fromTheBottom, sizeof fromTheBottom);
+    EXPECT_EQ(taken(ktuiTransparentBitmap(section, 1), 2, 2), (Bits{0, 0xFF405060, 0xFF102030, 0xFFC0C0C0}));
+    ::DeleteObject(section);
+}
+
 TEST(TransparentBitmap, FewerColorsAreReadAsTheyShow) {
     const BYTE rows[] = {0x40, 0x00, 0x80, 0x00};
     const HBITMAP monochrome = ::CreateBitmap(2, 2, 1, 1, rows);
