@@ -59,6 +59,32 @@ class CListBoxPage : public CGalleryPage {
     CKbUiListBox* m_list = nullptr;
 };
 
+/// The list under a picker knows the picker's image column; one without a picker is a list box.
+class CPickerListPage : public CGalleryPage {
+    void add(const CString& label, DWORD style) {
+        auto& list = ShowTall<CKtUiMRUListBox>(
+            label, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_BORDER | WS_VSCROLL | style, 36);
+        for (const wchar_t* each :
+             {L"ByLayer", L"ByBlock", L"Outer walls of all storeys, load-bearing, as built"})
+            list.AddString(each);
+        list.SetCurSel(0);
+    }
+    void Build() override {
+        add(Both(L"Alone", L"单独使用"), 0);
+        add(Both(L"Disabled", L"禁用"), WS_DISABLED);
+        Command(Both(L"Image column", L"图像列"), [this]() -> CString {
+            auto* list = dynamic_cast<CKtUiMRUListBox*>(m_picker->GetListBox());
+            CString text;
+            if (list != nullptr) text.Format(L"%d", list->ExtraWidth());
+            return text;
+        });
+        // The last one, because its list drops over what is below.
+        m_picker = &ShowPicker<CKtUiColorComboBox>(Both(L"Under a picker", L"选取框的列表"));
+    }
+    void Pose() override { PoseOpen(*m_picker); }
+    CKtUiColorComboBox* m_picker = nullptr;
+};
+
 }  // namespace
 
 std::vector<GalleryEntry> ListPages() {
@@ -71,5 +97,9 @@ std::vector<GalleryEntry> ListPages() {
          L"GetColumnSizes(&m_layers);\nSaveColumnSizes(&m_layers);"},
         {kFamily, kChinese, L"List box", L"列表框", MakePage<CListBoxPage>,
          L"CKbUiListBox m_names;\n\nDDX_Control(x, IDC_NAMES, m_names);\nm_names.AddString(L\"Walls\");\n"
-         L"m_names.SetCurSel(0);"}};
+         L"m_names.SetCurSel(0);"},
+        {kFamily, kChinese, L"List of a picker", L"选取框的列表框", MakePage<CPickerListPage>,
+         L"// each picker has one under it\nCKtUiColorComboBox m_colors;\n\n"
+         L"auto* list = dynamic_cast<CKtUiMRUListBox*>(\n    m_colors.GetListBox());\n"
+         L"// tips begin behind the picker's image\nint column = list->ExtraWidth();"}};
 }
