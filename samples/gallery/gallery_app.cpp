@@ -38,6 +38,18 @@ void listPictures(const CGalleryDialog& gallery, const CString& folder) {
     }
 }
 
+/// Moves a dialog that stands elsewhere on the screen over the gallery, whose place the pictures show.
+void bringOver(const CWnd& gallery) {
+    const HWND dialog = ::GetLastActivePopup(gallery.m_hWnd);
+    CRect frame, place, common;
+    gallery.GetWindowRect(&frame);
+    ::GetWindowRect(dialog, &place);
+    if (dialog == gallery.m_hWnd || (common.IntersectRect(frame, place) && common == place)) return;
+    const CPoint at(frame.left + (frame.Width() - place.Width()) / 2,
+                    frame.top + (frame.Height() - place.Height()) / 2);
+    ::SetWindowPos(dialog, nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 /// Goes through the pages by a timer, which also runs while a page shows a modal dialog: opens a page, has
 /// its picture taken, goes on.
 class PictureTaker {
@@ -59,6 +71,7 @@ private:
         switch (m_phase) {
             case Phase::kOpen: return open();
             case Phase::kSettle:
+                if (m_ticks == kSettles / 2) bringOver(m_gallery);
                 if (m_ticks >= kSettles) request();
                 return;
             case Phase::kTaken:
