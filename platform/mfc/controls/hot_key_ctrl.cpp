@@ -35,7 +35,6 @@ CString CHotKeyCtrl::GetHotKeyName() const {
         if (!name.IsEmpty()) name += L" + ";
         name += part;
     };
-    if (key == 0 && modifiers == 0) return name;
     if (modifiers & HOTKEYF_CONTROL) add(GetKeyName(VK_CONTROL, FALSE));
     if (modifiers & HOTKEYF_SHIFT) add(GetKeyName(VK_SHIFT, FALSE));
     if (modifiers & HOTKEYF_ALT) add(GetKeyName(VK_MENU, FALSE));

@@ -6,6 +6,7 @@
 #include <atomic>
 #include <vector>
 
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {
@@ -244,6 +245,52 @@ TEST_F(AppServices, TheMenuHasTheFilesInThePlaceOfItsItem) {
     EXPECT_FALSE(menu.GetMenuState(1, MF_BYPOSITION) & MF_GRAYED);
     update();
     EXPECT_EQ(menu.GetMenuItemCount(), 13) << "and once more";
+}
+
+TEST_F(AppServices, AListThatIsEmptyAgainGivesTheItemItsTextBack) {
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, L"Recent file");
+    CRecentFileList list(3, L"files", L"F%d", 2);
+    CCmdUI request;
+    const auto update = [&] {
+        request = CCmdUI();
+        request.m_pMenu = &menu;
+        request.m_nID = ID_FILE_MRU_FILE1;
+        request.m_nIndexMax = static_cast<UINT>(menu.GetMenuItemCount());
+        list.UpdateMenu(&request);
+        CString text;
+        menu.GetMenuString(0, text, MF_BYPOSITION);
+        return text;
+    };
+    update();
+    list.Add(L"C:\\a.dxf");
+    list.Add(L"C:\\b.dxf");
+    EXPECT_STREQ(update(), L"&4 C:\\b.dxf") << "numbers begin behind the start";
+    EXPECT_EQ(request.m_nIndexMax, 2u);
+    EXPECT_TRUE(request.m_bEnableChanged);
+    list.Remove(0);
+    list.Remove(0);
+    EXPECT_STREQ(update(), L"Recent file");
+    EXPECT_TRUE(menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED);
+}
+
+LPWSTR WINAPI otherCommandLine() {
+    static wchar_t line[] = L"prog.exe /p -x \"a plan.dxf\"";
+    return line;
+}
+
+TEST_F(AppServices, FlagsBeginWithEitherSign) {
+    struct Noted : CCommandLineInfo {
+        std::vector<CString> seen;
+        void ParseParam(const WCHAR* parameter, BOOL isFlag, BOOL isLast) override {
+            seen.push_back((isFlag ? L"flag " : L"") + CString(parameter) + (isLast ? L" last" : L""));
+        }
+    } noted;
+    const ui_test::ReplacedImport line(::GetModuleHandleW(L"kmfc.dll"), "GetCommandLineW", &otherCommandLine);
+    ASSERT_TRUE(line.isThere());
+    app.ParseCommandLine(noted);
+    EXPECT_EQ(noted.seen, (std::vector<CString>{L"flag p", L"flag x", L"a plan.dxf last"}));
 }
 
 TEST_F(AppServices, AFileOfTheMenuIsOpenedOrForgotten) {

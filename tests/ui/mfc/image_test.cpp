@@ -357,6 +357,53 @@ TEST_F(Images, ComeFromResources) {
     EXPECT_TRUE(image.IsNull());
 }
 
+TEST_F(Images, ADeviceContextLastsUntilItsLastUserLetsGo) {
+    image.Create(4, 4, 24);
+    const HDC dc = image.GetDC();
+    EXPECT_EQ(image.GetDC(), dc);
+    image.ReleaseDC();
+    EXPECT_NE(::SetPixel(dc, 1, 1, kRed), CLR_INVALID);
+    image.ReleaseDC();
+    EXPECT_EQ(image.GetPixel(1, 1), kRed);
+}
+
+TEST_F(Images, APictureThatIsGivenAwayTakesItsTransparencyAlong) {
+    image.Create(4, 4, 8);
+    image.SetTransparentColor(1);
+    ::DeleteObject(image.Detach());
+    EXPECT_EQ(image.GetTransparentColor(), -1);
+    image.Create(4, 4, 8);
+    EXPECT_EQ(image.GetTransparentColor(), -1);
+}
+
+TEST_F(Images, IconsAreReadAndNeverWritten) {
+    CString filter;
+    CSimpleArray<GUID> types;
+    CImage::GetExporterFilterString(filter, types, nullptr, 0);
+    EXPECT_EQ(filter.Find(L"*.ICO"), -1);
+    CImage::GetImporterFilterString(filter, types, nullptr, 0);
+    EXPECT_NE(filter.Find(L"*.ICO"), -1);
+    image.Create(4, 4, 24);
+    const CString name = file(L".ico");
+    EXPECT_TRUE(FAILED(image.Save(name)));
+    EXPECT_EQ(::GetFileAttributesW(name), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST_F(Images, TheFirstInvisibleColourOfAPaletteIsTheTransparentOne) {
+    // A GIF of 1 by 1 pixel and two colours, the second of them transparent.
+    const BYTE gif[] = {'G', 'I', 'F', '8',  '9',  'a',  1, 0, 1, 0,    0x80, 0, 0,    0xFF, 0,
+                        0,   0,   0,   0xFF, 0x21, 0xF9, 4, 1, 0, 0,    1,    0, 0x2C, 0,    0,
+                        0,   0,   1,   0,    1,    0,    0, 2, 2, 0x4C, 1,    0, 0x3B};
+    const CString name = file(L".gif");
+    const HANDLE made = ::CreateFileW(name, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    ::WriteFile(made, gif, sizeof gif, &written, nullptr);
+    ::CloseHandle(made);
+    ASSERT_EQ(image.Load(name), S_OK);
+    EXPECT_TRUE(image.IsIndexed());
+    EXPECT_EQ(image.GetTransparentColor(), 1);
+}
+
 TEST_F(Images, LeaveNothingBehind) {
     const CString name = file(L".png");
     image.Create(8, 8, 24);

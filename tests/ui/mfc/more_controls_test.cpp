@@ -138,8 +138,12 @@ TEST_F(MoreControls, ADatePickerTakesTimesOfEachKind) {
     EXPECT_EQ(picker.GetTime(&parts), static_cast<DWORD>(GDT_NONE));
     EXPECT_FALSE(picker.GetTime(asDate));
     EXPECT_EQ(asDate.GetStatus(), COleDateTime::null);
+    EXPECT_EQ(asDate.m_dt, 0);
     EXPECT_EQ(picker.GetTime(asTime), static_cast<DWORD>(GDT_NONE));
     EXPECT_EQ(asTime, CTime(2010, 11, 12, 0, 0, 0)) << "what is not given stays";
+    EXPECT_TRUE(picker.SetTime(COleDateTime(1975, 6, 7, 0, 0, 0)));
+    picker.GetTime(asTime);
+    EXPECT_EQ(asTime, CTime(1975, 6, 7, 0, 0, 0));
     const CTime none;
     EXPECT_TRUE(picker.SetTime(&none));
     EXPECT_EQ(picker.GetTime(&parts), static_cast<DWORD>(GDT_NONE));
@@ -243,6 +247,12 @@ TEST_F(MoreControls, AHotKeyHasAKeyAndModifiers) {
     EXPECT_FALSE(control.IsEmpty());
     EXPECT_EQ(box.GetHotKeyName(), control + L" + " + alt + L" + " + CHotKeyCtrl::GetKeyName('K', FALSE));
     EXPECT_EQ(CHotKeyCtrl::GetKeyName(0, FALSE), L"");
+    box.SetHotKey(VK_HOME, HOTKEYF_SHIFT | HOTKEYF_EXT);
+    EXPECT_EQ(box.GetHotKeyName(),
+              CHotKeyCtrl::GetKeyName(VK_SHIFT, FALSE) + L" + " + CHotKeyCtrl::GetKeyName(VK_HOME, TRUE));
+    EXPECT_NE(CHotKeyCtrl::GetKeyName(VK_HOME, TRUE), CHotKeyCtrl::GetKeyName(VK_HOME, FALSE));
+    box.SetHotKey(0, HOTKEYF_CONTROL);
+    EXPECT_EQ(box.GetHotKeyName(), control) << "a modifier alone";
     box.SetRules(HKCOMB_NONE, HOTKEYF_SHIFT);
     box.SendMessage(WM_KEYDOWN, 'J', 1);
     box.GetHotKey(key, modifiers);
@@ -274,6 +284,11 @@ TEST_F(MoreControls, LinksHaveIdsAddressesAndStates) {
     EXPECT_TRUE(links.GetItemState(1, &state, LIS_VISITED));
     EXPECT_EQ(state, static_cast<UINT>(LIS_VISITED));
     EXPECT_FALSE(links.GetItemState(1, nullptr));
+    EXPECT_TRUE(links.SetItemState(0, 0, LIS_ENABLED));
+    EXPECT_TRUE(links.SetItemState(0, LIS_VISITED | LIS_ENABLED, LIS_VISITED));
+    EXPECT_TRUE(links.GetItemState(0, &state, LIS_VISITED | LIS_ENABLED));
+    EXPECT_EQ(state, static_cast<UINT>(LIS_VISITED)) << "what the mask leaves out stays";
+    EXPECT_FALSE(links.GetItemID(0, few, 0));
     EXPECT_GT(links.GetIdealHeight(), 5);
     EXPECT_FALSE(links.SetItemUrl(0, CString(L'x', 5000)) && links.GetItemUrl(0, text) &&
                  text.GetLength() > 4096);

@@ -1,0 +1,96 @@
+// Split buttons: which menu drops down where, and who hears of it.
+#include <afxcmn.h>
+
+#include <vector>
+
+#include "ui_test.h"
+
+namespace {
+
+constexpr UINT kButton = 9, kMenu = 451;
+
+/// A parent that hears of arrows.
+class Listener : public ui_test::ParentWindow {
+public:
+    int dropDowns = 0;
+
+protected:
+    afx_msg void OnDropDown(NMHDR*, LRESULT* result) {
+        ++dropDowns;
+        *result = 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(Listener, CWnd)
+    ON_NOTIFY(BCN_DROPDOWN, kButton, &Listener::OnDropDown)
+END_MESSAGE_MAP()
+
+/// What is seen of a menu while it is open.
+struct Opened {
+    CString first;  ///< text of its first item
+    CRect place{0, 0, 0, 0};
+};
+
+class SplitButton : public ::testing::Test {
+protected:
+    SplitButton() {
+        button.Create(L"split", WS_CHILD | WS_VISIBLE, CRect(40, 40, 190, 66), &parent, kButton);
+        own.CreatePopupMenu();
+        own.AppendMenu(MF_STRING, 77, L"own entry");
+    }
+    /// Presses the arrow; closes the menu once it is seen.
+    Opened drop() {
+        Opened opened;
+        ui_test::when_window(
+            [](HWND window) {
+                wchar_t name[16] = {};
+                ::GetClassNameW(window, name, 16);
+                return wcscmp(name, L"#32768") == 0;
+            },
+            [&](HWND window) {
+                constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
+                const auto menu = reinterpret_cast<HMENU>(::SendMessageW(window, kGetMenu, 0, 0));
+                ::GetMenuStringW(menu, 0, opened.first.GetBufferSetLength(40), 40, MF_BYPOSITION);
+                opened.first.ReleaseBuffer();
+                ::GetWindowRect(window, &opened.place);
+                ::EndMenu();
+            });
+        NMBCDROPDOWN arrow = {};
+        arrow.hdr = {button.m_hWnd, kButton, static_cast<UINT>(BCN_DROPDOWN)};
+        button.GetClientRect(&arrow.rcButton);
+        parent.SendMessage(WM_NOTIFY, kButton, reinterpret_cast<LPARAM>(&arrow));
+        return opened;
+    }
+    Listener parent;
+    CSplitButton button;
+    CMenu own;
+};
+
+}  // namespace
+
+TEST_F(SplitButton, ADefaultOneStaysOneAndOthersBecomePlain) {
+    CSplitButton byDefault, other;
+    ASSERT_TRUE(byDefault.Create(L"", WS_CHILD | BS_DEFSPLITBUTTON, CRect(0, 0, 50, 20), &parent, 1));
+    EXPECT_EQ(byDefault.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_DEFSPLITBUTTON));
+    ASSERT_TRUE(other.Create(L"", WS_CHILD | BS_GROUPBOX, CRect(0, 0, 50, 20), &parent, 2));
+    EXPECT_EQ(other.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_SPLITBUTTON));
+}
+
+TEST_F(SplitButton, TheMenuDropsBelowItAndTheParentHears) {
+    button.SetDropDownMenu(&own);
+    const Opened opened = drop();
+    EXPECT_EQ(opened.first, L"own entry");
+    CRect place;
+    button.GetWindowRect(&place);
+    EXPECT_GE(opened.place.top, place.bottom - 1);
+    EXPECT_EQ(parent.dropDowns, 1);
+}
+
+TEST_F(SplitButton, TheLastMenuThatIsSetCounts) {
+    button.SetDropDownMenu(kMenu, 1);
+    EXPECT_EQ(drop().first, L"of the second");
+    button.SetDropDownMenu(&own);
+    EXPECT_EQ(drop().first, L"own entry");
+    button.SetDropDownMenu(kMenu, 0);
+    EXPECT_EQ(drop().first, L"of the first");
+}
