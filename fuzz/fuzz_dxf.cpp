@@ -1,5 +1,6 @@
-// Any bytes as a DXF file: they are refused with a reason, or read, and then what is written is stable in the
-// file's own version, in R12 and in 2018, and everything drawn from the entities can be asked for.
+// Any bytes as a DXF file, text or binary: they are refused with a reason, or read, mended where they have to
+// be, and then what is written is whole and stable in the file's own version, in R12 and in 2018, and
+// everything drawn from the entities can be asked for.
 #include <od_db.h>
 
 #include <cstddef>
@@ -30,20 +31,35 @@ void look(OdDbEntity& entity) {
 }
 
 void expectStable(OdDbDatabase& drawing, OdDb::DwgVersion version) {
-    const std::string first = drawing.writeDxfBytes(version);
+    const std::string first = drawing.writeDxfBytes(OdDxfForm{version});
     OdDbDatabasePtr again(new OdDbDatabase);
     OdDbDxfError error;
-    if (again->readDxfBytes(first, &error) != kOdOk) {
+    OdDxfReading strict;
+    strict.strict = true;
+    if (again->readDxfBytes(first, &error, &strict) != kOdOk) {
         std::fprintf(stderr, "line %d: %s\n%s", error.line, odUtf8(error.text.view()).c_str(), first.c_str());
         std::abort();
     }
-    const std::string second = again->writeDxfBytes(version);
+    const std::string second = again->writeDxfBytes(OdDxfForm{version});
     if (first == second) return;
     std::size_t at = 0;
     while (at < first.size() && at < second.size() && first[at] == second[at]) ++at;
     const std::size_t from = at > 200 ? at - 200 : 0;
     std::fprintf(stderr, "version %d differs\n--- first\n%s\n--- second\n%s\n", version,
                  first.substr(from, 400).c_str(), second.substr(from, 400).c_str());
+    std::abort();
+}
+
+/// What is written as a binary file is whole as well.
+void expectWholeBinary(OdDbDatabase& drawing, OdDb::DwgVersion version) {
+    const std::string bytes = drawing.writeDxfBytes(OdDxfForm{version, true});
+    OdDbDatabasePtr again(new OdDbDatabase);
+    OdDbDxfError error;
+    OdDxfReading strict;
+    strict.strict = true;
+    if (again->readDxfBytes(bytes, &error, &strict) == kOdOk) return;
+    std::fprintf(stderr, "version %d, byte %zu: %s\n", version, error.byte,
+                 odUtf8(error.text.view()).c_str());
     std::abort();
 }
 
@@ -65,7 +81,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         it->getRecord(record);
         for (OdDbEntity* entity : static_cast<OdDbBlockTableRecord&>(*record).entities()) look(*entity);
     }
-    for (const OdDb::DwgVersion version : {OdDb::kDHL_Unknown, OdDb::kDHL_1009, OdDb::kDHL_1032})
-        expectStable(*drawing, version == OdDb::kDHL_Unknown ? drawing->originalFileVersion() : version);
+    for (const OdDb::DwgVersion version :
+         {drawing->originalFileVersion(), OdDb::kDHL_1009, OdDb::kDHL_1032}) {
+        expectStable(*drawing, version);
+        expectWholeBinary(*drawing, version);
+    }
     return 0;
 }
