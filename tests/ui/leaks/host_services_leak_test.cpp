@@ -81,7 +81,7 @@ TEST_F(HostServiceLeaks, AThousandHelpPagesLeaveNothing) {
 }
 
 TEST_F(HostServiceLeaks, AThousandMissingHelpPagesLeaveNothing) {
-    const size_t growth = leaks::heap_growth([&] { leaks::open_bare_task_dialog(parent); });
+    const size_t growth = leaks::heap_growth([&] { leaks::open_bare_message(parent, 1, IDOK); });
     int told = 0;
     leaks::expect_no_growth(
         [&] {

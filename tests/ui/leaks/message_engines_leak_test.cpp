@@ -35,7 +35,7 @@ TEST_F(EngineLeaks, AThousandTaskDialogsOfTheSystemLeaveNothing) {
 }
 
 TEST_F(EngineLeaks, AThousandMessageBoxesLeaveNothing) {
-    const size_t growth = leaks::heap_growth([&] { leaks::open_bare_task_dialog(parent); });
+    const size_t growth = leaks::heap_growth([&] { leaks::open_bare_message(parent, 14, IDNO); });
     leaks::expect_no_growth(
         [&] {
             leaks::click_when_shown(IDNO);

@@ -43,25 +43,41 @@ inline void open_bare_file_dialog(HWND parent) {
     EXPECT_FALSE(::GetOpenFileNameW(&request));
 }
 
-/// Opens the system's task dialog with two commands and a verification box, and clicks one.
-inline void open_bare_task_dialog(HWND parent) {
+/// Runs the system's task dialog; `button` is clicked as soon as it is there.
+inline void run_bare_task_dialog(TASKDIALOGCONFIG& request, int button) {
     static const auto taskDialog = reinterpret_cast<decltype(&::TaskDialogIndirect)>(
         reinterpret_cast<void*>(::GetProcAddress(::LoadLibraryW(L"COMCTL32.DLL"), "TaskDialogIndirect")));
+    request.cbSize = sizeof request;
+    request.pszWindowTitle = kTask;
+    int clicked = 0;
+    click_when_shown(button);
+    EXPECT_EQ(taskDialog(&request, &clicked, nullptr, nullptr), S_OK);
+    EXPECT_EQ(clicked, button);
+}
+
+/// Opens the system's task dialog with two commands and a verification box, and clicks one.
+inline void open_bare_task_dialog(HWND parent) {
     const TASKDIALOG_BUTTON commands[] = {{101, L"first"}, {102, L"second"}};
     TASKDIALOGCONFIG request = {};
-    request.cbSize = sizeof request;
     request.hwndParent = parent;
-    request.pszWindowTitle = kTask;
     request.pszMainInstruction = L"heading";
     request.pszContent = L"content";
     request.pszVerificationText = L"again";
     request.dwCommonButtons = TDCBF_CANCEL_BUTTON;
     request.cButtons = 2;
     request.pButtons = commands;
-    int button = 0;
-    click_when_shown(102);
-    EXPECT_EQ(taskDialog(&request, &button, nullptr, nullptr), S_OK);
-    EXPECT_EQ(button, 102);
+    run_bare_task_dialog(request, 102);
+}
+
+/// Opens the system's task dialog with an icon, a text and common buttons (TDCBF_...), and clicks one.
+inline void open_bare_message(HWND parent, int buttons, int button) {
+    TASKDIALOGCONFIG request = {};
+    request.hwndParent = parent;
+    request.dwFlags = TDF_USE_HICON_MAIN;
+    request.hMainIcon = ::LoadIconW(nullptr, IDI_EXCLAMATION);
+    request.pszContent = L"Save?";
+    request.dwCommonButtons = static_cast<TASKDIALOG_COMMON_BUTTON_FLAGS>(buttons);
+    run_bare_task_dialog(request, button);
 }
 
 }  // namespace leaks
