@@ -241,6 +241,16 @@ TEST_F(DragList2, AMovedRowLeavesTheListWhereItWasScrolledTo) {
     EXPECT_EQ(texts().substr(5, 5), L"fhigj");
 }
 
+TEST_F(DragList2, AListScrolledToItsEndStaysThere) {
+    for (wchar_t letter = L'e'; letter <= L'z'; ++letter) add(CString(letter, 1));
+    list.SetTopIndex(list.GetCount() - 1);
+    const int top = list.GetTopIndex();
+    ASSERT_GT(top, 0);
+    drag(in(top + 1), in(top + 4));
+    EXPECT_EQ(list.m_dragModified, 1);
+    EXPECT_EQ(list.GetTopIndex(), top);
+}
+
 TEST_F(DragList2, TheCursorStopsWhereADropWouldChangeNothing) {
     down(in(1));
     move(in(1));
