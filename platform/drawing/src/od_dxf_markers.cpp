@@ -94,13 +94,18 @@ bool hasMarker(const OdGroupList& groups) {
     return groups.find(100, group);
 }
 
-/// Appends the own groups for which `wanted` is true, with the place where application data ends left out.
+/// Appends the own groups for which `wanted` is true, with the place where application data ends left out. A
+/// later block of such data goes as a whole where its edges go.
 template <class Wanted>
 void appendOwn(OdGroupList& out, const OdGroupList& groups, std::uint32_t from, Wanted wanted) {
     const std::uint32_t end = groups.ownEnd();
+    constexpr int kApplicationData = 102;
     OdGroup group;
-    for (std::uint32_t at = from; at < end && groups.read(at, group); at = group.end)
-        if (wanted(group.code)) out.add(group);
+    bool inside = false;
+    for (std::uint32_t at = from; at < end && groups.read(at, group); at = group.end) {
+        if (wanted(inside ? kApplicationData : group.code)) out.add(group);
+        if (group.code == kApplicationData) inside = !group.text.empty() && group.text[0] == '{';
+    }
 }
 
 void appendRange(OdGroupList& out, const OdGroupList& groups, std::uint32_t from, std::uint32_t to) {

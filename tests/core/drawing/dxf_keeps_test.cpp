@@ -137,6 +137,20 @@ TEST(DxfKeeps, TheFileOnDiskWhenWritingFailsAndNothingElseBesideIt) {
     std::filesystem::remove_all(folder);
 }
 
+TEST(DxfKeeps, ApplicationDataAmongOtherGroupsStaysWhole) {
+    // A file without subclass markers, which are put in: layer and linetype of the block are not the line's.
+    const std::string text = rewritten(
+        withEntities(
+            "0|LINE\n8|one\n10|1\n20|2\n102|{OURS\n6|DASHED\n8|two\n10|7\n102|}\n11|3\n21|4\n62|5\n"),
+        OdDb::kDHL_1015);
+    EXPECT_TRUE(has(text,
+                    "100|AcDbEntity\n8|one\n62|5\n100|AcDbLine\n10|1.0\n20|2.0\n102|{OURS\n6|DASHED\n8|"
+                    "two\n10|7.0\n102|}\n"
+                    "11|3.0\n21|4.0\n0|ENDSEC"))
+        << text.substr(text.find("AcDbLine") - 100, 300);
+    EXPECT_FALSE(has(text, "2|DASHED"));
+}
+
 TEST(DxfKeeps, AHeaderVariableOutsideTheHeaderSaysNothingAboutTheFile) {
     const OdDbDatabasePtr drawing = readDrawing(
         dxf(header("AC1032") +
