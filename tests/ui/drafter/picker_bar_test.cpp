@@ -293,37 +293,56 @@ TEST_F(PickerBar, EachPickerHasATip) {
     EXPECT_EQ(texts, (std::vector<CString>{L"Color", L"Linetype", L"Lineweight", L"Plot style", L"Layer"}));
 }
 
+/// The pointer over a picker of the bar, with a move told to the bar as the message loop does.
+class Hover {
+public:
+    Hover(CPickerBar& bar, CToolTipCtrl& tip, CWnd& picker) : m_bar(bar), m_tip(tip), m_picker(picker) {
+        CRect rect;
+        picker.GetWindowRect(&rect);
+        m_place = rect.CenterPoint();
+    }
+    /// Moves the pointer within the picker.
+    void move() {
+        MSG move = {m_picker.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(++m_x, 5), ::GetTickCount(), m_place};
+        m_bar.PreTranslateMessage(&move);
+    }
+    /// Whether the tip comes up while the pointer rests here. A virtual desktop may lose the pointer's place
+    /// after a while, and then it is put there again.
+    bool showsTip() {
+        move_cursor(m_place);
+        move();
+        return pump_until([&] {
+            CPoint now;
+            if (::GetCursorPos(&now) && now != m_place && move_cursor(m_place)) move();
+            return m_tip.IsWindowVisible() != FALSE;
+        });
+    }
+
+private:
+    CPickerBar& m_bar;
+    CToolTipCtrl& m_tip;
+    CWnd& m_picker;
+    CPoint m_place;
+    int m_x = 4;
+};
+
 TEST_F(PickerBar, ATipComesUpOverAPicker) {
-    CWnd& combo = *bar.GetDlgItem(IDC_LINETYPE);
-    CRect rect;
-    combo.GetWindowRect(&rect);
-    ASSERT_TRUE(move_cursor(rect.CenterPoint()));
-    MSG move = {combo.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5), ::GetTickCount(), rect.CenterPoint()};
-    bar.PreTranslateMessage(&move);
-    EXPECT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
+    EXPECT_TRUE(Hover(bar, *bar.m_toolTip, *bar.GetDlgItem(IDC_LINETYPE)).showsTip());
 }
 
 TEST_F(PickerBar, ATipGoesWhenTheListIsDroppedAndComesUpAgainWhenItIsClosed) {
     bar.Show(*drawing, {});
     CWnd& combo = *bar.GetDlgItem(IDC_LINETYPE);
-    CRect rect;
-    combo.GetWindowRect(&rect);
-    ASSERT_TRUE(move_cursor(rect.CenterPoint()));
-    const auto point = [&](int x) {
-        MSG move = {combo.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(x, 5), ::GetTickCount(), rect.CenterPoint()};
-        bar.PreTranslateMessage(&move);
-    };
-    point(5);
-    ASSERT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
+    Hover pointer(bar, *bar.m_toolTip, combo);
+    ASSERT_TRUE(pointer.showsTip());
     drop(combo);
     EXPECT_FALSE(bar.m_toolTip->IsWindowVisible());
-    point(6);
+    pointer.move();
     EXPECT_FALSE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }, 1500))
         << "nor does it come back meanwhile";
     combo.SendMessage(CB_SHOWDROPDOWN, FALSE);
     pump();
-    point(7);
-    EXPECT_TRUE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }));
+    EXPECT_TRUE(pointer.showsTip());
 }
 
 }  // namespace
