@@ -195,11 +195,19 @@ PropertyValues CPickerBar::picked(UINT id) {
     return values;
 }
 
+void CPickerBar::allowTips(bool allow) {
+    if (m_toolTip == nullptr) return;
+    // For Wine, where a tip that waits comes up although tips are off: the pointer is told to be elsewhere.
+    MSG elsewhere = {m_hWnd, WM_MOUSEMOVE, 0, 0, ::GetTickCount(), {}};
+    if (!allow) m_toolTip->RelayEvent(&elsewhere);
+    m_toolTip->Activate(allow);
+}
+
 BOOL CPickerBar::OnCommand(WPARAM wParam, LPARAM lParam) {
     const BOOL result = CKtUiDialogBar::OnCommand(wParam, lParam);
     // A tip would lie on the list.
-    const bool drops = HIWORD(wParam) == CBN_DROPDOWN;
-    if (m_toolTip != nullptr && (drops || HIWORD(wParam) == CBN_CLOSEUP)) m_toolTip->Activate(!drops);
+    if (HIWORD(wParam) == CBN_DROPDOWN) allowTips(false);
+    if (HIWORD(wParam) == CBN_CLOSEUP) allowTips(true);
     if (m_showing || m_drawing == nullptr) return result;
     if (LOWORD(wParam) == IDC_LAYER_SEARCH && HIWORD(wParam) == EN_CHANGE) {
         m_showing = true;

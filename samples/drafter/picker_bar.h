@@ -40,6 +40,7 @@ private:
     void rememberTemplate();
     std::vector<BarPlace> placesIn(int room) const;
     void addTips();
+    void allowTips(bool allow);
     static UINT nameOf(UINT id);
     void fillLists();
     void fillLayers();

@@ -345,4 +345,17 @@ TEST_F(PickerBar, ATipGoesWhenTheListIsDroppedAndComesUpAgainWhenItIsClosed) {
     EXPECT_TRUE(pointer.showsTip());
 }
 
+TEST_F(PickerBar, ATipThatWasToComeUpDoesNotLieOnTheList) {
+    bar.Show(*drawing, {});
+    CWnd& combo = *bar.GetDlgItem(IDC_TRUE_COLOR);
+    Hover pointer(bar, *bar.m_toolTip, combo);
+    CRect rect;
+    combo.GetWindowRect(&rect);
+    ASSERT_TRUE(move_cursor(rect.CenterPoint()));
+    pointer.move();
+    drop(combo);
+    EXPECT_FALSE(pump_until([&] { return bar.m_toolTip->IsWindowVisible(); }, 1500));
+    combo.SendMessage(CB_SHOWDROPDOWN, FALSE);
+}
+
 }  // namespace
