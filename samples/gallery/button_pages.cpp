@@ -80,27 +80,37 @@ class CDropSitePage : public CGalleryPage {
     }
 };
 
+/// A button as it is and disabled, with a sentence about it.
+template <class Button>
+class CPairPage : public CGalleryPage {
+protected:
+    virtual Button& add(const CString& label, DWORD style) = 0;
+    void showPair(const CString& sentence) {
+        m_button = &add(Both(L"Normal", L"正常"), 0);
+        add(Both(L"Disabled", L"禁用"), WS_DISABLED);
+        Say(sentence);
+        Switch(Both(L"Enabled", L"启用"), true, [this](bool on) { m_button->EnableWindow(on); });
+    }
+    void Pose() override { PoseFocus(*m_button); }
+    Button* m_button = nullptr;
+};
+
 /// A button that goes through an editor command at a press.
 template <class Button>
-class CPickPage : public CGalleryPage {
-    Button& add(const CString& label, DWORD style = 0) {
-        Button& button = ShowTall<Button>(label, BS_OWNERDRAW | style, kButtonRow);
+class CPickPage : public CPairPage<Button> {
+    Button& add(const CString& label, DWORD style) override {
+        Button& button = this->template ShowTall<Button>(label, BS_OWNERDRAW | style, kButtonRow);
         button.SetWindowText(L"|" + label);
         button.AutoLoad();
         return button;
     }
     void Build() override {
-        m_button = &add(Both(L"Normal", L"正常"));
-        add(Both(L"Disabled", L"禁用"), WS_DISABLED);
-        Say(
+        this->showPair(
             Both(L"At a press its owner calls BeginEditorCommand, lets the user pick, and then "
                  L"CompleteEditorCommand: the dialogs go away meanwhile.",
                  L"按下后，所有者调用 BeginEditorCommand，让用户拾取，然后调用 "
                  L"CompleteEditorCommand：其间对话框隐藏。"));
-        Switch(Both(L"Enabled", L"启用"), true, [this](bool on) { m_button->EnableWindow(on); });
     }
-    void Pose() override { PoseFocus(*m_button); }
-    Button* m_button = nullptr;
 };
 
 class CDrawnButtonPage : public CGalleryPage {
@@ -152,25 +162,20 @@ BEGIN_MESSAGE_MAP(CTrackedSwatch, CKbUiTrackButton)
     ON_WM_ENABLE()
 END_MESSAGE_MAP()
 
-class CTrackButtonPage : public CGalleryPage {
-    CTrackedSwatch& add(const CString& label, DWORD style = 0) {
+class CTrackButtonPage : public CPairPage<CTrackedSwatch> {
+    CTrackedSwatch& add(const CString& label, DWORD style) override {
         auto& button = ShowTall<CTrackedSwatch>(label, BS_OWNERDRAW | style, kButtonRow);
         button.SetWindowText(label);
         return button;
     }
     void Build() override {
-        m_button = &add(Both(L"Normal", L"正常"));
-        add(Both(L"Disabled", L"禁用"), WS_DISABLED);
-        Say(
+        showPair(
             Both(L"A track button paints nothing; one that is to be seen is a subclass with a painting of "
                  L"its own, like these.",
                  L"跟踪按钮自身不绘制；需要显示时从它派生并自行绘制，如本页所示。"));
-        Switch(Both(L"Enabled", L"启用"), true, [this](bool on) { m_button->EnableWindow(on); });
         Switch(Both(L"Tells the pointer", L"通知指针"), m_button->GetEnablePointedAt() != 0,
                [this](bool on) { m_button->SetEnablePointedAt(on); });
     }
-    void Pose() override { PoseFocus(*m_button); }
-    CTrackedSwatch* m_button = nullptr;
 };
 
 /// Two lists that a coupled group shows one at a time, in a frame that they fill.

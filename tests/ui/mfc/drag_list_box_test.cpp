@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "list_rows.h"
 #include "ui_test.h"
 
 namespace {
@@ -62,16 +63,7 @@ protected:
         DRAGLISTINFO info = {notification, list.m_hWnd, point};
         return parent.SendMessage(dragMessage(), kListId, reinterpret_cast<LPARAM>(&info));
     }
-    std::wstring texts() {
-        std::wstring all;
-        for (int i = 0; i < list.GetCount(); ++i) {
-            CString text;
-            list.GetText(i, text);
-            all += text;
-            EXPECT_EQ(list.GetItemData(i), static_cast<DWORD_PTR>(text[0]));
-        }
-        return all;
-    }
+    std::wstring texts() { return ui_test::rows_of(list); }
     /// Sends a message of the mouse, which the system then asks for its place.
     void mouse(UINT message, CPoint screen) {
         ASSERT_TRUE(ui_test::move_cursor(screen));

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "list_rows.h"
 #include "picture.h"
 #include "replaced_import.h"
 #include "slot_of.h"
@@ -85,16 +86,7 @@ protected:
         move(to);
         up(to);
     }
-    std::wstring texts() {
-        std::wstring all;
-        for (int i = 0; i < list.GetCount(); ++i) {
-            CString text;
-            list.GetText(i, text);
-            all += text;
-            EXPECT_EQ(list.GetItemData(i), static_cast<DWORD_PTR>(text[0]));
-        }
-        return all;
-    }
+    std::wstring texts() { return ui_test::rows_of(list); }
     ui_test::ParentWindow parent;
     List list;
 };
