@@ -2,6 +2,7 @@
 
 #include <shlobj.h>
 
+#include <ktui/host/com_reference.h>
 #include <ktui/host/loaded_module.h>
 #include <ktui/nav/nav_dialog_imp.h>
 
@@ -84,10 +85,8 @@ int CNavFileDlg::NavigateTo(const wchar_t* folder) {
 void CNavFileDlg::refreshView() const {
     auto* const browser =
         reinterpret_cast<IShellBrowser*>(::SendMessageW(platformWindow(), kGetShellBrowser, 0, 0));
-    IShellView* view = nullptr;
-    if (browser == nullptr || FAILED(browser->QueryActiveShellView(&view)) || view == nullptr) return;
-    view->Refresh();
-    view->Release();
+    ComReference<IShellView> view;
+    if (browser != nullptr && SUCCEEDED(browser->QueryActiveShellView(view.place())) && view) view->Refresh();
 }
 
 void CNavFileDlg::TypeName(const CString& name) {

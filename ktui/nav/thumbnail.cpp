@@ -27,17 +27,6 @@ HBITMAP of_drawing(const wchar_t* path) {
     return bitmap;
 }
 
-HBITMAP of_shell(const wchar_t* path, int width, int height) {
-    IShellFolder* desktop = nullptr;
-    IMalloc* allocator = nullptr;
-    HBITMAP bitmap = nullptr;
-    if (SUCCEEDED(::SHGetDesktopFolder(&desktop)) && SUCCEEDED(::SHGetMalloc(&allocator)))
-        bitmap = ExtractShellThumbnail(*desktop, *allocator, path, width, height);
-    if (allocator != nullptr) allocator->Release();
-    if (desktop != nullptr) desktop->Release();
-    return bitmap;
-}
-
 /// Copies the picture that `source` holds into the middle of the area.
 void copy_centred(HDC dc, HDC source, SIZE picture, int width, int height) {
     SIZE shown = picture;
@@ -61,7 +50,7 @@ HBITMAP ktuiGetThumbnail(const wchar_t* path, int width, int height) {
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return nullptr;
     if (is_drawing(path))
         if (const HBITMAP bitmap = of_drawing(path)) return bitmap;
-    return of_shell(path, width, height);
+    return ExtractShellThumbnail(path, width, height);
 }
 
 bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height) {

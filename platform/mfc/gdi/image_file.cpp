@@ -8,14 +8,12 @@
 #include <shlwapi.h>
 #include <wincodec.h>
 
+#include "../core/com_reference.h"
+
 namespace {
 
-struct ReleaseInterface {
-    void operator()(IUnknown* served) const { served->Release(); }
-};
-/// A counted reference to an interface.
-template <class T>
-using Reference = std::unique_ptr<T, ReleaseInterface>;
+using kmfc::fill;
+using kmfc::Reference;
 
 /// COM for its lifetime, whether or not the caller has it.
 class ComScope {
@@ -30,15 +28,6 @@ public:
 private:
     HRESULT m_result;
 };
-
-/// Hands the result of a function that fills a pointer to a reference.
-template <class T, class Function>
-HRESULT fill(Reference<T>& place, Function function) {
-    T* made = nullptr;
-    const HRESULT result = function(&made);
-    if (SUCCEEDED(result)) place.reset(made);
-    return result;
-}
 
 HRESULT make_factory(Reference<IWICImagingFactory>& factory) {
     return fill(factory, [](IWICImagingFactory** made) {
