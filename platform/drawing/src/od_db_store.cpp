@@ -1,5 +1,7 @@
 #include "od_db_store.h"
 
+#include <unordered_set>
+
 #include "od_db_change_notes.h"
 #include "od_dxf_markers.h"
 
@@ -103,7 +105,11 @@ OdDbSymbolTableRecord* OdDbStore::addRecord(OdTableKind kind, const OdDbSymbolTa
 }
 
 OdDbSymbolTableRecord* OdDbStore::needRecord(OdTableKind kind, const wchar_t* name) {
-    if (OdDbSymbolTableRecord* found = record(kind, name)) return found;
+    OdDbSymbolTableRecord* found = record(kind, name);
+    return found ? found : makeRecord(kind, name);
+}
+
+OdDbSymbolTableRecord* OdDbStore::makeRecord(OdTableKind kind, const wchar_t* name) {
     OdDbSymbolTableRecord* made = addRecord(kind, tables[kind]->newRecord(), OdString(name), 0);
     odGiveNewRecordGroups(made->dxfName(), made->m_groups);
     return made;
@@ -181,10 +187,13 @@ void OdDbStore::completeRecords() {
 
 void OdDbStore::completeSpaces() {
     for (const wchar_t* name : {L"*Model_Space", L"*Paper_Space"}) needRecord(kBlockTable, name);
+    std::unordered_set<OdDbHandle> taken;
     for (OdDbSymbolTableRecord* record : records(kBlockTable)) {
         auto& block = static_cast<OdDbBlockTableRecord&>(*record);
-        for (OdDbHandle* handle : {&block.m_beginHandle, &block.m_endHandle})
-            if (*handle == 0 || objects.count(*handle)) *handle = newHandle();
+        for (OdDbHandle* handle : {&block.m_beginHandle, &block.m_endHandle}) {
+            if (*handle == 0 || objects.count(*handle) || taken.count(*handle)) *handle = newHandle();
+            taken.insert(*handle);
+        }
         odCompleteBlockEdge(true, block.m_begin);
         odCompleteBlockEdge(false, block.m_end);
     }

@@ -89,6 +89,8 @@ struct OdDbStore {
     void adoptEntity(const OdDbEntityPtr& entity, OdDbHandle owner);
     /// The record of this name, which is made if it is missing.
     OdDbSymbolTableRecord* needRecord(OdTableKind kind, const wchar_t* name);
+    /// A new record of this name, whether or not there is one.
+    OdDbSymbolTableRecord* makeRecord(OdTableKind kind, const wchar_t* name);
     /// The layer record of this name, remembering the last one asked for.
     OdDbHandle layerHandle(std::string_view name);
     OdDbHandle linetypeHandle(std::string_view name);

@@ -172,12 +172,23 @@ private:
         return sectionEnd();
     }
 
+    /// The record of the block that begins here: its owner, if that bears the name, or the record with this
+    /// name. A second block of one name gets a record of its own; the spaces are there once only.
+    OdDbBlockTableRecord& recordOfBlock(const OdString& name) {
+        auto* owner = m_store.object<OdDbBlockTableRecord>(m_record.owner);
+        if (owner && owner->getName().iCompare(name) == 0) return *owner;
+        auto& named = static_cast<OdDbBlockTableRecord&>(*m_store.needRecord(kBlockTable, name));
+        const bool isSpace = odIsModelSpaceName(name) || odIsPaperSpaceName(name);
+        if (isSpace || m_store.blockBegin(named).isEmpty()) return named;
+        return static_cast<OdDbBlockTableRecord&>(*m_store.makeRecord(kBlockTable, name));
+    }
+
     bool block() {
         if (!m_records.read(OdDxfRecordKind::kBlock, m_record)) return false;
         OdString name = m_record.name;
         if (odIsModelSpaceName(name)) name = L"*Model_Space";
         if (odIsPaperSpaceName(name)) name = L"*Paper_Space";
-        auto& record = static_cast<OdDbBlockTableRecord&>(*m_store.needRecord(kBlockTable, name));
+        OdDbBlockTableRecord& record = recordOfBlock(name);
         if (m_store.blockBegin(record).isEmpty()) {
             m_store.blockBegin(record) = m_record.groups;
             m_store.blockBeginHandle(record) = m_record.handle;

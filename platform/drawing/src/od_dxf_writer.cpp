@@ -150,12 +150,15 @@ private:
             head = first.begin;
             body = groups.find(100, second, first.end) ? second.end : first.end;
         }
+        // The first 2 of a record is its name; one that stands before the markers must not come before it.
+        const bool nameFirst = groups.find(2, second) && second.begin < body;
+        if (nameFirst) m_out.putText(2, record.getName());
         if (!m_out.isR12()) {
             m_out.putOwnHandle(record.handle(), kind == kDimStyleTable ? 105 : 5);
             m_entities.ownerAmong(groups, symbols.handle(), head);
             m_out.putGroups(groups, OdDxfPart::kObject, head, body);
         }
-        m_out.putText(2, record.getName());
+        if (!nameFirst) m_out.putText(2, record.getName());
         m_out.putGroups(groups, OdDxfPart::kRecord, body);
     }
 

@@ -183,3 +183,124 @@ TEST(DxfKeeps, NamesEndAtAZeroCharacter) {
     const OdDbDatabasePtr drawing = readDrawing(withEntities("0|POINT\n8|WALLS" + zero + "X\n10|0\n20|0\n"));
     EXPECT_EQ(modelEntities(*drawing)[0]->layer(), L"WALLS");
 }
+
+namespace {
+
+/// A block with one circle of this radius; an empty owner leaves the reference to its record out.
+std::string blockOf(const std::string& name, const std::string& owner, const std::string& radius,
+                    const std::string& edges = "") {
+    const std::string handle = edges.empty() ? "" : "5|" + edges + "\n";
+    const std::string own = owner.empty() ? "" : "330|" + owner + "\n";
+    return "0|BLOCK\n" + handle + own + "8|0\n2|" + name + "\n70|0\n10|0\n20|0\n30|0\n3|" + name +
+           "\n0|CIRCLE\n8|0\n10|0\n20|0\n40|" + radius + "\n0|ENDBLK\n" + handle + own + "8|0\n";
+}
+
+std::string recordOf(const std::string& handle, const std::string& name) {
+    return "0|BLOCK_RECORD\n5|" + handle + "\n100|AcDbSymbolTableRecord\n100|AcDbBlockTableRecord\n2|" +
+           name + "\n";
+}
+
+/// The names and the radii of the first circles of all blocks but the spaces, in the order of the table.
+std::string circlesOf(OdDbDatabase& drawing) {
+    std::string all;
+    OdDbBlockTablePtr blocks;
+    drawing.getBlockTable(blocks);
+    for (auto it = blocks->newIterator(); !it->done(); it->step()) {
+        OdDbSymbolTableRecordPtr record;
+        it->getRecord(record);
+        auto& block = static_cast<OdDbBlockTableRecord&>(*record);
+        if (block.getName()[0] == L'*') continue;
+        all += odUtf8(block.getName().view());
+        for (OdDbEntity* entity : block.entities())
+            if (auto* circle = dynamic_cast<OdDbCircle*>(entity))
+                all += " " + std::to_string(static_cast<int>(circle->radius()));
+        all += ";";
+    }
+    return all;
+}
+
+std::string twoBlocksOfOneName(const std::string& firstName, const std::string& secondName,
+                               const std::string& firstOwner, const std::string& secondOwner,
+                               const std::string& edges = "") {
+    return dxf(header("AC1032") + "0|SECTION\n2|TABLES\n0|TABLE\n2|BLOCK_RECORD\n5|1\n70|2\n" +
+               recordOf("A0", firstName) + recordOf("A1", secondName) +
+               "0|ENDTAB\n0|ENDSEC\n0|SECTION\n2|BLOCKS\n" + blockOf(secondName, firstOwner, "3", edges) +
+               blockOf(firstName, secondOwner, "5", edges) + "0|ENDSEC\n0|EOF");
+}
+
+}  // namespace
+
+TEST(DxfKeeps, TwoBlocksOfOneNameAreToldApartByTheirOwners) {
+    OdDbDatabasePtr drawing = readDrawing(twoBlocksOfOneName("Door", "DOOR", "A1", "A0"));
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(circlesOf(*drawing), "Door 5;DOOR 3;");
+    for (const OdDb::DwgVersion version : {OdDb::kDHL_1015, OdDb::kDHL_1032}) {
+        OdDbDatabasePtr again = readDrawing(drawing->writeDxfBytes(version));
+        ASSERT_TRUE(again);
+        EXPECT_EQ(circlesOf(*again), "Door 5;DOOR 3;");
+        EXPECT_EQ(again->writeDxfBytes(version), drawing->writeDxfBytes(version));
+    }
+}
+
+TEST(DxfKeeps, TwoBlocksOfOneNameWithoutOwnersStayTwo) {
+    OdDbDatabasePtr drawing =
+        readDrawing(dxf(header("AC1009") + "0|SECTION\n2|BLOCKS\n" + blockOf("DOOR", "", "3") +
+                        blockOf("DOOR", "", "5") + "0|ENDSEC\n0|EOF"));
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(circlesOf(*drawing), "DOOR 3;DOOR 5;");
+    for (const OdDb::DwgVersion version : {OdDb::kDHL_1009, OdDb::kDHL_1015}) {
+        OdDbDatabasePtr again = readDrawing(drawing->writeDxfBytes(version));
+        ASSERT_TRUE(again);
+        EXPECT_EQ(circlesOf(*again), "DOOR 3;DOOR 5;");
+    }
+}
+
+TEST(DxfKeeps, AnOwnerOfAnotherNameDoesNotTakeTheBlock) {
+    OdDbDatabasePtr drawing = readDrawing(twoBlocksOfOneName("DOOR", "WALL", "A0", "A1"));
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(circlesOf(*drawing), "DOOR 5;WALL 3;");
+}
+
+TEST(DxfKeeps, ASpaceThatBeginsTwiceStaysOne) {
+    for (const std::string space : {"*Model_Space", "$PAPER_SPACE"}) {
+        OdDbDatabasePtr drawing =
+            readDrawing(dxf(header("AC1009") + "0|SECTION\n2|BLOCKS\n" + blockOf(space, "", "3") +
+                            blockOf(space, "", "5") + "0|ENDSEC\n0|EOF"));
+        ASSERT_TRUE(drawing);
+        OdDbBlockTablePtr blocks;
+        drawing->getBlockTable(blocks);
+        int records = 0;
+        for (auto it = blocks->newIterator(); !it->done(); it->step()) ++records;
+        EXPECT_EQ(records, 2) << space;
+    }
+}
+
+TEST(DxfKeeps, BlockEdgesWithOneHandleGetTheirOwn) {
+    OdDbDatabasePtr drawing = readDrawing(twoBlocksOfOneName("DOOR", "WALL", "A1", "A0", "C0"));
+    ASSERT_TRUE(drawing);
+    const std::string first = drawing->writeDxfBytes(OdDb::kDHL_1032);
+    std::size_t edges = 0;
+    for (std::size_t at = first.find("\r\nC0\r\n"); at != std::string::npos;
+         at = first.find("\r\nC0\r\n", at + 1))
+        ++edges;
+    EXPECT_EQ(edges, 1u);
+    EXPECT_EQ(readDrawing(first)->writeDxfBytes(OdDb::kDHL_1032), first);
+}
+
+TEST(DxfKeeps, AStrayNameBeforeTheMarkersDoesNotBecomeTheName) {
+    const std::string text =
+        dxf(header("AC1032") +
+            "0|SECTION\n2|TABLES\n0|TABLE\n2|LAYER\n5|2\n70|1\n0|LAYER\n5|A0\n2|WALLS\n2|STRAY\n"
+            "100|AcDbSymbolTableRecord\n100|AcDbLayerTableRecord\n70|0\n62|3\n6|Continuous\n"
+            "0|ENDTAB\n0|ENDSEC\n0|EOF");
+    OdDbDatabasePtr drawing = readDrawing(text);
+    ASSERT_TRUE(drawing);
+    const std::string first = drawing->writeDxfBytes(OdDb::kDHL_1032);
+    OdDbDatabasePtr again = readDrawing(first);
+    OdDbLayerTablePtr layers;
+    again->getLayerTable(layers);
+    EXPECT_TRUE(layers->has(L"WALLS"));
+    EXPECT_FALSE(layers->has(L"STRAY"));
+    EXPECT_TRUE(has(first, "2|STRAY")) << "what nobody understands is kept";
+    EXPECT_EQ(again->writeDxfBytes(OdDb::kDHL_1032), first);
+}
