@@ -84,15 +84,28 @@ KTDB_API bool ktdbIsReservedString(const wchar_t* name, int kind);
 /// it. Empty for an unknown kind.
 KTDB_API OdString ktdbGetReservedString(int kind, bool localized);
 
-/// Reads the preview image of a drawing file (DXF, or DWG from R13 on) as the bytes of a device-independent
-/// bitmap: a BITMAPINFOHEADER, its colour table and its pixels. Fails without a readable, complete and
-/// plausible image.
-KTDB_API int ktdbReadPreviewDib(const wchar_t* path, std::vector<std::uint8_t>& dib);
+/// The kinds of preview image, with the numbers that DWG files give them.
+enum KtdbPreviewKind {
+    kKtdbPreviewDib = 2,  ///< a device-independent bitmap: BITMAPINFOHEADER, colour table, pixels
+    kKtdbPreviewWmf = 3,  ///< a metafile of 16 bits, with or without a placeable header
+    kKtdbPreviewPng = 6,  ///< a PNG file
+};
+
+struct KtdbPreview {
+    int kind = 0;  ///< KtdbPreviewKind
+    std::vector<std::uint8_t> bytes;
+};
+
+/// Reads the preview image of a drawing file (DXF, text or binary, or DWG from R13 on). Of several images the
+/// first bitmap is taken, or else the first PNG, or else the first metafile. Fails without a complete and
+/// plausible image. Of a file only the parts that tell of the image are read.
+KTDB_API int ktdbReadPreview(const wchar_t* path, KtdbPreview& preview);
 /// The same from the bytes of the file.
-KTDB_API int ktdbFindPreviewDib(const std::uint8_t* bytes, std::size_t size, std::vector<std::uint8_t>& dib);
+KTDB_API int ktdbFindPreview(const std::uint8_t* bytes, std::size_t size, KtdbPreview& preview);
 
 #ifdef _WIN32
 /// The preview image as a bitmap for the caller to delete, and a palette to delete too, which is null for an
-/// image without a colour table. Answers true, or false with both null.
+/// image without a colour table. Clear parts of a PNG and the ground of a metafile are white. Answers true,
+/// or false with both null.
 KTDB_API bool ktdbGetPreviewBitmapFromDwg(const wchar_t* path, HBITMAP__** bitmap, HPALETTE__** palette);
 #endif

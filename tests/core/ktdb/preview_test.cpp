@@ -12,7 +12,8 @@
 #include "../../support/preview_bytes.h"
 #include "number_cases.h"
 
-using preview_bytes::dibOf, preview_bytes::dwgWith, preview_bytes::put32;
+using preview_bytes::dibOf, preview_bytes::dwgWith, preview_bytes::dwgWithImages, preview_bytes::pngOf,
+    preview_bytes::put32, preview_bytes::wmfOf;
 
 namespace {
 
@@ -42,11 +43,11 @@ std::string dxfWith(const std::string& hexText) {
 }
 
 bool find(const std::string& file, std::string& dib) {
-    std::vector<std::uint8_t> found;
+    KtdbPreview found;
     const int status =
-        ktdbFindPreviewDib(reinterpret_cast<const std::uint8_t*>(file.data()), file.size(), found);
-    dib.assign(found.begin(), found.end());
-    return status == kKtdbOk;
+        ktdbFindPreview(reinterpret_cast<const std::uint8_t*>(file.data()), file.size(), found);
+    dib.assign(found.bytes.begin(), found.bytes.end());
+    return status == kKtdbOk && found.kind == kKtdbPreviewDib;
 }
 
 }  // namespace
@@ -136,6 +137,126 @@ TEST(Preview, OfSeveralImagesTheFirstBitmapIsTaken) {
     EXPECT_EQ(dib, second);
 }
 
+namespace {
+
+const std::string kPng = pngOf(std::string("\x10\x20\x30\xFF\x00\x00\x00\x00", 8));
+
+/// The kind that is found, with its bytes; 0 for none.
+int findKind(const std::string& file, std::string& bytes) {
+    KtdbPreview found;
+    const int status =
+        ktdbFindPreview(reinterpret_cast<const std::uint8_t*>(file.data()), file.size(), found);
+    bytes.assign(found.bytes.begin(), found.bytes.end());
+    return status == kKtdbOk ? found.kind : 0;
+}
+
+}  // namespace
+
+TEST(Preview, EachKindIsFound) {
+    std::string bytes;
+    EXPECT_EQ(findKind(dwgWithImages({{'\x01', "header"}, {'\x06', kPng}}), bytes), 6);
+    EXPECT_EQ(bytes, kPng);
+    for (const bool placeable : {false, true}) {
+        const std::string wmf = wmfOf(40, 20, placeable);
+        EXPECT_EQ(findKind(dwgWithImages({{'\x01', "header"}, {'\x03', wmf + "more"}}), bytes), 3);
+        EXPECT_EQ(bytes, wmf) << "what follows the image isn't part of it";
+    }
+    for (const char other : {'\x00', '\x01', '\x04', '\x05', '\x07'})
+        EXPECT_EQ(findKind(dwgWithImages({{other, kPng}}), bytes), 0) << int{other};
+}
+
+TEST(Preview, ABitmapComesBeforeAPngAndThatBeforeAMetafile) {
+    std::string bytes;
+    const std::string wmf = wmfOf(40, 20, false);
+    EXPECT_EQ(findKind(dwgWithImages({{'\x03', wmf}, {'\x06', kPng}, {'\x02', smallDib()}}), bytes), 2);
+    EXPECT_EQ(findKind(dwgWithImages({{'\x03', wmf}, {'\x06', kPng}}), bytes), 6);
+    EXPECT_EQ(findKind(dwgWithImages({{'\x06', "no picture"}, {'\x03', wmf}}), bytes), 0)
+        << "a damaged image is none";
+}
+
+TEST(Preview, APngIsRefusedWithoutItsHeaderOrWithSidesBeyondReason) {
+    std::string bytes;
+    for (std::size_t at = 0; at < 16; ++at) {
+        std::string png = kPng;
+        png[at] = static_cast<char>(png[at] ^ 1);
+        EXPECT_EQ(findKind(dwgWithImages({{'\x06', png}}), bytes), 0) << at;
+    }
+    EXPECT_EQ(findKind(dwgWithImages({{'\x06', kPng.substr(0, 32)}}), bytes), 0);
+    EXPECT_EQ(findKind(dwgWithImages({{'\x06', kPng.substr(0, 33)}}), bytes), 6);
+    const auto withSide = [&](std::size_t at, char high, char low) {
+        std::string png = kPng;
+        png[at + 2] = high;
+        png[at + 3] = low;
+        return findKind(dwgWithImages({{'\x06', png}}), bytes);
+    };
+    for (const std::size_t side : {16u, 20u}) {
+        EXPECT_EQ(withSide(side, '\x20', '\x00'), 6) << "8192";
+        EXPECT_EQ(withSide(side, '\x20', '\x01'), 0) << "8193";
+        EXPECT_EQ(withSide(side, '\x00', '\x00'), 0);
+    }
+    std::string wide = kPng;
+    wide[16] = '\x01';
+    EXPECT_EQ(findKind(dwgWithImages({{'\x06', wide}}), bytes), 0);
+}
+
+TEST(Preview, AMetafileIsRefusedWithAnotherHeaderOrWhenCutShort) {
+    std::string bytes;
+    for (const bool placeable : {false, true}) {
+        const std::string wmf = wmfOf(40, 20, placeable);
+        for (std::size_t size = 0; size < wmf.size(); ++size)
+            EXPECT_EQ(findKind(dwgWithImages({{'\x03', wmf.substr(0, size)}}), bytes), 0) << size;
+    }
+    const auto with = [&](std::size_t at, char value) {
+        std::string wmf = wmfOf(40, 20, false);
+        wmf[at] = value;
+        return findKind(dwgWithImages({{'\x03', wmf}}), bytes);
+    };
+    EXPECT_EQ(with(0, '\x00'), 0);
+    EXPECT_EQ(with(0, '\x02'), 3);
+    EXPECT_EQ(with(0, '\x03'), 0);
+    EXPECT_EQ(with(2, '\x0A'), 0);
+    EXPECT_EQ(with(5, '\x01'), 3);
+    EXPECT_EQ(with(5, '\x02'), 0);
+    EXPECT_EQ(with(6, '\x09'), 0) << "nothing but a header";
+    EXPECT_EQ(with(6, '\x7F'), 0) << "more than is there";
+}
+
+TEST(Preview, IsFoundNearTheEndOfALargeDxf) {
+    const std::string pair = "999\r\n" + std::string(994, 'x') + "\r\n";
+    std::string large;
+    while (large.size() < (3u << 20)) large += pair;
+    std::string bytes;
+    EXPECT_EQ(findKind(large + dxfWith(hex(smallDib())), bytes), 2);
+    EXPECT_EQ(bytes, smallDib());
+    EXPECT_EQ(findKind(dxfWith(hex(smallDib())).substr(0, 0) + large, bytes), 0);
+    // It may stand at the beginning as well.
+    std::string first = dxfWith(hex(smallDib()));
+    first.resize(first.rfind("  0\r\nEOF"));
+    EXPECT_EQ(findKind(first + large + "  0\r\nEOF\r\n", bytes), 2);
+    EXPECT_EQ(bytes, smallDib());
+}
+
+TEST(Preview, IsFoundInABinaryDxf) {
+    const std::string image = dibOf(40, 3, 24, 0, 40 + 120 * 3);
+    std::string file("AutoCAD Binary DXF\r\n\x1A\0", 22);
+    file += std::string("\x00\x00SECTION\0\x02\x00THUMBNAILIMAGE\0\x5A\x00", 29);
+    put32(file, static_cast<std::uint32_t>(image.size()));
+    for (std::size_t at = 0; at < image.size(); at += 127) {
+        const std::string part = image.substr(at, 127);
+        file += std::string("\x36\x01", 2) + static_cast<char>(part.size()) + part;
+    }
+    const std::string end(
+        "\x00\x00"
+        "ENDSEC\0\x00\x00"
+        "EOF\0",
+        15);
+    std::string bytes;
+    EXPECT_EQ(findKind(file + end, bytes), 2);
+    EXPECT_EQ(bytes, image);
+    for (std::size_t size = 0; size < file.size(); ++size)
+        EXPECT_EQ(findKind(file.substr(0, size), bytes), 0) << size;
+}
+
 TEST(Preview, WhatTheCountLeavesOutIsNotTaken) {
     std::string file = dwgWith(smallDib());
     file[64 + 16 + 4] = '\x01';
@@ -177,16 +298,16 @@ TEST(Preview, IsReadFromAFile) {
     const auto write = [&](const std::string& bytes) {
         std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     };
-    std::vector<std::uint8_t> found;
+    KtdbPreview found;
     write(dwgWith(smallDib()));
-    ASSERT_EQ(ktdbReadPreviewDib(path.wstring().c_str(), found), kKtdbOk);
-    EXPECT_EQ(std::string(found.begin(), found.end()), smallDib());
+    ASSERT_EQ(ktdbReadPreview(path.wstring().c_str(), found), kKtdbOk);
+    EXPECT_EQ(std::string(found.bytes.begin(), found.bytes.end()), smallDib());
     write("");
-    EXPECT_NE(ktdbReadPreviewDib(path.wstring().c_str(), found), kKtdbOk);
+    EXPECT_NE(ktdbReadPreview(path.wstring().c_str(), found), kKtdbOk);
     write("x");
-    EXPECT_NE(ktdbReadPreviewDib(path.wstring().c_str(), found), kKtdbOk);
-    EXPECT_NE(ktdbReadPreviewDib(L"", found), kKtdbOk);
-    EXPECT_NE(ktdbFindPreviewDib(nullptr, 10, found), kKtdbOk);
+    EXPECT_NE(ktdbReadPreview(path.wstring().c_str(), found), kKtdbOk);
+    EXPECT_NE(ktdbReadPreview(L"", found), kKtdbOk);
+    EXPECT_NE(ktdbFindPreview(nullptr, 10, found), kKtdbOk);
     std::filesystem::remove(path);
 }
 
@@ -230,6 +351,77 @@ TEST(Preview, BecomesABitmapWithItsColorsAndPalette) {
     EXPECT_EQ(palette, nullptr);
 }
 
+namespace {
+
+/// The bitmap that a file with this image gives; the caller deletes it.
+HBITMAP bitmapOf(char kind, const std::string& image) {
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "ktdb_kinds_test.dwg";
+    const std::string file = dwgWithImages({{kind, image}});
+    std::ofstream(path, std::ios::binary).write(file.data(), static_cast<std::streamsize>(file.size()));
+    HBITMAP bitmap = nullptr;
+    HPALETTE palette = nullptr;
+    const bool found = ktdbGetPreviewBitmapFromDwg(path.wstring().c_str(), &bitmap, &palette);
+    EXPECT_EQ(found, bitmap != nullptr);
+    EXPECT_EQ(palette, nullptr);
+    std::filesystem::remove(path);
+    return bitmap;
+}
+
+/// Size of a bitmap, and the colours of two of its pixels.
+struct Look {
+    int width = 0, height = 0;
+    COLORREF first = CLR_INVALID, second = CLR_INVALID;
+    Look(HBITMAP bitmap, POINT at, POINT other) {
+        BITMAP size = {};
+        ::GetObjectW(bitmap, sizeof size, &size);
+        width = size.bmWidth;
+        height = size.bmHeight;
+        const HDC memory = ::CreateCompatibleDC(nullptr);
+        const HGDIOBJ former = ::SelectObject(memory, bitmap);
+        first = ::GetPixel(memory, at.x, at.y);
+        second = ::GetPixel(memory, other.x, other.y);
+        ::SelectObject(memory, former);
+        ::DeleteDC(memory);
+        ::DeleteObject(bitmap);
+    }
+};
+
+}  // namespace
+
+TEST(Preview, APngBecomesABitmapOnWhitePaper) {
+    const Look look(
+        bitmapOf('\x06', pngOf(std::string("\x10\x20\x30\xFF\x10\x20\x30\x00\x00\x00\x00\x80", 12))), {0, 0},
+        {1, 0});
+    EXPECT_EQ(look.width, 3);
+    EXPECT_EQ(look.height, 1);
+    EXPECT_EQ(look.first, RGB(0x10, 0x20, 0x30));
+    EXPECT_EQ(look.second, RGB(255, 255, 255));
+    const Look half(bitmapOf('\x06', pngOf(std::string("\x00\x00\x00\x80\xFF\x00\x00\x80", 8))), {0, 0},
+                    {1, 0});
+    EXPECT_EQ(half.first, RGB(127, 127, 127));
+    EXPECT_EQ(half.second, RGB(255, 127, 127));
+}
+
+TEST(Preview, APngThatTheDecoderRefusesGivesNone) {
+    EXPECT_EQ(bitmapOf('\x06', pngOf(std::string(8, '\x55')).substr(0, 33)), nullptr);
+}
+
+TEST(Preview, AMetafileBecomesABitmapOfItsShape) {
+    for (const bool placeable : {false, true}) {
+        const Look look(bitmapOf('\x03', wmfOf(400, 100, placeable)), {60, 32}, {190, 32});
+        EXPECT_EQ(look.width, 256);
+        EXPECT_EQ(look.height, 64);
+        EXPECT_EQ(look.first, RGB(255, 255, 255)) << "the paper";
+        EXPECT_EQ(look.second, RGB(0x40, 0x80, 0xC0)) << "what is drawn";
+        const Look tall(bitmapOf('\x03', wmfOf(10, 1000, placeable)), {0, 5}, {1, 250});
+        EXPECT_EQ(tall.width, 2);
+        EXPECT_EQ(tall.height, 256);
+        EXPECT_EQ(tall.second, RGB(0x40, 0x80, 0xC0));
+    }
+    EXPECT_EQ(bitmapOf('\x03', wmfOf(0, 100, false)), nullptr);
+    EXPECT_EQ(bitmapOf('\x03', wmfOf(100, 0, true)), nullptr);
+}
+
 TEST(Preview, ATrueColorBitmapHasNoPalette) {
     const std::filesystem::path path = std::filesystem::temp_directory_path() / "ktdb_true_color_test.dwg";
     const std::string file = dwgWith(smallDib());
@@ -250,7 +442,7 @@ TEST(Preview, AFileWithoutOneHasNone) {
     EXPECT_FALSE(find("  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n", dib));
     EXPECT_FALSE(find(dxfWith(hex(smallDib()).substr(0, 60) + "XX"), dib));
     EXPECT_FALSE(find("", dib));
-    std::vector<std::uint8_t> found;
-    EXPECT_NE(ktdbReadPreviewDib(L"/no/such/file.dwg", found), kKtdbOk);
-    EXPECT_NE(ktdbReadPreviewDib(nullptr, found), kKtdbOk);
+    KtdbPreview found;
+    EXPECT_NE(ktdbReadPreview(L"/no/such/file.dwg", found), kKtdbOk);
+    EXPECT_NE(ktdbReadPreview(nullptr, found), kKtdbOk);
 }
