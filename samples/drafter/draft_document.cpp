@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include "drawing_thumbnail.h"
+
 namespace {
 
 /// When a file was written last; 0 for none.
@@ -12,6 +14,21 @@ unsigned long long whenWritten(const wchar_t* path) {
     if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &data)) return 0;
     return static_cast<unsigned long long>(data.ftLastWriteTime.dwHighDateTime) << 32 |
            data.ftLastWriteTime.dwLowDateTime;
+}
+
+/// Keeps what stands at `path` as the file of that name with the extension .bak. The former backup stays
+/// until the new one is whole. Where there can be none, the drawing is saved all the same: its own file is
+/// not touched before the new one is whole.
+void keepBackup(const wchar_t* path) {
+    OdString drive, folder, name, extension;
+    ktutSplitPath(path, &drive, &folder, &name, &extension);
+    if (extension.iCompare(L".bak") == 0) return;
+    const OdString backup = drive + folder + name + L".bak";
+    const OdString beside = backup + L".new";
+    if (!::CopyFileW(path, beside.c_str(), FALSE)) return;
+    ::SetFileAttributesW(beside.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (!::MoveFileExW(beside.c_str(), backup.c_str(), MOVEFILE_REPLACE_EXISTING))
+        ::DeleteFileW(beside.c_str());
 }
 
 }  // namespace
@@ -39,6 +56,8 @@ bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
 }
 
 bool CDraftDocument::Save(const wchar_t* path) {
+    m_drawing->setThumbnail(DrawingThumbnail(*m_drawing));
+    keepBackup(path);
     if (m_drawing->writeDxf(path) != kOdOk) return false;
     m_history->MarkSaved();
     m_reading = {};

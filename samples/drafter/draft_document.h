@@ -28,6 +28,7 @@ public:
     const OdDxfReading& Reading() const { return m_reading; }
     /// The same for a template: the drawing is a new one then, without a file.
     bool StartFrom(const wchar_t* path, OdDbDxfError& error);
+    /// Writes the drawing, with its thumbnail, in place of the file, which is kept with the extension .bak.
     bool Save(const wchar_t* path);
     /// Whether the drawing's file was written by others since it was opened or saved.
     bool IsFileNewer() const;

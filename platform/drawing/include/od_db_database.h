@@ -136,6 +136,9 @@ public:
     OdDbObject* objectByHandle(OdDbHandle handle) const;
     /// The bytes of the preview image (a device-independent bitmap); empty if there is none.
     std::string thumbnail() const;
+    /// Puts another image in its place, or none. It goes with a file from 2000 on; the drawing itself counts
+    /// as unchanged, and there is nothing to undo.
+    void setThumbnail(std::string_view dib);
 
 private:
     friend struct OdDbStore;

@@ -1,5 +1,7 @@
 #include "od_db_database.h"
 
+#include <algorithm>
+
 #include "od_color_groups.h"
 #include "od_db_store.h"
 #include "od_dxf_reader.h"
@@ -249,3 +251,14 @@ OdDbHeader& OdDbDatabase::editHeader() {
 OdDbObject* OdDbDatabase::objectByHandle(OdDbHandle handle) const { return m_store->object(handle); }
 
 std::string OdDbDatabase::thumbnail() const { return odHexToBytes(m_store->thumbnail, 310); }
+
+void OdDbDatabase::setThumbnail(std::string_view dib) {
+    constexpr std::size_t kBytesOfLine = 127;
+    constexpr int kSize = 90, kBytes = 310;
+    OdGroupList groups;
+    if (!dib.empty()) groups.addInteger(kSize, static_cast<std::int64_t>(dib.size()));
+    for (; !dib.empty(); dib.remove_prefix(std::min(dib.size(), kBytesOfLine)))
+        groups.addText(kBytes, odBytesToHex(dib.substr(0, kBytesOfLine)));
+    m_store->thumbnail = std::move(groups);
+    m_store->hasOwnThumbnail = true;
+}

@@ -131,6 +131,7 @@ struct OdDbStore {
     std::vector<OdDbObject*> fileObjects;  // of the OBJECTS section, in order
     std::vector<OdRawRecord> classes;
     OdGroupList thumbnail;
+    bool hasOwnThumbnail = false;  // given by a program, not read
     std::vector<OdRawSection> sections;
     std::vector<OdRawSection> otherTables;  // tables that no class stands for
     OdDbChangeNotes* notes = nullptr;       // what is told of changes; null while nobody notes them

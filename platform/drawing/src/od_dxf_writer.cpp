@@ -189,7 +189,8 @@ private:
     }
 
     void preview() {
-        if (m_store.thumbnail.isEmpty()) return;
+        const bool fits = m_out.version() >= OdDb::kDHL_1015 || !m_store.hasOwnThumbnail;
+        if (m_store.thumbnail.isEmpty() || !fits) return;
         beginSection("THUMBNAILIMAGE");
         OdGroup group;
         for (std::uint32_t at = 0; m_store.thumbnail.read(at, group); at = group.end) m_out.putGroup(group);

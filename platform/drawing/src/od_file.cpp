@@ -86,3 +86,14 @@ std::string odHexToBytes(const OdGroupList& groups, int code) {
     }
     return bytes;
 }
+
+std::string odBytesToHex(std::string_view bytes) {
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string digits;
+    digits.reserve(bytes.size() * 2);
+    for (const char one : bytes) {
+        digits += kDigits[static_cast<unsigned char>(one) >> 4];
+        digits += kDigits[static_cast<unsigned char>(one) & 15];
+    }
+    return digits;
+}

@@ -15,3 +15,5 @@ bool odReplaceFile(const wchar_t* path, std::string_view bytes);
 /// The bytes that the hexadecimal texts with `code` spell, in order. Reading stops at the first illegal
 /// digit.
 std::string odHexToBytes(const OdGroupList& groups, int code);
+/// Two hexadecimal digits for each byte, in capitals.
+std::string odBytesToHex(std::string_view bytes);

@@ -304,3 +304,25 @@ TEST(DxfKeeps, AStrayNameBeforeTheMarkersDoesNotBecomeTheName) {
     EXPECT_TRUE(has(first, "2|STRAY")) << "what nobody understands is kept";
     EXPECT_EQ(again->writeDxfBytes(OdDb::kDHL_1032), first);
 }
+
+TEST(DxfKeeps, AThumbnailGivenByAProgramGoesWithFilesFrom2000On) {
+    std::string image;
+    for (int i = 0; i < 300; ++i) image += static_cast<char>(i * 7);
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    drawing->setThumbnail(image);
+    EXPECT_FALSE(drawing->isModified());
+    EXPECT_EQ(drawing->thumbnail(), image);
+    for (const OdDb::DwgVersion version : kAllVersions)
+        for (const bool binary : {false, true}) {
+            const OdDbDatabasePtr again = readDrawing(drawing->writeDxfBytes(OdDxfForm{version, binary}));
+            EXPECT_EQ(again->thumbnail(), version >= OdDb::kDHL_1015 ? image : "") << version << binary;
+        }
+    const std::string text = drawing->writeDxfBytes(OdDb::kDHL_1032);
+    EXPECT_TRUE(has(text,
+                    "2|THUMBNAILIMAGE\n90|300\n310|00070E151C232A31383F464D545B626970777E858C939AA1A8AFB6BD"
+                    "C4CBD2D9E0E7EEF5FC030A11181F262D343B424950575E656C737A81888F969DA4ABB2B9C0C7CED5DCE3EA"
+                    "F1F8FF060D141B222930373E454C535A61686F767D848B9299A0A7AEB5BCC3CAD1D8DFE6EDF4FB020910171E"
+                    "252C333A41484F565D646B72"));
+    drawing->setThumbnail("");
+    EXPECT_EQ(drawing->writeDxfBytes(OdDb::kDHL_1032).find("THUMBNAILIMAGE"), std::string::npos);
+}
