@@ -33,6 +33,9 @@ void CLayerDropSite::OnDragDrop(HDROP drop) {
         m_dropped({}, words);
         return;
     }
-    words.Format(IDS_DROP_LAYERS, name.GetString(), static_cast<int>(ListLayers(*drawing).size()));
+    if (files.size() > 1)
+        words.Format(IDS_DROP_LAYERS_FIRST, name.GetString(), static_cast<int>(files.size()));
+    else
+        words.Format(IDS_DROP_LAYERS, name.GetString(), static_cast<int>(ListLayers(*drawing).size()));
     m_dropped(drawing, words);
 }

@@ -85,14 +85,17 @@ TEST_F(FieldMessages, PuttingTheFormerTextBackIsNoMistake) {
     });
 }
 
-/// The handle of a drop of one file; the window that takes it frees it.
-HDROP dropOf(const CString& path) {
-    const SIZE_T bytes = sizeof(DROPFILES) + (static_cast<SIZE_T>(path.GetLength()) + 2) * sizeof(wchar_t);
-    const HGLOBAL block = ::GlobalAlloc(GHND, bytes);
+/// The handle of a drop of files; the window that takes it frees it.
+HDROP dropOf(const std::vector<CString>& paths) {
+    std::wstring names;
+    for (const CString& path : paths) names += std::wstring(path.GetString()) + L'\0';
+    names += L'\0';
+    const SIZE_T bytes = names.size() * sizeof(wchar_t);
+    const HGLOBAL block = ::GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
     auto* const head = static_cast<DROPFILES*>(::GlobalLock(block));
     head->pFiles = sizeof(DROPFILES);
     head->fWide = TRUE;
-    wcscpy(reinterpret_cast<wchar_t*>(head + 1), path);
+    memcpy(head + 1, names.data(), bytes);
     ::GlobalUnlock(block);
     return static_cast<HDROP>(block);
 }
@@ -115,10 +118,15 @@ TEST_F(FieldMessages, WhatADropWillDoIsNoProblemAndAFileThatIsGoneIsOne) {
     ASSERT_EQ(OdDbDatabasePtr(new OdDbDatabase)->writeDxf(path), kOdOk);
     show(dialog, [&] {
         CWnd& line = item(dialog, IDC_MESSAGE);
-        const auto drop = [&](const CString& file) {
-            item(dialog, IDC_DROP_LAYERS).SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(dropOf(file)));
+        const auto dropAll = [&](const std::vector<CString>& files) {
+            item(dialog, IDC_DROP_LAYERS).SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(dropOf(files)));
             pump();
         };
+        const auto drop = [&](const CString& file) { dropAll({file}); };
+        dropAll({path, path + L".gone", path + L".other"});
+        EXPECT_STREQ(text_of(line.m_hWnd),
+                     L"OK takes the layer settings of a drawing to drop.dxf, the first of 3 files.");
+        EXPECT_FALSE(hasRed(line));
         drop(path);
         EXPECT_STREQ(text_of(line.m_hWnd),
                      L"OK takes the layer settings of a drawing to drop.dxf (layers: 1).");
