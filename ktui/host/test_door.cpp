@@ -1,7 +1,8 @@
 #include <ktui/host/test_door.h>
 
 const KtUiTestEntries& KtUiTestDoor() {
-    static constexpr KtUiTestEntries entries = {&::ExchangeThemeApi, &::LoadedToolkit, &::SplitButtonMessage,
-                                                &::SplitButtonWndProc, &::SplitButtonTextFlags};
+    static constexpr KtUiTestEntries entries = {
+        &::ExchangeThemeApi,     &::LoadedToolkit,          &::SplitButtonMessage, &::SplitButtonWndProc,
+        &::SplitButtonTextFlags, &::ExchangeFindFileDialog, &::AddToRecentFolder};
     return entries;
 }

@@ -11,6 +11,11 @@ LRESULT SplitButtonMessage(SplitButtonRecord* record, HWND window, UINT message,
                            LPARAM lParam);
 LRESULT CALLBACK SplitButtonWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 UINT SplitButtonTextFlags(DWORD style, DWORD exStyle, bool accelHidden);
+class OdString;
+using FindFileDialogCall = bool (*)(const wchar_t* filter, int filterIndex, const wchar_t* folder,
+                                    OdString& outFolder, OdString& outFile);
+FindFileDialogCall ExchangeFindFileDialog(FindFileDialogCall dialog);
+int AddToRecentFolder(const wchar_t* path, const wchar_t* folder);
 
 /// Each entry is the library's own function of that name.
 struct KtUiTestEntries {
@@ -19,6 +24,8 @@ struct KtUiTestEntries {
     decltype(&::SplitButtonMessage) splitButtonMessage;
     decltype(&::SplitButtonWndProc) splitButtonWndProc;
     decltype(&::SplitButtonTextFlags) splitButtonTextFlags;
+    decltype(&::ExchangeFindFileDialog) exchangeFindFileDialog;
+    decltype(&::AddToRecentFolder) addToRecentFolder;
 };
 
 /// The one export that no client may call.

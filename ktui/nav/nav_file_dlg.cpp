@@ -1,41 +1,50 @@
 #include <ktui/nav/nav_file_dlg.h>
 
-#include <shlobj.h>
+#include <ktdsres/nav_file_dialog_ids.h>
+#include <ktut.h>
 
-#include <ktui/host/com_reference.h>
-#include <ktui/host/loaded_module.h>
+#include <ktui/nav/file_dialog_rules.h>
+#include <ktui/nav/list_ctrl_ex.h>
 #include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_keyboard_hook.h>
+#include <ktui/nav/open_menu.h>
+#include <ktui/nav/place_list.h>
+#include <ktui/nav/platform_file_dialog.h>
+#include <ktui/nav/thumbnail_ctrl.h>
 
 namespace {
-
-constexpr int kTypeBox = 1136;
-constexpr int kNameBox = 1148;
-constexpr UINT kGetShellBrowser = WM_USER + 7;  // answers the platform dialog's IShellBrowser, not counted
-constexpr DWORD kFirstRefreshed = 6;            // major version of the system
 
 /// Two zeros behind the only text: its match list is empty, and the list ends.
 constexpr wchar_t kFoldersOnlyFilter[] = L"Folders Only\0\0";
 
-DWORD systemMajorVersion() { return LoadedToolkit().osVersionCode >> 8 & 0xFF; }
-
-CString textOf(HWND window) {
-    CString text;
-    const int length = ::GetWindowTextLengthW(window);
-    ::GetWindowTextW(window, text.GetBuffer(length), length + 1);
-    text.ReleaseBuffer();
-    return text;
-}
-
 }  // namespace
 
 IMPLEMENT_DYNAMIC(CNavFileDlg, CFileDialog)
+
+BEGIN_MESSAGE_MAP(CNavFileDlg, CFileDialog)
+    ON_WM_CTLCOLOR()
+    ON_WM_DESTROY()
+    ON_COMMAND_RANGE(kMenuOpen, kMenuOpenMetric, &CNavFileDlg::OnOpenMenuCommand)
+    ON_COMMAND(IDC_NAV_LOCATE, &CNavFileDlg::Locate)
+    ON_COMMAND(IDC_NAV_FIND, &CNavFileDlg::FindFile)
+    ON_COMMAND(IDC_NAV_OPTIONS, &CNavFileDlg::ShowSaveOptions)
+    ON_COMMAND(IDC_NAV_SECURITY, &CNavFileDlg::ShowSecurityOptions)
+END_MESSAGE_MAP()
 
 CNavFileDlg::CNavFileDlg(CNavDialogImp* owner, int open, const wchar_t* fileName, unsigned long flags,
                          const wchar_t* filter)
     : CFileDialog(open, nullptr, fileName, flags | OFN_HIDEREADONLY | OFN_EXPLORER | OFN_ENABLESIZING, filter,
                   nullptr),
       m_owner(owner) {
-    if (open && owner->m_foldersOnly) m_ofn.lpstrFilter = kFoldersOnlyFilter;
+    m_foldersOnly = open && owner->m_foldersOnly;
+    if (m_foldersOnly) m_ofn.lpstrFilter = kFoldersOnlyFilter;
+    TemplateSettings settings;
+    settings.opens = open != 0;
+    settings.foldersOnly = m_foldersOnly;
+    settings.previewVisible = owner->m_previewVisible != 0;
+    settings.securityButton = owner->m_securityButton != 0;
+    settings.applicationMode = owner->m_applicationMode != 0;
+    if (const unsigned id = FileDialogTemplate(settings)) SetTemplate(0, id);
 }
 
 CNavFileDlg::~CNavFileDlg() = default;
@@ -45,76 +54,93 @@ unsigned CNavFileDlg::TemplateId() const {
                                                 : 0;
 }
 
-void CNavFileDlg::SelectFilterIndex(int index) {
-    const HWND window = platformWindow();
-    const HWND box = window != nullptr ? ::GetDlgItem(window, kTypeBox) : nullptr;
-    if (box == nullptr) return;
-    const auto tell = [&](WORD code) {
-        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(kTypeBox, code), reinterpret_cast<LPARAM>(box));
-    };
-    // The platform takes a type over when the list closes; where it has not, it does so at the selection's
-    // end.
-    tell(CBN_DROPDOWN);
-    ::SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    tell(CBN_CLOSEUP);
-    if (index >= 0 && m_ofn.nFilterIndex != static_cast<DWORD>(index) + 1) tell(CBN_SELENDOK);
+HWND CNavFileDlg::platformControl(int id) const {
+    const HWND window = PlatformWindow();
+    return window != nullptr ? ::GetDlgItem(window, id) : nullptr;
 }
 
-int CNavFileDlg::NavigateTo(const wchar_t* folder) {
-    const HWND window = platformWindow();
-    if (folder == nullptr || window == nullptr) return 0;
-    CString present = GetFolderPath();
-    if (present.Right(1) != L"\\") present += L"\\";
-    // Kept: an argument without a backslash at its end always navigates.
-    if (present.CompareNoCase(folder) == 0) return 1;
-    const HWND name = ::GetDlgItem(window, kNameBox);
-    if (name == nullptr) return 0;
-    const CString typed = textOf(name);
-    ::SetFocus(name);
-    ::SetWindowTextW(name, folder);
-    const HWND ok = ::GetDlgItem(window, IDOK);
-    if (ok != nullptr) {
-        ::SendMessageW(ok, WM_LBUTTONDOWN, 0, 0);
-        ::SendMessageW(ok, WM_LBUTTONUP, 0, 0);
-        if (systemMajorVersion() >= kFirstRefreshed) refreshView();
+HBRUSH CNavFileDlg::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
+    const HWND list = m_fileList == nullptr ? FindFileList(PlatformWindow()) : nullptr;
+    if (list != nullptr) {
+        auto* const extended = new CListCtrlEx(this);
+        m_fileList = extended;
+        extended->SubclassWindow(list);
+        extended->ShowFirst();
     }
-    ::SetWindowTextW(name, typed);
-    return ok != nullptr ? 1 : 0;
+    return CFileDialog::OnCtlColor(dc, control, kind);
 }
 
-void CNavFileDlg::refreshView() const {
-    auto* const browser =
-        reinterpret_cast<IShellBrowser*>(::SendMessageW(platformWindow(), kGetShellBrowser, 0, 0));
-    ComReference<IShellView> view;
-    if (browser != nullptr && SUCCEEDED(browser->QueryActiveShellView(view.place())) && view) view->Refresh();
+void CNavFileDlg::OnDestroy() {
+    SetNavHookDialog(nullptr);
+    RemoveNavKeyboardHook();
+    if (m_preview) m_preview->UnsubclassWindow();
+    m_preview.reset();
+    if (m_placesList) m_placesList->FreePlaces();
+    m_placesList.reset();
+    m_menuButton.Release();
+    CFileDialog::OnDestroy();
 }
 
-void CNavFileDlg::TypeName(const CString& name) {
-    const HWND window = platformWindow();
-    const HWND box = window != nullptr ? ::GetDlgItem(window, kNameBox) : nullptr;
-    if (box == nullptr) return;
-    ::SetWindowTextW(box, name);
-    ::SetFocus(box);
-}
-
-BOOL CNavFileDlg::OnFileNameOK() {
-    for (POSITION at = GetStartPosition(); at != nullptr;) {
-        CNavData* const data = m_owner->m_dataArray->AddData();
-        const CString path = GetNextPathName(at);
-        if (data != nullptr) data->SetText(path);
-    }
-    SelectFilterIndex(static_cast<int>(m_ofn.nFilterIndex) - 1);
-    // Kept: a refusal leaves the results in the array.
-    if (m_owner->m_owner->OnFileNameOK()) return TRUE;
-    return CFileDialog::OnFileNameOK();
+/// An entry acts as a click on OK.
+void CNavFileDlg::OnOpenMenuCommand(UINT command) {
+    m_chosenMenuCommand = command;
+    const HWND ok = platformControl(IDOK);
+    ::PostMessageW(ok, WM_LBUTTONDOWN, 0, 0);
+    ::PostMessageW(ok, WM_LBUTTONUP, 0, 0);
 }
 
 void CNavFileDlg::OnFileNameChange() {
+    showInPreview();
+    enterChangedFolder();
     m_owner->m_owner->OnFileNameChange();
+    selectTypedName();
     CFileDialog::OnFileNameChange();
 }
 
+void CNavFileDlg::showInPreview() {
+    if (!m_preview) return;
+    m_preview->m_path = FirstPath(GetPathName());
+    m_preview->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+}
+
+void CNavFileDlg::enterChangedFolder() {
+    if (!m_foldersOnly || !m_folderChangePending) return;
+    const CString folder = GetFolderPath();
+    if (ktutPathExists(folder)) {
+        unmarkFocusedItem();
+        m_navigating = true;
+        NavigateTo(folder);
+        m_navigating = false;
+    }
+    m_folderChangePending = false;
+}
+
+void CNavFileDlg::unmarkFocusedItem() const {
+    ComReference<IFolderView> view;
+    FindFolderView(PlatformWindow(), view);
+    int focused = -1;
+    if (view && SUCCEEDED(view->GetFocusedItem(&focused)) && focused >= 0)
+        view->SelectItem(focused, SVSI_NOTAKEFOCUS);
+}
+
+void CNavFileDlg::selectTypedName() const {
+    const HWND focus = ::GetFocus();
+    if (focus == nullptr || !::IsChild(platformControl(kPlatformNameBox), focus)) return;
+    ::SendMessageW(focus, EM_SETSEL, 0, -1);
+    ::SendMessageW(focus, EM_SCROLLCARET, 0, 0);
+}
+
+void CNavFileDlg::OnFolderChange() {
+    if (m_placesList) m_placesList->SyncSelection();
+    if (m_foldersOnly) {
+        if (m_firstFolderSeen) m_folderChangePending = true;
+        m_firstFolderSeen = true;
+    }
+    CFileDialog::OnFolderChange();
+}
+
 void CNavFileDlg::OnTypeChange() {
+    SelectFilterIndex(static_cast<int>(m_ofn.nFilterIndex) - 1);
     m_owner->ReactToTypeChange();
     CFileDialog::OnTypeChange();
 }

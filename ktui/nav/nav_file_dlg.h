@@ -1,6 +1,6 @@
 // CNavFileDlg: the platform's old-style Explorer dialog, bent to the application's purpose: buttons of its
-// own and a preview, a list of places over the platform's bar, an OK button with a menu, a memory of the view,
-// choosing a folder, hot keys, and a shortcut for each file chosen. Private to the library.
+// own and a preview, a list of places over the platform's bar, an OK button with a menu, a memory of the
+// view, choosing a folder, hot keys, and a shortcut for each file chosen. Private to the library.
 //
 // The platform's window isn't replaced. It is the parent of this object's window, is driven by messages, and
 // is subclassed while it is shown. One dialog at a time has the hot keys.
@@ -90,7 +90,6 @@ private:
     void applyMenuCommand() const;
     void addResults();
     void keepAsRecent(const CString& path) const;
-    void saveViewState() const;
     void savePlaces(int ask);
     void showInPreview();
     void enterChangedFolder();

@@ -1,6 +1,6 @@
 #include <ktui/nav/nav_keyboard_hook.h>
 
-#include <ktdsres/resource_ids.h>
+#include <ktdsres/nav_file_dialog_ids.h>
 
 #include <ktui/host/host_calls.h>
 #include <ktui/nav/nav_file_dlg.h>
