@@ -15,6 +15,7 @@
 #include <ktui/nav/nav_filter.h>
 
 class CNavDialogImp;
+class CNavFileDlg;
 
 /// What the open menu said about a drawing that starts without a template.
 enum KtUiOpenNoTemplateFlag : int {
@@ -192,5 +193,7 @@ public:
     void DoDataExchange(CDataExchange* exchange) override;
 
 private:
+    friend class CNavFileDlg;  // asks for the root key
+
     CNavDialogImp* m_imp;  ///< the dialog's own
 };

@@ -52,7 +52,7 @@ void tellNotFound(const CString& name, const std::vector<SupportFolder>& folders
 
 /// The format that drawings are saved in unless the user says otherwise.
 int defaultSaveFormat() {
-    int format = KtApDocument::k2013_dwg;
+    int format = KtApDocument::k2013Dwg;
     CKhSystem::instance()->profileStore()->getProfileInt(L"General", L"DefaultFormatForSave", format, 0);
     return format;
 }

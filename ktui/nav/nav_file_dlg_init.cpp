@@ -37,7 +37,7 @@ void CNavFileDlg::dressPlatformWindow() const {
     const auto icon = reinterpret_cast<LPARAM>(::LoadIconW(KtUiOwnModule(), MAKEINTRESOURCEW(IDI_DIALOG)));
     ::SendMessageW(window, WM_SETICON, ICON_BIG, icon);
     ::SendMessageW(window, WM_SETICON, ICON_SMALL, icon);
-    CWnd::ModifyStyleEx(window, WS_EX_CONTEXTHELP | WS_EX_DLGMODALFRAME, 0, SWP_FRAMECHANGED);
+    CWnd::FromHandle(window)->ModifyStyleEx(WS_EX_CONTEXTHELP | WS_EX_DLGMODALFRAME, 0, SWP_FRAMECHANGED);
 }
 
 void CNavFileDlg::hideUnwantedButtons() const {
