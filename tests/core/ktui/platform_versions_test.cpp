@@ -13,3 +13,9 @@ TEST(PlatformVersions, ControlsAreMajorThenMinor) {
     EXPECT_EQ(MakeControlsVersion(5, 0x51), 0x00050051u);
     EXPECT_EQ(kUntoldControlsVersion, MakeControlsVersion(4, 0));
 }
+
+TEST(PlatformVersions, AVersionHasItsMajor) {
+    EXPECT_EQ(OsMajorVersion(0x020501), 5u);
+    EXPECT_EQ(OsMajorVersion(0x020A07), 10u);
+    EXPECT_EQ(OsMajorVersion(MakeOsVersionCode(1, 6, 3)), 6u);
+}

@@ -7,6 +7,7 @@ namespace {
 
 constexpr DWORD kAlways =
     OFN_HIDEREADONLY | OFN_EXPLORER | OFN_ENABLESIZING | OFN_ENABLEHOOK | OFN_NOCHANGEDIR;
+constexpr DWORD kOpens = kAlways | OFN_ENABLETEMPLATE;
 
 class NavStart : public NavTest {
 protected:
@@ -23,7 +24,7 @@ TEST_F(NavStart, OpensWithTheFewestFlags) {
     EXPECT_EQ(plain.DoModal(), IDCANCEL);
     EXPECT_EQ(shown, 1);
     EXPECT_FALSE(given.save);
-    EXPECT_EQ(given.flags, kAlways);
+    EXPECT_EQ(given.flags, kOpens);
     EXPECT_EQ(given.title, std::nullopt);
     EXPECT_EQ(given.file, L"");
     EXPECT_EQ(given.maxFile, 260u);
@@ -35,11 +36,11 @@ TEST_F(NavStart, OpensWithTheFewestFlags) {
 TEST_F(NavStart, EachSettingHasItsFlag) {
     plain.SetAcceptAnyFileExtension(1);
     plain.DoModal();
-    EXPECT_EQ(given.flags, kAlways | OFN_EXTENSIONDIFFERENT);
+    EXPECT_EQ(given.flags, kOpens | OFN_EXTENSIONDIFFERENT);
     plain.SetAcceptAnyFileExtension(0);
     plain.SetConfirmReplace(1);
     plain.DoModal();
-    EXPECT_EQ(given.flags, kAlways | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST);
+    EXPECT_EQ(given.flags, kOpens | OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST);
     plain.SetCreatingFile(1);
     plain.DoModal();
     EXPECT_TRUE(given.save);
@@ -50,7 +51,7 @@ TEST_F(NavStart, EachSettingHasItsFlag) {
     EXPECT_EQ(given.flags, kAlways | OFN_ALLOWMULTISELECT);
     dialog.ConvertFlagsToState(0x4000000);
     dialog.DoModal();
-    EXPECT_EQ(given.flags, kAlways | OFN_DONTADDTORECENT);
+    EXPECT_EQ(given.flags, kOpens | OFN_DONTADDTORECENT);
 }
 
 TEST_F(NavStart, WithoutFiltersThereIsNoFilterText) {

@@ -1,0 +1,174 @@
+// A navigation dialog that chooses a folder.
+#include <shlobj.h>
+
+#include "shown_fixture.h"
+
+namespace {
+
+int WINAPI noString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
+
+class FileDialogFolders : public ShownTest {
+protected:
+    FileDialogFolders() { dialog.SetFoldersOnly(1); }
+    void look(std::function<void(HWND)> at) {
+        run([&](HWND window) {
+            at(window);
+            press(window, IDCANCEL);
+        });
+    }
+    /// The platform tells the dialog something.
+    void notify(HWND window, UINT code) {
+        OFNOTIFYW notice = {};
+        notice.hdr = {window, 0, code};
+        notice.lpOFN = &dialog.GetImpObject()->m_fileDialog->GetOFN();
+        ::SendMessageW(own(window), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+    }
+    static constexpr UINT kFolderChange = static_cast<UINT>(CDN_FOLDERCHANGE);
+    static constexpr UINT kNameChange = static_cast<UINT>(CDN_SELCHANGE);
+};
+
+TEST_F(FileDialogFolders, HidesWhatIsForFiles) {
+    std::vector<int> order;
+    std::vector<int> texts;
+    ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+        if (message.message == CDM_HIDECONTROL) order.push_back(static_cast<int>(message.wParam));
+        if (message.message == CDM_SETCONTROLTEXT) {
+            texts.push_back(static_cast<int>(message.wParam));
+            EXPECT_EQ(order.size(), 6u);
+        }
+    });
+    look([&](HWND window) {
+        for (const int id : {1089, 1090, 1136, 1148, 1040})
+            EXPECT_FALSE(isShown(::GetDlgItem(window, id))) << id;
+        wchar_t text[100] = {};
+        EXPECT_GT(::LoadStringW(::GetModuleHandleW(L"ktdsres.dll"), 54051, text, 100), 0);
+        EXPECT_EQ(text_of(::GetDlgItem(window, 1090)), text);
+        EXPECT_EQ(::GetDlgItem(own(window), 57015), nullptr);
+    });
+    EXPECT_EQ(order, (std::vector<int>{1089, 1090, 1136, 1148, 1152, 1040}));
+    EXPECT_EQ(texts, std::vector<int>{1090});
+}
+
+TEST_F(FileDialogFolders, TheirLabelHasADefault) {
+    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    look([&](HWND window) { EXPECT_EQ(text_of(::GetDlgItem(window, 1090)), L"文件夹"); });
+}
+
+TEST_F(FileDialogFolders, ASaveDialogShowsItsFiles) {
+    dialog.SetCreatingFile(1);
+    look([&](HWND window) { EXPECT_TRUE(isShown(::GetDlgItem(window, 1148))); });
+}
+
+TEST_F(FileDialogFolders, OkChoosesTheFolderShown) {
+    const INT_PTR result = run([&](HWND window) { press(window, IDOK); });
+    EXPECT_EQ(result, IDOK);
+    ASSERT_EQ(data.GetCount(), 1);
+    EXPECT_EQ(CString(data.GetData(0)->GetText()) + L"\\", folder);
+    EXPECT_EQ(dialog.count("ok"), 0);
+    CString stored;
+    EXPECT_EQ(dialog.GetDialogData(L"InitialDirectory", stored), 1);
+    EXPECT_EQ(stored + L"\\", folder) << "the whole path";
+    EXPECT_EQ(CString(dialog.GetImpObject()->m_fileDialog->GetOFN().lpstrFile) + L"\\", folder);
+}
+
+TEST_F(FileDialogFolders, OkChoosesTheFolderNamed) {
+    run([&](HWND window) {
+        ::SetDlgItemTextW(window, kNameBox, L"templates");
+        press(window, IDOK);
+    });
+    ASSERT_EQ(data.GetCount(), 1);
+    EXPECT_EQ(CString(data.GetData(0)->GetText()), folder + L"templates");
+}
+
+TEST_F(FileDialogFolders, AFolderThatIsNotThereIsToldAndTheDialogStays) {
+    look([&](HWND window) {
+        answerMessage();
+        ::SetDlgItemTextW(window, kNameBox, L"missing");
+        EXPECT_EQ(::SendMessageW(window, WM_COMMAND, IDOK, 0), 0);
+        EXPECT_TRUE(::IsWindowVisible(window));
+    });
+    wchar_t text[100] = {};
+    ::LoadStringW(::GetModuleHandleW(L"ktdsres.dll"), 54059, text, 100);
+    EXPECT_EQ(messages, std::vector<std::wstring>{text});
+    EXPECT_EQ(data.GetCount(), 0);
+}
+
+TEST_F(FileDialogFolders, TheWordsForItHaveADefault) {
+    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    look([&](HWND window) {
+        answerMessage();
+        ::SetDlgItemTextW(window, kNameBox, L"missing");
+        ::SendMessageW(window, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(messages, std::vector<std::wstring>{L"Cannot use the location specified."});
+}
+
+TEST_F(FileDialogFolders, OnlyThePressOfOkCounts) {
+    look([&](HWND window) {
+        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDOK, BN_SETFOCUS), 0);
+        EXPECT_TRUE(::IsWindowVisible(window));
+        EXPECT_EQ(data.GetCount(), 0);
+    });
+}
+
+/// Counts presses of OK as long as it lives.
+struct Presses {
+    explicit Presses(HWND window)
+        : watch([this, window](const CWPSTRUCT& message) {
+              count += message.message == WM_LBUTTONUP && message.hwnd == ::GetDlgItem(window, IDOK);
+          }) {}
+    int count = 0;
+    ui_test::SentMessages watch;
+};
+
+TEST_F(FileDialogFolders, AChangedFolderIsEnteredAtTheNextName) {
+    look([&](HWND window) {
+        const Presses presses(window);
+        notify(window, kNameChange);
+        EXPECT_EQ(presses.count, 0) << "the first folder is the one that it begins with";
+        ::SetDlgItemTextW(window, kNameBox, L"typed");
+        notify(window, kFolderChange);
+        EXPECT_EQ(presses.count, 0);
+        dialog.calls.clear();
+        notify(window, kNameChange);
+        EXPECT_EQ(presses.count, 1);
+        EXPECT_EQ(dialog.calls, std::vector<std::string>{"name"});
+        EXPECT_EQ(typed(window), L"typed");
+        EXPECT_EQ(data.GetCount(), 0) << "that press doesn't choose it";
+        EXPECT_TRUE(::IsWindowVisible(window));
+        notify(window, kNameChange);
+        EXPECT_EQ(presses.count, 1) << "once";
+        notify(window, kFolderChange);
+        notify(window, kNameChange);
+        EXPECT_EQ(presses.count, 2);
+    });
+}
+
+TEST_F(FileDialogFolders, TheItemWithTheFocusIsUnmarkedForIt) {
+    ::CreateDirectoryW(folder + L"templates\\inner", nullptr);
+    look([&](HWND window) {
+        const HWND list = fileList(window);
+        ASSERT_GT(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 0);
+        LVITEMW item = {};
+        item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        ::SendMessageW(list, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(::SendMessageW(list, LVM_GETSELECTEDCOUNT, 0, 0), 1);
+        notify(window, kFolderChange);
+        notify(window, kNameChange);
+        EXPECT_EQ(::SendMessageW(fileList(window), LVM_GETSELECTEDCOUNT, 0, 0), 0);
+    });
+    ::RemoveDirectoryW(folder + L"templates\\inner");
+}
+
+TEST_F(FileDialogFolders, InADialogForFilesNoFolderIsEntered) {
+    dialog.SetFoldersOnly(0);
+    look([&](HWND window) {
+        const Presses presses(window);
+        notify(window, kFolderChange);
+        notify(window, kFolderChange);
+        notify(window, kNameChange);
+        EXPECT_EQ(presses.count, 0);
+    });
+}
+
+}  // namespace
