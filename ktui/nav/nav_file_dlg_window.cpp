@@ -37,7 +37,10 @@ LRESULT CNavFileDlg::onPlatformMessage(HWND window, UINT message, WPARAM wParam,
             if (isPressOf(IDCANCEL, wParam)) leaveByCancel();
             break;
         case WM_WINDOWPOSCHANGED:
-        case WM_EXITSIZEMOVE: RelayoutPlaces(); break;
+        case WM_EXITSIZEMOVE:
+            // Kept: before the platform moves its bar, so that the list follows at the end of a sizing.
+            RelayoutPlaces();
+            break;
         case WM_DESTROY:
             ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_originalWindowProc));
             break;

@@ -99,9 +99,14 @@ CEdit* CListCtrl::GetEditControl() const {
     return static_cast<CEdit*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(LVM_GETEDITCONTROL))));
 }
 
+// The list is the caller's, who deletes it.
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint) {
-    const LRESULT list = SendMessage(LVM_CREATEDRAGIMAGE, as_index(nItem), as_param(lpPoint));
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(list));
+    const auto images =
+        reinterpret_cast<HIMAGELIST>(SendMessage(LVM_CREATEDRAGIMAGE, as_index(nItem), as_param(lpPoint)));
+    if (images == nullptr) return nullptr;
+    auto* const list = new CImageList;
+    list->Attach(images);
+    return list;
 }
 
 CToolTipCtrl* CListCtrl::GetToolTips() const {

@@ -205,7 +205,7 @@ using Selections = std::vector<int>;
 
 TEST_F(SaveOptions, ANewFormatSelectsItsPlaceInTheList) {
     host.saveFormats = {{1001, L"first"}, {1060, L"second"}, {1012, L"third"}};
-    EXPECT_EQ(selectedBy(60, 1060, IDOK), Selections{1});
+    EXPECT_EQ(selectedBy(60, 1060, IDOK), (Selections{1, 1})) << "and once more for the change";
     EXPECT_EQ(textOfType, L"Template(*.dwt)");
     EXPECT_EQ(selectedBy(60, 1001, IDOK), Selections{0});
 }

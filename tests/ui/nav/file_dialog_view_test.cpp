@@ -187,13 +187,16 @@ TEST_F(FileDialogViewBefore6, OtherModesHaveNoOrder) {
 
 /// The row of a file in a list, or -1.
 int rowOf(HWND list, const wchar_t* name) {
-    CListCtrl rows;
-    rows.Attach(list);
-    int found = -1;
-    for (int row = 0; row < rows.GetItemCount(); ++row)
-        if (rows.GetItemText(row, 0) == name) found = row;
-    rows.Detach();
-    return found;
+    const int rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+    for (int row = 0; row < rows; ++row) {
+        wchar_t text[MAX_PATH] = {};
+        LVITEMW item = {};
+        item.pszText = text;
+        item.cchTextMax = MAX_PATH;
+        ::SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+        if (CString(text) == name) return row;
+    }
+    return -1;
 }
 
 UINT stateOf(HWND list, int row) {

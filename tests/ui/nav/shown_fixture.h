@@ -43,9 +43,11 @@ public:
     void OnFolderChange() override { calls.push_back("folder"); }
     int GetRecentDirectory(CString& path) override {
         calls.push_back("recent");
+        if (onRecent) onRecent();
         path = recent;
         return !recent.IsEmpty();
     }
+    std::function<void()> onRecent;
     CString recent;  ///< the folder of recent files; empty is none
     int count(const char* call) const {
         return static_cast<int>(std::count(calls.begin(), calls.end(), call));
