@@ -1,7 +1,8 @@
 #include <ktui/host/test_door.h>
 
 const KtUiTestEntries& KtUiTestDoor() {
-    static constexpr KtUiTestEntries entries = {&::ExchangeThemeApi, &::LoadedToolkit, &::SplitButtonMessage,
+    static constexpr KtUiTestEntries entries = {&::ExchangeThemeApi,   &::LoadedToolkit,
+                                                &::StringLibrary,      &::SplitButtonMessage,
                                                 &::SplitButtonWndProc, &::SplitButtonTextFlags};
     return entries;
 }

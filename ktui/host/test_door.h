@@ -16,6 +16,7 @@ UINT SplitButtonTextFlags(DWORD style, DWORD exStyle, bool accelHidden);
 struct KtUiTestEntries {
     decltype(&::ExchangeThemeApi) exchangeThemeApi;
     decltype(&::LoadedToolkit) loadedToolkit;
+    decltype(&::StringLibrary) stringLibrary;
     decltype(&::SplitButtonMessage) splitButtonMessage;
     decltype(&::SplitButtonWndProc) splitButtonWndProc;
     decltype(&::SplitButtonTextFlags) splitButtonTextFlags;

@@ -15,6 +15,8 @@ public:
                 const wchar_t* filter);
     ~CNavFileDlg() override;
 
+    /// The state of the dialog that it is run for; never null.
+    CNavDialogImp* owner() const { return m_owner; }
     /// Number of the template of own controls; 0 for none.
     unsigned TemplateId() const;
 
