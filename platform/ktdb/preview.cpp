@@ -45,7 +45,7 @@ public:
 
 private:
     bool get(std::uint64_t at, std::string& bytes) override {
-        if (!bytes.empty()) std::memcpy(bytes.data(), m_bytes + at, bytes.size());
+        std::memcpy(bytes.data(), m_bytes + at, bytes.size());
         return true;
     }
     const std::uint8_t* m_bytes;
@@ -78,14 +78,12 @@ int take(int kind, const std::string& bytes, KtdbPreview& preview) {
 int findInDwg(Source& file, KtdbPreview& preview) {
     constexpr std::size_t kSeekerPlace = 13;
     constexpr std::size_t kEntrySize = 9;
-    constexpr std::uint32_t kLargestImage = 1u << 29;
     constexpr std::uint8_t kMark[16] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
                                         0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
     std::string bytes;
     if (!file.read(kSeekerPlace, 4, bytes)) return kKtdbInvalid;
     const std::uint32_t section = ktdbNumber32(raw(bytes));
-    if (section == 0 || !file.read(section, sizeof kMark + 5, bytes) ||
-        std::memcmp(bytes.data(), kMark, sizeof kMark) != 0)
+    if (!file.read(section, sizeof kMark + 5, bytes) || std::memcmp(bytes.data(), kMark, sizeof kMark) != 0)
         return kKtdbInvalid;
     const std::size_t count = raw(bytes)[sizeof kMark + 4];
     const std::uint64_t entries = std::uint64_t{section} + sizeof kMark + 5;
@@ -96,8 +94,7 @@ int findInDwg(Source& file, KtdbPreview& preview) {
         for (std::size_t i = 0; i < count; ++i) {
             const std::uint8_t* entry = raw(table) + i * kEntrySize;
             const std::uint32_t length = ktdbNumber32(entry + 5);
-            if (entry[0] == kind && length <= kLargestImage &&
-                file.read(ktdbNumber32(entry + 1), length, bytes))
+            if (entry[0] == kind && file.read(ktdbNumber32(entry + 1), length, bytes))
                 return take(kind, bytes, preview);
         }
     return kKtdbInvalid;
@@ -179,7 +176,7 @@ int find(Source& file, KtdbPreview& preview) {
     std::string beginning;
     const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(file.size(), kBinary.size()));
     if (!file.read(0, count, beginning)) return kKtdbInvalid;
-    if (beginning.size() > 6 && beginning.compare(0, 4, "AC10") == 0) return findInDwg(file, preview);
+    if (beginning.compare(0, 4, "AC10") == 0) return findInDwg(file, preview);
     return findInDxf(file, beginning == kBinary, preview);
 }
 
@@ -209,7 +206,7 @@ int ktdbReadPreview(const wchar_t* path, KtdbPreview& preview) {
     const auto file = openFile(path);
     if (!file || std::fseek(file.get(), 0, SEEK_END) != 0) return kKtdbInvalid;
     const long size = std::ftell(file.get());
-    if (size <= 0 || size > kLargestFile) return kKtdbInvalid;
+    if (size < 0 || size > kLargestFile) return kKtdbInvalid;
     FileSource source(file.get(), static_cast<std::uint64_t>(size));
     return find(source, preview);
 }

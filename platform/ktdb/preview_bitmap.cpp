@@ -90,14 +90,13 @@ HBITMAP emptyBitmap(int width, int height, void*& pixels) {
 }
 
 /// The first picture of a PNG file as the system's decoder gives it; clear parts show the paper, white.
-Reference<IWICBitmapSource> pictureOf(IWICImagingFactory& factory, IStream& stream) {
+Reference<IWICBitmapSource> pictureOf(IWICImagingFactory& factory, IStream* stream) {
     const auto decoder = made<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
-        return factory.CreateDecoderFromStream(&stream, nullptr, WICDecodeMetadataCacheOnDemand, out);
+        return factory.CreateDecoderFromStream(stream, nullptr, WICDecodeMetadataCacheOnDemand, out);
     });
     if (!decoder) return nullptr;
     const auto frame =
         made<IWICBitmapFrameDecode>([&](IWICBitmapFrameDecode** out) { return decoder->GetFrame(0, out); });
-    if (!frame) return nullptr;
     return made<IWICBitmapSource>([&](IWICBitmapSource** out) {
         return WICConvertBitmapSource(GUID_WICPixelFormat32bppBGRA, frame.get(), out);
     });
@@ -108,7 +107,6 @@ void putOnPaper(std::uint8_t* pixels, std::size_t count) {
         const int alpha = pixel[3];
         for (int i = 0; i < 3; ++i)
             pixel[i] = static_cast<std::uint8_t>((pixel[i] * alpha + 255 * (255 - alpha) + 127) / 255);
-        pixel[3] = 255;
     }
 }
 
@@ -119,12 +117,10 @@ HBITMAP bitmapOfPng(const std::vector<std::uint8_t>& png) {
         return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                                 IID_IWICImagingFactory, reinterpret_cast<void**>(out));
     });
-    if (!stream || !factory) return nullptr;
-    const Reference<IWICBitmapSource> picture = pictureOf(*factory, *stream);
+    if (!factory) return nullptr;
+    const Reference<IWICBitmapSource> picture = pictureOf(*factory, stream.get());
     UINT width = 0, height = 0;
     if (!picture || FAILED(picture->GetSize(&width, &height))) return nullptr;
-    if (!width || !height || width > kKtdbGreatestPreviewSide || height > kKtdbGreatestPreviewSide)
-        return nullptr;
     void* pixels = nullptr;
     const HBITMAP bitmap = emptyBitmap(static_cast<int>(width), static_cast<int>(height), pixels);
     if (!bitmap) return nullptr;

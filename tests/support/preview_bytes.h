@@ -92,8 +92,10 @@ inline std::string pngOf(const std::string& pixels) {
     return png;
 }
 
-/// A metafile in a window from the origin to (across, down) that fills its right half with one colour.
-inline std::string wmfOf(std::uint16_t across, std::uint16_t down, bool placeable) {
+/// A metafile in a window of this size whose corner is at (`left`, `top`); it fills the right half with one
+/// colour.
+inline std::string wmfOf(std::uint16_t across, std::uint16_t down, bool placeable, std::uint16_t left = 0,
+                         std::uint16_t top = 0) {
     const auto put16 = [](std::string& out, std::uint32_t value) {
         for (const int shift : {0, 8}) out += static_cast<char>(value >> shift);
     };
@@ -104,18 +106,21 @@ inline std::string wmfOf(std::uint16_t across, std::uint16_t down, bool placeabl
         for (const std::uint32_t word : words) put16(records, word);
     };
     if (!placeable) {
-        record(0x020B, {0, 0});
+        record(0x0102, {1});  // a record that says nothing of the window
+        record(0x020B, {top, left});
         record(0x020C, {down, across});
     }
     record(0x02FC, {0, 0x8040, 0x00C0, 0});  // a solid brush of red 0x40, green 0x80, blue 0xC0
     record(0x012D, {0});
-    record(0x061D, {0x0021, 0x00F0, down, std::uint32_t{across} / 2, 0, std::uint32_t{across} / 2});
+    record(0x061D, {0x0021, 0x00F0, down, across / 2u, top, left + across / 2u});
+    record(0x020C, {7, 7});  // the first one counts
     record(0, {});
     std::string file;
     if (placeable) {
         put32(file, 0x9AC6CDD7);
         for (const std::uint32_t word :
-             {0u, 0u, 0u, std::uint32_t{across}, std::uint32_t{down}, 1440u, 0u, 0u})
+             {0u, std::uint32_t{left}, std::uint32_t{top}, std::uint32_t{left} + across,
+              std::uint32_t{top} + down, 1440u, 0u, 0u})
             put16(file, word);
         std::uint32_t check = 0;
         for (std::size_t i = 0; i < file.size(); i += 2)

@@ -228,12 +228,21 @@ TEST(Preview, IsFoundNearTheEndOfALargeDxf) {
     std::string bytes;
     EXPECT_EQ(findKind(large + dxfWith(hex(smallDib())), bytes), 2);
     EXPECT_EQ(bytes, smallDib());
-    EXPECT_EQ(findKind(dxfWith(hex(smallDib())).substr(0, 0) + large, bytes), 0);
+    EXPECT_EQ(findKind(large, bytes), 0);
     // It may stand at the beginning as well.
     std::string first = dxfWith(hex(smallDib()));
     first.resize(first.rfind("  0\r\nEOF"));
     EXPECT_EQ(findKind(first + large + "  0\r\nEOF\r\n", bytes), 2);
     EXPECT_EQ(bytes, smallDib());
+}
+
+TEST(Preview, BytesOfOtherSectionsAreNoImage) {
+    std::string bytes;
+    const std::string image = "310\n" + hex(smallDib()) + "\n";
+    EXPECT_EQ(findKind("  0\nSECTION\n  2\nENTITIES\n" + image + "  0\nENDSEC\n  0\nEOF\n", bytes), 0);
+    EXPECT_EQ(findKind("  0\nTEXT\n  1\nTHUMBNAILIMAGE\n" + image + "  0\nEOF\n", bytes), 0);
+    EXPECT_EQ(findKind("  0\nSECTION\n  2\nTHUMBNAILIMAGE\n  0\nENDSEC\n" + image + "  0\nEOF\n", bytes), 0);
+    EXPECT_EQ(findKind("  2\nTHUMBNAILIMAGE\n311\n" + hex(smallDib()) + "\n  0\nEOF\n", bytes), 0);
 }
 
 TEST(Preview, IsFoundInABinaryDxf) {
@@ -255,6 +264,10 @@ TEST(Preview, IsFoundInABinaryDxf) {
     EXPECT_EQ(bytes, image);
     for (std::size_t size = 0; size < file.size(); ++size)
         EXPECT_EQ(findKind(file.substr(0, size), bytes), 0) << size;
+    const std::string large = file.substr(0, 22) + std::string(3u << 20, 'x');
+    EXPECT_EQ(findKind(large + file.substr(22) + end, bytes), 2) << "near the end";
+    EXPECT_EQ(findKind(file + end + std::string(3u << 20, 'x'), bytes), 2) << "at the beginning";
+    EXPECT_EQ(findKind(large, bytes), 0);
 }
 
 TEST(Preview, WhatTheCountLeavesOutIsNotTaken) {
@@ -417,6 +430,19 @@ TEST(Preview, AMetafileBecomesABitmapOfItsShape) {
         EXPECT_EQ(tall.width, 2);
         EXPECT_EQ(tall.height, 256);
         EXPECT_EQ(tall.second, RGB(0x40, 0x80, 0xC0));
+    }
+    for (const bool placeable : {false, true}) {
+        // Corners anywhere, and y that grows upwards.
+        const Look moved(bitmapOf('\x03', wmfOf(400, 100, placeable, 5000, 300)), {60, 32}, {190, 32});
+        EXPECT_EQ(moved.width, 256);
+        EXPECT_EQ(moved.height, 64);
+        EXPECT_EQ(moved.first, RGB(255, 255, 255));
+        EXPECT_EQ(moved.second, RGB(0x40, 0x80, 0xC0));
+        const Look below(bitmapOf('\x03', wmfOf(400, 100, placeable, static_cast<std::uint16_t>(-300),
+                                                static_cast<std::uint16_t>(-40))),
+                         {60, 2}, {190, 61});
+        EXPECT_EQ(below.first, RGB(255, 255, 255));
+        EXPECT_EQ(below.second, RGB(0x40, 0x80, 0xC0));
     }
     EXPECT_EQ(bitmapOf('\x03', wmfOf(0, 100, false)), nullptr);
     EXPECT_EQ(bitmapOf('\x03', wmfOf(100, 0, true)), nullptr);

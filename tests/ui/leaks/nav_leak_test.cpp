@@ -4,9 +4,14 @@
 #include <ktui/nav/history_combo.h>
 #include <ktui/nav/ktui_nav_dialog.h>
 
+#include <ktdb.h>
 #include <ktut.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "leak_growth.h"
+#include "preview_bytes.h"
 #include "replaced_import.h"
 #include "test_host.h"
 
@@ -62,6 +67,30 @@ TEST_F(NavLeaks, AThousandDialogsLeaveNothing) {
 TEST_F(NavLeaks, AThousandFailuresLeaveNothing) {
     leaks::expect_no_growth([&] { run(nullptr); });
     EXPECT_EQ(host.pushes, host.pops);
+}
+
+/// Has the preview of a file with this image read a thousand times.
+void expect_no_growth_of_previews(char kind, const std::string& image, bool shows) {
+    const auto path = std::filesystem::temp_directory_path() / "ktui_preview_leak_test.dwg";
+    const std::string file = preview_bytes::dwgWithImages({{kind, image}});
+    std::ofstream(path, std::ios::binary).write(file.data(), static_cast<std::streamsize>(file.size()));
+    const std::wstring name = path.wstring();
+    leaks::expect_no_growth([&] {
+        HBITMAP bitmap = nullptr;
+        HPALETTE palette = nullptr;
+        ASSERT_EQ(ktdbGetPreviewBitmapFromDwg(name.c_str(), &bitmap, &palette), shows);
+        ::DeleteObject(bitmap);
+        ::DeleteObject(palette);
+    });
+    std::filesystem::remove(path);
+}
+
+TEST_F(NavLeaks, AThousandPreviewsLeaveNothing) {
+    const std::string png = preview_bytes::pngOf(std::string(400, '\x7F'));
+    expect_no_growth_of_previews('\x02', preview_bytes::greyDib(20, 20), true);
+    expect_no_growth_of_previews('\x03', preview_bytes::wmfOf(40, 20, false), true);
+    expect_no_growth_of_previews('\x06', png, true);
+    expect_no_growth_of_previews('\x06', png.substr(0, 40), false);
 }
 
 /// A window of a system class, as a dialog template makes it.

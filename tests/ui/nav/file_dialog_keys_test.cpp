@@ -1,6 +1,7 @@
 // The hot keys: which keys act, when, and that a nested dialog has its keys to itself.
 #include <kh_security.h>
 
+#include "open_drawing.h"
 #include "shown_fixture.h"
 
 namespace {
@@ -51,6 +52,7 @@ public:
 
 class FileDialogKeys : public ShownTest {
 protected:
+    OpenDrawing open{host};  // the options ask it
     FileDialogKeys() {
         hookProcedure = nullptr;
         hooks = 0;
