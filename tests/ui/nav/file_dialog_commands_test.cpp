@@ -223,6 +223,8 @@ TEST_F(FileDialogOptions, TheSameFormatSelectsNothing) {
     EXPECT_EQ(selectedBy(std::nullopt, 777, IDOK), Selections{-1});
 }
 
-TEST_F(FileDialogOptions, CancelledTheySelectNothing) { EXPECT_EQ(selectedBy(60, 777, IDCANCEL), Selections{}); }
+TEST_F(FileDialogOptions, CancelledTheySelectNothing) {
+    EXPECT_EQ(selectedBy(60, 777, IDCANCEL), Selections{});
+}
 
 }  // namespace
