@@ -307,6 +307,9 @@ TEST_F(FileDialogInit, TheEndOfASizingLaysThePlacesOut) {
         ::ValidateRect(places, nullptr);
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
         EXPECT_EQ(placeOf(places), placeOf(bar));
+        ::ValidateRect(places, nullptr);
+        ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+        EXPECT_TRUE(::GetUpdateRect(places, nullptr, FALSE)) << "it is painted anew";
     });
 }
 
