@@ -264,15 +264,28 @@ TEST_F(FileDialogInit, WithoutItsObjectTheProcedureAnswersOne) {
     });
 }
 
-TEST_F(FileDialogInit, HelpIsSwallowed) {
+/// Messages that the library hands to the platform's procedure, and to those of buttons.
+std::vector<UINT> handedOn;
+
+LRESULT WINAPI callProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    handedOn.push_back(message);
+    return ::CallWindowProcW(procedure, window, message, wParam, lParam);
+}
+
+TEST_F(FileDialogInit, HelpIsSwallowedAndTheRestHandedOn) {
+    const ui_test::ReplacedImport calls(toolkit(), "CallWindowProcW", &callProcedure);
+    ASSERT_TRUE(calls.isThere());
     look([&](HWND window) {
-        int asked = 0;
-        ui_test::SentMessages watch(
-            [&](const CWPSTRUCT& message) { asked += message.message == WM_HELP && message.hwnd != window; });
         HELPINFO help = {};
         help.cbSize = sizeof help;
+        handedOn.clear();
         EXPECT_EQ(::SendMessageW(window, WM_HELP, 0, reinterpret_cast<LPARAM>(&help)), 0);
-        EXPECT_EQ(asked, 0) << "the owner would hear of it";
+        EXPECT_EQ(handedOn, std::vector<UINT>{});
+        for (const UINT message : {WM_EXITSIZEMOVE, WM_USER + 1234}) {
+            handedOn.clear();
+            ::SendMessageW(window, message, 0, 0);
+            EXPECT_EQ(handedOn, std::vector<UINT>{message});
+        }
     });
 }
 
@@ -307,6 +320,9 @@ TEST_F(FileDialogInit, TheEndOfASizingLaysThePlacesOut) {
         ::ValidateRect(places, nullptr);
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
         EXPECT_EQ(placeOf(places), placeOf(bar));
+        ::ValidateRect(places, nullptr);
+        ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+        EXPECT_TRUE(::GetUpdateRect(places, nullptr, FALSE)) << "it is painted anew";
     });
 }
 

@@ -221,7 +221,7 @@ TEST_F(FileDialogKeys, AMissingServiceIsNoMatter) {
 }
 
 TEST_F(FileDialogKeys, ASecondDialogTakesTheKeysOver) {
-    look([&](HWND) {
+    look([&](HWND first) {
         CNavDataArray otherData;
         ShownDialog other{otherData, filters};
         other.SetAppRootKey(L"Software\\ktui test\\Dialogs\\");
@@ -236,6 +236,9 @@ TEST_F(FileDialogKeys, ASecondDialogTakesTheKeysOver) {
         });
         other.DoModal();
         EXPECT_EQ(key('E'), 77) << "Kept: nobody has them now";
+        EXPECT_EQ(hooks, 0);
+        click(first, 57014);
+        EXPECT_EQ(hooks, 0) << "an action gives them to nobody";
     });
 }
 

@@ -74,6 +74,10 @@ protected:
             for (int each = 0; each < 4; ++each) mark(fileList(window), each, 0);
             if (bits != 0) mark(fileList(window), column, bits);
         });
+        return clicksThen(column, bitsThen);
+    }
+    /// The clicks that the next dialog makes when its column has `bits`.
+    std::vector<Click> clicksThen(int column, int bits) {
         std::vector<Click> clicks;
         bool prepared = false;
         ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
@@ -82,7 +86,9 @@ protected:
                 if (list == nullptr) return;
                 prepared = true;
                 for (int each = 0; each < 4; ++each) mark(list, each, 0);
-                mark(list, column, bitsThen);
+                if (column < columnsThen) mark(list, column, bits);
+                for (int each = 8; each >= columnsThen; --each)
+                    ::SendMessageW(list, LVM_DELETECOLUMN, static_cast<WPARAM>(each), 0);
             }
             if (message.message != WM_NOTIFY) return;
             const auto& notice = *reinterpret_cast<NMLISTVIEW*>(message.lParam);
@@ -94,6 +100,7 @@ protected:
         EXPECT_TRUE(prepared);
         return clicks;
     }
+    int columnsThen = 5;  ///< that the list of the next dialog has
 };
 
 /// A system that has no memory of views.
@@ -143,6 +150,21 @@ TEST_F(FileDialogViewBefore6, AnOrderDownwardsIsTwo) {
 TEST_F(FileDialogViewBefore6, AnOrderThatIsThereIsNone) {
     EXPECT_EQ(clicksAfter(3, HDF_SORTDOWN, HDF_SORTDOWN), Clicks{});
     EXPECT_EQ(clicksAfter(0, HDF_SORTUP, HDF_SORTUP), Clicks{});
+}
+
+TEST_F(FileDialogViewBefore6, AColumnThatIsGoneIsNotClicked) {
+    columnsThen = 2;
+    EXPECT_EQ(clicksAfter(3, HDF_SORTUP, 0), Clicks{});
+    columnsThen = 4;
+    EXPECT_EQ(clicksAfter(3, HDF_SORTUP, 0), (Clicks{{-1, 3}}));
+}
+
+TEST_F(FileDialogViewBefore6, TheFirstColumnWithAMarkCounts) {
+    look([&](HWND window) {
+        showAs(window, kDetails);
+        for (int each = 0; each < 4; ++each) mark(fileList(window), each, each == 0 ? 0 : HDF_SORTUP);
+    });
+    EXPECT_EQ(clicksThen(1, 0), (Clicks{{-1, 1}}));
 }
 
 TEST_F(FileDialogViewBefore6, WithoutMarksTheFormerOrderStays) {
@@ -225,6 +247,16 @@ TEST_F(FirstFile, IsSelected) {
         EXPECT_EQ(stateOf(list, row), static_cast<UINT>(LVIS_SELECTED | LVIS_FOCUSED));
         EXPECT_EQ(selectedCount(list), 1);
     });
+}
+
+TEST_F(FirstFile, IsScrolledIntoView) {
+    startWith(L"two.dwg");
+    int row = -1;
+    ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+        if (message.message == LVM_ENSUREVISIBLE) row = static_cast<int>(message.wParam);
+    });
+    look([&](HWND window) { EXPECT_EQ(row, rowOf(fileList(window), L"two.dwg")); });
+    EXPECT_GE(row, 0);
 }
 
 TEST_F(FirstFile, IsNamedExactly) {
