@@ -2,7 +2,7 @@
 
 const KtUiTestEntries& KtUiTestDoor() {
     static constexpr KtUiTestEntries entries = {
-        &::ExchangeThemeApi,     &::LoadedToolkit,          &::SplitButtonMessage, &::SplitButtonWndProc,
-        &::SplitButtonTextFlags, &::ExchangeFindFileDialog, &::AddToRecentFolder};
+        &::ExchangeThemeApi,   &::LoadedToolkit,        &::StringLibrary,          &::SplitButtonMessage,
+        &::SplitButtonWndProc, &::SplitButtonTextFlags, &::ExchangeFindFileDialog, &::AddToRecentFolder};
     return entries;
 }

@@ -21,6 +21,7 @@ int AddToRecentFolder(const wchar_t* path, const wchar_t* folder);
 struct KtUiTestEntries {
     decltype(&::ExchangeThemeApi) exchangeThemeApi;
     decltype(&::LoadedToolkit) loadedToolkit;
+    decltype(&::StringLibrary) stringLibrary;
     decltype(&::SplitButtonMessage) splitButtonMessage;
     decltype(&::SplitButtonWndProc) splitButtonWndProc;
     decltype(&::SplitButtonTextFlags) splitButtonTextFlags;

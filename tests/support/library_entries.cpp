@@ -1,0 +1,11 @@
+// What units of the toolkit that are linked into a test ask of the loaded library.
+#include <ktui/host/test_door.h>
+#include <ktui/nav/nav_dialog_imp.h>
+#include <ktui/nav/nav_file_dlg.h>
+
+const ToolkitModule& LoadedToolkit() { return KtUiTestDoor().loadedToolkit(); }
+
+HMODULE StringLibrary() { return KtUiTestDoor().stringLibrary(); }
+
+// By the operation of the dialog's own that leads to the library's.
+int CNavFileDlg::NavigateTo(const wchar_t* folder) { return owner()->m_owner->NavigateToFolder(folder); }
