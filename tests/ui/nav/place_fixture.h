@@ -10,7 +10,9 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -100,10 +102,10 @@ protected:
         : m_messages(::GetModuleHandleW(nullptr), "_Z14KtUiMessageBoxPKwS0_j", &answerMessage),
           dialog(data, filters) {
         ::CoInitialize(nullptr);
-        EXPECT_TRUE(m_messages.isThere());
+        EXPECT_TRUE(m_messages.isThere() && m_cursor.isThere() && m_track.isThere());
+        toldCursor() = {1200, 900};
         messages().clear();
         messageAnswer() = IDYES;
-        EXPECT_TRUE(ui_test::move_cursor(CPoint(1200, 900))) << "away from the list to come";
         wchar_t temporary[MAX_PATH] = {};
         ::GetTempPathW(MAX_PATH, temporary);
         ::GetLongPathNameW(temporary, temporary, MAX_PATH);
@@ -208,11 +210,30 @@ protected:
     }
     CPoint in(int row) const { return rectOf(row).CenterPoint(); }
     CPoint beneath() const { return {20, rectOf(list->GetCount() - 1).bottom + 20}; }
-    /// Puts the mouse at a point of the list and lets it get its messages.
-    void pointAt(CPoint point) {
+    /// The list finds the mouse at a point of its own from now on.
+    void setTold(CPoint point) {
         list->ClientToScreen(&point);
-        ASSERT_TRUE(ui_test::move_cursor(point));
+        toldCursor() = point;
+    }
+    /// The same, and it hears of it.
+    void pointAt(CPoint point) {
+        setTold(point);
+        send(WM_MOUSEMOVE, point);
         ui_test::pump();
+    }
+    /// Rests the real mouse at a point of the list until `done`, and puts it there again where a virtual
+    /// desktop loses it; false after some seconds.
+    bool restAt(CPoint point, const std::function<bool()>& done) {
+        toldCursor().reset();
+        list->ClientToScreen(&point);
+        if (!ui_test::move_cursor(point)) return false;
+        return ui_test::pump_until(
+            [&] {
+                CPoint now;
+                if (::GetCursorPos(&now) && now != point) ui_test::move_cursor(point);
+                return done();
+            },
+            5000);
     }
     LRESULT send(UINT message, CPoint at, WPARAM keys = 0) {
         return list->SendMessage(message, keys, MAKELPARAM(at.x, at.y));
@@ -247,6 +268,11 @@ protected:
         list->SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
     }
 
+    /// What the system was asked to track.
+    static std::vector<TRACKMOUSEEVENT>& trackedMouse() {
+        static std::vector<TRACKMOUSEEVENT> all;
+        return all;
+    }
     static std::vector<Shown>& messages() {
         static std::vector<Shown> all;
         return all;
@@ -257,11 +283,31 @@ protected:
     }
 
 private:
+    static std::optional<POINT>& toldCursor() {
+        static std::optional<POINT> told;
+        return told;
+    }
+    template <class Function>
+    static Function* systems(const char* name) {
+        return reinterpret_cast<Function*>(
+            reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"user32.dll"), name)));
+    }
+    static BOOL WINAPI cursorPlace(POINT* place) {
+        if (!toldCursor()) return systems<decltype(cursorPlace)>("GetCursorPos")(place);
+        *place = *toldCursor();
+        return TRUE;
+    }
+    static BOOL WINAPI trackMouse(TRACKMOUSEEVENT* asked) {
+        trackedMouse().push_back(*asked);
+        // The system would tell at once that the mouse has left.
+        return toldCursor() || systems<decltype(trackMouse)>("TrackMouseEvent")(asked);
+    }
     static int answerMessage(const wchar_t* caption, const wchar_t* text, UINT type) {
         messages().push_back({caption != nullptr, text, type});
         return messageAnswer();
     }
-    ui_test::ReplacedImport m_messages;
+    ui_test::ReplacedImport m_messages, m_cursor{::GetModuleHandleW(nullptr), "GetCursorPos", &cursorPlace},
+        m_track{::GetModuleHandleW(nullptr), "TrackMouseEvent", &trackMouse};
 
 protected:
     StandInDialog platform;

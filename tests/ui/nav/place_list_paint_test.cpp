@@ -183,21 +183,10 @@ TEST_F(PlaceListPaint, ASelectedRowUnderTheMouseStaysSunken) {
     EXPECT_EQ(frameOf(0), raised());
 }
 
-POINT toldCursor;
-
-BOOL WINAPI tellsCursor(POINT* place) {
-    *place = toldCursor;
-    return TRUE;
-}
-
 TEST_F(PlaceListPaint, WithTheButtonDownNoOtherRowGetsHot) {
     openWith({L"one", L"two"});
     pointAt(in(0));
-    EXPECT_EQ(frameOf(0), raised());
-    toldCursor = in(1);
-    list->ClientToScreen(&toldCursor);
-    const ui_test::ReplacedImport tells(::GetModuleHandleW(nullptr), "GetCursorPos", &tellsCursor);
-    ASSERT_TRUE(tells.isThere());
+    setTold(in(1));
     send(WM_MOUSEMOVE, in(1), MK_LBUTTON);
     ::ReleaseCapture();
     EXPECT_EQ(frameOf(0), raised());
@@ -211,11 +200,15 @@ TEST_F(PlaceListPaint, ARowThatTheMouseLeavesIsPlain) {
     openWith({L"one", L"two"});
     pointAt(in(0));
     EXPECT_EQ(frameOf(0), raised());
-    pointAt({250, 100});
-    EXPECT_TRUE(ui_test::pump_until([this] { return frameOf(0) == none(); })) << "the system tells";
-    pointAt(in(0));
     list->SendMessage(WM_MOUSELEAVE);
     EXPECT_EQ(frameOf(0), none());
+    EXPECT_EQ(frameOf(1), none());
+}
+
+TEST_F(PlaceListPaint, TheRealMouseMakesARowHotAndPlainAgain) {
+    openWith({L"one", L"two"});
+    EXPECT_TRUE(restAt(in(1), [this] { return frameOf(1) == raised(); }));
+    EXPECT_TRUE(restAt({300, 100}, [this] { return frameOf(1) == none(); }));
 }
 
 TEST_F(PlaceListPaint, ARowUnselectedByAKeyLosesItsFrame) {
@@ -231,17 +224,9 @@ TEST_F(PlaceListPaint, ARowUnselectedByAKeyLosesItsFrame) {
     EXPECT_EQ(frameOf(1), sunken());
 }
 
-std::vector<TRACKMOUSEEVENT> tracked;
-
-BOOL WINAPI notesTracking(TRACKMOUSEEVENT* asked) {
-    tracked.push_back(*asked);
-    return TRUE;
-}
-
 TEST_F(PlaceListPaint, EachMoveWithoutTheButtonAsksForHoveringAndLeaving) {
     openWith({L"one", L"two"});
-    const ui_test::ReplacedImport notes(::GetModuleHandleW(nullptr), "TrackMouseEvent", &notesTracking);
-    ASSERT_TRUE(notes.isThere());
+    auto& tracked = trackedMouse();
     tracked.clear();
     send(WM_MOUSEMOVE, in(0));
     ASSERT_EQ(tracked.size(), 1u);
@@ -253,7 +238,8 @@ TEST_F(PlaceListPaint, EachMoveWithoutTheButtonAsksForHoveringAndLeaving) {
     EXPECT_EQ(tracked.size(), 2u);
     send(WM_MOUSEMOVE, in(0), MK_LBUTTON);
     ::ReleaseCapture();
-    for (std::size_t i = 2; i < tracked.size(); ++i) EXPECT_TRUE(tracked[i].dwFlags & TME_CANCEL);
+    ASSERT_EQ(tracked.size(), 3u);
+    EXPECT_TRUE(tracked[2].dwFlags & TME_CANCEL) << "of the drag";
 }
 
 /// The tip of the list: its window, and what it says.
@@ -298,14 +284,10 @@ private:
 TEST_F(PlaceListTip, RestingOnARowShowsItsCaption) {
     openWith({L"one", L"two"});
     ASSERT_NE(tip(), nullptr);
-    pointAt(in(1));
-    EXPECT_TRUE(ui_test::pump_until([this] { return tipShows(); }, 5000));
+    EXPECT_TRUE(restAt(in(1), [this] { return tipShows(); }));
     EXPECT_EQ(tipText(), L"two");
-    pointAt(in(0));
-    EXPECT_TRUE(ui_test::pump_until([this] { return tipText() == L"one"; }, 5000));
-    EXPECT_TRUE(ui_test::pump_until([this] { return tipShows(); }, 5000));
-    pointAt(beneath());
-    EXPECT_TRUE(ui_test::pump_until([this] { return !tipShows(); }, 5000));
+    EXPECT_TRUE(restAt(in(0), [this] { return tipText() == L"one" && tipShows(); }));
+    EXPECT_TRUE(restAt(beneath(), [this] { return !tipShows(); }));
 }
 
 /// What is sent to the tip, by name.
@@ -345,8 +327,8 @@ TEST_F(PlaceListTip, HoveringSetsTheTextThenTurnsItOnAndRelaysAMove) {
 
 TEST_F(PlaceListTip, ATipThatShowsForItsRowIsLeftAlone) {
     openWith({L"one", L"two"});
-    pointAt(in(1));
-    ASSERT_TRUE(ui_test::pump_until([this] { return tipShows(); }, 5000));
+    ASSERT_TRUE(restAt(in(1), [this] { return tipShows(); }));
+    setTold(in(1));
     TipMessages seen(tip());
     send(WM_MOUSEHOVER, in(1));
     EXPECT_TRUE(seen.said.empty());
@@ -359,8 +341,7 @@ TEST_F(PlaceListTip, ATipThatShowsForItsRowIsLeftAlone) {
 
 TEST_F(PlaceListTip, OverNoRowItIsTurnedOffAndForgotten) {
     openWith({L"one", L"two"});
-    pointAt(in(1));
-    ASSERT_TRUE(ui_test::pump_until([this] { return tipShows(); }, 5000));
+    ASSERT_TRUE(restAt(in(1), [this] { return tipShows(); }));
     pointAt(beneath());
     TipMessages seen(tip());
     send(WM_MOUSEHOVER, beneath());
