@@ -80,7 +80,8 @@ TEST_F(PlaceLeaks, AThousandPlaceDialogsLeaveNothing) {
                 ::SetDlgItemTextW(window, 57027, L"C:\\");
                 ::PostMessageW(window, WM_COMMAND, ++opened % 2 ? IDOK : IDCANCEL, 0);
             });
-            EXPECT_EQ(box.DoModal(), opened % 2 ? IDOK : IDCANCEL);
+            const INT_PTR result = box.DoModal();
+            EXPECT_EQ(result, opened % 2 ? IDOK : IDCANCEL);
             messages().clear();
         },
         leaks::heap_growth([&parent] {
@@ -126,7 +127,8 @@ TEST(SaveOptionLeaks, AThousandSheetsLeaveNothing) {
                 ::SendMessageW(window, PSM_SETCURSEL, 1, 0);
                 ::PostMessageW(window, WM_COMMAND, ++shown % 2 ? IDOK : IDCANCEL, 0);
             });
-            EXPECT_EQ(sheet.DoModal(), shown % 2 ? IDOK : IDCANCEL);
+            const INT_PTR result = sheet.DoModal();
+            EXPECT_EQ(result, shown % 2 ? IDOK : IDCANCEL);
         },
         growth, leaks::kShownGdiSlack);
     EXPECT_EQ(shown, leaks::kTimes + leaks::kWarmUp);
