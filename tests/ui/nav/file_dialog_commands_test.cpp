@@ -1,6 +1,7 @@
 // The buttons of the navigation file dialog: Locate, Find, Options.
 #include <od_string.h>
 
+#include "plain_document.h"
 #include "shown_fixture.h"
 
 namespace {
@@ -180,7 +181,7 @@ void chooseFormat(ui_test::TestHost& host, int format, int button) {
         });
 }
 
-class SaveOptions : public FileDialogCommands {
+class SaveOptionsOfDialog : public FileDialogCommands {
 protected:
     /// The selections that the box of types is sent while the options go from `before` to `after`.
     std::vector<int> selectedBy(std::optional<int> before, int after, int button) {
@@ -198,29 +199,32 @@ protected:
         });
         return selections;
     }
+    ui_test::PlainDocument document{host};
     CString textOfType;
 };
 
 using Selections = std::vector<int>;
 
-TEST_F(SaveOptions, ANewFormatSelectsItsPlaceInTheList) {
+TEST_F(SaveOptionsOfDialog, ANewFormatSelectsItsPlaceInTheList) {
     host.saveFormats = {{1001, L"first"}, {1060, L"second"}, {1012, L"third"}};
     EXPECT_EQ(selectedBy(60, 1060, IDOK), (Selections{1, 1})) << "and once more for the change";
     EXPECT_EQ(textOfType, L"Template(*.dwt)");
     EXPECT_EQ(selectedBy(60, 1001, IDOK), Selections{0});
 }
 
-TEST_F(SaveOptions, AFormatThatIsNotInTheListEmptiesTheBox) {
+TEST_F(SaveOptionsOfDialog, AFormatThatIsNotInTheListEmptiesTheBox) {
     EXPECT_EQ(selectedBy(60, 777, IDOK), Selections{-1});
     EXPECT_EQ(textOfType, L"");
 }
 
-TEST_F(SaveOptions, TheSameFormatSelectsNothing) {
+TEST_F(SaveOptionsOfDialog, TheSameFormatSelectsNothing) {
     EXPECT_EQ(selectedBy(1060, 1060, IDOK), Selections{});
     EXPECT_EQ(selectedBy(std::nullopt, 60, IDOK), Selections{}) << "60 is the default";
     EXPECT_EQ(selectedBy(std::nullopt, 777, IDOK), Selections{-1});
 }
 
-TEST_F(SaveOptions, CancelledTheySelectNothing) { EXPECT_EQ(selectedBy(60, 777, IDCANCEL), Selections{}); }
+TEST_F(SaveOptionsOfDialog, CancelledTheySelectNothing) {
+    EXPECT_EQ(selectedBy(60, 777, IDCANCEL), Selections{});
+}
 
 }  // namespace
