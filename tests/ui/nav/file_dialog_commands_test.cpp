@@ -199,7 +199,7 @@ protected:
         });
         return selections;
     }
-    OpenDrawing open{host};
+    ui_test::OpenDrawing open{host};
     CString textOfType;
 };
 

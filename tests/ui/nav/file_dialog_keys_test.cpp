@@ -52,7 +52,7 @@ public:
 
 class FileDialogKeys : public ShownTest {
 protected:
-    OpenDrawing open{host};  // the options ask it
+    ui_test::OpenDrawing open{host};  // the options ask it
     FileDialogKeys() {
         hookProcedure = nullptr;
         hooks = 0;

@@ -44,9 +44,9 @@ protected:
     static void click(HWND page, int id) { ask(page, id, BM_CLICK); }
 
     ui_test::TestHost host;
-    OpenDrawing open{host};
+    ui_test::OpenDrawing open{host};
     OdDbDatabase& drawing = open.drawing();
-    TestDocument& document = open.document;
+    ui_test::TestDocument& document = open.document;
     ui_test::ParentWindow parent;
 };
 

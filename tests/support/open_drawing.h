@@ -11,6 +11,8 @@
 
 #include "test_host.h"
 
+namespace ui_test {
+
 /// A document whose variables a test sets and whose calls it reads.
 class TestDocument final : public KtApDocument, public CKhVariableStore {
 public:
@@ -49,7 +51,7 @@ private:
 /// Makes a new drawing the working one and the host's current document for as long as it lives.
 class OpenDrawing {
 public:
-    explicit OpenDrawing(ui_test::TestHost& host)
+    explicit OpenDrawing(TestHost& host)
         : m_host(host),
           m_former(oddbHostApplicationServices()),
           m_drawing(new OdDbDatabase),
@@ -68,7 +70,7 @@ public:
     OdDbDatabase& drawing() const { return *m_drawing; }
 
 private:
-    ui_test::TestHost& m_host;
+    TestHost& m_host;
     OdDbHostAppServices m_services;
     OdDbHostAppServices* m_former;
     OdDbDatabasePtr m_drawing;
@@ -76,3 +78,5 @@ private:
 public:
     TestDocument document;
 };
+
+}  // namespace ui_test
