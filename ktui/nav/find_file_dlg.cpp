@@ -52,6 +52,7 @@ BOOL CFindFileDlg::OnInitDialog() {
     const UINT pane = ID_SEPARATOR;
     m_statusBar.Create(this);
     m_statusBar.SetIndicators(&pane, 1);
+    m_statusBar.SetFont(GetFont());
     resetStatus();
     CRect client;
     GetClientRect(&client);

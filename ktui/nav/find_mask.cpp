@@ -5,7 +5,7 @@
 namespace {
 
 // The system's listing turns a mask into these before it compares.
-constexpr wchar_t kAnyToLastPoint = L'<';  // a `*` before a point that ends the mask
+constexpr wchar_t kAnyToLastPoint = L'<';  // a `*` and the point that ends the mask
 constexpr wchar_t kOneOrNone = L'>';       // a `?`
 constexpr wchar_t kPointOrEnd = L'"';      // a point before a wildcard
 
@@ -71,7 +71,10 @@ FindMask::FindMask(const CString& mask) : m_mask(mask == L"*.*" ? CString(L"*") 
         const wchar_t next = i + 1 < length ? written[i + 1] : L'\0';
         if (written[i] == L'?') m_mask.SetAt(i, kOneOrNone);
         if (written[i] == L'.' && isWildcard(next)) m_mask.SetAt(i, kPointOrEnd);
-        if (written[i] == L'*' && next == L'.' && i + 2 == length) m_mask.SetAt(i, kAnyToLastPoint);
+    }
+    if (written.Right(2) == L"*.") {
+        m_mask.SetAt(length - 2, kAnyToLastPoint);
+        m_mask.Truncate(length - 1);
     }
     m_isEnding = m_mask.Left(1) == L"*" && m_mask.Mid(1).FindOneOf(L"*?<>\"") < 0;
 }

@@ -47,8 +47,6 @@ TEST(FindOnceWalk, StaysInTheFolderWithoutSubfolders) {
 }
 
 TEST(FindOnceWalk, AFolderWithinAnotherIsNotVisitedAgain) {
-    const Heard inOrder = heardOf(smallTree(), Wanted({L"C:\\a\\q\\", L"C:\\A\\", L"C:\\a\\p\\deep\\"}, {}));
-    EXPECT_EQ(inOrder, (Heard{L"C:\\a\\q\\", L"C:\\A\\"})) << "this tree knows no other spelling";
     EXPECT_EQ(heardOf(smallTree(), Wanted({L"C:\\a\\q\\", L"C:\\a\\", L"C:\\a\\p\\deep\\"}, {})),
               (Heard{L"C:\\a\\q\\", L"C:\\a\\", L"C:\\a\\p\\", L"C:\\a\\p\\deep\\"}));
 }
