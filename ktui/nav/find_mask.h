@@ -1,5 +1,5 @@
-// Whether a file's name fits a mask such as "*.dwg", by the rules of the system's own listing. Without any
-// window. Private to the library; its tests link it by itself.
+// Whether a file's name fits a mask such as "*.dwg", by the rules of the system's own listing, except that
+// a file's short name doesn't count. Without any window. Private to the library; its tests link it by itself.
 #pragma once
 
 #include <afx.h>

@@ -250,7 +250,7 @@ std::wstring shownTip() {
             TTTOOLINFOW tool = {};
             tool.cbSize = TTTOOLINFOW_V2_SIZE;
             tool.lpszText = text;
-            if (::SendMessageW(window, TTM_GETCURRENTTOOLW, 0, reinterpret_cast<LPARAM>(&tool)) &&
+            if (::SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)) &&
                 (tool.uFlags & TTF_TRACK))
                 *reinterpret_cast<std::wstring*>(parameter) = text;
             return TRUE;

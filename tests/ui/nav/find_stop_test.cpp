@@ -114,7 +114,10 @@ TEST_F(FindStopTest, EscapeOnAPageClosesTheDialogAndNotThePage) {
 
 TEST_F(FindStopTest, TheCloseBoxStopsASearchOnly) {
     manyFiles(10);
-    const During second(dialog, WM_FIND_FILE, 2, [&] { ::SendMessageW(dialog, WM_CLOSE, 0, 0); });
+    const During second(dialog, WM_FIND_FILE, 2, [&] {
+        ::SendMessageW(dialog, WM_CLOSE, 0, 0);
+        ui_test::pump();
+    });
     run([&] {
         search();
         EXPECT_EQ(rows(), 2);
@@ -215,25 +218,24 @@ LRESULT CALLBACK countOwnMessages(HWND window, UINT message, WPARAM wParam, LPAR
 TEST_F(FindStopTest, NewSearchDispatchesTheLastMessageAgainWhileItWaits) {
     manyFiles(100);
     ownMessages = 0;
-    const During first(dialog, WM_FIND_FILE, 1, [&] {
-        ::PostMessageW(dialog, WM_COMMAND, IDC_FIND_NEW, 0);
-        ::PostMessageW(dialog, kOwnMessage, 0, 0);
+    int files = 0;
+    const ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+        if (message.hwnd != dialog) return;
+        if (message.message == WM_FIND_FILE && ++files == 1) {
+            ::PostMessageW(dialog, WM_COMMAND, IDC_FIND_NEW, 0);
+            ::PostMessageW(dialog, kOwnMessage, 0, 0);
+        }
+        // Not before, since the timer of the answer would be the last message.
+        if (message.message == WM_FIND_DONE) answer(IDCANCEL);
     });
-    bool isAsked = false;
     run([&] {
         formerProcedure = reinterpret_cast<WNDPROC>(
             ::SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countOwnMessages)));
-        ui_test::when_window(
-            [](HWND window) {
-                return ::GetDlgItem(window, IDC_FIND_RESULTS) == nullptr && isQuestion(window);
-            },
-            [&](HWND window) {
-                isAsked = true;
-                ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-            },
-            20000);
+        ::ShowWindow(dialog, SW_HIDE);  // nor shall painting be the last
+        ui_test::pump();
+        wasSearching = true;
         command(IDC_FIND_START);
-        EXPECT_TRUE(ui_test::pump_until([&] { return isAsked && !isSearching(); }, 20000));
+        EXPECT_TRUE(ui_test::pump_until([&] { return !wasSearching; }, 20000));
         EXPECT_GT(ownMessages, 1) << "posted once";
         cancel();
     });
