@@ -13,6 +13,21 @@ CString inSmallLetters(CString text) { return text.MakeLower(); }
 
 bool isWildcard(wchar_t c) { return c == L'*' || c == L'?'; }
 
+/// Whether `name` ends in `length` characters of `ending`, which are small letters. Makes no text where all
+/// is plain, since each file of a search comes by here.
+bool endsIn(const CString& name, const wchar_t* ending, int length) {
+    const int first = name.GetLength() - length;
+    if (first < 0) return false;
+    const wchar_t* const end = name.GetString() + first;
+    for (int i = 0; i < length; ++i) {
+        const wchar_t c = end[i];
+        if (c >= 128) return inSmallLetters(name.Mid(first)) == ending;
+        const bool isCapital = c >= L'A' && c <= L'Z';
+        if ((isCapital ? c - L'A' + L'a' : c) != ending[i]) return false;
+    }
+    return true;
+}
+
 bool isAnyText(wchar_t sign) { return sign == L'*' || sign == kAnyToLastPoint; }
 
 /// The places in a mask that have been reached, the mask's end among them.
@@ -80,7 +95,7 @@ FindMask::FindMask(const CString& mask) : m_mask(mask == L"*.*" ? CString(L"*") 
 }
 
 bool FindMask::Matches(const CString& name) const {
-    if (m_isEnding) return name.Right(m_mask.GetLength() - 1).CompareNoCase(m_mask.Mid(1)) == 0;
+    if (m_isEnding) return endsIn(name, m_mask.GetString() + 1, m_mask.GetLength() - 1);
     const CString text = inSmallLetters(name);
     const int lastPoint = text.ReverseFind(L'.');
     Places places(m_mask);

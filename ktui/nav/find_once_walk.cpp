@@ -35,25 +35,38 @@ private:
     }
     /// Visits a folder and, with subfolders, what lies below it. The ones still to be visited are kept in a
     /// list, since a tree may be deeper than a stack. Below a link each folder may have been there already,
-    /// by another path; elsewhere the start alone may.
+    /// by another path.
     void goThrough(const CString& start, bool isLink) {
+        if (!isLink && !isNewStart(start)) return;
         std::vector<CString> waiting{start};
         while (!waiting.empty() && !m_listener.IsStopped()) {
             const CString folder = waiting.back();
             waiting.pop_back();
-            if (!isNew(folder, isLink || folder == start)) continue;
+            if (!isNew(folder, isLink)) continue;
             m_listener.Status(folder);
             const auto first = static_cast<std::ptrdiff_t>(waiting.size());
             visit(folder, waiting);
             std::reverse(waiting.begin() + first, waiting.end());
         }
     }
-    bool isNew(const CString& folder, bool mayBeKnown) {
-        const bool isNewPath = m_paths.insert(CString(folder).MakeLower().GetString()).second;
-        if (!isNewPath) return false;
-        const bool isNewFolder = m_identities.insert(m_files.Identity(folder).GetString()).second;
-        return isNewFolder || !mayBeKnown;
+    /// Whether no other start is the same folder by another path.
+    bool isNewStart(const CString& start) {
+        return m_request.m_folders.GetSize() == 1 || m_starts.insert(identityOf(start)).second;
     }
+    bool isNew(const CString& folder, bool mayBeKnown) {
+        if (!m_paths.insert(CString(folder).MakeLower().GetString()).second) return false;
+        if (mayBeKnown && isKnown(folder)) return false;
+        m_visited.push_back(folder);
+        return true;
+    }
+    /// Whether the folder was visited by another path. To ask the system for identities takes as long as to
+    /// list a small folder, so they are asked for when a link is met.
+    bool isKnown(const CString& folder) {
+        for (; m_identified < m_visited.size(); ++m_identified)
+            m_identities.insert(identityOf(m_visited[m_identified]));
+        return m_identities.count(identityOf(folder)) > 0;
+    }
+    std::wstring identityOf(const CString& folder) const { return m_files.Identity(folder).GetString(); }
     void visit(const CString& folder, std::vector<CString>& subfolders) {
         for (bool more = m_listing->Begin(folder + L"*.*"); more && !m_listener.IsStopped();) {
             more = m_listing->Next();
@@ -80,7 +93,9 @@ private:
     std::unique_ptr<FindListing> m_listing;
     std::vector<FindMask> m_masks;
     std::vector<CString> m_links;  ///< folders that were met as links
-    std::unordered_set<std::wstring> m_paths, m_identities;
+    std::vector<CString> m_visited;
+    size_t m_identified = 0;  ///< how many of the visited ones m_identities tells of
+    std::unordered_set<std::wstring> m_paths, m_identities, m_starts;
 };
 
 }  // namespace

@@ -90,6 +90,31 @@ TEST(FindOnceWalk, WhatLiesBelowALinkMayHaveBeenThereToo) {
               (Heard{L"C:\\a\\t\\", L"+C:\\a\\t\\g.x", L"C:\\b\\", L"C:\\b\\l\\"}));
 }
 
+TEST(FindOnceWalk, AStartThatIsAnotherOneByAnotherPathIsNotVisitedAgain) {
+    Tree tree;
+    tree.folders[L"C:\\"] = {link(L"l", L"D:\\far\\")};
+    tree.folders[L"D:\\far\\"] = {file(L"g.x")};
+    EXPECT_EQ(heardOf(tree, Wanted({L"D:\\far\\", L"C:\\l\\"}, {L"*.x"})),
+              (Heard{L"D:\\far\\", L"+D:\\far\\g.x"}));
+}
+
+/// Counts how often the system is asked which folder a path names.
+class CountsIdentities : public Tree {
+public:
+    mutable int questions = 0;
+    CString Identity(const CString& path) const override { return ++questions, path; }
+};
+
+TEST(FindOnceWalk, AsksWhichFolderItIsOnlyWhereThereAreLinks) {
+    CountsIdentities tree;
+    tree.folders = smallTree().folders;
+    heardOf(tree, Wanted({L"C:\\a\\"}, {L"*.x"}));
+    EXPECT_EQ(tree.questions, 0);
+    tree.folders[L"C:\\a\\q\\"].push_back(link(L"l", L"D:\\"));
+    heardOf(tree, Wanted({L"C:\\a\\"}, {L"*.x"}));
+    EXPECT_EQ(tree.questions, 5);
+}
+
 /// Two volumes may give different folders the same number.
 class SameNumbers : public Tree {
 public:
