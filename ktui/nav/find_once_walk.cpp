@@ -51,10 +51,10 @@ private:
     }
     /// Whether no other start is the same folder by another path.
     bool isNewStart(const CString& start) {
-        return m_request.m_folders.GetSize() == 1 || m_starts.insert(identityOf(start)).second;
+        return m_request.m_folders.GetSize() == 1 || m_starts.emplace(identityOf(start)).second;
     }
     bool isNew(const CString& folder, bool mayBeKnown) {
-        if (!m_paths.insert(CString(folder).MakeLower().GetString()).second) return false;
+        if (!m_paths.emplace(CString(folder).MakeLower().GetString()).second) return false;
         if (mayBeKnown && isKnown(folder)) return false;
         m_visited.push_back(folder);
         return true;
@@ -63,7 +63,7 @@ private:
     /// list a small folder, so they are asked for when a link is met.
     bool isKnown(const CString& folder) {
         for (; m_identified < m_visited.size(); ++m_identified)
-            m_identities.insert(identityOf(m_visited[m_identified]));
+            m_identities.emplace(identityOf(m_visited[m_identified]));
         return m_identities.count(identityOf(folder)) > 0;
     }
     std::wstring identityOf(const CString& folder) const { return m_files.Identity(folder).GetString(); }
