@@ -24,6 +24,8 @@ void measure_tabbed_dialog();
 void measure_messages();
 /// Painting two hundred bitmap buttons against as many bare ones with the same picture.
 void measure_buttons();
+/// The walks of a search for files against a plain walk through 100,000 files in 1,000 folders.
+void measure_find_files();
 /// One step of resizing two hundred controls against moving them one by one.
 void measure_resize();
 

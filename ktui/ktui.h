@@ -42,6 +42,8 @@
 #include <ktui/input/ktui_typed_edits.h>
 #include <ktui/input/ktui_combo_box.h>
 #include <ktui/input/ktui_edit.h>
+#include <ktui/nav/find_file_dialog.h>
+#include <ktui/nav/find_file_walk.h>
 #include <ktui/nav/ktui_nav_dialog.h>
 #include <ktui/nav/nav_array.h>
 #include <ktui/nav/nav_data.h>

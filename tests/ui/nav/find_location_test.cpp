@@ -1,0 +1,309 @@
+// The locations and the names of the find dialog, and what is remembered of them.
+#include <shlobj.h>
+
+#include "find_fixture.h"
+#include "replaced_import.h"
+
+namespace {
+
+class FindLocationTest : public FindTest {
+protected:
+    static FoundTexts stored(const wchar_t* format, int count) {
+        FoundTexts texts;
+        for (int i = 0; i < count; ++i) {
+            CString value;
+            value.Format(format, i);
+            texts.push_back(storedText(value));
+        }
+        return texts;
+    }
+    /// How many locations come before the saved ones.
+    size_t fixedCount() {
+        size_t count = 0;
+        startFolder = CString();
+        run([&] {
+            count = locations().size();
+            cancel();
+        });
+        startFolder.reset();
+        return count;
+    }
+};
+
+UINT WINAPI driveTypes(LPCWSTR drive) {
+    return wcscmp(drive, L"C:") == 0 || wcscmp(drive, L"Z:") == 0 ? DRIVE_FIXED : DRIVE_REMOTE;
+}
+UINT WINAPI noDrives(LPCWSTR) { return DRIVE_REMOVABLE; }
+
+TEST_F(FindLocationTest, TheComputerComesFirstThenItsFixedDrivesThenEachDrive) {
+    const ui_test::ReplacedImport drives(::GetModuleHandleW(L"ktui.dll"), "GetDriveTypeW", &driveTypes);
+    ASSERT_TRUE(drives.isThere());
+    run([&] {
+        const FoundTexts shown = locations();
+        ASSERT_GE(shown.size(), 5u);
+        EXPECT_EQ(shown[1], L"Local hard drives (C:,Z:)");
+        EXPECT_NE(shown[2].find(L"C:"), std::wstring::npos);
+        EXPECT_NE(shown[3].find(L"Z:"), std::wstring::npos);
+        EXPECT_EQ(shown.back(), root.GetString());
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, WithoutFixedDrivesThereIsNoSuchEntry) {
+    const ui_test::ReplacedImport drives(::GetModuleHandleW(L"ktui.dll"), "GetDriveTypeW", &noDrives);
+    run([&] {
+        for (const std::wstring& shown : locations())
+            EXPECT_EQ(shown.find(L"Local hard"), std::wstring::npos);
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, EachEntryHasAnIcon) {
+    run([&] {
+        for (size_t i = 0; i < locations().size(); ++i) {
+            COMBOBOXEXITEMW entry = {};
+            entry.mask = CBEIF_IMAGE | CBEIF_SELECTEDIMAGE;
+            entry.iItem = static_cast<INT_PTR>(i);
+            ::SendMessageW(item(IDC_FIND_LOCATION), CBEM_GETITEMW, 0, reinterpret_cast<LPARAM>(&entry));
+            EXPECT_GE(entry.iImage, 0);
+            EXPECT_EQ(entry.iImage, entry.iSelectedImage);
+        }
+        EXPECT_NE(::SendMessageW(item(IDC_FIND_LOCATION), CBEM_GETIMAGELIST, 0, 0), 0);
+        cancel();
+    });
+    // The shell's list of icons is still whole.
+    SHFILEINFOW info = {};
+    const auto images = reinterpret_cast<HIMAGELIST>(
+        ::SHGetFileInfoW(L"C:\\", 0, &info, sizeof info, SHGFI_SYSICONINDEX | SHGFI_SMALLICON));
+    EXPECT_GT(::ImageList_GetImageCount(images), 0);
+}
+
+TEST_F(FindLocationTest, OnlyWhatComesBehindTheFixedOnesIsSaved) {
+    run([&] { cancel(); });
+    EXPECT_EQ(stored(L"LocationMRU%d", 2), (FoundTexts{root.GetString(), L""}));
+}
+
+TEST_F(FindLocationTest, SavedLocationsComeBackBehindTheFixedOnes) {
+    const size_t before = fixedCount();
+    makeFolder(L"a");
+    const CString other = root + L"a";
+    storeText(L"LocationMRU0", other);
+    storeText(L"LocationMRU1", L"Q:\\is not there");
+    storeText(L"LocationMRU2", root);
+    run([&] {
+        const FoundTexts shown = locations();
+        ASSERT_EQ(shown.size(), before + 2) << "what has no icon is left out, and the start is there already";
+        EXPECT_EQ(shown[before], other.GetString());
+        EXPECT_EQ(shown[before + 1], root.GetString());
+        EXPECT_EQ(selectedLocation(), static_cast<int>(before + 1));
+        cancel();
+    });
+    EXPECT_EQ(stored(L"LocationMRU%d", 3),
+              (FoundTexts{other.GetString(), root.GetString(), root.GetString()}))
+        << "a longer list stored before shows behind";
+}
+
+TEST_F(FindLocationTest, AnotherSpellingIsAnotherLocation) {
+    CString upper = root;
+    upper.MakeUpper();
+    storeText(L"LocationMRU0", upper);
+    const size_t before = fixedCount();
+    run([&] {
+        EXPECT_EQ(locations().size(), before + 1);
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, AStartThatIsNotThereIsNoEntryAndTheDrivesAreSearchedInstead) {
+    const size_t before = fixedCount();
+    startFolder = root + L"gone";
+    run([&] {
+        EXPECT_EQ(locations().size(), before);
+        EXPECT_EQ(selectedLocation(), -1);
+        // The drives would be searched, so the search is stopped at its first folder.
+        std::wstring first;
+        const ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+            if (message.hwnd != dialog || message.message != WM_FIND_STATUS) return;
+            if (first.empty()) first = reinterpret_cast<const wchar_t*>(message.wParam);
+            command(IDC_FIND_STOP);
+        });
+        search();
+        EXPECT_EQ(first, L"C:\\");
+        EXPECT_EQ(selectedLocation(), 1);
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, TwoQuotedPathsAreSearchedBoth) {
+    makeFolder(L"a");
+    makeFolder(L"a\\s");
+    makeFolder(L"b");
+    makeFile(L"a\\1.dwg");
+    makeFile(L"b\\2.dwg");
+    const CString both = L"\"" + root + L"a\"\"" + root + L"b\"";
+    run([&] {
+        typeLocation(both);
+        search();
+        EXPECT_EQ(column(0), (FoundTexts{L"1.dwg", L"2.dwg", L"2.dwg"}))
+            << "the first one's descent goes through the second";
+        EXPECT_EQ(locations().back(), both.GetString());
+        cancel();
+    });
+    EXPECT_EQ(storedText(L"LocationMRU1"), both.GetString());
+}
+
+TEST_F(FindLocationTest, ATypedLocationIsSearched) {
+    makeFolder(L"a");
+    makeFile(L"a\\1.dwg");
+    makeFile(L"2.dwg");
+    run([&] {
+        typeLocation(L" " + root + L"a ");
+        search();
+        EXPECT_EQ(column(0), (FoundTexts{L"1.dwg"}));
+        EXPECT_EQ(selectedLocation(), static_cast<int>(locations().size()) - 1);
+        chooseLocation(static_cast<int>(locations().size()) - 2);
+        search();
+        EXPECT_EQ(rows(), 2);
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, TheComputerStandsForAllDrives) {
+    run([&] {
+        std::wstring first;
+        const ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+            if (message.hwnd != dialog || message.message != WM_FIND_STATUS) return;
+            if (first.empty()) first = reinterpret_cast<const wchar_t*>(message.wParam);
+            command(IDC_FIND_STOP);
+        });
+        chooseLocation(0);
+        search();
+        EXPECT_EQ(first.substr(1), L":\\");
+        subfolders(false);
+        first.clear();
+        search();
+        EXPECT_EQ(first, L"") << "without subfolders nothing is gone through";
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, NamesAreRememberedLatestFirst) {
+    run([&] {
+        for (const wchar_t* name : {L"one", L" two ", L"", L"one"}) {
+            setText(IDC_FIND_NAME, name);
+            search();
+        }
+        EXPECT_EQ(::SendMessageW(item(IDC_FIND_NAME), CB_GETCOUNT, 0, 0), 2);
+        cancel();
+    });
+    EXPECT_EQ(stored(L"FileNameMRU%d", 3), (FoundTexts{L"one", L"two", L""}));
+    run([&] {
+        wchar_t text[100] = {};
+        ::SendMessageW(item(IDC_FIND_NAME), CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(text));
+        EXPECT_STREQ(text, L"two");
+        cancel();
+    });
+}
+
+BROWSEINFOW browsed = {};
+std::wstring browseAnswer;
+
+LPITEMIDLIST WINAPI browseFor(BROWSEINFOW* info) {
+    browsed = *info;
+    LPITEMIDLIST list = nullptr;
+    if (!browseAnswer.empty()) ::SHParseDisplayName(browseAnswer.c_str(), nullptr, &list, 0, nullptr);
+    return list;
+}
+
+TEST_F(FindLocationTest, ABrowsedFolderIsAddedAndSelected) {
+    makeFolder(L"a");
+    const ui_test::ReplacedImport browse(::GetModuleHandleW(L"ktui.dll"), "SHBrowseForFolderW", &browseFor);
+    ASSERT_TRUE(browse.isThere());
+    run([&] {
+        const size_t before = locations().size();
+        browseAnswer.clear();
+        click(IDC_FIND_BROWSE);
+        EXPECT_EQ(browsed.ulFlags, static_cast<UINT>(BIF_RETURNONLYFSDIRS | BIF_RETURNFSANCESTORS));
+        EXPECT_EQ(locations().size(), before);
+        browseAnswer = (root + L"a").GetString();
+        click(IDC_FIND_BROWSE);
+        ASSERT_EQ(locations().size(), before + 1);
+        EXPECT_EQ(locations().back(), browseAnswer);
+        EXPECT_EQ(selectedLocation(), static_cast<int>(before));
+        chooseLocation(0);
+        click(IDC_FIND_BROWSE);
+        EXPECT_EQ(locations().size(), before + 1) << "it is there";
+        EXPECT_EQ(selectedLocation(), static_cast<int>(before));
+        cancel();
+    });
+}
+
+/// The tool tip that tracks and is shown, by its text; empty for none.
+std::wstring shownTip() {
+    std::wstring shown;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            wchar_t name[40] = {}, text[1024] = {};
+            ::GetClassNameW(window, name, 40);
+            if (wcscmp(name, TOOLTIPS_CLASSW) != 0 || !::IsWindowVisible(window)) return TRUE;
+            TTTOOLINFOW tool = {};
+            tool.cbSize = TTTOOLINFOW_V2_SIZE;
+            tool.lpszText = text;
+            if (::SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)) &&
+                (tool.uFlags & TTF_TRACK))
+                *reinterpret_cast<std::wstring*>(parameter) = text;
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&shown));
+    return shown;
+}
+
+TEST_F(FindLocationTest, ALocationWiderThanTheBoxIsToldInATip) {
+    makeFolder(CString(L'w', 100));
+    const CString wide = root + CString(L'w', 100);
+    startFolder = wide;
+    run([&] {
+        const HWND box = item(IDC_FIND_LOCATION);
+        const HWND edit = reinterpret_cast<HWND>(::SendMessageW(box, CBEM_GETEDITCONTROL, 0, 0));
+        ::SetFocus(list());
+        ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+        EXPECT_TRUE(ui_test::pump_until([&] { return shownTip() == wide.GetString(); }));
+        ::SetFocus(edit);
+        ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(6, 5));
+        EXPECT_TRUE(ui_test::pump_until([&] { return shownTip().empty(); })) << "not while it is typed into";
+        ::SetFocus(list());
+        chooseLocation(0);
+        ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(7, 5));
+        ui_test::pump();
+        EXPECT_EQ(shownTip(), L"") << "a short one is all there";
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, ARowWiderThanTheListIsToldInATip) {
+    makeFolder(CString(L'w', 100));
+    const CString wide = root + CString(L'w', 100);
+    startFolder = wide;
+    run([&] {
+        const HWND combo =
+            reinterpret_cast<HWND>(::SendMessageW(item(IDC_FIND_LOCATION), CBEM_GETCOMBOCONTROL, 0, 0));
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ::GetComboBoxInfo(combo, &info);
+        const HWND rowList = info.hwndList;
+        ::SendMessageW(rowList, LB_SETCURSEL, locations().size() - 1, 0);
+        RECT place = {};
+        ::SendMessageW(rowList, LB_GETITEMRECT, locations().size() - 1, reinterpret_cast<LPARAM>(&place));
+        ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, place.top + 2));
+        EXPECT_EQ(shownTip(), wide.GetString());
+        ::SendMessageW(rowList, WM_MOUSELEAVE, 0, 0);
+        EXPECT_EQ(shownTip(), L"");
+        ::SendMessageW(rowList, LB_SETCURSEL, 0, 0);
+        ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, 2));
+        EXPECT_EQ(shownTip(), L"");
+        cancel();
+    });
+}
+
+}  // namespace
