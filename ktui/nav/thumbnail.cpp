@@ -3,12 +3,16 @@
 #include <afxwin.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <ktdb.h>
 
 #include <ktui/nav/shell_thumbnail.h>
 
 namespace {
+
+/// The host's own, or null.
+KtUiThumbnailProvider provider = nullptr;
 
 /// Whether files with the ending of this one hold a preview of their own.
 bool is_drawing(const CString& path) {
@@ -48,6 +52,8 @@ void copy_centred(HDC dc, HDC source, SIZE picture, int width, int height) {
 HBITMAP ktuiGetThumbnail(const wchar_t* path, int width, int height) {
     const DWORD attributes = path != nullptr ? ::GetFileAttributesW(path) : INVALID_FILE_ATTRIBUTES;
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return nullptr;
+    if (provider != nullptr)
+        if (const HBITMAP bitmap = provider(path, width, height)) return bitmap;
     if (is_drawing(path))
         if (const HBITMAP bitmap = of_drawing(path)) return bitmap;
     return ExtractShellThumbnail(path, width, height);
@@ -65,4 +71,8 @@ bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height) {
     ::DeleteDC(source);
     ::DeleteObject(bitmap);
     return true;
+}
+
+KtUiThumbnailProvider KtUiSetThumbnailProvider(KtUiThumbnailProvider newProvider) {
+    return std::exchange(provider, newProvider);
 }

@@ -13,3 +13,9 @@ KTUI_API HBITMAP ktuiGetThumbnail(const wchar_t* path, int width, int height);
 /// Paints the preview of a file into the middle of `width` by `height` pixels at the origin of `dc`: made
 /// smaller to fit, never larger. Whether there was one.
 KTUI_API bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height);
+
+/// Previews of a host's own. Asked first for each file that is there: a bitmap for the caller to delete, or
+/// null, and then the preview is found as without a provider.
+using KtUiThumbnailProvider = HBITMAP (*)(const wchar_t* path, int width, int height);
+/// Sets the provider, null for none; answers the former one. None is set at first.
+KTUI_API KtUiThumbnailProvider KtUiSetThumbnailProvider(KtUiThumbnailProvider provider);

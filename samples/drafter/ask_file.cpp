@@ -4,24 +4,19 @@
 
 #include <iterator>
 
-CString AskFileName(CWnd& owner, const FileQuestion& question) {
+CString AskFileToOpen(CWnd& owner, UINT filter) {
     wchar_t path[MAX_PATH] = {};
-    CString filter;
-    filter.LoadString(question.filter);
-    filter.Replace(L'|', L'\0');
+    CString kinds;
+    kinds.LoadString(filter);
+    kinds.Replace(L'|', L'\0');
     OPENFILENAMEW request = {};
     request.lStructSize = sizeof(request);
     request.hwndOwner = owner.m_hWnd;
-    request.lpstrFilter = filter;
-    ::lstrcpynW(path, question.name, MAX_PATH);
+    request.lpstrFilter = kinds;
     request.lpstrFile = path;
-    if (!question.folder.IsEmpty()) request.lpstrInitialDir = question.folder;
     request.nMaxFile = MAX_PATH;
-    request.lpstrDefExt = question.extension;
-    request.Flags =
-        OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (question.isForSaving ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
-    const BOOL chosen = question.isForSaving ? ::GetSaveFileNameW(&request) : ::GetOpenFileNameW(&request);
-    return chosen ? CString(path) : CString();
+    request.Flags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_FILEMUSTEXIST;
+    return ::GetOpenFileNameW(&request) ? CString(path) : CString();
 }
 
 CString WhyNotWritable(const CString& path) {

@@ -42,6 +42,7 @@ bool CDraftDocument::Open(const wchar_t* path, OdDbDxfError& error) {
     if (drawing->readDxf(path, &error, &reading) != kOdOk) return false;
     m_reading = std::move(reading);
     m_drawing = drawing;
+    m_form = {drawing->originalFileVersion(), drawing->originalFileIsBinary()};
     m_history = std::make_unique<CUndoHistory>(m_drawing);
     m_written = whenWritten(path);
     m_isNew = false;
@@ -55,10 +56,11 @@ bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
     return true;
 }
 
-bool CDraftDocument::Save(const wchar_t* path) {
+bool CDraftDocument::Save(const wchar_t* path, const OdDxfForm& form) {
     m_drawing->setThumbnail(DrawingThumbnail(*m_drawing));
     keepBackup(path);
-    if (m_drawing->writeDxf(path) != kOdOk) return false;
+    if (m_drawing->writeDxf(path, form) != kOdOk) return false;
+    m_form = form;
     m_history->MarkSaved();
     m_reading = {};
     m_written = whenWritten(path);

@@ -29,7 +29,11 @@ public:
     /// The same for a template: the drawing is a new one then, without a file.
     bool StartFrom(const wchar_t* path, OdDbDxfError& error);
     /// Writes the drawing, with its thumbnail, in place of the file, which is kept with the extension .bak.
-    bool Save(const wchar_t* path);
+    bool Save(const wchar_t* path, const OdDxfForm& form);
+    /// The same in the form that the file has, or that of a new one.
+    bool Save(const wchar_t* path) { return Save(path, m_form); }
+    /// The form of the drawing's file; 2018 as text for a new drawing.
+    const OdDxfForm& form() const { return m_form; }
     /// Whether the drawing's file was written by others since it was opened or saved.
     bool IsFileNewer() const;
 
@@ -52,6 +56,7 @@ private:
 
     OdDbDatabasePtr m_drawing;
     OdDxfReading m_reading;
+    OdDxfForm m_form{OdDb::kDHL_1032};
     std::unique_ptr<CUndoHistory> m_history;
     unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
     CDrawingLock m_lock;

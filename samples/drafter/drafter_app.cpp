@@ -8,6 +8,7 @@
 
 #include <ktui/ktui.h>
 
+#include "drawing_chooser.h"
 #include "main_frame.h"
 #include "resource.h"
 
@@ -31,6 +32,7 @@ public:
         SetRegistryKey(L"Velmora");
         LoadStdProfileSettings(kMostRecentFiles);
         m_pRecentFileList->m_nMaxDisplayLength = kLongestRecentPath;
+        ShowPreviewsOfDrawings();
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;

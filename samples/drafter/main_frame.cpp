@@ -7,7 +7,6 @@
 #include <ktui/host/appearance.h>
 #include <ktui/host/message_box.h>
 
-#include "ask_file.h"
 #include "dimension_style_dialog.h"
 #include "measure_dialog.h"
 #include "messages.h"

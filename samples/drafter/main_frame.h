@@ -23,7 +23,8 @@ public:
     ~CMainFrame() override;
 
     /// Shows the drawing in `path`; tells the user why if it cannot be read, and the present drawing stays.
-    bool OpenDrawing(const CString& path);
+    /// A drawing that is opened to be looked at only takes no lock, and isn't saved under its own name.
+    bool OpenDrawing(const CString& path, bool isReadOnly = false);
 
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -100,7 +101,7 @@ private:
     /// The drawing's name for the user, also of one without a file.
     CString shownName() const;
     void showTitle();
-    bool saveTo(const CString& path);
+    bool saveTo(const CString& path, const OdDxfForm& form);
     /// Locks the file that the drawing is to be saved to, unless it is locked already; false if another
     /// program has it, which is told.
     bool lockForSaving(const CString& path, CDrawingLock& lock);
@@ -108,8 +109,7 @@ private:
     bool saveDrawing();
     /// Asks whether changes are to be saved; false if the user thought better of it.
     bool mayDiscard();
-    /// Asks for a file name; empty if cancelled.
-    CString askFileName(bool forSaving);
+    bool saveAs();
     /// Makes a drawing the newest of the application's recent files.
     void keepRecent(const CString& path);
     void forgetRecent(const CString& path);

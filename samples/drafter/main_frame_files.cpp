@@ -8,6 +8,7 @@
 #include <standin_host.h>
 
 #include "ask_file.h"
+#include "drawing_chooser.h"
 #include "dropped_files.h"
 #include "messages.h"
 #include "resource.h"
@@ -39,13 +40,14 @@ void tell(UINT id, const CString& path, int count = 0) {
 
 }  // namespace
 
-bool CMainFrame::OpenDrawing(const CString& file) {
+bool CMainFrame::OpenDrawing(const CString& file, bool isReadOnly) {
     const CString path = wholePath(file);
     auto document = std::make_unique<CDraftDocument>();
     // The drawing that is open already has its lock.
     const bool isSame = m_document->lock().Holds(path);
     CString holder;
-    if (!isSame && document->lock().Take(path, holder) == CDrawingLock::Result::kInUse) {
+    document->SetReadOnly(isReadOnly);
+    if (!isReadOnly && !isSame && document->lock().Take(path, holder) == CDrawingLock::Result::kInUse) {
         const InUseChoice choice = AskInUse(*this, path, holder);
         if (choice == InUseChoice::kCancel) return false;
         document->SetReadOnly(choice == InUseChoice::kReadOnly);
@@ -55,7 +57,7 @@ bool CMainFrame::OpenDrawing(const CString& file) {
         TellUnreadable(*this, path, error, shownName());
         return false;
     }
-    if (isSame) document->lock() = std::move(m_document->lock());
+    if (isSame && !isReadOnly) document->lock() = std::move(m_document->lock());
     showDocument(std::move(document));
     keepRecent(path);
     if (m_document->Reading().mendCount > 0) TellMended(*this, path, m_document->Reading());
@@ -69,7 +71,7 @@ void CMainFrame::showDocument(std::unique_ptr<CDraftDocument> document) {
     showDrawing(false);
 }
 
-bool CMainFrame::saveTo(const CString& path) {
+bool CMainFrame::saveTo(const CString& path, const OdDxfForm& form) {
     if (m_document->IsReadOnly() && path.CompareNoCase(m_document->path().c_str()) == 0) {
         CString text;
         text.Format(IDS_SAVE_READ_ONLY, path.GetString());
@@ -78,7 +80,7 @@ bool CMainFrame::saveTo(const CString& path) {
     }
     CDrawingLock lock;
     if (!lockForSaving(path, lock)) return false;
-    if (m_document->Save(path)) {
+    if (m_document->Save(path, form)) {
         m_document->SetReadOnly(false);
         if (lock.Holds(path)) m_document->lock() = std::move(lock);
         keepRecent(path);
@@ -116,11 +118,11 @@ bool CMainFrame::mayDiscard() {
     return saveDrawing();
 }
 
-CString CMainFrame::askFileName(bool forSaving) {
-    const CString folder = folderOf(recentFiles()[0]);
-    CString name;
-    if (forSaving) name = m_document->name().isEmpty() ? textOf(IDS_PROPOSED_NAME) : shownName();
-    return AskFileName(*this, {IDS_FILE_FILTER, L"dxf", forSaving, name, folder});
+/// Asks for a name and a form, and saves the drawing there; false if it wasn't saved.
+bool CMainFrame::saveAs() {
+    const CString name = m_document->name().isEmpty() ? textOf(IDS_PROPOSED_NAME) : shownName();
+    const DrawingToSave to = AskDrawingToSave(folderOf(recentFiles()[0]), name, m_document->form());
+    return !to.path.IsEmpty() && saveTo(to.path, to.form);
 }
 
 void CMainFrame::OnFileNew() {
@@ -134,8 +136,8 @@ void CMainFrame::OnFileNew() {
 
 void CMainFrame::OnFileOpen() {
     if (!mayDiscard()) return;
-    const CString path = askFileName(false);
-    if (!path.IsEmpty()) OpenDrawing(path);
+    const DrawingToOpen chosen = AskDrawingToOpen(folderOf(recentFiles()[0]));
+    if (!chosen.path.IsEmpty()) OpenDrawing(chosen.path, chosen.isReadOnly);
 }
 
 bool CMainFrame::saveDrawing() {
@@ -145,16 +147,12 @@ bool CMainFrame::saveDrawing() {
         if (choice == NewerFileChoice::kCancel) return false;
         asksName = choice == NewerFileChoice::kSaveAs;
     }
-    const CString path = asksName ? askFileName(true) : CString(m_document->path().c_str());
-    return !path.IsEmpty() && saveTo(path);
+    return asksName ? saveAs() : saveTo(m_document->path().c_str(), m_document->form());
 }
 
 void CMainFrame::OnFileSave() { saveDrawing(); }
 
-void CMainFrame::OnFileSaveAs() {
-    const CString path = askFileName(true);
-    if (!path.IsEmpty()) saveTo(path);
-}
+void CMainFrame::OnFileSaveAs() { saveAs(); }
 
 void CMainFrame::keepRecent(const CString& path) {
     // Another drafter may have put its own there since.

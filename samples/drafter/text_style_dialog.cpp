@@ -239,7 +239,7 @@ void CTextStyleDialog::OnFontList() {
     OnChanged();
 }
 
-CString CTextStyleDialog::AskFontFile() { return AskFileName(*this, {IDS_FONT_FILTER, nullptr}); }
+CString CTextStyleDialog::AskFontFile() { return AskFileToOpen(*this, IDS_FONT_FILTER); }
 
 void CTextStyleDialog::OnBrowseFont() {
     const CString file = AskFontFile();

@@ -237,6 +237,31 @@ TEST_F(Thumbnail, OfADrawingWithoutOneIsAskedOfTheShell) {
     EXPECT_EQ(record.calls.size(), 9u);
 }
 
+/// What the provider of a test was asked, and its answer for names that begin with "mine".
+std::vector<std::wstring> asked;
+HBITMAP providePreview(const wchar_t* path, int width, int height) {
+    const std::wstring name = std::filesystem::path(path).filename().wstring();
+    asked.push_back(name + L" " + std::to_wstring(width) + L"x" + std::to_wstring(height));
+    return name.rfind(L"mine", 0) == 0 ? ::CreateBitmap(7, 8, 1, 1, nullptr) : nullptr;
+}
+
+TEST_F(Thumbnail, AHostsOwnComesFirst) {
+    asked.clear();
+    EXPECT_EQ(KtUiSetThumbnailProvider(&providePreview), nullptr);
+    EXPECT_EQ(sizeOf(ktuiGetThumbnail(drawing(L"mine.dwg", 30, 20).c_str(), 70, 50)), L"7x8");
+    EXPECT_EQ(sizeOf(ktuiGetThumbnail(file(L"mine.png", "x").c_str(), 5, 6)), L"7x8");
+    EXPECT_TRUE(record.calls.empty());
+    EXPECT_EQ(sizeOf(ktuiGetThumbnail(drawing(L"other.dwg", 30, 20).c_str(), 5, 5)), L"30x20");
+    EXPECT_EQ(sizeOf(ktuiGetThumbnail(file(L"other.png", "x").c_str(), 5, 5)), L"4x4");
+    EXPECT_EQ(ktuiGetThumbnail((folderText() + L"\\mine.gone").c_str(), 5, 5), nullptr);
+    EXPECT_EQ(ktuiGetThumbnail(folderText().c_str(), 5, 5), nullptr);
+    EXPECT_EQ(asked, (std::vector<std::wstring>{L"mine.dwg 70x50", L"mine.png 5x6", L"other.dwg 5x5",
+                                                L"other.png 5x5"}));
+    EXPECT_EQ(KtUiSetThumbnailProvider(nullptr), &providePreview);
+    EXPECT_EQ(sizeOf(ktuiGetThumbnail(drawing(L"mine.dwg", 30, 20).c_str(), 5, 5)), L"30x20");
+    EXPECT_EQ(asked.size(), 4u);
+}
+
 TEST_F(Thumbnail, IsNoneWhereAStepFailsAndNothingIsLeft) {
     const std::wstring path = file(L"a.png", "x");
     // Calls up to each failing step, with the lists that are given back behind it.

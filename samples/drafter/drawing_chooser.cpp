@@ -1,0 +1,106 @@
+#include "drawing_chooser.h"
+
+#include <iterator>
+
+#include <ktui/nav/ktui_nav_dialog.h>
+
+#include "resource.h"
+
+namespace {
+
+CString textOf(UINT id) {
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+/// A version that drawings can be saved in; each has a text and a binary form.
+struct SavedVersion {
+    OdDb::DwgVersion version;
+    const wchar_t* name;
+};
+constexpr SavedVersion kSavedVersions[] = {
+    {OdDb::kDHL_1032, L"2018"}, {OdDb::kDHL_1027, L"2013"}, {OdDb::kDHL_1024, L"2010"},
+    {OdDb::kDHL_1021, L"2007"}, {OdDb::kDHL_1018, L"2004"}, {OdDb::kDHL_1015, L"2000"},
+    {OdDb::kDHL_1014, L"R14"},  {OdDb::kDHL_1012, L"R13"},  {OdDb::kDHL_1009, L"R12"},
+};
+
+void addType(CNavFilterArray& filters, const CString& description, const wchar_t* pattern) {
+    CNavFilter* const filter = filters.AddData();
+    filter->SetDescription(description);
+    filter->Add(pattern);
+}
+
+/// Two lines for each version: text, binary.
+void addSavedForms(CNavFilterArray& filters) {
+    for (const SavedVersion& saved : kSavedVersions)
+        for (const UINT id : {IDS_SAVED_AS_TEXT, IDS_SAVED_AS_BINARY}) {
+            CString description;
+            description.Format(id, saved.name);
+            addType(filters, description, L"*.dxf");
+        }
+}
+
+int lineOf(const OdDxfForm& form) {
+    int line = 0;
+    for (const SavedVersion& saved : kSavedVersions) {
+        if (saved.version == form.version) return line + (form.binary ? 1 : 0);
+        line += 2;
+    }
+    return form.binary ? 1 : 0;
+}
+
+OdDxfForm formOf(int line) {
+    OdDxfForm form;
+    const int version = line / 2;
+    if (version < 0 || version >= static_cast<int>(std::size(kSavedVersions))) return form;
+    form.version = kSavedVersions[version].version;
+    form.binary = line % 2 != 0;
+    return form;
+}
+
+/// Runs the dialog; the path chosen, empty if there is none.
+CString pathChosen(CKtUiNavDialog& dialog) {
+    CString path;
+    if (dialog.DoModal() == IDOK) dialog.GetSingleDataFullPath(path);
+    return path;
+}
+
+}  // namespace
+
+DrawingToOpen AskDrawingToOpen(const CString& folder) {
+    CNavDataArray chosen;
+    CNavFilterArray filters;
+    addType(filters, textOf(IDS_DRAWING_TYPE), L"*.dxf");
+    addType(filters, textOf(IDS_ANY_TYPE), L"*.*");
+    CKtUiNavDialog dialog(chosen, filters);
+    dialog.SetDialogName(L"DrafterOpen");
+    dialog.SetDefaultInitialFolder(folder);
+    dialog.SetPreviewVisible(1);
+    dialog.SetReadOnlyAllowed(1);
+    dialog.SetReadOnlyHidden(0);
+    dialog.SetNoURLsAllowed(1);
+    DrawingToOpen answer;
+    answer.path = pathChosen(dialog);
+    answer.isReadOnly = dialog.GetReadOnlySpecified() != 0;
+    return answer;
+}
+
+DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const OdDxfForm& present) {
+    CNavDataArray chosen;
+    CNavFilterArray filters;
+    addSavedForms(filters);
+    CKtUiNavDialog dialog(chosen, filters);
+    dialog.SetDialogName(L"DrafterSave");
+    dialog.SetCreatingFile(1);
+    dialog.SetConfirmReplace(1);
+    dialog.SetDefaultInitialFolder(folder);
+    dialog.SetInitialFileName(name);
+    dialog.SetDefaultFileExtension(L"dxf");
+    dialog.SetForceFilterIndex(lineOf(present));
+    dialog.SetNoURLsAllowed(1);
+    DrawingToSave answer;
+    answer.path = pathChosen(dialog);
+    answer.form = formOf(dialog.GetFilterIndex());
+    return answer;
+}

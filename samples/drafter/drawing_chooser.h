@@ -1,0 +1,25 @@
+// Asks for the drawing to open or to save to, through the toolkit's dialog: with places, a preview, search,
+// and a list of the forms that a drawing can be saved in.
+#pragma once
+
+#include <afxwin.h>
+
+#include <od_dxf_form.h>
+
+struct DrawingToOpen {
+    CString path;  ///< empty if the user cancelled
+    bool isReadOnly = false;
+};
+/// `folder` is shown the first time; later the dialog begins where it was left.
+DrawingToOpen AskDrawingToOpen(const CString& folder);
+
+struct DrawingToSave {
+    CString path;  ///< empty if the user cancelled
+    OdDxfForm form;
+};
+/// Proposes `name`, a file's name with or without its folder, and the form of the present file.
+DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const OdDxfForm& present);
+
+/// Shows previews of exchange files in the dialogs: the picture that a drawing brings with it, and for one
+/// without a picture that of what the drawing view would show, which is kept until the file changes.
+void ShowPreviewsOfDrawings();

@@ -1,0 +1,154 @@
+// A draughtsman opens and saves by the toolkit's dialog: the form of the file, looking without writing, the
+// preview, and the folders beside the files.
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "journey_fixture.h"
+
+using namespace journey;
+
+namespace {
+
+constexpr int kTypeBox = 1136, kNameBox = 1148;
+constexpr int kPlaces = 57015, kPreview = 57022;
+/// The lines of the list of forms: two for each version, text first.
+constexpr int kR12Text = 16, k2000Binary = 11;
+
+class FileDialogs : public Journey {
+protected:
+    FileDialogs() : first(scratchCopy(L"bracket.dxf")), target(scratchPath(L"file dialog target.dxf")) {
+        std::filesystem::remove(target);
+        open(first);
+    }
+    ~FileDialogs() override { std::filesystem::remove(target); }
+
+    HWND openSaveAs() {
+        drafter->activate(drafter->frame());
+        drafter->key('F', false, true);
+        drafter->key('A');
+        return drafter->waitForDialogOf(drafter->frame());
+    }
+    void saveAs(int form) {
+        HWND dialog = openSaveAs();
+        ASSERT_NE(dialog, nullptr);
+        drafter->pick(item(dialog, kTypeBox), form);
+        drafter->replaceText(item(dialog, kNameBox), target);
+        drafter->key(VK_RETURN);
+        EXPECT_TRUE(drafter->waitUntilGone(dialog));
+        EXPECT_TRUE(titleHas(L"file dialog target.dxf"));
+    }
+    bool titleHas(const std::wstring& words) {
+        return waitUntil([&] { return textOf(drafter->frame()).find(words) != std::wstring::npos; });
+    }
+    static std::string bytesOf(const std::wstring& path) {
+        std::ifstream stream(std::filesystem::path(path), std::ios::binary);
+        std::stringstream text;
+        text << stream.rdbuf();
+        return text.str();
+    }
+    /// The form that the saved file has.
+    OdDbDatabasePtr targetDrawing() const {
+        OdDbDatabasePtr drawing(new OdDbDatabase);
+        return drawing->readDxf(target.c_str()) == kOdOk ? drawing : OdDbDatabasePtr();
+    }
+    static HWND own(HWND dialog, int id) {
+        return item(::FindWindowExW(dialog, nullptr, L"#32770", nullptr), id);
+    }
+
+    std::wstring first, target;
+};
+
+TEST_F(FileDialogs, TheFormIsChosenAndKeptOnSavingAgain) {
+    saveAs(kR12Text);
+    OdDbDatabasePtr drawing = targetDrawing();
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(drawing->originalFileVersion(), OdDb::kDHL_1009);
+    EXPECT_FALSE(drawing->originalFileIsBinary());
+    std::filesystem::remove(target);
+    saveAs(k2000Binary);
+    drawing = targetDrawing();
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(drawing->originalFileVersion(), OdDb::kDHL_1015);
+    EXPECT_TRUE(drawing->originalFileIsBinary());
+    EXPECT_FALSE(drawing->thumbnail().empty());
+    // Ctrl+S goes on in that form, and so does the dialog.
+    const std::string before = bytesOf(target);
+    drafter->activate(drafter->frame());
+    drafter->key('S', true);
+    EXPECT_TRUE(waitUntil(
+        [&] { return std::filesystem::exists(std::filesystem::path(target).replace_extension(L".bak")); }));
+    EXPECT_EQ(bytesOf(target), before);
+    HWND dialog = openSaveAs();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(::SendMessageW(item(dialog, kTypeBox), CB_GETCURSEL, 0, 0), k2000Binary);
+    picture("journey-save-as");
+    cancel(dialog);
+    std::filesystem::remove(std::filesystem::path(target).replace_extension(L".bak"));
+}
+
+TEST_F(FileDialogs, ADrawingIsOpenedToBeLookedAt) {
+    HWND dialog = openByKey('O');
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(::IsWindowVisible(own(dialog, kPlaces)));
+    EXPECT_TRUE(::IsWindowVisible(own(dialog, kPreview)));
+    drafter->replaceText(item(dialog, kNameBox), scratchCopy(L"site_plan.dxf"));
+    // The arrow of the button has the other ways to open.
+    const RECT button = rectOf(item(dialog, IDOK));
+    drafter->click(item(dialog, IDOK), {button.right - button.left - 6, (button.bottom - button.top) / 2});
+    picture("journey-open-menu");
+    drafter->key('R');
+    EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_TRUE(titleHas(L"site_plan.dxf [read-only]"));
+    // It takes no lock, so another program may write it.
+    EXPECT_FALSE(std::filesystem::exists(scratchPath(L"site_plan.dxf.lock")));
+    drafter->activate(drafter->frame());
+    dialog = openByKey('S');
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_NE(item(dialog, kNameBox), nullptr) << "a name is asked for";
+    cancel(dialog);
+}
+
+TEST_F(FileDialogs, EscapeLeavesEverythingAsItWas) {
+    HWND dialog = openByKey('O');
+    ASSERT_NE(dialog, nullptr);
+    drafter->replaceText(item(dialog, kNameBox), scratchCopy(L"site_plan.dxf"));
+    cancel(dialog);
+    EXPECT_TRUE(titleHas(L"bracket.dxf"));
+    dialog = openSaveAs();
+    ASSERT_NE(dialog, nullptr);
+    cancel(dialog);
+    EXPECT_FALSE(std::filesystem::exists(target));
+}
+
+TEST_F(FileDialogs, FindTakesAFileFromAnotherFolder) {
+    const std::filesystem::path folder = scratchPath(L"file dialog find");
+    std::filesystem::create_directories(folder / L"deep");
+    std::filesystem::copy_file(first, folder / L"deep" / L"wanted one.dxf",
+                               std::filesystem::copy_options::overwrite_existing);
+    HWND dialog = openByKey('O');
+    ASSERT_NE(dialog, nullptr);
+    // Typing a folder goes there.
+    drafter->replaceText(item(dialog, kNameBox), folder.wstring());
+    drafter->key(VK_RETURN);
+    drafter->click(own(dialog, 57012));
+    HWND find = drafter->waitForDialogOf(dialog);
+    ASSERT_NE(find, nullptr);
+    picture("journey-find-file");
+    HWND page = ::FindWindowExW(find, nullptr, L"#32770", nullptr);
+    drafter->replaceText(item(page, 57041), L"wanted");
+    drafter->click(item(find, 57031));
+    EXPECT_TRUE(waitUntil([&] { return ::SendMessageW(item(find, 57034), LVM_GETITEMCOUNT, 0, 0) > 0; }));
+    EXPECT_TRUE(waitUntil([&] { return ::IsWindowEnabled(item(find, IDOK)) != FALSE; }));
+    picture("journey-find-file-found");
+    drafter->click(item(find, IDOK));
+    EXPECT_TRUE(drafter->waitUntilGone(find));
+    EXPECT_TRUE(waitUntil([&] { return textOf(item(dialog, kNameBox)) == L"wanted one.dxf"; }));
+    drafter->click(item(dialog, IDOK), {10, 8});
+    EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_TRUE(titleHas(L"wanted one.dxf"));
+    drafter.reset();
+    std::filesystem::remove_all(folder);
+}
+
+}  // namespace
