@@ -56,6 +56,23 @@ TEST_F(PlaceListTest, AnEmptyRecentFolderIsKept) {
     EXPECT_NE(item(0).m_icon, nullptr) << "of the system's folder";
 }
 
+std::vector<std::wstring> iconPaths;
+
+DWORD_PTR WINAPI notesIconPath(LPCWSTR path, DWORD, SHFILEINFOW*, UINT, UINT flags) {
+    if (flags == SHGFI_ICON) iconPaths.push_back(path);
+    return 0;
+}
+
+TEST_F(PlaceListTest, TheIconOfTheRecentFolderIsTheSystems) {
+    openWith({L"one"});
+    const ui_test::ReplacedImport notes(::GetModuleHandleW(nullptr), "SHGetFileInfoW", &notesIconPath);
+    ASSERT_TRUE(notes.isThere());
+    iconPaths.clear();
+    const int row = list->AddPlace({}, {}, kHistoryPlace, -1);
+    EXPECT_EQ(path(row), L"C:\\recent");
+    EXPECT_EQ(iconPaths, (std::vector<std::wstring>{systemPath(CSIDL_RECENT)}));
+}
+
 TEST_F(PlaceListTest, ReadsTheStoredRowsInTheirOrder) {
     storePlace(0, folder(L"two"), L"second");
     storePlace(1, L"Desktop", L"a caption that doesn't count");
