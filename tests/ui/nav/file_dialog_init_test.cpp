@@ -312,6 +312,19 @@ TEST_F(FileDialogInit, ThePlacesLieOverTheBarAndFollowIt) {
     });
 }
 
+TEST_F(FileDialogInit, TheButtonsLieClearOfTheSizeGrip) {
+    dialog.ConvertFlagsToState(0x8080);
+    for (const int preview : {0, 1}) {
+        dialog.SetPreviewVisible(preview);
+        look([&](HWND window) {
+            const HWND grip = ::FindWindowExW(window, nullptr, L"ScrollBar", nullptr);
+            ASSERT_NE(grip, nullptr);
+            for (int id = 57011; id <= 57014; ++id)
+                EXPECT_TRUE((placeOf(own(window, id)) & placeOf(grip)).IsRectEmpty()) << id;
+        });
+    }
+}
+
 TEST_F(FileDialogInit, TheEndOfASizingLaysThePlacesOut) {
     look([&](HWND window) {
         const HWND bar = ::GetDlgItem(window, 1184), places = own(window, 57015);
