@@ -101,6 +101,13 @@ CString CComBoDir::SelectedValue() const {
 
 void CComBoDir::SelectFirst() { SetCurSel(GetCount() > 1 ? 1 : 0); }
 
+void CComBoDir::ShowBeginning() {
+    const HWND edit = reinterpret_cast<HWND>(SendMessage(CBEM_GETEDITCONTROL));
+    if (edit == nullptr) return;
+    ::SendMessageW(edit, EM_SETSEL, 0, 0);
+    ::SendMessageW(edit, EM_SCROLLCARET, 0, 0);
+}
+
 void CComBoDir::TakeTypedText() {
     const HWND edit = reinterpret_cast<HWND>(SendMessage(CBEM_GETEDITCONTROL));
     if (edit == nullptr) return;

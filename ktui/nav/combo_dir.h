@@ -23,6 +23,8 @@ public:
     CString SelectedValue() const;
     /// Selects the drives if they are there, else what comes first.
     void SelectFirst();
+    /// Scrolls the text to its beginning: a path that is too long shows its drive.
+    void ShowBeginning();
     /// Adds a text that was typed instead of chosen, and selects it.
     void TakeTypedText();
 

@@ -80,6 +80,7 @@ CString CDlgFindPage1::selectedType() const {
 
 void CDlgFindPage1::SelectLocation(const CString& folder) {
     m_location.SetCurSel(m_location.AddLocation(folder, folder));
+    m_location.ShowBeginning();
 }
 
 void CDlgFindPage1::GetFolders(CStringArray& folders) {
@@ -103,10 +104,12 @@ void CDlgFindPage1::Reset() {
     m_name.SetCurSel(-1);
     m_name.SetWindowText(L"");
     m_location.SelectFirst();
+    m_location.ShowBeginning();
 }
 
 void CDlgFindPage1::EnableControls(bool enable) {
     for (int id = IDC_FIND_NAME; id <= IDC_FIND_SUBFOLDERS; ++id) GetDlgItem(id)->EnableWindow(enable);
+    m_location.ShowBeginning();
 }
 
 void CDlgFindPage1::OnBrowse() {
@@ -131,4 +134,5 @@ void CDlgFindPage1::OnSize(UINT type, int cx, int cy) {
     browse->SetWindowPos(nullptr, right - place.Width(), place.top, 0, 0,
                          SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     stretchBox(*this, m_location, right - place.Width() - gap);
+    m_location.ShowBeginning();
 }

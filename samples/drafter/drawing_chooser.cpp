@@ -79,7 +79,6 @@ DrawingToOpen AskDrawingToOpen(const CString& folder) {
     dialog.SetPreviewVisible(1);
     dialog.SetReadOnlyAllowed(1);
     dialog.SetReadOnlyHidden(0);
-    dialog.SetNoURLsAllowed(1);
     DrawingToOpen answer;
     answer.path = pathChosen(dialog);
     answer.isReadOnly = dialog.GetReadOnlySpecified() != 0;
@@ -98,7 +97,6 @@ DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const
     dialog.SetInitialFileName(name);
     dialog.SetDefaultFileExtension(L"dxf");
     dialog.SetForceFilterIndex(lineOf(present));
-    dialog.SetNoURLsAllowed(1);
     DrawingToSave answer;
     answer.path = pathChosen(dialog);
     answer.form = formOf(dialog.GetFilterIndex());

@@ -6,6 +6,8 @@
 
 #include "journey_fixture.h"
 
+#include <commctrl.h>
+
 using namespace journey;
 
 namespace {
@@ -148,7 +150,9 @@ TEST_F(FileDialogs, FindTakesAFileFromAnotherFolder) {
     EXPECT_TRUE(drafter->waitUntilGone(dialog));
     EXPECT_TRUE(titleHas(L"wanted one.dxf"));
     drafter.reset();
-    std::filesystem::remove_all(folder);
+    // The program may still be leaving the folder.
+    std::error_code error;
+    EXPECT_TRUE(waitUntil([&] { return std::filesystem::remove_all(folder, error), !error; }));
 }
 
 }  // namespace

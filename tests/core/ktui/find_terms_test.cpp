@@ -102,9 +102,9 @@ TEST(FindDates, MonthsAreTakenOffWithoutBorrowing) {
     EXPECT_EQ(time.hour, 10);
     EXPECT_EQ(time.minute, 20);
     EXPECT_EQ(time.second, 30);
-    const CalendarTime far = MonthsBefore({2026, 11, 22, 0, 0, 0}, 26);
-    EXPECT_EQ(far.year, 2024);
-    EXPECT_EQ(far.month, 9);
+    const CalendarTime earlier = MonthsBefore({2026, 11, 22, 0, 0, 0}, 26);
+    EXPECT_EQ(earlier.year, 2024);
+    EXPECT_EQ(earlier.month, 9);
     const CalendarTime whole = MonthsBefore({2026, 1, 1, 0, 0, 0}, 12);
     EXPECT_EQ(whole.year, 2025);
     EXPECT_EQ(whole.month, 1);

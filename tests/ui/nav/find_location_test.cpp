@@ -281,6 +281,23 @@ TEST_F(FindLocationTest, ALocationWiderThanTheBoxIsToldInATip) {
     });
 }
 
+TEST_F(FindLocationTest, ALocationWiderThanTheBoxShowsItsBeginning) {
+    makeFolder(CString(L'w', 100));
+    startFolder = root + CString(L'w', 100);
+    run([&] {
+        const HWND edit =
+            reinterpret_cast<HWND>(::SendMessageW(item(IDC_FIND_LOCATION), CBEM_GETEDITCONTROL, 0, 0));
+        // The first character stands where characters begin, and not to the left of the box.
+        const auto placeOfFirst = [&] {
+            return static_cast<int>(static_cast<short>(LOWORD(::SendMessageW(edit, EM_POSFROMCHAR, 0, 0))));
+        };
+        EXPECT_GE(placeOfFirst(), 0);
+        search();
+        EXPECT_GE(placeOfFirst(), 0) << "after a search too";
+        cancel();
+    });
+}
+
 TEST_F(FindLocationTest, ARowWiderThanTheListIsToldInATip) {
     makeFolder(CString(L'w', 100));
     const CString wide = root + CString(L'w', 100);
