@@ -214,6 +214,30 @@ void showPickerBar(Drafter& drafter) {
     drafter.key(VK_ESCAPE);
 }
 
+/// Opening with its preview and search, and the forms that a drawing is saved in.
+void showFiles(Drafter& drafter) {
+    constexpr int kFiles = 1121, kTypes = 1136, kFind = 57012;
+    HWND dialog = openByKey(drafter, 'O', "the dialog that opens drawings");
+    HWND list = ::GetWindow(item(dialog, kFiles), GW_CHILD);
+    waitUntil([&] { return ::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) > 0; });
+    drafter.click(list, {60, 10});
+    tell("open", L"Chose one of " + std::to_wstring(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0)) +
+                     L" drawings; its preview shows");
+    drafter.click(item(::FindWindowExW(dialog, nullptr, L"#32770", nullptr), kFind));
+    HWND find = opened(drafter, dialog, "the search for files");
+    tell("find-file", L"Opened \"" + textOf(find) + L"\"");
+    close(drafter, find);
+    close(drafter, dialog);
+    drafter.activate(drafter.frame());
+    drafter.key('F', false, true);
+    drafter.key('A');
+    dialog = opened(drafter, drafter.frame(), "the dialog that saves drawings");
+    drafter.drop(item(dialog, kTypes));
+    tell("save-as", L"Dropped the forms that a drawing is saved in");
+    drafter.key(VK_ESCAPE);
+    close(drafter, dialog);
+}
+
 /// The question that closing with the changes so far asks; cancelled.
 void showQuestion(Drafter& drafter) {
     ::PostMessageW(drafter.frame(), WM_CLOSE, 0, 0);
@@ -263,6 +287,7 @@ int ShowDialogs() {
         return 1;
     }
     try {
+        showFiles(drafter);
         showProperties(drafter);
         showDimensionStyle(drafter);
         showTextStyle(drafter);

@@ -10,7 +10,7 @@ namespace {
 TEST(SaveOptionLeaks, AThousandSheetsLeaveNothing) {
     ui_test::TestHost host;
     ui_test::ParentWindow parent;
-    const ui_test::OpenDrawing open(host);
+    ui_test::OpenDrawing open(host);
     int shown = 0;
     const size_t growth = leaks::heap_growth([&parent] { leaks::open_bare_sheet(parent, 0); });
     leaks::expect_no_growth(
@@ -22,6 +22,7 @@ TEST(SaveOptionLeaks, AThousandSheetsLeaveNothing) {
             });
             const INT_PTR result = sheet.DoModal();
             EXPECT_EQ(result, shown % 2 ? IDOK : IDCANCEL);
+            open.document.calls.clear();
         },
         growth, leaks::kShownGdiSlack);
     EXPECT_EQ(shown, leaks::kTimes + leaks::kWarmUp);
