@@ -1,4 +1,5 @@
 // Previews of exchange files for the file dialogs: the pictures that they bring, and drawn ones.
+#include <algorithm>
 #include <cstdint>
 #include <fstream>
 #include <string>
@@ -109,14 +110,38 @@ HBITMAP drawnPreview(const wchar_t* path) {
     return bitmapIn(picture);
 }
 
-HBITMAP previewOf(const wchar_t* path, int, int) {
+/// Makes a picture smaller to fit, with its lines mixed and not left out; takes `bitmap` over.
+HBITMAP fitted(HBITMAP bitmap, int width, int height) {
+    BITMAP picture = {};
+    if (bitmap == nullptr || ::GetObjectW(bitmap, sizeof picture, &picture) == 0) return bitmap;
+    const double scale = std::min(static_cast<double>(width) / picture.bmWidth,
+                                  static_cast<double>(height) / picture.bmHeight);
+    const CSize size(static_cast<int>(picture.bmWidth * scale), static_cast<int>(picture.bmHeight * scale));
+    if (scale >= 1 || size.cx < 1 || size.cy < 1) return bitmap;
+    CClientDC screen(nullptr);
+    CDC from, to;
+    CBitmap smaller;
+    if (!from.CreateCompatibleDC(&screen) || !to.CreateCompatibleDC(&screen) ||
+        !smaller.CreateCompatibleBitmap(&screen, size.cx, size.cy))
+        return bitmap;
+    const HGDIOBJ formerFrom = ::SelectObject(from, bitmap), formerTo = ::SelectObject(to, smaller);
+    to.SetStretchBltMode(HALFTONE);
+    to.SetBrushOrg(0, 0);
+    to.StretchBlt(0, 0, size.cx, size.cy, &from, 0, 0, picture.bmWidth, picture.bmHeight, SRCCOPY);
+    ::SelectObject(from, formerFrom);
+    ::SelectObject(to, formerTo);
+    ::DeleteObject(bitmap);
+    return static_cast<HBITMAP>(smaller.Detach());
+}
+
+HBITMAP previewOf(const wchar_t* path, int width, int height) {
     const CString name = path;
     if (name.Right(4).CompareNoCase(L".dxf") != 0) return nullptr;
     HBITMAP bitmap = nullptr;
     HPALETTE palette = nullptr;
-    if (!ktdbGetPreviewBitmapFromDwg(path, &bitmap, &palette)) return drawnPreview(path);
+    if (!ktdbGetPreviewBitmapFromDwg(path, &bitmap, &palette)) bitmap = drawnPreview(path);
     ::DeleteObject(palette);
-    return bitmap;
+    return fitted(bitmap, width, height);
 }
 
 }  // namespace
