@@ -2,13 +2,18 @@
 
 #include <ktdsres/nav_file_dialog_ids.h>
 
+#include <cstddef>
+
 bool HasOpenMenu(const OpenMenuSettings& settings) {
     return settings.opens &&
            (!settings.readOnlyHidden || settings.partialOpen || settings.openWithoutTemplate);
 }
 
 std::vector<OpenMenuEntry> OpenMenuEntries(const OpenMenuSettings& settings) {
-    std::vector<OpenMenuEntry> entries = {{kMenuOpen, IDS_NAV_OPEN, L"打开(&O)"}};
+    constexpr std::size_t kMost = 6;
+    std::vector<OpenMenuEntry> entries;
+    entries.reserve(kMost);
+    entries.push_back({kMenuOpen, IDS_NAV_OPEN, L"打开(&O)"});
     if (!settings.readOnlyHidden)
         entries.push_back({kMenuOpenReadOnly, IDS_NAV_OPEN_READ_ONLY, L"以只读方式打开(&R)"});
     if (settings.partialOpen) entries.push_back({kMenuPartialOpen, IDS_NAV_PARTIAL_OPEN, L"局部打开(&P)"});
