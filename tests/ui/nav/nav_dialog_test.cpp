@@ -323,33 +323,47 @@ TEST_F(ApplicationDialog, ThumbnailsFollowTheWorkingDrawing) {
     oddbSetHostApplicationServices(former);
 }
 
+/// Where the folder of recent files belongs. One that programs have filled is put aside for as long as this
+/// lives, and what a test makes in its place goes.
+class RecentPlace {
+public:
+    RecentPlace() {
+        OdString base;
+        EXPECT_TRUE(ktutGetAppDataDir(base));
+        path = CString(base.c_str()) + L"\\Recent";
+        ::MoveFileW(path, path + L" put aside");
+        EXPECT_EQ(::GetFileAttributesW(path), INVALID_FILE_ATTRIBUTES);
+    }
+    ~RecentPlace() {
+        ::RemoveDirectoryW(path);
+        ::DeleteFileW(path);
+        ::MoveFileW(path + L" put aside", path);
+    }
+    RecentPlace(const RecentPlace&) = delete;
+    RecentPlace& operator=(const RecentPlace&) = delete;
+
+    CString path;
+};
+
 TEST_F(ApplicationDialog, TheRecentFolderIsMadeInTheApplicationsData) {
-    OdString base;
-    ASSERT_TRUE(ktutGetAppDataDir(base));
-    const CString wanted = CString(base.c_str()) + L"\\Recent";
-    ::RemoveDirectoryW(wanted);
+    const RecentPlace recent;
     CString folder;
     EXPECT_EQ(dialog.GetRecentDirectory(folder), 1);
-    EXPECT_EQ(folder, wanted);
-    EXPECT_TRUE(::GetFileAttributesW(wanted) & FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_EQ(folder, recent.path);
+    EXPECT_TRUE(::GetFileAttributesW(recent.path) & FILE_ATTRIBUTE_DIRECTORY);
     folder = L"";
     EXPECT_EQ(dialog.GetRecentDirectory(folder), 1) << "now that it is there";
-    EXPECT_EQ(folder, wanted);
-    ::RemoveDirectoryW(wanted);
+    EXPECT_EQ(folder, recent.path);
 }
 
 TEST_F(ApplicationDialog, AFileInThePlaceOfTheRecentFolderIsAFailure) {
-    OdString base;
-    ASSERT_TRUE(ktutGetAppDataDir(base));
-    const CString name = CString(base.c_str()) + L"\\Recent";
-    ::RemoveDirectoryW(name);
-    const HANDLE file = ::CreateFileW(name, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const RecentPlace recent;
+    const HANDLE file = ::CreateFileW(recent.path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     ASSERT_NE(file, INVALID_HANDLE_VALUE);
     CString folder = L"before";
     EXPECT_EQ(dialog.GetRecentDirectory(folder), 0);
     EXPECT_EQ(folder, L"before");
     ::CloseHandle(file);
-    ::DeleteFileW(name);
 }
 
 TEST_F(ApplicationDialog, FixedAnswers) {
