@@ -2,10 +2,8 @@
 
 #include <afxdisp.h>
 
-#include <ctime>
-
 #include <ktdsres/find_file_ids.h>
-#include <ktui/nav/find_terms.h>
+#include <ktui/nav/find_local_time.h>
 
 BEGIN_MESSAGE_MAP(CDlgFindPage2, FindPage)
     ON_COMMAND_RANGE(IDC_FIND_ANY_DATE, IDC_FIND_BY_DATE, &CDlgFindPage2::OnFilter)
@@ -25,18 +23,9 @@ CalendarTime calendarOf(const CTime& time) {
 }
 
 /// Throws COleException: E_FAIL for a field out of its range, E_INVALIDARG for a time that can't be told.
-/// Kept: a day beyond the month's end becomes one of the next month.
 FindTime timeOf(const CalendarTime& fields) {
     if (!IsInRange(fields)) AfxThrowOleException(E_FAIL);
-    tm parts = {};
-    parts.tm_year = fields.year - 1900;
-    parts.tm_mon = fields.month - 1;
-    parts.tm_mday = fields.day;
-    parts.tm_hour = fields.hour;
-    parts.tm_min = fields.minute;
-    parts.tm_sec = fields.second;
-    parts.tm_isdst = -1;
-    const FindTime time = ::_mktime64(&parts);
+    const FindTime time = SecondsOfLocal(fields);
     if (time == -1) AfxThrowOleException(E_INVALIDARG);
     return time;
 }

@@ -1,6 +1,7 @@
 #include <ktui/nav/find_results.h>
 
-#include <ctime>
+#include <ktui/nav/find_local_time.h>
+
 #include <memory>
 
 #include <shellapi.h>
@@ -30,15 +31,8 @@ constexpr Column kColumns[kFindColumns] = {
 /// Local seconds of a calendar time; 0 for years before 1900 and what can't be told.
 FindTime secondsOf(const SYSTEMTIME& local) {
     if (local.wYear < 1900) return 0;
-    tm parts = {};
-    parts.tm_year = local.wYear - 1900;
-    parts.tm_mon = local.wMonth - 1;
-    parts.tm_mday = local.wDay;
-    parts.tm_hour = local.wHour;
-    parts.tm_min = local.wMinute;
-    parts.tm_sec = local.wSecond;
-    parts.tm_isdst = -1;
-    const FindTime time = ::_mktime64(&parts);
+    const FindTime time =
+        SecondsOfLocal({local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond});
     return time == -1 ? 0 : time;
 }
 

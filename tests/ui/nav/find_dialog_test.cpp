@@ -1,5 +1,6 @@
 // The find dialog at its start: its texts, its controls, where they stand.
 #include "find_fixture.h"
+#include "in_language.h"
 
 namespace {
 
@@ -74,20 +75,6 @@ FoundTexts typesOf(HWND box) {
     return texts;
 }
 
-/// The language in which the system takes texts from a library.
-class InLanguage {
-public:
-    explicit InLanguage(LANGID language) : m_before(::GetThreadLocale()) {
-        ::SetThreadLocale(MAKELCID(language, SORT_DEFAULT));
-    }
-    ~InLanguage() { ::SetThreadLocale(m_before); }
-
-private:
-    LCID m_before;
-};
-
-constexpr LANGID kChinese = MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED);
-
 TEST_F(FindTest, StartsWithItsTexts) {
     run([this] {
         EXPECT_EQ(caption(), L"Find");
@@ -105,7 +92,7 @@ TEST_F(FindTest, StartsWithItsTexts) {
 }
 
 TEST_F(FindTest, SpeaksChinese) {
-    const InLanguage chinese(kChinese);
+    const ui_test::InLanguage chinese(ui_test::kChinese);
     makeFile(L"a.dwg");
     run([this] {
         EXPECT_EQ(caption(), L"查找");

@@ -1,4 +1,5 @@
 // The menu of the Places list, the dialog of a place, and folders that are dropped.
+#include "in_language.h"
 #include "place_fixture.h"
 
 #include <functional>
@@ -484,36 +485,20 @@ TEST_F(PlaceListCommands, EachDropIsFinished) {
 }
 
 TEST(PlaceListTexts, StandInTheResourceLibraryInBothLanguages) {
-    const HMODULE library = ::GetModuleHandleW(L"ktdsres.dll");
-    ASSERT_NE(library, nullptr);
-    const std::pair<UINT, std::pair<const wchar_t*, const wchar_t*>> texts[] = {
-        {54501, {L"Places Item Properties", L"位置项特性"}},
-        {54502,
-         {L"The path entered is invalid. It must be a full path to an existing folder.",
-          L"输入的路径无效。必须是现有文件夹的完整路径。"}},
-        {54503, {L"Are you sure you want to remove '%s' from Places?", L"确定要从位置列表中删除“%s”吗？"}},
-        {54504, {L"R&emove", L"删除(&E)"}},
-        {54505, {L"Add &Current Folder", L"添加当前文件夹(&C)"}},
-        {54506, {L"&Add", L"添加(&A)"}},
-        {54507, {L"&Properties", L"特性(&P)"}},
-        {54508, {L"&Restore Standard Folders", L"恢复标准文件夹(&R)"}},
-        {54509,
-         {L"Would you like to save the changes you made to the Places list?",
-          L"是否保存对位置列表所做的更改？"}},
-        {54510, {L"History", L"历史记录"}},
-    };
-    const LCID before = ::GetThreadLocale();
-    for (const bool isChinese : {false, true}) {
-        ::SetThreadLocale(isChinese
-                              ? MAKELCID(MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED), SORT_DEFAULT)
-                              : MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT));
-        for (const auto& [id, said] : texts) {
-            wchar_t text[200] = {};
-            ::LoadStringW(library, id, text, 200);
-            EXPECT_STREQ(text, isChinese ? said.second : said.first) << id;
-        }
-    }
-    ::SetThreadLocale(before);
+    ui_test::expect_library_texts({
+        {54501, L"Places Item Properties", L"位置项特性"},
+        {54502, L"The path entered is invalid. It must be a full path to an existing folder.",
+         L"输入的路径无效。必须是现有文件夹的完整路径。"},
+        {54503, L"Are you sure you want to remove '%s' from Places?", L"确定要从位置列表中删除“%s”吗？"},
+        {54504, L"R&emove", L"删除(&E)"},
+        {54505, L"Add &Current Folder", L"添加当前文件夹(&C)"},
+        {54506, L"&Add", L"添加(&A)"},
+        {54507, L"&Properties", L"特性(&P)"},
+        {54508, L"&Restore Standard Folders", L"恢复标准文件夹(&R)"},
+        {54509, L"Would you like to save the changes you made to the Places list?",
+         L"是否保存对位置列表所做的更改？"},
+        {54510, L"History", L"历史记录"},
+    });
 }
 
 }  // namespace

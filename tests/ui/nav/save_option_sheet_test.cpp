@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "in_language.h"
 #include "open_drawing.h"
 #include "ui_test.h"
 
@@ -352,27 +353,13 @@ TEST_F(DxfOptions, TheLimitsAreDecimalsToo) {
 }
 
 TEST(SaveOptionTexts, StandInTheResourceLibraryInBothLanguages) {
-    const HMODULE library = ::GetModuleHandleW(L"ktdsres.dll");
-    ASSERT_NE(library, nullptr);
-    const std::pair<UINT, std::pair<const wchar_t*, const wchar_t*>> texts[] = {
-        {54031, {L"None", L"无"}},
-        {54032, {L"Layers", L"图层"}},
-        {54033, {L"Spaces", L"空间"}},
-        {54034, {L"Layers and spaces", L"图层和空间"}},
-        {54035, {L"Save As Options", L"另存为选项"}},
-    };
-    const LCID before = ::GetThreadLocale();
-    for (const bool isChinese : {false, true}) {
-        ::SetThreadLocale(isChinese
-                              ? MAKELCID(MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED), SORT_DEFAULT)
-                              : MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT));
-        for (const auto& [id, said] : texts) {
-            wchar_t text[200] = {};
-            ::LoadStringW(library, id, text, 200);
-            EXPECT_STREQ(text, isChinese ? said.second : said.first) << id;
-        }
-    }
-    ::SetThreadLocale(before);
+    ui_test::expect_library_texts({
+        {54031, L"None", L"无"},
+        {54032, L"Layers", L"图层"},
+        {54033, L"Spaces", L"空间"},
+        {54034, L"Layers and spaces", L"图层和空间"},
+        {54035, L"Save As Options", L"另存为选项"},
+    });
 }
 
 }  // namespace

@@ -1,25 +1,11 @@
 // The stand-in host's help: which page opens, in which language, and what is said when there is none.
 #include "../../../platform/standin/resource.h"
 #include "host_fixture.h"
+#include "in_language.h"
 
 namespace {
 
-/// The user's language for as long as it lives.
-class Language {
-public:
-    explicit Language(LANGID language) : m_former(::GetThreadLocale()) {
-        ::SetThreadLocale(MAKELCID(language, SORT_DEFAULT));
-    }
-    ~Language() { ::SetThreadLocale(m_former); }
-    Language(const Language&) = delete;
-    Language& operator=(const Language&) = delete;
-
-private:
-    LCID m_former;
-};
-
-constexpr LANGID kEnglish = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
-constexpr LANGID kChinese = MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED);
+using ui_test::InLanguage, ui_test::kChinese, ui_test::kEnglish;
 
 class Help : public ui_test::HostTest {
 protected:
@@ -60,11 +46,11 @@ private:
 TEST_F(Help, ATopicOpensItsPageInTheLanguageOfTheUser) {
     const std::wstring english = page(L"en\\Measure.html"), chinese = page(L"zh\\Measure.html");
     {
-        const Language user(kEnglish);
+        const InLanguage user(kEnglish);
         host.uiHost()->showHelp(L"Measure");
     }
     {
-        const Language user(kChinese);
+        const InLanguage user(kChinese);
         host.uiHost()->showHelp(L"Measure");
     }
     EXPECT_EQ(opened, (Pages{english, chinese}));
@@ -80,7 +66,7 @@ TEST_F(Help, WithoutATopicAndADialogTheStartPageOpens) {
 
 TEST_F(Help, AMissingTranslationGivesTheEnglishPage) {
     const std::wstring english = page(L"en\\Measure.html");
-    const Language user(kChinese);
+    const InLanguage user(kChinese);
     host.uiHost()->showHelp(L"Measure");
     EXPECT_EQ(opened, Pages{english});
 }
@@ -145,7 +131,7 @@ TEST_F(Help, EachDialogOfTheHostHasATopic) {
                                                       {IDD_EXPORT_OPTIONS, L"ExportOptions"}};
     for (const auto& [id, topic] : topics) {
         for (const LANGID language : {kEnglish, kChinese}) {
-            const Language user(language);
+            const InLanguage user(language);
             const std::wstring expected = page((std::wstring(L"en\\") + topic + L".html").c_str());
             const HWND dialog = ::CreateDialogParamW(
                 ::GetModuleHandleW(L"ktstandin.dll"), MAKEINTRESOURCEW(id), parent,
@@ -169,7 +155,7 @@ TEST_F(Help, WithoutAFolderOfItsOwnItLiesBesideTheProgram) {
 }
 
 TEST_F(Help, TheTextsAreChineseForAChineseUser) {
-    const Language user(kChinese);
+    const InLanguage user(kChinese);
     const CString text = messageOf([&] { host.uiHost()->showHelp(L"Nowhere"); });
     EXPECT_NE(text.Find(L"没有帮助页“Nowhere”"), -1);
 }
