@@ -7,6 +7,8 @@
 #include <kmfc/bitmap_button.h>
 #include <kmfc/control_bar.h>
 #include <kmfc/dialog_bar.h>
+#include <kmfc/edit_view.h>
+#include <kmfc/form_view.h>
 #include <kmfc/mem_dc.h>
 #include <kmfc/status_bar.h>
 #include <kmfc/tool_bar.h>

@@ -12,11 +12,17 @@
 #include <kmfc/cmd_target.h>
 #include <kmfc/data_exchange.h>
 #include <kmfc/dialog.h>
+#include <kmfc/doc_manager.h>
+#include <kmfc/doc_template.h>
+#include <kmfc/document.h>
 #include <kmfc/frame.h>
 #include <kmfc/gdi.h>
+#include <kmfc/mdi_frame.h>
 #include <kmfc/menu.h>
 #include <kmfc/module_state.h>
+#include <kmfc/scroll_view.h>
 #include <kmfc/shortcut.h>
 #include <kmfc/standard_controls.h>
 #include <kmfc/thread.h>
+#include <kmfc/view.h>
 #include <kmfc/wnd.h>

@@ -1,5 +1,6 @@
 // CWinApp: start and end of the application, its services.
 #include <kmfc/app.h>
+#include <kmfc/doc_manager.h>
 #include <kmfc/ole_data.h>
 #include <kmfc/recent_file_list.h>
 
@@ -27,6 +28,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) {
 }
 
 CWinApp::~CWinApp() {
+    delete m_pDocManager;
     delete m_pRecentFileList;
     AFX_MODULE_STATE* state = AfxGetModuleState();
     if (state->m_pCurrentWinApp == this) state->m_pCurrentWinApp = nullptr;

@@ -1,8 +1,10 @@
 // CFrameWnd: menu, accelerators, messages, command routing, modal state.
 #include <kmfc/control_bar.h>
+#include <kmfc/doc_template.h>
+#include <kmfc/document.h>
 #include <kmfc/frame.h>
-
 #include <kmfc/status_bar.h>
+#include <kmfc/view.h>
 
 #include "thread_state.h"
 
@@ -16,6 +18,10 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_DESTROY()
     ON_WM_SIZE()
     ON_WM_ACTIVATE()
+    ON_WM_SETFOCUS()
+    ON_WM_DROPFILES()
+    ON_WM_QUERYENDSESSION()
+    ON_WM_ENDSESSION()
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUSELECT()
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
@@ -40,6 +46,7 @@ BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
     if (cs.lpszClass == nullptr)
         cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
                                            reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+    if ((static_cast<DWORD>(cs.style) & FWS_ADDTOTITLE) != 0) cs.style |= static_cast<LONG>(FWS_PREFIXTITLE);
     return TRUE;
 }
 
@@ -50,7 +57,7 @@ BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName) {
 }
 
 BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                       CWnd* pParentWnd, LPCTSTR lpszMenuName, DWORD dwExStyle, void* pContext) {
+                       CWnd* pParentWnd, LPCTSTR lpszMenuName, DWORD dwExStyle, CCreateContext* pContext) {
     HMENU menu = nullptr;
     if (lpszMenuName != nullptr) {
         menu = ::LoadMenuW(AfxFindResourceHandle(lpszMenuName, RT_MENU), lpszMenuName);
@@ -71,7 +78,8 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     return FALSE;
 }
 
-BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, void* pContext) {
+BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd,
+                          CCreateContext* pContext) {
     m_nIDHelp = nIDResource;
     CString full, title;
     if (full.LoadString(nIDResource)) AfxExtractSubString(title, full, 0);
@@ -79,19 +87,65 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
     HICON icon = ::LoadIconW(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
                                                     reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon);
-    if (!Create(windowClass, title, dwDefaultStyle & ~FS_ADDTOTITLE, rectDefault, pParentWnd, name, 0,
-                pContext))
-        return FALSE;
+    if (!Create(windowClass, title, dwDefaultStyle, rectDefault, pParentWnd, name, 0, pContext)) return FALSE;
     LoadAccelTable(name);
     return TRUE;
 }
 
-int CFrameWnd::OnCreate(LPCREATESTRUCT) { return Default() == -1 ? -1 : 0; }
+int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    return OnCreateHelper(lpCreateStruct, static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams));
+}
+
+int CFrameWnd::OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext) {
+    if (Default() == -1 || !OnCreateClient(lpcs, pContext)) return -1;
+    if (GetActiveDocument() != nullptr || pContext != nullptr) RecalcLayout();
+    return 0;
+}
 
 void CFrameWnd::OnClose() {
+    CDocument* document = GetActiveDocument();
+    if (document != nullptr && !document->CanCloseFrame(this)) return;
     CWinApp* app = AfxGetApp();
-    if (app != nullptr && app->m_pMainWnd == this && !app->SaveAllModified()) return;
-    DestroyWindow();
+    HWND const window = m_hWnd;
+    if (app != nullptr && app->m_pMainWnd == this) {
+        if (document == nullptr && !app->SaveAllModified()) return;
+        app->HideApplication();
+        // A document takes the frames that show it along, and this may be one.
+        app->CloseAllDocuments(FALSE);
+        if (::IsWindow(window)) ::DestroyWindow(window);
+        return;
+    }
+    // The last frame of a document closes that.
+    if (document != nullptr && document->m_bAutoDelete && m_nWindow == -1)
+        document->OnCloseDocument();
+    else
+        DestroyWindow();
+}
+
+BOOL CFrameWnd::OnQueryEndSession() {
+    CWinApp* app = AfxGetApp();
+    return app == nullptr || app->m_pMainWnd != this || app->SaveAllModified();
+}
+
+void CFrameWnd::OnEndSession(BOOL bEnding) {
+    CWinApp* app = AfxGetApp();
+    if (!bEnding || app == nullptr || app->m_pMainWnd != this) return;
+    // The session may end as soon as this returns.
+    app->CloseAllDocuments(TRUE);
+    app->ExitInstance();
+}
+
+void CFrameWnd::OnDropFiles(HDROP hDropInfo) {
+    SetActiveWindow();
+    const UINT count = ::DragQueryFileW(hDropInfo, 0xFFFFFFFF, nullptr, 0);
+    CWinApp* app = AfxGetApp();
+    for (UINT i = 0; i < count && app != nullptr; ++i) {
+        CString path;
+        ::DragQueryFileW(hDropInfo, i, path.GetBuffer(MAX_PATH * 4), MAX_PATH * 4);
+        path.ReleaseBuffer();
+        app->OpenDocumentFile(path);
+    }
+    ::DragFinish(hDropInfo);
 }
 
 void CFrameWnd::OnDestroy() {
@@ -103,6 +157,18 @@ void CFrameWnd::PostNcDestroy() { delete this; }
 
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
+    CFrameWnd* active = GetActiveFrame();
+    CView* view = active != nullptr ? active->GetActiveView() : nullptr;
+    if (view == nullptr) return;
+    if (nState != WA_INACTIVE && !bMinimized) view->OnActivateView(TRUE, view, view);
+    view->OnActivateFrame(nState, this);
+}
+
+void CFrameWnd::OnSetFocus(CWnd* pOldWnd) {
+    if (m_pViewActive != nullptr)
+        m_pViewActive->SetFocus();
+    else
+        CWnd::OnSetFocus(pOldWnd);
 }
 
 void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
@@ -139,6 +205,7 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (m_pViewActive != nullptr && m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
     CWinApp* app = AfxGetApp();
     return app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);

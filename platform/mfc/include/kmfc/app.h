@@ -2,11 +2,16 @@
 #pragma once
 
 #include <afxres.h>
+#include <kmfc/position.h>
 #include <kmfc/module_state.h>
 #include <kmfc/thread.h>
 
 class CCommandLineInfo;
+class CDocManager;
+class CDocTemplate;
 class CDocument;
+class CFrameWnd;
+class CView;
 class CRecentFileList;
 
 /// Which viewer shows the application's help.
@@ -50,8 +55,31 @@ public:
     void LoadStdProfileSettings(UINT nMaxMRU = 4);
     /// Puts a file first in the list of recent files, if there is one.
     virtual void AddToRecentFileList(LPCTSTR lpszPathName);
-    /// Opens a file for the menu of recent files; null when it can't be. This one knows no documents.
-    virtual CDocument* OpenDocumentFile(LPCTSTR) { return nullptr; }
+
+    // Documents.
+    /// Hands the application a template, which it owns from here on.
+    void AddDocTemplate(CDocTemplate* pTemplate);
+    POSITION GetFirstDocTemplatePosition() const;
+    CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
+    /// Opens a file by the template that fits; null when none does or it can't be opened, which is told to
+    /// the user.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU);
+    int GetOpenDocumentCount();
+    /// Asks for each document that was changed whether to save it; FALSE when the user cancels.
+    virtual BOOL SaveAllModified();
+    void CloseAllDocuments(BOOL bEndSession);
+    /// Hides the main window before the documents close.
+    void HideApplication();
+    /// Does what the command line asks for. FALSE when that failed, or when the program is not to go on.
+    BOOL ProcessShellCommand(CCommandLineInfo& rCmdInfo);
+    /// See CDocManager::RegisterShellFileTypes.
+    void RegisterShellFileTypes(BOOL bCompat = FALSE);
+    void UnregisterShellFileTypes();
+    /// See CDocManager::DoPromptFileName.
+    virtual BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
+                                  CDocTemplate* pTemplate);
+    CDocManager* m_pDocManager = nullptr;  ///< after AddDocTemplate; the application's own
     /// Null before SetRegistryKey. The caller closes the key.
     HKEY GetAppRegistryKey();
     HKEY GetSectionKey(LPCTSTR lpszSection);
@@ -69,7 +97,6 @@ public:
     /// Shows a message box on behalf of AfxMessageBox.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     virtual void DoWaitCursor(int nCode);  ///< 1 begins, 0 restores, -1 ends
-    virtual BOOL SaveAllModified() { return TRUE; }
     virtual void EnableModeless(BOOL bEnable);
 
     HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
@@ -92,6 +119,9 @@ public:
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
+    /// Handlers for the map of the application: a new document, and one that the user chooses.
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
     afx_msg void OnAppExit();
     afx_msg void OnHelp();
     afx_msg void OnHelpIndex();

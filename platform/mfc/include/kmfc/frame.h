@@ -3,8 +3,14 @@
 
 #include <afxcoll.h>
 #include <kmfc/app.h>
+#include <kmfc/create_context.h>
 
 class CControlBar;
+
+// Styles of frames, beside those of windows.
+constexpr DWORD FWS_ADDTOTITLE = 0x8000;   ///< the title names the document
+constexpr DWORD FWS_PREFIXTITLE = 0x4000;  ///< ... before the program's name
+constexpr DWORD FWS_SNAPTOBARS = 0x2000;   ///< the frame is as large as its bar
 
 /// Sent to a frame when a tool's message is over: shows message `wParam`, unless a menu's is up.
 constexpr UINT WM_POPMESSAGESTRING = 0x0375;
@@ -20,15 +26,15 @@ public:
     BOOL m_bAutoMenuEnable = TRUE;  ///< menu items without a handler are disabled
     UINT m_nIdleFlags = 0;
     BOOL m_bStayDisabled = FALSE;
+    int m_nWindow = -1;  ///< number of the frame among those of its document; -1 for an only one
 
     BOOL LoadAccelTable(LPCTSTR lpszResourceName);
     BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
                 const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr, LPCTSTR lpszMenuName = nullptr,
-                DWORD dwExStyle = 0, void* pContext = nullptr);
+                DWORD dwExStyle = 0, CCreateContext* pContext = nullptr);
     /// Creates the frame with the menu, accelerators, icon and title string of one resource id.
-    virtual BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FS_ADDTOTITLE,
-                           CWnd* pParentWnd = nullptr, void* pContext = nullptr);
-    static constexpr DWORD FS_ADDTOTITLE = 0x8000;
+    virtual BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                           CWnd* pParentWnd = nullptr, CCreateContext* pContext = nullptr);
 
     BOOL IsFrameWnd() const override { return TRUE; }
     virtual CFrameWnd* GetActiveFrame() { return this; }
@@ -48,6 +54,23 @@ public:
     /// The bar with `nID`, or null.
     CControlBar* GetControlBar(UINT nID);
     virtual void ActivateFrame(int nCmdShow = -1);
+
+    // The document and its views.
+    /// A view of the context's class as a child window; null when it can't be made.
+    CWnd* CreateView(CCreateContext* pContext, UINT nID = AFX_IDW_PANE_FIRST);
+    CView* GetActiveView() const { return m_pViewActive; }
+    /// Makes a view of the frame the active one, or none; with `bNotify` both views are told.
+    void SetActiveView(CView* pViewNew, BOOL bNotify = TRUE);
+    /// The document of the active view, or null.
+    virtual CDocument* GetActiveDocument();
+    /// Makes the client area of the frame: by default the view that the context names. FALSE fails the frame.
+    virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+    /// First update of the views in the frame, and with `bMakeVisible` its show.
+    void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
+    /// Sets the window's text, with the document's title if `bAddToTitle`; for frames with FWS_ADDTOTITLE.
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    /// The window's text for a document of that title; null for none.
+    void UpdateFrameTitleForDocument(LPCTSTR lpszDocName);
     void BeginModalState() override;
     void EndModalState() override;
     BOOL InModalState() const { return m_cModalStack != 0; }
@@ -61,6 +84,10 @@ public:
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnDropFiles(HDROP hDropInfo);
+    afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnEndSession(BOOL bEnding);
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
@@ -81,7 +108,11 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
 
+    /// Default processing of WM_CREATE, the client area, the first layout. -1 when the frame is not to be.
+    int OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+
     CString m_strTitle;
+    CView* m_pViewActive = nullptr;
     CRect m_rectBorder{0, 0, 0, 0};            ///< room to leave around the view, on each side
     UINT m_nIDHelp = 0;                        ///< LoadFrame's resource id
     UINT m_nIDTracking = AFX_IDS_IDLEMESSAGE;  ///< the command whose message is due

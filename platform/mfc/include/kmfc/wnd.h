@@ -15,6 +15,7 @@
 #undef GetNextWindow
 
 class CDataExchange;
+struct CCreateContext;
 class CFrameWnd;
 class CScrollBar;
 class CListBox;
@@ -88,7 +89,7 @@ public:
     // any type that leaves PreSubclassWindow or the handler of WM_NCCREATE or WM_CREATE makes it fail, and
     // goes no further.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                        CWnd* pParentWnd, UINT nID, void* pContext = nullptr);
+                        CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                           int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
                           LPVOID lpParam = nullptr);

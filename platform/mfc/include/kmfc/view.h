@@ -1,0 +1,61 @@
+// CView: a window that shows a document.
+#pragma once
+
+#include <kmfc/create_context.h>
+#include <kmfc/frame.h>
+
+class CDocument;
+class CSplitterWnd;
+
+/// Sent to a frame's windows once, before it is shown for the first time.
+constexpr UINT WM_INITIALUPDATE = 0x0364;
+
+constexpr DWORD AFX_WS_DEFAULT_VIEW = WS_CHILD | WS_VISIBLE | WS_BORDER;
+
+/// The client area of a frame, or a pane of it. It draws the document in OnDraw; what its message map does
+/// not take of commands goes on to the document. The object goes with its window.
+class KMFC_API CView : public CWnd {
+    DECLARE_DYNAMIC(CView)
+public:
+    CDocument* GetDocument() const { return m_pDocument; }
+
+    virtual BOOL IsSelected(const CObject* pDocItem) const;
+    /// Prepares `pDC` before OnDraw.
+    virtual void OnPrepareDC(CDC* pDC);
+    /// Called once, when the view is tied to its document and before it is shown; calls OnUpdate.
+    virtual void OnInitialUpdate();
+    /// Scrolls by a code for each direction (horizontal in the low byte, vertical in the high one; 0xFF for
+    /// none) and by a distance. FALSE where nothing moved.
+    virtual BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE);
+    virtual BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE);
+
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+protected:
+    CView();
+    ~CView() override;
+
+    /// The view of its frame that has the focus changes.
+    virtual void OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView);
+    /// The frame of the view is activated or not (WA_ codes).
+    virtual void OnActivateFrame(UINT nState, CFrameWnd* pFrameWnd);
+    /// The document has changed. Hints mean what document and views agree on. This one invalidates.
+    virtual void OnUpdate(CView* pSender, LPARAM lHint, CObject* pHint);
+    virtual void OnDraw(CDC* pDC) = 0;
+    void PostNcDestroy() override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
+    afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
+
+    CDocument* m_pDocument = nullptr;
+
+    DECLARE_MESSAGE_MAP()
+
+    friend class CDocument;
+    friend class CFrameWnd;
+    friend class CMDIChildWnd;
+};
