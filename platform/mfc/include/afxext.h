@@ -10,5 +10,6 @@
 #include <kmfc/edit_view.h>
 #include <kmfc/form_view.h>
 #include <kmfc/mem_dc.h>
+#include <kmfc/splitter_wnd.h>
 #include <kmfc/status_bar.h>
 #include <kmfc/tool_bar.h>

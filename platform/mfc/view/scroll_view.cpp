@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include <kmfc/scroll_view.h>
+#include <kmfc/splitter_wnd.h>
 #include <kmfc/window_dc.h>
 
 const SIZE CScrollView::sizeDefault = {0, 0};
@@ -92,7 +93,7 @@ void CScrollView::GetDeviceScrollSizes(int& nMapMode, SIZE& sizeTotal, SIZE& siz
 
 CPoint CScrollView::GetDeviceScrollPosition() const {
     if (m_nMapMode == kScaleToFit) return {0, 0};
-    return {GetScrollPos(SB_HORZ), GetScrollPos(SB_VERT)};
+    return {bar_place(SB_HORZ), bar_place(SB_VERT)};
 }
 
 CPoint CScrollView::GetScrollPosition() const {
@@ -114,15 +115,37 @@ void CScrollView::ScrollToPosition(POINT pt) {
     ScrollToDevicePosition(pt);
 }
 
-CSize CScrollView::limit() { return {GetScrollLimit(SB_HORZ), GetScrollLimit(SB_VERT)}; }
+std::pair<HWND, int> CScrollView::bar_window(int bar) const {
+    const CScrollBar* shared = GetScrollBarCtrl(bar);
+    return shared != nullptr ? std::pair(shared->m_hWnd, SB_CTL) : std::pair(m_hWnd, bar);
+}
+
+int CScrollView::bar_place(int bar) const {
+    const auto [window, which] = bar_window(bar);
+    return ::GetScrollPos(window, which);
+}
+
+void CScrollView::set_bar_place(int bar, int place) {
+    const auto [window, which] = bar_window(bar);
+    ::SetScrollPos(window, which, place, TRUE);
+}
+
+int CScrollView::bar_limit(int bar) const {
+    const auto [window, which] = bar_window(bar);
+    SCROLLINFO info = {sizeof(info), SIF_RANGE | SIF_PAGE, 0, 0, 0, 0, 0};
+    if (!::GetScrollInfo(window, which, &info)) return 0;
+    return std::max(0, info.nMax - std::max(0, static_cast<int>(info.nPage) - 1));
+}
+
+CSize CScrollView::limit() const { return {bar_limit(SB_HORZ), bar_limit(SB_VERT)}; }
 
 void CScrollView::ScrollToDevicePosition(POINT ptDev) {
     const CPoint former = GetDeviceScrollPosition();
     const CSize most = limit();
     const CPoint place(std::clamp<int>(ptDev.x, 0, most.cx), std::clamp<int>(ptDev.y, 0, most.cy));
     if (place == former) return;
-    SetScrollPos(SB_HORZ, place.x);
-    SetScrollPos(SB_VERT, place.y);
+    set_bar_place(SB_HORZ, place.x);
+    set_bar_place(SB_VERT, place.y);
     ScrollWindow(former.x - place.x, former.y - place.y);
 }
 
@@ -147,7 +170,9 @@ void CScrollView::UpdateBars() {
     m_isUpdating = true;
     const CPoint former = GetDeviceScrollPosition();
     const CSize room = room_without_bars();
-    const CSize bars(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
+    // Shared bars stand outside of the window.
+    const CSize bars(GetScrollBarCtrl(SB_VERT) != nullptr ? 0 : ::GetSystemMetrics(SM_CXVSCROLL),
+                     GetScrollBarCtrl(SB_HORZ) != nullptr ? 0 : ::GetSystemMetrics(SM_CYHSCROLL));
     // One bar may take the room that makes the other necessary.
     bool across = m_totalDev.cx > room.cx;
     const bool down = m_totalDev.cy > room.cy - (across ? bars.cy : 0);
@@ -161,12 +186,14 @@ void CScrollView::UpdateBars() {
 }
 
 void CScrollView::set_bar(int bar, int whole, int page, int place) {
+    const auto [window, which] = bar_window(bar);
     SCROLLINFO info = {sizeof(info), SIF_RANGE | SIF_PAGE | SIF_POS, 0, 0, 0, 0, 0};
-    // The system hides a bar that has no way to go.
+    // The system hides a bar that has no way to go; one that is shared stays, disabled.
+    if (which == SB_CTL) info.fMask |= SIF_DISABLENOSCROLL;
     info.nMax = std::max(0, whole - 1);
     info.nPage = whole > 0 ? static_cast<UINT>(std::max(0, page)) : 0;
     info.nPos = whole > 0 ? place : 0;
-    SetScrollInfo(bar, &info);
+    ::SetScrollInfo(window, which, &info, TRUE);
 }
 
 CPoint CScrollView::origin() const {
@@ -228,31 +255,37 @@ void CScrollView::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CScrollView::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
-    if (pScrollBar != nullptr) return CView::OnHScroll(nSBCode, nPos, pScrollBar);
+    const auto [window, which] = bar_window(SB_HORZ);
+    if (pScrollBar != nullptr && pScrollBar->m_hWnd != window)
+        return CView::OnHScroll(nSBCode, nPos, pScrollBar);
     SCROLLINFO info = {sizeof(info), SIF_TRACKPOS, 0, 0, 0, 0, 0};
-    GetScrollInfo(SB_HORZ, &info, SIF_TRACKPOS);  // the message has 16 bits of it
+    ::GetScrollInfo(window, which, &info);  // the message has 16 bits of it
     OnScroll(MAKEWORD(nSBCode, 0xFF), static_cast<UINT>(info.nTrackPos));
 }
 
 void CScrollView::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
-    if (pScrollBar != nullptr) return CView::OnVScroll(nSBCode, nPos, pScrollBar);
+    const auto [window, which] = bar_window(SB_VERT);
+    if (pScrollBar != nullptr && pScrollBar->m_hWnd != window)
+        return CView::OnVScroll(nSBCode, nPos, pScrollBar);
     SCROLLINFO info = {sizeof(info), SIF_TRACKPOS, 0, 0, 0, 0, 0};
-    GetScrollInfo(SB_VERT, &info, SIF_TRACKPOS);
+    ::GetScrollInfo(window, which, &info);
     OnScroll(MAKEWORD(0xFF, nSBCode), static_cast<UINT>(info.nTrackPos));
 }
 
 BOOL CScrollView::OnMouseWheel(UINT nFlags, short zDelta, CPoint) {
     if ((nFlags & (MK_SHIFT | MK_CONTROL)) != 0 || m_nMapMode == kScaleToFit) return FALSE;
-    const DWORD style = GetStyle();
-    if ((style & (WS_HSCROLL | WS_VSCROLL)) == 0) return FALSE;
+    const CSize most = limit();
+    if (most == CSize(0, 0)) return FALSE;
     UINT lines = 3;
     ::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    const bool down = (style & WS_VSCROLL) != 0;
+    const bool down = most.cy > 0;
     const int line = down ? m_lineDev.cy : m_lineDev.cx;
     const int page = down ? m_pageDev.cy : m_pageDev.cx;
     const int step = lines == WHEEL_PAGESCROLL ? page : std::min(page, line * static_cast<int>(lines));
     const int distance = -MulDiv(step, zDelta, WHEEL_DELTA);
-    const BOOL moved = OnScrollBy(down ? CSize(0, distance) : CSize(distance, 0));
+    const CSize way = down ? CSize(0, distance) : CSize(distance, 0);
+    CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
+    const BOOL moved = splitter != nullptr ? splitter->DoScrollBy(this, way) : OnScrollBy(way);
     if (moved) UpdateWindow();
     return moved;
 }

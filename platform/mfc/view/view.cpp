@@ -1,5 +1,6 @@
 // CView: draws its document, takes part in the frame's activation.
 #include <kmfc/document.h>
+#include <kmfc/splitter_wnd.h>
 #include <kmfc/view.h>
 
 IMPLEMENT_DYNAMIC(CView, CWnd)
@@ -10,6 +11,12 @@ BEGIN_MESSAGE_MAP(CView, CWnd)
     ON_WM_PAINT()
     ON_WM_MOUSEACTIVATE()
     ON_MESSAGE(WM_INITIALUPDATE, &CView::HandleInitialUpdate)
+    ON_UPDATE_COMMAND_UI(ID_WINDOW_SPLIT, &CView::OnUpdateSplitCmd)
+    ON_COMMAND_EX(ID_WINDOW_SPLIT, &CView::OnSplitCmd)
+    ON_UPDATE_COMMAND_UI(ID_NEXT_PANE, &CView::OnUpdateNextPaneMenu)
+    ON_UPDATE_COMMAND_UI(ID_PREV_PANE, &CView::OnUpdateNextPaneMenu)
+    ON_COMMAND_EX(ID_NEXT_PANE, &CView::OnNextPaneCmd)
+    ON_COMMAND_EX(ID_PREV_PANE, &CView::OnNextPaneCmd)
 END_MESSAGE_MAP()
 
 CView::CView() = default;
@@ -90,4 +97,47 @@ int CView::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message) {
 BOOL CView::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
     return m_pDocument != nullptr && m_pDocument->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+CSplitterWnd* CView::GetParentSplitter(const CWnd* pWnd, BOOL bAnyState) {
+    auto* splitter = DYNAMIC_DOWNCAST(CSplitterWnd, pWnd->GetParent());
+    if (splitter == nullptr || bAnyState) return splitter;
+    for (HWND window = splitter->m_hWnd; window != nullptr; window = ::GetParent(window))
+        if (::IsIconic(window)) return nullptr;
+    return splitter;
+}
+
+CScrollBar* CView::GetScrollBarCtrl(int nBar) const {
+    // A view with a bar of its own has no use for another.
+    const DWORD own = nBar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL;
+    CSplitterWnd* splitter = (GetStyle() & own) != 0 ? nullptr : GetParentSplitter(this, TRUE);
+    if (splitter == nullptr) return nullptr;
+    const int place = GetDlgCtrlID() - AFX_IDW_PANE_FIRST;
+    const int id = nBar == SB_HORZ ? AFX_IDW_HSCROLL_FIRST + place % 16 : AFX_IDW_VSCROLL_FIRST + place / 16;
+    HWND bar = place >= 0 ? ::GetDlgItem(splitter->m_hWnd, id) : nullptr;
+    return bar != nullptr ? &m_sharedBars[nBar == SB_HORZ ? 0 : 1].over(bar) : nullptr;
+}
+
+void CView::OnUpdateSplitCmd(CCmdUI* pCmdUI) {
+    const CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
+    pCmdUI->Enable(splitter != nullptr && !splitter->IsTracking());
+}
+
+BOOL CView::OnSplitCmd(UINT) {
+    CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
+    if (splitter == nullptr) return FALSE;
+    splitter->DoKeyboardSplit();
+    return TRUE;
+}
+
+void CView::OnUpdateNextPaneMenu(CCmdUI* pCmdUI) {
+    CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
+    pCmdUI->Enable(splitter != nullptr && splitter->CanActivateNext(pCmdUI->m_nID == ID_PREV_PANE));
+}
+
+BOOL CView::OnNextPaneCmd(UINT nID) {
+    CSplitterWnd* splitter = GetParentSplitter(this, FALSE);
+    if (splitter == nullptr) return FALSE;
+    splitter->ActivateNext(nID == ID_PREV_PANE);
+    return TRUE;
 }

@@ -98,7 +98,7 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 int CFrameWnd::OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext) {
     if (Default() == -1 || !OnCreateClient(lpcs, pContext)) return -1;
-    if (GetActiveDocument() != nullptr || pContext != nullptr) RecalcLayout();
+    RecalcLayout();
     return 0;
 }
 

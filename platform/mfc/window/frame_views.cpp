@@ -38,10 +38,22 @@ CDocument* CFrameWnd::GetActiveDocument() {
     return view != nullptr ? view->GetDocument() : nullptr;
 }
 
+namespace {
+
+/// The first pane that is a view: splitters have the id of the pane that they fill.
+CView* first_view(HWND frame) {
+    for (HWND pane = ::GetDlgItem(frame, AFX_IDW_PANE_FIRST); pane != nullptr;
+         pane = ::GetDlgItem(pane, AFX_IDW_PANE_FIRST))
+        if (auto* view = DYNAMIC_DOWNCAST(CView, CWnd::FromHandlePermanent(pane))) return view;
+    return nullptr;
+}
+
+}  // namespace
+
 void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible) {
     CView* view = GetActiveView();
     if (view == nullptr) {
-        view = DYNAMIC_DOWNCAST(CView, GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE));
+        view = first_view(m_hWnd);
         if (view != nullptr) SetActiveView(view, FALSE);
     }
     if (bMakeVisible) {

@@ -1,6 +1,8 @@
 // CScrollView: a view of something larger than its window.
 #pragma once
 
+#include <utility>
+
 #include <kmfc/view.h>
 
 /// Scrolls its contents, or scales them to the window. The size is given by SetScrollSizes in logical units
@@ -63,7 +65,12 @@ private:
     /// Where the contents begin, in pixels of the window.
     CPoint origin() const;
     /// The furthest place of the upper left corner.
-    CSize limit();
+    CSize limit() const;
+    /// The window of a bar, which may be shared with other panes, and SB_CTL or the bar's own number.
+    std::pair<HWND, int> bar_window(int bar) const;
+    int bar_place(int bar) const;
+    void set_bar_place(int bar, int place);
+    int bar_limit(int bar) const;
     void scale_to_window();
     /// Shows a bar for a `whole` (pixels, 0 hides it) of which `page` is seen.
     void set_bar(int bar, int whole, int page, int place);

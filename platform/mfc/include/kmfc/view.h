@@ -1,8 +1,10 @@
 // CView: a window that shows a document.
 #pragma once
 
+#include <kmfc/control_over_view.h>
 #include <kmfc/create_context.h>
 #include <kmfc/frame.h>
+#include <kmfc/scroll_bar.h>
 
 class CDocument;
 class CSplitterWnd;
@@ -29,6 +31,11 @@ public:
     virtual BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE);
     virtual BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE);
 
+    /// The splitter that the window is a pane of, or null; with `bAnyState` even in a minimised frame.
+    static CSplitterWnd* GetParentSplitter(const CWnd* pWnd, BOOL bAnyState);
+    /// The bar that the panes of a splitter share, or null.
+    CScrollBar* GetScrollBarCtrl(int nBar) const override;
+
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
@@ -51,9 +58,17 @@ protected:
     afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
 
+    afx_msg void OnUpdateSplitCmd(CCmdUI* pCmdUI);
+    afx_msg BOOL OnSplitCmd(UINT nID);
+    afx_msg void OnUpdateNextPaneMenu(CCmdUI* pCmdUI);
+    afx_msg BOOL OnNextPaneCmd(UINT nID);
+
     CDocument* m_pDocument = nullptr;
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    kmfc::ControlOverView<CScrollBar> m_sharedBars[2];  ///< by SB_HORZ and SB_VERT
 
     friend class CDocument;
     friend class CFrameWnd;

@@ -1,0 +1,2 @@
+#define IDD_ABOUTBOX 100
+#define IDR_MAINFRAME 128
