@@ -112,7 +112,7 @@ void CFrameWnd::OnClose() {
         app->HideApplication();
         // A document takes the frames that show it along, and this may be one.
         app->CloseAllDocuments(FALSE);
-        if (::IsWindow(window)) ::DestroyWindow(window);
+        if (::IsWindow(window)) DestroyWindow();
         return;
     }
     // The last frame of a document closes that.
