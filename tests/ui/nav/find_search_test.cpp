@@ -169,6 +169,32 @@ TEST_F(FindSearchTest, TheTimeIsOfTwentyFourHoursWithoutSecondsAndLocal) {
     EXPECT_EQ(askedTime.hour, local.tm_hour);
 }
 
+/// A clock two hours ahead of the world's.
+BOOL WINAPI twoHoursAhead(const FILETIME* world, FILETIME* local) {
+    constexpr ULONGLONG kTwoHours = 2ULL * 3600 * 10'000'000;
+    ULARGE_INTEGER time = {};
+    time.LowPart = world->dwLowDateTime;
+    time.HighPart = world->dwHighDateTime;
+    time.QuadPart += kTwoHours;
+    *local = {time.LowPart, time.HighPart};
+    return TRUE;
+}
+
+TEST_F(FindSearchTest, TheTimeIsThatOfTheUsersClock) {
+    const HMODULE toolkit = ::GetModuleHandleW(L"ktui.dll");
+    const ui_test::ReplacedImport times(toolkit, "GetTimeFormatW", &timeFormat);
+    const ui_test::ReplacedImport clock(toolkit, "FileTimeToLocalFileTime", &twoHoursAhead);
+    ASSERT_TRUE(times.isThere() && clock.isThere());
+    makeFile(L"a.dwg");
+    setWritten(L"a.dwg", 1'600'000'000);  // 12:26 of the world's clock
+    askedTime = {};
+    run([&] {
+        search();
+        cancel();
+    });
+    EXPECT_EQ(askedTime.hour, 14);
+}
+
 TEST_F(FindSearchTest, SizesBelowTenThousandAreToldInBytes) {
     makeFile(L"1.dwg", 9999);
     makeFile(L"2.dwg", 10000);
