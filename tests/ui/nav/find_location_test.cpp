@@ -376,6 +376,17 @@ TEST_F(FindLocationTest, ARowWiderThanTheListIsToldInATip) {
         EXPECT_LE(std::abs(shownTipWithPlace().place.left - (rows.left + 24)), kTipMargin);
         ::SendMessageW(rowList, WM_MOUSELEAVE, 0, 0);
         EXPECT_EQ(shownTip(), L"");
+        CRect inner;
+        ::GetClientRect(rowList, &inner);
+        const int fitting = widthOf(rowList, wide) + 24 + rows.Width() - inner.Width();
+        const auto tipAt = [&](int width) {
+            ::SetWindowPos(rowList, nullptr, 0, 0, width, rows.Height(), SWP_NOMOVE | SWP_NOZORDER);
+            ::SendMessageW(rowList, LB_GETITEMRECT, locations().size() - 1, reinterpret_cast<LPARAM>(&place));
+            ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, place.top + 2));
+            return shownTip();
+        };
+        EXPECT_EQ(tipAt(fitting), L"");
+        EXPECT_EQ(tipAt(fitting - 1), wide.GetString());
         ::SendMessageW(rowList, LB_SETCURSEL, 0, 0);
         ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, 2));
         EXPECT_EQ(shownTip(), L"");
