@@ -17,15 +17,16 @@ struct Column {
     UINT id;
     const wchar_t* title;
     int format;
-    int width;  ///< pixels
+    int width;    ///< pixels
+    int subItem;  ///< Kept: the number that the column is given, not the one its texts are set by
 };
 
 constexpr Column kColumns[kFindColumns] = {
-    {IDS_FIND_NAME_COLUMN, L"名称", LVCFMT_LEFT, 120},
-    {IDS_FIND_FOLDER_COLUMN, L"所在文件夹", LVCFMT_LEFT, 140},
-    {IDS_FIND_SIZE_COLUMN, L"大小", LVCFMT_RIGHT, 60},
-    {IDS_FIND_TYPE_COLUMN, L"类型", LVCFMT_LEFT, 60},
-    {IDS_FIND_TIME_COLUMN, L"修改时间", LVCFMT_LEFT, 120},
+    {IDS_FIND_NAME_COLUMN, L"名称", LVCFMT_LEFT, 120, 0},
+    {IDS_FIND_FOLDER_COLUMN, L"所在文件夹", LVCFMT_LEFT, 140, 1},
+    {IDS_FIND_SIZE_COLUMN, L"大小", LVCFMT_RIGHT, 60, 2},
+    {IDS_FIND_TYPE_COLUMN, L"类型", LVCFMT_LEFT, 60, 2},
+    {IDS_FIND_TIME_COLUMN, L"修改时间", LVCFMT_LEFT, 120, 3},
 };
 
 /// Local seconds of a calendar time; 0 for years before 1900 and what can't be told.
@@ -77,7 +78,8 @@ CString extensionOf(const CString& path) {
 void FindResults::SetUp() {
     for (int i = 0; i < kFindColumns; ++i) {
         const Column& column = kColumns[i];
-        m_list.InsertColumn(i, LoadToolkitString(column.id, column.title), column.format, column.width, i);
+        m_list.InsertColumn(i, LoadToolkitString(column.id, column.title), column.format, column.width,
+                            column.subItem);
     }
     m_sort = {};
     m_images.Create(kImageSize, kImageSize, ILC_COLOR24 | ILC_MASK, 1, 1);

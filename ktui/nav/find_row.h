@@ -4,7 +4,7 @@
 
 #include <ktui/nav/find_search_request.h>
 
-/// Columns of the list of results, as they stand and as their sub-items are numbered.
+/// Columns of the list of results, as they stand and as their texts are set.
 enum FindColumn { kFindName, kFindFolder, kFindSize, kFindType, kFindTime, kFindColumns };
 
 /// The item data of one row, which owns it.

@@ -23,11 +23,11 @@ void CNavFileDlg::SelectFilterIndex(int index) {
     const auto tell = [&](WORD code) {
         ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(kPlatformTypeBox, code), reinterpret_cast<LPARAM>(box));
     };
-    // The platform takes a type over when the list closes; where it has not, it does so at the selection's
-    // end.
     tell(CBN_DROPDOWN);
     ::SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     tell(CBN_CLOSEUP);
+    // Wine's dialog takes the type at the end of the selection and no sooner. Where the platform has taken it
+    // when the list closed, as Windows does, nothing more is told.
     if (index >= 0 && m_ofn.nFilterIndex != static_cast<DWORD>(index) + 1) tell(CBN_SELENDOK);
 }
 

@@ -39,6 +39,11 @@ TEST(FindFolders, WhatStandsBesideTheQuotesIsOneMore) {
     EXPECT_EQ(folders(L"D:\\b\"C:\\a\""), (Texts{L"C:\\a\\", L"D:\\b\\"}));
 }
 
+TEST(FindFolders, APieceOfNothingIsOneToo) {
+    EXPECT_EQ(folders(L"\"\""), (Texts{L"\\"}));
+    EXPECT_EQ(folders(L"\"\"\"C:\\a\""), (Texts{L"\\", L"C:\\a\\"}));
+}
+
 TEST(FindFolders, AQuoteAloneEndsTheList) {
     EXPECT_EQ(folders(L"\"C:\\a\" \"D:\\b"), (Texts{L"C:\\a\\"}));
     EXPECT_EQ(folders(L"\"D:\\b"), Texts{});

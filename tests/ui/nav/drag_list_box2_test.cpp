@@ -98,6 +98,28 @@ TEST_F(DragList2, StartsWithNothingPressed) {
     EXPECT_EQ(list.m_lastInsert, -1);
 }
 
+/// What the list asked of the system for the mouse.
+std::vector<TRACKMOUSEEVENT> tracked;
+
+BOOL WINAPI trackMouse(LPTRACKMOUSEEVENT asked) {
+    tracked.push_back(*asked);
+    return TRUE;
+}
+
+TEST_F(DragList2, ADragEndsTheWaitForARestingMouse) {
+    const ui_test::ReplacedImport tracking(::GetModuleHandleW(nullptr), "TrackMouseEvent", &trackMouse);
+    ASSERT_TRUE(tracking.isThere());
+    tracked.clear();
+    down(in(0));
+    EXPECT_TRUE(tracked.empty());
+    move(in(0));
+    move(in(2));
+    up(in(2));
+    ASSERT_EQ(tracked.size(), 1u) << "at its begin alone";
+    EXPECT_EQ(tracked[0].dwFlags, static_cast<DWORD>(TME_CANCEL | TME_HOVER | TME_LEAVE));
+    EXPECT_EQ(tracked[0].hwndTrack, list.m_hWnd);
+}
+
 TEST_F(DragList2, KnowsTheRowUnderAPoint) {
     EXPECT_EQ(list.RowAt(in(0)), 0);
     EXPECT_EQ(list.RowAt(in(3)), 3);

@@ -363,8 +363,10 @@ TEST_F(FileDialogInit, ANameThatIsBeingTypedIsSelectedAtEachChange) {
         ASSERT_NE(edit, nullptr);
         ::SetFocus(edit);
         ::SendMessageW(edit, EM_SETSEL, 3, 3);
-        bool scrolled = false;
+        bool scrolled = false, selectedElsewhere = false;
         ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+            selectedElsewhere |=
+                message.message == EM_SETSEL && message.hwnd == ::GetDlgItem(window, IDCANCEL);
             scrolled |= message.message == EM_SCROLLCARET && message.hwnd == edit;
         });
         OFNOTIFYW notice = {};
@@ -377,6 +379,7 @@ TEST_F(FileDialogInit, ANameThatIsBeingTypedIsSelectedAtEachChange) {
         ::SendMessageW(edit, EM_SETSEL, 3, 3);
         ::SendMessageW(own(window), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
         EXPECT_EQ(::SendMessageW(edit, EM_GETSEL, 0, 0), MAKELONG(3, 3));
+        EXPECT_FALSE(selectedElsewhere);
     });
 }
 

@@ -114,6 +114,59 @@ TEST_F(FileDialogNavigation, WithoutTheBoxOfTypesNoneIsSelected) {
     });
 }
 
+/// What the dialog is told of its box of types, and what the box is told, in order.
+struct TypeSteps {
+    explicit TypeSteps(HWND window, std::function<void(WORD)> then = {})
+        : watch([this, window, then = std::move(then)](const CWPSTRUCT& message) {
+              if (message.message == CB_SETCURSEL && message.hwnd == ::GetDlgItem(window, kTypeBox))
+                  steps.push_back("select " + std::to_string(static_cast<int>(message.wParam)));
+              if (message.hwnd != window || message.message != WM_COMMAND ||
+                  LOWORD(message.wParam) != kTypeBox)
+                  return;
+              EXPECT_EQ(reinterpret_cast<HWND>(message.lParam), ::GetDlgItem(window, kTypeBox));
+              steps.push_back("code " + std::to_string(HIWORD(message.wParam)));
+              if (then) then(HIWORD(message.wParam));
+          }) {}
+    std::vector<std::string> steps;
+    ui_test::SentMessages watch;
+};
+
+const std::string kDropDown = "code " + std::to_string(CBN_DROPDOWN);
+const std::string kCloseUp = "code " + std::to_string(CBN_CLOSEUP);
+const std::string kSelectionEnd = "code " + std::to_string(CBN_SELENDOK);
+
+TEST_F(FileDialogNavigation, ATypeTakenWhenTheListClosesNeedsNothingMore) {
+    look([&](HWND window) {
+        const TypeSteps told(window, [&](WORD code) {
+            if (code == CBN_CLOSEUP) dialog.GetImpObject()->m_fileDialog->GetOFN().nFilterIndex = 3;
+        });
+        dialog.SetFilterIndex(2);
+        EXPECT_EQ(told.steps, (std::vector<std::string>{kDropDown, "select 2", kCloseUp}));
+        EXPECT_EQ(::SendDlgItemMessageW(window, kTypeBox, CB_GETCURSEL, 0, 0), 2);
+    });
+}
+
+TEST_F(FileDialogNavigation, ATypeNotTakenThenIsTakenAtTheSelectionsEnd) {
+    look([&](HWND window) {
+        const TypeSteps told(window);
+        dialog.SetFilterIndex(2);
+        EXPECT_EQ(dialog.GetFilterIndex(), 2);
+        ASSERT_GE(told.steps.size(), 4u);
+        EXPECT_EQ(std::vector<std::string>(told.steps.begin(), told.steps.begin() + 4),
+                  (std::vector<std::string>{kDropDown, "select 2", kCloseUp, kSelectionEnd}));
+        EXPECT_EQ(std::count(told.steps.begin(), told.steps.end(), kSelectionEnd), 1);
+    });
+}
+
+TEST_F(FileDialogNavigation, NoTypeEndsNoSelection) {
+    look([&](HWND window) {
+        const TypeSteps told(window);
+        dialog.SetFilterIndex(-1);
+        EXPECT_EQ(told.steps, (std::vector<std::string>{kDropDown, "select -1", kCloseUp}));
+        EXPECT_EQ(::SendDlgItemMessageW(window, kTypeBox, CB_GETCURSEL, 0, 0), CB_ERR);
+    });
+}
+
 TEST_F(FileDialogNavigation, WithoutTheNameBoxTheViewHasTheFocusAtTheStart) {
     HWND asked = nullptr;
     static std::vector<int> focused;

@@ -207,6 +207,17 @@ TEST_F(FileDialogViewBefore6, OtherModesHaveNoOrder) {
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(FileDialogViewBefore6, OtherModesLeaveTheOrderAlone) {
+    clicksAfter(2, HDF_SORTUP, 0);
+    look([](HWND window) {
+        showAs(window, kList);
+        for (int each = 0; each < 4; ++each) mark(fileList(window), each, each == 1 ? HDF_SORTDOWN : 0);
+    });
+    EXPECT_EQ(storedMode(), static_cast<unsigned long>(kList));
+    dialog.SetDialogData(L"ViewMode", static_cast<unsigned long>(kDetails));
+    EXPECT_EQ(clicksThen(2, 0), (Clicks{{-1, 2}}));
+}
+
 /// The row of a file in a list, or -1.
 int rowOf(HWND list, const wchar_t* name) {
     const int rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
@@ -307,11 +318,14 @@ TEST_F(FirstFile, IsWaitedForUntilTheListHasFiles) {
         item.mask = LVIF_TEXT;
         item.pszText = const_cast<wchar_t*>(L"two.dwg");
         ::SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        item.iItem = 1;
+        ::SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
         EXPECT_EQ(selectedCount(list), 0);
         ::SendMessageW(list, WM_SHOWWINDOW, FALSE, 0);
         EXPECT_EQ(selectedCount(list), 0);
         ::SendMessageW(list, WM_SHOWWINDOW, TRUE, 0);
         EXPECT_EQ(stateOf(list, 0), static_cast<UINT>(LVIS_SELECTED | LVIS_FOCUSED));
+        EXPECT_EQ(selectedCount(list), 1) << "of equal names the first";
         ::SendMessageW(list, LVM_DELETEALLITEMS, 0, 0);
     });
 }

@@ -195,6 +195,29 @@ TEST_F(FindDatesTest, OneAndTheSameMomentIsNoFilter) {
     });
 }
 
+TEST_F(FindDatesTest, AMonthThatTheClockCannotTellRaisesTheOtherException) {
+    written(L"a.dwg", at(2026, 5, 10));
+    run([&] {
+        click(IDC_FIND_MONTHS);
+        setText(IDC_FIND_MONTH_COUNT, L"999");  // 1943
+        wchar_t wanted[512] = {};
+        ::FormatMessageW(
+            FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK,
+            nullptr, static_cast<DWORD>(E_INVALIDARG), 0, wanted, 512, nullptr);
+        std::wstring told;
+        ui_test::when_window([](HWND window) { return ::GetDlgItem(window, 0xFFFF) != nullptr; },
+                             [&](HWND box) {
+                                 told = ui_test::text_of(::GetDlgItem(box, 0xFFFF)).GetString();
+                                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+                             });
+        command(IDC_FIND_START);
+        EXPECT_EQ(told, wanted);
+        EXPECT_FALSE(isSearching());
+        EXPECT_EQ(rows(), 0);
+        cancel();
+    });
+}
+
 TEST_F(FindDatesTest, TheLastMonthInJanuaryRaisesTheExceptionBeforeTheSearch) {
     presentTime = at(2026, 1, 15);
     written(L"a.dwg", at(2026, 1, 10));

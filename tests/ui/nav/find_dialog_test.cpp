@@ -84,8 +84,8 @@ TEST_F(FindTest, StartsWithItsTexts) {
         EXPECT_EQ(columnOf(list(), 0), (ColumnSeen{L"Name", LVCFMT_LEFT, 120, 0}));
         EXPECT_EQ(columnOf(list(), 1), (ColumnSeen{L"In Folder", LVCFMT_LEFT, 140, 1}));
         EXPECT_EQ(columnOf(list(), 2), (ColumnSeen{L"Size", LVCFMT_RIGHT, 60, 2}));
-        EXPECT_EQ(columnOf(list(), 3), (ColumnSeen{L"Type", LVCFMT_LEFT, 60, 3}));
-        EXPECT_EQ(columnOf(list(), 4), (ColumnSeen{L"Modified", LVCFMT_LEFT, 120, 4}));
+        EXPECT_EQ(columnOf(list(), 3), (ColumnSeen{L"Type", LVCFMT_LEFT, 60, 2}));
+        EXPECT_EQ(columnOf(list(), 4), (ColumnSeen{L"Modified", LVCFMT_LEFT, 120, 3}));
         EXPECT_EQ(status(), L"0 file(s) found.");
         cancel();
     });

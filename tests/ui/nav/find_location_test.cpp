@@ -1,4 +1,6 @@
 // The locations and the names of the find dialog, and what is remembered of them.
+#include <cstdlib>
+
 #include <shlobj.h>
 
 #include "find_fixture.h"
@@ -238,9 +240,14 @@ TEST_F(FindLocationTest, ABrowsedFolderIsAddedAndSelected) {
     });
 }
 
-/// The tool tip that tracks and is shown, by its text; empty for none.
-std::wstring shownTip() {
-    std::wstring shown;
+/// The tool tip that tracks and is shown.
+struct Tip {
+    std::wstring text;  ///< empty for none
+    CRect place;        ///< on the screen
+};
+
+Tip shownTipWithPlace() {
+    Tip shown;
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
         [](HWND window, LPARAM parameter) -> BOOL {
@@ -252,11 +259,29 @@ std::wstring shownTip() {
             tool.lpszText = text;
             if (::SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)) &&
                 (tool.uFlags & TTF_TRACK))
-                *reinterpret_cast<std::wstring*>(parameter) = text;
-            return TRUE;
+                reinterpret_cast<Tip*>(parameter)->text = text;
+            if (!reinterpret_cast<Tip*>(parameter)->text.empty())
+                ::GetWindowRect(window, &reinterpret_cast<Tip*>(parameter)->place);
+            return reinterpret_cast<Tip*>(parameter)->text.empty();
         },
         reinterpret_cast<LPARAM>(&shown));
     return shown;
+}
+
+std::wstring shownTip() { return shownTipWithPlace().text; }
+
+/// How far right of `left` the tip's text may begin: its edge and margin.
+constexpr long kTipMargin = 8;
+
+int widthOf(HWND window, const CString& text) {
+    const HDC dc = ::GetDC(window);
+    const HGDIOBJ former =
+        ::SelectObject(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0)));
+    SIZE size = {};
+    ::GetTextExtentPoint32W(dc, text, text.GetLength(), &size);
+    ::SelectObject(dc, former);
+    ::ReleaseDC(window, dc);
+    return size.cx;
 }
 
 TEST_F(FindLocationTest, ALocationWiderThanTheBoxIsToldInATip) {
@@ -277,6 +302,36 @@ TEST_F(FindLocationTest, ALocationWiderThanTheBoxIsToldInATip) {
         ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(7, 5));
         ui_test::pump();
         EXPECT_EQ(shownTip(), L"") << "a short one is all there";
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, ThePixelThatALocationLacksBringsTheTip) {
+    makeFolder(CString(L'w', 30));
+    const CString wide = root + CString(L'w', 30);
+    startFolder = wide;
+    run([&] {
+        const HWND box = item(IDC_FIND_LOCATION);
+        const HWND edit = reinterpret_cast<HWND>(::SendMessageW(box, CBEM_GETEDITCONTROL, 0, 0));
+        CRect outer, inner;
+        ::GetWindowRect(box, &outer);
+        ::GetClientRect(box, &inner);
+        // An icon, the button that drops the list, and two pixels more.
+        const int fitting =
+            widthOf(box, wide) + 24 + ::GetSystemMetrics(SM_CXVSCROLL) + 2 + outer.Width() - inner.Width();
+        const auto tipAt = [&](int width, int x) {
+            ::SetWindowPos(box, nullptr, 0, 0, width, outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+            ::SetFocus(list());
+            ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(x, 5));
+            ui_test::pump();
+            return shownTipWithPlace();
+        };
+        EXPECT_EQ(tipAt(fitting, 5).text, L"");
+        const Tip tip = tipAt(fitting - 1, 6);
+        EXPECT_EQ(tip.text, wide.GetString());
+        ::GetWindowRect(box, &outer);
+        EXPECT_LE(std::abs(tip.place.left - (outer.left + 24)), kTipMargin) << "over the text";
+        EXPECT_EQ(tipAt(fitting, 7).text, L"");
         cancel();
     });
 }
@@ -309,13 +364,29 @@ TEST_F(FindLocationTest, ARowWiderThanTheListIsToldInATip) {
         info.cbSize = sizeof info;
         ::GetComboBoxInfo(combo, &info);
         const HWND rowList = info.hwndList;
+        // Where the tip has room on the screen.
+        ::SetWindowPos(rowList, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
         ::SendMessageW(rowList, LB_SETCURSEL, locations().size() - 1, 0);
         RECT place = {};
         ::SendMessageW(rowList, LB_GETITEMRECT, locations().size() - 1, reinterpret_cast<LPARAM>(&place));
         ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, place.top + 2));
         EXPECT_EQ(shownTip(), wide.GetString());
+        CRect rows;
+        ::GetWindowRect(rowList, &rows);
+        EXPECT_LE(std::abs(shownTipWithPlace().place.left - (rows.left + 24)), kTipMargin);
         ::SendMessageW(rowList, WM_MOUSELEAVE, 0, 0);
         EXPECT_EQ(shownTip(), L"");
+        CRect inner;
+        ::GetClientRect(rowList, &inner);
+        const int fitting = widthOf(rowList, wide) + 24 + rows.Width() - inner.Width();
+        const auto tipAt = [&](int width) {
+            ::SetWindowPos(rowList, nullptr, 0, 0, width, rows.Height(), SWP_NOMOVE | SWP_NOZORDER);
+            ::SendMessageW(rowList, LB_GETITEMRECT, locations().size() - 1, reinterpret_cast<LPARAM>(&place));
+            ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, place.top + 2));
+            return shownTip();
+        };
+        EXPECT_EQ(tipAt(fitting), L"");
+        EXPECT_EQ(tipAt(fitting - 1), wide.GetString());
         ::SendMessageW(rowList, LB_SETCURSEL, 0, 0);
         ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, 2));
         EXPECT_EQ(shownTip(), L"");

@@ -138,6 +138,63 @@ TEST_F(FindSearchTest, ShowsFolderSizeTypeAndTime) {
     });
 }
 
+/// What the toolkit asked of the system for a time of day.
+struct {
+    LCID locale;
+    DWORD flags;
+    WORD hour;
+} askedTime;
+
+int WINAPI timeFormat(LCID locale, DWORD flags, const SYSTEMTIME* time, LPCWSTR format, LPWSTR text,
+                      int room) {
+    askedTime = {locale, flags, time->wHour};
+    return ::GetTimeFormatW(locale, flags, time, format, text, room);
+}
+
+TEST_F(FindSearchTest, TheTimeIsOfTwentyFourHoursWithoutSecondsAndLocal) {
+    const ui_test::ReplacedImport times(::GetModuleHandleW(L"ktui.dll"), "GetTimeFormatW", &timeFormat);
+    ASSERT_TRUE(times.isThere());
+    makeFile(L"a.dwg");
+    const __time64_t written = 1'600'009'600;
+    setWritten(L"a.dwg", written);
+    askedTime = {};
+    run([&] {
+        search();
+        cancel();
+    });
+    tm local = {};
+    _localtime64_s(&local, &written);
+    EXPECT_EQ(askedTime.flags, static_cast<DWORD>(TIME_NOSECONDS | TIME_FORCE24HOURFORMAT));
+    EXPECT_EQ(askedTime.locale, static_cast<LCID>(LOCALE_USER_DEFAULT));
+    EXPECT_EQ(askedTime.hour, local.tm_hour);
+}
+
+/// A clock two hours ahead of the world's.
+BOOL WINAPI twoHoursAhead(const FILETIME* world, FILETIME* local) {
+    constexpr ULONGLONG kTwoHours = 2ULL * 3600 * 10'000'000;
+    ULARGE_INTEGER time = {};
+    time.LowPart = world->dwLowDateTime;
+    time.HighPart = world->dwHighDateTime;
+    time.QuadPart += kTwoHours;
+    *local = {time.LowPart, time.HighPart};
+    return TRUE;
+}
+
+TEST_F(FindSearchTest, TheTimeIsThatOfTheUsersClock) {
+    const HMODULE toolkit = ::GetModuleHandleW(L"ktui.dll");
+    const ui_test::ReplacedImport times(toolkit, "GetTimeFormatW", &timeFormat);
+    const ui_test::ReplacedImport clock(toolkit, "FileTimeToLocalFileTime", &twoHoursAhead);
+    ASSERT_TRUE(times.isThere() && clock.isThere());
+    makeFile(L"a.dwg");
+    setWritten(L"a.dwg", 1'600'000'000);  // 12:26 of the world's clock
+    askedTime = {};
+    run([&] {
+        search();
+        cancel();
+    });
+    EXPECT_EQ(askedTime.hour, 14);
+}
+
 TEST_F(FindSearchTest, SizesBelowTenThousandAreToldInBytes) {
     makeFile(L"1.dwg", 9999);
     makeFile(L"2.dwg", 10000);

@@ -417,6 +417,26 @@ TEST_F(PlaceListCommands, DroppedBeneathTheRowsTheyGoToTheEnd) {
     EXPECT_EQ(captions(), L"one|two|Three");
 }
 
+WNDPROC formerProcedure = nullptr;
+
+/// Tells the last row for the space beneath it, as some systems do.
+LRESULT CALLBACK lastRowForAll(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == LB_ITEMFROMPOINT) return MAKELRESULT(::SendMessageW(window, LB_GETCOUNT, 0, 0) - 1, FALSE);
+    return ::CallWindowProcW(formerProcedure, window, message, wParam, lParam);
+}
+
+TEST_F(PlaceListCommands, ASystemThatTellsTheLastRowForTheSpaceBeneathIsNotBelieved) {
+    openWith({L"one"});
+    formerProcedure = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrW(list->m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&lastRowForAll)));
+    pointAt(beneath());
+    drop({folder(L"two")});
+    pointAt(in(1));
+    drop({folder(L"Three")});
+    ::SetWindowLongPtrW(list->m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(formerProcedure));
+    EXPECT_EQ(captions(), L"one|Three|two") << "the end, then before the last row";
+}
+
 TEST_F(PlaceListCommands, ADroppedFileIsNoPlace) {
     openWith({L"one"});
     pointAt(in(0));
