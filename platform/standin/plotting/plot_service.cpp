@@ -53,7 +53,6 @@ void StandinPlotService::getExportSummary(KhExportSummary& summary) {
     summary.mergeControl = getExportOption(kExportMerge) != 0;
     summary.passwordPrompt = getExportOption(kExportPassword) != 0;
     summary.blockInformation = getExportOption(kExportBlocks) != 0;
-    summary.firstTexts = 1;
     const OwnResources resources;
     CString text;
     text.LoadString(summary.multiSheet ? IDS_EXPORT_ONE_FILE : IDS_EXPORT_FILE_EACH);
@@ -86,6 +85,6 @@ int StandinPlotService::getPlotArea(bool isModel) {
 
 bool StandinPlotService::hasNoWindow() { return getPlotArea(true) == kWindowArea; }
 void StandinPlotService::pickWindow() { tell(IDS_PLOT_NO_WINDOW); }
-void StandinPlotService::overrideDialog(OdDbPlotSettings*, const wchar_t*) { tell(IDS_PLOT_NO_OVERRIDE); }
+void StandinPlotService::overrideDialog(OdDbPlotSettings*, int) { tell(IDS_PLOT_NO_OVERRIDE); }
 void StandinPlotService::setOverride(bool on) { setExportOption(kExportOverride, on); }
 bool StandinPlotService::getOverride() { return getExportOption(kExportOverride) != 0; }

@@ -41,7 +41,7 @@ public:
     int getPlotArea(bool isModel) override;
     bool hasNoWindow() override;
     void pickWindow() override;
-    void overrideDialog(OdDbPlotSettings* settings, const wchar_t* tag) override;
+    void overrideDialog(OdDbPlotSettings* settings, int tag) override;
     void setOverride(bool on) override;
     bool getOverride() override;
 

@@ -37,7 +37,6 @@ TEST_F(PlotService, TheSummaryStartsWithTheStandards) {
     EXPECT_EQ(found.mergeControl, 0);
     EXPECT_EQ(found.passwordPrompt, 0);
     EXPECT_EQ(found.blockInformation, 0);
-    EXPECT_NE(found.firstTexts, 0);
     EXPECT_STREQ(found.summary.c_str(), L"DWF, all sheets in one file");
 }
 
@@ -131,5 +130,5 @@ TEST_F(PlotService, AWindowIsMissingUntilItIsPickedAndGivesWayWhenAreasArePrepar
 TEST_F(PlotService, WhatItCannotDoItSays) {
     EXPECT_NE(messageOf([&] { plot().plotStampDialog(); }).Find(L"Plot stamps can't be set"), -1);
     EXPECT_NE(messageOf([&] { plot().pickWindow(); }).Find(L"can't be picked"), -1);
-    EXPECT_NE(messageOf([&] { plot().overrideDialog(nullptr, L""); }).Find(L"can't be overridden"), -1);
+    EXPECT_NE(messageOf([&] { plot().overrideDialog(nullptr, 0); }).Find(L"can't be overridden"), -1);
 }
