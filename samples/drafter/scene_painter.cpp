@@ -13,7 +13,6 @@ namespace {
 
 constexpr double kMargin = 0.92;  // of the window that the drawing fills
 constexpr double kPixelsPerMillimetre = 96 / 25.4;
-constexpr double kCapitalShare = 0.72;  // height of capitals in that of a font
 constexpr int kSmallestText = 3;        // pixels
 constexpr int kLargestText = 4000;      // pixels
 
