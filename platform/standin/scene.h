@@ -30,8 +30,8 @@ struct ScenePath {
     std::vector<OdGePoint2d> points;
     bool filled = false;
     DisplayStyle style;
-    OdDbObjectId entity;         ///< the entity of the space that it belongs to
-    std::vector<SceneArc> arcs;  ///< in the order of their points
+    OdDbObjectId entity;              ///< the entity of the space that it belongs to
+    std::vector<SceneArc> arcs = {};  ///< in the order of their points
 };
 
 /// Height of capitals in that of their font.

@@ -13,8 +13,8 @@ namespace {
 
 constexpr double kMargin = 0.92;  // of the window that the drawing fills
 constexpr double kPixelsPerMillimetre = 96 / 25.4;
-constexpr int kSmallestText = 3;        // pixels
-constexpr int kLargestText = 4000;      // pixels
+constexpr int kSmallestText = 3;    // pixels
+constexpr int kLargestText = 4000;  // pixels
 
 /// Pen width in pixels of a lineweight in hundredths of a millimetre.
 int penWidth(int lineWeight) {
