@@ -20,7 +20,7 @@ constexpr double kPointsPerMillimetre = kPointsPerInch / 25.4;
 
 /// The sheet of a layout: its own 0, 0 in the corner of what can be printed, at the scale of its settings, or
 /// fitted by `content` where they say so. Settings without a size of paper take the content's.
-PaperPlace PlaceLayout(const OdDbPlotSettings& settings, const SceneExtents& content);
+STANDIN_API PaperPlace PlaceLayout(const OdDbPlotSettings& settings, const SceneExtents& content);
 /// `area` of the drawing in the middle of the sheet, as large as it can be; at the scale of the settings for
 /// `keepsScale` unless they fit it as well.
-PaperPlace PlaceArea(const OdDbPlotSettings& settings, const SceneExtents& area, bool keepsScale);
+STANDIN_API PaperPlace PlaceArea(const OdDbPlotSettings& settings, const SceneExtents& area, bool keepsScale);

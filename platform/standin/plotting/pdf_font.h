@@ -33,9 +33,9 @@ struct PdfRun {
 };
 
 /// The characters of a text as the platform writes it, surrogate pairs put together.
-std::u32string CharactersOf(std::wstring_view text);
+STANDIN_API std::u32string CharactersOf(std::wstring_view text);
 
-class PdfFonts {
+class STANDIN_API PdfFonts {
 public:
     /// The runs that show `text` in the face of that name; `source` gives the letters that are new.
     std::vector<PdfRun> encode(const std::string& face, std::wstring_view text, const GlyphSource& source);

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "standin_api.h"
+
 /// A place on a page, in points.
 struct PdfPoint {
     double x = 0, y = 0;
@@ -18,9 +20,9 @@ struct PdfColor {
 };
 
 /// Appends a number as PDF writes it: at most four decimals, never an exponent, "0" for what is no number.
-void AppendPdfNumber(std::string& text, double value);
+STANDIN_API void AppendPdfNumber(std::string& text, double value);
 
-class PdfPage {
+class STANDIN_API PdfPage {
 public:
     /// A page that is `width` by `height` points large.
     PdfPage(double width, double height) : m_width(width), m_height(height) {}

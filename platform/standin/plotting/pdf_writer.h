@@ -9,7 +9,7 @@
 #include "plotting/pdf_font.h"
 #include "plotting/pdf_page.h"
 
-class PdfWriter {
+class STANDIN_API PdfWriter {
 public:
     /// Graphics state in which overlapping colours merge (multiply) instead of covering each other.
     static constexpr std::string_view kMergeState = "Merge";

@@ -22,12 +22,12 @@ struct PlotLook {
 
 /// The colour of ink: that of the drawing, but black where the drawing has white by its number 7, which
 /// stands out from any paper.
-PdfColor InkOf(const OdCmColor& color);
+STANDIN_API PdfColor InkOf(const OdCmColor& color);
 
 /// The dashes of a linetype as dash and gap in turn, in points; none for a continuous line. `dot` is the
 /// length of a dot.
-std::vector<double> DashesOnPaper(const std::vector<double>& dashes, double scale, double dot);
+STANDIN_API std::vector<double> DashesOnPaper(const std::vector<double>& dashes, double scale, double dot);
 
 /// Draws `scene` onto `page`, mapped by `place`.
-void PlotScene(PdfWriter& file, PdfPage& page, const Scene& scene, const PaperPlace& place,
-               const PlotFaces& faces, const PlotLook& look);
+STANDIN_API void PlotScene(PdfWriter& file, PdfPage& page, const Scene& scene, const PaperPlace& place,
+                           const PlotFaces& faces, const PlotLook& look);
