@@ -86,6 +86,30 @@ def pick_set(size):
     return picture.rows
 
 
+def plot_stamp(size):
+    """A rubber stamp above the line that it left."""
+    picture = Picture(size, 16)
+    handle = ((6.2, 2), (9.8, 2), (9.2, 6.6), (6.8, 6.6))
+    picture.shape(lambda x, y: inside(x, y, handle), ORANGE, EDGE)
+    plate = ((3, 7.6), (13, 7.6), (13, 10.4), (3, 10.4))
+    picture.shape(lambda x, y: inside(x, y, plate), FILL, EDGE)
+    picture.box(2, 13, 14, 14.4, BLUE)
+    return picture.rows
+
+
+def window_pick(size):
+    """A window between two corners, and the pointer on the second."""
+    picture = Picture(size, 16)
+    for line in (2, 9):
+        picture.box(1, line, 11, line + 1, BLUE)
+    for line in (1, 10):
+        picture.box(line, 2, line + 1, 10, BLUE)
+    picture.box(0.4, 1.4, 2.6, 3.6, ORANGE)
+    picture.pointer(8, 5)
+    picture.rows[0][0] = KEY
+    return picture.rows
+
+
 def drop_layers(size):
     """A stack of two sheets, and an arrow that comes down on it."""
     picture = Picture(size, 16)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws the toolkit's own bitmaps and icons into ktui/res, so that each is a few lines to read and change.
+"""Draws the toolkit's own bitmaps and icons into ktui/res and ktdsres, so that each is a few lines to read and change.
 
 Run it after a change; the files it writes are kept in the tree.
 """
@@ -10,6 +10,7 @@ import button_pictures
 import picker_strips
 
 RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
+LIBRARY = pathlib.Path(__file__).resolve().parent.parent / "ktdsres"
 DRAFTER = pathlib.Path(__file__).resolve().parent.parent / "samples" / "drafter" / "res"
 MASK = (255, 0, 255)
 LARGER_SIZES = (20, 24, 32)  # pixels, for 125, 150 and 200 %
@@ -210,6 +211,8 @@ def main():
     write_ico(RES / "true_type.ico", [true_type_icon()] + [larger_true_type_icon(size) for size in LARGER_SIZES])
     write_ico(RES / "shape_font.ico", [shape_font_icon()] + [larger_shape_font_icon(size) for size in LARGER_SIZES])
     write_button_picture("pick", button_pictures.pick, 16)
+    write_button_picture("plot_stamp", button_pictures.plot_stamp, 16, LIBRARY)
+    write_button_picture("window_pick", button_pictures.window_pick, 16, LIBRARY)
     write_button_picture("pick_set", button_pictures.pick_set, 16)
     DRAFTER.mkdir(exist_ok=True)
     write_button_picture("drop_layers", button_pictures.drop_layers, 16, DRAFTER)

@@ -15,6 +15,7 @@
 #include <ktui/nav/ktui_nav_dialog.h>
 #include <ktui/nav/nav_file_dlg.h>
 #include <ktui/nav/type_change.h>
+#include <ktui/nav/underlay_export_dlg.h>
 
 static_assert(kFileOverwritePrompt == OFN_OVERWRITEPROMPT && kFileNoChangeDir == OFN_NOCHANGEDIR &&
               kFileAllowMultiSelect == OFN_ALLOWMULTISELECT &&
@@ -119,8 +120,12 @@ unsigned long CNavDialogImp::platformFlags() const {
 void CNavDialogImp::makeFileDialog(unsigned long flags, const CString& filters) {
     const CString name = StartName(m_initialFileName);
     const auto orNull = [](const CString& text) { return text.IsEmpty() ? nullptr : text.GetString(); };
-    m_fileDialog =
-        std::make_unique<CNavFileDlg>(this, m_creatingFile == 0, orNull(name), flags, orNull(filters));
+    const int open = m_creatingFile == 0;
+    if (m_underlayExport)
+        m_fileDialog =
+            std::make_unique<CNavUnderlayExportFileDlg>(this, open, orNull(name), flags, orNull(filters));
+    else
+        m_fileDialog = std::make_unique<CNavFileDlg>(this, open, orNull(name), flags, orNull(filters));
 }
 
 INT_PTR CNavDialogImp::runFileDialog() {

@@ -18,7 +18,6 @@ struct KhExportSummary {
     int mergeControl = 0;      ///< non-zero: overlapping lines merge
     int passwordPrompt = 0;    ///< non-zero: a password is asked for
     int blockInformation = 0;  ///< non-zero: blocks are written
-    int firstTexts = 0;        ///< non-zero: the first text of each pair of words is shown
 };
 
 class CKhPlotSvr : public CKhService {
@@ -29,7 +28,7 @@ public:
     virtual void exportOptionsDialog() = 0;
     /// Fills `summary` with the options in force.
     virtual void getExportSummary(KhExportSummary& summary) = 0;
-    /// Chooses the file format; `flag` belongs to the format.
+    /// Chooses the file format: 0 DWF, 1 DWFx, 2 PDF. `flag` belongs to the format and is 1.
     virtual void setExportFormat(int format, int flag) = 0;
     /// The second switch of the dialog, stored and read back.
     virtual void setSecondSwitch(bool on) = 0;
@@ -44,10 +43,12 @@ public:
     virtual int getPlotArea(bool isModel) = 0;
     /// True when the window area is chosen and no window has been picked.
     virtual bool hasNoWindow() = 0;
-    /// Lets the user pick a window in the drawing.
+    /// Lets the user pick a window in the drawing, and returns when that is done or given up. The dialog is
+    /// hidden meanwhile, and the main window has been told that an editor command began.
     virtual void pickWindow() = 0;
-    /// Shows the page set-up override of `settings`, modally; `tag` names where it is kept.
-    virtual void overrideDialog(OdDbPlotSettings* settings, const wchar_t* tag) = 0;
+    /// Shows the page set-up override of `settings` (never null, the drawing's), modally, for the kind of
+    /// file that `tag` stands for: 0 PDF, 1 DWF, 2 DWFx.
+    virtual void overrideDialog(OdDbPlotSettings* settings, int tag) = 0;
     /// Whether the override counts.
     virtual void setOverride(bool on) = 0;
     virtual bool getOverride() = 0;

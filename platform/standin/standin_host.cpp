@@ -28,6 +28,7 @@ CKhPaletteHost* CStandinHost::paletteHost() { return m_facets->inForce.palettes;
 
 void CStandinHost::SetCurrentDocument(KtApDocument* document) {
     m_facets->documents.m_document = document;
+    m_facets->plotting.forgetWindow();
     m_facets->services.setWorkingDatabase(document != nullptr ? document->database() : nullptr);
 }
 
@@ -59,6 +60,16 @@ void CStandinHost::SetHelpOpener(std::function<bool(const CString& page)> opener
 
 void CStandinHost::SetHelpTopic(unsigned helpId, const wchar_t* topic) {
     m_facets->ui.m_help.m_ids[helpId] = topic;
+}
+
+void CStandinHost::SetPlotView(StandinPlotView* view) { m_facets->plotting.m_view = view; }
+
+bool CStandinHost::ExportDrawing(const wchar_t* path, CString& message) {
+    return m_facets->plotting.exportDrawing(path, message);
+}
+
+void CStandinHost::SetExportOpener(std::function<bool(const CString& path)> opener) {
+    m_facets->plotting.m_opener = std::move(opener);
 }
 
 namespace {

@@ -20,6 +20,7 @@
 #include "standin_settings.h"
 
 class CKhFontStyle;
+class StandinPlotView;
 struct StandinFacets;
 
 class STANDIN_API CStandinHost : public CKhSystem {
@@ -62,7 +63,7 @@ public:
     void SetPathVariable(const wchar_t* name, const wchar_t* value);
     /// Makes the host answer `service` to serviceManager()->getService(name); null takes it away. Not owned.
     /// At first there are "CKhPlotStyle", which reads the style sheets in the folders of that path variable,
-    /// "CKhPlotSvr", which keeps the options of an export, and "CKhSecurity", which seals drawing files.
+    /// "CKhPlotSvr", which exports drawings, and "CKhSecurity", which seals drawing files.
     void SetService(const wchar_t* name, CKhService* service);
 
     /// The names that productInfo() answers. Texts that were answered before stay valid.
@@ -83,6 +84,17 @@ public:
     void SetHelpOpener(std::function<bool(const CString& page)> opener);
     /// The topic of dialogs whose template has the help id `helpId`. Ids 20001 to 20099 are the host's own.
     void SetHelpTopic(unsigned helpId, const wchar_t* topic);
+
+    /// The view whose display an export can show, and in which a window is picked for it; null for none. Not
+    /// owned.
+    void SetPlotView(StandinPlotView* view);
+    /// Writes the current drawing to the PDF file `path` as the plot service's options say, with a file for
+    /// each layout beside it where they ask for that. False with the reason in `message`, in the user's
+    /// language: nothing but whole files is left then. Other kinds of files aren't written.
+    bool ExportDrawing(const wchar_t* path, CString& message);
+    /// What opens a file that was exported, where the options ask for it; false if it can't. Null for the
+    /// system's program.
+    void SetExportOpener(std::function<bool(const CString& path)> opener);
 
     // Replacing a facet: `facet` (not owned) answers from now on. Null puts the host's own back, but for
     // colours and windows, which may be null. What is replaced serves the host's other facets too:

@@ -20,7 +20,9 @@ StandinUiHost::StandinUiHost(CWinApp& application, StandinStyleSheets& styleShee
                     {HID_LOAD_LINETYPES, L"LoadLinetypes"},
                     {HID_PLOT_STYLES, L"SelectPlotStyle"},
                     {HID_SECURITY, L"SecurityOptions"},
-                    {HID_EXPORT_OPTIONS, L"ExportOptions"}};
+                    {HID_EXPORT_OPTIONS, L"ExportOptions"},
+                    {HID_PLOT_STAMP, L"PlotStamp"},
+                    {HID_PAGE_SETUP, L"PageSetup"}};
 }
 
 bool StandinUiHost::showColorIndexDialog(int& index, bool allowMeta, int layerIndex) {

@@ -102,3 +102,35 @@ DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const
     answer.form = formOf(dialog.GetFilterIndex());
     return answer;
 }
+
+CString AskFileToExport(const CString& folder, const CString& name) {
+    constexpr int kUnderlayExport = 0x10000000;
+    constexpr struct {
+        const wchar_t *kind, *pattern;
+    } kTypes[] = {{L"PDF", L"*.pdf"}, {L"DWFx", L"*.dwfx"}, {L"DWF", L"*.dwf"}};
+    CNavDataArray chosen;
+    CNavFilterArray filters;
+    for (const auto& type : kTypes) {
+        CString description;
+        description.Format(IDS_EXPORTED_TYPE, type.kind);
+        addType(filters, description, type.pattern);
+    }
+    CKtUiNavDialog dialog(chosen, filters);
+    dialog.SetDialogName(L"DrafterExport");
+    dialog.SetDialogHelpTag(L"Export");
+    dialog.SetDialogCaption(textOf(IDS_EXPORT_TITLE));
+    dialog.SetCreatingFile(1);
+    dialog.SetConfirmReplace(1);
+    dialog.SetDefaultInitialFolder(folder);
+    dialog.SetInitialFileName(name);
+    dialog.SetDefaultFileExtension(L"pdf");
+    dialog.SetForceFilterIndex(0);
+    dialog.ConvertFlagsToState(kUnderlayExport);
+    try {
+        return pathChosen(dialog);
+    } catch (CInvalidArgException* noFile) {
+        // The dialog ends so for a file that is held.
+        noFile->Delete();
+        return {};
+    }
+}

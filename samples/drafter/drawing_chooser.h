@@ -20,6 +20,10 @@ struct DrawingToSave {
 /// Proposes `name`, a file's name with or without its folder, and the form of the present file.
 DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const OdDxfForm& present);
 
+/// Asks for the file that the drawing is exported to, and for what of it and how, which the host's plot
+/// service keeps. Empty if the user cancelled, or chose a file that another program holds, which was told.
+CString AskFileToExport(const CString& folder, const CString& name);
+
 /// Shows previews of exchange files in the dialogs: the picture that a drawing brings with it, and for one
 /// without a picture that of what the drawing view would show, which is kept until the file changes.
 void ShowPreviewsOfDrawings();

@@ -52,6 +52,8 @@ public:
     bool IsPickingPlaces() const { return m_picking == Picking::kPlaces; }
     /// Has the user select by two corners, picked by clicks or by keys, as by a window drawn with the mouse.
     void SelectByCorners(PickEnded ended);
+    /// Has the user pick two corners, which are places() then; the window between them is drawn meanwhile.
+    void PickCorners(PickEnded ended);
     /// Ends picking as Enter or Escape would.
     void EndPicking(bool isPicked);
     const std::vector<OdGePoint2d>& places() const { return m_places; }

@@ -67,13 +67,19 @@ void CDrawingView::selectByWindow(const OdGePoint2d& from, const OdGePoint2d& to
     select(touched ? EntitiesTouching(m_scene, window) : EntitiesInside(m_scene, window), toSelection);
 }
 
-void CDrawingView::SelectByCorners(PickEnded ended) {
+void CDrawingView::PickCorners(PickEnded ended) {
     PickPlaces(2, [this, ended = std::move(ended)](bool isPicked) {
         m_pickingCorners = false;
-        if (isPicked) selectByWindow(m_places[0], m_places[1], isShiftDown());
         ended(isPicked);
     });
     m_pickingCorners = true;
+}
+
+void CDrawingView::SelectByCorners(PickEnded ended) {
+    PickCorners([this, ended = std::move(ended)](bool isPicked) {
+        if (isPicked) selectByWindow(m_places[0], m_places[1], isShiftDown());
+        ended(isPicked);
+    });
 }
 
 void CDrawingView::paintWindow(CDC& dc) const {

@@ -47,6 +47,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CMainFrame::OnFileSaveAs)
+    ON_COMMAND(ID_FILE_EXPORT, &CMainFrame::OnFileExport)
     ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE9, &CMainFrame::OnRecentFile)
     ON_WM_DROPFILES()
     ON_COMMAND(ID_EDIT_UNDO, &CMainFrame::OnUndo)
@@ -84,9 +85,13 @@ CMainFrame::CMainFrame(CStandinHost& host)
       }),
       m_layers([this] { showDrawing(true); }) {
     m_host.SetCurrentDocument(m_document.get());
+    m_host.SetPlotView(this);
 }
 
-CMainFrame::~CMainFrame() { m_host.SetCurrentDocument(nullptr); }
+CMainFrame::~CMainFrame() {
+    m_host.SetPlotView(nullptr);
+    m_host.SetCurrentDocument(nullptr);
+}
 
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CFrameWnd::OnCreate(create) == -1) return -1;

@@ -12,10 +12,12 @@
 #include "picker_bar.h"
 #include "status_line.h"
 
+#include <standin_plot_view.h>
+
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWnd, private CDrawingPicker {
+class CMainFrame : public CFrameWnd, private CDrawingPicker, private StandinPlotView {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
@@ -48,6 +50,7 @@ protected:
     afx_msg void OnFileOpen();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
+    afx_msg void OnFileExport();
     afx_msg void OnRecentFile(UINT id);
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnUndo();
@@ -79,6 +82,8 @@ protected:
 private:
     void PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) override;
     void PickObjects(unsigned prompt, ObjectsPicked picked) override;
+    bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override;
+    bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override;
     void showIdle();
     void showPrompt();
     void showDocument(std::unique_ptr<CDraftDocument> document);

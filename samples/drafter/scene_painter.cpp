@@ -13,9 +13,8 @@ namespace {
 
 constexpr double kMargin = 0.92;  // of the window that the drawing fills
 constexpr double kPixelsPerMillimetre = 96 / 25.4;
-constexpr double kCapitalShare = 0.72;  // height of capitals in that of a font
-constexpr int kSmallestText = 3;        // pixels
-constexpr int kLargestText = 4000;      // pixels
+constexpr int kSmallestText = 3;    // pixels
+constexpr int kLargestText = 4000;  // pixels
 
 /// Pen width in pixels of a lineweight in hundredths of a millimetre.
 int penWidth(int lineWeight) {

@@ -58,6 +58,7 @@ std::wstring scratchCopy(const std::wstring& drawing) {
 void forgetSettings() {
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs");
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\Drafter\\Recent File List");
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\Export");
 }
 
 int setting(const std::wstring& dialog, const std::wstring& value, bool& found) {

@@ -238,6 +238,26 @@ void showFiles(Drafter& drafter) {
     close(drafter, dialog);
 }
 
+/// The export with its areas, and the window that is picked for it.
+void showExport(Drafter& drafter) {
+    constexpr int kArea = 57212, kWindowArea = 2;
+    HWND dialog = openByKey(drafter, 'E', "the dialog that exports drawings");
+    HWND area = item(::FindWindowExW(dialog, nullptr, L"#32770", nullptr), kArea);
+    drafter.drop(area);
+    tell("export", L"Dropped the areas that a drawing is exported in");
+    drafter.key(VK_ESCAPE);
+    wchar_t window[100] = {};
+    ::SendMessageW(area, CB_GETLBTEXT, kWindowArea, reinterpret_cast<LPARAM>(window));
+    drafter.pickByMouse(area, window);
+    waitUntil([&] { return !::IsWindowVisible(dialog) && ::IsWindowEnabled(drafter.frame()); });
+    drafter.click(drafter.view(), {200, 150});
+    drafter.hover(drafter.view(), {520, 380});
+    tell("export-window", L"Picked the first corner of the window to export");
+    drafter.click(drafter.view(), {520, 380});
+    waitUntil([&] { return ::IsWindowVisible(dialog) && !::IsWindowEnabled(drafter.frame()); });
+    close(drafter, dialog);
+}
+
 /// The question that closing with the changes so far asks; cancelled.
 void showQuestion(Drafter& drafter) {
     ::PostMessageW(drafter.frame(), WM_CLOSE, 0, 0);
@@ -288,6 +308,7 @@ int ShowDialogs() {
     }
     try {
         showFiles(drafter);
+        showExport(drafter);
         showProperties(drafter);
         showDimensionStyle(drafter);
         showTextStyle(drafter);

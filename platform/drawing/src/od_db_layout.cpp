@@ -30,6 +30,43 @@ void setInPlotPart(OdGroupList& groups, int code, const OdGroupList& value) {
     groups.replace(marker.end, marker.end, value);
 }
 
+double realIn(const OdGroupList& groups, int code, double absent = 0) {
+    OdGroup group;
+    return groups.findIn(kPlotPart, code, group) ? group.real : absent;
+}
+
+std::int64_t integerIn(const OdGroupList& groups, int code, std::int64_t absent = 0) {
+    OdGroup group;
+    return groups.findIn(kPlotPart, code, group) ? group.integer : absent;
+}
+
+OdGroupList oneText(int code, const wchar_t* text) {
+    OdGroupList value;
+    value.addText(code, text != nullptr ? text : L"");
+    return value;
+}
+
+OdGroupList oneReal(int code, double real) {
+    OdGroupList value;
+    value.addReal(code, real);
+    return value;
+}
+
+OdGroupList oneInteger(int code, std::int64_t integer) {
+    OdGroupList value;
+    value.addInteger(code, integer);
+    return value;
+}
+
+// Groups of plot settings.
+constexpr int kMarginCodes[] = {40, 41, 42, 43};  // left, bottom, right, top
+constexpr int kPaperWidth = 44, kPaperHeight = 45, kOriginX = 46, kOriginY = 47;
+constexpr int kScalePaper = 142, kScaleDrawing = 143, kScaleFactor = 147;
+constexpr int kPlotFlags = 70, kPaperUnits = 72, kRotation = 73, kStandardScale = 75;
+constexpr int kInches = 0, kMillimetres = 1;
+constexpr int kUseStandardScale = 16;       // of the flags
+constexpr int kFitted = 0, kOneToOne = 16;  // standard scales
+
 /// The own groups from the marker of the plot settings up to the layout's, or to the end.
 OdGroupList plotPart(const OdGroupList& groups, std::uint32_t& begin, std::uint32_t& end) {
     OdGroupList part;
@@ -58,6 +95,66 @@ void OdDbPlotSettings::setCurrentStyleSheet(const wchar_t* fileName) {
 OdString OdDbPlotSettings::getPlotCfgName() const { return textIn(m_groups, kPlotPart, 2); }
 
 OdString OdDbPlotSettings::getCanonicalMediaName() const { return textIn(m_groups, kPlotPart, 4); }
+
+void OdDbPlotSettings::setCanonicalMediaName(const wchar_t* name) {
+    setInPlotPart(editGroups(), 4, oneText(4, name));
+}
+
+double OdDbPlotSettings::getPlotPaperWidth() const { return realIn(m_groups, kPaperWidth); }
+double OdDbPlotSettings::getPlotPaperHeight() const { return realIn(m_groups, kPaperHeight); }
+
+void OdDbPlotSettings::setPlotPaperSize(double width, double height) {
+    setInPlotPart(editGroups(), kPaperWidth, oneReal(kPaperWidth, width));
+    setInPlotPart(editGroups(), kPaperHeight, oneReal(kPaperHeight, height));
+}
+
+OdDbPlotMargins OdDbPlotSettings::getPlotPaperMargins() const {
+    const auto margin = [this](int index) { return realIn(m_groups, kMarginCodes[index]); };
+    return {margin(0), margin(1), margin(2), margin(3)};
+}
+
+OdGePoint2d OdDbPlotSettings::getPlotOrigin() const {
+    return {realIn(m_groups, kOriginX), realIn(m_groups, kOriginY)};
+}
+
+bool OdDbPlotSettings::isPlotTurned() const { return integerIn(m_groups, kRotation) % 2 != 0; }
+
+void OdDbPlotSettings::setPlotTurned(bool turned) {
+    setInPlotPart(editGroups(), kRotation, oneInteger(kRotation, turned ? 1 : 0));
+}
+
+bool OdDbPlotSettings::isPlotInInches() const {
+    return integerIn(m_groups, kPaperUnits, kMillimetres) == kInches;
+}
+
+bool OdDbPlotSettings::isPlotFitted() const {
+    return integerIn(m_groups, kStandardScale, kOneToOne) == kFitted;
+}
+
+double OdDbPlotSettings::getPlotScale() const {
+    const double paper = realIn(m_groups, kScalePaper, 1), drawing = realIn(m_groups, kScaleDrawing, 1);
+    return paper > 0 && drawing > 0 ? paper / drawing : 1;
+}
+
+OdResult OdDbPlotSettings::setPlotScale(double paper, double drawing) {
+    if (!(paper > 0) || !(drawing > 0)) return kOdInvalidInput;
+    OdGroupList& groups = editGroups();
+    setInPlotPart(groups, kScalePaper, oneReal(kScalePaper, paper));
+    setInPlotPart(groups, kScaleDrawing, oneReal(kScaleDrawing, drawing));
+    setInPlotPart(groups, kScaleFactor, oneReal(kScaleFactor, paper / drawing));
+    // The scale of the two numbers counts, not one of the standard ones.
+    setInPlotPart(groups, kPlotFlags,
+                  oneInteger(kPlotFlags, integerIn(groups, kPlotFlags) & ~kUseStandardScale));
+    setInPlotPart(groups, kStandardScale, oneInteger(kStandardScale, kOneToOne));
+    return kOdOk;
+}
+
+void OdDbPlotSettings::setPlotFitted() {
+    OdGroupList& groups = editGroups();
+    setInPlotPart(groups, kPlotFlags,
+                  oneInteger(kPlotFlags, integerIn(groups, kPlotFlags) | kUseStandardScale));
+    setInPlotPart(groups, kStandardScale, oneInteger(kStandardScale, kFitted));
+}
 
 bool OdDbPlotSettings::modelType() const {
     OdGroup group;

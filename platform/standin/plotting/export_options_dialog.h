@@ -1,15 +1,11 @@
-// What an export writes: the options of the plot service, kept at OK. Internal to the module.
+// What an export writes: the options of the plot service. Internal to the module.
 #pragma once
 
-#include <afxwin.h>
+#include "plotting/checks_dialog.h"
 
-class CStandinExportOptionsDialog : public CDialog {
+class CStandinExportOptionsDialog : public CStandinChecksDialog {
     DECLARE_DYNAMIC(CStandinExportOptionsDialog)
 
 public:
     explicit CStandinExportOptionsDialog(CWnd* parent);
-
-protected:
-    BOOL OnInitDialog() override;
-    void OnOK() override;
 };

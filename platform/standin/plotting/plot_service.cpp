@@ -1,22 +1,25 @@
 #include "plotting/plot_service.h"
 
 #include <kh_system.h>
+#include <od_db.h>
+
+#include <shellapi.h>
 
 #include "own_resources.h"
 #include "plotting/export_options_dialog.h"
+#include "plotting/page_setup_dialog.h"
+#include "plotting/plot_export.h"
+#include "plotting/plot_options.h"
+#include "plotting/plot_stamp_dialog.h"
 #include "resource.h"
 #include "standin_message.h"
+#include "standin_plot_view.h"
 
 namespace {
 
-constexpr const wchar_t* kSection = L"Export";
-constexpr int kWindowArea = 2, kLastModelArea = 2, kFirstLayoutArea = 3, kLastLayoutArea = 4;
+constexpr int kDisplayArea = 0, kWindowArea = 2, kLastModelArea = 2;
+constexpr int kFirstLayoutArea = 3, kLastLayoutArea = 4;
 constexpr const wchar_t* kFormats[] = {L"DWF", L"DWFx", L"PDF"};
-
-void tell(UINT textId) {
-    const OwnResources resources;
-    ShowStandinMessage(textId, MB_ICONINFORMATION);
-}
 
 bool isAreaOf(int area, bool isModel) {
     return isModel ? area >= 0 && area <= kLastModelArea
@@ -25,38 +28,40 @@ bool isAreaOf(int area, bool isModel) {
 
 const ExportOption& areaOption(bool isModel) { return isModel ? kExportModelArea : kExportLayoutArea; }
 
-}  // namespace
-
-int getExportOption(const ExportOption& option) {
-    int value = option.standard;
-    CKhSystem::instance()->profileStore()->getProfileInt(kSection, option.key, value, 0);
-    return value;
+SceneExtents areaBetween(const OdGePoint2d& a, const OdGePoint2d& b) {
+    SceneExtents area;
+    area.add(a);
+    area.add(b);
+    return area;
 }
 
-void setExportOption(const ExportOption& option, int value) {
-    CKhSystem::instance()->profileStore()->setProfileInt(kSection, option.key, value, 0);
-}
-
-void StandinPlotService::plotStampDialog() { tell(IDS_PLOT_NO_STAMP); }
-
-void StandinPlotService::exportOptionsDialog() {
+CString textOf(UINT id) {
     const OwnResources resources;
-    CStandinExportOptionsDialog dialog(CWnd::GetActiveWindow());
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+template <class Dialog>
+void show(Dialog&& dialog) {
+    const OwnResources resources;
     dialog.DoModal();
 }
 
+}  // namespace
+
+void StandinPlotService::plotStampDialog() { show(CStandinPlotStampDialog(CWnd::GetActiveWindow())); }
+
+void StandinPlotService::exportOptionsDialog() { show(CStandinExportOptionsDialog(CWnd::GetActiveWindow())); }
+
 void StandinPlotService::getExportSummary(KhExportSummary& summary) {
     summary = {};
-    CKhSystem::instance()->profileStore()->getProfileString(kSection, L"Folder", summary.defaultLocation, 0);
+    CKhSystem::instance()->profileStore()->getProfileString(kExportSection, L"Folder",
+                                                            summary.defaultLocation, 0);
     summary.multiSheet = getExportOption(kExportMultiSheet) != 0;
     summary.layerInformation = getExportOption(kExportLayers) != 0;
     summary.mergeControl = getExportOption(kExportMerge) != 0;
-    summary.passwordPrompt = getExportOption(kExportPassword) != 0;
-    summary.blockInformation = getExportOption(kExportBlocks) != 0;
-    summary.firstTexts = 1;
-    const OwnResources resources;
-    CString text;
-    text.LoadString(summary.multiSheet ? IDS_EXPORT_ONE_FILE : IDS_EXPORT_FILE_EACH);
+    CString text = textOf(summary.multiSheet ? IDS_EXPORT_ONE_FILE : IDS_EXPORT_FILE_EACH);
     text.Replace(L"%1", kFormats[m_format]);
     summary.summary = text.GetString();
 }
@@ -65,10 +70,10 @@ void StandinPlotService::setExportFormat(int format, int) {
     if (format >= 0 && format < static_cast<int>(std::size(kFormats))) m_format = format;
 }
 
-void StandinPlotService::setSecondSwitch(bool on) { setExportOption(kExportSecondSwitch, on); }
-bool StandinPlotService::getSecondSwitch() { return getExportOption(kExportSecondSwitch) != 0; }
-void StandinPlotService::setFirstSwitch(bool on) { setExportOption(kExportFirstSwitch, on); }
-bool StandinPlotService::getFirstSwitch() { return getExportOption(kExportFirstSwitch) != 0; }
+void StandinPlotService::setSecondSwitch(bool on) { setExportOption(kExportStamp, on); }
+bool StandinPlotService::getSecondSwitch() { return getExportOption(kExportStamp) != 0; }
+void StandinPlotService::setFirstSwitch(bool on) { setExportOption(kExportOpenFile, on); }
+bool StandinPlotService::getFirstSwitch() { return getExportOption(kExportOpenFile) != 0; }
 
 void StandinPlotService::prepareArea(bool isModel) {
     if (isModel && hasNoWindow()) setPlotArea(kExportModelArea.standard, true);
@@ -84,8 +89,52 @@ int StandinPlotService::getPlotArea(bool isModel) {
     return isAreaOf(area, isModel) ? area : option.standard;
 }
 
-bool StandinPlotService::hasNoWindow() { return getPlotArea(true) == kWindowArea; }
-void StandinPlotService::pickWindow() { tell(IDS_PLOT_NO_WINDOW); }
-void StandinPlotService::overrideDialog(OdDbPlotSettings*, const wchar_t*) { tell(IDS_PLOT_NO_OVERRIDE); }
+bool StandinPlotService::hasNoWindow() { return getPlotArea(true) == kWindowArea && !m_window; }
+
+void StandinPlotService::pickWindow() {
+    if (m_view == nullptr) {
+        const OwnResources resources;
+        ShowStandinMessage(IDS_PLOT_NO_WINDOW, MB_ICONINFORMATION);
+        return;
+    }
+    OdGePoint2d a, b;
+    // A window without an area would show nothing; the former one stays.
+    if (m_view->pickArea(a, b) && a.x != b.x && a.y != b.y) m_window = areaBetween(a, b);
+}
+
+void StandinPlotService::overrideDialog(OdDbPlotSettings* settings, int) {
+    if (settings != nullptr) show(CStandinPageSetupDialog(*settings, CWnd::GetActiveWindow()));
+}
+
 void StandinPlotService::setOverride(bool on) { setExportOption(kExportOverride, on); }
 bool StandinPlotService::getOverride() { return getExportOption(kExportOverride) != 0; }
+
+std::optional<SceneExtents> StandinPlotService::displayedArea() const {
+    OdGePoint2d low, high;
+    if (m_view == nullptr || !m_view->displayedArea(low, high)) return std::nullopt;
+    return areaBetween(low, high);
+}
+
+bool StandinPlotService::exportDrawing(const CString& path, CString& message) {
+    OdDbDatabase* const drawing = oddbHostApplicationServices()->workingDatabase();
+    const auto layout = drawing != nullptr ? drawing->currentLayoutId().open<OdDbLayout>() : OdDbLayoutPtr();
+    if (!layout) {
+        message = textOf(IDS_EXPORT_NO_DRAWING);
+        return false;
+    }
+    ExportRequest request;
+    request.area = getPlotArea(layout->modelType());
+    if (request.area == kDisplayArea) request.picked = displayedArea();
+    if (request.area == kWindowArea) request.picked = m_window;
+    std::vector<CString> written;
+    const bool isDone = ExportDrawingTo(*drawing, request, path, written, message);
+    if (isDone && getFirstSwitch() && !written.empty()) openFile(written.front());
+    return isDone;
+}
+
+void StandinPlotService::openFile(const CString& path) const {
+    if (m_opener)
+        m_opener(path);
+    else
+        ::ShellExecuteW(nullptr, nullptr, path, nullptr, nullptr, SW_SHOWNORMAL);
+}

@@ -1,28 +1,16 @@
-// The plot service of the stand-in host: keeps the options of an export in the user's profile. What takes a
-// plotter or a view of the drawing it can't do, and says so. Internal to the module.
+// The plot service of the stand-in host: keeps the options of an export in the user's profile, and writes
+// drawings to PDF files. Internal to the module.
 #pragma once
 
+#include <functional>
+#include <optional>
+
+#include <afxwin.h>
 #include <kh_plot_service.h>
 
-/// Numbers of the options in section "Export" of the profile, and what stands for one that is not there.
-struct ExportOption {
-    const wchar_t* key;
-    int standard;
-};
-constexpr ExportOption kExportMultiSheet = {L"MultiSheet", 1};
-constexpr ExportOption kExportLayers = {L"Layers", 1};
-constexpr ExportOption kExportMerge = {L"Merge", 0};
-constexpr ExportOption kExportPassword = {L"Password", 0};
-constexpr ExportOption kExportBlocks = {L"Blocks", 0};
-constexpr ExportOption kExportFirstSwitch = {L"FirstSwitch", 0};
-constexpr ExportOption kExportSecondSwitch = {L"SecondSwitch", 0};
-constexpr ExportOption kExportModelArea = {L"ModelArea", 0};
-constexpr ExportOption kExportLayoutArea = {L"LayoutArea", 3};
-constexpr ExportOption kExportOverride = {L"Override", 0};
+#include "scene.h"
 
-/// An option from the profile of the host in force.
-int getExportOption(const ExportOption& option);
-void setExportOption(const ExportOption& option, int value);
+class StandinPlotView;
 
 class StandinPlotService final : public CKhPlotSvr {
 public:
@@ -30,8 +18,10 @@ public:
     void exportOptionsDialog() override;
     void getExportSummary(KhExportSummary& summary) override;
     void setExportFormat(int format, int flag) override;
+    /// Whether a stamp is written.
     void setSecondSwitch(bool on) override;
     bool getSecondSwitch() override;
+    /// Whether the file is opened when it is written.
     void setFirstSwitch(bool on) override;
     bool getFirstSwitch() override;
     /// A window that was chosen and never picked gives way to the display.
@@ -41,10 +31,22 @@ public:
     int getPlotArea(bool isModel) override;
     bool hasNoWindow() override;
     void pickWindow() override;
-    void overrideDialog(OdDbPlotSettings* settings, const wchar_t* tag) override;
+    void overrideDialog(OdDbPlotSettings* settings, int tag) override;
     void setOverride(bool on) override;
     bool getOverride() override;
 
+    /// Writes the working drawing as the options say; false with the reason in `message`.
+    bool exportDrawing(const CString& path, CString& message);
+    /// The window was picked in a drawing that is no longer the current one.
+    void forgetWindow() { m_window.reset(); }
+
+    StandinPlotView* m_view = nullptr;             ///< of the application; null for none
+    std::function<bool(const CString&)> m_opener;  ///< opens a file that was written; empty for the system's
+
 private:
+    std::optional<SceneExtents> displayedArea() const;
+    void openFile(const CString& path) const;
+
     int m_format = 0;  ///< 0 DWF, 1 DWFx, 2 PDF
+    std::optional<SceneExtents> m_window;
 };

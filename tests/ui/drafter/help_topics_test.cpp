@@ -206,7 +206,8 @@ TEST_F(HelpTopics, EachDialogOfTheDrafterHasAPageInBothLanguages) {
 }
 
 TEST_F(HelpTopics, EachOtherTopicHasAPageInBothLanguages) {
-    for (const wchar_t* topic : {L"index", L"TitleBlock", L"SelectColor", L"LinetypeManager",
-                                 L"LoadLinetypes", L"SelectPlotStyle", L"SecurityOptions", L"ExportOptions"})
+    for (const wchar_t* topic :
+         {L"index", L"TitleBlock", L"SelectColor", L"LinetypeManager", L"LoadLinetypes", L"SelectPlotStyle",
+          L"SecurityOptions", L"ExportOptions", L"PlotStamp", L"PageSetup", L"Export"})
         expectPages(topic);
 }

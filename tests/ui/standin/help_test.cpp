@@ -128,7 +128,9 @@ TEST_F(Help, EachDialogOfTheHostHasATopic) {
                                                       {IDD_LOAD_LINETYPES, L"LoadLinetypes"},
                                                       {IDD_PLOT_STYLES, L"SelectPlotStyle"},
                                                       {IDD_SECURITY, L"SecurityOptions"},
-                                                      {IDD_EXPORT_OPTIONS, L"ExportOptions"}};
+                                                      {IDD_EXPORT_OPTIONS, L"ExportOptions"},
+                                                      {IDD_PLOT_STAMP, L"PlotStamp"},
+                                                      {IDD_PAGE_SETUP, L"PageSetup"}};
     for (const auto& [id, topic] : topics) {
         for (const LANGID language : {kEnglish, kChinese}) {
             const InLanguage user(language);

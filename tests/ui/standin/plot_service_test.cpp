@@ -37,7 +37,6 @@ TEST_F(PlotService, TheSummaryStartsWithTheStandards) {
     EXPECT_EQ(found.mergeControl, 0);
     EXPECT_EQ(found.passwordPrompt, 0);
     EXPECT_EQ(found.blockInformation, 0);
-    EXPECT_NE(found.firstTexts, 0);
     EXPECT_STREQ(found.summary.c_str(), L"DWF, all sheets in one file");
 }
 
@@ -45,9 +44,7 @@ TEST_F(PlotService, EachOptionOfTheDialogIsKept) {
     const std::pair<int, int KhExportSummary::*> options[] = {
         {IDC_EXPORT_MULTI_SHEET, &KhExportSummary::multiSheet},
         {IDC_EXPORT_LAYERS, &KhExportSummary::layerInformation},
-        {IDC_EXPORT_MERGE, &KhExportSummary::mergeControl},
-        {IDC_EXPORT_PASSWORD, &KhExportSummary::passwordPrompt},
-        {IDC_EXPORT_BLOCKS, &KhExportSummary::blockInformation}};
+        {IDC_EXPORT_MERGE, &KhExportSummary::mergeControl}};
     for (const auto& [id, field] : options) {
         const KhExportSummary before = summary();
         turnOver({id}, IDOK);
@@ -60,9 +57,9 @@ TEST_F(PlotService, EachOptionOfTheDialogIsKept) {
 }
 
 TEST_F(PlotService, CancelKeepsNothing) {
-    turnOver({IDC_EXPORT_MULTI_SHEET, IDC_EXPORT_BLOCKS}, IDCANCEL);
+    turnOver({IDC_EXPORT_MULTI_SHEET, IDC_EXPORT_MERGE}, IDCANCEL);
     EXPECT_EQ(summary().multiSheet, 1);
-    EXPECT_EQ(summary().blockInformation, 0);
+    EXPECT_EQ(summary().mergeControl, 0);
 }
 
 TEST_F(PlotService, TheSummaryNamesTheFormatAndTheFolder) {
@@ -128,8 +125,8 @@ TEST_F(PlotService, AWindowIsMissingUntilItIsPickedAndGivesWayWhenAreasArePrepar
     EXPECT_EQ(plot().getPlotArea(true), 1);
 }
 
-TEST_F(PlotService, WhatItCannotDoItSays) {
-    EXPECT_NE(messageOf([&] { plot().plotStampDialog(); }).Find(L"Plot stamps can't be set"), -1);
+TEST_F(PlotService, WithoutAViewNoWindowCanBePicked) {
     EXPECT_NE(messageOf([&] { plot().pickWindow(); }).Find(L"can't be picked"), -1);
-    EXPECT_NE(messageOf([&] { plot().overrideDialog(nullptr, L""); }).Find(L"can't be overridden"), -1);
+    plot().setPlotArea(2, true);
+    EXPECT_TRUE(plot().hasNoWindow());
 }

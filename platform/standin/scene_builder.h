@@ -3,11 +3,15 @@
 
 #include "scene.h"
 
+struct SceneCorner;
+
 /// A mapping of the plane: scale, turn and move.
-struct PlaneTransform {
+struct STANDIN_API PlaneTransform {
     double xx = 1, xy = 0, yx = 0, yy = 1, x = 0, y = 0;
     OdGePoint2d apply(double px, double py) const { return {xx * px + xy * py + x, yx * px + yy * py + y}; }
     OdGePoint2d apply(const OdGePoint3d& p) const { return apply(p.x, p.y); }
+    /// A vector without the move.
+    OdGePoint2d turned(const OdGePoint2d& v) const { return {xx * v.x + xy * v.y, yx * v.x + yy * v.y}; }
     /// This mapping after `inner`.
     PlaneTransform after(const PlaneTransform& inner) const;
     /// How much it enlarges, the mean of both directions.
@@ -16,9 +20,15 @@ struct PlaneTransform {
     double rotation() const;
 };
 
-class SceneBuilder {
+/// What a scene is for.
+enum class SceneUse {
+    kScreen,  ///< what the user sees
+    kPaper    ///< the same without layers that aren't plotted
+};
+
+class STANDIN_API SceneBuilder {
 public:
-    explicit SceneBuilder(OdDbDatabase& drawing);
+    explicit SceneBuilder(OdDbDatabase& drawing, SceneUse use = SceneUse::kScreen);
 
     /// Adds the entities of a block in place, or where `transform` puts them; what is by block in them looks
     /// like `byBlock`, null for the usual look.
@@ -43,14 +53,18 @@ private:
     void addText(const OdDbText& text, const Context& context, const DisplayStyle& style);
     void addMText(const OdDbMText& text, const Context& context, const DisplayStyle& style);
     void addPath(std::vector<OdGePoint2d> points, const Context& context, const DisplayStyle& style,
-                 bool filled = false);
-    void addArc(const OdGePoint3d& center, double radius, double start, double sweep, const Context& context,
-                const DisplayStyle& style);
+                 bool filled = false, std::vector<SceneArc> arcs = {});
+    /// Adds an arc of which the ends of the half axes are `major` and `minor`, from the centre.
+    void addArc(const OdGePoint3d& center, const OdGePoint2d& major, const OdGePoint2d& minor, double start,
+                double sweep, const Context& context, const DisplayStyle& style);
+    void addCorners(const std::vector<SceneCorner>& corners, bool closed, const Context& context,
+                    const DisplayStyle& style);
     DisplayStyle styleOf(const OdDbEntity& entity, const Context& context) const;
     std::vector<double> dashesOf(const OdDbObjectId& linetype, double scale) const;
     bool isLayerShown(const OdDbObjectId& layer) const;
 
     OdDbDatabase& m_drawing;
+    SceneUse m_use;
     double m_linetypeScale;
     Scene m_scene;
 };

@@ -6,4 +6,4 @@
 #include "scene.h"
 
 /// The font without a height. A TrueType family is shown as itself; shape fonts are shown in the stand-in.
-LOGFONT TextFace(const SceneFont& font);
+STANDIN_API LOGFONT TextFace(const SceneFont& font);

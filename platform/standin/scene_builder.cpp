@@ -3,6 +3,12 @@
 #include <cmath>
 #include <numbers>
 
+/// A corner of a polyline, and the bulge of the part behind it.
+struct SceneCorner {
+    OdGePoint2d point;
+    double bulge;
+};
+
 namespace {
 
 constexpr double kTurn = 2 * std::numbers::pi;
@@ -10,11 +16,13 @@ constexpr int kMaximumDepth = 16;  // blocks within blocks; a file may hold a lo
 constexpr double kArcStep = kTurn / 72;
 
 /// The points of an arc between two corners with the given bulge, without the first corner.
-void appendBulge(std::vector<OdGePoint2d>& points, OdGePoint2d from, OdGePoint2d to, double bulge) {
+void appendBulge(std::vector<OdGePoint2d>& points, std::vector<SceneArc>& arcs, OdGePoint2d from,
+                 OdGePoint2d to, double bulge) {
     if (bulge == 0) {
         points.push_back(to);
         return;
     }
+    const std::size_t first = points.size() - 1;
     const double sweep = 4 * std::atan(bulge);
     const double chordX = to.x - from.x, chordY = to.y - from.y;
     const double rise = (1 / std::tan(sweep / 2)) / 2;
@@ -27,6 +35,7 @@ void appendBulge(std::vector<OdGePoint2d>& points, OdGePoint2d from, OdGePoint2d
         points.push_back({center.x + radius * std::cos(angle), center.y + radius * std::sin(angle)});
     }
     points.push_back(to);
+    arcs.push_back({first, points.size() - 1, center, {radius, 0}, {0, radius}, start, sweep});
 }
 
 /// The text with the codes for degree, plus-minus and diameter resolved; underlining is left out.
@@ -66,30 +75,15 @@ SceneFont fontOf(const OdDbObjectId& style, double oblique) {
     return font;
 }
 
-struct Corner {
-    OdGePoint2d point;
-    double bulge;
-};
-
-std::vector<OdGePoint2d> pointsOf(const std::vector<Corner>& corners, bool closed) {
-    std::vector<OdGePoint2d> points;
-    if (corners.empty()) return points;
-    points.push_back(corners.front().point);
-    for (std::size_t i = 1; i < corners.size(); ++i)
-        appendBulge(points, corners[i - 1].point, corners[i].point, corners[i - 1].bulge);
-    if (closed) appendBulge(points, corners.back().point, corners.front().point, corners.back().bulge);
-    return points;
-}
-
-std::vector<Corner> cornersOf(const OdDbPolyline& polyline) {
-    std::vector<Corner> corners;
+std::vector<SceneCorner> cornersOf(const OdDbPolyline& polyline) {
+    std::vector<SceneCorner> corners;
     for (const OdDbPolylineVertex& vertex : polyline.vertices())
         corners.push_back({vertex.point, vertex.bulge});
     return corners;
 }
 
-std::vector<Corner> cornersOf(const OdDb2dPolyline& polyline) {
-    std::vector<Corner> corners;
+std::vector<SceneCorner> cornersOf(const OdDb2dPolyline& polyline) {
+    std::vector<SceneCorner> corners;
     for (const OdDbVertex* vertex : polyline.vertices()) {
         const OdGePoint3d point = vertex->position();
         corners.push_back({{point.x, point.y}, vertex->bulge()});
@@ -112,8 +106,8 @@ PlaneTransform PlaneTransform::after(const PlaneTransform& inner) const {
 double PlaneTransform::scale() const { return std::sqrt(std::abs(xx * yy - xy * yx)); }
 double PlaneTransform::rotation() const { return std::atan2(yx, xx); }
 
-SceneBuilder::SceneBuilder(OdDbDatabase& drawing)
-    : m_drawing(drawing), m_linetypeScale(drawing.getLTSCALE()) {}
+SceneBuilder::SceneBuilder(OdDbDatabase& drawing, SceneUse use)
+    : m_drawing(drawing), m_use(use), m_linetypeScale(drawing.getLTSCALE()) {}
 
 void SceneBuilder::addBlock(const OdDbObjectId& block, const PlaneTransform& transform,
                             const DisplayStyle* byBlock) {
@@ -138,7 +132,9 @@ void SceneBuilder::addEntities(const OdDbObjectId& block, const Context& context
 
 bool SceneBuilder::isLayerShown(const OdDbObjectId& layer) const {
     const auto record = layer.open<OdDbLayerTableRecord>();
-    return !record || (!record->isOff() && !record->isFrozen());
+    if (!record) return true;
+    if (m_use == SceneUse::kPaper && !record->isPlottable()) return false;
+    return !record->isOff() && !record->isFrozen();
 }
 
 void SceneBuilder::addEntity(OdDbEntity& entity, const Context& context) {
@@ -165,30 +161,23 @@ void SceneBuilder::addCurve(OdDbEntity& entity, const Context& context, const Di
     if (auto* line = dynamic_cast<OdDbLine*>(&entity)) {
         addPath({t.apply(line->startPoint()), t.apply(line->endPoint())}, context, style);
     } else if (auto* circle = dynamic_cast<OdDbCircle*>(&entity)) {
-        addArc(circle->center(), circle->radius(), 0, kTurn, context, style);
+        const double radius = circle->radius();
+        addArc(circle->center(), {radius, 0}, {0, radius}, 0, kTurn, context, style);
     } else if (auto* arc = dynamic_cast<OdDbArc*>(&entity)) {
         double sweep = std::fmod(arc->endAngle() - arc->startAngle(), kTurn);
         if (sweep <= 0) sweep += kTurn;
-        addArc(arc->center(), arc->radius(), arc->startAngle(), sweep, context, style);
+        const double radius = arc->radius();
+        addArc(arc->center(), {radius, 0}, {0, radius}, arc->startAngle(), sweep, context, style);
     } else if (auto* ellipse = dynamic_cast<OdDbEllipse*>(&entity)) {
-        const OdGePoint3d c = ellipse->center(), a = ellipse->majorAxis();
+        const OdGePoint3d a = ellipse->majorAxis();
         const double ratio = ellipse->radiusRatio(), start = ellipse->startParam();
         double sweep = ellipse->endParam() - start;
         if (sweep <= 0) sweep += kTurn;
-        std::vector<OdGePoint2d> points;
-        for (int i = 0; i <= 72; ++i) {
-            const double p = start + sweep * i / 72, x = std::cos(p), y = std::sin(p) * ratio;
-            points.push_back(t.apply(c.x + a.x * x - a.y * y, c.y + a.y * x + a.x * y));
-        }
-        addPath(std::move(points), context, style);
+        addArc(ellipse->center(), {a.x, a.y}, {-a.y * ratio, a.x * ratio}, start, sweep, context, style);
     } else if (auto* polyline = dynamic_cast<OdDbPolyline*>(&entity)) {
-        std::vector<OdGePoint2d> points = pointsOf(cornersOf(*polyline), polyline->isClosed());
-        for (OdGePoint2d& point : points) point = t.apply(point.x, point.y);
-        addPath(std::move(points), context, style);
+        addCorners(cornersOf(*polyline), polyline->isClosed(), context, style);
     } else if (auto* old = dynamic_cast<OdDb2dPolyline*>(&entity); old != nullptr && !old->isMesh()) {
-        std::vector<OdGePoint2d> points = pointsOf(cornersOf(*old), old->isClosed());
-        for (OdGePoint2d& point : points) point = t.apply(point.x, point.y);
-        addPath(std::move(points), context, style);
+        addCorners(cornersOf(*old), old->isClosed(), context, style);
     } else if (auto* spline = dynamic_cast<OdDbSpline*>(&entity)) {
         std::vector<OdGePoint2d> points;
         for (const OdGePoint3d& point : spline->samplePoints(64)) points.push_back(t.apply(point));
@@ -204,21 +193,43 @@ void SceneBuilder::addCurve(OdDbEntity& entity, const Context& context, const Di
 }
 
 void SceneBuilder::addPath(std::vector<OdGePoint2d> points, const Context& context, const DisplayStyle& style,
-                           bool filled) {
+                           bool filled, std::vector<SceneArc> arcs) {
     if (points.empty()) return;
-    m_scene.paths.push_back({std::move(points), filled, style, context.entity});
+    m_scene.paths.push_back({std::move(points), filled, style, context.entity, std::move(arcs)});
 }
 
-void SceneBuilder::addArc(const OdGePoint3d& center, double radius, double start, double sweep,
-                          const Context& context, const DisplayStyle& style) {
+void SceneBuilder::addCorners(const std::vector<SceneCorner>& corners, bool closed, const Context& context,
+                              const DisplayStyle& style) {
+    if (corners.empty()) return;
+    std::vector<OdGePoint2d> points = {corners.front().point};
+    std::vector<SceneArc> arcs;
+    const auto append = [&](const SceneCorner& from, const SceneCorner& to) {
+        appendBulge(points, arcs, from.point, to.point, from.bulge);
+    };
+    for (std::size_t i = 1; i < corners.size(); ++i) append(corners[i - 1], corners[i]);
+    if (closed) append(corners.back(), corners.front());
+    const PlaneTransform& t = context.transform;
+    for (OdGePoint2d& point : points) point = t.apply(point.x, point.y);
+    for (SceneArc& arc : arcs) {
+        arc.center = t.apply(arc.center.x, arc.center.y);
+        arc.axisX = t.turned(arc.axisX);
+        arc.axisY = t.turned(arc.axisY);
+    }
+    addPath(std::move(points), context, style, false, std::move(arcs));
+}
+
+void SceneBuilder::addArc(const OdGePoint3d& center, const OdGePoint2d& major, const OdGePoint2d& minor,
+                          double start, double sweep, const Context& context, const DisplayStyle& style) {
+    const PlaneTransform& t = context.transform;
     const int steps = std::max(2, static_cast<int>(std::ceil(sweep / kArcStep)));
     std::vector<OdGePoint2d> points;
     for (int i = 0; i <= steps; ++i) {
-        const double angle = start + sweep * i / steps;
-        points.push_back(context.transform.apply(center.x + radius * std::cos(angle),
-                                                 center.y + radius * std::sin(angle)));
+        const double angle = start + sweep * i / steps, x = std::cos(angle), y = std::sin(angle);
+        points.push_back(t.apply(center.x + major.x * x + minor.x * y, center.y + major.y * x + minor.y * y));
     }
-    addPath(std::move(points), context, style);
+    const SceneArc arc = {0,    points.size() - 1, t.apply(center), t.turned(major), t.turned(minor), start,
+                          sweep};
+    addPath(std::move(points), context, style, false, {arc});
 }
 
 void SceneBuilder::addReference(OdDbBlockReference& reference, const Context& context,
@@ -319,6 +330,7 @@ DisplayStyle SceneBuilder::styleOf(const OdDbEntity& entity, const Context& cont
         layer = context.layer.open<OdDbLayerTableRecord>();
 
     DisplayStyle style;
+    if (layer) style.layer = layer->objectId();
     style.color = entity.color();
     if (style.color.isByLayer() && layer) style.color = layer->color();
     if (style.color.isByBlock()) style.color = byBlock.color;

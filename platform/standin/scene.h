@@ -6,12 +6,23 @@
 
 #include <od_db.h>
 
+#include "standin_api.h"
+
 /// How a piece of the scene is drawn. "By layer" and "by block" are resolved already.
 struct DisplayStyle {
     OdCmColor color;  ///< never by layer or by block
     std::vector<double>
         dashes;          ///< drawing units: positive a dash, negative a gap, 0 a dot; empty for continuous
     int lineWeight = 0;  ///< hundredths of a millimetre
+    OdDbObjectId layer;
+};
+
+/// A part of a path that is an arc of an ellipse or circle: the points `first` to `last` lie on it.
+struct SceneArc {
+    std::size_t first = 0, last = 0;
+    OdGePoint2d center;
+    OdGePoint2d axisX, axisY;     ///< half axes: the place at t is center + axisX cos t + axisY sin t
+    double start = 0, sweep = 0;  ///< radians
 };
 
 /// A line through points, or a filled area within them.
@@ -19,8 +30,12 @@ struct ScenePath {
     std::vector<OdGePoint2d> points;
     bool filled = false;
     DisplayStyle style;
-    OdDbObjectId entity;  ///< the entity of the space that it belongs to
+    OdDbObjectId entity;              ///< the entity of the space that it belongs to
+    std::vector<SceneArc> arcs = {};  ///< in the order of their points
 };
+
+/// Height of capitals in that of their font.
+constexpr double kCapitalShare = 0.72;
 
 /// The font of a text, from its style.
 struct SceneFont {
@@ -46,13 +61,13 @@ struct SceneText {
 };
 
 /// A rectangle in drawing units; empty until something is added.
-struct SceneExtents {
+struct STANDIN_API SceneExtents {
     OdGePoint2d low{1e300, 1e300}, high{-1e300, -1e300};
     bool isEmpty() const { return low.x > high.x; }
     void add(const OdGePoint2d& point);
 };
 
-struct Scene {
+struct STANDIN_API Scene {
     std::vector<ScenePath> paths;
     std::vector<SceneText> texts;
 
@@ -61,4 +76,4 @@ struct Scene {
 };
 
 /// The visible entities of block `space` of `drawing`.
-Scene BuildScene(OdDbDatabase& drawing, const OdDbObjectId& space);
+STANDIN_API Scene BuildScene(OdDbDatabase& drawing, const OdDbObjectId& space);

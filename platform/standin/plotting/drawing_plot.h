@@ -1,0 +1,47 @@
+// DrawingPlot: writes areas of model space and sheets of layouts as the pages of a PDF file. Knows no window.
+//
+//     DrawingPlot plot(drawing, faces, look);
+//     plot.addModel(area, settings, false);
+//     std::string file = plot.write(L"Bracket");
+#pragma once
+
+#include "plotting/scene_plotter.h"
+
+/// The name in a layout's extension dictionary under which the settings that override its own are kept.
+constexpr const wchar_t* kPlotOverrideName = L"AcPublish_PlotSettingsOverride";
+
+/// The settings that `layout` is plotted by: those that override its own for `overrides`, if it has some.
+OdDbPlotSettingsPtr PlotSettingsOf(const OdDbLayout& layout, bool overrides);
+
+/// The layouts on paper in the order of their tabs.
+std::vector<OdDbLayoutPtr> LayoutsOnPaper(OdDbDatabase& drawing);
+
+/// The area that everything that is plotted in model space takes up.
+SceneExtents ModelExtents(OdDbDatabase& drawing);
+
+class DrawingPlot {
+public:
+    DrawingPlot(OdDbDatabase& drawing, PlotFaces faces, const PlotLook& look)
+        : m_drawing(drawing), m_faces(std::move(faces)), m_look(look) {}
+
+    /// A page that shows `area` of model space and nothing beside it; `keepsScale` as for PlaceArea.
+    void addModel(const SceneExtents& area, const OdDbPlotSettings& settings, bool keepsScale);
+    /// A page that shows the sheet of `layout` with what its viewports show of model space.
+    void addLayout(const OdDbLayout& layout, const OdDbPlotSettings& settings);
+    /// A line of text at the foot of the last page.
+    void stamp(std::wstring_view text);
+
+    int pageCount() const { return static_cast<int>(m_file.pages().size()); }
+    /// The whole file.
+    std::string write(std::wstring_view title);
+
+private:
+    void addViewport(const OdDbEntity& viewport, const OdDbObjectId& model, const PaperPlace& place,
+                     PdfPage& page);
+
+    OdDbDatabase& m_drawing;
+    PlotFaces m_faces;
+    PlotLook m_look;
+    PdfWriter m_file;
+    PdfPage* m_last = nullptr;
+};

@@ -1,0 +1,179 @@
+#include "plotting/scene_plotter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+constexpr double kHundredthsOfMillimetre = 100;
+constexpr double kThinnestDot = 0.35;  // points
+
+PdfPoint pointOf(const OdGePoint2d& p) { return {p.x, p.y}; }
+
+/// Draws the pieces of one scene.
+class Plotter {
+public:
+    Plotter(PdfWriter& file, PdfPage& page, const PaperPlace& place, const PlotFaces& faces,
+            const PlotLook& look)
+        : m_file(file), m_page(page), m_place(place), m_faces(faces), m_look(look) {}
+
+    void draw(const ScenePath& path);
+    void draw(const SceneText& text);
+
+private:
+    PdfPoint at(const OdGePoint2d& p) const { return pointOf(m_place.apply(p)); }
+    bool beginLayer(const DisplayStyle& style);
+    void trace(const ScenePath& path);
+    void curve(const SceneArc& arc);
+    void fill(const ScenePath& path);
+    void stroke(const ScenePath& path);
+
+    PdfWriter& m_file;
+    PdfPage& m_page;
+    const PaperPlace& m_place;
+    const PlotFaces& m_faces;
+    const PlotLook& m_look;
+};
+
+bool Plotter::beginLayer(const DisplayStyle& style) {
+    if (!m_look.layers) return false;
+    const auto layer = style.layer.open<OdDbLayerTableRecord>();
+    if (!layer) return false;
+    m_page.beginLayer(m_file.layer(layer->getName().c_str()));
+    return true;
+}
+
+/// Parts of a quarter turn at most, each a curve that departs from the arc by less than 0.03 % of its radius.
+void Plotter::curve(const SceneArc& arc) {
+    const auto place = [&](double t) {
+        const double c = std::cos(t), s = std::sin(t);
+        return at({arc.center.x + arc.axisX.x * c + arc.axisY.x * s,
+                   arc.center.y + arc.axisX.y * c + arc.axisY.y * s});
+    };
+    const auto slope = [&](double t) {
+        const double c = std::cos(t), s = std::sin(t);
+        return OdGePoint2d{(arc.axisY.x * c - arc.axisX.x * s) * m_place.scale,
+                           (arc.axisY.y * c - arc.axisX.y * s) * m_place.scale};
+    };
+    const int parts =
+        std::max(1, static_cast<int>(std::ceil(std::abs(arc.sweep) / (std::numbers::pi / 2) - 1e-9)));
+    const double step = arc.sweep / parts, reach = 4 * std::tan(step / 4) / 3;
+    for (int i = 0; i < parts; ++i) {
+        const double from = arc.start + step * i, to = from + step;
+        const PdfPoint a = place(from), b = place(to);
+        const OdGePoint2d u = slope(from), v = slope(to);
+        m_page.curveTo({a.x + u.x * reach, a.y + u.y * reach}, {b.x - v.x * reach, b.y - v.y * reach}, b);
+    }
+}
+
+void Plotter::trace(const ScenePath& path) {
+    m_page.moveTo(at(path.points.front()));
+    auto arc = path.arcs.begin();
+    for (std::size_t i = 0; i + 1 < path.points.size();) {
+        if (arc != path.arcs.end() && arc->first == i && arc->last > i) {
+            curve(*arc);
+            i = arc->last;
+            ++arc;
+        } else {
+            m_page.lineTo(at(path.points[++i]));
+        }
+    }
+    const OdGePoint2d &first = path.points.front(), &last = path.points.back();
+    const bool isClosed =
+        path.points.size() > 2 && std::hypot(first.x - last.x, first.y - last.y) * m_place.scale < 1e-3;
+    if (isClosed) m_page.closePath();
+}
+
+void Plotter::fill(const ScenePath& path) {
+    m_page.setFillColor(InkOf(path.style.color));
+    trace(path);
+    m_page.fill();
+}
+
+void Plotter::stroke(const ScenePath& path) {
+    const double width = path.style.lineWeight / kHundredthsOfMillimetre * kPointsPerMillimetre;
+    const OdGePoint2d &first = path.points.front(), &last = path.points.back();
+    const bool isDot = path.points.size() == 2 && first.x == last.x && first.y == last.y;
+    m_page.setStrokeColor(InkOf(path.style.color));
+    m_page.setLineWidth(isDot ? std::max(width, kThinnestDot) : width);
+    m_page.setRoundEnds(isDot);
+    m_page.setDashes(DashesOnPaper(path.style.dashes, m_place.scale, std::max(width, kThinnestDot)));
+    trace(path);
+    m_page.stroke();
+}
+
+void Plotter::draw(const ScenePath& path) {
+    const bool isInLayer = beginLayer(path.style);
+    if (path.filled)
+        fill(path);
+    else
+        stroke(path);
+    if (isInLayer) m_page.endLayer();
+}
+
+void Plotter::draw(const SceneText& text) {
+    const double em = text.height * m_place.scale / kCapitalShare;
+    if (text.text.isEmpty() || em <= 0) return;
+    const PlotFace face = m_faces(text.font);
+    const std::vector<PdfRun> runs = m_file.fonts().encode(face.name, text.text.view(), face.source);
+    double length = 0;
+    for (const PdfRun& run : runs) length += run.width;
+    const double c = std::cos(text.rotation), s = std::sin(text.rotation);
+    const double stretch = em * text.widthFactor, slant = std::tan(text.font.oblique) * em;
+    const double rows[] = {0, 0, 0.5, 1};
+    const double down = text.height * m_place.scale * rows[std::clamp(text.vertical, 0, 3)];
+    double along = -length * stretch * std::clamp(text.horizontal, 0, 2) / 2;
+    const PdfPoint start = at(text.position);
+    const bool isInLayer = beginLayer(text.style);
+    m_page.setFillColor(InkOf(text.style.color));
+    for (const PdfRun& run : runs) {
+        const double matrix[6] = {stretch * c,
+                                  stretch * s,
+                                  slant * c - em * s,
+                                  slant * s + em * c,
+                                  start.x + along * c + down * s,
+                                  start.y + along * s - down * c};
+        m_page.showText(run.font, run.codes, matrix);
+        along += run.width * stretch;
+    }
+    if (isInLayer) m_page.endLayer();
+}
+
+}  // namespace
+
+PdfColor InkOf(const OdCmColor& color) {
+    if (color.isByACI() && color.colorIndex() == OdCmColor::kForeground) return {0, 0, 0};
+    return {color.red(), color.green(), color.blue()};
+}
+
+std::vector<double> DashesOnPaper(const std::vector<double>& dashes, double scale, double dot) {
+    std::vector<double> lengths;
+    const bool hasGap = std::any_of(dashes.begin(), dashes.end(), [](double each) { return each < 0; });
+    if (!hasGap) return lengths;
+    for (const double each : dashes) {
+        const bool isGap = each < 0;
+        const double length = each == 0 ? dot : std::abs(each) * scale;
+        // Dashes stand at even places. A pattern that begins with a gap begins with a dash of no length.
+        if (lengths.empty() && isGap) lengths.push_back(0);
+        const bool continues = !lengths.empty() && (lengths.size() % 2 == 0) == isGap;
+        if (continues)
+            lengths.back() += length;
+        else
+            lengths.push_back(length);
+    }
+    // An odd count would swap dashes and gaps at each repetition.
+    if (lengths.size() % 2 != 0) lengths.push_back(0);
+    return lengths;
+}
+
+void PlotScene(PdfWriter& file, PdfPage& page, const Scene& scene, const PaperPlace& place,
+               const PlotFaces& faces, const PlotLook& look) {
+    Plotter plotter(file, page, place, faces, look);
+    page.saveState();
+    page.setRoundCorners();
+    if (look.merges) page.useState(PdfWriter::kMergeState);
+    for (const ScenePath& path : scene.paths) plotter.draw(path);
+    for (const SceneText& text : scene.texts) plotter.draw(text);
+    page.restoreState();
+}

@@ -1,0 +1,323 @@
+// The host exports its drawing: areas, sheets, refusals, stamps, and the page set-up that overrides.
+#include <kh_plot_service.h>
+#include <standin_plot_view.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "../../../platform/standin/resource.h"
+#include "host_fixture.h"
+
+namespace {
+
+class Document final : public KtApDocument {
+public:
+    OdDbDatabase* database() override { return drawing.get(); }
+    CKhDrawingView* drawingView() override { return nullptr; }
+    CKhVariableStore* variables() override { return nullptr; }
+    OdDbDatabasePtr drawing{new OdDbDatabase};
+};
+
+/// Shows a square of the drawing, and has "the user" pick another one.
+class View final : public StandinPlotView {
+public:
+    bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override {
+        low = {0, 0};
+        high = {100, 50};
+        return shows;
+    }
+    bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override {
+        ++asked;
+        first = from;
+        second = to;
+        return picks;
+    }
+    bool shows = true, picks = true;
+    int asked = 0;
+    OdGePoint2d from{30, 40}, to{10, 20};
+};
+
+class Exports : public ui_test::HostTest {
+protected:
+    Exports() {
+        host.SetFontFolders({});
+        host.SetCurrentDocument(&document);
+        host.SetPlotView(&view);
+        host.SetExportOpener([this](const CString& path) {
+            opened.push_back(path);
+            return true;
+        });
+        addLine(L"*Model_Space");
+    }
+    ~Exports() override {
+        host.SetCurrentDocument(nullptr);
+        for (const auto& file : std::filesystem::directory_iterator(folder.path()))
+            std::filesystem::remove(file.path());
+    }
+
+    CKhPlotSvr& plot() {
+        return *static_cast<CKhPlotSvr*>(host.serviceManager()->getService(kKhPlotService));
+    }
+    OdDbObjectId block(const wchar_t* name) {
+        OdDbBlockTablePtr blocks;
+        document.drawing->getBlockTable(blocks);
+        return blocks->getAt(name);
+    }
+    void addLine(const wchar_t* space) {
+        OdSmartPtr<OdDbLine> line(new OdDbLine);
+        line->setDatabaseDefaults(document.drawing.get());
+        line->setEndPoint({100, 50, 0});
+        block(space).open<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(OdDbEntityPtr(line.get()));
+    }
+    OdDbLayoutPtr layout() { return document.drawing->currentLayoutId().open<OdDbLayout>(OdDb::kForWrite); }
+    CString path(const wchar_t* name) { return CString((folder.path() + L"\\" + name).c_str()); }
+    std::string exported(const wchar_t* name = L"a.pdf") {
+        EXPECT_TRUE(host.ExportDrawing(path(name), message)) << CStringA(message).GetString();
+        return bytesOf(name);
+    }
+    std::string bytesOf(const wchar_t* name) {
+        std::ifstream file(std::filesystem::path(path(name).GetString()), std::ios::binary);
+        std::stringstream text;
+        text << file.rdbuf();
+        return text.str();
+    }
+    bool isThere(const wchar_t* name) { return ::GetFileAttributesW(path(name)) != INVALID_FILE_ATTRIBUTES; }
+    CString refused(const wchar_t* name = L"a.pdf") {
+        message.Empty();
+        EXPECT_FALSE(host.ExportDrawing(path(name), message));
+        EXPECT_TRUE(opened.empty());
+        return message;
+    }
+    static int count(const std::string& text, const std::string& part) {
+        int found = 0;
+        for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++found;
+        return found;
+    }
+    static int pages(const std::string& file) { return count(file, "/Type /Page "); }
+    /// Shows a dialog by `show`, acts in it, and presses a button.
+    void inDialog(const wchar_t* title, std::function<void()> show, std::function<void(HWND)> act,
+                  int button) {
+        ui_test::when_dialog(title, [&](HWND dialog) {
+            act(dialog);
+            ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+        });
+        show();
+    }
+
+    Document document;
+    View view;
+    CString message;
+    std::vector<CString> opened;
+};
+
+}  // namespace
+
+TEST_F(Exports, WritesTheDisplayTheExtentsAndAWindow) {
+    for (int area = 0; area < 2; ++area) {
+        plot().setPlotArea(area, true);
+        const std::string file = exported();
+        EXPECT_EQ(file.substr(0, 8), "%PDF-1.5");
+        EXPECT_EQ(file.substr(file.size() - 6), "%%EOF\n");
+        EXPECT_EQ(pages(file), 1);
+    }
+    plot().setPlotArea(2, true);
+    EXPECT_NE(refused().Find(L"No area"), -1) << "no window was picked";
+    EXPECT_TRUE(plot().hasNoWindow());
+    plot().pickWindow();
+    EXPECT_EQ(view.asked, 1);
+    EXPECT_FALSE(plot().hasNoWindow());
+    EXPECT_EQ(pages(exported()), 1);
+    EXPECT_TRUE(opened.empty()) << "nobody asked for it";
+    EXPECT_FALSE(isThere(L"a.pdf.new"));
+}
+
+TEST_F(Exports, AWindowThatIsGivenUpOrHasNoAreaLeavesTheFormerOne) {
+    plot().setPlotArea(2, true);
+    view.picks = false;
+    plot().pickWindow();
+    EXPECT_TRUE(plot().hasNoWindow());
+    view.picks = true;
+    for (const OdGePoint2d& to : {OdGePoint2d{30, 0}, OdGePoint2d{0, 40}}) {
+        view.to = to;
+        plot().pickWindow();
+        EXPECT_TRUE(plot().hasNoWindow()) << "without an area";
+    }
+    view.to = {0, 0};
+    plot().pickWindow();
+    EXPECT_FALSE(plot().hasNoWindow());
+    view.picks = false;
+    plot().pickWindow();
+    EXPECT_FALSE(plot().hasNoWindow());
+    EXPECT_EQ(pages(exported()), 1);
+}
+
+TEST_F(Exports, AWindowIsForgottenWithItsDrawing) {
+    plot().setPlotArea(2, true);
+    plot().pickWindow();
+    EXPECT_FALSE(plot().hasNoWindow());
+    host.SetCurrentDocument(&document);
+    EXPECT_TRUE(plot().hasNoWindow());
+}
+
+TEST_F(Exports, WithoutAViewThereIsNoDisplay) {
+    view.shows = false;
+    EXPECT_NE(refused().Find(L"No area"), -1);
+    host.SetPlotView(nullptr);
+    EXPECT_NE(refused().Find(L"No area"), -1);
+    EXPECT_FALSE(isThere(L"a.pdf"));
+}
+
+TEST_F(Exports, SheetsGoIntoOneFileOrIntoAFileEach) {
+    layout()->setModelType(false);
+    plot().setPlotArea(3, false);
+    EXPECT_EQ(pages(exported()), 1);
+    plot().setPlotArea(4, false);
+    EXPECT_EQ(pages(exported()), 2) << "the current one counts as one on paper now";
+    host.profileStore()->setProfileInt(L"Export", L"MultiSheet", 0, 0);
+    EXPECT_TRUE(host.ExportDrawing(path(L"each.pdf"), message));
+    EXPECT_FALSE(isThere(L"each.pdf"));
+    EXPECT_EQ(pages(bytesOf(L"each-Model.pdf")), 1);
+    EXPECT_EQ(pages(bytesOf(L"each-Layout1.pdf")), 1);
+}
+
+TEST_F(Exports, OtherKindsOfFilesAreRefusedAndNothingIsWritten) {
+    EXPECT_NE(refused(L"a.dwf").Find(L"DWF files can't be written"), -1);
+    EXPECT_NE(refused(L"a.DWFX").Find(L"DWFx files can't be written"), -1);
+    EXPECT_FALSE(isThere(L"a.dwf"));
+    EXPECT_FALSE(isThere(L"a.DWFX"));
+}
+
+TEST_F(Exports, AnEmptyDrawingAndNoDrawingAreRefused) {
+    Document empty;
+    host.SetCurrentDocument(&empty);
+    plot().setPlotArea(1, true);
+    EXPECT_NE(refused().Find(L"nothing to export"), -1);
+    host.SetCurrentDocument(nullptr);
+    EXPECT_NE(refused().Find(L"no drawing"), -1);
+    EXPECT_FALSE(isThere(L"a.pdf"));
+}
+
+TEST_F(Exports, AFileThatIsHeldKeepsItsContentAndIsTold) {
+    std::ofstream(std::filesystem::path(path(L"a.pdf").GetString())) << "former";
+    const HANDLE held = ::CreateFileW(path(L"a.pdf"), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(refused().Find(path(L"a.pdf")), -1);
+    ::CloseHandle(held);
+    EXPECT_EQ(bytesOf(L"a.pdf"), "former");
+    EXPECT_FALSE(isThere(L"a.pdf.new"));
+    EXPECT_NE(refused(L"no such folder\\a.pdf").Find(L"can't be written"), -1);
+}
+
+TEST_F(Exports, TheFirstSwitchOpensTheFile) {
+    plot().setFirstSwitch(true);
+    exported();
+    EXPECT_EQ(opened, (std::vector<CString>{path(L"a.pdf")}));
+}
+
+TEST_F(Exports, OptionsOfTheFileAreWritten) {
+    EXPECT_EQ(count(exported(), "/OCProperties"), 1);
+    host.profileStore()->setProfileInt(L"Export", L"Layers", 0, 0);
+    EXPECT_EQ(count(exported(), "/OCProperties"), 0);
+}
+
+TEST_F(Exports, TheSecondSwitchStampsThePage) {
+    const auto letters = [&] { return count(exported(), "/Subtype /Type3"); };
+    EXPECT_EQ(letters(), 0) << "a line has no letters";
+    plot().setSecondSwitch(true);
+    EXPECT_EQ(letters(), 1);
+    inDialog(
+        L"Plot Stamp", [&] { plot().plotStampDialog(); },
+        [](HWND dialog) {
+            for (const int id : {IDC_STAMP_DRAWING, IDC_STAMP_LAYOUT, IDC_STAMP_DATE}) {
+                EXPECT_EQ(::IsDlgButtonChecked(dialog, id), BST_CHECKED) << id;
+                ::SendDlgItemMessageW(dialog, id, BM_CLICK, 0, 0);
+            }
+        },
+        IDOK);
+    EXPECT_EQ(letters(), 0) << "the line says nothing";
+    for (const wchar_t* each : {L"StampDrawing", L"StampLayout", L"StampDate"})
+        EXPECT_EQ(stored(L"Export", each), 0);
+    host.profileStore()->setProfileInt(L"Export", L"StampLayout", 1, 0);
+    EXPECT_EQ(letters(), 1);
+}
+
+TEST_F(Exports, TheOverrideOfThePageSetupIsEdited) {
+    OdDbPlotSettingsPtr settings(new OdDbPlotSettings);
+    settings->copyFrom(*layout());
+    inDialog(
+        L"Page Setup Override", [&] { plot().overrideDialog(settings.get(), 0); },
+        [](HWND dialog) {
+            EXPECT_EQ(::SendDlgItemMessageW(dialog, IDC_PAGE_PAPER, CB_GETCURSEL, 0, 0), 1) << "A3";
+            EXPECT_EQ(::IsDlgButtonChecked(dialog, IDC_PAGE_LANDSCAPE), BST_CHECKED);
+            EXPECT_EQ(::IsDlgButtonChecked(dialog, IDC_PAGE_SCALE), BST_CHECKED);
+            ::SendDlgItemMessageW(dialog, IDC_PAGE_PAPER, CB_SETCURSEL, 0, 0);
+            ::CheckRadioButton(dialog, IDC_PAGE_PORTRAIT, IDC_PAGE_LANDSCAPE, IDC_PAGE_PORTRAIT);
+            ::SetDlgItemTextW(dialog, IDC_PAGE_DRAWING_LENGTH, L"20");
+        },
+        IDOK);
+    EXPECT_EQ(settings->getPlotPaperWidth(), 210);
+    EXPECT_EQ(settings->getPlotPaperHeight(), 297);
+    EXPECT_FALSE(settings->isPlotTurned());
+    EXPECT_FALSE(settings->isPlotFitted());
+    EXPECT_EQ(settings->getPlotScale(), 0.05);
+    EXPECT_STREQ(settings->getCanonicalMediaName(), L"A4");
+    inDialog(
+        L"Page Setup Override", [&] { plot().overrideDialog(settings.get(), 0); },
+        [](HWND dialog) {
+            EXPECT_EQ(ui_test::text_of(::GetDlgItem(dialog, IDC_PAGE_PAPER_LENGTH)), L"1");
+            EXPECT_EQ(ui_test::text_of(::GetDlgItem(dialog, IDC_PAGE_DRAWING_LENGTH)), L"20");
+            EXPECT_EQ(::IsDlgButtonChecked(dialog, IDC_PAGE_PORTRAIT), BST_CHECKED);
+            ::SendDlgItemMessageW(dialog, IDC_PAGE_FIT, BM_CLICK, 0, 0);
+            EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(dialog, IDC_PAGE_PAPER_LENGTH)));
+            ::CheckRadioButton(dialog, IDC_PAGE_PORTRAIT, IDC_PAGE_LANDSCAPE, IDC_PAGE_LANDSCAPE);
+        },
+        IDOK);
+    EXPECT_TRUE(settings->isPlotFitted());
+    EXPECT_TRUE(settings->isPlotTurned());
+}
+
+TEST_F(Exports, ABadScaleOfThePageSetupIsRefused) {
+    OdDbPlotSettingsPtr settings(new OdDbPlotSettings);
+    settings->copyFrom(*layout());
+    inDialog(
+        L"Page Setup Override", [&] { plot().overrideDialog(settings.get(), 0); },
+        [&](HWND dialog) {
+            for (const wchar_t* bad : {L"0", L"-1", L"x", L"", L"1x"}) {
+                ::SetDlgItemTextW(dialog, IDC_PAGE_DRAWING_LENGTH, bad);
+                EXPECT_NE(messageOf([&] { ::SendMessageW(dialog, WM_COMMAND, IDOK, 0); }).Find(L"above 0"),
+                          -1);
+                EXPECT_TRUE(::IsWindow(dialog));
+            }
+        },
+        IDCANCEL);
+    EXPECT_EQ(settings->getPlotScale(), 1);
+}
+
+TEST_F(Exports, ASizeThatIsNoneOfTheListStays) {
+    OdDbPlotSettingsPtr settings(new OdDbPlotSettings);
+    settings->setPlotPaperSize(123, 45);
+    inDialog(
+        L"Page Setup Override", [&] { plot().overrideDialog(settings.get(), 0); },
+        [](HWND dialog) {
+            EXPECT_EQ(::SendDlgItemMessageW(dialog, IDC_PAGE_PAPER, CB_GETCURSEL, 0, 0), 8);
+            EXPECT_NE(ui_test::text_of(::GetDlgItem(dialog, IDC_PAGE_PAPER)).Find(L"123 x 45 mm"), -1);
+        },
+        IDOK);
+    EXPECT_EQ(settings->getPlotPaperWidth(), 123);
+    EXPECT_EQ(settings->getPlotPaperHeight(), 45);
+    plot().overrideDialog(nullptr, 0);
+}
+
+TEST_F(Exports, AnOverrideCountsOnceItIsSwitchedOn) {
+    layout()->createExtensionDictionary();
+    OdDbPlotSettingsPtr settings(new OdDbPlotSettings);
+    settings->copyFrom(*layout());
+    settings->setPlotPaperSize(254, 127);
+    layout()
+        ->extensionDictionary()
+        .open<OdDbDictionary>(OdDb::kForWrite)
+        ->setAt(L"AcPublish_PlotSettingsOverride", OdDbObjectPtr(settings.get()));
+    EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 0);
+    plot().setOverride(true);
+    EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 1);
+}
