@@ -9,11 +9,9 @@ PatientThumbnail::PatientThumbnail(CWnd& pane)
       m_reader([this](BackgroundReading& reading, ReadingEvent event) { hear(reading, event); }) {}
 
 void PatientThumbnail::Paint(CDC& dc, SIZE area, const CString& path, unsigned limit) {
-    const bool isAsked = m_shown && m_shown->Path() == path.GetString() && m_shown->Room().cx == area.cx &&
-                         m_shown->Room().cy == area.cy;
-    if (!isAsked) ask(path, area, limit);
-    if (m_state == State::kRead && m_shown->Bitmap() != nullptr)
-        PaintThumbnail(m_shown->Bitmap(), dc.GetSafeHdc(), area.cx, area.cy);
+    if (path != m_path || m_room != area) ask(path, area, limit);
+    if (m_state == State::kRead && m_reading && m_reading->Bitmap() != nullptr)
+        PaintThumbnail(m_reading->Bitmap(), dc.GetSafeHdc(), area.cx, area.cy);
     if (m_state == State::kReadingSlowly)
         say(dc, area, LoadToolkitString(IDS_PREVIEW_READING, L"正在读取预览..."));
     if (m_state == State::kGivenUp)
@@ -22,17 +20,22 @@ void PatientThumbnail::Paint(CDC& dc, SIZE area, const CString& path, unsigned l
 
 void PatientThumbnail::ask(const CString& path, SIZE area, unsigned limit) {
     m_reader.Forget();
-    m_shown = std::make_shared<ThumbnailReading>(path, area);
+    m_path = path;
+    m_room = area;
     m_state = path.IsEmpty() ? State::kRead : State::kReading;
-    if (!path.IsEmpty()) m_reader.Ask(m_shown, limit);
+    m_reading = path.IsEmpty() ? nullptr : std::make_shared<ThumbnailReading>(path, area);
+    if (m_reading) m_reader.Ask(m_reading, limit);
 }
 
 void PatientThumbnail::hear(BackgroundReading& reading, ReadingEvent event) {
-    if (&reading != m_shown.get()) return;
+    if (&reading != m_reading.get()) return;
     switch (event) {
         case ReadingEvent::kIsSlow: m_state = State::kReadingSlowly; break;
         case ReadingEvent::kAnswered: m_state = State::kRead; break;
-        case ReadingEvent::kGivenUp: m_state = State::kGivenUp; break;
+        case ReadingEvent::kGivenUp:
+            m_state = State::kGivenUp;
+            m_reading.reset();
+            break;
     }
     m_pane.Invalidate(FALSE);
 }

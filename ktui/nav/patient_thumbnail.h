@@ -22,7 +22,9 @@ private:
     void say(CDC& dc, SIZE area, const CString& words) const;
 
     CWnd& m_pane;
-    std::shared_ptr<ThumbnailReading> m_shown;  ///< of the pane's file; null at first
+    CString m_path;  ///< of the file asked for, and the room that its preview has
+    CSize m_room{-1, -1};
+    std::shared_ptr<ThumbnailReading> m_reading;  ///< of that file; null where it was given up
     State m_state = State::kReading;
     CBackgroundReader m_reader;
 };
