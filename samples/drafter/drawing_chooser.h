@@ -6,6 +6,8 @@
 
 #include <od_dxf_form.h>
 
+class CDraftDocument;
+
 struct DrawingToOpen {
     CString path;  ///< empty if the user cancelled
     bool isReadOnly = false;
@@ -17,8 +19,8 @@ struct DrawingToSave {
     CString path;  ///< empty if the user cancelled
     OdDxfForm form;
 };
-/// Proposes `name`, a file's name with or without its folder, and the form of the present file.
-DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const OdDxfForm& present);
+/// Proposes `name`, a file's name with or without its folder, and the form of `document`'s file.
+DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, CDraftDocument& document);
 
 /// Shows previews of exchange files in the dialogs: the picture that a drawing brings with it, and for one
 /// without a picture that of what the drawing view would show, which is kept until the file changes.
