@@ -32,6 +32,7 @@ public:
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
         m_host->SetHelpTopic(HID_PICKER_BAR, L"PickerBar");
+        SetFileHelpTopics(*m_host);
         SetRegistryKey(L"Velmora");
         LoadStdProfileSettings(kMostRecentFiles);
         m_pRecentFileList->m_nMaxDisplayLength = kLongestRecentPath;

@@ -2,7 +2,12 @@
 
 #include <iterator>
 
+#include <ktdsres/find_file_ids.h>
+#include <ktdsres/nav_file_dialog_ids.h>
+#include <ktdsres/places_ids.h>
+#include <ktdsres/save_options_ids.h>
 #include <ktui/nav/ktui_nav_dialog.h>
+#include <standin_host.h>
 
 #include "draft_document.h"
 #include "resource.h"
@@ -118,4 +123,13 @@ DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, CDraf
     answer.path = pathChosen(dialog);
     answer.form = formOf(dialog.GetFilterIndex());
     return answer;
+}
+
+void SetFileHelpTopics(CStandinHost& host) {
+    // The ids of templates of the toolkit: a dialog that opens has a preview, one that saves has none.
+    host.SetHelpTopic(IDD_NAV_FILE_PREVIEW, L"OpenDrawing");
+    host.SetHelpTopic(IDD_NAV_FILE, L"SaveDrawing");
+    host.SetHelpTopic(IDD_FIND_FILE, L"FindFiles");
+    host.SetHelpTopic(IDD_PLACE, L"Places");
+    for (const unsigned page : {IDD_DWG_PAGE, IDD_DXF_PAGE}) host.SetHelpTopic(page, L"SaveOptions");
 }

@@ -7,6 +7,7 @@
 #include <od_dxf_form.h>
 
 class CDraftDocument;
+class CStandinHost;
 
 struct DrawingToOpen {
     CString path;  ///< empty if the user cancelled
@@ -21,6 +22,9 @@ struct DrawingToSave {
 };
 /// Proposes `name`, a file's name with or without its folder, and the form of `document`'s file.
 DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, CDraftDocument& document);
+
+/// The help pages of these dialogs and of those that they open.
+void SetFileHelpTopics(CStandinHost& host);
 
 /// Shows previews of exchange files in the dialogs: the picture that a drawing brings with it, and for one
 /// without a picture that of what the drawing view would show, which is kept until the file changes.

@@ -18,8 +18,9 @@ CSaveDrawingDialog::CSaveDrawingDialog(CNavDataArray& chosen, CNavFilterArray& t
       m_document(document),
       m_lineOfFormat(std::move(lineOfFormat)),
       m_format(KhUtConfigUtil::getCurrentSaveFormat()) {
-    constexpr int kOptionsButton = 0x8000;
-    ConvertFlagsToState(kOptionsButton);
+    // A dialog that saves has room for its options beside those of security only.
+    constexpr int kSecurityButton = 0x80, kOptionsButton = 0x8000;
+    ConvertFlagsToState(kSecurityButton | kOptionsButton);
     shown = this;
     m_document.SetBinaryListener([this] { followSoon(); });
 }

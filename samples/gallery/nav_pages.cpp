@@ -38,7 +38,7 @@ class CNavigationPage : public CPreviewingPage {
         Switch(Both(L"Open read-only", L"以只读方式打开"), true, [this](bool on) { m_readOnly = on; });
         Switch(Both(L"Several files", L"多个文件"), false, [this](bool on) { m_several = on; });
         Switch(Both(L"Options of saving", L"另存为选项"), true, [this](bool on) { m_options = on; });
-        Switch(Both(L"Security", L"安全选项"), false, [this](bool on) { m_security = on; });
+        Switch(Both(L"Security", L"安全选项"), true, [this](bool on) { m_security = on; });
         AddPreviewSwitches();
         m_posed = Command(Both(L"Open...", L"打开..."), [this] { return ask(Kind::kOpen); });
         Command(Both(L"Save as...", L"另存为..."), [this] { return ask(Kind::kSave); });
@@ -74,7 +74,7 @@ class CNavigationPage : public CPreviewingPage {
         return text;
     }
 
-    bool m_preview = true, m_readOnly = true, m_several = false, m_options = true, m_security = false;
+    bool m_preview = true, m_readOnly = true, m_several = false, m_options = true, m_security = true;
     UINT m_posed = 0;
 };
 
@@ -143,8 +143,8 @@ class CSaveOptionsPage : public CGalleryPage {
             drawings.SetDescription(Both(L"Drawing", L"图形"));
             drawings.Add(L"*.dxf");
             CKtUiNavDialog dialog(chosen, types);
-            constexpr int kOptionsButton = 0x8000;
-            dialog.ConvertFlagsToState(kOptionsButton);
+            constexpr int kSecurityButton = 0x80, kOptionsButton = 0x8000;
+            dialog.ConvertFlagsToState(kSecurityButton | kOptionsButton);
             dialog.SetDialogName(L"Gallery Save");
             dialog.SetAppRootKey(kPlacesRoot);
             dialog.SetCreatingFile(1);

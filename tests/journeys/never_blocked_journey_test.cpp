@@ -81,17 +81,26 @@ TEST(NeverBlockedJourney, TheDialogAnswersWhileItsPreviewTakesTenSecondsAndClose
             list = view != nullptr ? ::GetWindow(view, GW_CHILD) : nullptr;
             return list != nullptr;
         }));
+        // What the system itself does for a folder and its files is over.
+        int quick = 0;
+        EXPECT_TRUE(waitUntil([&] {
+            quick = answerTime(dialog, 3000) <= kAnswer / 2 ? quick + 1 : 0;
+            return quick > 20;
+        }));
         gallery.click(list, {60, 12});
-        ULONGLONG longest = 0, asked = 0;
+        ULONGLONG longest = 0, asked = 0, when = 0;
         const ULONGLONG start = ::GetTickCount64();
         while (::GetTickCount64() - start < kPreviewTime + 1000) {
-            longest = std::max(longest, answerTime(dialog, 3000));
+            const ULONGLONG now = ::GetTickCount64() - start, answer = answerTime(dialog, 3000);
+            if (answer > longest) {
+                longest = answer;
+                when = now;
+            }
             ++asked;
         }
         picture("journey-never-blocked");
-        RecordProperty("longest_answer_ms", static_cast<int>(longest));
+        EXPECT_LE(longest, kAnswer) << "of " << asked << " answers, after " << when << " ms";
         std::printf("longest answer of %llu: %llu ms\n", asked, longest);
-        EXPECT_LE(longest, kAnswer);
         // Another file, and Cancel while that is read.
         gallery.click(list, {300, 200});
         gallery.click(list, {60, 12});

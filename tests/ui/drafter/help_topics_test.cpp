@@ -207,6 +207,7 @@ TEST_F(HelpTopics, EachDialogOfTheDrafterHasAPageInBothLanguages) {
 
 TEST_F(HelpTopics, EachOtherTopicHasAPageInBothLanguages) {
     for (const wchar_t* topic : {L"index", L"TitleBlock", L"SelectColor", L"LinetypeManager",
-                                 L"LoadLinetypes", L"SelectPlotStyle", L"SecurityOptions", L"ExportOptions"})
+                                 L"LoadLinetypes", L"SelectPlotStyle", L"SecurityOptions", L"ExportOptions",
+                                 L"OpenDrawing", L"SaveDrawing", L"FindFiles", L"Places", L"SaveOptions"})
         expectPages(topic);
 }
