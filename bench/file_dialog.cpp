@@ -2,7 +2,8 @@
 #include <fstream>
 #include <string>
 
-#include <commdlg.h>
+#include <afxdlgs.h>
+
 #include <ktdb.h>
 #include <ktui/nav/ktui_nav_dialog.h>
 #include <ktui/nav/never_blocked.h>
