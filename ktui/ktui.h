@@ -49,6 +49,7 @@
 #include <ktui/nav/nav_data.h>
 #include <ktui/nav/nav_dialog.h>
 #include <ktui/nav/nav_filter.h>
+#include <ktui/nav/never_blocked.h>
 #include <ktui/nav/thumbnail.h>
 #include <ktui/nav/thumbnail_ctrl.h>
 #include <ktui/pickers/arrow_head_combo_box.h>

@@ -52,9 +52,14 @@ public:
 
 private:
     size_t size() const { return static_cast<size_t>(m_mask.GetLength()) + 1; }
+    /// Whatever stands behind what may stand for nothing is reached too.
     void reach(std::vector<char>& places, int place) const {
         places[static_cast<size_t>(place)] = 1;
-        if (place < m_mask.GetLength() && isAnyText(m_mask[place])) reach(places, place + 1);
+        while (place < m_mask.GetLength() && isAnyText(m_mask[place])) {
+            char& next = places[static_cast<size_t>(++place)];
+            if (next) return;  // from there on it has been done
+            next = 1;
+        }
     }
     /// Goes past what stands for nothing before a point and at the end.
     void skipEmpty(bool atEnd) {

@@ -1,5 +1,6 @@
 #include <ktui/nav/history_store.h>
 
+#include <ktui/nav/stored_values.h>
 #include <ktui/text/dialog_root.h>
 #include <ktui/text/registry_access.h>
 
@@ -15,10 +16,9 @@ void HistoryStore::Load() {
     m_items.RemoveAll();
     const CKbUiRegistryAccess access(HKEY_CURRENT_USER, key());
     if (!access.IsOpen()) return;
-    for (int index = 0; index < m_maximum; ++index) {
-        const CString text = access.GetString(valueName(index));
-        if (!text.IsEmpty()) m_items.Add(text);  // Kept: a gap doesn't end the list.
-    }
+    for (const CString& text : HistoryIn(m_valueFormat, m_maximum,
+                                         [&access](const CString& name) { return access.GetString(name); }))
+        m_items.Add(text);
 }
 
 void HistoryStore::Save() const {

@@ -14,6 +14,8 @@
 #include <ktui/nav/filter_string.h>
 #include <ktui/nav/ktui_nav_dialog.h>
 #include <ktui/nav/nav_file_dlg.h>
+#include <ktui/nav/never_blocked.h>
+#include <ktui/nav/patient_places.h>
 #include <ktui/nav/type_change.h>
 #include <ktui/nav/underlay_export_dlg.h>
 
@@ -172,6 +174,8 @@ void CNavDialogImp::setStartFolder(StartTexts& texts) const {
     CString templates;
     if (m_applicationMode && !m_foldersOnly && IsTemplateFilter(CurrentFilter()) && templatePath(templates))
         texts.SetFolder(TemplateFolder(templates));
+    const unsigned limit = KtUiNeverBlockedLimit();
+    if (limit != 0 && !FolderAnswers(texts.Folder().shown, limit)) texts.SetFolder({});
 }
 
 void CNavDialogImp::setStartName(const StartTexts& texts) const {

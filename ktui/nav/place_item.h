@@ -34,5 +34,6 @@ struct PlaceItem {
     CString m_path;     ///< full, or "::" and a class id for a virtual folder; may be empty
     CString m_display;  ///< the caption
     HICON m_icon = nullptr;
-    int m_type;  ///< PlaceType
+    int m_type;                  ///< PlaceType
+    unsigned m_iconRequest = 0;  ///< of the icon that is being read; 0 for none
 };

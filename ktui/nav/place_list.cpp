@@ -12,6 +12,8 @@
 #include <ktui/nav/current_folder.h>
 #include <ktui/nav/nav_dialog_imp.h>
 #include <ktui/nav/nav_file_dlg.h>
+#include <ktui/nav/never_blocked.h>
+#include <ktui/nav/patient_places.h>
 #include <ktui/nav/place_item.h>
 #include <ktui/nav/place_shell.h>
 #include <ktui/nav/place_store.h>
@@ -93,6 +95,7 @@ void CPlaceList::FreePlaces() {
 void CPlaceList::freeRows() {
     for (int row = 0; row < GetCount(); ++row) delete itemAt(row);
     ResetContent();
+    if (m_patient) m_patient->Forget();
     m_hotItem = m_contextItem = m_tipItem = -1;
     m_toolTip.DestroyWindow();
 }
@@ -118,7 +121,7 @@ bool CPlaceList::hasType(int type) const {
 
 int CPlaceList::AddPlace(const CString& path, const CString& display, int type, int index) {
     auto item = std::make_unique<PlaceItem>(path, display, type);
-    item->TakeIcon(PlaceIcon(completeStandardPlace(*item, m_recentFolder)));
+    fetchIcon(*item, completeStandardPlace(*item, m_recentFolder));
     const int row = InsertString(index, item->m_display);
     if (row < 0) return -1;
     SetItemData(row, reinterpret_cast<DWORD_PTR>(item.release()));
@@ -166,11 +169,17 @@ void CPlaceList::OnLButtonUp(UINT flags, CPoint point) {
 void CPlaceList::goToSelectedPlace() {
     const PlaceItem* const item = itemAt(GetCurSel());
     if (item == nullptr || item->m_path.IsEmpty()) return;
+    const CString path = item->m_path;
+    if (const unsigned limit = KtUiNeverBlockedLimit())
+        askForFolder(path, limit);
+    else
+        goTo(path, ::GetFileAttributesW(path));
+}
+
+void CPlaceList::goTo(const CString& path, DWORD attributes) {
     // Kept: for what has no attributes every bit is set, so virtual folders are gone to, and missing ones
     // are tried.
-    if (!(::GetFileAttributesW(item->m_path) & FILE_ATTRIBUTE_DIRECTORY)) return;
-    const CString path = item->m_path;
-    if (path == currentFolder()) return;
+    if (!(attributes & FILE_ATTRIBUTE_DIRECTORY) || path == currentFolder()) return;
     Invalidate();
     m_fileDialog->NavigateTo(path);
     m_fileDialog->owner()->m_owner->OnFolderChange();

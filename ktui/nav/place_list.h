@@ -13,9 +13,13 @@
 
 #include <afxcmn.h>
 
+#include <memory>
+#include <optional>
+
 #include <ktui/nav/drag_list_box2.h>
 
 class CNavFileDlg;
+class PatientPlaces;
 struct PlaceItem;
 
 class CPlaceList : public CDragListBox2 {
@@ -69,6 +73,17 @@ private:
     bool storePlaces() const;
     void freeRows();
     void goToSelectedPlace();
+    /// The same with what GetFileAttributesW answers for the path.
+    void goTo(const CString& path, DWORD attributes);
+
+    // Of a list that doesn't wait for drives (never_blocked.h).
+    PatientPlaces& patient();
+    /// Gives a row the icon of `path`, or a plain one until that has come.
+    void fetchIcon(PlaceItem& item, const CString& path);
+    void takeReadIcon(unsigned request, HICON icon);
+    void goToReadFolder(const CString& path, std::optional<DWORD> attributes);
+    /// Asks whether the folder answers; it is gone to when it has.
+    void askForFolder(const CString& path, unsigned limit);
 
     /// The row's data; null for a row that isn't there.
     PlaceItem* itemAt(int row) const;
@@ -88,4 +103,5 @@ private:
     CToolTipCtrl m_toolTip;
     int m_tipItem = -1;  ///< row that the tip was last shown for
     CBrush m_ground;
+    std::unique_ptr<PatientPlaces> m_patient;  ///< there once a limit was set
 };

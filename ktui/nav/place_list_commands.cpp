@@ -104,7 +104,7 @@ void CPlaceList::OnProperties() {
     const bool isElsewhere = item->m_path.CompareNoCase(dialog.m_path) != 0;
     item->m_display = dialog.m_display;
     item->m_path = dialog.m_path;
-    if (isElsewhere) item->TakeIcon(PlaceIcon(item->m_path));
+    if (isElsewhere) fetchIcon(*item, item->m_path);
     redrawRow(m_contextItem);
     m_modified = 1;
 }

@@ -8,6 +8,7 @@
 
 #include <ktui/host/com_reference.h>
 #include <ktui/nav/item_id_list.h>
+#include <ktui/nav/never_blocked.h>
 #include <ktui/text/registry_access.h>
 
 namespace {
@@ -78,7 +79,7 @@ HICON registeredIcon(const CString& classId) {
 void SystemFolderNames(int folder, CString& path, CString& display) {
     const SystemFolder found(folder);
     path = ParsingName(found.list());
-    display = PlaceDisplayName(path);
+    display = KtUiNeverBlockedLimit() == 0 ? PlaceDisplayName(path) : CString();
     if (display.IsEmpty()) display = nameOf(found.list(), SHGDN_INFOLDER);
 }
 

@@ -7,7 +7,8 @@
 
 struct _ITEMIDLIST;
 
-/// Path and caption of a system folder (CSIDL_...). The path of a virtual one is "::" and its class id.
+/// Path and caption of a system folder (CSIDL_...). The path of a virtual one is "::" and its class id. Where
+/// a limit is set (never_blocked.h), no drive is asked for the caption.
 void SystemFolderNames(int folder, CString& path, CString& display);
 
 /// The name of an absolute identifier list that the shell can find it by again: a path, or "::" and a class

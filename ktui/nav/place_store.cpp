@@ -5,27 +5,13 @@
 namespace {
 
 constexpr const wchar_t* kPlacesKey = L"AllAnavDialogs";
-constexpr int kMostRead = 99;  // Kept: however many were written.
-
-CString valueName(int index) {
-    CString name;
-    name.Format(L"PlacesOrder%d", index);
-    return name;
-}
 
 }  // namespace
 
 std::vector<StoredPlace> LoadStoredPlaces(const CString& rootKey) {
-    std::vector<StoredPlace> places;
     const CKbUiRegistryAccess key(HKEY_CURRENT_USER, rootKey + kPlacesKey);
-    if (!key.IsOpen()) return places;
-    for (int index = 0; index < kMostRead; ++index) {
-        const CString value = valueName(index);
-        const CString name = key.GetString(value);
-        if (name.IsEmpty()) break;
-        places.push_back({name, key.GetString(value + L"Display")});
-    }
-    return places;
+    if (!key.IsOpen()) return {};
+    return PlacesIn([&key](const CString& name) { return key.GetString(name); });
 }
 
 bool SaveStoredPlaces(const CString& rootKey, const std::vector<StoredPlace>& places) {
@@ -36,13 +22,6 @@ bool SaveStoredPlaces(const CString& rootKey, const std::vector<StoredPlace>& pl
     }
     CKbUiRegistryWriteAccess key(HKEY_CURRENT_USER, rootKey + kPlacesKey);
     if (!key.IsOpen()) return false;
-    int index = 0;
-    for (const StoredPlace& place : places) {
-        const CString value = valueName(index++);
-        key.SetString(value, place.name);
-        key.SetString(value + L"Display", place.display);
-        key.SetString(value + L"Ext", CString());
-    }
-    key.SetString(valueName(index), CString());
+    PutPlaces(places, [&key](const CString& name, const CString& text) { key.SetString(name, text); });
     return true;
 }

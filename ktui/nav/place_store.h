@@ -8,11 +8,7 @@
 
 #include <vector>
 
-/// One place.
-struct StoredPlace {
-    CString name;     ///< of a standard folder, or else the path
-    CString display;  ///< the caption
-};
+#include <ktui/nav/stored_values.h>
 
 /// The places below `rootKey` (of the current user, with its backslash) up to the first empty name, 99 at
 /// most. None without the key.

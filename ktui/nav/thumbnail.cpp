@@ -8,6 +8,7 @@
 #include <ktdb.h>
 
 #include <ktui/nav/shell_thumbnail.h>
+#include <ktui/nav/thumbnail_reading.h>
 
 namespace {
 
@@ -49,19 +50,19 @@ void copy_centred(HDC dc, HDC source, SIZE picture, int width, int height) {
 
 }  // namespace
 
-HBITMAP ktuiGetThumbnail(const wchar_t* path, int width, int height) {
+HBITMAP ReadThumbnail(KtUiThumbnailProvider asked, const wchar_t* path, int width, int height) {
     const DWORD attributes = path != nullptr ? ::GetFileAttributesW(path) : INVALID_FILE_ATTRIBUTES;
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return nullptr;
-    if (provider != nullptr)
-        if (const HBITMAP bitmap = provider(path, width, height)) return bitmap;
+    if (asked != nullptr)
+        if (const HBITMAP bitmap = asked(path, width, height)) return bitmap;
     if (is_drawing(path))
         if (const HBITMAP bitmap = of_drawing(path)) return bitmap;
     return ExtractShellThumbnail(path, width, height);
 }
 
-bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height) {
-    const HBITMAP bitmap = dc != nullptr ? ktuiGetThumbnail(path, width, height) : nullptr;
-    if (bitmap == nullptr) return false;
+KtUiThumbnailProvider ThumbnailProvider() { return provider; }
+
+void PaintThumbnail(HBITMAP bitmap, HDC dc, int width, int height) {
     BITMAP picture = {};
     ::GetObjectW(bitmap, sizeof picture, &picture);
     const HDC source = ::CreateCompatibleDC(dc);
@@ -69,6 +70,16 @@ bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height) {
     copy_centred(dc, source, {picture.bmWidth, picture.bmHeight}, width, height);
     ::SelectObject(source, before);
     ::DeleteDC(source);
+}
+
+HBITMAP ktuiGetThumbnail(const wchar_t* path, int width, int height) {
+    return ReadThumbnail(provider, path, width, height);
+}
+
+bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height) {
+    const HBITMAP bitmap = dc != nullptr ? ktuiGetThumbnail(path, width, height) : nullptr;
+    if (bitmap == nullptr) return false;
+    PaintThumbnail(bitmap, dc, width, height);
     ::DeleteObject(bitmap);
     return true;
 }

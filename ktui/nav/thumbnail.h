@@ -15,7 +15,8 @@ KTUI_API HBITMAP ktuiGetThumbnail(const wchar_t* path, int width, int height);
 KTUI_API bool ktuiDisplayThumbnail(const wchar_t* path, HDC dc, int width, int height);
 
 /// Previews of a host's own. Asked first for each file that is there: a bitmap for the caller to delete, or
-/// null, and then the preview is found as without a provider.
+/// null, and then the preview is found as without a provider. Called on the thread that paints, but where a
+/// limit is set (never_blocked.h) on threads of the library's own.
 using KtUiThumbnailProvider = HBITMAP (*)(const wchar_t* path, int width, int height);
 /// Sets the provider, null for none; answers the former one. None is set at first.
 KTUI_API KtUiThumbnailProvider KtUiSetThumbnailProvider(KtUiThumbnailProvider provider);

@@ -1,5 +1,7 @@
 #include <ktui/nav/thumbnail_ctrl.h>
 
+#include <ktui/nav/never_blocked.h>
+#include <ktui/nav/patient_thumbnail.h>
 #include <ktui/nav/thumbnail.h>
 
 IMPLEMENT_DYNAMIC(CThumbnailCtrl, CStatic)
@@ -16,5 +18,11 @@ void CThumbnailCtrl::OnPaint() {
     CRect area;
     GetClientRect(&area);
     dc.FillSolidRect(&area, ::GetSysColor(COLOR_BTNFACE));
-    ktuiDisplayThumbnail(m_path, dc.m_hDC, area.Width(), area.Height());
+    const unsigned limit = KtUiNeverBlockedLimit();
+    if (limit == 0) {
+        ktuiDisplayThumbnail(m_path, dc.m_hDC, area.Width(), area.Height());
+        return;
+    }
+    if (!m_patient) m_patient = std::make_unique<PatientThumbnail>(*this);
+    m_patient->Paint(dc, area.Size(), m_path, limit);
 }

@@ -3,9 +3,14 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
 #include <ktui/ktui_api.h>
 
-/// The pane stays empty for a file without preview. Kept: each painting reads the file anew.
+class PatientThumbnail;
+
+/// The pane stays empty for a file without preview. Kept: each painting reads the file anew, unless a limit
+/// is set (never_blocked.h).
 class KTUI_API CThumbnailCtrl : public CStatic {
     DECLARE_DYNAMIC(CThumbnailCtrl)
 
@@ -19,4 +24,7 @@ public:
 protected:
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
+
+private:
+    std::unique_ptr<PatientThumbnail> m_patient;  ///< there once a limit was set
 };

@@ -8,6 +8,10 @@
 
 namespace {
 
+// Variables of the page of options for exchange files.
+constexpr const wchar_t* kPrecision = L"DXFSAVEPRECISION";
+constexpr const wchar_t* kBinary = L"DXFSAVEBINARY";
+
 /// When a file was written last; 0 for none.
 unsigned long long whenWritten(const wchar_t* path) {
     WIN32_FILE_ATTRIBUTE_DATA data = {};
@@ -59,8 +63,10 @@ bool CDraftDocument::StartFrom(const wchar_t* path, OdDbDxfError& error) {
 bool CDraftDocument::Save(const wchar_t* path, const OdDxfForm& form) {
     m_drawing->setThumbnail(DrawingThumbnail(*m_drawing));
     keepBackup(path);
-    if (m_drawing->writeDxf(path, form) != kOdOk) return false;
-    m_form = form;
+    OdDxfForm written = form;
+    getInt(kPrecision, written.precision);
+    if (m_drawing->writeDxf(path, written) != kOdOk) return false;
+    m_form = written;
     m_history->MarkSaved();
     m_reading = {};
     m_written = whenWritten(path);
@@ -95,4 +101,16 @@ bool CDraftDocument::getBool(const wchar_t* name, bool& value) {
     return true;
 }
 
-bool CDraftDocument::setBool(const wchar_t* name, bool value) { return setInt(name, value ? 1 : 0); }
+bool CDraftDocument::setBool(const wchar_t* name, bool value) {
+    setInt(name, value ? 1 : 0);
+    if (m_binaryListener && std::wcscmp(name, kBinary) == 0) m_binaryListener();
+    return true;
+}
+
+bool CDraftDocument::SavesBinary() {
+    bool isBinary = false;
+    getBool(kBinary, isBinary);
+    return isBinary;
+}
+
+void CDraftDocument::SetSavesBinary(bool binary) { setBool(kBinary, binary); }

@@ -1,6 +1,7 @@
 // CDraftDocument: the open drawing as the toolkit sees it.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -28,12 +29,18 @@ public:
     const OdDxfReading& Reading() const { return m_reading; }
     /// The same for a template: the drawing is a new one then, without a file.
     bool StartFrom(const wchar_t* path, OdDbDxfError& error);
-    /// Writes the drawing, with its thumbnail, in place of the file, which is kept with the extension .bak.
+    /// Writes the drawing, with its thumbnail, in place of the file, which is kept with the extension .bak. A
+    /// text file has the decimals of the document's variable DXFSAVEPRECISION, whatever `form` says.
     bool Save(const wchar_t* path, const OdDxfForm& form);
     /// The same in the form that the file has, or that of a new one.
     bool Save(const wchar_t* path) { return Save(path, m_form); }
     /// The form of the drawing's file; 2018 as text for a new drawing.
     const OdDxfForm& form() const { return m_form; }
+    /// Whether the page of options for exchange files says binary, and setting that; whoever listens hears of
+    /// every setting, by the page too. Nobody listens at first.
+    bool SavesBinary();
+    void SetSavesBinary(bool binary);
+    void SetBinaryListener(std::function<void()> listener) { m_binaryListener = std::move(listener); }
     /// Whether the drawing's file was written by others since it was opened or saved.
     bool IsFileNewer() const;
 
@@ -63,4 +70,5 @@ private:
     bool m_isReadOnly = false;
     bool m_isNew = false;  ///< the file that the drawing was read from is its template
     std::map<std::wstring, int> m_numbers;
+    std::function<void()> m_binaryListener;
 };

@@ -17,6 +17,9 @@ namespace {
 constexpr UINT kMostRecentFiles = 9;
 constexpr int kLongestRecentPath = 60;  // characters, in the menu
 
+// After so many milliseconds the file dialogs give a drive up that does not answer.
+constexpr unsigned kDriveLimit = 3000;
+
 class CDrafterApp : public CWinApp {
 public:
     CDrafterApp() : CWinApp(L"Drafter") {}
@@ -29,10 +32,12 @@ public:
         AfxSetResourceHandle(m_hInstance);
         m_host = std::make_unique<CStandinHost>(*this);
         m_host->SetHelpTopic(HID_PICKER_BAR, L"PickerBar");
+        SetFileHelpTopics(*m_host);
         SetRegistryKey(L"Velmora");
         LoadStdProfileSettings(kMostRecentFiles);
         m_pRecentFileList->m_nMaxDisplayLength = kLongestRecentPath;
         ShowPreviewsOfDrawings();
+        KtUiSetNeverBlocked(kDriveLimit);
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;

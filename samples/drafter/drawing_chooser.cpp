@@ -2,9 +2,16 @@
 
 #include <iterator>
 
+#include <ktdsres/find_file_ids.h>
+#include <ktdsres/nav_file_dialog_ids.h>
+#include <ktdsres/places_ids.h>
+#include <ktdsres/save_options_ids.h>
 #include <ktui/nav/ktui_nav_dialog.h>
+#include <standin_host.h>
 
+#include "draft_document.h"
 #include "resource.h"
+#include "save_drawing_dialog.h"
 
 namespace {
 
@@ -50,6 +57,20 @@ int lineOf(const OdDxfForm& form) {
     return form.binary ? 1 : 0;
 }
 
+/// The text line of the version that a save format has, whatever it saves; -1 for none.
+int lineOfFormat(int format) {
+    constexpr struct {
+        int first;  // of the version's formats, of which there are up to four
+        OdDb::DwgVersion version;
+    } kVersions[] = {{KtApDocument::k2013Dwg, OdDb::kDHL_1027}, {KtApDocument::k2010Dwg, OdDb::kDHL_1024},
+                     {KtApDocument::k2007Dwg, OdDb::kDHL_1021}, {KtApDocument::k2004Dwg, OdDb::kDHL_1018},
+                     {KtApDocument::k2000Dwg, OdDb::kDHL_1015}, {KtApDocument::kR14Dwg, OdDb::kDHL_1014},
+                     {KtApDocument::kR13Dwg, OdDb::kDHL_1012},  {KtApDocument::kR12Dxf, OdDb::kDHL_1009}};
+    for (const auto& each : kVersions)
+        if (format >= each.first && format < each.first + 4) return lineOf({each.version});
+    return -1;
+}
+
 OdDxfForm formOf(int line) {
     OdDxfForm form;
     const int version = line / 2;
@@ -85,18 +106,19 @@ DrawingToOpen AskDrawingToOpen(const CString& folder) {
     return answer;
 }
 
-DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const OdDxfForm& present) {
+DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, CDraftDocument& document) {
     CNavDataArray chosen;
     CNavFilterArray filters;
     addSavedForms(filters);
-    CKtUiNavDialog dialog(chosen, filters);
+    document.SetSavesBinary(document.form().binary);
+    CSaveDrawingDialog dialog(chosen, filters, document, &lineOfFormat);
     dialog.SetDialogName(L"DrafterSave");
     dialog.SetCreatingFile(1);
     dialog.SetConfirmReplace(1);
     dialog.SetDefaultInitialFolder(folder);
     dialog.SetInitialFileName(name);
     dialog.SetDefaultFileExtension(L"dxf");
-    dialog.SetForceFilterIndex(lineOf(present));
+    dialog.SetForceFilterIndex(lineOf(document.form()));
     DrawingToSave answer;
     answer.path = pathChosen(dialog);
     answer.form = formOf(dialog.GetFilterIndex());
@@ -133,4 +155,13 @@ CString AskFileToExport(const CString& folder, const CString& name) {
         noFile->Delete();
         return {};
     }
+}
+
+void SetFileHelpTopics(CStandinHost& host) {
+    // The ids of templates of the toolkit: a dialog that opens has a preview, one that saves has none.
+    host.SetHelpTopic(IDD_NAV_FILE_PREVIEW, L"OpenDrawing");
+    host.SetHelpTopic(IDD_NAV_FILE, L"SaveDrawing");
+    host.SetHelpTopic(IDD_FIND_FILE, L"FindFiles");
+    host.SetHelpTopic(IDD_PLACE, L"Places");
+    for (const unsigned page : {IDD_DWG_PAGE, IDD_DXF_PAGE}) host.SetHelpTopic(page, L"SaveOptions");
 }

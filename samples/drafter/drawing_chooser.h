@@ -6,6 +6,9 @@
 
 #include <od_dxf_form.h>
 
+class CDraftDocument;
+class CStandinHost;
+
 struct DrawingToOpen {
     CString path;  ///< empty if the user cancelled
     bool isReadOnly = false;
@@ -17,8 +20,11 @@ struct DrawingToSave {
     CString path;  ///< empty if the user cancelled
     OdDxfForm form;
 };
-/// Proposes `name`, a file's name with or without its folder, and the form of the present file.
-DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, const OdDxfForm& present);
+/// Proposes `name`, a file's name with or without its folder, and the form of `document`'s file.
+DrawingToSave AskDrawingToSave(const CString& folder, const CString& name, CDraftDocument& document);
+
+/// The help pages of these dialogs and of those that they open.
+void SetFileHelpTopics(CStandinHost& host);
 
 /// Asks for the file that the drawing is exported to, and for what of it and how, which the host's plot
 /// service keeps. Empty if the user cancelled, or chose a file that another program holds, which was told.

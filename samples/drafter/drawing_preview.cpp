@@ -90,9 +90,14 @@ void keep(const CString& folder, const CString& picture, const std::string& dib)
     head.bfType = 0x4D42;
     head.bfSize = static_cast<DWORD>(sizeof head + dib.size());
     head.bfOffBits = sizeof head + sizeof(BITMAPINFOHEADER) + 256 * sizeof(RGBQUAD);
-    std::ofstream file(picture.GetString(), std::ios::binary);
+    // Under a name of its own until it is whole, because the same file may be drawn by several threads.
+    CString part;
+    part.Format(L"%s.%lu", picture.GetString(), ::GetCurrentThreadId());
+    std::ofstream file(part.GetString(), std::ios::binary);
     file.write(reinterpret_cast<const char*>(&head), sizeof head);
     file.write(dib.data(), static_cast<std::streamsize>(dib.size()));
+    file.close();
+    if (!::MoveFileExW(part, picture, MOVEFILE_REPLACE_EXISTING)) ::DeleteFileW(part);
 }
 
 /// The drawing as the view would show it: drawn once for each state of the file.

@@ -121,7 +121,7 @@ bool CMainFrame::mayDiscard() {
 /// Asks for a name and a form, and saves the drawing there; false if it wasn't saved.
 bool CMainFrame::saveAs() {
     const CString name = m_document->name().isEmpty() ? textOf(IDS_PROPOSED_NAME) : shownName();
-    const DrawingToSave to = AskDrawingToSave(folderOf(recentFiles()[0]), name, m_document->form());
+    const DrawingToSave to = AskDrawingToSave(folderOf(recentFiles()[0]), name, *m_document);
     return !to.path.IsEmpty() && saveTo(to.path, to.form);
 }
 

@@ -79,7 +79,8 @@ private:
                 if (!ktutPathExists(m_request)) next(Phase::kClose);
                 return;
             case Phase::kClose:
-                if (m_ticks == 1) m_gallery.Page()->EndPose();
+                // More than once, because of a dialog over a dialog.
+                if (m_ticks % kSettles == 1 && m_page > 0) m_gallery.Page()->EndPose();
                 if (m_ticks >= kSettles && m_gallery.IsWindowEnabled()) next(Phase::kOpen);
                 return;
         }

@@ -228,7 +228,7 @@ KBUI_REPLY CGalleryPage::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __
 std::vector<GalleryEntry> AllPages() {
     std::vector<GalleryEntry> all;
     for (const auto family :
-         {InputPages, PickerPages, ButtonPages, ListPages, DialogPages, MessagePages, TipPages}) {
+         {InputPages, PickerPages, ButtonPages, ListPages, DialogPages, NavPages, MessagePages, TipPages}) {
         std::vector<GalleryEntry> pages = family();
         all.insert(all.end(), pages.begin(), pages.end());
     }

@@ -168,6 +168,7 @@ std::vector<GalleryEntry> PickerPages();
 std::vector<GalleryEntry> ButtonPages();
 std::vector<GalleryEntry> ListPages();
 std::vector<GalleryEntry> DialogPages();
+std::vector<GalleryEntry> NavPages();
 std::vector<GalleryEntry> MessagePages();
 std::vector<GalleryEntry> TipPages();
 

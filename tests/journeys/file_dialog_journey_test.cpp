@@ -156,3 +156,113 @@ TEST_F(FileDialogs, FindTakesAFileFromAnotherFolder) {
 }
 
 }  // namespace
+
+namespace {
+
+/// The page of options that is shown, and the sheet that holds it.
+constexpr int kOptions = 57013, kDxfText = 57091, kDxfBinary = 57092, kDecimals = 57096;
+
+class SavingOptions : public FileDialogs {
+protected:
+    /// Opens the options of a Save As dialog on the page of exchange files.
+    HWND openOptions(HWND dialog) {
+        drafter->click(own(dialog, kOptions));
+        HWND sheet = drafter->waitForDialogOf(dialog);
+        EXPECT_NE(sheet, nullptr);
+        drafter->activate(sheet);
+        drafter->key(VK_TAB, true);
+        EXPECT_TRUE(waitUntil([&] { return ::IsWindowVisible(page(sheet, kDecimals)) != FALSE; }));
+        return sheet;
+    }
+    static HWND page(HWND sheet, int control) {
+        for (HWND at = nullptr; (at = ::FindWindowExW(sheet, at, L"#32770", nullptr)) != nullptr;)
+            if (HWND found = item(at, control)) return found;
+        return nullptr;
+    }
+    static LRESULT form(HWND dialog) { return ::SendMessageW(item(dialog, kTypeBox), CB_GETCURSEL, 0, 0); }
+    static bool isChecked(HWND box) { return ::SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+};
+
+/// The reals of a text file that have more decimals than `most`, and how many have that many.
+struct Decimals {
+    std::string tooMany;
+    int exact = 0;
+};
+Decimals decimalsOf(const std::string& text, std::size_t most) {
+    Decimals found;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        const std::size_t point = line.find('.');
+        if (point == std::string::npos || line.find_first_not_of("-0123456789.") != std::string::npos)
+            continue;
+        const std::size_t count = line.size() - point - 1;
+        if (count > most) found.tooMany += line + " ";
+        found.exact += count == most;
+    }
+    return found;
+}
+
+TEST_F(SavingOptions, TheDecimalsChosenAreThoseOfTheFile) {
+    HWND dialog = openSaveAs();
+    ASSERT_NE(dialog, nullptr);
+    HWND sheet = openOptions(dialog);
+    drafter->replaceText(page(sheet, kDecimals), L"3");
+    picture("journey-save-options");
+    drafter->click(item(sheet, IDOK));
+    EXPECT_TRUE(drafter->waitUntilGone(sheet));
+    drafter->replaceText(item(dialog, kNameBox), target);
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_TRUE(titleHas(L"file dialog target.dxf"));
+    const OdDbDatabasePtr saved = targetDrawing();
+    ASSERT_TRUE(saved);
+    OdDbDatabasePtr original(new OdDbDatabase);
+    ASSERT_EQ(original->readDxf(first.c_str()), kOdOk);
+    // The extents come from the entities, so they are the file's own coordinates.
+    for (const auto& [ours, theirs] :
+         {std::pair(saved->header().point("EXTMAX"), original->header().point("EXTMAX")),
+          std::pair(saved->header().point("EXTMIN"), original->header().point("EXTMIN"))}) {
+        EXPECT_NEAR(ours.x, theirs.x, 0.0005);
+        EXPECT_NEAR(ours.y, theirs.y, 0.0005);
+    }
+    const Decimals decimals = decimalsOf(bytesOf(target), 3);
+    EXPECT_EQ(decimals.tooMany, "");
+    EXPECT_GT(decimals.exact, 0);
+}
+
+TEST_F(SavingOptions, TheTypeAndTheSwitchForBinaryFilesFollowEachOther) {
+    constexpr int k2018Text = 0, k2018Binary = 1;
+    HWND dialog = openSaveAs();
+    ASSERT_NE(dialog, nullptr);
+    drafter->pick(item(dialog, kTypeBox), k2000Binary);
+    HWND sheet = openOptions(dialog);
+    EXPECT_TRUE(isChecked(page(sheet, kDxfBinary)));
+    EXPECT_FALSE(::IsWindowEnabled(page(sheet, kDecimals)));
+    drafter->click(page(sheet, kDxfText));
+    EXPECT_TRUE(::IsWindowEnabled(page(sheet, kDecimals)));
+    drafter->click(item(sheet, IDOK));
+    EXPECT_TRUE(drafter->waitUntilGone(sheet));
+    EXPECT_TRUE(waitUntil([&] { return form(dialog) == k2000Binary - 1; })) << form(dialog);
+    drafter->pick(item(dialog, kTypeBox), k2018Text);
+    sheet = openOptions(dialog);
+    EXPECT_TRUE(isChecked(page(sheet, kDxfText)));
+    drafter->click(page(sheet, kDxfBinary));
+    drafter->click(item(sheet, IDOK));
+    EXPECT_TRUE(drafter->waitUntilGone(sheet));
+    EXPECT_TRUE(waitUntil([&] { return form(dialog) == k2018Binary; })) << form(dialog);
+    // Cancelled, the sheet changes nothing.
+    sheet = openOptions(dialog);
+    drafter->click(page(sheet, kDxfText));
+    cancel(sheet);
+    EXPECT_EQ(form(dialog), k2018Binary);
+    drafter->replaceText(item(dialog, kNameBox), target);
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_TRUE(titleHas(L"file dialog target.dxf"));
+    const OdDbDatabasePtr saved = targetDrawing();
+    ASSERT_TRUE(saved);
+    EXPECT_TRUE(saved->originalFileIsBinary());
+}
+
+}  // namespace

@@ -85,7 +85,8 @@ std::string systemName(int page) {
 }
 
 Converter& converter(int page, bool toPage) {
-    static std::map<int, std::unique_ptr<Converter>> converters[2];
+    // Each thread has its own, because a converter has a state.
+    thread_local std::map<int, std::unique_ptr<Converter>> converters[2];
     std::unique_ptr<Converter>& slot = converters[toPage ? 1 : 0][page];
     if (!slot)
         slot = toPage ? std::make_unique<Converter>(systemName(page), "WCHAR_T")

@@ -2,6 +2,7 @@
 #include "od_db_store.h"
 #include "od_dxf_markers.h"
 
+#include <mutex>
 #include <set>
 #include <string>
 
@@ -219,6 +220,8 @@ void OdDbEntity::setDatabaseDefaults(OdDbDatabase* database) {
 
 OdDbUnknownEntity::OdDbUnknownEntity(std::string_view type) {
     static std::set<std::string, std::less<>> names;
+    static std::mutex mutex;  // drawings are read on several threads
+    const std::lock_guard lock(mutex);
     const auto found = names.find(type);
     m_type = found != names.end() ? found->c_str() : names.emplace(type).first->c_str();
 }

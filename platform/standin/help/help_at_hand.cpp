@@ -14,11 +14,22 @@ CString ownTopic(HWND window, const HelpIds& ids) {
     return found != ids.end() ? found->second : CString();
 }
 
+/// That of a dialog which the system's own dialog or a property sheet holds: of the first one shown that has
+/// any.
+CString heldTopic(HWND window, const HelpIds& ids) {
+    for (HWND held = nullptr; (held = ::FindWindowExW(window, held, L"#32770", nullptr)) != nullptr;) {
+        const CString topic = ::IsWindowVisible(held) ? ownTopic(held, ids) : CString();
+        if (!topic.IsEmpty()) return topic;
+    }
+    return {};
+}
+
 }  // namespace
 
 CString HelpTopicOf(HWND window, const HelpIds& ids) {
     for (; window != nullptr; window = ::GetParent(window)) {
-        const CString topic = ownTopic(window, ids);
+        CString topic = ownTopic(window, ids);
+        if (topic.IsEmpty()) topic = heldTopic(window, ids);
         if (!topic.IsEmpty()) return topic;
     }
     return {};

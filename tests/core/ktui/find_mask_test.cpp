@@ -67,3 +67,12 @@ TEST(FindMask, OtherScriptsAreTakenAsTheyAre) {
     EXPECT_TRUE(fits(L"*图*.dwg", L"施工图纸.dwg"));
     EXPECT_FALSE(fits(L"*图*.dwg", L"施工.dwg"));
 }
+
+TEST(FindMask, ManyStarsInARowTakeNoRoomOfTheStack) {
+    const CString stars(L'*', 400000);
+    EXPECT_TRUE(fits(stars + L"n.dwg", L"plan.dwg"));
+    EXPECT_FALSE(fits(stars + L"x.dwg", L"plan.dwg"));
+    // A place that is reached from several stars is reached by each of them.
+    EXPECT_TRUE(fits(L"**a**b**", L"xxaxxb"));
+    EXPECT_FALSE(fits(L"**a**b**", L"xxbxxa"));
+}

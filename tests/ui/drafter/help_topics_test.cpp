@@ -208,6 +208,7 @@ TEST_F(HelpTopics, EachDialogOfTheDrafterHasAPageInBothLanguages) {
 TEST_F(HelpTopics, EachOtherTopicHasAPageInBothLanguages) {
     for (const wchar_t* topic :
          {L"index", L"TitleBlock", L"SelectColor", L"LinetypeManager", L"LoadLinetypes", L"SelectPlotStyle",
-          L"SecurityOptions", L"ExportOptions", L"PlotStamp", L"PageSetup", L"Export"})
+          L"SecurityOptions", L"ExportOptions", L"PlotStamp", L"PageSetup", L"Export", L"OpenDrawing",
+          L"SaveDrawing", L"FindFiles", L"Places", L"SaveOptions"})
         expectPages(topic);
 }

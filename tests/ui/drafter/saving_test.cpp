@@ -141,3 +141,38 @@ TEST_F(Saving, AnEmptyDrawingHasNoThumbnail) {
 }
 
 }  // namespace
+
+TEST_F(Saving, TheDecimalsOfTheOptionsPageAreThoseOfTheFile) {
+    std::string drawn = kRedLine;
+    drawn.replace(drawn.find("200"), 3, "200.123456789");
+    write(L"plan.dxf", drawn);
+    CDraftDocument document;
+    OdDbDxfError error;
+    ASSERT_TRUE(document.Open(file(L"plan.dxf").c_str(), error));
+    for (const auto& [decimals, written] : std::vector<std::pair<int, std::string>>{
+             {4, "\n200.1235\n"}, {0, "\n200.0\n"}, {16, "\n200.123456789\n"}}) {
+        static_cast<KtApDocument&>(document).variables()->setInt(L"DXFSAVEPRECISION", decimals);
+        ASSERT_TRUE(document.Save(file(L"plan.dxf").c_str()));
+        std::string text = read(L"plan.dxf");
+        text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+        EXPECT_NE(text.find(written), std::string::npos) << decimals;
+        EXPECT_EQ(document.form().precision, decimals);
+    }
+}
+
+TEST_F(Saving, WhoeverListensHearsOfTheSwitchForBinaryFiles) {
+    CDraftDocument document;
+    EXPECT_FALSE(document.SavesBinary());
+    int heard = 0;
+    document.SetBinaryListener([&] { ++heard; });
+    CKhVariableStore& variables = *static_cast<KtApDocument&>(document).variables();
+    variables.setBool(L"DXFSAVEBINARY", true);
+    EXPECT_TRUE(document.SavesBinary());
+    variables.setBool(L"DXFSAVEOBJECT", true);
+    document.SetSavesBinary(false);
+    EXPECT_FALSE(document.SavesBinary());
+    EXPECT_EQ(heard, 2);
+    document.SetBinaryListener({});
+    document.SetSavesBinary(true);
+    EXPECT_EQ(heard, 2);
+}
