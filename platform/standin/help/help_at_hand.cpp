@@ -14,9 +14,16 @@ CString ownTopic(HWND window, const HelpIds& ids) {
     return found != ids.end() ? found->second : CString();
 }
 
+bool isDialog(HWND window) {
+    wchar_t name[8] = {};
+    ::GetClassNameW(window, name, 8);
+    return ::wcscmp(name, L"#32770") == 0;
+}
+
 /// That of a dialog which the system's own dialog or a property sheet holds: of the first one shown that has
-/// any.
+/// any. The bars of a frame are dialogs too, and none of its help.
 CString heldTopic(HWND window, const HelpIds& ids) {
+    if (!isDialog(window)) return {};
     for (HWND held = nullptr; (held = ::FindWindowExW(window, held, L"#32770", nullptr)) != nullptr;) {
         const CString topic = ::IsWindowVisible(held) ? ownTopic(held, ids) : CString();
         if (!topic.IsEmpty()) return topic;

@@ -110,6 +110,32 @@ TEST_F(Help, TheHelpIdOfTheNearestWindowChoosesTheTopic) {
     EXPECT_EQ(opened, (Pages{inner, outer, outer}));
 }
 
+TEST_F(Help, ADialogThatHoldsAnotherHasTheTopicOfThatAndAFrameHasNot) {
+    const std::wstring held = page(L"en\\Held.html"), start = page(L"en\\index.html");
+    host.SetHelpTopic(31, L"Held");
+    const auto hold = [](HWND holder, DWORD helpId, DWORD shown) {
+        HWND const inner = ::CreateWindowExW(0, L"#32770", nullptr, WS_CHILD | shown, 0, 0, 30, 30, holder,
+                                             nullptr, nullptr, nullptr);
+        ::SetWindowContextHelpId(inner, helpId);
+    };
+    HWND const outer = ::CreateWindowExW(0, L"#32770", nullptr, WS_CHILD | WS_VISIBLE, 0, 0, 50, 50, parent,
+                                         nullptr, nullptr, nullptr);
+    HWND const field = ::CreateWindowExW(0, L"EDIT", nullptr, WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, outer,
+                                         nullptr, nullptr, nullptr);
+    ::SetFocus(field);
+    hold(outer, 31, 0);
+    host.uiHost()->showHelp(nullptr);  // one that is hidden has none
+    hold(outer, 31, WS_VISIBLE);
+    host.uiHost()->showHelp(nullptr);
+    ::DestroyWindow(outer);
+    // A bar of a frame is such a window too, and the drawing beside it has a page of its own.
+    hold(parent, 31, WS_VISIBLE);
+    CWnd view;
+    focusOn(view, parent, 0);
+    host.uiHost()->showHelp(nullptr);
+    EXPECT_EQ(opened, (Pages{start, held, start}));
+}
+
 TEST_F(Help, ADialogOfTheHostHasItsOwnTopicEvenWhereAToolkitDialogOwnsIt) {
     const std::wstring manager = page(L"en\\LinetypeManager.html");
     OdDbObjectId current, chosen;
