@@ -9,7 +9,9 @@
 #include <shellapi.h>
 
 #include <kmfc/app.h>
+#include <kmfc/archive_geometry.h>
 #include <kmfc/cmd_target.h>
+#include <kmfc/command_line_info.h>
 #include <kmfc/data_exchange.h>
 #include <kmfc/dialog.h>
 #include <kmfc/doc_manager.h>

@@ -12,7 +12,10 @@ BEGIN_MESSAGE_MAP(CMDIChildWnd, CFrameWnd)
     ON_WM_MOUSEACTIVATE()
 END_MESSAGE_MAP()
 
-CMDIChildWnd::CMDIChildWnd() = default;
+CMDIChildWnd::CMDIChildWnd() {
+    // The line of messages is the main window's, which says by itself that the program is ready.
+    m_nIDTracking = m_nIDLastMessage;
+}
 CMDIChildWnd::~CMDIChildWnd() = default;
 
 LRESULT CMDIChildWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

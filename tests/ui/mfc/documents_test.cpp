@@ -258,6 +258,32 @@ TEST_F(DocumentsTest, ATemplatesStringHasSevenParts) {
     EXPECT_FALSE(note.GetDocString(text, CDocTemplate::docName)) << "an empty part is none";
 }
 
+TEST_F(DocumentsTest, PointsSizesAndRectanglesGoThroughAnArchive) {
+    CMemFile file;
+    {
+        CArchive archive(&file, CArchive::store);
+        archive << CPoint(1, -2) << CSize(3, 4) << CRect(5, 6, 7, 8);
+    }
+    EXPECT_EQ(file.GetLength(), 32u);
+    file.SeekToBegin();
+    CArchive archive(&file, CArchive::load);
+    CPoint point;
+    CSize size;
+    CRect rect;
+    archive >> point >> size >> rect;
+    EXPECT_EQ(point, CPoint(1, -2));
+    EXPECT_EQ(size, CSize(3, 4));
+    EXPECT_EQ(rect, CRect(5, 6, 7, 8));
+    bool ended = false;
+    try {
+        archive >> point;
+    } catch (CArchiveException* e) {
+        ended = e->m_cause == CArchiveException::endOfFile;
+        e->Delete();
+    }
+    EXPECT_TRUE(ended);
+}
+
 TEST_F(DocumentsTest, ViewsAreToldOfAChangeExceptTheOneThatMadeIt) {
     add_single();
     Plan* document = open_new(*this);

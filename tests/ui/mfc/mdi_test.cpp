@@ -226,6 +226,16 @@ TEST_F(MdiTest, WindowCommandsAreThereOnlyWithAChild) {
     EXPECT_NE(place(first).left, place(second).left);
 }
 
+TEST_F(MdiTest, AChildLeavesTheMessagesOfTheMainWindowAlone) {
+    CStatusBar status;
+    ASSERT_TRUE(status.Create(frame) && status.SetIndicators(nullptr, 1));
+    status.SetPaneInfo(0, ID_SEPARATOR, SBPS_NOBORDERS, 100);
+    open();
+    frame->SetMessageText(L"two strokes");
+    frame->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+    EXPECT_STREQ(ui_test::text_of(status.m_hWnd), L"two strokes");
+}
+
 TEST_F(MdiTest, ARefusedDocumentTakesNoNumber) {
     Plan::refusesNew = true;
     EXPECT_EQ(open(), nullptr);
