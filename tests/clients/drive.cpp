@@ -8,6 +8,7 @@
 //   checked ID 0|1, enabled ID 0|1, count ID MESSAGE N, send ID MESSAGE WPARAM LPARAM
 //   gone                    waits until the window is no more
 //   ends CODE               waits for the end of the program and compares what it answers
+//   again                   starts the program once more
 //
 // Controls are found below the window at any depth. Everything waits up to ten seconds.
 #include <windows.h>
@@ -89,9 +90,24 @@ std::wstring rest(std::wistringstream& line) {
     return text;
 }
 
+std::wstring program;
+
+bool start() {
+    STARTUPINFOW how = {};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION made = {};
+    std::wstring line = program;
+    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &made))
+        return false;
+    process = made.hProcess;
+    processId = made.dwProcessId;
+    return true;
+}
+
 bool obey(std::wistringstream& line) {
     std::wstring verb, id;
     line >> verb;
+    if (verb == L"again") return start();
     if (verb == L"window") {
         const std::wstring title = rest(line);
         return wait_for([&] { return (window = find_window(title)) != nullptr; });
@@ -150,16 +166,11 @@ bool obey(std::wistringstream& line) {
 int wmain(int count, wchar_t** arguments) {
     if (count < 3) return 2;
     std::ifstream script(std::string(arguments[1], arguments[1] + wcslen(arguments[1])));
-    STARTUPINFOW start = {};
-    start.cb = sizeof start;
-    PROCESS_INFORMATION made = {};
-    if (!script || !::CreateProcessW(arguments[2], nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                     &start, &made)) {
+    program = arguments[2];
+    if (!script || !start()) {
         std::printf("no script, or the program does not start\n");
         return 2;
     }
-    process = made.hProcess;
-    processId = made.dwProcessId;
     std::string line;
     int place = 0, lines = 0;
     while (std::getline(script, line)) {

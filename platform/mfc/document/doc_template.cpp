@@ -75,6 +75,23 @@ void CDocTemplate::InitialUpdateFrame(CFrameWnd* pFrame, CDocument* pDoc, BOOL b
     pFrame->InitialUpdateFrame(pDoc, bMakeVisible);
 }
 
+CFrameWnd* CDocTemplate::make_with_frame(CDocument*& document) {
+    document = CreateNewDocument();
+    CFrameWnd* frame = nullptr;
+    if (document != nullptr) {
+        // A frame that fails takes its view along, and must not take the document.
+        const BOOL goes = document->m_bAutoDelete;
+        document->m_bAutoDelete = FALSE;
+        frame = CreateNewFrame(document, nullptr);
+        document->m_bAutoDelete = goes;
+    }
+    if (frame != nullptr) return frame;
+    delete document;
+    document = nullptr;
+    AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
+    return nullptr;
+}
+
 bool CDocTemplate::fill(CDocument& document, LPCTSTR path, bool addToRecent, bool wasOpen) {
     if (path == nullptr) {
         SetDefaultTitle(&document);

@@ -53,19 +53,9 @@ CDocument* CMultiDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bMakeV
 }
 
 CDocument* CMultiDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddToMRU, BOOL bMakeVisible) {
-    CDocument* document = CreateNewDocument();
-    CFrameWnd* frame = nullptr;
-    if (document != nullptr) {
-        const BOOL goes = document->m_bAutoDelete;
-        document->m_bAutoDelete = FALSE;
-        frame = CreateNewFrame(document, nullptr);
-        document->m_bAutoDelete = goes;
-    }
-    if (frame == nullptr) {
-        delete document;
-        AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
-        return nullptr;
-    }
+    CDocument* document = nullptr;
+    CFrameWnd* frame = make_with_frame(document);
+    if (frame == nullptr) return nullptr;
     if (lpszPathName == nullptr) ++m_nUntitledCount;
     if (!fill(*document, lpszPathName, bAddToMRU != FALSE, false)) {
         if (lpszPathName == nullptr) --m_nUntitledCount;

@@ -49,19 +49,8 @@ CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddT
     if (wasOpen && !document->SaveModified()) return nullptr;
     CFrameWnd* frame = nullptr;
     if (!wasOpen) {
-        document = CreateNewDocument();
-        if (document != nullptr) {
-            // A frame that fails takes its view along; the document stays for the message.
-            const BOOL goes = document->m_bAutoDelete;
-            document->m_bAutoDelete = FALSE;
-            frame = CreateNewFrame(document, nullptr);
-            document->m_bAutoDelete = goes;
-        }
-        if (frame == nullptr) {
-            delete document;
-            AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
-            return nullptr;
-        }
+        frame = make_with_frame(document);
+        if (frame == nullptr) return nullptr;
     }
     if (!fill(*document, lpszPathName, bAddToMRU != FALSE, wasOpen)) {
         if (!wasOpen) frame->DestroyWindow();  // and the document with its view

@@ -4,22 +4,13 @@
 
 #include <cwchar>
 
+#include "screen_dc.h"
+
 namespace {
 
 constexpr int kTenthsOfPointPerInch = 720;
 
-/// The screen's device context for as long as it is needed.
-class ScreenDC {
-public:
-    ScreenDC() : m_dc(::GetDC(nullptr)) {}
-    ~ScreenDC() { ::ReleaseDC(nullptr, m_dc); }
-    ScreenDC(const ScreenDC&) = delete;
-    ScreenDC& operator=(const ScreenDC&) = delete;
-    operator HDC() const { return m_dc; }
-
-private:
-    HDC m_dc;
-};
+using kmfc::ScreenDC;
 
 HDC attributes_of(CDC* dc) { return dc ? dc->m_hAttribDC : nullptr; }
 

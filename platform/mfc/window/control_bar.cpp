@@ -4,6 +4,8 @@
 #include <kmfc/control_bar.h>
 #include <kmfc/frame.h>
 
+#include "goes_to_owner.h"
+
 namespace {
 
 constexpr int kUnlimited = 32767;  // pixels: all the room there is
@@ -50,20 +52,6 @@ void move_child(AFX_SIZEPARENTPARAMS& layout, HWND window, const CRect& place) {
     if (present == place) return;
     layout.hDWP = ::DeferWindowPos(layout.hDWP, window, nullptr, place.left, place.top, place.Width(),
                                    place.Height(), SWP_NOACTIVATE | SWP_NOZORDER);
-}
-
-bool goes_on_to_owner(UINT message) {
-    switch (message) {
-        case WM_COMMAND:
-        case WM_NOTIFY:
-        case WM_DRAWITEM:
-        case WM_MEASUREITEM:
-        case WM_DELETEITEM:
-        case WM_COMPAREITEM:
-        case WM_VKEYTOITEM:
-        case WM_CHARTOITEM: return true;
-        default: return false;
-    }
 }
 
 }  // namespace
@@ -186,7 +174,7 @@ HBRUSH CControlBar::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
 }
 
 LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!goes_on_to_owner(message)) return CWnd::WindowProc(message, wParam, lParam);
+    if (!kmfc::goes_to_owner(message)) return CWnd::WindowProc(message, wParam, lParam);
     LRESULT result = 0;
     if (OnWndMsg(message, wParam, lParam, &result)) return result;
     const CWnd* owner = GetOwner();

@@ -1,5 +1,7 @@
 #include "documents_fixture.h"
 
+#include <shlobj.h>
+
 #include <fstream>
 #include <iterator>
 
@@ -80,6 +82,31 @@ CSingleDocTemplate* DocumentsTest::add_single(UINT id) {
         new CSingleDocTemplate(id, RUNTIME_CLASS(Plan), RUNTIME_CLASS(MainFrame), RUNTIME_CLASS(PlanView));
     app.AddDocTemplate(kind);
     return kind;
+}
+
+Plan* open_new(DocumentsTest& test) {
+    POSITION place = test.app.GetFirstDocTemplatePosition();
+    return static_cast<Plan*>(test.app.GetNextDocTemplate(place)->OpenDocumentFile(nullptr));
+}
+
+PlanView* view_of(const CDocument* document) {
+    POSITION place = document->GetFirstViewPosition();
+    return static_cast<PlanView*>(document->GetNextView(place));
+}
+
+CFrameWnd* frame_of(const CDocument* document) { return view_of(document)->GetParentFrame(); }
+
+HGLOBAL dropped(const std::vector<std::wstring>& names) {
+    std::wstring list;
+    for (const std::wstring& name : names) list += name + L'\0';
+    const size_t bytes = (list.size() + 1) * sizeof(wchar_t);
+    HGLOBAL memory = ::GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
+    auto* files = static_cast<DROPFILES*>(::GlobalLock(memory));
+    files->pFiles = sizeof(DROPFILES);
+    files->fWide = TRUE;
+    ::memcpy(files + 1, list.c_str(), bytes);
+    ::GlobalUnlock(memory);
+    return memory;
 }
 
 }  // namespace documents_test

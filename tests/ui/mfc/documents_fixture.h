@@ -63,6 +63,7 @@ public:
     LPARAM hint = -1;
     CView* sender = nullptr;
     bool takesCommand = false;
+    std::vector<std::pair<UINT, CFrameWnd*>> frameStates;  ///< what OnActivateFrame was told
 
     void OnInitialUpdate() override {
         note("initial update");
@@ -80,6 +81,10 @@ protected:
     void OnActivateView(BOOL activate, CView* next, CView* former) override {
         note(activate ? "view on" : "view off");
         CView::OnActivateView(activate, next, former);
+    }
+    void OnActivateFrame(UINT state, CFrameWnd* frame) override {
+        frameStates.emplace_back(state, frame);
+        CView::OnActivateFrame(state, frame);
     }
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
         if (takesCommand && id == IDC_PLAN_COMMAND && code == CN_COMMAND) {
@@ -108,6 +113,10 @@ public:
     CString promptAnswer;  ///< what the file dialog gives; empty cancels
     std::vector<std::wstring> prompts;
 
+    int ExitInstance() override {
+        note("exit");
+        return 0;
+    }
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
         told.emplace_back(text);
         return answer;
@@ -141,5 +150,15 @@ struct DocumentsTest : ::testing::Test {
     /// A program with one document.
     CSingleDocTemplate* add_single(UINT id = IDR_PLAN);
 };
+
+using Texts = std::vector<std::string>;
+
+/// A new document of the first kind, with its frame and its view.
+Plan* open_new(DocumentsTest& test);
+PlanView* view_of(const CDocument* document);
+CFrameWnd* frame_of(const CDocument* document);
+
+/// What WM_DROPFILES hands over: a list of full names.
+HGLOBAL dropped(const std::vector<std::wstring>& names);
 
 }  // namespace documents_test

@@ -6,27 +6,6 @@
 
 namespace documents_test {
 
-using Texts = std::vector<std::string>;
-
-namespace {
-
-Plan* open_new(DocumentsTest& test) {
-    POSITION place = test.app.GetFirstDocTemplatePosition();
-    return static_cast<Plan*>(test.app.GetNextDocTemplate(place)->OpenDocumentFile(nullptr));
-}
-
-CFrameWnd* frame_of(CDocument* document) {
-    POSITION place = document->GetFirstViewPosition();
-    return document->GetNextView(place)->GetParentFrame();
-}
-
-PlanView* view_of(CDocument* document) {
-    POSITION place = document->GetFirstViewPosition();
-    return static_cast<PlanView*>(document->GetNextView(place));
-}
-
-}  // namespace
-
 TEST_F(DocumentsTest, ANewDocumentComesInTheMainWindowInThisOrder) {
     add_single();
     Plan* document = open_new(*this);
@@ -361,14 +340,7 @@ TEST_F(DocumentsTest, FilesDroppedOnTheFrameAreOpened) {
     add_single();
     write(L"f.plan", "dropped");
     Plan* document = open_new(*this);
-    const CString name = path(L"f.plan");
-    const size_t bytes = static_cast<size_t>(name.GetLength() + 2) * sizeof(wchar_t);
-    HGLOBAL memory = ::GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
-    auto* files = static_cast<DROPFILES*>(::GlobalLock(memory));
-    files->pFiles = sizeof(DROPFILES);
-    files->fWide = TRUE;
-    ::memcpy(files + 1, name.GetString(), bytes - sizeof(wchar_t));
-    ::GlobalUnlock(memory);
+    HGLOBAL const memory = dropped({path(L"f.plan").GetString()});
     frame_of(document)->SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
     EXPECT_STREQ(document->text, L"dropped");
 }

@@ -1,47 +1,7 @@
 // Programs with several documents: child frames, menus, titles, commands.
-#include "documents_fixture.h"
+#include "mdi_fixture.h"
 
 namespace documents_test {
-
-using Texts = std::vector<std::string>;
-
-namespace {
-
-class PadFrame : public CMDIFrameWnd {
-    DECLARE_DYNCREATE(PadFrame)
-protected:
-    void OnMainCommand() { note("main command"); }
-    DECLARE_MESSAGE_MAP()
-};
-
-IMPLEMENT_DYNCREATE(PadFrame, CMDIFrameWnd)
-BEGIN_MESSAGE_MAP(PadFrame, CMDIFrameWnd)
-    ON_COMMAND(IDC_MAIN_COMMAND, &PadFrame::OnMainCommand)
-END_MESSAGE_MAP()
-
-struct MdiTest : DocumentsTest {
-    MdiTest() {
-        kind = new CMultiDocTemplate(IDR_PLAN, RUNTIME_CLASS(Plan), RUNTIME_CLASS(CMDIChildWnd),
-                                     RUNTIME_CLASS(PlanView));
-        app.AddDocTemplate(kind);
-        frame = new PadFrame;
-        EXPECT_TRUE(frame->LoadFrame(IDR_MAIN));
-        app.m_pMainWnd = AfxGetThread()->m_pMainWnd = frame;
-        frame->ShowWindow(SW_SHOW);
-        take();
-    }
-    Plan* open() { return static_cast<Plan*>(kind->OpenDocumentFile(nullptr)); }
-    static CMDIChildWnd* child_of(CDocument* document) {
-        POSITION place = document->GetFirstViewPosition();
-        return static_cast<CMDIChildWnd*>(document->GetNextView(place)->GetParentFrame());
-    }
-    CString title() const { return ui_test::text_of(frame->m_hWnd); }
-
-    CMultiDocTemplate* kind;
-    PadFrame* frame;
-};
-
-}  // namespace
 
 TEST_F(MdiTest, DocumentsAreNumberedAndEachHasAChildOfItsOwn) {
     EXPECT_EQ(frame->MDIGetActive(), nullptr);

@@ -1,6 +1,8 @@
 // A control's class over a window that belongs to another object.
 #pragma once
 
+#include <windows.h>
+
 namespace kmfc {
 
 /// Neither owns nor destroys the window.

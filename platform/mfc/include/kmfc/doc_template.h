@@ -66,6 +66,8 @@ protected:
     CDocTemplate(UINT nIDResource, CRuntimeClass* pDocClass, CRuntimeClass* pFrameClass,
                  CRuntimeClass* pViewClass);
 
+    /// A new document and its frame, not shown yet. Null for both when one can't be made, which is told.
+    CFrameWnd* make_with_frame(CDocument*& document);
     /// New contents for a document: an untitled one for a null path, otherwise the file's. FALSE when it
     /// failed. A document that was open keeps what it had, as far as it can.
     bool fill(CDocument& document, LPCTSTR path, bool addToRecent, bool wasOpen);

@@ -1,0 +1,6 @@
+// Panes that hide at an edge of the frame.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/auto_hide_bar.h>

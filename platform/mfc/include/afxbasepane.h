@@ -1,0 +1,6 @@
+// The base of all panes.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/base_pane.h>

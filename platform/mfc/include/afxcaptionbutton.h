@@ -1,0 +1,6 @@
+// Buttons of pane captions.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/caption_button.h>

@@ -1,0 +1,6 @@
+// What lays out the panes of a frame.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/docking_manager.h>

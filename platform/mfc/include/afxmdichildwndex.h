@@ -1,0 +1,6 @@
+// Document windows of frames whose panes dock.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/frame_ex.h>

@@ -1,0 +1,6 @@
+// Frames of several documents whose panes dock.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/frame_ex.h>

@@ -1,0 +1,6 @@
+// Panes that float.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/pane.h>

@@ -1,0 +1,6 @@
+// Settings kept in the registry.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/settings_store.h>

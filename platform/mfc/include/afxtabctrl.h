@@ -1,0 +1,6 @@
+// Windows with a strip of tabs.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/tab_window.h>

@@ -1,0 +1,14 @@
+#include "tab_fixture.h"
+
+namespace tab_test {
+
+BEGIN_MESSAGE_MAP(Owner, CWnd)
+    ON_REGISTERED_MESSAGE(AFX_WM_CHANGING_ACTIVE_TAB, &Owner::OnChanging)
+    ON_REGISTERED_MESSAGE(AFX_WM_CHANGE_ACTIVE_TAB, &Owner::OnChanged)
+    ON_REGISTERED_MESSAGE(AFX_WM_ON_MOVE_TAB, &Owner::OnMoved)
+    ON_REGISTERED_MESSAGE(AFX_WM_ON_RENAME_TAB, &Owner::OnRenamed)
+    ON_REGISTERED_MESSAGE(AFX_WM_ON_GET_TAB_TOOLTIP, &Owner::OnTip)
+    ON_WM_CONTEXTMENU()
+END_MESSAGE_MAP()
+
+}  // namespace tab_test
