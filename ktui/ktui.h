@@ -25,7 +25,16 @@
 #include <ktui/dialogs/ktui_tab.h>
 #include <ktui/dialogs/ktui_tab_dialogs.h>
 #include <ktui/dialogs/turn_tab_by_key.h>
+#include <ktui/docking/kbui_dock_control_bar.h>
+#include <ktui/docking/kbui_palette.h>
+#include <ktui/docking/kbui_palette_set.h>
 #include <ktui/docking/kbui_theme.h>
+#include <ktui/docking/mfc_tab_ctrl_ex.h>
+#include <ktui/docking/multi_pane_frame_wnd_ex.h>
+#include <ktui/docking/name_edit.h>
+#include <ktui/docking/tabbed_pane_ex.h>
+#include <ktui/docking/xt_mem_dc.h>
+#include <ktui/docking/xt_tool_tab_ctrl.h>
 #include <ktui/host/appearance.h>
 #include <ktui/host/draw_tip_text.h>
 #include <ktui/host/help_path.h>

@@ -3,13 +3,15 @@
 
 #include <utility>
 
+#include <ktui/host/appearance.h>
+#include <ktui/host/contrast.h>
 #include <ktui/nav/place_item.h>
 
 namespace {
 
-constexpr COLORREF kGround = RGB(191, 205, 219);  // Kept: whatever the theme is.
-constexpr COLORREF kDarkEdge = 0x10;              // Kept: a very dark red.
-constexpr COLORREF kTextColor = RGB(255, 255, 255);
+// Kept: whatever the theme is.
+constexpr COLORREF kGround = RGB(191, 205, 219), kTextColor = RGB(255, 255, 255);
+constexpr COLORREF kDarkEdge = 0x10;  // Kept: a very dark red.
 
 // Pixels.
 constexpr int kMarginX = 2;
@@ -19,6 +21,14 @@ constexpr int kHalfIcon = 16;
 constexpr int kIconTop = 5;
 constexpr int kTextMargin = 5;
 
+/// Whether a host that follows the system has it in dark colours, among which the agreed ones would glare.
+bool isDark() {
+    return KtUiFollowsSystemAppearance() &&
+           ContrastRatio(kGround, ::GetSysColor(COLOR_WINDOWTEXT)) < kTextContrast;
+}
+COLORREF ground() { return isDark() ? ::GetSysColor(COLOR_WINDOW) : kGround; }
+COLORREF textColor() { return isDark() ? ::GetSysColor(COLOR_WINDOWTEXT) : kTextColor; }
+
 void drawFrame(CDC& dc, const CRect& box, bool isSunken) {
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
     dc.Draw3dRect(&box, isSunken ? kDarkEdge : light, isSunken ? light : kDarkEdge);
@@ -27,7 +37,7 @@ void drawFrame(CDC& dc, const CRect& box, bool isSunken) {
 void drawCaption(CDC& dc, const CWnd* parent, const CString& caption, CRect place) {
     CFont* const font = parent != nullptr ? parent->GetFont() : nullptr;
     CFont* const former = font != nullptr ? dc.SelectObject(font) : nullptr;
-    const COLORREF formerColor = dc.SetTextColor(kTextColor);
+    const COLORREF formerColor = dc.SetTextColor(textColor());
     const int formerMode = dc.SetBkMode(TRANSPARENT);
     dc.DrawText(caption, caption.GetLength(), &place,
                 DT_CENTER | DT_BOTTOM | DT_SINGLELINE | DT_END_ELLIPSIS);
@@ -58,14 +68,15 @@ void CPlaceList::DrawItem(LPDRAWITEMSTRUCT drawn) {
 BOOL CPlaceList::OnEraseBkgnd(CDC* dc) {
     CRect client;
     GetClientRect(&client);
-    dc->FillSolidRect(&client, kGround);
+    dc->FillSolidRect(&client, ground());
     return TRUE;
 }
 
 // The space beneath the rows is painted in this on some systems.
 HBRUSH CPlaceList::CtlColor(CDC* dc, UINT) {
+    dc->SetBkColor(ground());
+    if (isDark()) return ::GetSysColorBrush(COLOR_WINDOW);
     if (m_ground.m_hObject == nullptr) m_ground.CreateSolidBrush(kGround);
-    dc->SetBkColor(kGround);
     return m_ground;
 }
 

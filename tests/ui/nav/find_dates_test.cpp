@@ -49,6 +49,25 @@ protected:
         time.wHour = static_cast<WORD>(parts.tm_hour);
         ::SendMessageW(item(id), DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));
     }
+    /// What the system says of a failure.
+    static std::wstring textOfSystem(HRESULT failure) {
+        wchar_t text[512] = {};
+        ::FormatMessageW(
+            FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK,
+            nullptr, static_cast<DWORD>(failure), 0, text, 512, nullptr);
+        return text;
+    }
+    /// Starts the search, and answers what the message says that comes up instead.
+    std::wstring toldAtStart() {
+        std::wstring told;
+        ui_test::when_window([](HWND window) { return ::GetDlgItem(window, 0xFFFF) != nullptr; },
+                             [&](HWND box) {
+                                 told = ui_test::text_of(::GetDlgItem(box, 0xFFFF)).GetString();
+                                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+                             });
+        command(IDC_FIND_START);
+        return told;
+    }
     /// Which of the fields are enabled: both pickers, the months, the days.
     FoundTexts enabled() const {
         FoundTexts names;
@@ -200,18 +219,7 @@ TEST_F(FindDatesTest, AMonthThatTheClockCannotTellRaisesTheOtherException) {
     run([&] {
         click(IDC_FIND_MONTHS);
         setText(IDC_FIND_MONTH_COUNT, L"999");  // 1943
-        wchar_t wanted[512] = {};
-        ::FormatMessageW(
-            FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK,
-            nullptr, static_cast<DWORD>(E_INVALIDARG), 0, wanted, 512, nullptr);
-        std::wstring told;
-        ui_test::when_window([](HWND window) { return ::GetDlgItem(window, 0xFFFF) != nullptr; },
-                             [&](HWND box) {
-                                 told = ui_test::text_of(::GetDlgItem(box, 0xFFFF)).GetString();
-                                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-                             });
-        command(IDC_FIND_START);
-        EXPECT_EQ(told, wanted);
+        EXPECT_EQ(toldAtStart(), textOfSystem(E_INVALIDARG));
         EXPECT_FALSE(isSearching());
         EXPECT_EQ(rows(), 0);
         cancel();
@@ -226,18 +234,7 @@ TEST_F(FindDatesTest, TheLastMonthInJanuaryRaisesTheExceptionBeforeTheSearch) {
         EXPECT_EQ(rows(), 1);
         click(IDC_FIND_MONTHS);
         setText(IDC_FIND_NAME, L"q");
-        wchar_t wanted[512] = {};
-        ::FormatMessageW(
-            FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK,
-            nullptr, static_cast<DWORD>(E_FAIL), 0, wanted, 512, nullptr);
-        std::wstring told;
-        ui_test::when_window([](HWND window) { return ::GetDlgItem(window, 0xFFFF) != nullptr; },
-                             [&](HWND box) {
-                                 told = ui_test::text_of(::GetDlgItem(box, 0xFFFF)).GetString();
-                                 ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-                             });
-        command(IDC_FIND_START);
-        EXPECT_EQ(told, wanted);
+        EXPECT_EQ(toldAtStart(), textOfSystem(E_FAIL));
         EXPECT_FALSE(isSearching());
         EXPECT_EQ(rows(), 1) << "the rows of the search before stay";
         EXPECT_EQ(caption(), L"Find: Files named *q*.*") << "the caption comes before the dates";

@@ -2,7 +2,10 @@
 #include "place_fixture.h"
 
 #include "canvas.h"
+#include "color_scheme.h"
+#include "fake_resolution.h"
 #include "picture.h"
+#include "scheme_in_force.h"
 #include "sent_messages.h"
 
 namespace {
@@ -85,6 +88,41 @@ TEST_F(PlaceListPaint, ARowIsAnIconOverItsWhiteCaption) {
     EXPECT_TRUE(drawn == expected);
     EXPECT_GT(drawn.count(kWhite), 0);
     EXPECT_LT(drawn.count(kGround), 130 * 110);
+}
+
+TEST_F(PlaceListPaint, InDarkColorsAHostThatFollowsThemGetsThem) {
+    const ui_test::SchemeInForce dark(TRUE);
+    openWith({L"one"});
+    show();
+    const Picture picture(*list);
+    EXPECT_EQ(picture.commonest(), ui_test::scheme::kWindow);
+    EXPECT_EQ(picture.count(kGround), 0);
+    EXPECT_EQ(picture.count(kWhite), 0);
+    EXPECT_GT(picture.count(ui_test::scheme::kWindowText), 0);
+    CClientDC dc(list.get());
+    const LRESULT brush = list->GetParent()->SendMessage(
+        WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(list->m_hWnd));
+    EXPECT_EQ(reinterpret_cast<HBRUSH>(brush), ::GetSysColorBrush(COLOR_WINDOW));
+    EXPECT_EQ(dc.GetBkColor(), ui_test::scheme::kWindow);
+}
+
+TEST_F(PlaceListPaint, InDarkColorsAHostThatKeepsTheAgreedOnesKeepsThem) {
+    const ui_test::SchemeInForce dark(FALSE);
+    openWith({L"one"});
+    show();
+    const Picture picture(*list);
+    EXPECT_EQ(picture.commonest(), kGround);
+    EXPECT_GT(picture.count(kWhite), 0);
+}
+
+TEST_F(PlaceListPaint, InLightColorsAHostThatFollowsThemKeepsTheAgreedOnes) {
+    const ui_test::ColorsOfScheme standard(ui_test::kSchemes[0]);
+    const ui_test::FakeResolution resolution(96);
+    openWith({L"one"});
+    show();
+    const Picture picture(*list);
+    EXPECT_EQ(picture.commonest(), kGround);
+    EXPECT_GT(picture.count(kWhite), 0);
 }
 
 TEST_F(PlaceListPaint, ASelectedRowIsSunken) {
