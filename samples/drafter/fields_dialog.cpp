@@ -3,21 +3,13 @@
 #include <ktdb.h>
 #include <ktui/host/contrast.h>
 
+#include "../common/invalid_field.h"
 #include "resource.h"
 
 namespace {
 
 // On light windows and on dark ones.
-constexpr COLORREF kLightInvalidPaper = RGB(255, 222, 222), kDarkInvalidPaper = RGB(96, 0, 0);
 constexpr COLORREF kInkOnLight = RGB(160, 0, 0), kInkOnDark = RGB(255, 150, 150);
-
-/// The paper of an invalid field, on which the system's text can be read; that of other fields if neither
-/// serves.
-COLORREF invalidPaper() {
-    const COLORREF text = ::GetSysColor(COLOR_WINDOWTEXT);
-    const COLORREF dark = ReadableColor(kDarkInvalidPaper, text, kTextContrast, ::GetSysColor(COLOR_WINDOW));
-    return ReadableColor(kLightInvalidPaper, text, kTextContrast, dark);
-}
 
 /// A red for the message that can be read on the dialog, or the dialog's own ink.
 COLORREF messageInk() {
@@ -180,9 +172,9 @@ HBRUSH CFieldsDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
     if (kind != CTLCOLOR_EDIT) return brush;
     for (const Field& field : m_fields) {
         if (field.edit->m_hWnd != control->m_hWnd || !isBad(field)) continue;
-        dc->SetBkColor(invalidPaper());
+        dc->SetBkColor(InvalidPaper());
         m_invalidBrush.DeleteObject();
-        m_invalidBrush.CreateSolidBrush(invalidPaper());
+        m_invalidBrush.CreateSolidBrush(InvalidPaper());
         return m_invalidBrush;
     }
     return brush;

@@ -1,5 +1,6 @@
 #include "gallery_page.h"
 
+#include "../common/invalid_field.h"
 #include "resource.h"
 
 namespace {
@@ -8,7 +9,6 @@ namespace {
 constexpr int kLeft = 6, kLabelWidth = 96, kControlLeft = 106, kControlWidth = 150, kRowGap = 4;
 constexpr int kSwitchWidth = 124, kCommandWidth = 124, kButtonHeight = 14;
 constexpr int kPageRight = 262;
-constexpr COLORREF kInvalidColor = RGB(255, 226, 226);
 
 const wchar_t* wordOf(KBUI_NOTIFY notification) {
     switch (notification) {
@@ -55,7 +55,6 @@ END_MESSAGE_MAP()
 
 CGalleryPage::CGalleryPage() : CKtUiDialog(IDD_GALLERY_PAGE, nullptr, AfxGetInstanceHandle()) {
     SetDialogName(L"Gallery Page");
-    m_invalidBrush.CreateSolidBrush(kInvalidColor);
 }
 
 CGalleryPage::~CGalleryPage() = default;
@@ -209,8 +208,9 @@ void CGalleryPage::Mark(unsigned id, bool isInvalid) {
 HBRUSH CGalleryPage::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
     const HBRUSH usual = CKtUiDialog::OnCtlColor(dc, control, kind);
     if (m_invalid.count(static_cast<unsigned>(control->GetDlgCtrlID())) == 0) return usual;
-    dc->SetTextColor(RGB(160, 0, 0));
-    dc->SetBkColor(kInvalidColor);
+    dc->SetBkColor(InvalidPaper());
+    m_invalidBrush.DeleteObject();
+    m_invalidBrush.CreateSolidBrush(InvalidPaper());
     return m_invalidBrush;
 }
 
@@ -227,8 +227,8 @@ KBUI_REPLY CGalleryPage::DoKbUiMessage(KBUI_NOTIFY notification, unsigned id, __
 
 std::vector<GalleryEntry> AllPages() {
     std::vector<GalleryEntry> all;
-    for (const auto family :
-         {InputPages, PickerPages, ButtonPages, ListPages, DialogPages, NavPages, MessagePages, TipPages}) {
+    for (const auto family : {InputPages, PickerPages, ButtonPages, ListPages, DialogPages, NavPages,
+                              MessagePages, TipPages, PalettePages}) {
         std::vector<GalleryEntry> pages = family();
         all.insert(all.end(), pages.begin(), pages.end());
     }

@@ -171,6 +171,7 @@ std::vector<GalleryEntry> DialogPages();
 std::vector<GalleryEntry> NavPages();
 std::vector<GalleryEntry> MessagePages();
 std::vector<GalleryEntry> TipPages();
+std::vector<GalleryEntry> PalettePages();
 
 /// All of them, family by family.
 std::vector<GalleryEntry> AllPages();

@@ -3,7 +3,7 @@
 
 #include <ktui/host/appearance.h>
 
-#include <iterator>
+#include "system_colors.h"
 
 namespace ui_test {
 
@@ -22,25 +22,21 @@ constexpr COLORREF kGrayText = RGB(140, 150, 130);
 /// agreed look.
 class SchemeInForce {
 public:
-    explicit SchemeInForce(BOOL follows) {
-        for (std::size_t i = 0; i < std::size(kIndexes); ++i) m_former[i] = ::GetSysColor(kIndexes[i]);
-        ::SetSysColors(kCount, kIndexes, kColors);
+    explicit SchemeInForce(BOOL follows)
+        : m_colors({{COLOR_WINDOW, scheme::kWindow},
+                    {COLOR_WINDOWTEXT, scheme::kWindowText},
+                    {COLOR_HIGHLIGHT, scheme::kHighlight},
+                    {COLOR_HIGHLIGHTTEXT, scheme::kHighlightText},
+                    {COLOR_BTNFACE, scheme::kFace},
+                    {COLOR_GRAYTEXT, scheme::kGrayText}}) {
         KtUiFollowSystemAppearance(follows);
     }
-    ~SchemeInForce() {
-        KtUiFollowSystemAppearance(FALSE);
-        ::SetSysColors(kCount, kIndexes, m_former);
-    }
+    ~SchemeInForce() { KtUiFollowSystemAppearance(FALSE); }
     SchemeInForce(const SchemeInForce&) = delete;
     SchemeInForce& operator=(const SchemeInForce&) = delete;
 
 private:
-    static constexpr int kIndexes[] = {COLOR_WINDOW,        COLOR_WINDOWTEXT, COLOR_HIGHLIGHT,
-                                       COLOR_HIGHLIGHTTEXT, COLOR_BTNFACE,    COLOR_GRAYTEXT};
-    static constexpr COLORREF kColors[] = {scheme::kWindow,        scheme::kWindowText, scheme::kHighlight,
-                                           scheme::kHighlightText, scheme::kFace,       scheme::kGrayText};
-    static constexpr int kCount = static_cast<int>(std::size(kIndexes));
-    COLORREF m_former[std::size(kIndexes)] = {};
+    const SystemColors m_colors;
 };
 
 }  // namespace ui_test

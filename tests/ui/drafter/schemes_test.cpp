@@ -6,43 +6,13 @@
 #include "../../../samples/drafter/draft_document.h"
 #include "../../../samples/drafter/properties_dialog.h"
 #include "../../../samples/drafter/text_style_dialog.h"
+#include "color_scheme.h"
 #include "drafter_fixture.h"
 #include "picture.h"
 
 using namespace ui_test;
 
 namespace {
-
-struct Scheme {
-    const char* name;
-    COLORREF window, windowText, face, faceText, highlight, highlightText, gray;
-};
-
-constexpr Scheme kSchemes[] = {{"Standard", RGB(255, 255, 255), RGB(0, 0, 0), RGB(240, 240, 240),
-                                RGB(0, 0, 0), RGB(0, 92, 170), RGB(255, 255, 255), RGB(109, 109, 109)},
-                               {"Dark", RGB(32, 32, 32), RGB(240, 240, 240), RGB(45, 45, 48),
-                                RGB(240, 240, 240), RGB(120, 190, 255), RGB(0, 0, 0), RGB(160, 160, 160)},
-                               {"HighContrast", RGB(0, 0, 0), RGB(255, 255, 0), RGB(0, 0, 0), RGB(0, 255, 0),
-                                RGB(0, 255, 255), RGB(0, 0, 0), RGB(0, 192, 0)}};
-
-/// Puts the colours of a scheme in force for as long as it lives.
-class SchemeInForce {
-public:
-    explicit SchemeInForce(const Scheme& scheme) {
-        for (std::size_t i = 0; i < std::size(kIndexes); ++i) m_former[i] = ::GetSysColor(kIndexes[i]);
-        const COLORREF colors[] = {scheme.window,   scheme.windowText, scheme.face,          scheme.face,
-                                   scheme.faceText, scheme.highlight,  scheme.highlightText, scheme.gray};
-        ::SetSysColors(static_cast<int>(std::size(kIndexes)), kIndexes, colors);
-    }
-    ~SchemeInForce() { ::SetSysColors(static_cast<int>(std::size(kIndexes)), kIndexes, m_former); }
-    SchemeInForce(const SchemeInForce&) = delete;
-    SchemeInForce& operator=(const SchemeInForce&) = delete;
-
-private:
-    static constexpr int kIndexes[] = {COLOR_WINDOW,  COLOR_WINDOWTEXT, COLOR_BTNFACE,       COLOR_MENU,
-                                       COLOR_BTNTEXT, COLOR_HIGHLIGHT,  COLOR_HIGHLIGHTTEXT, COLOR_GRAYTEXT};
-    COLORREF m_former[std::size(kIndexes)] = {};
-};
 
 class Schemes : public DrafterTest, public ::testing::WithParamInterface<Scheme> {
 protected:
@@ -79,7 +49,7 @@ protected:
     CDraftDocument document;
 
 private:
-    SchemeInForce m_scheme;
+    ColorsOfScheme m_scheme;
 };
 
 TEST_P(Schemes, PickersOfADimensionStyle) {
@@ -171,7 +141,6 @@ TEST_P(Schemes, ListOfBigFontsAndItsDisabledLook) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(, Schemes, ::testing::ValuesIn(kSchemes),
-                         [](const auto& each) { return std::string(each.param.name); });
+INSTANTIATE_TEST_SUITE_P(, Schemes, ::testing::ValuesIn(kSchemes), nameOfScheme);
 
 }  // namespace

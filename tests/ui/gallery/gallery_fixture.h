@@ -69,14 +69,14 @@ private:
     const ui_test::ReplacedImport m_create;
 };
 
-class Pages : public ::testing::TestWithParam<Shown> {
+class OpenGallery : public ::testing::Test {
 protected:
-    Pages()
+    explicit OpenGallery(const Shown& shown)
         : formerLocale(::GetThreadLocale()),
-          resolution(static_cast<UINT>(GetParam().dpi)),
-          dialogs(GetParam().dpi),
+          resolution(static_cast<UINT>(shown.dpi)),
+          dialogs(shown.dpi),
           host(*AfxGetApp()) {
-        ::SetThreadLocale(MAKELCID(GetParam().language, SORT_DEFAULT));
+        ::SetThreadLocale(MAKELCID(shown.language, SORT_DEFAULT));
         host.SetCurrentDocument(&document);
         gallery = std::make_unique<Gallery>();
         // What the host's messages belong to.
@@ -85,7 +85,7 @@ protected:
         gallery->ShowWindow(SW_SHOW);
         ui_test::pump();
     }
-    ~Pages() override {
+    ~OpenGallery() override {
         AfxGetApp()->m_pMainWnd = nullptr;
         gallery->DestroyWindow();
         gallery.reset();
@@ -137,6 +137,11 @@ protected:
     CStandinHost host;
     CGalleryDocument document;
     std::unique_ptr<Gallery> gallery;
+};
+
+class Pages : public OpenGallery, public ::testing::WithParamInterface<Shown> {
+protected:
+    Pages() : OpenGallery(GetParam()) {}
 };
 
 inline bool isChineseText(const CString& text) {

@@ -28,7 +28,7 @@ TEST_P(Pages, TheTreeSpeaksTheLanguageOfTheUser) {
     for (HTREEITEM each = tree.GetRootItem(); each != nullptr;
          each = tree.GetNextSiblingItem(each), ++families)
         EXPECT_EQ(isChineseText(tree.GetItemText(each)), isChinese);
-    EXPECT_EQ(families, 8);
+    EXPECT_EQ(families, 9);
 }
 
 TEST_P(Pages, TheNamesOfPagesDiffer) {
