@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "../../samples/gallery/resource.h"
-#include "program_driver.h"
+#include "gallery_program.h"
 
 using namespace journey;
 
@@ -13,39 +12,11 @@ namespace {
 
 constexpr int kFirst = 101, kCommands = 30;  // ids of the commands from here on
 
-class Gallery : public Program {
+class Gallery : public GalleryProgram {
 public:
-    Gallery()
-        : Program(L"\"" + programFolder() + L"gallery.exe\"", [](HWND window) {
-              return textOf(window) == L"Gallery" && item(window, IDC_PAGES) != nullptr;
-          }) {}
-
-    /// Goes to the page number `index` from 1 of the messages, which has a button `command`; false if there
-    /// is none.
-    bool openPage(int index, const std::wstring& command) {
-        activate(frame());
-        for (int i = 0; i < 60 && focusOf(frame()) != item(frame(), IDC_PAGES); ++i) key(VK_TAB);
-        key(VK_HOME);
-        type(L"Messages");
-        for (int i = 0; i < index; ++i) key(VK_DOWN);
-        return waitUntil([&] { return button(command) != nullptr; });
-    }
-    /// The visible button with this text; null without one.
-    HWND button(const std::wstring& text) const {
-        struct Search {
-            const std::wstring& text;
-            HWND found;
-        } search = {text, nullptr};
-        ::EnumChildWindows(
-            frame(),
-            [](HWND window, LPARAM parameter) -> BOOL {
-                auto& s = *reinterpret_cast<Search*>(parameter);
-                if (!::IsWindowVisible(window) || textOf(window) != s.text) return TRUE;
-                s.found = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&search));
-        return search.found;
+    /// Goes to the page number `index` from 1 of the messages, which has a button `command`.
+    bool openMessages(int index, const std::wstring& command) {
+        return openPage(L"Messages", command, index);
     }
     /// Goes to a button by the Tab key and presses it.
     void press(const std::wstring& text) {
@@ -108,7 +79,7 @@ protected:
 };
 
 TEST_F(Messages, BoxesOfEachSetAreClosedByEscape) {
-    ASSERT_TRUE(gallery.openPage(1, L"Yes, No, Cancel"));
+    ASSERT_TRUE(gallery.openMessages(1, L"Yes, No, Cancel"));
     const struct {
         const wchar_t* set;
         int answer;
@@ -130,7 +101,7 @@ TEST_F(Messages, BoxesOfEachSetAreClosedByEscape) {
 }
 
 TEST_F(Messages, OfThirtyCommandsEachIsReachedByKeys) {
-    ASSERT_TRUE(gallery.openPage(3, L"Ask"));
+    ASSERT_TRUE(gallery.openMessages(3, L"Ask"));
     gallery.press(L"Thirty commands");
     HWND box = gallery.ask(L"Ask");
     ASSERT_NE(box, nullptr);
@@ -153,7 +124,7 @@ TEST_F(Messages, OfThirtyCommandsEachIsReachedByKeys) {
 
 TEST_F(Messages, ATextOfFiveThousandCharactersIsReadToItsEnd) {
     constexpr LRESULT kLong = 5000;
-    ASSERT_TRUE(gallery.openPage(3, L"Ask"));
+    ASSERT_TRUE(gallery.openMessages(3, L"Ask"));
     gallery.press(L"A long text");
     HWND box = gallery.ask(L"Ask");
     ASSERT_NE(box, nullptr);

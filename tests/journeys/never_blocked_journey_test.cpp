@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "../../samples/gallery/resource.h"
 #include "drafter_driver.h"
+#include "gallery_program.h"
 
 using namespace journey;
 
@@ -17,38 +17,6 @@ constexpr int kNameBox = 1148, kPreview = 57022;
 // the processors up, some hundreds. A dialog that waits for its preview takes ten thousand.
 constexpr ULONGLONG kQuick = 50, kAnswer = 1000;
 constexpr ULONGLONG kPreviewTime = 10000;
-
-class Gallery : public Program {
-public:
-    Gallery()
-        : Program(L"\"" + programFolder() + L"gallery.exe\"", [](HWND window) {
-              return textOf(window) == L"Gallery" && item(window, IDC_PAGES) != nullptr;
-          }) {}
-
-    bool openPage(const wchar_t* name, const std::wstring& command) {
-        activate(frame());
-        for (int i = 0; i < 60 && focusOf(frame()) != item(frame(), IDC_PAGES); ++i) key(VK_TAB);
-        key(VK_HOME);
-        type(name);
-        return waitUntil([&] { return button(command) != nullptr; });
-    }
-    HWND button(const std::wstring& text) const {
-        struct Search {
-            const std::wstring& text;
-            HWND found;
-        } search = {text, nullptr};
-        ::EnumChildWindows(
-            frame(),
-            [](HWND window, LPARAM parameter) -> BOOL {
-                auto& s = *reinterpret_cast<Search*>(parameter);
-                if (!::IsWindowVisible(window) || textOf(window) != s.text) return TRUE;
-                s.found = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&search));
-        return search.found;
-    }
-};
 
 /// How long `window` took to answer, milliseconds; `most` if it did not.
 ULONGLONG answerTime(HWND window, ULONGLONG most) {
@@ -65,7 +33,7 @@ TEST(NeverBlockedJourney, TheDialogAnswersWhileItsPreviewTakesTenSecondsAndClose
     std::filesystem::copy_file(scratchCopy(L"bracket.dxf"), folder / L"one.dxf",
                                std::filesystem::copy_options::overwrite_existing);
     {
-        Gallery gallery;
+        GalleryProgram gallery;
         ASSERT_TRUE(gallery.openPage(L"Navigation", L"Never blocked"));
         for (const wchar_t* name : {L"Never blocked", L"Previews take 10 s"})
             gallery.click(gallery.button(name));

@@ -63,6 +63,8 @@ def configure(tree, kind):
     if not (build / "build.ninja").is_file():
         settings = ["-DCMAKE_BUILD_TYPE=", f"-DCMAKE_CXX_FLAGS={FLAGS} -I{tree.folder}/tools/mutation"]
         subprocess.run(["cmake", "--preset", kind, *settings], cwd=tree.folder, check=True, capture_output=True)
+    else:
+        subprocess.run(["cmake", build], check=True, capture_output=True)  # for files that have come or gone
     return build
 
 

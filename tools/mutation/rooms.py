@@ -1,5 +1,6 @@
 """Which sources make a room, which test programs hold its rules, and the mark that the room has to reach."""
 
+import re
 from dataclasses import dataclass, field
 from pathlib import Path
 
@@ -27,8 +28,10 @@ def _toolkit(name, *windows):
     return Room(f"ktui/{name}", (f"ktui/{name}",), ("ktui_core_test",), windows or (f"ui_{name}_test",))
 
 
-_MFC = ("mfc_gdi_test", "mfc_controls_test", "mfc_window_test", "mfc_dialog_test", "mfc_application_test", "mfc_bars_test", "mfc_task_dialog_test", "mfc_ole_test",
-        "mfc_resources_test", "mfc_property_sheet_test", "mfc_frame_bars_test", "mfc_more_controls_test", "mfc_image_test", "mfc_files_test")
+def _programs(folder):
+    """The test programs that a folder's CMake file makes."""
+    return tuple(re.findall(r"^ktui_test\((\w+)", (ROOT / folder / "CMakeLists.txt").read_text(encoding="utf-8"), re.M))
+
 
 ROOMS = {
     room.name: room
@@ -47,6 +50,6 @@ ROOMS = {
         Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),
         Room("platform/standin", ("platform/standin",), ("standin_core_test",), ("standin_core_test", "ui_standin_test"), 90),
         Room("platform/drawing", ("platform/drawing",), ("drawing_test",), (), 90),
-        Room("platform/mfc", ("platform/mfc",), ("mfc_core_test",), _MFC, 80),
+        Room("platform/mfc", ("platform/mfc",), ("mfc_core_test",), _programs("tests/ui/mfc"), 80),
     )
 }
