@@ -1,5 +1,6 @@
 #include "program_driver.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 
@@ -38,11 +39,20 @@ void sendMouse(POINT screen, DWORD flags) {
     ::SendInput(1, &input, sizeof(input));
 }
 
-/// Waits until the window's thread has taken its input so far.
+/// Waits until the window's thread has taken its input so far. A message that is sent overtakes keys and
+/// clicks that are still waiting, a paint message comes behind them; so a pixel of the window with the focus
+/// is made invalid.
 void settle(HWND window) {
     ::Sleep(2 * kPoll);
     DWORD_PTR result = 0;
     ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 3000, &result);
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
+    const HWND painted = info.hwndFocus != nullptr ? info.hwndFocus : info.hwndActive;
+    const RECT pixel = {0, 0, 1, 1};
+    if (painted == nullptr || !::InvalidateRect(painted, &pixel, FALSE)) return;
+    journey::waitUntil([=] { return !::GetUpdateRect(painted, nullptr, FALSE); }, 3000);
 }
 
 }  // namespace
@@ -116,6 +126,7 @@ HWND Program::waitForDialog(const std::wstring& title) {
         });
         return found != nullptr;
     });
+    if (found == nullptr) tellState();
     if (found != nullptr) settle(found);
     return found;
 }
@@ -130,6 +141,7 @@ HWND Program::waitForDialogOf(HWND owner) {
         });
         return found != nullptr;
     });
+    if (found == nullptr) tellState();
     if (found != nullptr) settle(found);
     return found;
 }
@@ -151,6 +163,24 @@ bool Program::waitUntilGone(HWND window) {
     return gone;
 }
 
+void Program::tellState() const {
+    const auto told = [](HWND window) {
+        wchar_t name[64] = {};
+        ::GetClassNameW(window, name, 64);
+        wchar_t text[128] = {};
+        ::GetWindowTextW(window, text, 128);
+        return std::wstring(name) + L" \"" + text + L"\"";
+    };
+    std::wprintf(L"no dialog came; running: %d, frame: %ls, enabled: %d, foreground: %ls, focus: %ls\n",
+                 isRunning(), told(m_frame).c_str(), ::IsWindowEnabled(m_frame),
+                 told(::GetForegroundWindow()).c_str(), told(focusOf(m_frame)).c_str());
+    findWindow([&](HWND window) {
+        std::wprintf(L"  shown: %ls\n", told(window).c_str());
+        return false;
+    });
+    std::fflush(stdout);
+}
+
 bool Program::hasKeys() const {
     GUITHREADINFO info = {};
     info.cbSize = sizeof(info);
@@ -161,7 +191,9 @@ bool Program::hasKeys() const {
 
 void Program::activate(HWND window) {
     ::SetForegroundWindow(window);
-    waitUntil([=] { return ::GetForegroundWindow() == window; }, 2000);
+    // The focus comes a moment after the foreground; without it keys are system keys, which accelerators
+    // don't know.
+    waitUntil([=, this] { return ::GetForegroundWindow() == window && hasKeys(); }, 2000);
     settle(window);
 }
 

@@ -70,6 +70,8 @@ protected:
 private:
     /// Whether one of its windows gets the keys.
     bool hasKeys() const;
+    /// Says on the output what is shown and who has the keys, for a failure that should not be.
+    void tellState() const;
 
     PROCESS_INFORMATION m_process = {};
     HWND m_frame = nullptr;
