@@ -46,9 +46,11 @@ void settle(HWND window) {
     ::Sleep(2 * kPoll);
     DWORD_PTR result = 0;
     ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 3000, &result);
+    const DWORD thread = ::GetWindowThreadProcessId(window, nullptr);
+    if (thread == ::GetCurrentThreadId()) return;
     GUITHREADINFO info = {};
     info.cbSize = sizeof(info);
-    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
+    ::GetGUIThreadInfo(thread, &info);
     const HWND painted = info.hwndFocus != nullptr ? info.hwndFocus : info.hwndActive;
     const RECT pixel = {0, 0, 1, 1};
     if (painted == nullptr || !::InvalidateRect(painted, &pixel, FALSE)) return;
@@ -190,10 +192,13 @@ bool Program::hasKeys() const {
 }
 
 void Program::activate(HWND window) {
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    const bool isOwn = process == m_process.dwProcessId;
     ::SetForegroundWindow(window);
     // The focus comes a moment after the foreground; without it keys are system keys, which accelerators
     // don't know.
-    waitUntil([=, this] { return ::GetForegroundWindow() == window && hasKeys(); }, 2000);
+    waitUntil([=, this] { return ::GetForegroundWindow() == window && (!isOwn || hasKeys()); }, 2000);
     settle(window);
 }
 
