@@ -10,7 +10,7 @@ namespace {
 
 using namespace kmfc::docking;
 
-constexpr std::int32_t kVersion = 0x444B0001;
+constexpr std::int32_t kVersion = 0x444B0002;
 
 /// The sum that a record ends in.
 std::int32_t sumOf(const std::vector<std::int32_t>& numbers) {

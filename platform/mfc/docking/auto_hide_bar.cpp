@@ -13,21 +13,17 @@ constexpr UINT_PTR kRestTimer = 1, kWatchTimer = 2, kSlideTimer = 3;
 constexpr UINT kWatchEvery = 200, kSlideEvery = 20;  // milliseconds
 constexpr int kMostOfTheRoom = 80;                   // hundredths that a pane may lie over
 
-/// What slides for a pane: the tabbed pane around a tab.
-CDockablePane* sliding(CDockablePane* pane) {
-    CBaseTabbedPane* const tabbed = pane->GetParentTabbedPane();
-    return tabbed != nullptr ? tabbed : pane;
-}
+/// The edge of a pane that is out.
+class InnerEdge : public CPaneDivider {
+public:
+    explicit InnerEdge(CMFCAutoHideBar& bar) : m_bar(bar) {}
 
-/// The strips of a frame.
-std::vector<CMFCAutoHideBar*> bars_of(CWnd* frame) {
-    std::vector<CMFCAutoHideBar*> bars;
-    for (HWND child = ::GetWindow(frame->GetSafeHwnd(), GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
-        if (auto* const bar = DYNAMIC_DOWNCAST(CMFCAutoHideBar, CWnd::FromHandlePermanent(child)))
-            bars.push_back(bar);
-    return bars;
-}
+protected:
+    int move_edge(int delta) override { return m_bar.move_inner_edge(delta); }
+
+private:
+    CMFCAutoHideBar& m_bar;
+};
 
 }  // namespace
 
@@ -46,9 +42,23 @@ int CMFCAutoHideBar::m_nShowAHWndDelay = 400;
 CMFCAutoHideBar::CMFCAutoHideBar() = default;
 CMFCAutoHideBar::~CMFCAutoHideBar() = default;
 
+CDockablePane* CMFCAutoHideBar::sliding_pane(CDockablePane* pane) {
+    CBaseTabbedPane* const tabbed = pane->GetParentTabbedPane();
+    return tabbed != nullptr ? tabbed : pane;
+}
+
+std::vector<CMFCAutoHideBar*> CMFCAutoHideBar::of_frame(CWnd* frame) {
+    std::vector<CMFCAutoHideBar*> bars;
+    for (HWND child = ::GetWindow(frame->GetSafeHwnd(), GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
+        if (auto* const bar = DYNAMIC_DOWNCAST(CMFCAutoHideBar, CWnd::FromHandlePermanent(child)))
+            bars.push_back(bar);
+    return bars;
+}
+
 CMFCAutoHideBar* CMFCAutoHideBar::at_side(CDockingManager& manager, DWORD alignment) {
     CFrameWnd* const frame = manager.GetDockSiteFrameWnd();
-    for (CMFCAutoHideBar* const bar : bars_of(frame))
+    for (CMFCAutoHideBar* const bar : of_frame(frame))
         if (bar->GetCurrentAlignment() == (alignment & CBRS_ALIGN_ANY)) return bar;
     auto* const bar = new CMFCAutoHideBar;
     if (!bar->CreateEx(0, afxGlobalData.RegisterWindowClass(L"kmfc:AutoHideBar"), nullptr,
@@ -60,17 +70,18 @@ CMFCAutoHideBar* CMFCAutoHideBar::at_side(CDockingManager& manager, DWORD alignm
 }
 
 void CMFCAutoHideBar::slide_all_in(CWnd* frame) {
-    for (CMFCAutoHideBar* const bar : bars_of(frame)) bar->slide_in();
+    for (CMFCAutoHideBar* const bar : of_frame(frame)) bar->slide_in();
 }
 
 void CMFCAutoHideBar::OnDestroy() {
     for (const auto& button : m_buttons) {
-        CDockablePane* const pane = sliding(button->GetAutoHideWindow());
+        CDockablePane* const pane = sliding_pane(button->GetAutoHideWindow());
         pane->m_pAutoHideBar = nullptr;
         pane->m_bIsAutoHideMode = FALSE;
     }
     m_buttons.clear();
     m_slidOut = nullptr;
+    m_edge.reset();
     CPane::OnDestroy();
 }
 
@@ -136,7 +147,7 @@ void CMFCAutoHideBar::RecalcLayout() {
     const CDockablePane* group = nullptr;
     for (const auto& button : m_buttons) {
         if (!button->IsVisible()) continue;
-        const CDockablePane* const now = sliding(button->GetAutoHideWindow());
+        const CDockablePane* const now = sliding_pane(button->GetAutoHideWindow());
         if (group != nullptr && now != group)
             offset += afxGlobalData.scaled(afxGlobalData.m_nAutoHideToolBarSpacing);
         group = now;
@@ -176,7 +187,7 @@ CRect CMFCAutoHideBar::slid_out_rect(const CDockablePane& pane) const {
 }
 
 BOOL CMFCAutoHideBar::ShowAutoHideWindow(CDockablePane* pAutoHideWnd, BOOL bShow, BOOL bDelay) {
-    CDockablePane* const pane = sliding(pAutoHideWnd);
+    CDockablePane* const pane = sliding_pane(pAutoHideWnd);
     if (!pane->IsAutoHideMode() || pane->m_pAutoHideBar != this) return FALSE;
     if (!bShow) {
         if (m_slidOut == pane) slide_in();
@@ -212,7 +223,55 @@ void CMFCAutoHideBar::slide_step() {
     ::SetWindowPos(m_slidOut->m_hWnd, HWND_TOP, rect.left, rect.top, rect.Width(), rect.Height(),
                    SWP_NOACTIVATE | SWP_SHOWWINDOW);
     m_step = m_step >= steps ? 0 : m_step + 1;
-    if (m_step == 0) KillTimer(kSlideTimer);
+    if (m_step != 0) return;
+    KillTimer(kSlideTimer);
+    place_inner_edge();
+}
+
+/// Along the inner side of the pane that is out, over the middle of the frame.
+void CMFCAutoHideBar::place_inner_edge() {
+    CRect rect = slid_out_rect(*m_slidOut);
+    const bool isUpright = !IsHorizontal();
+    const int width = CPaneDivider::m_nDefaultWidth;
+    switch (GetCurrentAlignment()) {
+        case CBRS_ALIGN_LEFT: rect.left = rect.right; break;
+        case CBRS_ALIGN_RIGHT: rect.left -= width; break;
+        case CBRS_ALIGN_TOP: rect.top = rect.bottom; break;
+        default: rect.top -= width; break;
+    }
+    (isUpright ? rect.right : rect.bottom) = (isUpright ? rect.left : rect.top) + width;
+    if (m_edge == nullptr) {
+        m_edge = std::make_unique<InnerEdge>(*this);
+        m_edge->CreateEx(0, isUpright ? CPaneDivider::SS_VERT : CPaneDivider::SS_HORZ, rect,
+                         GetDockSiteFrameWnd(), 0xFFFF);
+    }
+    ::SetWindowPos(m_edge->m_hWnd, HWND_TOP, rect.left, rect.top, rect.Width(), rect.Height(),
+                   SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+int CMFCAutoHideBar::move_inner_edge(int delta) {
+    if (m_slidOut == nullptr || m_step != 0) return 0;
+    const bool isUpright = !IsHorizontal();
+    const DWORD side = GetCurrentAlignment();
+    const int outward = side == CBRS_ALIGN_LEFT || side == CBRS_ALIGN_TOP ? 1 : -1;
+    const CRect room = GetDockingManager()->GetOuterEdgeBounds(), now = slid_out_rect(*m_slidOut);
+    CSize least;
+    m_slidOut->GetMinSize(least);
+    const int before = isUpright ? now.Width() : now.Height();
+    const int most = (isUpright ? room.Width() : room.Height()) * kMostOfTheRoom / 100;
+    const int after =
+        std::min<int>(std::max<int>(before + outward * delta, isUpright ? least.cx : least.cy), most);
+    (isUpright ? m_slidOut->m_autoHideSize.cx : m_slidOut->m_autoHideSize.cy) = after;
+    follow_frame();
+    return outward * (after - before);
+}
+
+void CMFCAutoHideBar::follow_frame() {
+    if (m_slidOut == nullptr || m_step != 0) return;
+    const CRect rect = slid_out_rect(*m_slidOut);
+    ::SetWindowPos(m_slidOut->m_hWnd, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+    place_inner_edge();
 }
 
 void CMFCAutoHideBar::slide_in() {
@@ -220,6 +279,7 @@ void CMFCAutoHideBar::slide_in() {
     if (pane == nullptr) return;
     m_slidOut = nullptr;
     m_step = 0;
+    m_edge.reset();
     KillTimer(kSlideTimer);
     KillTimer(kWatchTimer);
     const HWND focus = ::GetFocus();
@@ -238,9 +298,11 @@ bool CMFCAutoHideBar::check_condition() {
     CRect rect;
     m_slidOut->GetWindowRect(&rect);
     if (rect.PtInRect(cursor)) return false;
+    m_edge->GetWindowRect(&rect);
+    if (rect.PtInRect(cursor)) return false;
     ScreenToClient(&cursor);
     const CMFCAutoHideButton* const under = button_at(cursor);
-    if (under != nullptr && sliding(under->GetAutoHideWindow()) == m_slidOut) return false;
+    if (under != nullptr && sliding_pane(under->GetAutoHideWindow()) == m_slidOut) return false;
     slide_in();
     return true;
 }

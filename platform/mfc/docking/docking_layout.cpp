@@ -1,4 +1,5 @@
 // CDockingManager: laying the frame out.
+#include <kmfc/auto_hide_bar.h>
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
 #include <kmfc/visual_manager.h>
@@ -85,6 +86,7 @@ void CDockingManager::layout_frame(CRect& border, const std::function<void()>& l
                    free.bottom - center.bottom);
     layoutBars();
     m_bInLayout = FALSE;
+    for (CMFCAutoHideBar* bar : CMFCAutoHideBar::of_frame(m_pParentWnd)) bar->follow_frame();
 }
 
 void CDockingManager::on_idle() {

@@ -1,6 +1,8 @@
 // CDockingManager: the layout in the registry and in archives.
+#include <algorithm>
 #include <cstring>
 
+#include <kmfc/auto_hide_bar.h>
 #include <kmfc/docking_manager.h>
 #include <kmfc/settings_store.h>
 #include <kmfc/tabbed_pane.h>
@@ -103,6 +105,15 @@ std::vector<std::int32_t> CDockingManager::stored_layout() const {
     Namer namer(record);
     const auto stored_name = [&namer](PaneKey key) { return namer(key); };
     record.docked = renamed(m_state->layout, stored_name);
+    for (const CMFCAutoHideBar* bar : CMFCAutoHideBar::of_frame(m_pParentWnd))
+        for (const auto& button : bar->buttons()) {
+            CDockablePane* pane = CMFCAutoHideBar::sliding_pane(button->GetAutoHideWindow());
+            const PaneKey name = stored_name(key_of(pane));
+            const auto isIt = [name](const HiddenRecord& known) { return known.pane == name; };
+            if (name != 0 && pane->IsVisible() &&
+                std::none_of(record.hidden.begin(), record.hidden.end(), isIt))
+                record.hidden.push_back({name, side_of(bar->GetCurrentAlignment()), pane->auto_hide_size()});
+        }
     for (POSITION at = m_lstMiniFrames.GetTailPosition(); at != nullptr;) {
         auto* frame = static_cast<CPaneFrameWnd*>(m_lstMiniFrames.GetPrev(at));
         FloatingRecord floating;
@@ -184,6 +195,8 @@ void CDockingManager::apply(const LayoutRecord& record) {
     leave_tabs(record, found);
     m_bSuppressLayout = TRUE;
     FrameLayout next = renamed(record.docked, present);
+    // What hides stands in its place first.
+    for (const HiddenRecord& hidden : record.hidden) next.set_shown(present(hidden.pane), true);
     const std::vector<PaneKey> known = next.panes();
     // Panes that the record doesn't know keep their side, or go on floating.
     for (const PaneKey key : m_state->layout.panes()) {
@@ -206,6 +219,9 @@ void CDockingManager::apply(const LayoutRecord& record) {
     m_bSuppressLayout = FALSE;
     AdjustDockingLayout();
     for (const GroupRecord& group : record.groups) restore_group(group, found);
+    for (const HiddenRecord& hidden : record.hidden)
+        if (const PaneKey key = present(hidden.pane); key != 0)
+            hide_again(hidden, CMFCAutoHideBar::sliding_pane(pane_of(key)));
 }
 
 /// The panes of a record leave the tabs that they are in now.
@@ -244,6 +260,11 @@ void CDockingManager::restore_group(const GroupRecord& group,
     }
     CMFCBaseTabCtrl* control = tabbed->GetUnderlyingWindow();
     if (active != nullptr) control->SetActiveTab(control->GetTabFromHwnd(active->m_hWnd));
+}
+
+/// It hides at its edge again, with the size that it had.
+void CDockingManager::hide_again(const HiddenRecord& hidden, CDockablePane* pane) {
+    if (pane->SetAutoHideMode(TRUE, alignment_of(hidden.side)) != nullptr) pane->m_autoHideSize = hidden.size;
 }
 
 void CDockingManager::restore_frame(const CRect& rect, const SplitTree& panes) {

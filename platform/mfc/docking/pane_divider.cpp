@@ -57,10 +57,10 @@ void CPaneDivider::OnMouseMove(UINT, CPoint point) {
     ClientToScreen(&point);
     const int way = IsHorizontal() ? point.y - m_ptTrack.y : point.x - m_ptTrack.x;
     // What the limits held back is made up for when the mouse comes back.
-    if (way != m_moved) move_by(way - m_moved);
+    if (way != m_moved) m_moved += move_edge(way - m_moved);
 }
 
-void CPaneDivider::move_by(int delta) {
+int CPaneDivider::move_edge(int delta) {
     CRect before, after;
     GetWindowRect(&before);
     CWnd* const parent = GetParent();
@@ -68,9 +68,9 @@ void CPaneDivider::move_by(int delta) {
         floating->move_divider(m_id, delta);
     else if (CDockingManager* manager = manager_of(parent))
         manager->move_divider(m_id, delta);
-    if (m_hWnd == nullptr) return;
+    if (m_hWnd == nullptr) return 0;
     GetWindowRect(&after);
-    m_moved += IsHorizontal() ? after.top - before.top : after.left - before.left;
+    return IsHorizontal() ? after.top - before.top : after.left - before.left;
 }
 
 void CPaneDivider::OnLButtonUp(UINT, CPoint) { stop(true); }
@@ -79,7 +79,7 @@ void CPaneDivider::stop(bool keep) {
     if (!m_isTracking) return;
     m_isTracking = false;
     ReleaseCapture();
-    if (!keep && m_moved != 0) move_by(-m_moved);
+    if (!keep && m_moved != 0) move_edge(-m_moved);
 }
 
 void CPaneDivider::OnCancelMode() {

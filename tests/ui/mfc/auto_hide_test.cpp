@@ -119,7 +119,9 @@ TEST_F(AutoHide, SlidesOutWhenItsNameIsClicked) {
     EXPECT_EQ(out.Height(), docked.Height());
     EXPECT_EQ(::GetFocus(), panes[0].m_hWnd);
     EXPECT_EQ(frame->GetDockingManager()->GetClientAreaBounds(), middle) << "it lies over the others";
-    EXPECT_EQ(::GetWindow(frame->m_hWnd, GW_CHILD), panes[0].m_hWnd) << "on top of them";
+    const HWND top = ::GetWindow(frame->m_hWnd, GW_CHILD);
+    EXPECT_EQ(top, strip.inner_edge()->m_hWnd);
+    EXPECT_EQ(::GetWindow(top, GW_HWNDNEXT), panes[0].m_hWnd) << "on top of them";
 }
 
 TEST_F(AutoHide, StaysOutWhenTheFrameIsLaidOut) {

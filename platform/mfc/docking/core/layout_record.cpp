@@ -9,9 +9,9 @@ namespace {
 
 using Node = SplitTree::Node;
 
-constexpr std::int32_t kVersion = 0x444B0001;
+constexpr std::int32_t kVersion = 0x444B0002;
 constexpr int kMostRows = 1000, kMostFrames = 1000, kDeepest = 64;
-constexpr int kMostGroups = 1000, kMostTabs = 1000;
+constexpr int kMostGroups = 1000, kMostTabs = 1000, kMostHidden = 1000;
 constexpr int kMostPixels = 100'000;
 enum Kind : std::int32_t { kNothing = 0, kLeaf = 1, kDivider = 2 };
 
@@ -135,6 +135,31 @@ void read_groups(Reader& reader, LayoutRecord& record) {
         if (pane >= kFirstGroup && ids.count(pane) == 0) reader.fail();
 }
 
+void read_hidden(Reader& reader, LayoutRecord& record) {
+    std::set<PaneKey> met;
+    for (std::int32_t left = reader.next(0, kMostHidden); left > 0 && reader.good(); --left) {
+        HiddenRecord hidden;
+        hidden.pane = static_cast<PaneKey>(reader.next(1, INT32_MAX));
+        hidden.side = static_cast<Side>(reader.next(0, kSides - 1));
+        hidden.size.cx = reader.next(0, kMostPixels);
+        hidden.size.cy = reader.next(0, kMostPixels);
+        if (!record.docked.contains(hidden.pane) || record.docked.shows(hidden.pane) ||
+            !met.insert(hidden.pane).second)
+            reader.fail();
+        for (const FloatingRecord& frame : record.floating)
+            if (frame.panes.contains(hidden.pane)) reader.fail();
+        record.hidden.push_back(hidden);
+    }
+}
+
+void write_hidden(std::vector<std::int32_t>& to, const std::vector<HiddenRecord>& all) {
+    to.push_back(static_cast<std::int32_t>(all.size()));
+    for (const HiddenRecord& hidden : all)
+        to.insert(to.end(), {static_cast<std::int32_t>(hidden.pane), static_cast<std::int32_t>(hidden.side),
+                             static_cast<std::int32_t>(hidden.size.cx),
+                             static_cast<std::int32_t>(hidden.size.cy)});
+}
+
 void write_groups(std::vector<std::int32_t>& to, const std::vector<GroupRecord>& groups) {
     to.push_back(static_cast<std::int32_t>(groups.size()));
     for (const GroupRecord& group : groups) {
@@ -166,6 +191,7 @@ std::vector<std::int32_t> encode(const LayoutRecord& record) {
         write(numbers, frame.panes.root());
     }
     write_groups(numbers, record.groups);
+    write_hidden(numbers, record.hidden);
     numbers.push_back(sum_of(numbers));
     return numbers;
 }
@@ -180,6 +206,7 @@ bool decode(const std::vector<std::int32_t>& numbers, LayoutRecord& record) {
     read_rows(reader, read.docked);
     read_frames(reader, read);
     read_groups(reader, read);
+    read_hidden(reader, read);
     if (!reader.done()) return false;
     record = std::move(read);
     return true;

@@ -24,6 +24,13 @@ struct GroupRecord {
     std::vector<TabRecord> tabs;
 };
 
+/// A pane, or a group of tabs, that hides at an edge. Its place among the docked ones stays, not shown.
+struct HiddenRecord {
+    PaneKey pane = 0;
+    Side side = Side::left;
+    CSize size{0, 0};  ///< with which it slides out, pixels
+};
+
 /// Ids of groups begin behind all ids of panes.
 constexpr PaneKey kFirstGroup = 0x10000;
 
@@ -33,6 +40,7 @@ struct KMFC_API LayoutRecord {
     FrameLayout docked;
     std::vector<FloatingRecord> floating;
     std::vector<GroupRecord> groups;
+    std::vector<HiddenRecord> hidden;  ///< in the order of their names at the edges
 
     const GroupRecord* find_group(PaneKey id) const;
 };
@@ -40,7 +48,8 @@ struct KMFC_API LayoutRecord {
 /// As numbers: version first, a sum of all last.
 KMFC_API std::vector<std::int32_t> encode(const LayoutRecord& record);
 /// False, with `record` untouched, for anything that `encode` doesn't write: cut off, longer, another
-/// version, an id of 0 or met twice, a side or share out of range, a tree too deep, a wrong sum.
+/// version, an id of 0 or met twice, a side, share or size out of range, a tree too deep, a hidden pane that is
+/// shown or has no place, a wrong sum.
 KMFC_API bool decode(const std::vector<std::int32_t>& numbers, LayoutRecord& record);
 
 }  // namespace kmfc::docking

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <kmfc/dockable_pane.h>
+#include <kmfc/pane_divider.h>
 
 class CMFCAutoHideBar;
 
@@ -61,6 +62,10 @@ public:
 
     /// The strip of a side, made when it isn't there yet; null when it can't be.
     static CMFCAutoHideBar* at_side(CDockingManager& manager, DWORD alignment);
+    /// What slides for a pane: the tabbed pane around a tab.
+    static CDockablePane* sliding_pane(CDockablePane* pane);
+    /// The strips of a frame, in the order of their windows.
+    static std::vector<CMFCAutoHideBar*> of_frame(CWnd* frame);
     /// The slid-out pane of any side of a frame comes in.
     static void slide_all_in(CWnd* frame);
 
@@ -80,6 +85,13 @@ public:
     CDockablePane* slid_out() const { return m_slidOut; }
     /// Slides the pane in when neither focus nor mouse is in it; TRUE when it did.
     bool check_condition();
+    /// The frame was laid out: a pane that is out goes with its side.
+    void follow_frame();
+    /// The inner edge of the pane that is out goes `delta` pixels right or down, as far as the pane's least
+    /// size and the room allow. The answer is how far it went.
+    int move_inner_edge(int delta);
+    /// What moves that edge by the mouse; null while no pane stands out.
+    const CPaneDivider* inner_edge() const { return m_edge.get(); }
 
     CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
     void RecalcLayout() override;
@@ -89,6 +101,7 @@ protected:
     void PostNcDestroy() override { delete this; }
     CRect slid_out_rect(const CDockablePane& pane) const;
     void slide_step();
+    void place_inner_edge();
     void slide_in();
     void highlight(CMFCAutoHideButton* button);
 
@@ -103,4 +116,5 @@ protected:
     CMFCAutoHideButton* m_waiting = nullptr;  ///< the button that the mouse rests on
     CDockablePane* m_slidOut = nullptr;
     int m_step = 0;  ///< of the sliding; 0 when it stands
+    std::unique_ptr<CPaneDivider> m_edge;
 };

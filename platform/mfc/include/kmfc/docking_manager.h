@@ -15,6 +15,7 @@ struct Drag;
 struct DropScene;
 struct LayoutRecord;
 struct GroupRecord;
+struct HiddenRecord;
 class SplitTree;
 enum class Side : int;
 }  // namespace kmfc::docking
@@ -166,6 +167,7 @@ private:
                     const std::function<CDockablePane*(std::uintptr_t)>& found);
     void restore_group(const kmfc::docking::GroupRecord& group,
                        const std::function<CDockablePane*(std::uintptr_t)>& found);
+    void hide_again(const kmfc::docking::HiddenRecord& hidden, CDockablePane* pane);
     void restore_frame(const CRect& rect, const kmfc::docking::SplitTree& panes);
     kmfc::docking::DropScene scene_of_drag() const;
     void show_drop(CPoint screen, bool free);

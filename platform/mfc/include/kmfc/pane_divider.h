@@ -50,11 +50,13 @@ protected:
     int m_moved = 0;         ///< pixels moved since the drag began
     bool m_isTracking = false;
 
+    /// Moves the edge; the answer is how many pixels it went.
+    virtual int move_edge(int delta);
+
     friend class CDockingManager;
     friend class CMultiPaneFrameWnd;
 
 private:
-    void move_by(int delta);
     void stop(bool keep);
 };
 
