@@ -80,8 +80,10 @@ void CMFCBaseTabCtrl::InsertTab(CWnd* pNewWnd, LPCTSTR lpszTabLabel, int nInsert
     added->m_iTabID = m_nNextTabID++;
     added->m_bIsDetachable = bDetachable;
     m_arTabs.InsertAt(at, added);
-    if (!m_bIsMDITab && ::GetParent(pNewWnd->m_hWnd) != m_hWnd) pNewWnd->SetParent(this);
-    pNewWnd->ShowWindow(SW_HIDE);
+    if (!m_bIsMDITab) {
+        if (::GetParent(pNewWnd->m_hWnd) != m_hWnd) pNewWnd->SetParent(this);
+        pNewWnd->ShowWindow(SW_HIDE);
+    }
     if (m_iActiveTab >= at) ++m_iActiveTab;
     tabs_changed(true);
     if (m_iActiveTab == -1) SetActiveTab(at);
@@ -101,7 +103,7 @@ BOOL CMFCBaseTabCtrl::RemoveTab(int iTab, BOOL bRecalcLayout) {
     if (window->GetSafeHwnd() != nullptr && ::IsWindow(window->m_hWnd)) {
         if (m_bAutoDestroyWindow)
             window->DestroyWindow();
-        else
+        else if (!m_bIsMDITab)
             window->ShowWindow(SW_HIDE);
     }
     tabs_changed(bRecalcLayout != FALSE);
@@ -118,7 +120,7 @@ void CMFCBaseTabCtrl::RemoveAllTabs() {
         if (!::IsWindow(windows[i]->GetSafeHwnd())) continue;
         if (m_bAutoDestroyWindow)
             windows[i]->DestroyWindow();
-        else
+        else if (!m_bIsMDITab)
             windows[i]->ShowWindow(SW_HIDE);
     }
     tabs_changed(true);

@@ -1,6 +1,7 @@
 // CDockingManager: which panes and floating frames there are, and where panes dock.
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
+#include <kmfc/mdi_frame_ex.h>
 #include <kmfc/tabbed_pane.h>
 
 #include "frame_state.h"

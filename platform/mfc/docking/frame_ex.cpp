@@ -1,4 +1,4 @@
-// Frames with a docking manager.
+// CFrameWndEx, and what every frame with a docking manager asks it.
 #include <kmfc/frame_ex.h>
 #include <kmfc/pane_frame_wnd.h>
 #include <kmfc/win_app_ex.h>
@@ -6,8 +6,6 @@
 #include "frame_state.h"
 
 IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
-IMPLEMENT_DYNCREATE(CMDIFrameWndEx, CMDIFrameWnd)
-IMPLEMENT_DYNCREATE(CMDIChildWndEx, CMDIChildWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_WM_CREATE()
@@ -18,23 +16,8 @@ BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::OnIdleUpdateCmdUI)
 END_MESSAGE_MAP()
 
-BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
-    ON_WM_CREATE()
-    ON_WM_DESTROY()
-    ON_WM_CLOSE()
-    ON_WM_ACTIVATE()
-    ON_WM_NCACTIVATE()
-    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::OnIdleUpdateCmdUI)
-END_MESSAGE_MAP()
-
 CFrameWndEx::CFrameWndEx() = default;
 CFrameWndEx::~CFrameWndEx() = default;
-CMDIFrameWndEx::CMDIFrameWndEx() = default;
-CMDIFrameWndEx::~CMDIFrameWndEx() = default;
-CMDIChildWndEx::CMDIChildWndEx() = default;
-CMDIChildWndEx::~CMDIChildWndEx() = default;
-
-// What every frame with a docking manager asks it.
 
 void CDockingManager::frame_is_loaded() {
     if (auto* app = dynamic_cast<CWinAppEx*>(AfxGetApp())) app->load_frame(m_pParentWnd, this, nullptr);
@@ -60,11 +43,4 @@ bool CDockingManager::stays_active() const {
     const CWnd* next = CWnd::FromHandlePermanent(other);
     return next != nullptr && ::GetWindow(other, GW_OWNER) == m_pParentWnd->m_hWnd &&
            next->IsKindOf(RUNTIME_CLASS(CPaneFrameWnd));
-}
-
-CDockingManager* CMDIChildWndEx::GetDockingManager() const {
-    for (HWND window = m_hWnd; window != nullptr; window = ::GetAncestor(window, GA_PARENT))
-        if (CDockingManager* manager = kmfc::docking::manager_of(CWnd::FromHandlePermanent(window)))
-            return manager;
-    return nullptr;
 }

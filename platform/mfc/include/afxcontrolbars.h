@@ -10,6 +10,7 @@
 #include <kmfc/dockable_pane.h>
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
+#include <kmfc/mdi_frame_ex.h>
 #include <kmfc/global_data.h>
 #include <kmfc/pane.h>
 #include <kmfc/pane_divider.h>

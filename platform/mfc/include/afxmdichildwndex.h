@@ -3,4 +3,4 @@
 
 #include <afxwin.h>
 
-#include <kmfc/frame_ex.h>
+#include <kmfc/mdi_frame_ex.h>

@@ -3,6 +3,7 @@
 
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
+#include <kmfc/mdi_frame_ex.h>
 #include <kmfc/settings_store.h>
 #include <kmfc/win_app_ex.h>
 
