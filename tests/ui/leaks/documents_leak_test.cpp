@@ -1,4 +1,6 @@
-// Documents with a frame, a splitter and its panes, opened and closed a thousand times.
+// Documents with a frame, a splitter and its panes, without and with tabs, opened and closed a thousand
+// times.
+#include <afxcontrolbars.h>
 #include <afxext.h>
 
 #include "leak_growth.h"
@@ -25,7 +27,7 @@ protected:
 };
 IMPLEMENT_DYNCREATE(SheetView, CScrollView)
 
-class SplitChild : public CMDIChildWnd {
+class SplitChild : public CMDIChildWndEx {
     DECLARE_DYNCREATE(SplitChild)
 public:
     CSplitterWnd splitter;
@@ -35,12 +37,12 @@ protected:
         return splitter.Create(this, 2, 1, CSize(10, 10), context);
     }
 };
-IMPLEMENT_DYNCREATE(SplitChild, CMDIChildWnd)
+IMPLEMENT_DYNCREATE(SplitChild, CMDIChildWndEx)
 
 class Documents : public ::testing::Test {
 protected:
     Documents() {
-        frame = new CMDIFrameWnd;
+        frame = new CMDIFrameWndEx;
         EXPECT_TRUE(frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW, CRect(20, 20, 620, 520)));
         AfxGetApp()->m_pMainWnd = frame;
     }
@@ -76,7 +78,7 @@ protected:
         document->OnCloseDocument();
     }
 
-    CMDIFrameWnd* frame;
+    CMDIFrameWndEx* frame;
     CMultiDocTemplate kind{kResource, RUNTIME_CLASS(Sheet), RUNTIME_CLASS(SplitChild),
                            RUNTIME_CLASS(SheetView)};
     int opened = 0;
@@ -92,4 +94,8 @@ TEST_F(Documents, AThousandDocumentsLeaveNothing) {
     const size_t growth = heap_growth([&] { openBareChild(); });
     expect_no_growth([&] { openDocument(); }, growth);
     EXPECT_EQ(opened, kTimes + kWarmUp);
+    // The same with a tab for each.
+    frame->EnableMDITabs(TRUE, TRUE, CMFCTabCtrl::LOCATION_TOP, TRUE);
+    expect_no_growth([&] { openDocument(); }, growth);
+    EXPECT_EQ(opened, 2 * (kTimes + kWarmUp));
 }

@@ -155,9 +155,9 @@ void read_hidden(Reader& reader, LayoutRecord& record) {
 void write_hidden(std::vector<std::int32_t>& to, const std::vector<HiddenRecord>& all) {
     to.push_back(static_cast<std::int32_t>(all.size()));
     for (const HiddenRecord& hidden : all)
-        to.insert(to.end(), {static_cast<std::int32_t>(hidden.pane), static_cast<std::int32_t>(hidden.side),
-                             static_cast<std::int32_t>(hidden.size.cx),
-                             static_cast<std::int32_t>(hidden.size.cy)});
+        to.insert(to.end(),
+                  {static_cast<std::int32_t>(hidden.pane), static_cast<std::int32_t>(hidden.side),
+                   static_cast<std::int32_t>(hidden.size.cx), static_cast<std::int32_t>(hidden.size.cy)});
 }
 
 void write_groups(std::vector<std::int32_t>& to, const std::vector<GroupRecord>& groups) {

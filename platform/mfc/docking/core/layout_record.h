@@ -48,8 +48,8 @@ struct KMFC_API LayoutRecord {
 /// As numbers: version first, a sum of all last.
 KMFC_API std::vector<std::int32_t> encode(const LayoutRecord& record);
 /// False, with `record` untouched, for anything that `encode` doesn't write: cut off, longer, another
-/// version, an id of 0 or met twice, a side, share or size out of range, a tree too deep, a hidden pane that is
-/// shown or has no place, a wrong sum.
+/// version, an id of 0 or met twice, a side, share or size out of range, a tree too deep, a hidden pane that
+/// is shown or has no place, a wrong sum.
 KMFC_API bool decode(const std::vector<std::int32_t>& numbers, LayoutRecord& record);
 
 }  // namespace kmfc::docking
