@@ -15,7 +15,6 @@ bool DocumentTabs::start(bool icons, Location location, bool closeButton, Style 
     stop();
     m_hasIcons = icons;
     HideNoTabs(TRUE);
-    SetDrawFrame(FALSE);
     if (!Create(style, CRect(0, 0, 0, 0), &m_frame, kTabsId, location, closeButton)) return false;
     EnableActiveTabCloseButton(closeOnActive);
     EnableCustomToolTips(ownTips);
@@ -96,7 +95,7 @@ void DocumentTabs::activate(CMDIChildWndEx& child) {
 
 void DocumentTabs::make_way(CMDIChildWndEx& child) {
     const int tab = is_on() ? GetTabFromHwnd(child.m_hWnd) : -1;
-    if (tab == -1 || m_bActivateLastActive || m_frame.MDIGetActive() != &child) return;
+    if (tab == -1 || m_frame.MDIGetActive() != &child) return;
     if (CWnd* next = GetTabWnd(successor_of(tab))) m_frame.MDIActivate(next);
 }
 

@@ -189,6 +189,19 @@ TEST_F(HidingPanes, come_back_hidden_from_the_registry) {
     EXPECT_EQ(at(low), places[2]);
 }
 
+TEST_F(HidingPanes, come_back_closed_when_their_name_was_hidden_too) {
+    Pane& pane = docked(L"pane", AFX_IDW_DOCKBAR_LEFT);
+    pane.m_bHideInAutoHideMode = TRUE;
+    pane.ToggleAutoHide();
+    pane.ShowPane(FALSE, FALSE, FALSE);
+    ASSERT_TRUE(manager().SaveState(kProfile));
+    pane.ShowPane(TRUE, FALSE, FALSE);
+    ASSERT_TRUE(manager().LoadState(kProfile));
+    EXPECT_FALSE(pane.IsVisible());
+    EXPECT_FALSE(pane.IsWindowVisible());
+    EXPECT_EQ(strip(CBRS_ALIGN_LEFT).GetVisibleCount(), 0);
+}
+
 TEST_F(HidingPanes, come_back_as_tabs) {
     Pane& one = docked(L"one", AFX_IDW_DOCKBAR_RIGHT);
     Pane& two = make(L"two");

@@ -9,20 +9,35 @@ class TabbedFrame : public CMDIFrameWndEx {
     DECLARE_DYNCREATE(TabbedFrame)
 public:
     std::vector<std::pair<CRect, CRect>> sizes;  ///< of the documents' room
+    std::vector<int> tipsAsked;                  ///< for which tabs
 
 protected:
+    LRESULT OnTip(WPARAM, LPARAM info) {
+        tipsAsked.push_back(reinterpret_cast<CMFCTabToolTipInfo*>(info)->m_nTabIndex);
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
     BOOL OnSizeMDIClient(const CRect& former, const CRect& now) override {
         sizes.emplace_back(former, now);
         return CMDIFrameWndEx::OnSizeMDIClient(former, now);
     }
 };
 IMPLEMENT_DYNCREATE(TabbedFrame, CMDIFrameWndEx)
+BEGIN_MESSAGE_MAP(TabbedFrame, CMDIFrameWndEx)
+    ON_REGISTERED_MESSAGE(AFX_WM_ON_GET_TAB_TOOLTIP, &TabbedFrame::OnTip)
+END_MESSAGE_MAP()
 
 class TabbedChild : public CMDIChildWndEx {
     DECLARE_DYNCREATE(TabbedChild)
 public:
     static inline bool hasTab = true;
+    static inline bool fails = false;
     BOOL CanShowOnMDITabs() override { return hasTab; }
+
+protected:
+    BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context) override {
+        return !fails && CMDIChildWndEx::OnCreateClient(create, context);
+    }
 };
 IMPLEMENT_DYNCREATE(TabbedChild, CMDIChildWndEx)
 
@@ -137,6 +152,9 @@ TEST_F(DocumentTabsTest, LeavePanesTheirRoom) {
     ASSERT_FALSE(frame->sizes.empty());
     EXPECT_EQ(frame->sizes.back().second, room());
     EXPECT_NE(frame->sizes.back().first, room());
+    const size_t told = frame->sizes.size();
+    frame->RecalcLayout();
+    EXPECT_EQ(frame->sizes.size(), told) << "nothing has changed";
 }
 
 TEST_F(DocumentTabsTest, FollowTheActiveDocument) {
@@ -275,6 +293,74 @@ TEST_F(DocumentTabsTest, KeepEveryDocumentAsLargeAsTheRoom) {
     EXPECT_EQ(item.enabled, TRUE);
     child->SendMessage(WM_SYSCOMMAND, SC_RESTORE);
     EXPECT_FALSE(is_maximized(child));
+}
+
+TEST_F(DocumentTabsTest, AWindowThatFailsGetsNone) {
+    frame->EnableMDITabs();
+    open();
+    TabbedChild::fails = true;
+    EXPECT_EQ(open(), nullptr);
+    TabbedChild::fails = false;
+    EXPECT_EQ(tabs().GetTabsNum(), 1);
+    EXPECT_STREQ(label(0), L"Plan1");
+}
+
+TEST_F(DocumentTabsTest, NameTheActiveDocumentWhateverEndsTheOther) {
+    frame->EnableMDITabs();
+    Plan* first = open();
+    Plan* second = open();
+    open();
+    frame->MDIActivate(child_of(first));
+    frame->MDIActivate(child_of(second));
+    child_of(second)->MDIDestroy();
+    EXPECT_EQ(tabs().GetTabsNum(), 2);
+    EXPECT_EQ(tabs().GetActiveWnd(), frame->MDIGetActive());
+    EXPECT_EQ(frame->MDIGetActive(), child_of(first)) << "the system's choice";
+}
+
+TEST_F(DocumentTabsTest, AreMovedByTheMouse) {
+    frame->EnableMDITabs();
+    Plan* first = open();
+    open();
+    CRect from, to;
+    tabs().GetTabRect(0, from);
+    tabs().GetTabRect(1, to);
+    const CPoint press = from.CenterPoint(), drop(to.right - 3, to.CenterPoint().y);
+    tabs().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(press.x, press.y));
+    tabs().SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(drop.x, drop.y));
+    tabs().SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(drop.x, drop.y));
+    EXPECT_STREQ(label(0), L"Plan2");
+    EXPECT_STREQ(label(1), L"Plan1");
+    EXPECT_EQ(tabs().GetActiveTab(), 1);
+    EXPECT_EQ(frame->MDIGetActive(), child_of(first));
+}
+
+TEST_F(DocumentTabsTest, CloseOnTheActiveTab) {
+    frame->EnableMDITabs(TRUE, FALSE, CMFCTabCtrl::LOCATION_TOP, FALSE, CMFCTabCtrl::STYLE_3D_ONENOTE, FALSE,
+                         TRUE);
+    open();
+    EXPECT_TRUE(tabs().IsActiveTabCloseButton());
+    EXPECT_TRUE(tabs().IsOneNoteStyle());
+    frame->EnableMDITabs();
+    EXPECT_FALSE(tabs().IsActiveTabCloseButton());
+}
+
+TEST_F(DocumentTabsTest, AskTheFrameForTheirTipsWhenThatIsWanted) {
+    for (const BOOL wanted : {FALSE, TRUE}) {
+        frame->EnableMDITabs(TRUE, FALSE, CMFCTabCtrl::LOCATION_TOP, FALSE, CMFCTabCtrl::STYLE_3D_SCROLLED,
+                             wanted);
+        if (wanted == FALSE) open();
+        HWND tips = nullptr;
+        while ((tips = ::FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr)
+            if (::GetWindow(tips, GW_OWNER) == frame->m_hWnd) {
+                NMTTDISPINFOW question = {};
+                question.hdr.hwndFrom = tips;
+                question.hdr.code = TTN_NEEDTEXTW;
+                question.hdr.idFrom = static_cast<UINT_PTR>(tabs().GetTabID(0)) + 1;
+                tabs().SendMessage(WM_NOTIFY, question.hdr.idFrom, reinterpret_cast<LPARAM>(&question));
+            }
+        EXPECT_EQ(frame->tipsAsked, (wanted ? std::vector<int>{0} : std::vector<int>{}));
+    }
 }
 
 TEST_F(DocumentTabsTest, LoseNothingWhenTheFrameCloses) {
