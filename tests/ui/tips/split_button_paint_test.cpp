@@ -273,6 +273,7 @@ TEST_F(SplitButtonPaint, WithoutAThemeBothPartsAreDrawnInTheirClips) {
     for (const std::size_t i : {0u, 1u})
         EXPECT_EQ(Find("frame", i)->flags, static_cast<UINT>(DFCS_BUTTONPUSH));
     EXPECT_EQ(Find("edge")->rect.left, 84);
+    EXPECT_EQ(Find("edge")->flags, static_cast<UINT>(EDGE_ETCHED));
 }
 
 TEST_F(SplitButtonPaint, PushedPartsAreDrawnSoAndADisabledButtonInactive) {
@@ -442,6 +443,18 @@ TEST_F(SplitButtonPaint, AButtonOfAnotherTypeIsLeftToTheSystem) {
     KtUiTestDoor().splitButtonMessage(&record, window, WM_PRINTCLIENT,
                                       reinterpret_cast<WPARAM>(canvas.dc.m_hDC), 0);
     EXPECT_EQ(Count("frame") + Count("glyph") + Count("text"), 0);
+}
+
+TEST_F(SplitButtonPaint, NothingIsDrawnOnTheScreenWhileRedrawingIsSuspended) {
+    record.m_word |= kSplitRedrawSuspended;
+    ::InvalidateRect(window, nullptr, FALSE);
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, 0, 0), 0);
+    EXPECT_TRUE(calls.empty());
+    EXPECT_FALSE(::GetUpdateRect(window, nullptr, FALSE));
+    Canvas canvas(kWidth, kHeight, kGround);
+    const auto dc = reinterpret_cast<WPARAM>(canvas.dc.m_hDC);
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, dc, 0), 0);
+    EXPECT_EQ(Count("frame"), 2) << "a picture that is asked for is drawn all the same";
 }
 
 TEST_F(SplitButtonPaint, PaintingOnTheScreenValidatesIt) {
