@@ -117,6 +117,18 @@ BOOL WINAPI NoteEdge(HDC dc, RECT* rect, UINT edge, UINT sides) {
     return ::DrawEdge(dc, rect, edge, sides);
 }
 
+std::vector<HGDIOBJ> iconParts;  ///< the bitmaps that were handed out, less those that were given back
+
+BOOL WINAPI NoteIconParts(HICON icon, ICONINFO* info) {
+    const BOOL found = ::GetIconInfo(icon, info);
+    iconParts = {info->hbmColor, info->hbmMask};
+    return found;
+}
+BOOL WINAPI NoteDeletion(HGDIOBJ object) {
+    std::erase(iconParts, object);
+    return ::DeleteObject(object);
+}
+
 LRESULT stateAnswer = 0;
 WNDPROC plainProc = nullptr;
 
@@ -426,6 +438,19 @@ TEST_F(SplitButtonPaint, AnIconIsCentredInTheLeftPart) {
     ::EnableWindow(window, FALSE);
     Paint(canvas);
     EXPECT_EQ(Find("state")->flags, static_cast<UINT>(DST_ICON | DSS_DISABLED));
+}
+
+TEST_F(SplitButtonPaint, TheBitmapsOfAnIconAreGivenBack) {
+    const ReplacedImport parts(toolkit, "GetIconInfo", &NoteIconParts);
+    const ReplacedImport deletion(toolkit, "DeleteObject", &NoteDeletion);
+    ASSERT_TRUE(parts.isThere() && deletion.isThere());
+    record.m_word = 12 | BS_ICON;
+    ::SetWindowLongW(window, GWL_STYLE, ::GetWindowLongW(window, GWL_STYLE) | BS_ICON);
+    ::SendMessageW(window, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(::LoadIconW(nullptr, IDI_HAND)));
+    iconParts = {reinterpret_cast<HGDIOBJ>(&iconParts)};
+    Paint();
+    EXPECT_EQ(Count("state"), 1);
+    EXPECT_TRUE(iconParts.empty());
 }
 
 TEST_F(SplitButtonPaint, WithoutARecordTheWindowsStyleCounts) {
