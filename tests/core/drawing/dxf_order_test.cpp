@@ -53,6 +53,19 @@ TEST(DxfOrder, ARecordsNameStandsBehindItsHandleAndItsMarkers) {
     EXPECT_FALSE(has(text, "0|LAYER\n2|0"));
 }
 
+TEST(DxfOrder, AnotherNameInARecordDoesNotMoveItsOwn) {
+    const std::string records =
+        "0|VIEW\n5|77\n100|AcDbSymbolTableRecord\n100|AcDbViewTableRecord\n2|FRONT\n70|0\n2|SECOND\n40|10\n";
+    const std::string text = rewritten(withTable("VIEW", records, "AC1015"));
+    EXPECT_TRUE(
+        has(text, "100|AcDbSymbolTableRecord\n100|AcDbViewTableRecord\n2|FRONT\n70|0\n2|SECOND\n40|10.0"));
+    EXPECT_TRUE(has(text, "0|VIEW\n5|77")) << "the handle comes first";
+}
+
+TEST(DxfOrder, APointHasTheMarkerOfPoints) {
+    EXPECT_TRUE(has(marked("0|POINT\n8|0\n10|1\n20|2\n30|3\n"), "100|AcDbPoint\n10|1.0\n20|2.0\n30|3.0"));
+}
+
 TEST(DxfOrder, ANewLinetypeHasWhatALinetypeNeeds) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     OdDbLinetypeTablePtr linetypes;
@@ -104,6 +117,17 @@ TEST(DxfOrder, TheNextFreeHandleIsAboveAllOthers) {
         EXPECT_GT(greatest, 0xABCu) << version;
         EXPECT_EQ(seed, greatest + 1) << version;
     }
+}
+
+TEST(DxfOrder, TheCurrentColourKeepsItsName) {
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    OdCmColor ink;
+    ink.setRGB(1, 2, 3);
+    ink.setNames(L"INK", L"BOOK");
+    drawing->setCecolor(ink);
+    EXPECT_TRUE(has(drawing->writeDxfBytes(OdDb::kDHL_1018), "420|66051\n430|BOOK$INK"));
+    drawing->setCecolor(OdCmColor());
+    EXPECT_FALSE(has(drawing->writeDxfBytes(OdDb::kDHL_1018), "430|BOOK$INK"));
 }
 
 TEST(DxfOrder, AColourBooksNamesGoOnlyToVersionsThatHaveThem) {

@@ -28,6 +28,7 @@ TEST(DxfR12, WidthsOfAFlatPolylineBecomeThoseOfItsVertices) {
     EXPECT_EQ(first.real(41), 4);
     EXPECT_EQ(first.real(42), 5);
     EXPECT_EQ(polyline->vertices()[1]->groups().real(41), 0);
+    EXPECT_EQ(occurrences(text, "\r\nSEQEND\r\n"), 1) << "a list made here is ended too";
 }
 
 TEST(DxfR12, AParagraphBecomesLinesFiveThirdsOfItsHeightApart) {

@@ -96,7 +96,9 @@ TEST(Entities, WithoutADrawingNothingIsTakenOver) {
     line.setColorIndex(3);
     line.setDatabaseDefaults(nullptr);
     EXPECT_EQ(line.color().colorIndex(), 3);
+    line.setHyperlink(L"https://example.org", L"");
     EXPECT_TRUE(line.xData(nullptr).isEmpty()) << "data of no application";
+    EXPECT_FALSE(line.xData(L"PE_URL").isEmpty());
 }
 
 TEST(Entities, PropertiesGoBackToTheDefaults) {
@@ -334,11 +336,12 @@ TEST(Texts, AParagraphMayEndWithoutItsLastPiece) {
 }
 
 TEST(Texts, TellHowTheyAreAligned) {
-    const OdDbDatabasePtr drawing =
-        readDrawing(withEntities("0|TEXT\n8|0\n10|0\n20|0\n40|1\n1|x\n72|2\n11|3\n21|4\n73|1\n", "AC1009"));
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|TEXT\n8|0\n10|0\n20|0\n40|1\n1|x\n51|90\n72|2\n11|3\n21|4\n73|1\n", "AC1009"));
     const auto* text = firstEntity<OdDbText>(*drawing);
     EXPECT_EQ(text->horizontalMode(), 2);
     EXPECT_EQ(text->verticalMode(), 1);
+    EXPECT_NEAR(text->oblique(), kPi / 2, 1e-15);
     EXPECT_EQ(text->alignmentPoint(), (OdGePoint3d{3, 4, 0}));
 }
 
