@@ -19,7 +19,7 @@ UINT dpiOfScreen() {
 UINT dpiOfWindow(HWND window) {
     // Systems before Windows 10 have one resolution for all windows.
     using Function = UINT(WINAPI*)(HWND);
-    static const auto getDpiForWindow =
+    const auto getDpiForWindow =
         reinterpret_cast<Function>(::GetProcAddress(::GetModuleHandleW(L"USER32.DLL"), "GetDpiForWindow"));
     const UINT dpi = getDpiForWindow && window ? getDpiForWindow(window) : 0;
     return dpi != 0 ? dpi : dpiOfScreen();

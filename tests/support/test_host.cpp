@@ -97,7 +97,9 @@ COLORREF TestHost::colorOfIndex(int index) {
     return colorOf(index);
 }
 
-bool TestHost::schemeColor(int, int role, COLORREF& color, int) {
+bool TestHost::schemeColor(int scheme, int role, COLORREF& color, int flags) {
+    // Only the scheme of kind 1 is asked for, and without flags.
+    if (scheme != 1 || flags != 0) return false;
     const auto found = roleColors.find(role);
     if (found == roleColors.end()) return false;
     color = found->second;

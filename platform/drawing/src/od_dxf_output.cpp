@@ -134,9 +134,8 @@ void OdDxfOutput::putGroups(const OdGroupList& groups, OdDxfPart part, std::uint
     for (std::uint32_t at = begin; at < end && groups.read(at, group); at = group.end) {
         if (group.code == kEmbeddedObject) embedded = m_version < OdDb::kDHL_1032;
         if (group.code >= kFirstExtendedData) embedded = false;
-        const bool closing = application && group.code == 102;
         if (group.code == 102) application = !group.text.empty() && group.text[0] == '{';
-        const bool leftOut = embedded || (isR12() && (application || closing));
+        const bool leftOut = embedded || (isR12() && application);
         if (!leftOut && has(group.code, part)) putGroup(group);
     }
 }

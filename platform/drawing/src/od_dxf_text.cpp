@@ -66,9 +66,9 @@ std::size_t multibyteEscape(std::wstring_view text, std::size_t at, std::wstring
     return 8;
 }
 
-/// A caret form at `at`.
+/// A caret form at `at`, where a caret stands.
 std::size_t caretEscape(std::wstring_view text, std::size_t at, std::wstring& out) {
-    if (text[at] != L'^' || at + 1 >= text.size()) return 0;
+    if (at + 1 >= text.size()) return 0;
     const wchar_t next = text[at + 1];
     if (next == L' ') {
         out += L'^';

@@ -202,3 +202,37 @@ TEST(HostServices, AreNoneUntilInstalled) {
     EXPECT_FALSE(services.registryProductRootKey().isEmpty());
     oddbSetHostApplicationServices(nullptr);
 }
+
+TEST(Header, SettingsOfUnitsAreThoseOfTheDrawingWithinTheirRanges) {
+    const auto units = [](const std::string& variables) {
+        return readDrawing(dxf("0|SECTION\n2|HEADER\n9|$ACADVER\n1|AC1015\n" + variables + "0|ENDSEC\n0|EOF"))
+            ->units();
+    };
+    const OdDbUnitSettings set = units(
+        "9|$LUNITS\n70|1\n9|$LUPREC\n70|8\n9|$AUNITS\n70|4\n9|$AUPREC\n70|7\n"
+        "9|$UNITMODE\n70|1\n9|$ANGDIR\n70|1\n");
+    EXPECT_EQ(set.lunits, 1);
+    EXPECT_EQ(set.luprec, 8);
+    EXPECT_EQ(set.aunits, 4);
+    EXPECT_EQ(set.auprec, 7);
+    EXPECT_EQ(set.unitmode, 1);
+    EXPECT_EQ(set.angdir, 1);
+    const OdDbUnitSettings high = units(
+        "9|$LUNITS\n70|6\n9|$LUPREC\n70|9\n9|$AUNITS\n70|5\n9|$AUPREC\n70|9\n"
+        "9|$UNITMODE\n70|2\n9|$ANGDIR\n70|2\n");
+    EXPECT_EQ(high.lunits, 5);
+    EXPECT_EQ(high.luprec, 8);
+    EXPECT_EQ(high.aunits, 4);
+    EXPECT_EQ(high.auprec, 8);
+    EXPECT_EQ(high.unitmode, 1);
+    EXPECT_EQ(high.angdir, 1);
+    const OdDbUnitSettings low = units(
+        "9|$LUNITS\n70|0\n9|$LUPREC\n70|-1\n9|$AUNITS\n70|-1\n9|$AUPREC\n70|-1\n"
+        "9|$UNITMODE\n70|-1\n9|$ANGDIR\n70|-1\n");
+    EXPECT_EQ(low.lunits, 1);
+    EXPECT_EQ(low.luprec, 0);
+    EXPECT_EQ(low.aunits, 0);
+    EXPECT_EQ(low.auprec, 0);
+    EXPECT_EQ(low.unitmode, 0);
+    EXPECT_EQ(low.angdir, 0);
+}

@@ -274,6 +274,7 @@ TEST(DxfBinary, EveryCutIsNoticedAndToldByItsByte) {
         for (std::size_t size = kMark.size(); size <= end; ++size) {
             const OdDbDxfError error = errorOf(whole.substr(0, size));
             ASSERT_EQ(error.code, OdDxfErrorCode::kTruncated) << size;
+            ASSERT_EQ(error.leftOut, 0) << "nothing was written";
             EXPECT_EQ(error.line, 0);
             EXPECT_GE(error.byte, kMark.size());
             EXPECT_LE(error.byte, size);

@@ -6,30 +6,6 @@
 
 #include "dxf_text.h"
 
-namespace {
-
-/// Whether the pairs occur one after the other in a written text.
-bool has(const std::string& text, const std::string& pairs) {
-    std::string flat;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = text.find("\r\n", at);
-        std::string line = text.substr(at, end - at);
-        line.erase(0, line.find_first_not_of(' ') == std::string::npos ? 0 : line.find_first_not_of(' '));
-        flat.append(line).append(1, '\n');
-        at = end + 2;
-    }
-    const std::string wanted = dxf(pairs);
-    const std::size_t at = flat.find(wanted);
-    return at != std::string::npos && (at == 0 || flat[at - 1] == '\n');
-}
-
-std::string rewritten(const std::string& text, OdDb::DwgVersion version = OdDb::kDHL_Unknown) {
-    const OdDbDatabasePtr drawing = readDrawing(text);
-    return drawing ? drawing->writeDxfBytes(version) : "(refused)";
-}
-
-}  // namespace
-
 TEST(DxfKeeps, UnknownHeaderVariables) {
     const std::string text =
         rewritten(dxf("0|SECTION\n2|HEADER\n9|$ACADVER\n1|AC1032\n9|$FUTUREVAR\n70|42\n9|$ODDPOINT\n10|1\n20|"
@@ -325,4 +301,11 @@ TEST(DxfKeeps, AThumbnailGivenByAProgramGoesWithFilesFrom2000On) {
                     "252C333A41484F565D646B72"));
     drawing->setThumbnail("");
     EXPECT_EQ(drawing->writeDxfBytes(OdDb::kDHL_1032).find("THUMBNAILIMAGE"), std::string::npos);
+}
+
+TEST(DxfKeeps, APreviewAsFarAsItCanBeRead) {
+    const std::string text = dxf(header("AC1032") +
+                                 "0|SECTION\n2|THUMBNAILIMAGE\n90|4\n310|A1b2\n310|C3xx\n310|"
+                                 "D4\n0|ENDSEC\n0|EOF");
+    EXPECT_EQ(readDrawing(text)->thumbnail(), "\xA1\xB2\xC3");
 }

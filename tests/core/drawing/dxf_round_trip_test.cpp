@@ -146,6 +146,19 @@ TEST(DxfRoundTrip, NumbersKeepEveryBit) {
               (OdGePoint3d{123456789.123456789, 3.3333333333333335, 1e20}));
 }
 
+TEST(DxfRoundTrip, NumbersTooSmallToTellFromZeroAreZero) {
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    OdDxfReading strict;
+    strict.strict = true;
+    OdDbDxfError error;
+    const std::string text = withEntities("0|POINT\n8|0\n10|1e-999\n20|-2E-999\n30|3\n");
+    ASSERT_EQ(drawing->readDxfBytes(text, &error, &strict), kOdOk) << odUtf8(error.text.view());
+    EXPECT_EQ(firstEntity<OdDbPoint>(*drawing)->position(), (OdGePoint3d{0, 0, 3}));
+    const std::string large = withEntities("0|POINT\n8|0\n10|1e999\n20|0\n30|3\n");
+    EXPECT_NE(OdDbDatabasePtr(new OdDbDatabase)->readDxfBytes(large, &error, &strict), kOdOk);
+    EXPECT_EQ(error.code, OdDxfErrorCode::kBadNumber) << "too large a number is none";
+}
+
 TEST(DxfRoundTrip, HandlesStayAndNewOnesAreFree) {
     const OdDbDatabasePtr drawing = readDrawing(
         withEntities("0|LINE\n5|ABC\n8|0\n10|0\n20|0\n11|1\n21|0\n0|LINE\n8|0\n10|0\n20|0\n11|1\n21|0\n"

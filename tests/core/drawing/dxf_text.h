@@ -54,3 +54,24 @@ T* firstEntity(OdDbDatabase& drawing) {
 inline constexpr OdDb::DwgVersion kAllVersions[] = {OdDb::kDHL_1009, OdDb::kDHL_1012, OdDb::kDHL_1014,
                                                     OdDb::kDHL_1015, OdDb::kDHL_1018, OdDb::kDHL_1021,
                                                     OdDb::kDHL_1024, OdDb::kDHL_1027, OdDb::kDHL_1032};
+
+/// Whether the pairs occur one after the other in a written text.
+inline bool has(const std::string& text, const std::string& pairs) {
+    std::string flat;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = text.find("\r\n", at);
+        std::string line = text.substr(at, end - at);
+        line.erase(0, line.find_first_not_of(' ') == std::string::npos ? 0 : line.find_first_not_of(' '));
+        flat.append(line).append(1, '\n');
+        at = end + 2;
+    }
+    const std::string wanted = dxf(pairs);
+    const std::size_t at = flat.find(wanted);
+    return at != std::string::npos && (at == 0 || flat[at - 1] == '\n');
+}
+
+/// A text after reading and writing it.
+inline std::string rewritten(const std::string& text, OdDb::DwgVersion version = OdDb::kDHL_Unknown) {
+    const OdDbDatabasePtr drawing = readDrawing(text);
+    return drawing ? drawing->writeDxfBytes(version) : "(refused)";
+}

@@ -44,6 +44,19 @@ TEST(DxfText, CodePagesAreDecoded) {
     EXPECT_EQ(read("\x81", "AC1015", "dos437"), L"\x00FC");
 }
 
+TEST(DxfText, CodePagesOfTheStandardAreKnownByTheirNumbers) {
+    const struct {
+        const char* name;
+        const char* bytes;
+        wchar_t character;
+    } pages[] = {{"ISO8859-1", "\xA1", 0xA1},  {"ISO8859-2", "\xA5", 0x13D},   {"ISO8859-3", "\xA1", 0x126},
+                 {"ISO8859-4", "\xA2", 0x138}, {"ISO8859-5", "\xA1", 0x401},   {"ISO8859-6", "\xC1", 0x621},
+                 {"ISO8859-7", "\xC1", 0x391}, {"ISO8859-8", "\xE0", 0x5D0},   {"ISO8859-9", "\xD0", 0x11E},
+                 {"BIG5", "\xA4\xA4", 0x4E2D}, {"KSC5601", "\xB0\xA1", 0xAC00}};
+    for (const auto& page : pages)
+        EXPECT_EQ(read(page.bytes, "AC1015", page.name), std::wstring(1, page.character)) << page.name;
+}
+
 TEST(DxfText, FilesFrom2007OnAreUtf8) {
     EXPECT_EQ(read("\xE4\xB8\xAD", "AC1021", "ANSI_936"), L"\x4E2D");
     EXPECT_EQ(read("\xC3\xA9", "AC1032"), L"\x00E9");
@@ -59,6 +72,7 @@ TEST(DxfText, NumberedCharactersAreResolved) {
     EXPECT_EQ(read("\\U+00"), L"\\U+00");
     EXPECT_EQ(read("\\U+0041"), L"\\U+0041") << "printable ASCII needs no number";
     EXPECT_EQ(read("\\M+9D6D0"), L"\\M+9D6D0");
+    EXPECT_EQ(read("\\M+1A141"), L"\\M+1A141") << "two characters, one of them plain";
     EXPECT_EQ(read("\\Pa"), L"\\Pa");
 }
 
@@ -76,6 +90,9 @@ TEST(DxfText, CharactersAreWrittenInTheFilesEncoding) {
     EXPECT_EQ(written(L"\x4E2D", OdDb::kDHL_1015, "ANSI_936"), "\xD6\xD0");
     EXPECT_EQ(written(odWide("\xF0\x9F\x98\x80"), OdDb::kDHL_1015), "\\U+D83D\\U+DE00");
     EXPECT_EQ(written(odWide("\xF0\x9F\x98\x80"), OdDb::kDHL_1032), "\xF0\x9F\x98\x80");
+    const wchar_t first[] = {0xD83D, 0}, second[] = {0xDE00, 0};
+    EXPECT_EQ(written(first, OdDb::kDHL_1032), "\\U+D83D") << "half a character";
+    EXPECT_EQ(written(second, OdDb::kDHL_1032), "\\U+DE00") << "the other half";
 }
 
 TEST(DxfText, ControlCharactersAndCaretsComeBack) {

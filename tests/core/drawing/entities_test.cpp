@@ -73,6 +73,34 @@ TEST(Entities, CommonPropertiesAreEditedAndWritten) {
     EXPECT_EQ(back->startPoint(), (OdGePoint3d{1, 2, 5}));
 }
 
+TEST(Entities, HaveAnyOfTheLineWeightsAndNoOther) {
+    OdDbLine line;
+    std::vector<int> legal;
+    for (int weight = -5; weight <= 250; ++weight)
+        if (line.setLineWeight(static_cast<OdDb::LineWeight>(weight)) == kOdOk) {
+            EXPECT_EQ(line.lineWeight(), weight);
+            legal.push_back(weight);
+        }
+    EXPECT_EQ(legal, (std::vector<int>{-3, -2, -1, 0,  5,  9,  13,  15,  18,  20,  25,  30,  35, 40,
+                                       50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211}));
+}
+
+TEST(Entities, ALineWeightThatIsNoneIsTheLayers) {
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|POINT\n100|AcDbEntity\n8|0\n370|7\n100|AcDbPoint\n10|0\n20|0\n", "AC1018"));
+    EXPECT_EQ(firstEntity<OdDbPoint>(*drawing)->lineWeight(), OdDb::kLnWtByLayer);
+}
+
+TEST(Entities, WithoutADrawingNothingIsTakenOver) {
+    OdDbLine line;
+    line.setColorIndex(3);
+    line.setDatabaseDefaults(nullptr);
+    EXPECT_EQ(line.color().colorIndex(), 3);
+    line.setHyperlink(L"https://example.org", L"");
+    EXPECT_TRUE(line.xData(nullptr).isEmpty()) << "data of no application";
+    EXPECT_FALSE(line.xData(L"PE_URL").isEmpty());
+}
+
 TEST(Entities, PropertiesGoBackToTheDefaults) {
     DrawingWithLine d;
     const std::string before = d.drawing->writeDxfBytes();
@@ -209,6 +237,16 @@ TEST(Polylines, HaveCornersBulgesAndWidths) {
     EXPECT_TRUE(polyline.vertices().isEmpty());
 }
 
+TEST(Polylines, NewCornersLeaveNothingOfTheFormerOnes) {
+    const OdDbDatabasePtr drawing =
+        readDrawing(withEntities("0|LWPOLYLINE\n100|AcDbEntity\n8|0\n100|AcDbPolyline\n90|1\n70|0\n10|1\n20|"
+                                 "1\n40|3\n41|4\n42|5\n91|6\n"));
+    auto* polyline = firstEntity<OdDbPolyline>(*drawing);
+    polyline->setVertices({{{7, 8}, 0, 0, 0}});
+    const std::string text = drawing->writeDxfBytes();
+    EXPECT_TRUE(has(text, "100|AcDbPolyline\n90|1\n70|0\n10|7.0\n20|8.0\n0|ENDSEC"));
+}
+
 TEST(Polylines, OfVerticesGrow) {
     DrawingWithLine d;
     OdSmartPtr<OdDb2dPolyline> polyline(new OdDb2dPolyline);
@@ -244,6 +282,20 @@ TEST(Splines, PassThroughTheirEnds) {
     EXPECT_EQ(points[2], (OdGePoint3d{2, 2, 0})) << "the middle of a parabola";
     EXPECT_EQ(points[4], (OdGePoint3d{4, 0, 0}));
     EXPECT_TRUE(OdDbSpline().samplePoints(5).isEmpty());
+    const auto ends = spline.samplePoints(2);
+    ASSERT_EQ(ends.length(), 2);
+    EXPECT_EQ(ends[0], points[0]);
+    EXPECT_EQ(ends[1], points[4]);
+    EXPECT_TRUE(spline.samplePoints(1).isEmpty()) << "a curve has two ends";
+}
+
+TEST(Splines, CoordinatesBeforeTheFirstPointBelongToNone) {
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|SPLINE\n100|AcDbEntity\n8|0\n100|AcDbSpline\n20|5\n30|6\n21|7\n10|1\n20|2\n30|3\n"));
+    const auto* spline = firstEntity<OdDbSpline>(*drawing);
+    ASSERT_EQ(spline->controlPoints().length(), 1);
+    EXPECT_EQ(spline->controlPoints()[0], (OdGePoint3d{1, 2, 3}));
+    EXPECT_TRUE(spline->fitPoints().isEmpty());
 }
 
 TEST(Texts, TurnAndTakeStyles) {
@@ -275,6 +327,22 @@ TEST(Texts, ParagraphsHoldLongContents) {
     EXPECT_LE(group.text.size(), 250u);
     paragraph.setRotation(1);
     EXPECT_NEAR(paragraph.rotation(), 1, 1e-15);
+}
+
+TEST(Texts, AParagraphMayEndWithoutItsLastPiece) {
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|MTEXT\n100|AcDbEntity\n8|0\n100|AcDbMText\n10|0\n20|0\n40|1\n3|first \n3|second\n"));
+    EXPECT_EQ(firstEntity<OdDbMText>(*drawing)->contents(), L"first second");
+}
+
+TEST(Texts, TellHowTheyAreAligned) {
+    const OdDbDatabasePtr drawing = readDrawing(
+        withEntities("0|TEXT\n8|0\n10|0\n20|0\n40|1\n1|x\n51|90\n72|2\n11|3\n21|4\n73|1\n", "AC1009"));
+    const auto* text = firstEntity<OdDbText>(*drawing);
+    EXPECT_EQ(text->horizontalMode(), 2);
+    EXPECT_EQ(text->verticalMode(), 1);
+    EXPECT_NEAR(text->oblique(), kPi / 2, 1e-15);
+    EXPECT_EQ(text->alignmentPoint(), (OdGePoint3d{3, 4, 0}));
 }
 
 TEST(Texts, ADirectionIsARotation) {

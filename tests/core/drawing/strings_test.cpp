@@ -25,16 +25,22 @@ TEST(Strings, CompareWithoutRegardToCaseInEveryAlphabet) {
     EXPECT_EQ(odCompareFolded(L"\x017A", L"\x0179"), 0) << "Latin with pairs that begin odd";
     EXPECT_EQ(odCompareFolded(L"\xFF41", L"\xFF21"), 0) << "full width";
     EXPECT_NE(odCompareFolded(L"\x00F7", L"\x00D7"), 0) << "a division sign is no small multiplication sign";
+    EXPECT_EQ(odCompareFolded(L"\x0450", L"\x0400"), 0) << "the first of the small ones that stand apart";
+    EXPECT_EQ(odCompareFolded(L"\x1EF9\x1EFF", L"\x1EF8\x1EFE"), 0) << "the last of the Vietnamese ones";
     EXPECT_LT(odCompareFolded(L"ab", L"abc"), 0);
 }
 
 TEST(Strings, Utf8KeepsEveryCharacter) {
     for (const std::string& text :
          {std::string("plain"), std::string("\xC3\xA9"), std::string("\xE4\xB8\xAD\xE6\x96\x87"),
-          std::string("\xF0\x9F\x98\x80!"), std::string("a\0b", 3)})
+          std::string("\xF0\x9F\x98\x80!"), std::string("\xF4\x8F\xBF\xBF"), std::string("a\0b", 3)})
         EXPECT_EQ(odUtf8(odWide(text).view()), text);
     const wchar_t lone[] = {0xD83D, L'x', 0};
     EXPECT_EQ(odWide(odUtf8(lone)), lone) << "an unpaired surrogate";
+    const wchar_t late[] = {L'x', 0xDE00, 0}, next[] = {0xD83D, 0xE000, 0};
+    EXPECT_EQ(odWide(odUtf8(late)), late) << "a second half behind a letter";
+    EXPECT_EQ(odWide(odUtf8(next)), next)
+        << "a first half before the first character behind the second halves";
 }
 
 TEST(Strings, IllegalUtf8BecomesTheReplacementCharacter) {

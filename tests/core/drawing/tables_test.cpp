@@ -84,6 +84,50 @@ TEST(Tables, IteratorsPassOverErasedRecords) {
     EXPECT_EQ(id, layers->getAt(L"C"));
 }
 
+TEST(Tables, IteratorsGoBackOverErasedRecordsAndStartAnew) {
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    for (const wchar_t* name : {L"A", L"B", L"C", L"D"}) addLayer(*drawing, name);
+    OdDbLayerTablePtr layers;
+    drawing->getLayerTable(layers, OdDb::kForWrite);
+    layers->erase(L"C");
+    std::vector<std::wstring> names;
+    OdDbSymbolTableRecordPtr record;
+    const auto iterator = layers->newIterator(false);
+    for (; !iterator->done(); iterator->step(false)) {
+        iterator->getRecord(record);
+        names.push_back(std::wstring(record->getName().view()));
+    }
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"D", L"B", L"A", L"0"}));
+    iterator->start();
+    iterator->getRecord(record);
+    EXPECT_EQ(record->getName(), L"0");
+    iterator->start(false);
+    iterator->getRecord(record);
+    EXPECT_EQ(record->getName(), L"D");
+}
+
+TEST(Dictionaries, PassOverEntriesWhoseObjectIsGone) {
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    OdDbDictionaryPtr named;
+    ASSERT_EQ(drawing->getNamedObjectsDictionary(named, OdDb::kForWrite), kOdOk);
+    OdDbDictionary& dictionary = *named;
+    std::vector<std::wstring> names;
+    for (auto entry = dictionary.newIterator(); !entry->done(); entry->next())
+        names.push_back(std::wstring(entry->name().view()));
+    for (const wchar_t* name : {L"KTUI_A", L"KTUI_B", L"KTUI_C"})
+        ASSERT_EQ(dictionary.setAt(name, OdDbObjectPtr(new OdDbPlaceHolder)), kOdOk);
+    const OdDbObjectId erased = dictionary.getAt(L"KTUI_B");
+    erased.openObject(OdDb::kForWrite)->erase();
+    for (const wchar_t* name : {L"KTUI_A", L"KTUI_C"}) names.push_back(name);
+    std::vector<std::wstring> found;
+    for (auto entry = dictionary.newIterator(); !entry->done(); entry->next())
+        found.push_back(std::wstring(entry->name().view()));
+    EXPECT_EQ(found, names);
+    EXPECT_TRUE(dictionary.has(dictionary.getAt(L"KTUI_A")));
+    EXPECT_FALSE(dictionary.has(drawing->clayer())) << "an object of the drawing that is no entry";
+    EXPECT_FALSE(dictionary.has(OdDbObjectId()));
+}
+
 TEST(Tables, AnEmptyTableEndsAtOnce) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     OdDbSymbolTablePtr views;

@@ -133,6 +133,8 @@ TEST(SaveFormats, OtherVersionsHaveNone) {
         EXPECT_EQ(FormatOf(0, version, DrawingKind::kPlain), -1) << version;
         EXPECT_EQ(FormatOf(1, version, DrawingKind::kPlain), -1) << version;
     }
+    EXPECT_EQ(FormatOf(0, 16, DrawingKind::kTemplate), -1) << "no template of version 16 either";
+    EXPECT_EQ(FormatOf(0, 16, DrawingKind::kStandard), -1);
     EXPECT_EQ(FormatOf(0, 16, DrawingKind::kPlain), -1) << "no drawing of version 16";
 }
 

@@ -233,6 +233,7 @@ TEST_F(CoupledGroup, KeepsItsState) {
     EXPECT_EQ(couple.m_brush.m_hObject, nullptr);
     couple.SetTopToWholeRatio(0.3);
     EXPECT_DOUBLE_EQ(couple.GetTopToWholeRatio(), 0.3);
+    EXPECT_FALSE(couple.GetSplitterEnabled());
     couple.SetSplitterEnabled(true);
     EXPECT_TRUE(couple.GetSplitterEnabled());
     EXPECT_FALSE(couple.IsAnyCtrlMinimizedOrIconic());

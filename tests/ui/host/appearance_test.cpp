@@ -1,7 +1,10 @@
 // The agreed look, the system's look, and the resolution that lengths go by.
 #include <ktui/host/appearance.h>
 
+#include <cstring>
+
 #include "leak_count.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {
@@ -23,6 +26,17 @@ struct Appearance : ::testing::Test {
         KtUiExchangeDpiSource(nullptr);
     }
 };
+
+UINT WINAPI NoWindowOf(HWND) { return 0; }
+UINT WINAPI MonitorOf(HWND) { return 168; }
+
+FARPROC monitors = nullptr;  ///< what the system has by the name of GetDpiForWindow
+
+FARPROC WINAPI FindFunction(HMODULE module, LPCSTR name) {
+    if (std::strcmp(name, "GetDpiForWindow") != 0) return ::GetProcAddress(module, name);
+    EXPECT_EQ(module, ::GetModuleHandleW(L"USER32.DLL"));
+    return monitors;
+}
 
 UINT screenDpi() {
     const HDC screen = ::GetDC(nullptr);
@@ -81,4 +95,18 @@ TEST_F(Appearance, AskingForTheResolutionKeepsNoDeviceContext) {
     const int before = count_held_objects().gdiObjects;
     for (int i = 0; i < 100; ++i) KtUiWindowDpi(nullptr);
     EXPECT_EQ(count_held_objects().gdiObjects, before);
+}
+
+TEST_F(Appearance, EveryWindowHasTheResolutionOfItsMonitorWhereTheSystemTells) {
+    const ui_test::ReplacedImport find(::GetModuleHandleW(L"ktui.dll"), "GetProcAddress", &FindFunction);
+    ASSERT_TRUE(find.isThere());
+    ui_test::ParentWindow window;
+    ASSERT_NE(screenDpi(), 168u);
+    monitors = reinterpret_cast<FARPROC>(&MonitorOf);
+    EXPECT_EQ(KtUiWindowDpi(window.m_hWnd), 168u);
+    EXPECT_EQ(KtUiWindowDpi(nullptr), screenDpi()) << "no window stands on no monitor";
+    monitors = reinterpret_cast<FARPROC>(&NoWindowOf);
+    EXPECT_EQ(KtUiWindowDpi(window.m_hWnd), screenDpi()) << "a window that is none";
+    monitors = nullptr;
+    EXPECT_EQ(KtUiWindowDpi(window.m_hWnd), screenDpi()) << "a system that does not tell windows apart";
 }

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "canvas.h"
+#include "scheme_color.h"
 #include "ui_test.h"
 
 namespace {
@@ -120,19 +121,12 @@ TEST_F(FramedTip, LeavesTheDeviceContextsToolsAsTheyWere) {
     EXPECT_EQ(::GetCurrentObject(canvas.dc.m_hDC, OBJ_FONT), before);
 }
 
-TEST_F(FramedTip, HasTheSystemsColoursForAHostThatFollowsThem) {
-    KtUiFollowSystemAppearance(TRUE);
-    paint(L"");
-    KtUiFollowSystemAppearance(FALSE);
-    EXPECT_EQ(canvas.at(100, 30), ::GetSysColor(COLOR_INFOBK));
-    EXPECT_EQ(canvas.at(10, 5), ::GetSysColor(COLOR_INFOTEXT));
-}
-
 TEST_F(FramedTip, HasTheSystemsTipColoursForAHostThatFollowsTheSystem) {
+    constexpr COLORREF kPaper = RGB(32, 34, 40), kLightInk = RGB(240, 236, 220);
+    const ui_test::SchemeColor paper(COLOR_INFOBK, kPaper), ink(COLOR_INFOTEXT, kLightInk);
     KtUiFollowSystemAppearance(TRUE);
     paint(L"");
     KtUiFollowSystemAppearance(FALSE);
-    expectFrame(canvas, CRect(10, 5, 190, 55), ::GetSysColor(COLOR_INFOTEXT));
-    ASSERT_NE(::GetSysColor(COLOR_INFOBK), kFill);
-    EXPECT_EQ(canvas.at(100, 30), ::GetSysColor(COLOR_INFOBK));
+    expectFrame(canvas, CRect(10, 5, 190, 55), kLightInk);
+    EXPECT_EQ(canvas.at(100, 30), kPaper);
 }

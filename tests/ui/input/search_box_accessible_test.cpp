@@ -3,6 +3,7 @@
 
 #include "accessible_object.h"
 #include "recording_holder.h"
+#include "replaced_import.h"
 #include "test_host.h"
 
 namespace {
@@ -10,6 +11,8 @@ namespace {
 using ui_test::AccessibleObject;
 
 constexpr UINT kClear = 1125, kSearch = 1126, kEditor = 1127;
+
+int WINAPI NoString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
 
 class Box : public CKbUiSearchBox {
 public:
@@ -67,6 +70,15 @@ TEST_F(SearchBoxAccessible, TheButtonsAreNamedByWhatTheyDo) {
     EXPECT_NE(clear.state() & STATE_SYSTEM_INVISIBLE, 0);
     ::SendMessageW(box.inside(kSearch), BM_SETSTATE, TRUE, 0);
     EXPECT_NE(search.state() & STATE_SYSTEM_PRESSED, 0);
+}
+
+TEST_F(SearchBoxAccessible, WithoutTheResourceLibraryTheButtonsHaveChineseNames) {
+    const ui_test::ReplacedImport strings(::GetModuleHandleW(L"ktui.dll"), "LoadStringW", &NoString);
+    ASSERT_TRUE(strings.isThere());
+    const AccessibleObject search(box.inside(kSearch)), clear(box.inside(kClear));
+    EXPECT_EQ(search.name(), L"查找");
+    EXPECT_EQ(clear.name(), L"清除");
+    EXPECT_EQ(search.action(), L"按下");
 }
 
 TEST_F(SearchBoxAccessible, TheirActionsAreClicks) {

@@ -82,8 +82,12 @@ TEST_F(Alert, ANullFirstKeepsTheTemplatesWordAndANullCaptionIsEmpty) {
 }
 
 TEST_F(Alert, WithoutASecondTwoButtonsAreEvenlySpaced) {
-    CRect client, first, cancel;
+    CRect client, first, cancel, ordinary;
     DWORD second = 0;
+    Ask(0, [&](HWND box) {
+        ordinary = child_of(box, kFirst).rect;
+        press(box, IDCANCEL);
+    });
     Ask(
         0,
         [&](HWND box) {
@@ -96,6 +100,8 @@ TEST_F(Alert, WithoutASecondTwoButtonsAreEvenlySpaced) {
         nullptr);
     const int width = first.Width(), gap = (client.Width() - 2 * width) / 3;
     EXPECT_EQ(first.left, gap);
+    EXPECT_EQ(first.top, ordinary.top) << "only sideways";
+    EXPECT_EQ(first.Size(), ordinary.Size());
     EXPECT_EQ(cancel.left, gap + width + gap);
     EXPECT_EQ(cancel.top, first.top);
     EXPECT_EQ(second & (WS_VISIBLE | WS_DISABLED), static_cast<DWORD>(WS_DISABLED));

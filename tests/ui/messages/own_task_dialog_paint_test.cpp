@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "canvas.h"
+#include "focus_borders.h"
 #include "picture.h"
 #include "scheme_color.h"
 
@@ -410,11 +411,7 @@ TEST_F(LinkPaint, FocusIsAFrameInsideThatOfTheHover) {
 }
 
 TEST_F(LinkPaint, PressedTheFocusGoesInByTheSystemsBorder) {
-    UINT width = 0, height = 0;
-    ::SystemParametersInfoW(SPI_GETFOCUSBORDERWIDTH, 0, &width, 0);
-    ::SystemParametersInfoW(SPI_GETFOCUSBORDERHEIGHT, 0, &height, 0);
-    ::SystemParametersInfoW(SPI_SETFOCUSBORDERWIDTH, 0, reinterpret_cast<void*>(ULONG_PTR{4}), 0);
-    ::SystemParametersInfoW(SPI_SETFOCUSBORDERHEIGHT, 0, reinterpret_cast<void*>(ULONG_PTR{2}), 0);
+    const FocusBorders borders(4, 2);
     Look([&](HWND box) {
         const CSize size = SizeOf(box);
         Canvas pressed(size.cx, size.cy), focused(size.cx, size.cy);
@@ -426,8 +423,6 @@ TEST_F(LinkPaint, PressedTheFocusGoesInByTheSystemsBorder) {
         EXPECT_EQ(BoxOf(pressed, size, color), frame);
         EXPECT_TRUE(IsFrame(pressed, frame, color));
     });
-    ::SystemParametersInfoW(SPI_SETFOCUSBORDERWIDTH, 0, reinterpret_cast<void*>(ULONG_PTR{width}), 0);
-    ::SystemParametersInfoW(SPI_SETFOCUSBORDERHEIGHT, 0, reinterpret_cast<void*>(ULONG_PTR{height}), 0);
 }
 
 TEST_F(OwnTaskDialogPaint, ClientAreaStandsInTheMiddleOfTheWorkArea) {

@@ -167,3 +167,23 @@ TEST(CancelledList, StylesStayWhenTheFocusGoesFromAClosedList) {
     in.picker.getCurrentFont(file);
     EXPECT_STREQ(file, L"arialbd.ttf");
 }
+
+TEST(CancelledList, WithoutAFormerFontTheStylesGo) {
+    FakeFonts fonts;
+    InHolder<CKtUiFontComboBox> in;
+    in.host.fonts = &fonts;
+    in.picker.AddItems();
+    CComboBox buddy;
+    buddy.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 250, 210, 380), &in.holder, 62);
+    in.picker.setBuddy(&buddy, true);
+    in.picker.SetFocus();
+    in.dropDown();
+    in.picker.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
+    ASSERT_EQ(in.picker.GetCurSel(), 0);
+    ASSERT_EQ(buddy.GetCount(), 2) << "the styles of the font that the list stands on";
+    in.picker.SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+    pump();
+    EXPECT_EQ(in.picker.GetCurSel(), -1);
+    EXPECT_EQ(buddy.GetCount(), 0);
+    EXPECT_FALSE(buddy.IsWindowEnabled());
+}

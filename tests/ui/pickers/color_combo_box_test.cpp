@@ -187,6 +187,18 @@ TEST(ColorSwatches, ForegroundIsADiagonal) {
     EXPECT_EQ(canvas.dc.GetPixel(7, 7), RGB(255, 255, 255)) << "the diagonal itself is white";
 }
 
+TEST(ColorSwatches, FrameIsWholeAroundEveryKind) {
+    InHolder<Picker> in;
+    for (const int cargo : {5, 7, kCargoOther}) {
+        Canvas canvas(16, 16, kUntouched);
+        CRect rect(0, 0, 16, 16);
+        in.picker.DrawItemImage(canvas.dc, rect, cargo);
+        for (int i = 2; i <= 13; ++i)
+            for (const CPoint& at : {CPoint(i, 2), CPoint(i, 13), CPoint(2, i), CPoint(13, i)})
+                EXPECT_EQ(canvas.dc.GetPixel(at), RGB(0, 0, 0)) << cargo << ": " << at.x << ", " << at.y;
+    }
+}
+
 TEST(ColorSwatches, OtherIsTheRamp) {
     InHolder<Picker> in;
     Canvas canvas(16, 16, kUntouched);

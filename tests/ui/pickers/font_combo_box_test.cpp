@@ -1,10 +1,12 @@
 #include <ktui/pickers/font_combo_box.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/res/resource_ids.h>
 
 #include "font_fixture.h"
 #include "picker_fixture.h"
 #include "replaced_import.h"
+#include "scheme_color.h"
 
 using ui_test::Canvas;
 using ui_test::FakeFonts;
@@ -377,4 +379,57 @@ TEST(FontPicker, OpeningAndClosingLeavesNothingBehind) {
         of.pick(kArial);
     };
     ui_test::expectNothingLeft(openAndClose);
+}
+
+TEST(FontPicker, AStyleWithoutANameIsNotThatOfNoSelection) {
+    FontPickerInHolder of;
+    of.fonts.add(L"Nameless", FontKind::kTrueType).withStyle(L"", L"nameless.ttf");
+    of.picker.ResetContent();
+    of.picker.AddItems();
+    of.pick(of.picker.GetCount() - 1);
+    EXPECT_EQ(of.current(), L"nameless.ttf");
+    of.buddy.SetCurSel(-1);
+    EXPECT_EQ(of.current(), L"Nameless");
+}
+
+namespace {
+
+/// The picture of a shape font on `paper`, for a host that follows a scheme of these colours.
+void drawFollowing(Picker& picker, Canvas& drawn, COLORREF paper, COLORREF ink) {
+    const ui_test::SchemeColor window(COLOR_WINDOW, paper), text(COLOR_WINDOWTEXT, ink);
+    KtUiFollowSystemAppearance(TRUE);
+    CRect rect(3, 4, 29, 29);
+    picker.DrawItemImage(drawn.dc, rect, picker.GetItemCargo(kTxt));
+    KtUiFollowSystemAppearance(FALSE);
+}
+
+}  // namespace
+
+TEST(FontIcons, StayAsTheyAreWhereTheyAreSeenWell) {
+    FontPickerInHolder of;
+    Canvas drawn(30, 30, kUntouched), wanted(30, 30, kUntouched);
+    drawFollowing(of.picker, drawn, RGB(255, 255, 255), RGB(0, 0, 0));
+    ::DrawIconEx(wanted.dc.m_hDC, 3, 4, of.picker.shxIcon(), 15, 15, 0, nullptr, DI_NORMAL);
+    EXPECT_TRUE(isSame(drawn, wanted));
+}
+
+TEST(FontIcons, TakeTheColourOfTextsOnDarkWindowsAndKeepTheirShape) {
+    constexpr COLORREF kPaper = RGB(20, 22, 26), kInk = RGB(230, 228, 220);
+    FontPickerInHolder of;
+    Canvas drawn(30, 30, kPaper), onBlack(30, 30, RGB(0, 0, 0)), onWhite(30, 30, RGB(255, 255, 255));
+    drawFollowing(of.picker, drawn, kPaper, kInk);
+    for (Canvas* each : {&onBlack, &onWhite})
+        ::DrawIconEx(each->dc.m_hDC, 3, 4, of.picker.shxIcon(), 15, 15, 0, nullptr, DI_NORMAL);
+    int opaque = 0, clear = 0;
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 30; ++x) {
+            const int cover =
+                255 - (GetGValue(onWhite.dc.GetPixel(x, y)) - GetGValue(onBlack.dc.GetPixel(x, y)));
+            const int wanted = (GetGValue(kInk) * cover + GetGValue(kPaper) * (255 - cover)) / 255;
+            EXPECT_NEAR(GetGValue(drawn.dc.GetPixel(x, y)), wanted, 2) << x << ", " << y;
+            opaque += cover == 255;
+            clear += cover == 0;
+        }
+    EXPECT_GT(opaque, 10);
+    EXPECT_GT(clear, 30 * 30 - 15 * 15);
 }

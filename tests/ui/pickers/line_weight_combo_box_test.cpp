@@ -241,3 +241,8 @@ TEST(LineWeightSample, CargoBeyond32BitsShowsNone) {
     EXPECT_GT(InkedRows(in.picker, 50), 0);
     EXPECT_EQ(InkedRows(in.picker, 0x100000032), 0) << "no cargo is cut to 32 bits first";
 }
+
+TEST(LineWeightPicker, KnowsOfNoOverrideOfAViewport) {
+    CKtUiLineWeightComboBox picker;
+    EXPECT_EQ(picker.GetCurrentLayerVpOverride(), 0);
+}

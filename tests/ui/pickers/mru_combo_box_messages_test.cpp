@@ -332,3 +332,22 @@ TEST(PickerNotifications, RefilledOpenListHasNothingToPutBack) {
     pump();
     EXPECT_EQ(in.picker.GetCurSel(), -1);
 }
+
+namespace {
+
+/// A picker that says how two items compare.
+class ComparingPicker : public CKtUiMRUComboBox {
+public:
+    int CompareItem(LPCOMPAREITEMSTRUCT) override { return 7; }
+};
+
+}  // namespace
+
+TEST(PickerNotifications, TheParentsQuestionIsAnsweredByThePicker) {
+    InHolder<ComparingPicker> in;
+    COMPAREITEMSTRUCT items = {};
+    items.CtlType = ODT_COMBOBOX;
+    items.CtlID = kPickerId;
+    items.hwndItem = in.picker.m_hWnd;
+    EXPECT_EQ(in.holder.SendMessage(WM_COMPAREITEM, kPickerId, reinterpret_cast<LPARAM>(&items)), 7);
+}

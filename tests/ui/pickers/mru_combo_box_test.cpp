@@ -496,3 +496,27 @@ TEST(MruListTip, TipCoversTheImageColumnToo) {
     EXPECT_EQ(rect.Width(), cx + in.picker.ImageWidth() + 2);
     wide.list.SetComboBox(nullptr);
 }
+
+namespace {
+
+/// A picker whose window the system refuses.
+class RefusedPicker : public CKtUiMRUComboBox {
+public:
+    int fillings = 0;
+    void OnAddItems() override { ++fillings; }
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return message == WM_CREATE ? -1 : CKtUiMRUComboBox::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+}  // namespace
+
+TEST(MruPicker, AWindowThatIsRefusedIsNotFilled) {
+    ui_test::RecordingHolder holder;
+    ui_test::TestHost host;
+    RefusedPicker picker;
+    EXPECT_FALSE(picker.Create(WS_CHILD | ui_test::kPickerStyle, CRect(0, 0, 100, 100), &holder, 61));
+    EXPECT_EQ(picker.fillings, 0);
+}

@@ -116,6 +116,12 @@ TEST(PageSetupColours, NamedColourOfThePaletteBecomesItsIndexToo) {
     EXPECT_FALSE(color.hasName());
 }
 
+TEST(PageSetupColours, AnIndexStaysWhateverItsColourIs) {
+    Page in;
+    for (int index = 1; index <= 255; ++index)
+        EXPECT_EQ(Settled(in, Indexed(index)), Indexed(index)) << index;
+}
+
 TEST(PageSetupColours, DialogGetsTheColourTheLayersAndWhetherMetaIsAllowed) {
     Page in;
     std::vector<bool> metas;

@@ -330,3 +330,14 @@ TEST(PlotStyleNames, OpeningAndClosingLeavesNothingBehind) {
     };
     ui_test::expectNothingLeft(openAndClose);
 }
+
+TEST(PlotStyleNames, TheFirstNormalIsSelectedHoweverOftenItIsListed) {
+    PickerInHolder of;
+    of.picker.SetUseByLayer(0);
+    of.picker.SetUseByBlock(0);
+    of.picker.ResetContent();
+    of.picker.AddItems();
+    of.picker.AddItems();
+    EXPECT_EQ(of.in.texts(), (Texts{normalText(), L"Thick", L"Thin", normalText(), L"Thick", L"Thin"}));
+    EXPECT_EQ(of.picker.GetCurSel(), 0);
+}

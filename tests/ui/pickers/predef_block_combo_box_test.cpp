@@ -1,8 +1,11 @@
 #include <ktui/pickers/predef_block_combo_box.h>
 
 #include <ktdsres/resource_ids.h>
+#include <ktui/host/appearance.h>
 #include <ktui/res/resource_ids.h>
 
+#include "replaced_import.h"
+#include "scheme_color.h"
 #include "strip_fixture.h"
 
 using ui_test::Canvas;
@@ -128,4 +131,32 @@ TEST(BlockImages, AnotherSizeTakesAnotherStrip) {
         EXPECT_EQ(canvas.dc.GetPixel(22, 24), ui_test::rowColor(top + kSize)) << cargo;
         EXPECT_EQ(canvas.dc.GetPixel(22, 25), kUntouched) << cargo;
     }
+}
+
+namespace {
+
+int stripsLoaded = 0;
+
+HANDLE WINAPI CountLoads(HINSTANCE module, LPCWSTR name, UINT type, int width, int height, UINT flags) {
+    stripsLoaded += type == IMAGE_BITMAP;
+    return ::LoadImageW(module, name, type, width, height, flags);
+}
+
+}  // namespace
+
+TEST(BlockImages, OfOneSchemeAreMadeOnce) {
+    const ui_test::ReplacedImport load(::GetModuleHandleW(L"ktui.dll"), "LoadImageW", &CountLoads);
+    ASSERT_TRUE(load.isThere());
+    KtUiFollowSystemAppearance(TRUE);
+    {
+        InHolder<Picker> in;
+        Canvas canvas(30, 30, kUntouched);
+        stripsLoaded = 0;
+        for (int cargo = 0; cargo < 5; ++cargo) ui_test::drawImage(canvas, in.picker, cargo);
+        EXPECT_EQ(stripsLoaded, 1);
+        const ui_test::SchemeColor window(COLOR_WINDOW, RGB(20, 22, 26));
+        ui_test::drawImage(canvas, in.picker, 0);
+        EXPECT_EQ(stripsLoaded, 2) << "and anew in another one";
+    }
+    KtUiFollowSystemAppearance(FALSE);
 }

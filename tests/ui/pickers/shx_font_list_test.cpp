@@ -1,7 +1,10 @@
 #include <ktui/pickers/shx_font_list.h>
 
+#include <ktui/host/appearance.h>
+
 #include "font_fixture.h"
 #include "picker_fixture.h"
+#include "scheme_color.h"
 
 using ui_test::Canvas;
 using ui_test::FakeFonts;
@@ -115,6 +118,20 @@ TEST(ShxFontList, ItemIsWindowColorIconAndBlackText) {
     of.draw(drawn, 0, 0);
     Canvas wanted(kWidth, kHeight, kUntouched);
     drawWanted(wanted, ::GetSysColor(COLOR_WINDOW), 0, of.list.icon(), L"txt.shx");
+    EXPECT_TRUE(isSame(drawn, wanted));
+}
+
+TEST(ShxFontList, ItemHasItsIconForAHostThatFollowsTheSystemToo) {
+    constexpr COLORREF kInk = RGB(0, 0, 90);
+    ListInHolder of;
+    of.list.FillList(false);
+    const ui_test::SchemeColor window(COLOR_WINDOW, RGB(255, 255, 240)), text(COLOR_WINDOWTEXT, kInk);
+    KtUiFollowSystemAppearance(TRUE);
+    Canvas drawn(kWidth, kHeight, kUntouched);
+    of.draw(drawn, 0, 0);
+    KtUiFollowSystemAppearance(FALSE);
+    Canvas wanted(kWidth, kHeight, kUntouched);
+    drawWanted(wanted, RGB(255, 255, 240), kInk, of.list.icon(), L"txt.shx");
     EXPECT_TRUE(isSame(drawn, wanted));
 }
 

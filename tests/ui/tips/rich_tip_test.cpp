@@ -7,6 +7,7 @@
 
 #include "canvas.h"
 #include "picture.h"
+#include "scheme_color.h"
 #include "tip_fixture.h"
 
 using namespace ui_test;
@@ -233,14 +234,15 @@ TEST_F(RichTip, LinesBeginFivePixelsInsideEachWay) {
 }
 
 TEST_F(RichTip, LinesHaveTheSystemsColoursForAHostThatFollowsIt) {
+    constexpr COLORREF kPaper = RGB(32, 34, 40), kInk = RGB(240, 236, 220);
+    const SchemeColor paper(COLOR_INFOBK, kPaper), ink(COLOR_INFOTEXT, kInk);
     KtUiFollowSystemAppearance(TRUE);
     tip.Activate(CPoint(100, 100), lines);
     EndDelay();
     pump();
     const Picture picture(tip);
     KtUiFollowSystemAppearance(FALSE);
-    ExpectDrawn(picture, {L"Line", L"Layer: Walls and doors"}, 5, tip.m_lineHeight,
-                ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOBK));
+    ExpectDrawn(picture, {L"Line", L"Layer: Walls and doors"}, 5, tip.m_lineHeight, kInk, kInk, kPaper);
 }
 
 TEST_F(RichTip, ATextIsBlackOnBlackWithoutAScheme) {

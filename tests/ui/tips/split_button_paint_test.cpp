@@ -117,6 +117,18 @@ BOOL WINAPI NoteEdge(HDC dc, RECT* rect, UINT edge, UINT sides) {
     return ::DrawEdge(dc, rect, edge, sides);
 }
 
+std::vector<HGDIOBJ> iconParts;  ///< the bitmaps that were handed out, less those that were given back
+
+BOOL WINAPI NoteIconParts(HICON icon, ICONINFO* info) {
+    const BOOL found = ::GetIconInfo(icon, info);
+    iconParts = {info->hbmColor, info->hbmMask};
+    return found;
+}
+BOOL WINAPI NoteDeletion(HGDIOBJ object) {
+    std::erase(iconParts, object);
+    return ::DeleteObject(object);
+}
+
 LRESULT stateAnswer = 0;
 WNDPROC plainProc = nullptr;
 
@@ -273,6 +285,7 @@ TEST_F(SplitButtonPaint, WithoutAThemeBothPartsAreDrawnInTheirClips) {
     for (const std::size_t i : {0u, 1u})
         EXPECT_EQ(Find("frame", i)->flags, static_cast<UINT>(DFCS_BUTTONPUSH));
     EXPECT_EQ(Find("edge")->rect.left, 84);
+    EXPECT_EQ(Find("edge")->flags, static_cast<UINT>(EDGE_ETCHED));
 }
 
 TEST_F(SplitButtonPaint, PushedPartsAreDrawnSoAndADisabledButtonInactive) {
@@ -427,6 +440,19 @@ TEST_F(SplitButtonPaint, AnIconIsCentredInTheLeftPart) {
     EXPECT_EQ(Find("state")->flags, static_cast<UINT>(DST_ICON | DSS_DISABLED));
 }
 
+TEST_F(SplitButtonPaint, TheBitmapsOfAnIconAreGivenBack) {
+    const ReplacedImport parts(toolkit, "GetIconInfo", &NoteIconParts);
+    const ReplacedImport deletion(toolkit, "DeleteObject", &NoteDeletion);
+    ASSERT_TRUE(parts.isThere() && deletion.isThere());
+    record.m_word = 12 | BS_ICON;
+    ::SetWindowLongW(window, GWL_STYLE, ::GetWindowLongW(window, GWL_STYLE) | BS_ICON);
+    ::SendMessageW(window, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(::LoadIconW(nullptr, IDI_HAND)));
+    iconParts = {reinterpret_cast<HGDIOBJ>(&iconParts)};
+    Paint();
+    EXPECT_EQ(Count("state"), 1);
+    EXPECT_TRUE(iconParts.empty());
+}
+
 TEST_F(SplitButtonPaint, WithoutARecordTheWindowsStyleCounts) {
     Canvas canvas(kWidth, kHeight, kGround);
     KtUiTestDoor().splitButtonMessage(nullptr, window, WM_PRINTCLIENT,
@@ -442,6 +468,18 @@ TEST_F(SplitButtonPaint, AButtonOfAnotherTypeIsLeftToTheSystem) {
     KtUiTestDoor().splitButtonMessage(&record, window, WM_PRINTCLIENT,
                                       reinterpret_cast<WPARAM>(canvas.dc.m_hDC), 0);
     EXPECT_EQ(Count("frame") + Count("glyph") + Count("text"), 0);
+}
+
+TEST_F(SplitButtonPaint, NothingIsDrawnOnTheScreenWhileRedrawingIsSuspended) {
+    record.m_word |= kSplitRedrawSuspended;
+    ::InvalidateRect(window, nullptr, FALSE);
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, 0, 0), 0);
+    EXPECT_TRUE(calls.empty());
+    EXPECT_FALSE(::GetUpdateRect(window, nullptr, FALSE));
+    Canvas canvas(kWidth, kHeight, kGround);
+    const auto dc = reinterpret_cast<WPARAM>(canvas.dc.m_hDC);
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, dc, 0), 0);
+    EXPECT_EQ(Count("frame"), 2) << "a picture that is asked for is drawn all the same";
 }
 
 TEST_F(SplitButtonPaint, PaintingOnTheScreenValidatesIt) {

@@ -56,8 +56,21 @@ SplitButtonRecord* recordOf(HWND button) {
     return reinterpret_cast<SplitButtonRecord*>(::GetWindowLongPtrW(button, extra - 8));
 }
 
+const void* watchedRecord = nullptr;
+int timesReleased = 0;
+
+/// Stands where the library gives memory back.
+void NoteRelease(void* memory, std::size_t) noexcept {
+    if (memory != nullptr && memory == watchedRecord) ++timesReleased;
+    ::operator delete(memory);
+}
+
 LRESULT CALLBACK WatchedProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_QUERYUISTATE) return cueState;
+    if (message == WM_QUERYUISTATE) {
+        EXPECT_EQ(wParam, 0u);
+        EXPECT_EQ(lParam, 0);
+        return cueState;
+    }
     if (message == WM_NOTIFY) {
         const auto* notice = reinterpret_cast<const NMBCDROPDOWN*>(lParam);
         notices.push_back({notice->hdr.code, notice->rcButton, recordOf(window)->m_word,
@@ -121,6 +134,18 @@ TEST_F(SplitButton, CreationMakesARecordOfTheLow28Bits) {
     Make(13 | WS_DISABLED);
     EXPECT_EQ(Word() & 0x0800000F, 0x0800000Du);
     EXPECT_EQ(sizeof(SplitButtonRecord), 16u);
+}
+
+TEST_F(SplitButton, ItsRecordEndsWithTheWindow) {
+    Make(12);
+    const ReplacedImport release(toolkit, "_ZdlPvy", &NoteRelease);
+    ASSERT_TRUE(release.isThere());
+    watchedRecord = recordOf(window);
+    timesReleased = 0;
+    ::DestroyWindow(window);
+    window = nullptr;
+    EXPECT_EQ(timesReleased, 1);
+    watchedRecord = nullptr;
 }
 
 TEST_F(SplitButton, FailedCreationEndsIt) {
@@ -343,6 +368,8 @@ TEST_F(SplitButton, TextFlagsFollowTheStyle) {
     EXPECT_EQ(flags(BS_CENTER, 0, false), static_cast<UINT>(DT_CENTER | DT_VCENTER | DT_SINGLELINE));
     EXPECT_EQ(flags(BS_CENTER, WS_EX_RIGHT, false), static_cast<UINT>(DT_RIGHT | DT_VCENTER | DT_SINGLELINE));
     EXPECT_EQ(flags(BS_LEFT, WS_EX_RIGHT, false), static_cast<UINT>(DT_LEFT | DT_VCENTER | DT_SINGLELINE));
+    EXPECT_EQ(flags(0, WS_EX_DLGMODALFRAME, false),
+              static_cast<UINT>(DT_CENTER | DT_VCENTER | DT_SINGLELINE));
     EXPECT_EQ(flags(BS_TOP, 0, false), static_cast<UINT>(DT_CENTER | DT_TOP | DT_SINGLELINE));
     EXPECT_EQ(flags(BS_BOTTOM, 0, false), static_cast<UINT>(DT_CENTER | DT_BOTTOM | DT_SINGLELINE));
     EXPECT_EQ(flags(BS_VCENTER, 0, false), static_cast<UINT>(DT_CENTER | DT_VCENTER | DT_SINGLELINE));

@@ -5,6 +5,7 @@
 #include <od_host_services.h>
 #include <od_tool_tip_setting.h>
 
+#include <utility>
 #include <vector>
 
 #include "sent_messages.h"
@@ -126,21 +127,43 @@ TEST_F(TrackingTip, IsATopmostTipOfTheControl) {
 }
 
 TEST_F(TrackingTip, ShowsATextOnceAndAnotherAnew) {
-    std::vector<UINT> sent;
+    using Sent = std::vector<std::pair<UINT, WPARAM>>;
+    Sent sent;
     const SentMessages watch([&](const CWPSTRUCT& message) {
-        if (message.hwnd == tip.m_hWnd && message.message >= WM_USER) sent.push_back(message.message);
+        if (message.hwnd == tip.m_hWnd && message.message >= WM_USER)
+            sent.push_back({message.message, message.wParam});
     });
     tip.Show(CPoint(200, 150), L"a long entry");
     EXPECT_TRUE(tip.IsWindowVisible());
     EXPECT_EQ(tip.m_shown, 1);
-    EXPECT_EQ(sent, (std::vector<UINT>{TTM_UPDATETIPTEXTW, TTM_TRACKPOSITION, TTM_TRACKACTIVATE}));
+    const Sent asked = {{TTM_UPDATETIPTEXTW, 0}, {TTM_TRACKPOSITION, 0}, {TTM_TRACKACTIVATE, TRUE}};
+    EXPECT_EQ(sent, asked);
     sent.clear();
     tip.Show(CPoint(210, 150), L"a long entry");
     EXPECT_TRUE(sent.empty());
     tip.Show(CPoint(210, 150), L"another entry");
     ASSERT_EQ(sent.size(), 4u);
-    EXPECT_EQ(sent[0], static_cast<UINT>(TTM_TRACKACTIVATE));
+    EXPECT_EQ(sent[0], (Sent::value_type{TTM_TRACKACTIVATE, FALSE}));
+    EXPECT_EQ(Sent(sent.begin() + 1, sent.end()), asked);
     EXPECT_EQ(tip.m_text, L"another entry");
+}
+
+TEST_F(TrackingTip, IsAddedToItselfWithAnEmptyText) {
+    int added = 0;
+    CString text = L"?";
+    {
+        const SentMessages watch([&](const CWPSTRUCT& message) {
+            if (message.message != TTM_ADDTOOLW) return;
+            ++added;
+            const auto& tool = *reinterpret_cast<const TOOLINFOW*>(message.lParam);
+            EXPECT_EQ(message.wParam, 0u);
+            ASSERT_NE(tool.lpszText, nullptr) << "a null text would be none to track";
+            text = tool.lpszText;
+        });
+        const OpenToolTip another(list);
+    }
+    EXPECT_EQ(added, 1);
+    EXPECT_EQ(text, L"");
 }
 
 TEST_F(TrackingTip, HidingForgetsTheText) {
