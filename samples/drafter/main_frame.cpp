@@ -32,9 +32,9 @@ CString textOf(UINT id) {
 
 }  // namespace
 
-IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
+IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 
-BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_WM_CREATE()
     ON_WM_SIZE()
     ON_WM_CLOSE()
@@ -66,11 +66,15 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
     ON_COMMAND(ID_VIEW_SEARCH_LAYERS, &CMainFrame::OnSearchLayers)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
+    ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_LAYERS, &CMainFrame::OnPalette)
+    ON_COMMAND_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnLock)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
     ON_WM_HELPINFO()
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_LAYERS, &CMainFrame::OnUpdatePalette)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnUpdateLock)
     ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
@@ -83,7 +87,7 @@ CMainFrame::CMainFrame(CStandinHost& host)
           finishChange(name);
           m_view.SetFocus();
       }),
-      m_layers([this] { showDrawing(true); }) {
+      m_palettes([this](UINT name) { finishChange(name); }, [this] { showDrawing(true); }) {
     m_host.SetCurrentDocument(m_document.get());
     m_host.SetPlotView(this);
 }
@@ -94,12 +98,15 @@ CMainFrame::~CMainFrame() {
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
-    if (CFrameWnd::OnCreate(create) == -1) return -1;
+    if (CFrameWndEx::OnCreate(create) == -1) return -1;
     if (!m_view.CreateView(this, kViewId)) return -1;
     if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS, CRect(0, 0, 0, 0), this,
                          AFX_IDW_STATUS_BAR))
         return -1;
     if (!m_pickers.CreateBar(this)) return -1;
+    EnableDocking(CBRS_ALIGN_ANY);
+    EnableAutoHidePanes(CBRS_ALIGN_ANY);
+    if (!m_palettes.Create(*this)) return -1;
     CKtUiDialog keeper(0);
     keeper.SetDialogName(L"Options");
     m_options = LoadOptions(keeper);
@@ -112,7 +119,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 void CMainFrame::OnSize(UINT type, int cx, int cy) {
-    CFrameWnd::OnSize(type, cx, cy);
+    CFrameWndEx::OnSize(type, cx, cy);
     if (m_status.m_hWnd == nullptr) return;
     const int pointer = KtUiAppearancePixels(m_hWnd, kPointerWidth);
     const int selection = KtUiAppearancePixels(m_hWnd, kSelectionWidth);
@@ -120,31 +127,23 @@ void CMainFrame::OnSize(UINT type, int cx, int cy) {
     m_status.Part(3, edges);
 }
 
-/// The status line is a control of the system, which finds its place by itself.
-void CMainFrame::RecalcLayout(BOOL) {
-    if (m_status.m_hWnd == nullptr) return;
-    m_status.SendMessage(WM_SIZE);
-    CRect client, status;
-    GetClientRect(&client);
-    m_status.GetWindowRect(&status);
-    client.bottom -= status.Height();
-    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposDefault, nullptr, &client);
-}
-
 void CMainFrame::OnClose() {
     if (m_view.IsPicking()) return m_view.EndPicking(false);
-    if (mayDiscard()) CFrameWnd::OnClose();
+    m_palettes.TakeTyped();
+    if (mayDiscard()) CFrameWndEx::OnClose();
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_view.SetFocus(); }
 
 void CMainFrame::OnEnable(BOOL enable) {
-    CFrameWnd::OnEnable(enable);
+    CFrameWndEx::OnEnable(enable);
     // A dialog has come up, under a pointer that the view no longer hears of.
     if (!enable) m_view.HideTip();
-    // A modal dialog keeps the user from the modeless one too, also while it has stepped aside.
-    if (m_layers.m_hWnd != nullptr) m_layers.EnableWindow(enable && !m_isInCommand);
+    enablePalettes();
 }
+
+/// A modal dialog keeps the user from the palettes too, also while it has stepped aside.
+void CMainFrame::enablePalettes() { m_palettes.Enable(IsWindowEnabled() && !m_isInCommand); }
 
 /// The window went to a monitor of another resolution: it takes the place that the system suggests.
 LRESULT CMainFrame::OnDpiChanged(WPARAM, LPARAM lParam) {
@@ -158,7 +157,7 @@ LRESULT CMainFrame::OnSelection(WPARAM, LPARAM) {
     const int count = static_cast<int>(m_view.selection().size());
     if (count > 0) text.Format(IDS_STATUS_SELECTION, count);
     m_status.SetText(text, kSelectionPane, 0);
-    showPickers();
+    showBars();
     return 0;
 }
 
@@ -179,7 +178,6 @@ void CMainFrame::showDrawing(bool keepPlace) {
     showTitle();
     showIdle();
     OnSelection(0, 0);
-    showLayers();
 }
 
 CString CMainFrame::shownName() const {
@@ -202,16 +200,7 @@ void CMainFrame::OnProperties() {
     runDialog(dialog, IDS_CHANGE_PROPERTIES);
 }
 
-void CMainFrame::OnLayers() {
-    if (m_layers.m_hWnd == nullptr && !m_layers.CreateBeside(this)) return;
-    showLayers();
-    m_layers.ShowWindow(SW_SHOW);
-    m_layers.SetActiveWindow();
-}
-
-void CMainFrame::showLayers() {
-    if (m_layers.m_hWnd != nullptr) m_layers.Show(*m_document->database(), m_document->history());
-}
+void CMainFrame::OnLayers() { m_palettes.Open(ID_VIEW_PALETTE_LAYERS); }
 
 void CMainFrame::OnDimensionStyle() {
     CDimensionStyleDialog dialog(*m_document->database(), this);
@@ -265,8 +254,10 @@ BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
         case ID_VIEW_ZOOM_OUT: break;
         default:
             if (m_view.IsPicking()) return TRUE;
+            // A command of the menu finds the drawing as the palettes show it.
+            if (lParam == 0) m_palettes.TakeTyped();
     }
-    return CFrameWnd::OnCommand(wParam, lParam);
+    return CFrameWndEx::OnCommand(wParam, lParam);
 }
 
 /// A modal dialog tells that it begins or ends an editor command: the frame is usable in between.
@@ -299,7 +290,7 @@ void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
 
 void CMainFrame::GetMessageString(UINT id, CString& message) const {
     if (id == AFX_IDS_IDLEMESSAGE) message = MendedText(m_document->Reading());
-    if (id != AFX_IDS_IDLEMESSAGE || message.IsEmpty()) CFrameWnd::GetMessageString(id, message);
+    if (id != AFX_IDS_IDLEMESSAGE || message.IsEmpty()) CFrameWndEx::GetMessageString(id, message);
 }
 
 void CMainFrame::showIdle() {
@@ -316,8 +307,9 @@ std::vector<OdDbObjectId> CMainFrame::selectedObjects() const {
     return {m_view.selection().begin(), m_view.selection().end()};
 }
 
-void CMainFrame::showPickers() {
+void CMainFrame::showBars() {
     if (m_pickers.m_hWnd != nullptr) m_pickers.Show(*m_document->database(), selectedObjects());
+    m_palettes.Show(*m_document, selectedObjects());
 }
 
 void CMainFrame::OnPickerBar() { ShowControlBar(&m_pickers, !m_pickers.IsVisible(), FALSE); }
@@ -336,8 +328,19 @@ BOOL CMainFrame::PreTranslateMessage(MSG* message) {
     if (isEditing && message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST &&
         (message->wParam == VK_HOME || ::wcschr(L"AZY", static_cast<wchar_t>(message->wParam)) != nullptr))
         return FALSE;
-    return CFrameWnd::PreTranslateMessage(message);
+    return CFrameWndEx::PreTranslateMessage(message);
 }
+
+void CMainFrame::OnPalette(UINT id) { m_palettes.Toggle(id); }
+
+void CMainFrame::OnLock(UINT id) { m_palettes.ToggleLock(id); }
+
+void CMainFrame::OnUpdatePalette(CCmdUI* item) {
+    item->Enable(m_palettes.IsThere(item->m_nID));
+    item->SetCheck(m_palettes.IsShown(item->m_nID));
+}
+
+void CMainFrame::OnUpdateLock(CCmdUI* item) { item->SetCheck(m_palettes.IsLocked(item->m_nID)); }
 
 void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
 

@@ -2,13 +2,14 @@
 #pragma once
 
 #include <afxwin.h>
+#include <afxframewndex.h>
 
 #include "draft_document.h"
 #include "drawing_picker.h"
 #include "drawing_view.h"
 #include "extensions.h"
-#include "layers_dialog.h"
 #include "options.h"
+#include "palettes.h"
 #include "picker_bar.h"
 #include "status_line.h"
 
@@ -17,7 +18,7 @@
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWnd, private CDrawingPicker, private StandinPlotView {
+class CMainFrame : public CFrameWndEx, private CDrawingPicker, private StandinPlotView {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
@@ -30,13 +31,14 @@ public:
 
     BOOL PreTranslateMessage(MSG* message) override;
 
+    CPalettes& palettes() { return m_palettes; }
+
 protected:
     CWnd* GetMessageBar() override { return &m_status; }
     /// While nothing else is to be said, what was mended in the drawing.
     void GetMessageString(UINT id, CString& message) const override;
     /// While the user picks, only what changes the view or the selection goes on.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
-    void RecalcLayout(BOOL notify = TRUE) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -71,9 +73,13 @@ protected:
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPickerBar();
+    afx_msg void OnPalette(UINT id);
+    afx_msg void OnLock(UINT id);
     afx_msg void OnSearchLayers();
     afx_msg void OnOptions();
     afx_msg void OnUpdatePickerBar(CCmdUI* item);
+    afx_msg void OnUpdatePalette(CCmdUI* item);
+    afx_msg void OnUpdateLock(CCmdUI* item);
     afx_msg void OnUpdateUndo(CCmdUI* item);
     afx_msg void OnUpdateRedo(CCmdUI* item);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
@@ -91,8 +97,9 @@ private:
     void useOptions(const DrafterOptions& options);
     /// The same, and keeps them for the user.
     void applyOptions(const DrafterOptions& options);
-    void showPickers();
-    void showLayers();
+    /// The picker bar and the palettes follow the drawing and the selection.
+    void showBars();
+    void enablePalettes();
     std::vector<OdDbObjectId> selectedObjects() const;
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
@@ -125,7 +132,7 @@ private:
     CStatusLine m_status;
     unsigned m_firstPrompt = 0;
     CPickerBar m_pickers;
-    CLayersDialog m_layers;      ///< its window exists while it is open
+    CPalettes m_palettes;
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
     DrafterOptions m_options;
     std::unique_ptr<CExtensions> m_extensions;  ///< from the first time that Options is opened

@@ -17,10 +17,9 @@ bool CLayerLineTypePicker::GetCurrentLayerLineType(OdDbObjectId& id) {
 }
 
 void CLayerLineTypePicker::Show(const std::optional<OdDbObjectId>& linetype) {
-    if (linetype)
-        setCurSelByOID(*linetype);
-    else
-        ShowVaries();
+    if (!linetype) return ShowVaries();
+    ForgetVaries();
+    setCurSelByOID(*linetype);
 }
 
 std::optional<OdDbObjectId> CLayerLineTypePicker::Picked() {
@@ -30,10 +29,9 @@ std::optional<OdDbObjectId> CLayerLineTypePicker::Picked() {
 }
 
 void CLineWeightPicker::Show(const std::optional<OdDb::LineWeight>& weight) {
-    if (weight)
-        SetCurSel(FindItemByLineWeight(*weight));
-    else
-        ShowVaries();
+    if (!weight) return ShowVaries();
+    ForgetVaries();
+    SetCurSel(FindItemByLineWeight(*weight));
 }
 
 std::optional<OdDb::LineWeight> CLineWeightPicker::Picked() {
@@ -47,6 +45,12 @@ void CPropertyPickers::Exchange(CDataExchange* exchange) {
     DDX_Control(exchange, IDC_LINETYPE, m_linetype);
     DDX_Control(exchange, IDC_LINE_WEIGHT, m_lineWeight);
     DDX_Control(exchange, IDC_PLOT_STYLE, m_plotStyle);
+}
+
+void CPropertyPickers::Refill(const OdDbDatabase& drawing) {
+    m_linetype.ShowLTypes(true);
+    m_plotStyle.ResetContent();
+    if (drawing.getPSTYLEMODE() == 0) m_plotStyle.SetNamedMode();
 }
 
 void CPropertyPickers::Show(const OdDbDatabase& drawing, const PropertyValues& values) {
@@ -64,6 +68,8 @@ void CPropertyPickers::showColor(const std::optional<OdCmColor>& color) {
         m_indexColor.ShowVaries();
         return;
     }
+    m_trueColor.ForgetVaries();
+    m_indexColor.ForgetVaries();
     m_trueColor.SetCurSel(m_trueColor.AddColorToMRU(*color));
     m_indexColor.SetCurSel(color->isByACI() ? m_indexColor.AddColorToMRU(color->colorIndex()) : -1);
 }
@@ -75,10 +81,12 @@ void CPropertyPickers::showPlotStyle(const OdDbDatabase& drawing, const std::opt
         m_plotStyle.SetColorDependentMode();
         return;
     }
+    m_plotStyle.EnableWindow();
     if (!name) {
         m_plotStyle.ShowVaries();
         return;
     }
+    m_plotStyle.ForgetVaries();
     const bool isNormal = ktdbIsReservedString(*name, kKtdbNormal);
     const OdString shown = isNormal ? ktdbGetReservedString(kKtdbNormal, true) : *name;
     const int item = m_plotStyle.FindStringExact(-1, shown);

@@ -41,6 +41,38 @@ HWND Drafter::openProperties() {
     return waitForDialog(L"Properties");
 }
 
+HWND Drafter::panelWith(int control) const {
+    struct Search {
+        int control;
+        HWND panel;
+    } search = {control, nullptr};
+    // Its palette may float.
+    findWindow([&](HWND window) {
+        ::EnumChildWindows(
+            window,
+            [](HWND child, LPARAM parameter) -> BOOL {
+                auto& s = *reinterpret_cast<Search*>(parameter);
+                if (::GetDlgCtrlID(child) != s.control || !::IsWindowVisible(child)) return TRUE;
+                s.panel = ::GetParent(child);
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&search));
+        return search.panel != nullptr;
+    });
+    return search.panel;
+}
+
+HWND Drafter::openLayers() {
+    activate(frame());
+    key('L', true);
+    HWND panel = nullptr;
+    waitUntil([&] {
+        panel = panelWith(kLayersPanel);
+        return panel != nullptr && ::IsChild(panel, focusOf(panel));
+    });
+    return panel;
+}
+
 std::wstring drawingsFolder() { return KTUI_DRAWINGS; }
 
 std::wstring scratchPath(const std::wstring& name) {
@@ -58,6 +90,7 @@ std::wstring scratchCopy(const std::wstring& drawing) {
 void forgetSettings() {
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs");
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\Drafter\\Recent File List");
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\Drafter\\Workspace");
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\Export");
 }
 

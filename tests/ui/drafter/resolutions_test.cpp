@@ -95,7 +95,7 @@ protected:
 
 TEST_P(Resolutions, TextsOfTheDrafterAreWhole) {
     for (const int id : {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME,
-                         IDD_BLOCK_CHOICE, IDD_LAYERS, IDD_MEASURE})
+                         IDD_BLOCK_CHOICE, IDD_LAYERS_PANEL, IDD_MEASURE})
         expectWhole(::GetModuleHandleW(nullptr), id);
 }
 
@@ -106,9 +106,9 @@ TEST_P(Resolutions, WhyALayerIsKeptIsReadToItsEnd) {
          {IDS_TAKEN_LAYER, IDS_FIXED_LAYER, IDS_KEEP_STANDARD, IDS_KEEP_DEPENDENT, IDS_KEEP_CURRENT,
           IDS_KEEP_OBJECT, IDS_KEEP_OBJECTS, IDS_KEEP_BLOCK, IDS_KEEP_NAMED}) {
         text.Format(textOf(id), name, 1234, L"WINDOW-DOUBLE");
-        expectFits(IDD_LAYERS, IDC_MESSAGE, text);
+        expectFits(IDD_LAYERS_PANEL, IDC_MESSAGE, text);
     }
-    expectFits(IDD_LAYERS, IDC_MESSAGE, textOf(IDS_BAD_LAYER));
+    expectFits(IDD_LAYERS_PANEL, IDC_MESSAGE, textOf(IDS_BAD_LAYER));
 }
 
 TEST_P(Resolutions, TextsOfTheOptionsAreWhole) {

@@ -1,5 +1,5 @@
 // The sample's layers and measure dialogs, a thousand times each.
-#include "../../../samples/drafter/layers_dialog.h"
+#include "../../../samples/drafter/layers_panel.h"
 #include "../../../samples/drafter/measure_dialog.h"
 #include "../../../samples/drafter/resource.h"
 #include "leak_fixture.h"
@@ -10,9 +10,9 @@ using namespace leaks;
 
 using DialogLeaks = leaks::Leaks;
 
-class OwnLayers : public CLayersDialog {
+class OwnLayers : public CLayersPanel {
 public:
-    OwnLayers() : CLayersDialog([] {}) { SetAppRootKey((CString(kDialogsKey) + L"\\").GetString()); }
+    OwnLayers() : CLayersPanel([] {}) { SetAppRootKey((CString(kDialogsKey) + L"\\").GetString()); }
 };
 
 class OwnMeasure : public CMeasureDialog {
@@ -36,9 +36,9 @@ TEST_F(DialogLeaks, AThousandLayersDialogsLeaveNothing) {
     CUndoHistory history(drawing);
     OwnLayers dialog;
     int opened = 0;
-    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_LAYERS); });
+    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_LAYERS_PANEL); });
     const auto open_once = [&] {
-        ASSERT_TRUE(dialog.CreateBeside(&parent));
+        ASSERT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
         dialog.Show(*drawing, history);
         dialog.ShowWindow(SW_SHOW);
         ui_test::pump();

@@ -1,5 +1,5 @@
 // The layers dialog: what it lists, what it changes, what it refuses, and how it follows the drawing.
-#include "../../../samples/drafter/layers_dialog.h"
+#include "../../../samples/drafter/layers_panel.h"
 #include "drafter_fixture.h"
 
 namespace {
@@ -12,7 +12,7 @@ protected:
         for (const wchar_t* name : {L"walls", L"doors", L"outer walls"}) NeedLayer(*drawing, name);
         history = std::make_unique<CUndoHistory>(drawing);
         drawing->setModified(false);
-        EXPECT_TRUE(dialog.CreateBeside(&parent));
+        EXPECT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
         dialog.Show(*drawing, *history);
         dialog.ShowWindow(SW_SHOW);
         pump();
@@ -93,7 +93,7 @@ protected:
         pump();
     }
 
-    WithOwnSettings<CLayersDialog> dialog;
+    WithOwnSettings<CLayersPanel> dialog;
     std::unique_ptr<CUndoHistory> history;
     int changes = 0;
 };
@@ -328,7 +328,7 @@ TEST_F(Layers, ItRemembersItsSizeAndColumns) {
     CRect before;
     dialog.GetWindowRect(&before);
     dialog.DestroyWindow();
-    ASSERT_TRUE(dialog.CreateBeside(&parent));
+    ASSERT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
     dialog.Show(*drawing, *history);
     CRect after;
     dialog.GetWindowRect(&after);
@@ -341,7 +341,7 @@ TEST_F(Layers, ItRemembersItsSizeAndColumns) {
 TEST_F(Layers, EscapeClosesItAndItMayBeOpenedAgain) {
     dialog.SendMessage(WM_COMMAND, IDCANCEL);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-    ASSERT_TRUE(dialog.CreateBeside(&parent));
+    ASSERT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
     dialog.Show(*drawing, *history);
     EXPECT_EQ(names().size(), 4u);
 }
