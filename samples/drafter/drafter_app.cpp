@@ -25,6 +25,9 @@ constexpr const wchar_t* kCleanSwitch = L"--clean";
 
 class CDrafterApp : public CWinAppEx {
 public:
+    /// Before the program's resources can be found it needs the name that its settings stand under.
+    CDrafterApp() { m_pszAppName = ::_wcsdup(L"Drafter"); }
+
     BOOL InitInstance() override {
         InitKtUiDLL();
         KtUiFollowSystemAppearance(TRUE);

@@ -59,21 +59,23 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
     ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
+    ON_COMMAND(ID_FORMAT_PROPERTIES_PALETTE, &CMainFrame::OnPropertiesPalette)
     ON_COMMAND(ID_FORMAT_LAYERS, &CMainFrame::OnLayers)
+    ON_COMMAND(ID_FORMAT_BLOCKS, &CMainFrame::OnBlocks)
     ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CMainFrame::OnDimensionStyle)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
     ON_COMMAND(ID_TOOLS_MEASURE, &CMainFrame::OnMeasure)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
     ON_COMMAND(ID_VIEW_SEARCH_LAYERS, &CMainFrame::OnSearchLayers)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
-    ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_LAYERS, &CMainFrame::OnPalette)
+    ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_BLOCKS, &CMainFrame::OnPalette)
     ON_COMMAND_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnLock)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
     ON_WM_HELPINFO()
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_LAYERS, &CMainFrame::OnUpdatePalette)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_BLOCKS, &CMainFrame::OnUpdatePalette)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnUpdateLock)
     ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
@@ -87,7 +89,7 @@ CMainFrame::CMainFrame(CStandinHost& host)
           finishChange(name);
           m_view.SetFocus();
       }),
-      m_palettes([this](UINT name) { finishChange(name); }, [this] { showDrawing(true); }) {
+      m_palettes([this](UINT name) { finishChange(name); }, [this] { showDrawing(true); }, *this) {
     m_host.SetCurrentDocument(m_document.get());
     m_host.SetPlotView(this);
 }
@@ -142,9 +144,6 @@ void CMainFrame::OnEnable(BOOL enable) {
     enablePalettes();
 }
 
-/// A modal dialog keeps the user from the palettes too, also while it has stepped aside.
-void CMainFrame::enablePalettes() { m_palettes.Enable(IsWindowEnabled() && !m_isInCommand); }
-
 /// The window went to a monitor of another resolution: it takes the place that the system suggests.
 LRESULT CMainFrame::OnDpiChanged(WPARAM, LPARAM lParam) {
     const CRect place(*reinterpret_cast<const RECT*>(lParam));
@@ -178,6 +177,7 @@ void CMainFrame::showDrawing(bool keepPlace) {
     showTitle();
     showIdle();
     OnSelection(0, 0);
+    m_palettes.ShowDrawing(*m_document);
 }
 
 CString CMainFrame::shownName() const {
@@ -199,8 +199,6 @@ void CMainFrame::OnProperties() {
     CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this, this);
     runDialog(dialog, IDS_CHANGE_PROPERTIES);
 }
-
-void CMainFrame::OnLayers() { m_palettes.Open(ID_VIEW_PALETTE_LAYERS); }
 
 void CMainFrame::OnDimensionStyle() {
     CDimensionStyleDialog dialog(*m_document->database(), this);
@@ -309,7 +307,7 @@ std::vector<OdDbObjectId> CMainFrame::selectedObjects() const {
 
 void CMainFrame::showBars() {
     if (m_pickers.m_hWnd != nullptr) m_pickers.Show(*m_document->database(), selectedObjects());
-    m_palettes.Show(*m_document, selectedObjects());
+    m_palettes.ShowObjects(*m_document->database(), selectedObjects());
 }
 
 void CMainFrame::OnPickerBar() { ShowControlBar(&m_pickers, !m_pickers.IsVisible(), FALSE); }
@@ -330,17 +328,6 @@ BOOL CMainFrame::PreTranslateMessage(MSG* message) {
         return FALSE;
     return CFrameWndEx::PreTranslateMessage(message);
 }
-
-void CMainFrame::OnPalette(UINT id) { m_palettes.Toggle(id); }
-
-void CMainFrame::OnLock(UINT id) { m_palettes.ToggleLock(id); }
-
-void CMainFrame::OnUpdatePalette(CCmdUI* item) {
-    item->Enable(m_palettes.IsThere(item->m_nID));
-    item->SetCheck(m_palettes.IsShown(item->m_nID));
-}
-
-void CMainFrame::OnUpdateLock(CCmdUI* item) { item->SetCheck(m_palettes.IsLocked(item->m_nID)); }
 
 void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
 

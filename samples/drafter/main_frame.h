@@ -18,7 +18,7 @@
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWndEx, private CDrawingPicker, private StandinPlotView {
+class CMainFrame : public CFrameWndEx, private CDrawingPicker, private CBlockTarget, private StandinPlotView {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
@@ -64,7 +64,9 @@ protected:
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnProperties();
+    afx_msg void OnPropertiesPalette();
     afx_msg void OnLayers();
+    afx_msg void OnBlocks();
     afx_msg void OnDimensionStyle();
     afx_msg void OnTextStyle();
     afx_msg void OnMeasure();
@@ -90,6 +92,10 @@ private:
     void PickObjects(unsigned prompt, ObjectsPicked picked) override;
     bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override;
     bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override;
+    bool TakesBlockAt(CPoint screen) const override;
+    void DropBlock(const OdDbObjectId& block, CPoint screen) override;
+    void PlaceBlock(const OdDbObjectId& block) override;
+    void insertBlock(const OdDbObjectId& block, const OdGePoint2d& place);
     void showIdle();
     void showPrompt();
     void showDocument(std::unique_ptr<CDraftDocument> document);

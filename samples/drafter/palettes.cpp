@@ -12,6 +12,7 @@ constexpr int kSetId = 4001;                        // the key of its state
 constexpr int kDockedWidth = 330, kHeight = 480;    // pixels at 96 dots an inch
 constexpr const wchar_t* kSection = L"Palettes";    // below the application's state
 constexpr const wchar_t* kHidden = L"Hidden";       // a bit for each palette, in the order of the strip
+constexpr int kHiddenAtFirst = 4;                   // the blocks
 constexpr const wchar_t* kActive = L"Active";       // command of the palette in front
 constexpr const wchar_t* kLocks = L"Locks";         // the two bits below
 constexpr int kDockedBit = 1, kFloatingBit = 2;
@@ -24,8 +25,9 @@ CString textOf(UINT id) {
 
 }  // namespace
 
-CPalettes::CPalettes(std::function<void(UINT name)> changed, std::function<void()> redrawn)
-    : m_properties(std::move(changed)), m_layers(std::move(redrawn)) {}
+CPalettes::CPalettes(std::function<void(UINT name)> changed, std::function<void()> redrawn,
+                     CBlockTarget& target)
+    : m_properties(std::move(changed)), m_layers(std::move(redrawn)), m_blocks(target) {}
 
 CPalettes::~CPalettes() = default;
 
@@ -42,6 +44,10 @@ bool CPalettes::Create(CFrameWndEx& frame) {
         std::make_unique<CPanelPalette>(IDS_PALETTE_PROPERTIES, m_properties, IDD_PROPERTIES_PANEL));
     add(ID_VIEW_PALETTE_LAYERS,
         std::make_unique<CPanelPalette>(IDS_PALETTE_LAYERS, m_layers, IDD_LAYERS_PANEL));
+    add(ID_VIEW_PALETTE_BLOCKS,
+        std::make_unique<CPanelPalette>(IDS_PALETTE_BLOCKS, m_blocks, IDD_BLOCKS_PANEL));
+    // At first the blocks are hidden.
+    takeOut(m_entries.back());
     if (m_entries.front().palette != nullptr) m_set.SetActivePalette(m_entries.front().palette);
     m_set.EnableDocking(CBRS_ALIGN_ANY);
     frame.DockPane(&m_set, AFX_IDW_DOCKBAR_LEFT);
@@ -63,9 +69,13 @@ const CPalettes::Entry* CPalettes::entryOf(UINT command) const {
     return const_cast<CPalettes*>(this)->entryOf(command);
 }
 
-void CPalettes::Show(CDraftDocument& document, const std::vector<OdDbObjectId>& objects) {
-    m_properties.Show(*document.database(), objects);
+void CPalettes::ShowDrawing(CDraftDocument& document) {
     if (m_layers.m_hWnd != nullptr) m_layers.Show(*document.database(), document.history());
+    m_blocks.Show(*document.database());
+}
+
+void CPalettes::ShowObjects(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects) {
+    m_properties.Show(drawing, objects);
 }
 
 void CPalettes::TakeTyped() { m_properties.TakeTyped(); }
@@ -140,9 +150,13 @@ void CPalettes::ToggleLock(UINT command) {
 void CPalettes::lock() const { KbUiLockPanel(m_isDockedLocked, m_isFloatingLocked); }
 
 void CPalettes::Load(CWinAppEx& keeper) {
-    const int hidden = keeper.GetSectionInt(kSection, kHidden, 0);
-    for (std::size_t i = 0; i < m_entries.size(); ++i)
-        if ((hidden >> i & 1) != 0) takeOut(m_entries[i]);
+    const int hidden = keeper.GetSectionInt(kSection, kHidden, kHiddenAtFirst);
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if ((hidden >> i & 1) != 0)
+            takeOut(m_entries[i]);
+        else
+            putIn(m_entries[i]);
+    }
     const Entry* front = entryOf(static_cast<UINT>(keeper.GetSectionInt(kSection, kActive, 0)));
     if (front != nullptr && front->palette != nullptr && !front->hidden)
         m_set.SetActivePalette(front->palette);

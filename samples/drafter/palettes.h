@@ -8,6 +8,7 @@
 
 #include <ktui/ktui.h>
 
+#include "blocks_panel.h"
 #include "draft_document.h"
 #include "layers_panel.h"
 #include "panel_palette.h"
@@ -16,8 +17,8 @@
 class CPalettes {
 public:
     /// `changed` is called when a palette has changed the drawing, with the name of what was changed: a
-    /// string; `redrawn` when it has made the step of Undo itself.
-    CPalettes(std::function<void(UINT name)> changed, std::function<void()> redrawn);
+    /// string; `redrawn` when it has made the step of Undo itself. Blocks go to `target`.
+    CPalettes(std::function<void(UINT name)> changed, std::function<void()> redrawn, CBlockTarget& target);
     ~CPalettes();
     CPalettes(const CPalettes&) = delete;
     CPalettes& operator=(const CPalettes&) = delete;
@@ -25,8 +26,10 @@ public:
     /// Makes the palettes and docks them as they stand at first. False without the set; a palette that can't
     /// be made is left out, and IsThere says so.
     bool Create(CFrameWndEx& frame);
-    /// Shows a drawing, and `objects` of it, as they are now.
-    void Show(CDraftDocument& document, const std::vector<OdDbObjectId>& objects);
+    /// Shows a drawing as it is now.
+    void ShowDrawing(CDraftDocument& document);
+    /// Shows the values of `objects` of a drawing, or its current settings.
+    void ShowObjects(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects);
     /// Writes what is being typed.
     void TakeTyped();
 
@@ -64,6 +67,7 @@ private:
     CFrameWndEx* m_frame = nullptr;
     CPropertiesPanel m_properties;
     CLayersPanel m_layers;
+    CBlocksPanel m_blocks;
     std::vector<Entry> m_entries;  ///< from the top of the strip on
     CKbUiPaletteSet m_set;
     bool m_isDockedLocked = false;

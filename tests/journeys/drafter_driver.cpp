@@ -6,8 +6,10 @@ namespace {
 
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 
-std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder) {
+std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder,
+                       const std::wstring& switches) {
     std::wstring command = L"\"" + (folder.empty() ? journey::programFolder() : folder) + L"drafter.exe\"";
+    if (!switches.empty()) command += L" " + switches;
     if (!drawing.empty()) command += L" \"" + drawing + L"\"";
     return command;
 }
@@ -21,8 +23,8 @@ bool isFrame(HWND window) {
 
 namespace journey {
 
-Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder)
-    : Program(commandOf(drawing, folder), isFrame) {}
+Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder, const std::wstring& switches)
+    : Program(commandOf(drawing, folder, switches), isFrame) {}
 
 HWND Drafter::view() const { return ::GetDlgItem(frame(), 0xE900); }
 

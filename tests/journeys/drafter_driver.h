@@ -9,8 +9,9 @@ namespace journey {
 class Drafter : public Program {
 public:
     /// Starts drafter.exe on `drawing` (a path, or empty for none): the one in `folder` (with a backslash at
-    /// the end), or without a folder the one beside this program.
-    explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {});
+    /// the end), or without a folder the one beside this program. `switches` go before the drawing.
+    explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {},
+                     const std::wstring& switches = {});
 
     HWND view() const;
     /// Opens another drawing by File > Open.
