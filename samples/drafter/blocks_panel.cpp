@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr int kPicture = 72;  // pixels at 96 dots an inch
+// Pixels at 96 dots an inch: a picture, and from one to the next.
+constexpr int kPicture = 72, kAcross = 92, kDown = 108;
 
 }  // namespace
 
@@ -36,6 +37,7 @@ void CBlocksPanel::DoDataExchange(CDataExchange* exchange) {
 
 BOOL CBlocksPanel::OnInitDialog() {
     CKtUiDialog::OnInitDialog();
+    m_list.SetIconSpacing(KtUiAppearancePixels(m_hWnd, kAcross), KtUiAppearancePixels(m_hWnd, kDown));
     StretchControlXY(IDC_BLOCK_LIST, 100, 100);
     StretchControlX(IDC_MESSAGE, 100);
     MoveControlY(IDC_MESSAGE, 100);

@@ -68,14 +68,14 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
     ON_COMMAND(ID_VIEW_SEARCH_LAYERS, &CMainFrame::OnSearchLayers)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
-    ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_BLOCKS, &CMainFrame::OnPalette)
+    ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION, &CMainFrame::OnPalette)
     ON_COMMAND_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnLock)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
     ON_WM_HELPINFO()
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_BLOCKS, &CMainFrame::OnUpdatePalette)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION, &CMainFrame::OnUpdatePalette)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnUpdateLock)
     ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
@@ -109,6 +109,8 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     EnableDocking(CBRS_ALIGN_ANY);
     EnableAutoHidePanes(CBRS_ALIGN_ANY);
     if (!m_palettes.Create(*this)) return -1;
+    m_extensions = std::make_unique<CExtensions>(CString(ktutProgramFolder().c_str()) + L"extensions\\");
+    m_palettes.AddExtension(*m_extensions, *this);
     CKtUiDialog keeper(0);
     keeper.SetDialogName(L"Options");
     m_options = LoadOptions(keeper);
@@ -332,8 +334,6 @@ BOOL CMainFrame::PreTranslateMessage(MSG* message) {
 void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
 
 void CMainFrame::OnOptions() {
-    const CString folder = ktutProgramFolder().c_str();
-    if (m_extensions == nullptr) m_extensions = std::make_unique<CExtensions>(folder + L"extensions\\");
     // Other ways lead to the drawing's units too.
     m_options.units = UnitsOf(*m_document->database());
     COptionsDialog dialog(

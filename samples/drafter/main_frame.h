@@ -18,7 +18,7 @@
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWndEx, private CDrawingPicker, private CBlockTarget, private StandinPlotView {
+class CMainFrame : public CFrameWndEx, private CDrawingPicker, private CBlockTarget, private CDrafterServices, private StandinPlotView {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
@@ -95,6 +95,7 @@ private:
     bool TakesBlockAt(CPoint screen) const override;
     void DropBlock(const OdDbObjectId& block, CPoint screen) override;
     void PlaceBlock(const OdDbObjectId& block) override;
+    void DrawingChanged(const wchar_t* name) override;
     void insertBlock(const OdDbObjectId& block, const OdGePoint2d& place);
     void showIdle();
     void showPrompt();
@@ -113,6 +114,7 @@ private:
     void runDialog(CDialog& dialog, UINT name);
     /// Makes one step of Undo of what was changed, under the string `name`, and shows the drawing.
     void finishChange(UINT name);
+    void finishChange(const CString& name);
     /// Makes a font file known to the host, and to the system for as long as the program runs; its first
     /// style, or null with the reason in `message`.
     CKhFontStyle* loadFont(const CString& file, CString& message);
@@ -138,8 +140,8 @@ private:
     CStatusLine m_status;
     unsigned m_firstPrompt = 0;
     CPickerBar m_pickers;
+    std::unique_ptr<CExtensions> m_extensions;
     CPalettes m_palettes;
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
     DrafterOptions m_options;
-    std::unique_ptr<CExtensions> m_extensions;  ///< from the first time that Options is opened
 };

@@ -17,6 +17,11 @@ void CMainFrame::OnLock(UINT id) { m_palettes.ToggleLock(id); }
 
 void CMainFrame::OnUpdatePalette(CCmdUI* item) {
     item->Enable(m_palettes.IsThere(item->m_nID));
+    if (item->m_nID == ID_VIEW_PALETTE_EXTENSION && m_palettes.IsThere(item->m_nID)) {
+        CString text;
+        text.Format(IDS_EXTENSION_ITEM, m_palettes.ExtensionName().GetString());
+        item->SetText(text);
+    }
     item->SetCheck(m_palettes.IsShown(item->m_nID));
 }
 

@@ -8,8 +8,9 @@
 
 namespace {
 
-constexpr int kSetId = 4001;                        // the key of its state
-constexpr int kDockedWidth = 330, kHeight = 480;    // pixels at 96 dots an inch
+constexpr int kSetId = 4001, kExtensionSetId = 4002;  // the keys of their state
+constexpr DWORD kSetStyle = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | CBRS_LEFT | CBRS_FLOAT_MULTI;
+constexpr int kDockedWidth = 330, kExtensionWidth = 260, kHeight = 480;  // pixels at 96 dots an inch
 constexpr const wchar_t* kSection = L"Palettes";    // below the application's state
 constexpr const wchar_t* kHidden = L"Hidden";       // a bit for each palette, in the order of the strip
 constexpr int kHiddenAtFirst = 4;                   // the blocks
@@ -35,8 +36,7 @@ bool CPalettes::Create(CFrameWndEx& frame) {
     m_frame = &frame;
     const int width = KtUiAppearancePixels(frame.m_hWnd, kDockedWidth);
     const int height = KtUiAppearancePixels(frame.m_hWnd, kHeight);
-    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | CBRS_LEFT | CBRS_FLOAT_MULTI;
-    if (!m_set.Create(textOf(IDS_PALETTES), kStyle, CRect(0, 0, width, height), &frame,
+    if (!m_set.Create(textOf(IDS_PALETTES), kSetStyle, CRect(0, 0, width, height), &frame,
                       kKbUiSinglePaletteTab))
         return false;
     m_set.SetDlgCtrlID(kSetId);
@@ -52,6 +52,25 @@ bool CPalettes::Create(CFrameWndEx& frame) {
     m_set.EnableDocking(CBRS_ALIGN_ANY);
     frame.DockPane(&m_set, AFX_IDW_DOCKBAR_LEFT);
     return true;
+}
+
+void CPalettes::AddExtension(CExtensions& extensions, CDrafterServices& services) {
+    const CSize size(KtUiAppearancePixels(m_frame->m_hWnd, kExtensionWidth),
+                     KtUiAppearancePixels(m_frame->m_hWnd, kHeight));
+    if (!m_extensionSet.Create(textOf(IDS_EXTENSION_PALETTES), kSetStyle, CRect(CPoint(0, 0), size), m_frame,
+                               kKbUiSinglePaletteTab))
+        return;
+    if (!extensions.AddPalettes(m_extensionSet, services)) {
+        m_extensionSet.DestroyWindow();
+        return;
+    }
+    m_extensionSet.SetDlgCtrlID(kExtensionSetId);
+    CKbUiPalette* const front = m_extensionSet.GetPalette(m_extensionSet.GetPaletteCount() - 1);
+    m_extensionSet.SetName(front->GetName());
+    m_extensionSet.SetActivePalette(front);
+    m_extensionSet.EnableDocking(CBRS_ALIGN_ANY);
+    m_frame->DockPane(&m_extensionSet, AFX_IDW_DOCKBAR_RIGHT);
+    m_frame->ShowPane(&m_extensionSet, FALSE, FALSE, FALSE);
 }
 
 void CPalettes::add(UINT command, std::unique_ptr<CPanelPalette> palette) {
@@ -81,11 +100,13 @@ void CPalettes::ShowObjects(OdDbDatabase& drawing, const std::vector<OdDbObjectI
 void CPalettes::TakeTyped() { m_properties.TakeTyped(); }
 
 bool CPalettes::IsThere(UINT command) const {
+    if (command == ID_VIEW_PALETTE_EXTENSION) return isExtensionThere();
     const Entry* entry = entryOf(command);
     return entry != nullptr && entry->palette != nullptr;
 }
 
 bool CPalettes::IsShown(UINT command) const {
+    if (command == ID_VIEW_PALETTE_EXTENSION) return isExtensionThere() && m_extensionSet.IsVisible();
     const Entry* entry = entryOf(command);
     return entry != nullptr && entry->palette != nullptr && !entry->hidden && m_set.IsVisible();
 }
@@ -114,6 +135,11 @@ void CPalettes::takeOut(Entry& entry) {
 }
 
 void CPalettes::Toggle(UINT command) {
+    if (command == ID_VIEW_PALETTE_EXTENSION) {
+        const BOOL show = !IsShown(command);
+        if (isExtensionThere()) m_frame->ShowPane(&m_extensionSet, show, FALSE, show);
+        return;
+    }
     Entry* const entry = entryOf(command);
     if (entry == nullptr || entry->palette == nullptr) return;
     if (!IsShown(command)) {
@@ -182,7 +208,9 @@ void CPalettes::Save(CWinAppEx& keeper) const {
 }
 
 void CPalettes::Enable(bool enable) {
-    if (m_set.m_hWnd == nullptr) return;
-    m_set.EnableWindow(enable);
-    if (CPaneFrameWnd* frame = m_set.GetParentMiniFrame()) frame->EnableWindow(enable);
+    for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet}) {
+        if (set->m_hWnd == nullptr) continue;
+        set->EnableWindow(enable);
+        if (CPaneFrameWnd* frame = set->GetParentMiniFrame()) frame->EnableWindow(enable);
+    }
 }

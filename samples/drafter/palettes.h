@@ -1,4 +1,4 @@
-// CPalettes: the drafter's palettes in their set, which docks in the main window: what the menu shows and
+// CPalettes: the drafter's palettes in their set, which docks in the main window, and the set of the extension: what the menu shows and
 // hides, what follows the drawing, and what is kept for the user beside the layout of the panes.
 #pragma once
 
@@ -10,6 +10,7 @@
 
 #include "blocks_panel.h"
 #include "draft_document.h"
+#include "extensions.h"
 #include "layers_panel.h"
 #include "panel_palette.h"
 #include "properties_panel.h"
@@ -26,6 +27,8 @@ public:
     /// Makes the palettes and docks them as they stand at first. False without the set; a palette that can't
     /// be made is left out, and IsThere says so.
     bool Create(CFrameWndEx& frame);
+    /// Makes the set with the extension's palettes, hidden; without any there is no such set.
+    void AddExtension(CExtensions& extensions, CDrafterServices& services);
     /// Shows a drawing as it is now.
     void ShowDrawing(CDraftDocument& document);
     /// Shows the values of `objects` of a drawing, or its current settings.
@@ -37,6 +40,8 @@ public:
     bool IsThere(UINT command) const;
     bool IsShown(UINT command) const;
     void Toggle(UINT command);
+    /// Name of the extension's palettes.
+    CString ExtensionName() const { return m_extensionSet.GetName(); }
     /// Shows the palette, and gives it the focus.
     void Open(UINT command);
 
@@ -63,6 +68,7 @@ private:
     void putIn(Entry& entry);
     void takeOut(Entry& entry);
     void lock() const;
+    bool isExtensionThere() const { return m_extensionSet.m_hWnd != nullptr; }
 
     CFrameWndEx* m_frame = nullptr;
     CPropertiesPanel m_properties;
@@ -70,6 +76,7 @@ private:
     CBlocksPanel m_blocks;
     std::vector<Entry> m_entries;  ///< from the top of the strip on
     CKbUiPaletteSet m_set;
+    CKbUiPaletteSet m_extensionSet;  ///< without a window while there are no palettes for it
     bool m_isDockedLocked = false;
     bool m_isFloatingLocked = false;
 };

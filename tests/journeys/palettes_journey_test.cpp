@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include "journey_fixture.h"
+#include "own_program.h"
 
 using namespace journey;
 
@@ -24,6 +25,7 @@ protected:
         addLine(*block, {10, 5, 0});
         addLine(*drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite), {100, 50, 0});
         open(*drawing, L"palettes.dxf");
+        waitUntil([this] { return properties() != nullptr; });
     }
     static void addLine(OdDbBlockTableRecord& space, const OdGePoint3d& to) {
         const OdSmartPtr<OdDbLine> line(new OdDbLine);
@@ -138,17 +140,17 @@ TEST_F(PalettesJourney, ByKeysAValueIsEnteredGivenBackAndRefused) {
     EXPECT_DOUBLE_EQ(firstOf(*saved())->thickness(), 3);
 }
 
-TEST_F(PalettesJourney, WhatIsBeingTypedIsSavedAndUndoneWithIt) {
+TEST_F(PalettesJourney, WhatIsBeingTypedIsSavedToo) {
     selectAll();
     drafter->key('2', true);
     const HWND panel = properties();
-    drafter->replaceText(item(panel, IDC_ELEVATION), L"12");
+    drafter->replaceText(item(panel, IDC_THICKNESS), L"12");
     drafter->key('S', true);
-    EXPECT_TRUE(waitUntil([&] { return textOf(item(panel, IDC_ELEVATION)) == L"12.0000"; }));
+    EXPECT_TRUE(waitUntil([&] { return textOf(item(panel, IDC_THICKNESS)) == L"12.0000"; }));
     OdDbDatabasePtr drawing(new OdDbDatabase);
     ASSERT_TRUE(becomes(false));
     ASSERT_EQ(drawing->readDxf(path.c_str()), kOdOk);
-    EXPECT_DOUBLE_EQ(firstOf(*drawing)->elevation(), 12);
+    EXPECT_DOUBLE_EQ(firstOf(*drawing)->thickness(), 12);
 }
 
 TEST_F(PalettesJourney, ABlockIsDraggedIntoTheDrawingAndUndone) {
@@ -292,6 +294,109 @@ TEST_F(PalettesJourney, WidthsAreKept) {
     restart();
     const RECT again = rectOf(setOf(properties()));
     EXPECT_TRUE(::EqualRect(&wider, &again));
+}
+
+/// The extension's palette is a dialog with its first field.
+constexpr int kProject = 1001, kTitleMessage = 1004, kTitleLabel = 1310;
+
+HWND extensionPanel(const Drafter& drafter) { return drafter.panelWith(kTitleLabel); }
+
+TEST_F(PalettesJourney, TheExtensionsPaletteFillsTheTitleBlockAndIsUndone) {
+    OdDbDatabasePtr drawing(new OdDbDatabase);
+    const OdSmartPtr<OdDbText> mark(new OdDbText);
+    mark->setTextString(L"[PROJECT]");
+    drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(
+        OdDbEntityPtr(mark.get()));
+    drafter.reset();
+    open(*drawing, L"title.dxf");
+    EXPECT_EQ(extensionPanel(*drafter), nullptr) << "hidden at first";
+    view('A', 'T');
+    HWND panel = nullptr;
+    ASSERT_TRUE(waitUntil([&] { return (panel = extensionPanel(*drafter)) != nullptr; }));
+    EXPECT_GT(rectOf(panel).left, rectOf(drafter->view()).left) << "at the right";
+    drafter->replaceText(item(panel, kProject), std::wstring(81, L'x'));
+    ASSERT_TRUE(waitUntil([&] { return textOf(item(panel, kProject)).size() == 81; }));
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(waitUntil([&] { return !textOf(item(panel, kTitleMessage)).empty(); })) << "too long";
+    EXPECT_TRUE(becomes(false));
+    drafter->replaceText(item(panel, kProject), L"Mill Lane");
+    drafter->key(VK_RETURN);
+    ASSERT_TRUE(becomes(true));
+    picture("journey-palettes-extension");
+    EXPECT_EQ(dynamic_cast<OdDbText*>(firstOf(*saved()))->textString(), L"Mill Lane");
+    drafter->key(VK_ESCAPE);
+    drafter->key('Z', true);
+    EXPECT_EQ(dynamic_cast<OdDbText*>(firstOf(*saved()))->textString(), L"[PROJECT]");
+}
+
+TEST_F(PalettesJourney, TwoSetsShareTabsAndFindThemAgain) {
+    view('A', 'T');
+    ASSERT_TRUE(waitUntil([&] { return extensionPanel(*drafter) != nullptr; }));
+    // Dropped on the caption of the other set it becomes a tab of it.
+    const HWND set = setOf(extensionPanel(*drafter)), other = setOf(properties());
+    drafter->press(set, kCaption);
+    drafter->hover(set, {kCaption.x - 30, kCaption.y + 30});
+    drafter->hover(other, kCaption);
+    drafter->release();
+    ASSERT_TRUE(waitUntil([&] {
+        return extensionPanel(*drafter) != nullptr && properties() == nullptr &&
+               rectOf(extensionPanel(*drafter)).left < rectOf(drafter->view()).left;
+    }));
+    picture("journey-palettes-tabs");
+    drafter->activate(drafter->frame());
+    drafter->key('2', true);
+    EXPECT_TRUE(waitUntil([&] { return properties() != nullptr; })) << "a key brings the other tab forward";
+    EXPECT_EQ(extensionPanel(*drafter), nullptr);
+    restart();
+    EXPECT_TRUE(waitUntil([&] { return properties() != nullptr; }));
+    EXPECT_EQ(extensionPanel(*drafter), nullptr);
+    const LONG edge = rectOf(drafter->view()).left;
+    view('A', 'T');
+    view('A', 'T');
+    EXPECT_TRUE(waitUntil([&] { return extensionPanel(*drafter) != nullptr; }));
+    EXPECT_EQ(rectOf(drafter->view()).left, edge) << "still a tab beside it";
+}
+
+TEST_F(PalettesJourney, WhatIsHiddenAtTheEdgeSlidesOutForAKey) {
+    const HWND set = setOf(properties());
+    RECT room = {};
+    ::GetClientRect(set, &room);
+    const LONG before = rectOf(drafter->view()).left;
+    // The pin stands beside the button that closes.
+    drafter->click(set, {room.right - 26, kCaption.y});
+    ASSERT_TRUE(waitUntil([&] { return rectOf(drafter->view()).left < before - 200; }));
+    picture("journey-palettes-at-the-edge");
+    restart();
+    EXPECT_LT(rectOf(drafter->view()).left, before - 200);
+    drafter->activate(drafter->frame());
+    drafter->key('L', true);
+    EXPECT_TRUE(waitUntil([&] { return layers() != nullptr && ::IsChild(layers(), focusOf(layers())); }));
+}
+
+TEST_F(PalettesJourney, APaletteThatCannotBeMadeIsSaidAndTheRestWorks) {
+    drafter.reset();
+    const OwnProgram program;
+    std::filesystem::copy_file(std::filesystem::path(programFolder()) / L"failing_title_block.dll",
+                               program.file(L"extensions\\title_block.dll"),
+                               std::filesystem::copy_options::overwrite_existing);
+    open(path, program.folder());
+    ASSERT_TRUE(waitUntil([&] { return properties() != nullptr; }));
+    view('A', 'E');
+    drafter->key(VK_ESCAPE);
+    drafter->key(VK_ESCAPE);
+    drafter->key(VK_ESCAPE);
+    EXPECT_EQ(extensionPanel(*drafter), nullptr);
+    drafter->activate(drafter->frame());
+    drafter->key('O', true, false, true);
+    const HWND options = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(options, nullptr);
+    EXPECT_NE(textOf(item(options, IDC_MESSAGE)).find(L"can't be shown"), std::wstring::npos);
+    cancel(options);
+    selectAll();
+    drafter->replaceText(item(properties(), IDC_THICKNESS), L"2");
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(becomes(true));
+    drafter.reset();
 }
 
 }  // namespace

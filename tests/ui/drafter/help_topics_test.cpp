@@ -169,7 +169,9 @@ const std::map<UINT, const wchar_t*> kTopics = {{IDD_PROPERTIES, L"Properties"},
                                                 {IDD_OPTIONS_UNITS, L"OptionsUnits"},
                                                 {IDD_PICKER_BAR, L"PickerBar"},
                                                 {IDD_MEASURE, L"Measure"},
-                                                {IDD_LAYERS_PANEL, L"Layers"}};
+                                                {IDD_LAYERS_PANEL, L"Layers"},
+                                                {IDD_PROPERTIES_PANEL, L"PropertiesPalette"},
+                                                {IDD_BLOCKS_PANEL, L"BlocksPalette"}};
 
 /// The ids of the dialog templates of a module.
 std::vector<UINT> dialogsOf(HMODULE module) {
