@@ -9,7 +9,8 @@ std::vector<BlockRow> ListBlocks(OdDbDatabase& drawing) {
     OdDbBlockTablePtr blocks;
     drawing.getBlockTable(blocks);
     for (const OdString& name : ChoosableBlocks(drawing))
-        if (ArrowheadOfBlock(name) < 0 && CalloutOfBlock(name) < 0) rows.push_back({blocks->getAt(name), name});
+        if (ArrowheadOfBlock(name) < 0 && CalloutOfBlock(name) < 0)
+            rows.push_back({blocks->getAt(name), name});
     std::sort(rows.begin(), rows.end(),
               [](const BlockRow& one, const BlockRow& other) { return one.name.iCompare(other.name) < 0; });
     return rows;

@@ -1,5 +1,5 @@
-// The blocks palette: pictures of the drawing's blocks. One is dragged into the drawing, which inserts it where
-// it is dropped; by Enter or a double click it is inserted at a place that is picked then.
+// The blocks palette: pictures of the drawing's blocks. One is dragged into the drawing, which inserts it
+// where it is dropped; by Enter or a double click it is inserted at a place that is picked then.
 #pragma once
 
 #include <vector>

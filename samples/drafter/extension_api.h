@@ -21,6 +21,6 @@ protected:
 using DrafterExtensionVersion = int (*)();
 /// Exported as "drafterExtensionAddTabs": adds pages to a tabbed dialog; GetDialogName() tells which it is.
 using DrafterExtensionAddTabs = void (*)(CKbUiTabExtensionManager& manager);
-/// Exported as "drafterExtensionAddPalettes": adds palettes, each made by new, to the set of extensions, which
-/// destroys and deletes them. False if one can't be made; the others stay then.
+/// Exported as "drafterExtensionAddPalettes": adds palettes, each made by new, to the set of extensions,
+/// which destroys and deletes them. False if one can't be made; the others stay then.
 using DrafterExtensionAddPalettes = bool (*)(CKbUiPaletteSet& set, CDrafterServices& services);

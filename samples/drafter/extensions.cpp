@@ -33,7 +33,8 @@ void CExtensions::load(const CString& path) {
     m_module = ::LoadLibraryW(path);
     ::SetErrorMode(former);
     if (m_module != nullptr) readEntries(path);
-    if (m_addTabs == nullptr && m_problem.IsEmpty()) m_problem.Format(IDS_EXTENSION_DAMAGED, path.GetString());
+    if (m_addTabs == nullptr && m_problem.IsEmpty())
+        m_problem.Format(IDS_EXTENSION_DAMAGED, path.GetString());
 }
 
 /// The version comes first: another one may have other entries.

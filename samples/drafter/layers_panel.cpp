@@ -242,7 +242,7 @@ std::vector<OdDbObjectId> CLayersPanel::selectedLayers() const {
 }
 
 void CLayersPanel::change(UINT name, const std::vector<OdDbObjectId>& selected,
-                           const std::function<void()>& edit) {
+                          const std::function<void()>& edit) {
     if (m_history == nullptr) return;
     CDrawingChange step(*m_history);
     edit();

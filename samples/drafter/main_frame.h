@@ -18,7 +18,11 @@
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWndEx, private CDrawingPicker, private CBlockTarget, private CDrafterServices, private StandinPlotView {
+class CMainFrame : public CFrameWndEx,
+                   private CDrawingPicker,
+                   private CBlockTarget,
+                   private CDrafterServices,
+                   private StandinPlotView {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:

@@ -11,11 +11,11 @@ namespace {
 constexpr int kSetId = 4001, kExtensionSetId = 4002;  // the keys of their state
 constexpr DWORD kSetStyle = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | CBRS_LEFT | CBRS_FLOAT_MULTI;
 constexpr int kDockedWidth = 330, kExtensionWidth = 260, kHeight = 480;  // pixels at 96 dots an inch
-constexpr const wchar_t* kSection = L"Palettes";    // below the application's state
-constexpr const wchar_t* kHidden = L"Hidden";       // a bit for each palette, in the order of the strip
-constexpr int kHiddenAtFirst = 4;                   // the blocks
-constexpr const wchar_t* kActive = L"Active";       // command of the palette in front
-constexpr const wchar_t* kLocks = L"Locks";         // the two bits below
+constexpr const wchar_t* kSection = L"Palettes";                         // below the application's state
+constexpr const wchar_t* kHidden = L"Hidden";  // a bit for each palette, in the order of the strip
+constexpr int kHiddenAtFirst = 4;              // the blocks
+constexpr const wchar_t* kActive = L"Active";  // command of the palette in front
+constexpr const wchar_t* kLocks = L"Locks";    // the two bits below
 constexpr int kDockedBit = 1, kFloatingBit = 2;
 
 CString textOf(UINT id) {

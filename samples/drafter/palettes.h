@@ -1,5 +1,6 @@
-// CPalettes: the drafter's palettes in their set, which docks in the main window, and the set of the extension: what the menu shows and
-// hides, what follows the drawing, and what is kept for the user beside the layout of the panes.
+// CPalettes: the drafter's palettes in their set, which docks in the main window, and the set of the
+// extension: what the menu shows and hides, what follows the drawing, and what is kept for the user beside
+// the layout of the panes.
 #pragma once
 
 #include <functional>

@@ -87,8 +87,8 @@ BOOL CPropertiesPanel::OnCommand(WPARAM wParam, LPARAM lParam) {
     // Edits and combo boxes have different numbers for what they tell.
     const bool isField = control == IDC_LINETYPE_SCALE || control == IDC_HYPERLINK ||
                          control == IDC_ELEVATION || control == IDC_THICKNESS || control == IDC_ROTATION;
-    const bool isDone = isField ? notification == EN_KILLFOCUS
-                                : notification == CBN_SELENDOK || notification == CBN_CLOSEUP;
+    const bool isDone =
+        isField ? notification == EN_KILLFOCUS : notification == CBN_SELENDOK || notification == CBN_CLOSEUP;
     if (isDone) write(control);
     return handled;
 }

@@ -52,7 +52,7 @@ int FillFromTitleFields(CKbUiDialog& dialog) {
     for (const auto& field : kFields) dialog.SetDialogData(field.name, entered(dialog, field.id));
     OdDbDatabase* const drawing = oddbHostApplicationServices()->workingDatabase();
     if (drawing == nullptr) return 0;
-    return FillTitleBlock(*drawing, {OdString(entered(dialog, IDC_PROJECT)),
-                                     OdString(entered(dialog, IDC_DRAWN_BY)),
-                                     OdString(entered(dialog, IDC_CHECKED_BY))});
+    return FillTitleBlock(*drawing,
+                          {OdString(entered(dialog, IDC_PROJECT)), OdString(entered(dialog, IDC_DRAWN_BY)),
+                           OdString(entered(dialog, IDC_CHECKED_BY))});
 }

@@ -66,7 +66,8 @@ TEST_F(LayersJourney, ByKeysAlone) {
     drafter->key(VK_RETURN);
     EXPECT_TRUE(waitUntil([&] { return textOf(item(dialog, IDC_CURRENT_LAYER)) == L"Current layer: roof"; }));
     drafter->key(VK_ESCAPE);
-    EXPECT_TRUE(waitUntil([&] { return focusOf(dialog) == drafter->view(); })) << "Escape goes to the drawing";
+    EXPECT_TRUE(waitUntil([&] { return focusOf(dialog) == drafter->view(); }))
+        << "Escape goes to the drawing";
     EXPECT_TRUE(::IsWindowVisible(dialog));
     const OdDbDatabasePtr drawing = saved();
     ASSERT_TRUE(layerOf(*drawing, L"facade"));

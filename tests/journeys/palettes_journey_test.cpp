@@ -1,5 +1,5 @@
-// A draughtsman works with the palettes beside the drawing, by mouse and by keys alone, and finds them the next
-// time as he left them.
+// A draughtsman works with the palettes beside the drawing, by mouse and by keys alone, and finds them the
+// next time as he left them.
 #include <windows.h>
 #include <commctrl.h>
 
@@ -261,6 +261,32 @@ TEST_F(PalettesJourney, WhatTheMenuHidesStaysHiddenTheNextTime) {
     EXPECT_EQ(blocks(), nullptr);
 }
 
+TEST_F(PalettesJourney, TheCloseButtonHidesTheSetAndAKeyBringsAllOfItBack) {
+    const HWND set = setOf(properties());
+    RECT room = {};
+    ::GetClientRect(set, &room);
+    drafter->click(set, {room.right - 8, kCaption.y});
+    const LONG edge = rectOf(status()).left;
+    ASSERT_TRUE(waitUntil([&] { return rectOf(drafter->view()).left == edge; }));
+    restart();
+    EXPECT_EQ(rectOf(drafter->view()).left, edge);
+    drafter->key('L', true);
+    ASSERT_TRUE(waitUntil([&] { return layers() != nullptr; }));
+    drafter->key('2', true);
+    EXPECT_TRUE(waitUntil([&] { return properties() != nullptr; }));
+}
+
+TEST_F(PalettesJourney, ClosingAsksAboutWhatIsBeingTyped) {
+    selectAll();
+    drafter->replaceText(item(properties(), IDC_THICKNESS), L"2");
+    EXPECT_TRUE(becomes(false));
+    ::PostMessageW(drafter->frame(), WM_CLOSE, 0, 0);
+    const HWND question = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(question, nullptr);
+    cancel(question);
+    EXPECT_DOUBLE_EQ(firstOf(*saved())->thickness(), 2);
+}
+
 TEST_F(PalettesJourney, LockedPalettesStayWhereTheyAre) {
     view('K', 'D');
     dragSet(properties(), {420, 160});
@@ -305,8 +331,9 @@ TEST_F(PalettesJourney, TheExtensionsPaletteFillsTheTitleBlockAndIsUndone) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     const OdSmartPtr<OdDbText> mark(new OdDbText);
     mark->setTextString(L"[PROJECT]");
-    drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite)->appendOdDbEntity(
-        OdDbEntityPtr(mark.get()));
+    drawing->modelSpaceId()
+        .open<OdDbBlockTableRecord>(OdDb::kForWrite)
+        ->appendOdDbEntity(OdDbEntityPtr(mark.get()));
     drafter.reset();
     open(*drawing, L"title.dxf");
     EXPECT_EQ(extensionPanel(*drafter), nullptr) << "hidden at first";

@@ -52,13 +52,13 @@ bool showBlocks(Drafter& drafter) {
     const HWND list = item(panel, IDC_BLOCK_LIST);
     const LRESULT count = ::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0);
     tell("palette-blocks", L"The blocks palette shows " + std::to_wstring(count) + L" blocks");
-    drafter.press(list, {50, 40});
-    drafter.hover(list, {70, 60});
+    drafter.press(list, {150, 40});
+    drafter.hover(list, {170, 60});
     RECT room = {};
     ::GetClientRect(drafter.view(), &room);
     drafter.hover(drafter.view(), {room.right / 3, room.bottom / 5});
     drafter.release();
-    tell("palette-block-dropped", L"Dragged the first one into the drawing");
+    tell("palette-block-dropped", L"Dragged one into the drawing");
     drafter.key('Z', true);
     drafter.key('2', true);
     drafter.key(VK_ESCAPE);

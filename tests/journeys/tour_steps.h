@@ -14,5 +14,6 @@ void tell(const char* name, const std::wstring& text);
 /// something did not come up.
 int ShowDialogs();
 
-/// Changes a property, lists layers and drops a block, and takes all of it back. What did not come up, or null.
+/// Changes a property, lists layers and drops a block, and takes all of it back. What did not come up, or
+/// null.
 const char* ShowPalettes(journey::Drafter& drafter);

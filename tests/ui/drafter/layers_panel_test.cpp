@@ -1,4 +1,5 @@
-// The panel of the layers palette: what it lists, what it changes, what it refuses, and how it follows the drawing.
+// The panel of the layers palette: what it lists, what it changes, what it refuses, and how it follows the
+// drawing.
 #include "../../../samples/drafter/layers_panel.h"
 #include "drafter_fixture.h"
 

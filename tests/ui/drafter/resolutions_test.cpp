@@ -94,9 +94,9 @@ protected:
 };
 
 TEST_P(Resolutions, TextsOfTheDrafterAreWhole) {
-    for (const int id : {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME,
-                         IDD_BLOCK_CHOICE, IDD_LAYERS_PANEL, IDD_PROPERTIES_PANEL, IDD_BLOCKS_PANEL,
-                         IDD_MEASURE})
+    for (const int id :
+         {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME, IDD_BLOCK_CHOICE,
+          IDD_LAYERS_PANEL, IDD_PROPERTIES_PANEL, IDD_BLOCKS_PANEL, IDD_MEASURE})
         expectWhole(::GetModuleHandleW(nullptr), id);
 }
 
