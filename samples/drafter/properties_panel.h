@@ -12,7 +12,7 @@ class CPropertiesPanel : public CPropertyFields {
 
 public:
     /// `changed` is called when the panel has changed the drawing, with the name of what was changed: a
-    /// string.
+    /// string. It shows the values anew.
     explicit CPropertiesPanel(std::function<void(UINT name)> changed);
 
     /// Shows the values of `objects`, or the current settings without objects. The drawing must live until

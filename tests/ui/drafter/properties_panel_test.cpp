@@ -8,7 +8,11 @@ using namespace ui_test;
 
 class PropertiesPanel : public DrafterTest {
 protected:
-    PropertiesPanel() : panel([this](UINT name) { changes.push_back(name); }) {
+    PropertiesPanel()
+        : panel([this](UINT name) {
+              changes.push_back(name);
+              showBoth();
+          }) {
         const auto space = drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite);
         for (int i = 0; i < 2; ++i) {
             const OdSmartPtr<OdDbCircle> circle(new OdDbCircle);
