@@ -11,6 +11,7 @@ using namespace journey;
 namespace {
 
 constexpr int kStatusBar = 0xE801;
+constexpr int kStrip = 111;           // the tabs at a set's side
 constexpr POINT kCaption = {60, -8};  // client pixels of a docked set
 
 class PalettesJourney : public Journey {
@@ -80,6 +81,8 @@ TEST_F(PalettesJourney, AtFirstPropertiesAndLayersStandAtTheLeftAndTheBlocksAreH
     EXPECT_LT(set.right, view.left) << "the drawing takes the room that is left";
     EXPECT_EQ(set.left, rectOf(status()).left);
     EXPECT_GE(view.right - view.left, 400);
+    EXPECT_LE(view.bottom, rectOf(status()).top);
+    EXPECT_LE(set.bottom, rectOf(status()).top);
     picture("journey-palettes");
 }
 
@@ -242,9 +245,27 @@ TEST_F(PalettesJourney, PalettesFloatAndAreFoundThereAgain) {
     EXPECT_FALSE(isFloating(properties())) << "as at first";
 }
 
+TEST_F(PalettesJourney, AModalDialogKeepsTheUserFromFloatingOnesToo) {
+    dragSet(properties(), {420, 160});
+    ASSERT_TRUE(waitUntil([&] { return isFloating(properties()); }));
+    const HWND panel = properties(), thickness = item(panel, IDC_THICKNESS);
+    const HWND dialog = openByKey('D');
+    ASSERT_NE(dialog, nullptr);
+    drafter->place(dialog, {0, 500, 500, 900});
+    drafter->click(thickness);
+    EXPECT_NE(focusOf(panel), thickness);
+    drafter->activate(dialog);
+    cancel(dialog);
+    drafter->click(thickness);
+    EXPECT_TRUE(goesTo(panel, thickness));
+}
+
 TEST_F(PalettesJourney, WhatTheMenuHidesStaysHiddenTheNextTime) {
     view('A', 'B');
-    EXPECT_TRUE(waitUntil([&] { return blocks() != nullptr; }));
+    ASSERT_TRUE(waitUntil([&] { return blocks() != nullptr; }));
+    // It came below the others: the topmost tab is still that of the properties.
+    drafter->click(item(setOf(blocks()), kStrip), {9, 40});
+    EXPECT_TRUE(waitUntil([&] { return properties() != nullptr; }));
     view('A', 'P');
     view('A', 'L');
     EXPECT_EQ(properties(), nullptr);

@@ -187,7 +187,8 @@ TEST_F(PropertiesPanel, PlotStylesFollowTheKindOfTheDrawing) {
         panel.Show(*other, {});
         EXPECT_EQ(item(panel, IDC_PLOT_STYLE).IsWindowEnabled() != FALSE, mode == 0) << mode;
         EXPECT_EQ(offers(IDC_PLOT_STYLE, L"ByColor"), mode != 0) << mode;
-        EXPECT_EQ(offers(IDC_PLOT_STYLE, L"ByLayer"), mode == 0) << mode;
+        for (const wchar_t* name : {L"ByLayer", L"ByBlock"})
+            EXPECT_EQ(offers(IDC_PLOT_STYLE, name), mode == 0) << mode;
     }
     panel.Show(*drawing, {});
     oddbHostApplicationServices()->setWorkingDatabase(drawing.get());
