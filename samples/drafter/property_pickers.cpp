@@ -39,6 +39,14 @@ std::optional<OdDb::LineWeight> CLineWeightPicker::Picked() {
     return static_cast<OdDb::LineWeight>(GetCurrentItemLineWeight());
 }
 
+void RefillPlotStyles(CKtUiPlotStyleNamesComboBox& picker, const OdDbDatabase& drawing) {
+    const bool byName = drawing.getPSTYLEMODE() == 0;
+    // After a drawing that plots by colour the picker has to be told, which leaves ByColor in its list.
+    if (byName) picker.SetNamedMode();
+    picker.ResetContent();
+    if (byName) picker.AddItems();
+}
+
 void CPropertyPickers::Exchange(CDataExchange* exchange) {
     DDX_Control(exchange, IDC_TRUE_COLOR, m_trueColor);
     DDX_Control(exchange, IDC_INDEX_COLOR, m_indexColor);
@@ -49,8 +57,7 @@ void CPropertyPickers::Exchange(CDataExchange* exchange) {
 
 void CPropertyPickers::Refill(const OdDbDatabase& drawing) {
     m_linetype.ShowLTypes(true);
-    m_plotStyle.ResetContent();
-    if (drawing.getPSTYLEMODE() == 0) m_plotStyle.SetNamedMode();
+    RefillPlotStyles(m_plotStyle, drawing);
 }
 
 void CPropertyPickers::Show(const OdDbDatabase& drawing, const PropertyValues& values) {

@@ -29,6 +29,10 @@ public:
     std::optional<OdDb::LineWeight> Picked();
 };
 
+/// Fills a list of plot styles anew for a drawing that has them by name; that of another drawing becomes
+/// empty.
+void RefillPlotStyles(CKtUiPlotStyleNamesComboBox& picker, const OdDbDatabase& drawing);
+
 class CPropertyPickers {
 public:
     /// Binds the controls IDC_TRUE_COLOR, IDC_INDEX_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT and IDC_PLOT_STYLE.
