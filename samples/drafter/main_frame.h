@@ -49,6 +49,7 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnEnable(BOOL enable);
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);

@@ -5,6 +5,12 @@
 /// A modal dialog keeps the user from the palettes too, also while it has stepped aside.
 void CMainFrame::enablePalettes() { m_palettes.Enable(IsWindowEnabled() && !m_isInCommand); }
 
+/// When a dialog has gone, the window may come to lie on palettes that float.
+void CMainFrame::OnActivate(UINT state, CWnd* other, BOOL minimized) {
+    CFrameWndEx::OnActivate(state, other, minimized);
+    if (state != WA_INACTIVE) m_palettes.RaiseFloating();
+}
+
 void CMainFrame::OnPropertiesPalette() { m_palettes.Open(ID_VIEW_PALETTE_PROPERTIES); }
 
 void CMainFrame::OnLayers() { m_palettes.Open(ID_VIEW_PALETTE_LAYERS); }

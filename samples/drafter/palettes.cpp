@@ -208,9 +208,14 @@ void CPalettes::Save(CWinAppEx& keeper) const {
 }
 
 void CPalettes::Enable(bool enable) {
+    for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet})
+        if (set->m_hWnd != nullptr) set->EnableWindow(enable);
+}
+
+void CPalettes::RaiseFloating() {
     for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet}) {
-        if (set->m_hWnd == nullptr) continue;
-        set->EnableWindow(enable);
-        if (CPaneFrameWnd* frame = set->GetParentMiniFrame()) frame->EnableWindow(enable);
+        CPaneFrameWnd* const floating = set->m_hWnd != nullptr ? set->GetParentMiniFrame() : nullptr;
+        if (floating == nullptr || !floating->IsWindowVisible()) continue;
+        floating->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
 }

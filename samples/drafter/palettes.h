@@ -56,6 +56,8 @@ public:
 
     /// Lets the user at the palettes, docked and floating, or keeps him from them.
     void Enable(bool enable);
+    /// Brings what floats above the main window.
+    void RaiseFloating();
 
 private:
     struct Entry {

@@ -251,11 +251,14 @@ TEST_F(PalettesJourney, AModalDialogKeepsTheUserFromFloatingOnesToo) {
     const HWND panel = properties(), thickness = item(panel, IDC_THICKNESS);
     const HWND dialog = openByKey('D');
     ASSERT_NE(dialog, nullptr);
-    drafter->place(dialog, {0, 500, 500, 900});
+    // They must not cover each other.
+    const RECT floating = rectOf(::GetAncestor(panel, GA_ROOT)), shown = rectOf(dialog);
+    drafter->place(dialog, {floating.left - 10 - (shown.right - shown.left), 100, floating.left - 10,
+                            100 + shown.bottom - shown.top});
     drafter->click(thickness);
     EXPECT_NE(focusOf(panel), thickness);
-    drafter->activate(dialog);
-    cancel(dialog);
+    drafter->click(item(dialog, IDCANCEL));
+    EXPECT_TRUE(drafter->waitUntilGone(dialog));
     drafter->click(thickness);
     EXPECT_TRUE(goesTo(panel, thickness));
 }
