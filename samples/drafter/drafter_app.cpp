@@ -1,8 +1,9 @@
 // The drafter: a small host that shows the toolkit at work on a drawing.
 //
-//     drafter.exe [drawing.dxf]
+//     drafter.exe [--clean] [drawing.dxf]    --clean puts window and palettes where they stand at first
 #include <afxadv.h>
 #include <afxwin.h>
+#include <afxwinappex.h>
 #include <ktut.h>
 #include <standin_host.h>
 
@@ -20,9 +21,12 @@ constexpr int kLongestRecentPath = 60;  // characters, in the menu
 // After so many milliseconds the file dialogs give a drive up that does not answer.
 constexpr unsigned kDriveLimit = 3000;
 
-class CDrafterApp : public CWinApp {
+constexpr const wchar_t* kCleanSwitch = L"--clean";
+
+class CDrafterApp : public CWinAppEx {
 public:
-    CDrafterApp() : CWinApp(L"Drafter") {}
+    /// Before the program's resources can be found it needs the name that its settings stand under.
+    CDrafterApp() { m_pszAppName = ::_wcsdup(L"Drafter"); }
 
     BOOL InitInstance() override {
         InitKtUiDLL();
@@ -38,12 +42,13 @@ public:
         m_pRecentFileList->m_nMaxDisplayLength = kLongestRecentPath;
         ShowPreviewsOfDrawings();
         KtUiSetNeverBlocked(kDriveLimit);
+        CString path = m_lpCmdLine;
+        if (takeClean(path)) CleanState();
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
-        CString path = m_lpCmdLine;
         path.Trim(L" \"");
         if (!path.IsEmpty()) frame->OpenDrawing(path);
         return TRUE;
@@ -53,10 +58,25 @@ public:
         m_host.reset();
         // The list was written at each change, and by other drafters since.
         m_pRecentFileList->ReadList();
-        return CWinApp::ExitInstance();
+        return CWinAppEx::ExitInstance();
     }
 
+protected:
+    void LoadCustomState() override { frame().palettes().Load(*this); }
+    void SaveCustomState() override { frame().palettes().Save(*this); }
+
 private:
+    CMainFrame& frame() { return *static_cast<CMainFrame*>(m_pMainWnd); }
+
+    /// Takes the switch at the head of a command line away; false if there is none.
+    static bool takeClean(CString& line) {
+        line.Trim();
+        const int length = static_cast<int>(::wcslen(kCleanSwitch));
+        if (line.Left(length) != kCleanSwitch) return false;
+        line = line.Mid(length);
+        return true;
+    }
+
     std::unique_ptr<CStandinHost> m_host;
 };
 

@@ -69,6 +69,11 @@ void CFieldsDialog::FillField(unsigned id, const CString& text) {
     }
 }
 
+void CFieldsDialog::SetExample(unsigned id, const CString& example) {
+    for (Field& field : m_fields)
+        if (field.id == id) field.example = example;
+}
+
 void CFieldsDialog::FillVaryingField(unsigned id) {
     CString text;
     text.LoadString(IDS_VARIES);
@@ -92,15 +97,29 @@ bool CFieldsDialog::IsEdited(unsigned id) const {
     return field != nullptr && isEdited(*field);
 }
 
+bool CFieldsDialog::IsBad(unsigned id) const {
+    const Field* field = fieldOf(id);
+    return field != nullptr && isBad(*field);
+}
+
+bool CFieldsDialog::RestoreField(unsigned id) {
+    const Field* field = fieldOf(id);
+    if (field == nullptr || !isEdited(*field)) return false;
+    field->edit->SetWindowText(field->before);
+    field->edit->SetSel(0, -1);
+    showProblem();
+    return true;
+}
+
 std::optional<double> CFieldsDialog::EditedDistance(unsigned id) const {
     double number = 0;
-    if (!IsEdited(id) || ktdbDisToF(FieldText(id), -1, &number) != kKtdbOk) return {};
+    if (!IsEdited(id) || IsBad(id) || ktdbDisToF(FieldText(id), -1, &number) != kKtdbOk) return {};
     return number;
 }
 
 std::optional<double> CFieldsDialog::EditedAngle(unsigned id) const {
     double number = 0;
-    if (!IsEdited(id) || ktdbAngToF2(1, FieldText(id), -1, &number) != kKtdbOk) return {};
+    if (!IsEdited(id) || IsBad(id) || ktdbAngToF2(1, FieldText(id), -1, &number) != kKtdbOk) return {};
     return number;
 }
 
@@ -158,7 +177,7 @@ KBUI_REPLY CFieldsDialog::OnNotifyControlValid(unsigned id, int) {
 void CFieldsDialog::OnShowWindow(BOOL show, UINT status) {
     CKtUiDialog::OnShowWindow(show, status);
     // The screen may be smaller than when the dialog was last closed.
-    if (show) KtUiBringIntoView(*this);
+    if (show && (GetStyle() & WS_CHILD) == 0) KtUiBringIntoView(*this);
 }
 
 HBRUSH CFieldsDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind) {

@@ -27,6 +27,8 @@ protected:
     /// Makes `edit` a field; before the dialog is shown. `badText` is a string with the words for a bad
     /// value, in which %s stands for `example`.
     void AddField(unsigned id, CKtUiEdit& edit, UINT badText, const CString& example = CString());
+    /// Gives the words for a bad value of the field another example.
+    void SetExample(unsigned id, const CString& example);
     /// Shows a text in a field, which counts as unedited then.
     void FillField(unsigned id, const CString& text);
     /// Shows "*VARIES*" in a field, which counts as unedited then. It comes back when the text is deleted, as
@@ -34,6 +36,10 @@ protected:
     void FillVaryingField(unsigned id);
     CString FieldText(unsigned id) const;
     bool IsEdited(unsigned id) const;
+    /// Whether the field holds a bad value.
+    bool IsBad(unsigned id) const;
+    /// Gives an edited field back what it showed before, with all of it selected; false if it isn't edited.
+    bool RestoreField(unsigned id);
     /// The value of an edited field: drawing units, or radians. Nothing for an unedited or unusable one.
     std::optional<double> EditedDistance(unsigned id) const;
     std::optional<double> EditedAngle(unsigned id) const;

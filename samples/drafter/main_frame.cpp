@@ -32,14 +32,15 @@ CString textOf(UINT id) {
 
 }  // namespace
 
-IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
+IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 
-BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_WM_CREATE()
     ON_WM_SIZE()
     ON_WM_CLOSE()
     ON_WM_SETFOCUS()
     ON_WM_ENABLE()
+    ON_WM_ACTIVATE()
     ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CMainFrame::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CMainFrame::OnPointer)
@@ -59,18 +60,25 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_VIEW_ZOOM_IN, &CMainFrame::OnZoomIn)
     ON_COMMAND(ID_VIEW_ZOOM_OUT, &CMainFrame::OnZoomOut)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CMainFrame::OnProperties)
+    ON_COMMAND(ID_FORMAT_PROPERTIES_PALETTE, &CMainFrame::OnPropertiesPalette)
     ON_COMMAND(ID_FORMAT_LAYERS, &CMainFrame::OnLayers)
+    ON_COMMAND(ID_FORMAT_BLOCKS, &CMainFrame::OnBlocks)
     ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CMainFrame::OnDimensionStyle)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CMainFrame::OnTextStyle)
     ON_COMMAND(ID_TOOLS_MEASURE, &CMainFrame::OnMeasure)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
     ON_COMMAND(ID_VIEW_SEARCH_LAYERS, &CMainFrame::OnSearchLayers)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
+    ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION, &CMainFrame::OnPalette)
+    ON_COMMAND_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnLock)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
     ON_WM_HELPINFO()
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION,
+                               &CMainFrame::OnUpdatePalette)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnUpdateLock)
     ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
@@ -83,7 +91,7 @@ CMainFrame::CMainFrame(CStandinHost& host)
           finishChange(name);
           m_view.SetFocus();
       }),
-      m_layers([this] { showDrawing(true); }) {
+      m_palettes([this](UINT name) { finishChange(name); }, [this] { showDrawing(true); }, *this) {
     m_host.SetCurrentDocument(m_document.get());
     m_host.SetPlotView(this);
 }
@@ -94,12 +102,17 @@ CMainFrame::~CMainFrame() {
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
-    if (CFrameWnd::OnCreate(create) == -1) return -1;
+    if (CFrameWndEx::OnCreate(create) == -1) return -1;
     if (!m_view.CreateView(this, kViewId)) return -1;
     if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS, CRect(0, 0, 0, 0), this,
                          AFX_IDW_STATUS_BAR))
         return -1;
     if (!m_pickers.CreateBar(this)) return -1;
+    EnableDocking(CBRS_ALIGN_ANY);
+    EnableAutoHidePanes(CBRS_ALIGN_ANY);
+    if (!m_palettes.Create(*this)) return -1;
+    m_extensions = std::make_unique<CExtensions>(CString(ktutProgramFolder().c_str()) + L"extensions\\");
+    m_palettes.AddExtension(*m_extensions, *this);
     CKtUiDialog keeper(0);
     keeper.SetDialogName(L"Options");
     m_options = LoadOptions(keeper);
@@ -112,7 +125,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 void CMainFrame::OnSize(UINT type, int cx, int cy) {
-    CFrameWnd::OnSize(type, cx, cy);
+    CFrameWndEx::OnSize(type, cx, cy);
     if (m_status.m_hWnd == nullptr) return;
     const int pointer = KtUiAppearancePixels(m_hWnd, kPointerWidth);
     const int selection = KtUiAppearancePixels(m_hWnd, kSelectionWidth);
@@ -120,30 +133,19 @@ void CMainFrame::OnSize(UINT type, int cx, int cy) {
     m_status.Part(3, edges);
 }
 
-/// The status line is a control of the system, which finds its place by itself.
-void CMainFrame::RecalcLayout(BOOL) {
-    if (m_status.m_hWnd == nullptr) return;
-    m_status.SendMessage(WM_SIZE);
-    CRect client, status;
-    GetClientRect(&client);
-    m_status.GetWindowRect(&status);
-    client.bottom -= status.Height();
-    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposDefault, nullptr, &client);
-}
-
 void CMainFrame::OnClose() {
     if (m_view.IsPicking()) return m_view.EndPicking(false);
-    if (mayDiscard()) CFrameWnd::OnClose();
+    m_palettes.TakeTyped();
+    if (mayDiscard()) CFrameWndEx::OnClose();
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_view.SetFocus(); }
 
 void CMainFrame::OnEnable(BOOL enable) {
-    CFrameWnd::OnEnable(enable);
+    CFrameWndEx::OnEnable(enable);
     // A dialog has come up, under a pointer that the view no longer hears of.
     if (!enable) m_view.HideTip();
-    // A modal dialog keeps the user from the modeless one too, also while it has stepped aside.
-    if (m_layers.m_hWnd != nullptr) m_layers.EnableWindow(enable && !m_isInCommand);
+    enablePalettes();
 }
 
 /// The window went to a monitor of another resolution: it takes the place that the system suggests.
@@ -158,7 +160,7 @@ LRESULT CMainFrame::OnSelection(WPARAM, LPARAM) {
     const int count = static_cast<int>(m_view.selection().size());
     if (count > 0) text.Format(IDS_STATUS_SELECTION, count);
     m_status.SetText(text, kSelectionPane, 0);
-    showPickers();
+    showBars();
     return 0;
 }
 
@@ -179,7 +181,7 @@ void CMainFrame::showDrawing(bool keepPlace) {
     showTitle();
     showIdle();
     OnSelection(0, 0);
-    showLayers();
+    m_palettes.ShowDrawing(*m_document);
 }
 
 CString CMainFrame::shownName() const {
@@ -200,17 +202,6 @@ void CMainFrame::OnZoomOut() { m_view.Zoom(1 / kZoomStep); }
 void CMainFrame::OnProperties() {
     CPropertiesDialog dialog(*m_document->database(), selectedObjects(), this, this);
     runDialog(dialog, IDS_CHANGE_PROPERTIES);
-}
-
-void CMainFrame::OnLayers() {
-    if (m_layers.m_hWnd == nullptr && !m_layers.CreateBeside(this)) return;
-    showLayers();
-    m_layers.ShowWindow(SW_SHOW);
-    m_layers.SetActiveWindow();
-}
-
-void CMainFrame::showLayers() {
-    if (m_layers.m_hWnd != nullptr) m_layers.Show(*m_document->database(), m_document->history());
 }
 
 void CMainFrame::OnDimensionStyle() {
@@ -265,8 +256,10 @@ BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
         case ID_VIEW_ZOOM_OUT: break;
         default:
             if (m_view.IsPicking()) return TRUE;
+            // A command of the menu finds the drawing as the palettes show it.
+            if (lParam == 0) m_palettes.TakeTyped();
     }
-    return CFrameWnd::OnCommand(wParam, lParam);
+    return CFrameWndEx::OnCommand(wParam, lParam);
 }
 
 /// A modal dialog tells that it begins or ends an editor command: the frame is usable in between.
@@ -299,7 +292,7 @@ void CMainFrame::PickObjects(unsigned prompt, ObjectsPicked picked) {
 
 void CMainFrame::GetMessageString(UINT id, CString& message) const {
     if (id == AFX_IDS_IDLEMESSAGE) message = MendedText(m_document->Reading());
-    if (id != AFX_IDS_IDLEMESSAGE || message.IsEmpty()) CFrameWnd::GetMessageString(id, message);
+    if (id != AFX_IDS_IDLEMESSAGE || message.IsEmpty()) CFrameWndEx::GetMessageString(id, message);
 }
 
 void CMainFrame::showIdle() {
@@ -316,8 +309,9 @@ std::vector<OdDbObjectId> CMainFrame::selectedObjects() const {
     return {m_view.selection().begin(), m_view.selection().end()};
 }
 
-void CMainFrame::showPickers() {
+void CMainFrame::showBars() {
     if (m_pickers.m_hWnd != nullptr) m_pickers.Show(*m_document->database(), selectedObjects());
+    m_palettes.ShowObjects(*m_document->database(), selectedObjects());
 }
 
 void CMainFrame::OnPickerBar() { ShowControlBar(&m_pickers, !m_pickers.IsVisible(), FALSE); }
@@ -336,14 +330,12 @@ BOOL CMainFrame::PreTranslateMessage(MSG* message) {
     if (isEditing && message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST &&
         (message->wParam == VK_HOME || ::wcschr(L"AZY", static_cast<wchar_t>(message->wParam)) != nullptr))
         return FALSE;
-    return CFrameWnd::PreTranslateMessage(message);
+    return CFrameWndEx::PreTranslateMessage(message);
 }
 
 void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
 
 void CMainFrame::OnOptions() {
-    const CString folder = ktutProgramFolder().c_str();
-    if (m_extensions == nullptr) m_extensions = std::make_unique<CExtensions>(folder + L"extensions\\");
     // Other ways lead to the drawing's units too.
     m_options.units = UnitsOf(*m_document->database());
     COptionsDialog dialog(

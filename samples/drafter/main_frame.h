@@ -2,13 +2,14 @@
 #pragma once
 
 #include <afxwin.h>
+#include <afxframewndex.h>
 
 #include "draft_document.h"
 #include "drawing_picker.h"
 #include "drawing_view.h"
 #include "extensions.h"
-#include "layers_dialog.h"
 #include "options.h"
+#include "palettes.h"
 #include "picker_bar.h"
 #include "status_line.h"
 
@@ -17,7 +18,11 @@
 class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWnd, private CDrawingPicker, private StandinPlotView {
+class CMainFrame : public CFrameWndEx,
+                   private CDrawingPicker,
+                   private CBlockTarget,
+                   private CDrafterServices,
+                   private StandinPlotView {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
@@ -30,19 +35,21 @@ public:
 
     BOOL PreTranslateMessage(MSG* message) override;
 
+    CPalettes& palettes() { return m_palettes; }
+
 protected:
     CWnd* GetMessageBar() override { return &m_status; }
     /// While nothing else is to be said, what was mended in the drawing.
     void GetMessageString(UINT id, CString& message) const override;
     /// While the user picks, only what changes the view or the selection goes on.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
-    void RecalcLayout(BOOL notify = TRUE) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnClose();
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnEnable(BOOL enable);
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
@@ -62,7 +69,9 @@ protected:
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnProperties();
+    afx_msg void OnPropertiesPalette();
     afx_msg void OnLayers();
+    afx_msg void OnBlocks();
     afx_msg void OnDimensionStyle();
     afx_msg void OnTextStyle();
     afx_msg void OnMeasure();
@@ -71,9 +80,13 @@ protected:
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPickerBar();
+    afx_msg void OnPalette(UINT id);
+    afx_msg void OnLock(UINT id);
     afx_msg void OnSearchLayers();
     afx_msg void OnOptions();
     afx_msg void OnUpdatePickerBar(CCmdUI* item);
+    afx_msg void OnUpdatePalette(CCmdUI* item);
+    afx_msg void OnUpdateLock(CCmdUI* item);
     afx_msg void OnUpdateUndo(CCmdUI* item);
     afx_msg void OnUpdateRedo(CCmdUI* item);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
@@ -84,6 +97,11 @@ private:
     void PickObjects(unsigned prompt, ObjectsPicked picked) override;
     bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override;
     bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override;
+    bool TakesBlockAt(CPoint screen) const override;
+    void DropBlock(const OdDbObjectId& block, CPoint screen) override;
+    void PlaceBlock(const OdDbObjectId& block) override;
+    void DrawingChanged(const wchar_t* name) override;
+    void insertBlock(const OdDbObjectId& block, const OdGePoint2d& place);
     void showIdle();
     void showPrompt();
     void showDocument(std::unique_ptr<CDraftDocument> document);
@@ -91,8 +109,9 @@ private:
     void useOptions(const DrafterOptions& options);
     /// The same, and keeps them for the user.
     void applyOptions(const DrafterOptions& options);
-    void showPickers();
-    void showLayers();
+    /// The picker bar and the palettes follow the drawing and the selection.
+    void showBars();
+    void enablePalettes();
     std::vector<OdDbObjectId> selectedObjects() const;
     void showDrawing(bool keepPlace);
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
@@ -100,6 +119,7 @@ private:
     void runDialog(CDialog& dialog, UINT name);
     /// Makes one step of Undo of what was changed, under the string `name`, and shows the drawing.
     void finishChange(UINT name);
+    void finishChange(const CString& name);
     /// Makes a font file known to the host, and to the system for as long as the program runs; its first
     /// style, or null with the reason in `message`.
     CKhFontStyle* loadFont(const CString& file, CString& message);
@@ -125,8 +145,8 @@ private:
     CStatusLine m_status;
     unsigned m_firstPrompt = 0;
     CPickerBar m_pickers;
-    CLayersDialog m_layers;      ///< its window exists while it is open
+    std::unique_ptr<CExtensions> m_extensions;
+    CPalettes m_palettes;
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
     DrafterOptions m_options;
-    std::unique_ptr<CExtensions> m_extensions;  ///< from the first time that Options is opened
 };

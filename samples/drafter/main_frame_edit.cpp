@@ -6,9 +6,15 @@
 void CMainFrame::finishChange(UINT name) {
     CString text;
     text.LoadString(name);
-    m_document->history().Commit(text.GetString());
+    finishChange(text);
+}
+
+void CMainFrame::finishChange(const CString& name) {
+    m_document->history().Commit(name.GetString());
     showDrawing(true);
 }
+
+void CMainFrame::DrawingChanged(const wchar_t* name) { finishChange(CString(name)); }
 
 void CMainFrame::OnUndo() {
     if (m_document->history().Undo()) showDrawing(true);

@@ -116,8 +116,7 @@ UINT CPickerBar::nameOf(UINT id) {
 
 void CPickerBar::fillLists() {
     m_linetype.ShowLTypes(true);
-    m_plotStyle.ResetContent();
-    m_plotStyle.AddItems();
+    RefillPlotStyles(m_plotStyle, *m_drawing);
 }
 
 void CPickerBar::fillLayers() {

@@ -6,69 +6,38 @@
 #include "measurement.h"
 #include "object_kinds.h"
 #include "resource.h"
-#include "unit_texts.h"
 
 namespace {
-
-constexpr double kLargestThickness = 10000;  // drawing units
-constexpr double kQuarterOfTurn = 0.7853981633974483;
 
 CString layerLinetype(const OdDbLayerTableRecord& layer) {
     const auto linetype = layer.linetypeObjectId().open<OdDbLinetypeTableRecord>();
     return linetype ? CString(linetype->getName().c_str()) : CString();
 }
 
-/// The text of a value; nothing for a value that varies.
-std::optional<CString> shown(const std::optional<double>& value, CString (*format)(double)) {
-    if (!value) return {};
-    return format(*value);
-}
-std::optional<CString> shown(const std::optional<OdString>& value) {
-    if (!value) return {};
-    return CString(value->c_str());
-}
-
 }  // namespace
 
-IMPLEMENT_DYNAMIC(CPropertiesDialog, CFieldsDialog)
+IMPLEMENT_DYNAMIC(CPropertiesDialog, CPropertyFields)
 
-BEGIN_MESSAGE_MAP(CPropertiesDialog, CFieldsDialog)
-    ON_CBN_CLOSEUP(IDC_TRUE_COLOR, &CPropertiesDialog::OnTrueColor)
-    ON_CBN_SELENDOK(IDC_TRUE_COLOR, &CPropertiesDialog::OnTrueColor)
-    ON_CBN_CLOSEUP(IDC_INDEX_COLOR, &CPropertiesDialog::OnIndexColor)
-    ON_CBN_SELENDOK(IDC_INDEX_COLOR, &CPropertiesDialog::OnIndexColor)
+BEGIN_MESSAGE_MAP(CPropertiesDialog, CPropertyFields)
     ON_BN_CLICKED(IDC_PICK_ROTATION, &CPropertiesDialog::OnPickRotation)
     ON_BN_CLICKED(IDC_SELECT_OBJECTS, &CPropertiesDialog::OnSelectObjects)
 END_MESSAGE_MAP()
 
 CPropertiesDialog::CPropertiesDialog(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects, CWnd* parent,
                                      CDrawingPicker* picker)
-    : CFieldsDialog(IDD_PROPERTIES, L"Properties", parent),
+    : CPropertyFields(IDD_PROPERTIES, L"Properties", parent),
       m_drawing(drawing),
       m_objects(std::move(objects)),
-      m_picker(picker) {
-    AddField(IDC_LINETYPE_SCALE, m_linetypeScale, IDS_BAD_LINETYPE_SCALE);
-    AddField(IDC_HYPERLINK, m_hyperlink, IDS_BAD_HYPERLINK);
-    AddField(IDC_ELEVATION, m_elevation, IDS_BAD_ELEVATION, FormatDistance(12.5));
-    AddField(IDC_THICKNESS, m_thickness, IDS_BAD_THICKNESS, FormatDistance(kLargestThickness));
-    AddField(IDC_ROTATION, m_rotation, IDS_BAD_ROTATION, FormatAngle(kQuarterOfTurn));
-}
+      m_picker(picker) {}
 
 void CPropertiesDialog::DoDataExchange(CDataExchange* exchange) {
-    CFieldsDialog::DoDataExchange(exchange);
-    m_pickers.Exchange(exchange);
-    DDX_Control(exchange, IDC_LAYER, m_layer);
+    CPropertyFields::DoDataExchange(exchange);
     DDX_Control(exchange, IDC_LAYER_LIST, m_layers);
 }
 
 BOOL CPropertiesDialog::OnInitDialog() {
-    const BOOL result = CFieldsDialog::OnInitDialog();
+    const BOOL result = CPropertyFields::OnInitDialog();
     showTitle();
-    m_linetypeScale.SetStyleMask(kKtUiEditNoNegative | kKtUiEditNoZero);
-    m_elevation.SetStyleMask(kKtUiEditValidateOnKillFocus);
-    m_thickness.SetStyleMask(kKtUiEditValidateOnKillFocus | kKtUiEditNoNegative);
-    m_thickness.SetRange(0, kLargestThickness);
-    m_rotation.SetStyleMask(kKtUiEditValidateOnKillFocus);
     attachPickButtons();
     fillFields();
     fillLayers();
@@ -85,31 +54,9 @@ void CPropertiesDialog::showTitle() {
     SetWindowText(title);
 }
 
-void CPropertiesDialog::fillField(unsigned id, const std::optional<CString>& text) {
-    if (text)
-        FillField(id, *text);
-    else if (GetDlgItem(static_cast<int>(id))->IsWindowEnabled())
-        FillVaryingField(id);
-}
-
 void CPropertiesDialog::fillFields() {
-    const PropertyValues values = ReadProperties(m_drawing, m_objects);
-    m_pickers.Show(m_drawing, values);
-    m_rotation.EnableWindow(values.hasRotation);
-    GetDlgItem(IDC_PICK_ROTATION)->EnableWindow(values.hasRotation && m_picker != nullptr);
-    m_hyperlink.EnableWindow(values.hasHyperlink);
-    fillField(IDC_LINETYPE_SCALE, shown(values.linetypeScale, FormatNumber));
-    m_layer.Fill(m_drawing);
-    if (values.layer)
-        m_layer.Show(*values.layer);
-    else
-        m_layer.ShowVaries();
-    m_shownLayer = values.layer;
-    fillField(IDC_HYPERLINK, shown(values.hyperlink));
-    fillField(IDC_ELEVATION, shown(values.elevation, FormatDistance));
-    fillField(IDC_THICKNESS, shown(values.thickness, FormatDistance));
-    fillField(IDC_ROTATION, shown(values.rotation, FormatAngle));
-    ShowMessage(CString());
+    ShowValues(m_drawing, m_objects);
+    GetDlgItem(IDC_PICK_ROTATION)->EnableWindow(HasRotation() && m_picker != nullptr);
 }
 
 void CPropertiesDialog::fillLayers() {
@@ -178,7 +125,7 @@ void CPropertiesDialog::OnPickRotation() {
     m_picker->PickPlaces(2, IDS_PICK_FROM, [this](const std::vector<OdGePoint2d>& places) {
         CompleteEditorCommand(TRUE);
         if (places.size() < 2) return;
-        m_rotation.SetWindowText(FormatAngle(MeasureLine(places[0], places[1]).direction));
+        SetRotation(MeasureLine(places[0], places[1]).direction);
     });
 }
 
@@ -195,14 +142,7 @@ void CPropertiesDialog::OnSelectObjects() {
 }
 
 void CPropertiesDialog::Apply() {
-    PropertyValues values;
-    m_pickers.Collect(values);
-    values.linetypeScale = EditedDistance(IDC_LINETYPE_SCALE);
-    if (const auto layer = m_layer.Picked(); layer && layer != m_shownLayer) values.layer = layer;
-    if (IsEdited(IDC_HYPERLINK)) values.hyperlink = OdString(FieldText(IDC_HYPERLINK));
-    values.elevation = EditedDistance(IDC_ELEVATION);
-    values.thickness = EditedDistance(IDC_THICKNESS);
-    values.rotation = EditedAngle(IDC_ROTATION);
+    const PropertyValues values = EnteredValues();
     if (m_layersFrom) TakeLayers(m_drawing, *m_layersFrom);
     WriteProperties(m_drawing, m_objects, values);
     SaveColumnSizes(&m_layers);

@@ -1,17 +1,12 @@
-// Format > Properties: colour, linetype, lineweight, plot style, linetype scale, layer, hyperlink, elevation,
-// thickness and rotation of the selected objects, or of the current settings, and the list of layers.
-//
-// A field or picker that the user leaves alone is not written, so objects that differ in it keep their own
-// values.
+// Format > Properties: the properties of the selected objects, or of the current settings, and the list of
+// layers.
 #pragma once
 
 #include "drawing_picker.h"
-#include "fields_dialog.h"
 #include "layer_drop_site.h"
-#include "layer_picker.h"
-#include "property_pickers.h"
+#include "property_fields.h"
 
-class CPropertiesDialog : public CFieldsDialog {
+class CPropertiesDialog : public CPropertyFields {
     DECLARE_DYNAMIC(CPropertiesDialog)
 
 public:
@@ -25,8 +20,6 @@ protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void Apply() override;
 
-    afx_msg void OnTrueColor() { m_pickers.OnTrueColor(); }
-    afx_msg void OnIndexColor() { m_pickers.OnIndexColor(); }
     afx_msg void OnPickRotation();
     afx_msg void OnSelectObjects();
     DECLARE_MESSAGE_MAP()
@@ -34,7 +27,6 @@ protected:
 private:
     void showTitle();
     void fillFields();
-    void fillField(unsigned id, const std::optional<CString>& text);
     void fillLayers();
     void registerResizing();
     void attachPickButtons();
@@ -44,14 +36,6 @@ private:
     CDrawingPicker* m_picker;
     CKtUiPickButton m_pickRotation;
     CKtUiSelectButton m_selectObjects;
-    CPropertyPickers m_pickers;
-    CReportingEdit<CKtUiNumericEdit> m_linetypeScale;
-    CLayerPicker m_layer;
-    std::optional<OdString> m_shownLayer;  ///< nothing while it varies
-    CReportingEdit<CKtUiStringEdit> m_hyperlink;
-    CReportingEdit<CKtUiNumericEdit> m_elevation;
-    CReportingEdit<CKtUiNumericEdit> m_thickness;
-    CReportingEdit<CKtUiAngleEdit> m_rotation;
     CKbUiListCtrl m_layers;
     CLayerDropSite m_dropSite;
     OdDbDatabasePtr m_layersFrom;  ///< whose layer settings are taken with OK; null for none

@@ -17,10 +17,9 @@ bool CLayerLineTypePicker::GetCurrentLayerLineType(OdDbObjectId& id) {
 }
 
 void CLayerLineTypePicker::Show(const std::optional<OdDbObjectId>& linetype) {
-    if (linetype)
-        setCurSelByOID(*linetype);
-    else
-        ShowVaries();
+    if (!linetype) return ShowVaries();
+    ForgetVaries();
+    setCurSelByOID(*linetype);
 }
 
 std::optional<OdDbObjectId> CLayerLineTypePicker::Picked() {
@@ -30,15 +29,22 @@ std::optional<OdDbObjectId> CLayerLineTypePicker::Picked() {
 }
 
 void CLineWeightPicker::Show(const std::optional<OdDb::LineWeight>& weight) {
-    if (weight)
-        SetCurSel(FindItemByLineWeight(*weight));
-    else
-        ShowVaries();
+    if (!weight) return ShowVaries();
+    ForgetVaries();
+    SetCurSel(FindItemByLineWeight(*weight));
 }
 
 std::optional<OdDb::LineWeight> CLineWeightPicker::Picked() {
     if (GetCurSel() < 0 || IsVaries()) return {};
     return static_cast<OdDb::LineWeight>(GetCurrentItemLineWeight());
+}
+
+void RefillPlotStyles(CKtUiPlotStyleNamesComboBox& picker, const OdDbDatabase& drawing) {
+    const bool byName = drawing.getPSTYLEMODE() == 0;
+    // After a drawing that plots by colour the picker has to be told, which leaves ByColor in its list.
+    if (byName) picker.SetNamedMode();
+    picker.ResetContent();
+    if (byName) picker.AddItems();
 }
 
 void CPropertyPickers::Exchange(CDataExchange* exchange) {
@@ -47,6 +53,11 @@ void CPropertyPickers::Exchange(CDataExchange* exchange) {
     DDX_Control(exchange, IDC_LINETYPE, m_linetype);
     DDX_Control(exchange, IDC_LINE_WEIGHT, m_lineWeight);
     DDX_Control(exchange, IDC_PLOT_STYLE, m_plotStyle);
+}
+
+void CPropertyPickers::Refill(const OdDbDatabase& drawing) {
+    m_linetype.ShowLTypes(true);
+    RefillPlotStyles(m_plotStyle, drawing);
 }
 
 void CPropertyPickers::Show(const OdDbDatabase& drawing, const PropertyValues& values) {
@@ -64,6 +75,8 @@ void CPropertyPickers::showColor(const std::optional<OdCmColor>& color) {
         m_indexColor.ShowVaries();
         return;
     }
+    m_trueColor.ForgetVaries();
+    m_indexColor.ForgetVaries();
     m_trueColor.SetCurSel(m_trueColor.AddColorToMRU(*color));
     m_indexColor.SetCurSel(color->isByACI() ? m_indexColor.AddColorToMRU(color->colorIndex()) : -1);
 }
@@ -75,10 +88,12 @@ void CPropertyPickers::showPlotStyle(const OdDbDatabase& drawing, const std::opt
         m_plotStyle.SetColorDependentMode();
         return;
     }
+    m_plotStyle.EnableWindow();
     if (!name) {
         m_plotStyle.ShowVaries();
         return;
     }
+    m_plotStyle.ForgetVaries();
     const bool isNormal = ktdbIsReservedString(*name, kKtdbNormal);
     const OdString shown = isNormal ? ktdbGetReservedString(kKtdbNormal, true) : *name;
     const int item = m_plotStyle.FindStringExact(-1, shown);

@@ -29,10 +29,16 @@ public:
     std::optional<OdDb::LineWeight> Picked();
 };
 
+/// Fills a list of plot styles anew for a drawing that has them by name; that of another drawing becomes
+/// empty.
+void RefillPlotStyles(CKtUiPlotStyleNamesComboBox& picker, const OdDbDatabase& drawing);
+
 class CPropertyPickers {
 public:
     /// Binds the controls IDC_TRUE_COLOR, IDC_INDEX_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT and IDC_PLOT_STYLE.
     void Exchange(CDataExchange* exchange);
+    /// Fills the lists of linetypes and plot styles anew from the drawing, which is the working one.
+    void Refill(const OdDbDatabase& drawing);
     /// Shows the values of the drawing's objects or settings.
     void Show(const OdDbDatabase& drawing, const PropertyValues& values);
     /// Puts what was picked into `values`.

@@ -1,5 +1,7 @@
 #include "status_line.h"
 
+#include <afxext.h>
+
 namespace {
 
 constexpr int kPromptPane = 0;
@@ -12,6 +14,7 @@ IMPLEMENT_DYNAMIC(CStatusLine, CStatusBarCtrl)
 
 BEGIN_MESSAGE_MAP(CStatusLine, CStatusBarCtrl)
     ON_MESSAGE(WM_SETTEXT, &CStatusLine::OnSetText)
+    ON_MESSAGE(WM_SIZEPARENT, &CStatusLine::OnSizeParent)
 END_MESSAGE_MAP()
 
 void CStatusLine::Say(const CString& prompt) {
@@ -44,4 +47,16 @@ CString CStatusLine::fitted(const CString& prompt) {
 LRESULT CStatusLine::OnSetText(WPARAM, LPARAM lParam) {
     Say(reinterpret_cast<const wchar_t*>(lParam));
     return TRUE;
+}
+
+/// Takes the bottom of what the frame gives away. The control is one of the system, which finds its place by
+/// itself.
+LRESULT CStatusLine::OnSizeParent(WPARAM, LPARAM lParam) {
+    auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+    if ((GetStyle() & WS_VISIBLE) == 0) return 0;
+    if (layout.hDWP != nullptr) SendMessage(WM_SIZE);
+    CRect place;
+    GetWindowRect(&place);
+    layout.rect.bottom -= place.Height();
+    return 0;
 }

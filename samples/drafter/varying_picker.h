@@ -20,6 +20,13 @@ public:
         this->SetCurSel(0);
         this->SetLastSelection(0);
     }
+    /// Takes the entry away again, when the objects agree.
+    void ForgetVaries() {
+        if (!m_hasVaries) return;
+        m_hasVaries = false;
+        for (int index = this->GetCount() - 1; index >= 0; --index)
+            if (this->GetItemCargo(index) == kCargoVaries) this->DeleteString(static_cast<UINT>(index));
+    }
     /// Whether that entry is selected.
     bool IsVaries() { return this->GetCurrentItemCargo() == kCargoVaries; }
 

@@ -1,4 +1,5 @@
-// The title block extension: a page in the drafter's options that fills the texts of a title block.
+// The title block extension: a page in the drafter's options, and a palette, that fill the texts of a title
+// block.
 #include <memory>
 
 #include <ktui/ktui.h>
@@ -6,22 +7,13 @@
 
 #include "drafter/extension_api.h"
 #include "resource.h"
-#include "title_values.h"
+#include "title_fields.h"
+#include "title_palette.h"
 
 namespace {
 
-constexpr int kLongestField = 80;  // characters
-
 AFX_EXTENSION_MODULE module = {};
 
-/// A string of this module, whichever is the current one.
-CString textOf(UINT id) {
-    wchar_t text[200] = {};
-    ::LoadStringW(module.hModule, id, text, 200);
-    return text;
-}
-
-/// Keeps what was entered for the user beside the options of the drafter.
 class Page : public CKtUiTabChildDialog {
 public:
     Page() {
@@ -37,11 +29,7 @@ public:
 protected:
     BOOL OnInitDialog() override {
         const BOOL result = CKtUiTabChildDialog::OnInitDialog();
-        for (const Field& field : kFields) {
-            CString text;
-            GetDialogData(field.name, text);
-            SetDlgItemText(field.id, text);
-        }
+        ShowTitleFields(*this);
         return result;
     }
     void DoDataExchange(CDataExchange* exchange) override {
@@ -52,37 +40,15 @@ protected:
     void OnMainDialogOK() override { fill(); }
 
 private:
-    struct Field {
-        int id;
-        const wchar_t* name;
-    };
-    static constexpr Field kFields[] = {
-        {IDC_PROJECT, L"Project"}, {IDC_DRAWN_BY, L"DrawnBy"}, {IDC_CHECKED_BY, L"CheckedBy"}};
-
-    CString text(int id) const {
-        CString found;
-        GetDlgItemText(id, found);
-        return found.Trim();
-    }
     bool accept() {
-        for (const Field& field : kFields) {
-            if (text(field.id).GetLength() <= kLongestField) continue;
-            SetDlgItemText(IDC_TITLE_MESSAGE, textOf(IDS_TOO_LONG));
-            // OK and Apply ask the page behind the others as well.
-            if (m_tab != nullptr) m_tab->SetActiveTab(GetTabIndex());
-            GotoDlgCtrl(GetDlgItem(field.id));
-            return false;
-        }
-        SetDlgItemText(IDC_TITLE_MESSAGE, L"");
-        return true;
+        const int bad = BadTitleField(*this);
+        if (bad == 0) return true;
+        // OK and Apply ask the page behind the others as well.
+        if (m_tab != nullptr) m_tab->SetActiveTab(GetTabIndex());
+        GotoDlgCtrl(GetDlgItem(bad));
+        return false;
     }
-    void fill() {
-        for (const Field& field : kFields) SetDialogData(field.name, text(field.id));
-        OdDbDatabase* drawing = oddbHostApplicationServices()->workingDatabase();
-        if (drawing == nullptr) return;
-        FillTitleBlock(*drawing, {OdString(text(IDC_PROJECT)), OdString(text(IDC_DRAWN_BY)),
-                                  OdString(text(IDC_CHECKED_BY))});
-    }
+    void fill() { FillFromTitleFields(*this); }
 };
 
 std::unique_ptr<Page> page;
@@ -94,7 +60,15 @@ extern "C" __declspec(dllexport) int drafterExtensionVersion() { return kDrafter
 extern "C" __declspec(dllexport) void drafterExtensionAddTabs(CKbUiTabExtensionManager& manager) {
     if (CString(manager.GetDialogName()) != L"Options") return;
     page = std::make_unique<Page>();
-    manager.AddTab(module.hModule, IDD_TITLE_BLOCK, textOf(IDS_TITLE_PAGE), page.get());
+    manager.AddTab(module.hModule, IDD_TITLE_BLOCK, TitleText(IDS_TITLE_PAGE), page.get());
+}
+
+extern "C" __declspec(dllexport) bool drafterExtensionAddPalettes(CKbUiPaletteSet& set,
+                                                                  CDrafterServices& services) {
+    auto palette = std::make_unique<CTitlePalette>(module.hModule, services);
+    if (set.AddPalette(palette.get()) != 0) return false;
+    palette.release();  // the set's now
+    return true;
 }
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {

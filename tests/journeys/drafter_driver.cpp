@@ -6,8 +6,10 @@ namespace {
 
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 
-std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder) {
+std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder,
+                       const std::wstring& switches) {
     std::wstring command = L"\"" + (folder.empty() ? journey::programFolder() : folder) + L"drafter.exe\"";
+    if (!switches.empty()) command += L" " + switches;
     if (!drawing.empty()) command += L" \"" + drawing + L"\"";
     return command;
 }
@@ -21,8 +23,8 @@ bool isFrame(HWND window) {
 
 namespace journey {
 
-Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder)
-    : Program(commandOf(drawing, folder), isFrame) {}
+Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder, const std::wstring& switches)
+    : Program(commandOf(drawing, folder, switches), isFrame) {}
 
 HWND Drafter::view() const { return ::GetDlgItem(frame(), 0xE900); }
 
@@ -39,6 +41,38 @@ HWND Drafter::openProperties() {
     activate(frame());
     key('1', true);
     return waitForDialog(L"Properties");
+}
+
+HWND Drafter::panelWith(int control) const {
+    struct Search {
+        int control;
+        HWND panel;
+    } search = {control, nullptr};
+    // Its palette may float.
+    findWindow([&](HWND window) {
+        ::EnumChildWindows(
+            window,
+            [](HWND child, LPARAM parameter) -> BOOL {
+                auto& s = *reinterpret_cast<Search*>(parameter);
+                if (::GetDlgCtrlID(child) != s.control || !::IsWindowVisible(child)) return TRUE;
+                s.panel = ::GetParent(child);
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&search));
+        return search.panel != nullptr;
+    });
+    return search.panel;
+}
+
+HWND Drafter::openLayers() {
+    activate(frame());
+    key('L', true);
+    HWND panel = nullptr;
+    waitUntil([&] {
+        panel = panelWith(kLayersPanel);
+        return panel != nullptr && ::IsChild(panel, focusOf(panel));
+    });
+    return panel;
 }
 
 std::wstring drawingsFolder() { return KTUI_DRAWINGS; }
@@ -58,6 +92,7 @@ std::wstring scratchCopy(const std::wstring& drawing) {
 void forgetSettings() {
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs");
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\Drafter\\Recent File List");
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\Drafter\\Workspace");
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmora\\ktui\\Default\\Export");
 }
 

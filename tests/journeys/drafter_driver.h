@@ -1,6 +1,7 @@
 // Drives the drafter sample from outside, and knows its drawings and settings.
 #pragma once
 
+#include "../../samples/drafter/resource.h"
 #include "program_driver.h"
 
 namespace journey {
@@ -8,15 +9,24 @@ namespace journey {
 class Drafter : public Program {
 public:
     /// Starts drafter.exe on `drawing` (a path, or empty for none): the one in `folder` (with a backslash at
-    /// the end), or without a folder the one beside this program.
-    explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {});
+    /// the end), or without a folder the one beside this program. `switches` go before the drawing.
+    explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {},
+                     const std::wstring& switches = {});
 
     HWND view() const;
     /// Opens another drawing by File > Open.
     void openDrawing(const std::wstring& path);
     /// Opens Format > Properties by its key and answers the dialog.
     HWND openProperties();
+    /// The panel of a palette, docked or floating, by a control that no other one has, if that can be seen;
+    /// null otherwise.
+    HWND panelWith(int control) const;
+    /// Goes to the palette of layers by its key and answers its panel.
+    HWND openLayers();
 };
+
+/// Controls that only one panel has.
+constexpr int kPropertiesPanel = IDC_PANEL_TITLE, kLayersPanel = IDC_CURRENT_LAYER;
 
 /// The folder of the sample's drawings, and a scratch copy of one of them.
 std::wstring drawingsFolder();

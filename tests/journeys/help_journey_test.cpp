@@ -87,11 +87,10 @@ TEST_F(Help, F1InADialogOpensItsPage) {
     cancel(dialog);
 }
 
-TEST_F(Help, F1InAModelessDialogOpensItsPage) {
-    HWND layers = openByKey('L');
-    ASSERT_NE(layers, nullptr);
+TEST_F(Help, F1InAPaletteOpensItsPage) {
+    ASSERT_NE(drafter->openLayers(), nullptr);
     EXPECT_EQ(shownByF1(), L"Layers.html");
-    drafter->activate(drafter->frame());
+    drafter->key(VK_ESCAPE);
     EXPECT_EQ(shownByF1(), L"index.html") << "in the drawing beside it";
 }
 

@@ -23,7 +23,7 @@ protected:
         line->setLayer(table->getAt(L"walls"));
         open(*drawing, L"layers.dxf");
     }
-    HWND openLayers() { return dialog = openByKey('L'); }
+    HWND openLayers() { return dialog = drafter->openLayers(); }
     static OdDbLayerTableRecordPtr layerOf(OdDbDatabase& drawing, const wchar_t* name) {
         OdDbLayerTablePtr table;
         drawing.getLayerTable(table);
@@ -66,7 +66,9 @@ TEST_F(LayersJourney, ByKeysAlone) {
     drafter->key(VK_RETURN);
     EXPECT_TRUE(waitUntil([&] { return textOf(item(dialog, IDC_CURRENT_LAYER)) == L"Current layer: roof"; }));
     drafter->key(VK_ESCAPE);
-    EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_TRUE(waitUntil([&] { return focusOf(dialog) == drafter->view(); }))
+        << "Escape goes to the drawing";
+    EXPECT_TRUE(::IsWindowVisible(dialog));
     const OdDbDatabasePtr drawing = saved();
     ASSERT_TRUE(layerOf(*drawing, L"facade"));
     EXPECT_TRUE(layerOf(*drawing, L"facade")->isOff());
@@ -97,15 +99,16 @@ TEST_F(LayersJourney, ByMouseWithUndoBesideIt) {
 
 TEST_F(LayersJourney, AModalDialogKeepsTheUserFromIt) {
     ASSERT_NE(openLayers(), nullptr);
-    HWND properties = openByKey('1');
+    const HWND properties = openByKey('1');
     ASSERT_NE(properties, nullptr);
-    if (properties == dialog) properties = drafter->waitForDialog(L"Properties");
-    ASSERT_NE(properties, nullptr);
-    EXPECT_FALSE(::IsWindowEnabled(dialog));
+    const HWND list = item(dialog, IDC_LAYER_LIST);
+    drafter->click(list, {8, 34});
+    EXPECT_NE(focusOf(dialog), list);
     drafter->activate(properties);
     drafter->key(VK_ESCAPE);
     EXPECT_TRUE(drafter->waitUntilGone(properties));
-    EXPECT_TRUE(waitUntil([&] { return ::IsWindowEnabled(dialog) != FALSE; }));
+    drafter->click(list, {8, 34});
+    EXPECT_TRUE(waitUntil([&] { return focusOf(dialog) == list; }));
 }
 
 TEST_F(LayersJourney, AnotherDrawingComesUnderIt) {

@@ -67,15 +67,11 @@ TEST_F(PickerBarJourney, ByKeysItSetsWhatNewObjectsGet) {
 }
 
 TEST_F(PickerBarJourney, ByKeysALayerIsSearchedForAndTaken) {
-    drafter->activate(drafter->frame());
-    drafter->key('L', true);
-    HWND layers = drafter->waitForDialog(L"Layers");
-    ASSERT_NE(layers, nullptr);
+    ASSERT_NE(drafter->openLayers(), nullptr);
     drafter->key('N', false, true);
     drafter->type(L"facade");
     drafter->key(VK_RETURN);
     drafter->key(VK_ESCAPE);
-    ASSERT_TRUE(drafter->waitUntilGone(layers));
     selectAll();
     drafter->key('F', true);
     drafter->type(L"FAC");

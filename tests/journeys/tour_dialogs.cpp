@@ -315,6 +315,7 @@ int ShowDialogs() {
         showOptions(drafter);
         showMeasure(drafter);
         showPickerBar(drafter);
+        if (const char* missing = ShowPalettes(drafter)) throw Missing{missing};
         showQuestion(drafter);
     } catch (const Missing& missing) {
         std::printf("error: %s did not come up\n", missing.what);

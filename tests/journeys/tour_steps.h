@@ -3,9 +3,17 @@
 
 #include <string>
 
+namespace journey {
+class Drafter;
+}
+
 /// Announces what was done and takes a picture named after the step.
 void tell(const char* name, const std::wstring& text);
 
 /// Goes through every dialog with its pickers closed and dropped, and the dialogs behind them. 0, or 1 if
 /// something did not come up.
 int ShowDialogs();
+
+/// Changes a property, lists layers and drops a block, and takes all of it back. What did not come up, or
+/// null.
+const char* ShowPalettes(journey::Drafter& drafter);

@@ -256,7 +256,10 @@ void CDockingManager::restore_group(const GroupRecord& group,
     if (tabbed == nullptr) return;
     for (const TabRecord& tab : group.tabs) {
         CDockablePane* pane = found(tab.pane);
-        if (pane != nullptr && !tab.shown) pane->ShowPane(FALSE, FALSE, FALSE);
+        if (pane == nullptr) continue;
+        // A pane that was hidden before has only got a tab so far.
+        pane->m_isShown = tab.shown;
+        if (!tab.shown) pane->ShowPane(FALSE, FALSE, FALSE);
     }
     CMFCBaseTabCtrl* control = tabbed->GetUnderlyingWindow();
     if (active != nullptr) control->SetActiveTab(control->GetTabFromHwnd(active->m_hWnd));

@@ -7,7 +7,7 @@
 #include "../../../samples/drafter/dimension_style_dialog.h"
 #include "../../../samples/drafter/drawing_picker.h"
 #include "../../../samples/drafter/extensions.h"
-#include "../../../samples/drafter/layers_dialog.h"
+#include "../../../samples/drafter/layers_panel.h"
 #include "../../../samples/drafter/measure_dialog.h"
 #include "../../../samples/drafter/name_dialog.h"
 #include "../../../samples/drafter/options_dialog.h"
@@ -97,8 +97,8 @@ TEST_F(HelpTopics, EachDialogOpensItsOwn) {
 
 TEST_F(HelpTopics, TheLayersDialogHasOneInTheListAndInTheSearchBox) {
     CUndoHistory history(drawing);
-    CLayersDialog layers([] {});
-    ASSERT_TRUE(layers.CreateBeside(&parent));
+    CLayersPanel layers([] {});
+    ASSERT_TRUE(layers.Create(IDD_LAYERS_PANEL, &parent));
     layers.Show(*drawing, history);
     layers.ShowWindow(SW_SHOW);
     for (const int id : {IDC_LAYER_LIST, IDC_LAYER_SEARCH}) {
@@ -169,7 +169,9 @@ const std::map<UINT, const wchar_t*> kTopics = {{IDD_PROPERTIES, L"Properties"},
                                                 {IDD_OPTIONS_UNITS, L"OptionsUnits"},
                                                 {IDD_PICKER_BAR, L"PickerBar"},
                                                 {IDD_MEASURE, L"Measure"},
-                                                {IDD_LAYERS, L"Layers"}};
+                                                {IDD_LAYERS_PANEL, L"Layers"},
+                                                {IDD_PROPERTIES_PANEL, L"PropertiesPalette"},
+                                                {IDD_BLOCKS_PANEL, L"BlocksPalette"}};
 
 /// The ids of the dialog templates of a module.
 std::vector<UINT> dialogsOf(HMODULE module) {

@@ -3,3 +3,6 @@
 
 extern "C" __declspec(dllexport) int drafterExtensionVersion() { return kDrafterExtensionVersion + 1; }
 extern "C" __declspec(dllexport) void drafterExtensionAddTabs(CKbUiTabExtensionManager&) { __builtin_trap(); }
+extern "C" __declspec(dllexport) bool drafterExtensionAddPalettes(CKbUiPaletteSet&, CDrafterServices&) {
+    __builtin_trap();
+}

@@ -348,6 +348,15 @@ TEST_F(ExtensionTest, ADamagedOneAndALibraryOfAnotherKindAreSaid) {
     EXPECT_NE(other.problem().Find(L"damaged"), -1);
 }
 
+TEST_F(ExtensionTest, OneOfTheFormerVersionIsSaidWithBothVersions) {
+    ASSERT_TRUE(::CopyFileW(folder + L"..\\former_title_block.dll", scratch + L"title_block.dll", FALSE));
+    CExtensions extensions(scratch);
+    EXPECT_NE(extensions.problem().Find(L"version 1 of the extensions; this program has version 2"), -1)
+        << CStringA(extensions.problem()).GetString();
+    const auto dialog = make(&extensions);
+    show(*dialog, [&] { EXPECT_EQ(tabs(*dialog).GetItemCount(), 3); });
+}
+
 TEST_F(ExtensionTest, OneOfAnotherVersionIsSaidWithBothVersions) {
     ASSERT_TRUE(::CopyFileW(folder + L"..\\later_title_block.dll", scratch + L"title_block.dll", FALSE));
     CExtensions extensions(scratch);

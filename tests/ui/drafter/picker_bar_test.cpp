@@ -153,6 +153,9 @@ TEST_F(PickerBar, PlotStylesFollowTheKindOfTheDrawing) {
     bar.Show(*drawing, {lines[0]});
     EXPECT_TRUE(bar.GetDlgItem(IDC_PLOT_STYLE)->IsWindowEnabled());
     EXPECT_NE(shown(IDC_PLOT_STYLE), L"none");
+    for (const wchar_t* name : {L"ByLayer", L"ByBlock"})
+        EXPECT_GE(static_cast<CComboBox&>(*bar.GetDlgItem(IDC_PLOT_STYLE)).FindStringExact(-1, name), 0)
+            << name;
 }
 
 TEST_F(PickerBar, LinetypesThatAreLoadedLaterAreOffered) {

@@ -94,8 +94,9 @@ protected:
 };
 
 TEST_P(Resolutions, TextsOfTheDrafterAreWhole) {
-    for (const int id : {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME,
-                         IDD_BLOCK_CHOICE, IDD_LAYERS, IDD_MEASURE})
+    for (const int id :
+         {IDD_PROPERTIES, IDD_DIMENSION_STYLE, IDD_TEXT_STYLE, IDD_STYLE_NAME, IDD_BLOCK_CHOICE,
+          IDD_LAYERS_PANEL, IDD_PROPERTIES_PANEL, IDD_BLOCKS_PANEL, IDD_MEASURE})
         expectWhole(::GetModuleHandleW(nullptr), id);
 }
 
@@ -106,9 +107,20 @@ TEST_P(Resolutions, WhyALayerIsKeptIsReadToItsEnd) {
          {IDS_TAKEN_LAYER, IDS_FIXED_LAYER, IDS_KEEP_STANDARD, IDS_KEEP_DEPENDENT, IDS_KEEP_CURRENT,
           IDS_KEEP_OBJECT, IDS_KEEP_OBJECTS, IDS_KEEP_BLOCK, IDS_KEEP_NAMED}) {
         text.Format(textOf(id), name, 1234, L"WINDOW-DOUBLE");
-        expectFits(IDD_LAYERS, IDC_MESSAGE, text);
+        expectFits(IDD_LAYERS_PANEL, IDC_MESSAGE, text);
     }
-    expectFits(IDD_LAYERS, IDC_MESSAGE, textOf(IDS_BAD_LAYER));
+    expectFits(IDD_LAYERS_PANEL, IDC_MESSAGE, textOf(IDS_BAD_LAYER));
+}
+
+TEST_P(Resolutions, WhatThePalettesSayIsReadToItsEnd) {
+    CString text;
+    for (const UINT id : {IDS_BAD_LINETYPE_SCALE, IDS_BAD_HYPERLINK, IDS_BAD_ELEVATION, IDS_BAD_THICKNESS,
+                          IDS_BAD_ROTATION}) {
+        text.Format(textOf(id), L"10000'-0 15/16\"");
+        expectFits(IDD_PROPERTIES_PANEL, IDC_MESSAGE, text);
+    }
+    for (const UINT id : {IDS_BLOCKS_HINT, IDS_BLOCKS_NONE})
+        expectFits(IDD_BLOCKS_PANEL, IDC_MESSAGE, textOf(id));
 }
 
 TEST_P(Resolutions, TextsOfTheOptionsAreWhole) {

@@ -1,6 +1,8 @@
-// The sample's layers and measure dialogs, a thousand times each.
-#include "../../../samples/drafter/layers_dialog.h"
+// The sample's panels of palettes and its measure dialog, a thousand times each.
+#include "../../../samples/drafter/blocks_panel.h"
+#include "../../../samples/drafter/layers_panel.h"
 #include "../../../samples/drafter/measure_dialog.h"
+#include "../../../samples/drafter/properties_panel.h"
 #include "../../../samples/drafter/resource.h"
 #include "leak_fixture.h"
 
@@ -10,9 +12,23 @@ using namespace leaks;
 
 using DialogLeaks = leaks::Leaks;
 
-class OwnLayers : public CLayersDialog {
+class OwnLayers : public CLayersPanel {
 public:
-    OwnLayers() : CLayersDialog([] {}) { SetAppRootKey((CString(kDialogsKey) + L"\\").GetString()); }
+    OwnLayers() : CLayersPanel([] {}) { SetAppRootKey((CString(kDialogsKey) + L"\\").GetString()); }
+};
+
+class OwnProperties : public CPropertiesPanel {
+public:
+    OwnProperties() : CPropertiesPanel([](UINT) {}) {
+        SetAppRootKey((CString(kDialogsKey) + L"\\").GetString());
+    }
+};
+
+/// Takes no blocks.
+class NoTarget : public CBlockTarget {
+    bool TakesBlockAt(CPoint) const override { return false; }
+    void DropBlock(const OdDbObjectId&, CPoint) override {}
+    void PlaceBlock(const OdDbObjectId&) override {}
 };
 
 class OwnMeasure : public CMeasureDialog {
@@ -31,19 +47,57 @@ class QuickPicker : public CDrawingPicker {
     void PickObjects(unsigned, ObjectsPicked picked) override { picked(nullptr); }
 };
 
-TEST_F(DialogLeaks, AThousandLayersDialogsLeaveNothing) {
+TEST_F(DialogLeaks, AThousandPanelsOfLayersLeaveNothing) {
     for (const wchar_t* name : {L"walls", L"doors"}) NeedLayer(*drawing, name);
     CUndoHistory history(drawing);
     OwnLayers dialog;
     int opened = 0;
-    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_LAYERS); });
+    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_LAYERS_PANEL); });
     const auto open_once = [&] {
-        ASSERT_TRUE(dialog.CreateBeside(&parent));
+        ASSERT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
         dialog.Show(*drawing, history);
         dialog.ShowWindow(SW_SHOW);
         ui_test::pump();
         ++opened;
-        dialog.SendMessage(WM_COMMAND, IDCANCEL);
+        dialog.DestroyWindow();
+    };
+    expect_no_growth(open_once, systemGrowth, kShownGdiSlack);
+    EXPECT_EQ(opened, kTimes + kWarmUp);
+}
+
+TEST_F(DialogLeaks, AThousandPanelsOfPropertiesLeaveNothing) {
+    OwnProperties panel;
+    int opened = 0;
+    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_PROPERTIES_PANEL); });
+    const auto open_once = [&] {
+        ASSERT_TRUE(panel.Create(IDD_PROPERTIES_PANEL, &parent));
+        panel.Show(*drawing, {});
+        panel.ShowWindow(SW_SHOW);
+        ui_test::pump();
+        ++opened;
+        panel.DestroyWindow();
+    };
+    expect_no_growth(open_once, systemGrowth, kShownGdiSlack);
+    EXPECT_EQ(opened, kTimes + kWarmUp);
+}
+
+TEST_F(DialogLeaks, AThousandPanelsOfBlocksLeaveNothing) {
+    OdDbBlockTablePtr blocks;
+    drawing->getBlockTable(blocks, OdDb::kForWrite);
+    const OdDbBlockTableRecordPtr block(new OdDbBlockTableRecord);
+    block->setName(L"Door");
+    blocks->add(OdDbSymbolTableRecordPtr(block.get()));
+    NoTarget target;
+    CBlocksPanel panel(target);
+    int opened = 0;
+    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_BLOCKS_PANEL); });
+    const auto open_once = [&] {
+        ASSERT_TRUE(panel.Create(IDD_BLOCKS_PANEL, &parent));
+        panel.ShowWindow(SW_SHOW);
+        panel.Show(*drawing);
+        ui_test::pump();
+        ++opened;
+        panel.DestroyWindow();
     };
     expect_no_growth(open_once, systemGrowth, kShownGdiSlack);
     EXPECT_EQ(opened, kTimes + kWarmUp);

@@ -182,6 +182,22 @@ TEST_F(DockingState, panes_come_back_in_their_tabs) {
     }
 }
 
+TEST_F(DockingState, a_pane_that_is_hidden_when_it_comes_back_as_a_tab_counts_as_visible) {
+    Pane& first = docked(L"first", AFX_IDW_DOCKBAR_LEFT);
+    Pane& second = docked(L"second", AFX_IDW_DOCKBAR_RIGHT);
+    second.AttachToTabWnd(&first, DM_SHOW, FALSE);
+    ASSERT_TRUE(manager().SaveState(kProfile));
+    frame->DockPane(&second, AFX_IDW_DOCKBAR_RIGHT);
+    second.ShowPane(FALSE, FALSE, FALSE);
+    ASSERT_FALSE(second.IsVisible());
+    ASSERT_TRUE(manager().LoadState(kProfile));
+    ASSERT_TRUE(second.IsTabbed());
+    EXPECT_TRUE(second.IsVisible());
+    second.ShowPane(FALSE, FALSE, FALSE);
+    EXPECT_FALSE(second.IsVisible());
+    EXPECT_EQ(first.GetParentTabbedPane()->GetVisibleTabsNum(), 1);
+}
+
 TEST_F(DockingState, restoring_can_be_turned_off) {
     docked(L"left", AFX_IDW_DOCKBAR_LEFT);
     ASSERT_TRUE(manager().SaveState(kProfile));

@@ -1,5 +1,6 @@
-// The layers dialog: what it lists, what it changes, what it refuses, and how it follows the drawing.
-#include "../../../samples/drafter/layers_dialog.h"
+// The panel of the layers palette: what it lists, what it changes, what it refuses, and how it follows the
+// drawing.
+#include "../../../samples/drafter/layers_panel.h"
 #include "drafter_fixture.h"
 
 namespace {
@@ -12,7 +13,7 @@ protected:
         for (const wchar_t* name : {L"walls", L"doors", L"outer walls"}) NeedLayer(*drawing, name);
         history = std::make_unique<CUndoHistory>(drawing);
         drawing->setModified(false);
-        EXPECT_TRUE(dialog.CreateBeside(&parent));
+        EXPECT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
         dialog.Show(*drawing, *history);
         dialog.ShowWindow(SW_SHOW);
         pump();
@@ -93,7 +94,7 @@ protected:
         pump();
     }
 
-    WithOwnSettings<CLayersDialog> dialog;
+    WithOwnSettings<CLayersPanel> dialog;
     std::unique_ptr<CUndoHistory> history;
     int changes = 0;
 };
@@ -321,28 +322,20 @@ TEST_F(Layers, ANameThatIsBeingTypedGoesWithItsDrawing) {
     dialog.DestroyWindow();
 }
 
-TEST_F(Layers, ItRemembersItsSizeAndColumns) {
-    dialog.SetWindowPos(nullptr, 60, 70, 700, 520, SWP_NOZORDER);
+TEST_F(Layers, ItRemembersItsColumns) {
     list().SetColumnWidth(0, 199);
-    pump();
-    CRect before;
-    dialog.GetWindowRect(&before);
     dialog.DestroyWindow();
-    ASSERT_TRUE(dialog.CreateBeside(&parent));
+    ASSERT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
     dialog.Show(*drawing, *history);
-    CRect after;
-    dialog.GetWindowRect(&after);
-    EXPECT_EQ(after.TopLeft(), before.TopLeft());
-    EXPECT_EQ(after.Size(), before.Size());
     EXPECT_EQ(list().GetColumnWidth(0), 199);
     EXPECT_EQ(names().size(), 4u);
 }
 
-TEST_F(Layers, EscapeClosesItAndItMayBeOpenedAgain) {
+TEST_F(Layers, EscapeGoesToTheMainWindowAndTheListStays) {
+    list().SetFocus();
     dialog.SendMessage(WM_COMMAND, IDCANCEL);
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
-    ASSERT_TRUE(dialog.CreateBeside(&parent));
-    dialog.Show(*drawing, *history);
+    EXPECT_EQ(::GetFocus(), parent.m_hWnd);
+    EXPECT_TRUE(dialog.IsWindowVisible());
     EXPECT_EQ(names().size(), 4u);
 }
 

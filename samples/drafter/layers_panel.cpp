@@ -1,10 +1,11 @@
-#include "layers_dialog.h"
+#include "layers_panel.h"
 
 #include <algorithm>
 
 #include <ktut.h>
 #include <od_db_layer_use.h>
 
+#include "panel_keys.h"
 #include "resource.h"
 
 namespace {
@@ -48,38 +49,35 @@ std::optional<T> common(const std::vector<const LayerRow*>& rows, Value value) {
 
 }  // namespace
 
-IMPLEMENT_DYNAMIC(CLayersDialog, CKtUiDialog)
+IMPLEMENT_DYNAMIC(CLayersPanel, CKtUiDialog)
 
-BEGIN_MESSAGE_MAP(CLayersDialog, CKtUiDialog)
-    ON_EN_CHANGE(IDC_LAYER_SEARCH, &CLayersDialog::OnSearch)
-    ON_BN_CLICKED(IDC_NEW_LAYER, &CLayersDialog::OnNewLayer)
-    ON_BN_CLICKED(IDC_RENAME_LAYER, &CLayersDialog::OnRename)
-    ON_BN_CLICKED(IDC_DELETE_LAYER, &CLayersDialog::OnDelete)
-    ON_CBN_SELENDOK(IDC_TRUE_COLOR, &CLayersDialog::OnPicked)
-    ON_CBN_CLOSEUP(IDC_TRUE_COLOR, &CLayersDialog::OnPicked)
-    ON_CBN_SELENDOK(IDC_LINETYPE, &CLayersDialog::OnPicked)
-    ON_CBN_CLOSEUP(IDC_LINETYPE, &CLayersDialog::OnPicked)
-    ON_CBN_SELENDOK(IDC_LINE_WEIGHT, &CLayersDialog::OnPicked)
-    ON_CBN_CLOSEUP(IDC_LINE_WEIGHT, &CLayersDialog::OnPicked)
-    ON_WM_SHOWWINDOW()
+BEGIN_MESSAGE_MAP(CLayersPanel, CKtUiDialog)
+    ON_EN_CHANGE(IDC_LAYER_SEARCH, &CLayersPanel::OnSearch)
+    ON_BN_CLICKED(IDC_NEW_LAYER, &CLayersPanel::OnNewLayer)
+    ON_BN_CLICKED(IDC_RENAME_LAYER, &CLayersPanel::OnRename)
+    ON_BN_CLICKED(IDC_DELETE_LAYER, &CLayersPanel::OnDelete)
+    ON_CBN_SELENDOK(IDC_TRUE_COLOR, &CLayersPanel::OnPicked)
+    ON_CBN_CLOSEUP(IDC_TRUE_COLOR, &CLayersPanel::OnPicked)
+    ON_CBN_SELENDOK(IDC_LINETYPE, &CLayersPanel::OnPicked)
+    ON_CBN_CLOSEUP(IDC_LINETYPE, &CLayersPanel::OnPicked)
+    ON_CBN_SELENDOK(IDC_LINE_WEIGHT, &CLayersPanel::OnPicked)
+    ON_CBN_CLOSEUP(IDC_LINE_WEIGHT, &CLayersPanel::OnPicked)
     ON_WM_DESTROY()
-    ON_NOTIFY(LVN_ITEMCHANGED, IDC_LAYER_LIST, &CLayersDialog::OnItemChanged)
-    ON_NOTIFY(NM_CLICK, IDC_LAYER_LIST, &CLayersDialog::OnListClick)
-    ON_NOTIFY(NM_DBLCLK, IDC_LAYER_LIST, &CLayersDialog::OnListDoubleClick)
-    ON_NOTIFY(LVN_KEYDOWN, IDC_LAYER_LIST, &CLayersDialog::OnListKey)
-    ON_NOTIFY(LVN_BEGINLABELEDITW, IDC_LAYER_LIST, &CLayersDialog::OnBeginRename)
-    ON_NOTIFY(LVN_ENDLABELEDITW, IDC_LAYER_LIST, &CLayersDialog::OnEndRename)
-    ON_MESSAGE(WM_RENAME_LAYER, &CLayersDialog::OnRenameLayer)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_LAYER_LIST, &CLayersPanel::OnItemChanged)
+    ON_NOTIFY(NM_CLICK, IDC_LAYER_LIST, &CLayersPanel::OnListClick)
+    ON_NOTIFY(NM_DBLCLK, IDC_LAYER_LIST, &CLayersPanel::OnListDoubleClick)
+    ON_NOTIFY(LVN_KEYDOWN, IDC_LAYER_LIST, &CLayersPanel::OnListKey)
+    ON_NOTIFY(LVN_BEGINLABELEDITW, IDC_LAYER_LIST, &CLayersPanel::OnBeginRename)
+    ON_NOTIFY(LVN_ENDLABELEDITW, IDC_LAYER_LIST, &CLayersPanel::OnEndRename)
+    ON_MESSAGE(WM_RENAME_LAYER, &CLayersPanel::OnRenameLayer)
 END_MESSAGE_MAP()
 
-CLayersDialog::CLayersDialog(std::function<void()> changed)
-    : CKtUiDialog(IDD_LAYERS, nullptr, AfxGetInstanceHandle()), m_changed(std::move(changed)) {
+CLayersPanel::CLayersPanel(std::function<void()> changed)
+    : CKtUiDialog(IDD_LAYERS_PANEL, nullptr, AfxGetInstanceHandle()), m_changed(std::move(changed)) {
     SetDialogName(L"Layers");
 }
 
-BOOL CLayersDialog::CreateBeside(CWnd* frame) { return Create(IDD_LAYERS, frame); }
-
-void CLayersDialog::DoDataExchange(CDataExchange* exchange) {
+void CLayersPanel::DoDataExchange(CDataExchange* exchange) {
     CKtUiDialog::DoDataExchange(exchange);
     DDX_Control(exchange, IDC_LAYER_LIST, m_list);
     DDX_Control(exchange, IDC_TRUE_COLOR, m_color);
@@ -87,7 +85,7 @@ void CLayersDialog::DoDataExchange(CDataExchange* exchange) {
     DDX_Control(exchange, IDC_LINE_WEIGHT, m_lineWeight);
 }
 
-BOOL CLayersDialog::OnInitDialog() {
+BOOL CLayersPanel::OnInitDialog() {
     const BOOL result = CKtUiDialog::OnInitDialog();
     m_search.SubclassDlgItem(IDC_LAYER_SEARCH, this);
     m_search.SetDefaultText(textOf(IDS_SEARCH_LAYERS));
@@ -99,7 +97,7 @@ BOOL CLayersDialog::OnInitDialog() {
     return result;
 }
 
-void CLayersDialog::addColumns() {
+void CLayersPanel::addColumns() {
     constexpr struct {
         UINT title;
         int width;
@@ -115,33 +113,29 @@ void CLayersDialog::addColumns() {
     GetColumnSizes(&m_list);
 }
 
-void CLayersDialog::registerResizing() {
+void CLayersPanel::registerResizing() {
     StretchControlX(IDC_LAYER_SEARCH, 100);
     StretchControlX(IDC_CURRENT_LAYER, 100);
     StretchControlXY(IDC_LAYER_LIST, 100, 100);
-    for (const unsigned id : {IDC_NEW_LAYER, IDC_RENAME_LAYER, IDC_DELETE_LAYER, IDOK, IDCANCEL})
-        MoveControlX(id, 100);
-    for (const unsigned id : {IDC_COLOR_LABEL, IDC_LINETYPE_LABEL, IDC_WEIGHT_LABEL, IDC_TRUE_COLOR,
-                              IDC_LINETYPE, IDC_LINE_WEIGHT})
+    for (const unsigned id : {IDC_NEW_LAYER, IDC_RENAME_LAYER, IDC_DELETE_LAYER, IDOK, IDC_COLOR_LABEL,
+                              IDC_LINETYPE_LABEL, IDC_WEIGHT_LABEL})
         MoveControlY(id, 100);
+    for (const unsigned id : {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT}) {
+        StretchControlX(id, 100);
+        MoveControlY(id, 100);
+    }
     StretchControlX(IDC_MESSAGE, 100);
     MoveControlY(IDC_MESSAGE, 100);
 }
 
-void CLayersDialog::OnShowWindow(BOOL show, UINT status) {
-    CKtUiDialog::OnShowWindow(show, status);
-    if (show) KtUiBringIntoView(*this);
-}
-
-void CLayersDialog::OnDestroy() {
+void CLayersPanel::OnDestroy() {
     SaveColumnSizes(&m_list);
-    StorePixelData();
     m_drawing = nullptr;
     m_history = nullptr;
     CKtUiDialog::OnDestroy();
 }
 
-void CLayersDialog::Show(OdDbDatabase& drawing, CUndoHistory& history) {
+void CLayersPanel::Show(OdDbDatabase& drawing, CUndoHistory& history) {
     const bool isOther = m_drawing != &drawing;
     std::vector<OdDbObjectId> selected;
     if (isOther) {
@@ -160,13 +154,13 @@ void CLayersDialog::Show(OdDbDatabase& drawing, CUndoHistory& history) {
     fillList(selected);
 }
 
-OdString CLayersDialog::filter() {
+OdString CLayersPanel::filter() {
     CString text;
     if (!m_search.IsEditEmpty()) m_search.GetWindowText(text);
     return OdString(text);
 }
 
-void CLayersDialog::fillList(const std::vector<OdDbObjectId>& selected) {
+void CLayersPanel::fillList(const std::vector<OdDbObjectId>& selected) {
     // While a name is being typed the list stays.
     if (m_drawing == nullptr || m_list.GetEditControl() != nullptr) return;
     m_filling = true;
@@ -197,7 +191,7 @@ void CLayersDialog::fillList(const std::vector<OdDbObjectId>& selected) {
     showPickers();
 }
 
-void CLayersDialog::showRow(int row, const LayerRow& layer) {
+void CLayersPanel::showRow(int row, const LayerRow& layer) {
     m_list.InsertItem(row, layer.name.c_str());
     m_list.SetItemText(row, kOn, textOf(layer.isOn ? IDS_LAYER_ON : IDS_LAYER_OFF));
     m_list.SetItemText(row, kColor, ktutColorToStr(layer.color));
@@ -205,19 +199,19 @@ void CLayersDialog::showRow(int row, const LayerRow& layer) {
     m_list.SetItemText(row, kLineWeight, weightText(layer.lineWeight));
 }
 
-void CLayersDialog::showCurrent() {
+void CLayersPanel::showCurrent() {
     const auto layer = m_drawing->clayer().open<OdDbLayerTableRecord>();
     SetDlgItemText(IDC_CURRENT_LAYER, layer ? formatted(IDS_CURRENT_LAYER, layer->getName()) : CString());
 }
 
-std::vector<const LayerRow*> CLayersDialog::selectedRows() const {
+std::vector<const LayerRow*> CLayersPanel::selectedRows() const {
     std::vector<const LayerRow*> rows;
     for (int row = 0; row < static_cast<int>(m_rows.size()); ++row)
         if (m_list.GetItemState(row, LVIS_SELECTED)) rows.push_back(&m_rows[static_cast<std::size_t>(row)]);
     return rows;
 }
 
-LayerChange CLayersDialog::shownValues() const {
+LayerChange CLayersPanel::shownValues() const {
     const auto rows = selectedRows();
     LayerChange values;
     values.color = common<OdCmColor>(rows, [](const LayerRow& row) { return row.color; });
@@ -226,7 +220,7 @@ LayerChange CLayersDialog::shownValues() const {
     return values;
 }
 
-void CLayersDialog::showPickers() {
+void CLayersPanel::showPickers() {
     const std::size_t count = selectedRows().size();
     const LayerChange values = shownValues();
     m_filling = true;
@@ -241,14 +235,14 @@ void CLayersDialog::showPickers() {
     GetDlgItem(IDC_DELETE_LAYER)->EnableWindow(count > 0);
 }
 
-std::vector<OdDbObjectId> CLayersDialog::selectedLayers() const {
+std::vector<OdDbObjectId> CLayersPanel::selectedLayers() const {
     std::vector<OdDbObjectId> layers;
     for (const LayerRow* row : selectedRows()) layers.push_back(row->id);
     return layers;
 }
 
-void CLayersDialog::change(UINT name, const std::vector<OdDbObjectId>& selected,
-                           const std::function<void()>& edit) {
+void CLayersPanel::change(UINT name, const std::vector<OdDbObjectId>& selected,
+                          const std::function<void()>& edit) {
     if (m_history == nullptr) return;
     CDrawingChange step(*m_history);
     edit();
@@ -257,13 +251,13 @@ void CLayersDialog::change(UINT name, const std::vector<OdDbObjectId>& selected,
     if (isChanged) m_changed();
 }
 
-void CLayersDialog::changeSelected(const LayerChange& values) {
+void CLayersPanel::changeSelected(const LayerChange& values) {
     const std::vector<OdDbObjectId> layers = selectedLayers();
     say(CString());
     change(IDS_CHANGE_LAYER, layers, [&] { ChangeLayers(layers, values); });
 }
 
-void CLayersDialog::toggle(const std::vector<OdDbObjectId>& layers) {
+void CLayersPanel::toggle(const std::vector<OdDbObjectId>& layers) {
     if (layers.empty()) return;
     const auto first = layers.front().open<OdDbLayerTableRecord>();
     if (!first) return;
@@ -273,11 +267,11 @@ void CLayersDialog::toggle(const std::vector<OdDbObjectId>& layers) {
     change(IDS_CHANGE_LAYER, selectedLayers(), [&] { ChangeLayers(layers, values); });
 }
 
-void CLayersDialog::OnSearch() {
+void CLayersPanel::OnSearch() {
     if (m_drawing != nullptr) fillList(selectedLayers());
 }
 
-void CLayersDialog::OnNewLayer() {
+void CLayersPanel::OnNewLayer() {
     if (m_drawing == nullptr) return;
     const OdString name = FreeLayerName(*m_drawing, OdString(textOf(IDS_NEW_LAYER_NAME)));
     OdDbObjectId made;
@@ -289,14 +283,14 @@ void CLayersDialog::OnNewLayer() {
     OnRename();
 }
 
-void CLayersDialog::OnRename() {
+void CLayersPanel::OnRename() {
     const int row = m_list.GetNextItem(-1, LVNI_SELECTED);
     if (row < 0) return;
     m_list.SetFocus();
     m_list.EditLabel(row);
 }
 
-void CLayersDialog::OnDelete() {
+void CLayersPanel::OnDelete() {
     const std::vector<OdDbObjectId> layers = selectedLayers();
     if (m_drawing == nullptr || layers.empty()) return;
     LayerRefusal answer;
@@ -306,7 +300,7 @@ void CLayersDialog::OnDelete() {
     m_list.SetFocus();
 }
 
-void CLayersDialog::OnSetCurrent() {
+void CLayersPanel::OnSetCurrent() {
     const std::vector<OdDbObjectId> layers = selectedLayers();
     if (layers.size() != 1) return;
     say(CString());
@@ -314,11 +308,12 @@ void CLayersDialog::OnSetCurrent() {
 }
 
 /// Enter makes the selected layer current.
-void CLayersDialog::OnOK() { OnSetCurrent(); }
+void CLayersPanel::OnOK() { OnSetCurrent(); }
 
-void CLayersDialog::OnCancel() { DestroyWindow(); }
+/// Escape goes back to the drawing.
+void CLayersPanel::OnCancel() { AfxGetMainWnd()->SetFocus(); }
 
-void CLayersDialog::OnPicked() {
+void CLayersPanel::OnPicked() {
     if (m_filling || m_drawing == nullptr) return;
     const LayerChange shown = shownValues();
     LayerChange values;
@@ -328,12 +323,12 @@ void CLayersDialog::OnPicked() {
     if (values.color || values.linetype || values.lineWeight) changeSelected(values);
 }
 
-void CLayersDialog::OnItemChanged(NMHDR*, LRESULT* result) {
+void CLayersPanel::OnItemChanged(NMHDR*, LRESULT* result) {
     *result = 0;
     if (!m_filling) showPickers();
 }
 
-void CLayersDialog::OnListClick(NMHDR* header, LRESULT* result) {
+void CLayersPanel::OnListClick(NMHDR* header, LRESULT* result) {
     *result = 0;
     const auto& click = *reinterpret_cast<NMITEMACTIVATE*>(header);
     CPoint at(click.ptAction);
@@ -343,7 +338,7 @@ void CLayersDialog::OnListClick(NMHDR* header, LRESULT* result) {
         toggle({m_rows[static_cast<std::size_t>(row)].id});
 }
 
-void CLayersDialog::OnListDoubleClick(NMHDR* header, LRESULT* result) {
+void CLayersPanel::OnListDoubleClick(NMHDR* header, LRESULT* result) {
     *result = 0;
     const auto& click = *reinterpret_cast<NMITEMACTIVATE*>(header);
     CPoint at(click.ptAction);
@@ -352,7 +347,7 @@ void CLayersDialog::OnListDoubleClick(NMHDR* header, LRESULT* result) {
     if (column == kName) OnSetCurrent();
 }
 
-void CLayersDialog::OnListKey(NMHDR* header, LRESULT* result) {
+void CLayersPanel::OnListKey(NMHDR* header, LRESULT* result) {
     *result = 0;
     switch (reinterpret_cast<NMLVKEYDOWN*>(header)->wVKey) {
         case VK_F2: OnRename(); break;
@@ -363,7 +358,7 @@ void CLayersDialog::OnListKey(NMHDR* header, LRESULT* result) {
     }
 }
 
-void CLayersDialog::OnBeginRename(NMHDR* header, LRESULT* result) {
+void CLayersPanel::OnBeginRename(NMHDR* header, LRESULT* result) {
     const int row = reinterpret_cast<NMLVDISPINFOW*>(header)->item.iItem;
     const LayerRow& layer = m_rows[static_cast<std::size_t>(row)];
     const LayerNameProblem problem = CheckLayerName(*m_drawing, layer.name, layer.id);
@@ -371,7 +366,7 @@ void CLayersDialog::OnBeginRename(NMHDR* header, LRESULT* result) {
     *result = problem == LayerNameProblem::kFixed;
 }
 
-void CLayersDialog::OnEndRename(NMHDR* header, LRESULT* result) {
+void CLayersPanel::OnEndRename(NMHDR* header, LRESULT* result) {
     *result = FALSE;  // the list is filled anew with the name that the layer has then
     const auto& edited = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
     if (edited.pszText == nullptr || m_drawing == nullptr) return;
@@ -385,14 +380,14 @@ void CLayersDialog::OnEndRename(NMHDR* header, LRESULT* result) {
     PostMessage(WM_RENAME_LAYER);
 }
 
-LRESULT CLayersDialog::OnRenameLayer(WPARAM, LPARAM) {
+LRESULT CLayersPanel::OnRenameLayer(WPARAM, LPARAM) {
     const auto [layer, name] = std::exchange(m_renamed, {});
     if (m_drawing == nullptr || layer.database() != m_drawing) return 0;
     change(IDS_CHANGE_RENAME_LAYER, {layer}, [&] { oddbRenameLayer(layer, name); });
     return 0;
 }
 
-CString CLayersDialog::nameProblem(LayerNameProblem problem, const OdString& name) {
+CString CLayersPanel::nameProblem(LayerNameProblem problem, const OdString& name) {
     switch (problem) {
         case LayerNameProblem::kBad: return textOf(IDS_BAD_LAYER);
         case LayerNameProblem::kTaken: return formatted(IDS_TAKEN_LAYER, name);
@@ -401,7 +396,7 @@ CString CLayersDialog::nameProblem(LayerNameProblem problem, const OdString& nam
     }
 }
 
-CString CLayersDialog::refusal(const LayerRefusal& refusal) {
+CString CLayersPanel::refusal(const LayerRefusal& refusal) {
     switch (refusal.need) {
         case LayerNeed::kIsStandard: return formatted(IDS_KEEP_STANDARD, refusal.layer);
         case LayerNeed::kIsDependent: return formatted(IDS_KEEP_DEPENDENT, refusal.layer);
@@ -416,22 +411,13 @@ CString CLayersDialog::refusal(const LayerRefusal& refusal) {
     }
 }
 
-BOOL CLayersDialog::PreTranslateMessage(MSG* message) {
-    if (message->message == WM_KEYDOWN && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_MENU) >= 0 &&
-        m_list.GetEditControl() == nullptr) {
-        const CWnd* focus = GetFocus();
-        const bool isSearching = focus != nullptr && focus->GetParent() == &m_search;
+BOOL CLayersPanel::PreTranslateMessage(MSG* message) {
+    if (m_list.GetEditControl() == nullptr && HasCommandKey(*message)) {
         if (message->wParam == L'F') {
             m_search.SetFocus();
             return TRUE;
         }
-        const UINT command = message->wParam == L'Z'   ? ID_EDIT_UNDO
-                             : message->wParam == L'Y' ? ID_EDIT_REDO
-                                                       : 0;
-        if (command != 0 && !isSearching) {
-            GetParent()->PostMessage(WM_COMMAND, command);
-            return TRUE;
-        }
+        if (FrameTakesKey(*message)) return TRUE;
     }
     return CKtUiDialog::PreTranslateMessage(message);
 }

@@ -1,6 +1,6 @@
-// Format > Layers: every layer of the drawing in a list, which a search box narrows. Layers are made, renamed
-// in place, switched on and off, given colours, linetypes and lineweights, made current and deleted; each of
-// these is a step of Undo. The dialog stays open beside the drawing and follows it.
+// The layers palette: every layer of the drawing in a list, which a search box narrows. Layers are made,
+// renamed in place, switched on and off, given colours, linetypes and lineweights, made current and deleted;
+// each of these is a step of Undo. The panel stands beside the drawing and follows it.
 #pragma once
 
 #include <functional>
@@ -13,15 +13,13 @@
 #include "layer_pickers.h"
 #include "undo_history.h"
 
-class CLayersDialog : public CKtUiDialog {
-    DECLARE_DYNAMIC(CLayersDialog)
+class CLayersPanel : public CKtUiDialog {
+    DECLARE_DYNAMIC(CLayersPanel)
 
 public:
-    /// `changed` is called when the dialog has changed the drawing.
-    explicit CLayersDialog(std::function<void()> changed);
+    /// `changed` is called when the panel has changed the drawing.
+    explicit CLayersPanel(std::function<void()> changed);
 
-    /// Makes the window, without a drawing; the frame gets the keys of Undo and Redo.
-    BOOL CreateBeside(CWnd* frame);
     /// Shows the layers of a drawing as they are now. Both must live until another one is shown.
     void Show(OdDbDatabase& drawing, CUndoHistory& history);
 
@@ -39,7 +37,6 @@ protected:
     afx_msg void OnDelete();
     afx_msg void OnSetCurrent();
     afx_msg void OnPicked();
-    afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg void OnDestroy();
     afx_msg void OnItemChanged(NMHDR* header, LRESULT* result);
     afx_msg void OnListClick(NMHDR* header, LRESULT* result);

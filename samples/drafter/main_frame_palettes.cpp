@@ -1,0 +1,62 @@
+// The main window's palettes: commands that show, lock and go to them, and the blocks that come from there.
+#include "main_frame.h"
+#include "resource.h"
+
+/// A modal dialog keeps the user from the palettes too, also while it has stepped aside.
+void CMainFrame::enablePalettes() { m_palettes.Enable(IsWindowEnabled() && !m_isInCommand); }
+
+/// When a dialog has gone, the window may come to lie on palettes that float.
+void CMainFrame::OnActivate(UINT state, CWnd* other, BOOL minimized) {
+    CFrameWndEx::OnActivate(state, other, minimized);
+    if (state != WA_INACTIVE) m_palettes.RaiseFloating();
+}
+
+void CMainFrame::OnPropertiesPalette() { m_palettes.Open(ID_VIEW_PALETTE_PROPERTIES); }
+
+void CMainFrame::OnLayers() { m_palettes.Open(ID_VIEW_PALETTE_LAYERS); }
+
+void CMainFrame::OnBlocks() { m_palettes.Open(ID_VIEW_PALETTE_BLOCKS); }
+
+void CMainFrame::OnPalette(UINT id) { m_palettes.Toggle(id); }
+
+void CMainFrame::OnLock(UINT id) { m_palettes.ToggleLock(id); }
+
+void CMainFrame::OnUpdatePalette(CCmdUI* item) {
+    item->Enable(m_palettes.IsThere(item->m_nID));
+    if (item->m_nID == ID_VIEW_PALETTE_EXTENSION && m_palettes.IsThere(item->m_nID)) {
+        CString text;
+        text.Format(IDS_EXTENSION_ITEM, m_palettes.ExtensionName().GetString());
+        item->SetText(text);
+    }
+    item->SetCheck(m_palettes.IsShown(item->m_nID));
+}
+
+void CMainFrame::OnUpdateLock(CCmdUI* item) { item->SetCheck(m_palettes.IsLocked(item->m_nID)); }
+
+bool CMainFrame::TakesBlockAt(CPoint screen) const {
+    return !m_view.IsPicking() && ::WindowFromPoint(screen) == m_view.m_hWnd;
+}
+
+void CMainFrame::DropBlock(const OdDbObjectId& block, CPoint screen) {
+    m_view.ScreenToClient(&screen);
+    insertBlock(block, m_view.FromPixel(screen));
+}
+
+void CMainFrame::PlaceBlock(const OdDbObjectId& block) {
+    if (m_view.IsPicking()) return;
+    m_view.SetFocus();
+    PickPlaces(1, IDS_PICK_INSERTION, [this, block](const std::vector<OdGePoint2d>& places) {
+        if (places.empty())
+            showIdle();
+        else
+            insertBlock(block, places.front());
+    });
+}
+
+void CMainFrame::insertBlock(const OdDbObjectId& block, const OdGePoint2d& place) {
+    const OdDbObjectId reference = InsertBlock(*m_document->database(), block, place);
+    if (reference.isNull()) return;
+    finishChange(IDS_CHANGE_INSERT_BLOCK);
+    m_view.SetSelection({reference});
+    m_view.SetFocus();
+}
