@@ -74,7 +74,6 @@ public:
 private:
     struct Data;
     BOOL attach(CFrameWnd* frame, CDockingManager* manager, const wchar_t* storeName);
-    BOOL applyText(const CString& name, const CString& text);
 
     std::unique_ptr<Data> m_data;
 };
