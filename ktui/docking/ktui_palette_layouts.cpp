@@ -10,6 +10,7 @@
 #include <ktui/docking/layout_problem.h>
 #include <ktui/docking/layout_store.h>
 #include <ktui/docking/layout_xml.h>
+#include <ktui/docking/reachable_frames.h>
 
 using namespace layouts;
 
@@ -21,8 +22,12 @@ struct CKtUiPaletteLayouts::Data {
     std::optional<LayoutStore> store;
     std::optional<Record> builtIn;
     std::optional<Record> applied;  ///< as it was applied, with the panes that weren't there
+    bool keepsReachable = false;
     CString problem;
 
+    void reach() const {
+        if (keepsReachable) KeepReachable(*frame, *manager);
+    }
     BOOL succeed() {
         problem.Empty();
         return TRUE;
@@ -47,10 +52,10 @@ namespace {
 
 constexpr UINT_PTR kFrameWatch = 0x4B4C;  // what the object adds to the frame's window procedure
 
-LRESULT CALLBACK watchFrame(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                            DWORD_PTR object) {
-    if (message == WM_NCDESTROY) reinterpret_cast<CKtUiPaletteLayouts*>(object)->Detach();
-    return ::DefSubclassProc(window, message, wParam, lParam);
+/// Whether windows may have to be looked for after a message.
+bool bringsOthersOutOfReach(UINT message) {
+    return message == WM_DISPLAYCHANGE || message == WM_SETTINGCHANGE || message == WM_DPICHANGED ||
+           message == WM_IDLEUPDATECMDUI;
 }
 
 std::set<unsigned> idsOf(const Record& record) {
@@ -98,6 +103,7 @@ BOOL CKtUiPaletteLayouts::Data::applyRecord(const Record& record) {
     Bring(present, unknown, whole);
     if (!applyWhole(whole)) return FALSE;
     applied = record;
+    reach();
     return TRUE;
 }
 
@@ -114,7 +120,18 @@ BOOL CKtUiPaletteLayouts::Data::readStored(const CString& name, NamedRecord& lay
     return TRUE;
 }
 
-CKtUiPaletteLayouts::CKtUiPaletteLayouts() : m_data(std::make_unique<Data>()) {}
+LRESULT CALLBACK CKtUiPaletteLayouts::HearFrame(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                                UINT_PTR, DWORD_PTR object) {
+    auto* const layouts = reinterpret_cast<CKtUiPaletteLayouts*>(object);
+    // The handler may end the object.
+    const std::shared_ptr<Data> data = layouts->m_data;
+    if (message == WM_NCDESTROY) layouts->Detach();
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    if (bringsOthersOutOfReach(message)) data->reach();
+    return result;
+}
+
+CKtUiPaletteLayouts::CKtUiPaletteLayouts() : m_data(std::make_shared<Data>()) {}
 
 CKtUiPaletteLayouts::~CKtUiPaletteLayouts() { Detach(); }
 
@@ -124,7 +141,7 @@ BOOL CKtUiPaletteLayouts::attach(CFrameWnd* frame, CDockingManager* manager, con
     m_data->frame = frame;
     m_data->manager = manager;
     m_data->store.emplace(storeName);
-    ::SetWindowSubclass(frame->m_hWnd, watchFrame, kFrameWatch, reinterpret_cast<DWORD_PTR>(this));
+    ::SetWindowSubclass(frame->m_hWnd, HearFrame, kFrameWatch, reinterpret_cast<DWORD_PTR>(this));
     return m_data->succeed();
 }
 
@@ -137,7 +154,7 @@ BOOL CKtUiPaletteLayouts::Attach(CFrameWndEx& frame, const wchar_t* storeName) {
 
 void CKtUiPaletteLayouts::Detach() {
     if (m_data->frame != nullptr && m_data->frame->m_hWnd != nullptr)
-        ::RemoveWindowSubclass(m_data->frame->m_hWnd, watchFrame, kFrameWatch);
+        ::RemoveWindowSubclass(m_data->frame->m_hWnd, HearFrame, kFrameWatch);
     *m_data = {};
 }
 
@@ -251,5 +268,14 @@ BOOL CKtUiPaletteLayouts::PlacePane(CDockablePane& pane) {
     Bring(*m_data->applied, {id}, present);
     return m_data->applyWhole(present);
 }
+
+BOOL CKtUiPaletteLayouts::SetKeepReachable(BOOL keep) {
+    if (!IsAttached()) return m_data->fail(Problem::notAttached);
+    m_data->keepsReachable = keep != FALSE;
+    m_data->reach();
+    return m_data->succeed();
+}
+
+BOOL CKtUiPaletteLayouts::KeepsReachable() const { return m_data->keepsReachable; }
 
 const CString& CKtUiPaletteLayouts::GetProblem() const { return m_data->problem; }

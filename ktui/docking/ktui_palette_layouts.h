@@ -68,12 +68,22 @@ public:
     /// somewhere already.
     BOOL PlacePane(CDockablePane& pane);
 
+    /// With TRUE no floating frame, and not the main window either, ends where its caption can't be grabbed:
+    /// one of which less than 80 pixels of the caption lie on a screen goes to the nearest place where all of
+    /// it does; its size stays. Looked at now, when screens, their work areas or the resolution change, after
+    /// a layout was applied, and whenever the program is idle, but not while the user drags. FALSE, as at
+    /// first, ends that. It lasts until the object is detached. FALSE when there is no main window.
+    BOOL SetKeepReachable(BOOL keep);
+    BOOL KeepsReachable() const;
+
     /// Why the last call failed, in the user's language, with the element that is wrong; empty after success.
     const CString& GetProblem() const;
 
 private:
     struct Data;
+    static LRESULT CALLBACK HearFrame(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR object);
     BOOL attach(CFrameWnd* frame, CDockingManager* manager, const wchar_t* storeName);
 
-    std::unique_ptr<Data> m_data;
+    std::shared_ptr<Data> m_data;  ///< outlives the object while a message of the frame is handled
 };
