@@ -33,6 +33,7 @@
 #include <ktui/docking/mfc_tab_ctrl_ex.h>
 #include <ktui/docking/multi_pane_frame_wnd_ex.h>
 #include <ktui/docking/name_edit.h>
+#include <ktui/docking/pane_keys.h>
 #include <ktui/docking/tabbed_pane_ex.h>
 #include <ktui/docking/xt_mem_dc.h>
 #include <ktui/docking/xt_tool_tab_ctrl.h>
