@@ -4,10 +4,10 @@
 // hidden at an edge; which tab and which palette of a set is active. Layouts are kept for each user, and go
 // from one to another as XML files. Nothing changes in a program that makes no such object.
 //
-//     m_layouts.Attach(*this);                        // in the frame, once its panes have been placed
-//     m_layouts.KeepBuiltIn();                        // what Reset comes back to
-//     m_layouts.Save(L"Drafting");
-//     if (!m_layouts.Apply(L"Review")) KtUiMessageBox(this, m_layouts.GetProblem(), MB_ICONWARNING);
+//     layouts.Attach(frame);                          // once its panes have been placed
+//     layouts.KeepBuiltIn();                          // what Reset comes back to
+//     layouts.Save(L"Drafting");
+//     if (!layouts.Apply(L"Review")) KtUiMessageBox(nullptr, layouts.GetProblem(), MB_ICONWARNING);
 //
 // Applying is all or nothing: a layout with any fault leaves everything as it is, and GetProblem tells the
 // element that is wrong. A layout knows panes by their control ids, 1 to 65534. Panes that it doesn't know

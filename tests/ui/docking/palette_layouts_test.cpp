@@ -246,3 +246,42 @@ TEST_F(PaletteLayouts, TheFocusStaysWhereItCanBeSeen) {
     EXPECT_TRUE(::GetFocus() != nullptr && ::IsWindowVisible(::GetFocus()));
     EXPECT_EQ(::GetAncestor(::GetFocus(), GA_ROOT), frame->m_hWnd);
 }
+
+TEST_F(PaletteLayouts, APaneThatHadNoPlaceAmongTheDockedHasNoneAgain) {
+    fillFrame(1);
+    OpenBar& bar = addBar(kFirstBar + 5);
+    ASSERT_TRUE(bar.FloatPane(CRect(200, 200, 350, 330)));
+    ASSERT_TRUE(layouts.Save(L"floating only"));
+    frame->DockPane(&bar);
+    ASSERT_TRUE(bar.FloatPane(CRect(100, 100, 250, 230)));
+    ASSERT_TRUE(layouts.Apply(L"floating only"));
+    EXPECT_EQ(textOf(placeOf(*bar.GetParentMiniFrame())), textOf(CRect(200, 200, 350, 330)));
+    EXPECT_FALSE(bar.DockToRecentPos());
+}
+
+TEST_F(PaletteLayouts, ADockedPaneFloatsWhereItFloatedThen) {
+    fillFrame(1);
+    const CRect place(210, 220, 370, 390);
+    ASSERT_TRUE(bars[0]->FloatPane(place));
+    frame->DockPane(bars[0].get());
+    ASSERT_TRUE(layouts.Save(L"docked"));
+    ASSERT_TRUE(bars[0]->FloatPane(CRect(50, 60, 250, 260)));
+    ASSERT_TRUE(layouts.Apply(L"docked"));
+    ASSERT_TRUE(bars[0]->IsDocked());
+    ASSERT_TRUE(bars[0]->FloatPane(CRect(0, 0, 0, 0)));
+    EXPECT_EQ(textOf(placeOf(*bars[0]->GetParentMiniFrame())), textOf(place));
+}
+
+TEST_F(PaletteLayouts, TabsThatHideGoOnHidingWithoutTheFirst) {
+    fillFrame(3);
+    for (std::size_t i = 1; i < 3; ++i)
+        ASSERT_NE(bars[i]->AttachToTabWnd(bars[0].get(), DM_UNKNOWN), nullptr);
+    ASSERT_TRUE(bars[0]->ToggleAutoHide());
+    ASSERT_TRUE(layouts.Save(L"hiding"));
+    ASSERT_TRUE(bars[1]->ToggleAutoHide());
+    bars[0]->UndockPane();
+    frame->RemovePaneFromDockManager(bars[0].get(), TRUE, TRUE, FALSE, nullptr);
+    ASSERT_TRUE(layouts.Apply(L"hiding"));
+    ASSERT_NE(bars[1]->GetParentTabbedPane(), nullptr);
+    EXPECT_TRUE(bars[1]->GetParentTabbedPane()->IsAutoHideMode());
+}
