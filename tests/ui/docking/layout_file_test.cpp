@@ -128,8 +128,13 @@ TEST_F(LayoutFile, WhatCannotBeWrittenOrReadSaysSo) {
     EXPECT_EQ(files(), 0);
     EXPECT_FALSE(layouts.Import(path(L"missing.xml").c_str()));
     EXPECT_NE(std::wstring(layouts.GetProblem()).find(L"missing.xml"), std::wstring::npos);
-    // The former file stays whole while somebody holds it.
+    // The former file stays whole when the new one can't be completed, and while somebody holds it.
     write("former");
+    const std::wstring beside = path(L"written.xml.new");
+    ASSERT_TRUE(::CreateDirectoryW(beside.c_str(), nullptr));
+    EXPECT_FALSE(layouts.Export(path(L"written.xml").c_str()));
+    EXPECT_EQ(read(path(L"written.xml")), "former");
+    ASSERT_TRUE(::RemoveDirectoryW(beside.c_str()));
     {
         CFile held;
         ASSERT_TRUE(held.Open(path(L"written.xml").c_str(), CFile::modeRead | CFile::shareDenyWrite));
@@ -169,6 +174,8 @@ TEST_F(LayoutFile, WhatIsNoFileOfLayoutsIsRefused) {
     for (int i = 0; i < 200; ++i) deep += "<KtUiPaletteLayouts Version='1'>";
     for (int i = 0; i < 200; ++i) deep += "</KtUiPaletteLayouts>";
     expectRefused(deep, L"KtUiPaletteLayouts");
+    EXPECT_EQ(std::wstring(layouts.GetProblem()).find(L"[1]"), std::wstring::npos)
+        << "nothing in it is looked at";
     expectRefused(std::string(4 * 1024 * 1024 + 1, ' '), L"written.xml");
     // One of two is damaged: none is taken.
     const std::string sound = "<Docked/><Floating/><Tabs/><Panes/></Layout>";
