@@ -32,7 +32,11 @@ struct LayoutsTest : DockingTest {
     ~LayoutsTest() override {
         CDockablePane::m_bDisableAnimation = animation;
         layouts.Detach();
+        // A tab that goes before the pane around it has to leave that first.
+        for (CKbUiDockControlBar* pane : panes())
+            if (pane->IsTabbed()) pane->UndockPane(TRUE);
         frame->ShowWindow(SW_HIDE);
+        ui_test::pump();
         removeStored();
     }
     static std::wstring storeKey() {
