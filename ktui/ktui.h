@@ -29,9 +29,11 @@
 #include <ktui/docking/kbui_palette.h>
 #include <ktui/docking/kbui_palette_set.h>
 #include <ktui/docking/kbui_theme.h>
+#include <ktui/docking/ktui_palette_layouts.h>
 #include <ktui/docking/mfc_tab_ctrl_ex.h>
 #include <ktui/docking/multi_pane_frame_wnd_ex.h>
 #include <ktui/docking/name_edit.h>
+#include <ktui/docking/pane_keys.h>
 #include <ktui/docking/tabbed_pane_ex.h>
 #include <ktui/docking/xt_mem_dc.h>
 #include <ktui/docking/xt_tool_tab_ctrl.h>

@@ -1,6 +1,6 @@
 #include <ktui/dialogs/bring_into_view.h>
 
-#include <algorithm>
+#include <ktui/host/reachable_place.h>
 
 BOOL KtUiBringIntoView(CWnd& window) {
     CRect place;
@@ -9,10 +9,8 @@ BOOL KtUiBringIntoView(CWnd& window) {
     monitor.cbSize = sizeof monitor;
     if (!::GetMonitorInfoW(::MonitorFromWindow(window.m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor))
         return FALSE;
-    const RECT& area = monitor.rcWork;
-    const LONG left = std::max(area.left, std::min(place.left, area.right - place.Width()));
-    const LONG top = std::max(area.top, std::min(place.top, area.bottom - place.Height()));
-    if (left == place.left && top == place.top) return FALSE;
-    return window.SetWindowPos(nullptr, static_cast<int>(left), static_cast<int>(top), 0, 0,
+    const CPoint corner = CornerInside(place, monitor.rcWork);
+    if (corner == place.TopLeft()) return FALSE;
+    return window.SetWindowPos(nullptr, static_cast<int>(corner.x), static_cast<int>(corner.y), 0, 0,
                                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -146,6 +146,43 @@ class CDockingPage : public CFramePage {
     CKbUiPaletteSet m_left{2}, m_bottom{2}, m_tab{2}, m_other{2};
 };
 
+class CLayoutsPage : public CFramePage {
+    void Build() override {
+        addFrame(96);
+        dock(m_tools, Both(L"Tools", L"工具"), CBRS_LEFT, 4001, 150, 200);
+        addPalettes(m_tools);
+        dock(m_sheets, Both(L"Sheets", L"图纸"), CBRS_RIGHT, 4002, 130, 200);
+        m_sheets.AddPalette(new CSamplePalette(Both(L"Sheets", L"图纸"), {L"A-101", L"A-102"}));
+        m_sheets.SetActivePalette(m_sheets.GetPalette(0));
+        m_layouts.Attach(*m_frame, L"GalleryLayouts");
+        m_layouts.KeepBuiltIn();
+        Command(Both(L"Keep as \"Mine\"", L"保存为“我的”"), [this] { return told(m_layouts.Save(mine())); });
+        Command(Both(L"Apply \"Mine\"", L"应用“我的”"), [this] { return told(m_layouts.Apply(mine())); });
+        Command(Both(L"Built-in layout", L"内置布局"), [this] { return told(m_layouts.Reset()); });
+        Command(Both(L"Tools below", L"工具在下方"), [this]() -> CString {
+            toolsBelow();
+            return {};
+        });
+        Command(Both(L"Tabs", L"标签"), [this]() -> CString {
+            m_sheets.AttachToTabWnd(&m_tools, DM_SHOW);
+            return {};
+        });
+        Say(Both(L"Move the palettes about, keep that, change it, and apply what was kept.",
+                 L"移动选项板并保存，再更改，然后应用已保存的布局。"));
+    }
+    static CString mine() { return Both(L"Mine", L"我的"); }
+    CString told(BOOL succeeded) const { return succeeded ? CString(L"OK") : m_layouts.GetProblem(); }
+    void toolsBelow() {
+        const CRect size(0, 0, 300, 90);
+        m_tools.DockToFrameWindow(CBRS_ALIGN_BOTTOM, &size);
+    }
+    void Pose() override { toolsBelow(); }
+    void EndPose() override { m_layouts.Reset(); }
+
+    CKbUiPaletteSet m_tools{2}, m_sheets{2};
+    CKtUiPaletteLayouts m_layouts;
+};
+
 }  // namespace
 
 std::vector<GalleryEntry> PalettePages() {
@@ -160,5 +197,11 @@ std::vector<GalleryEntry> PalettePages() {
         {kFamily, kChinese, L"Docking", L"停靠", MakePage<CDockingPage>,
          L"EnableDocking(CBRS_ALIGN_ANY);  // in the frame\n\nm_set.EnableDocking(CBRS_ALIGN_ANY);\n"
          L"m_set.DockControlBar(CBRS_ALIGN_RIGHT, nullptr);\nm_other.AttachToTabWnd(&m_set, DM_SHOW);\n\n"
-         L"// docked bars stay where they are\nKbUiLockPanel(true, false);"}};
+         L"// docked bars stay where they are\nKbUiLockPanel(true, false);"},
+        {kFamily, kChinese, L"Layouts", L"布局", MakePage<CLayoutsPage>,
+         L"CKtUiPaletteLayouts m_layouts;\n\nm_layouts.Attach(*this);  // in the "
+         L"frame\nm_layouts.KeepBuiltIn();\n\n"
+         L"m_layouts.Save(L\"Drafting\");\nif (!m_layouts.Apply(L\"Review\"))\n    KtUiMessageBox(nullptr, "
+         L"m_layouts.GetProblem(), MB_OK);\nm_layouts.Reset();\n\nm_layouts.Export(path);\n"
+         L"m_layouts.SetKeepReachable(TRUE);"}};
 }

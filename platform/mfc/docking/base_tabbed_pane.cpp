@@ -123,6 +123,10 @@ BOOL CBaseTabbedPane::RemovePane(CWnd* pBar) {
     const int index =
         m_pTabWnd->GetSafeHwnd() != nullptr ? m_pTabWnd->GetTabFromHwnd(pBar->GetSafeHwnd()) : -1;
     if (index == -1) return FALSE;
+    // Its name goes from the strip while the tab can still be told to be one of ours.
+    if (m_pAutoHideBar != nullptr)
+        if (auto* const hidden = DYNAMIC_DOWNCAST(CDockablePane, pBar))
+            m_pAutoHideBar->RemoveAutoHideWindow(hidden);
     m_pTabWnd->RemoveTab(index);
     CWnd* const frame = GetDockSiteFrameWnd();
     if (frame != nullptr && ::GetParent(pBar->m_hWnd) == m_pTabWnd->m_hWnd) {
@@ -141,7 +145,8 @@ void CBaseTabbedPane::tabs_have_gone() {
         CDockablePane* const left = pane_of_tab(0);
         if (left == nullptr) return;
         const BOOL visible = m_pTabWnd->IsTabVisible(0);
-        const bool shown = IsVisible() != FALSE;
+        const bool shown = IsVisible() != FALSE, hidden = m_bIsAutoHideMode != FALSE;
+        leave_auto_hide();
         m_pTabWnd->RemoveTab(0);
         CWnd* const frame = GetDockSiteFrameWnd();
         left->OnBeforeChangeParent(frame);
@@ -149,6 +154,7 @@ void CBaseTabbedPane::tabs_have_gone() {
         left->OnAfterChangeParent(m_pTabWnd);
         ReplacePane(left, DM_STANDARD);
         left->ShowPane(visible && shown, FALSE, FALSE);
+        if (hidden && visible && shown) left->SetAutoHideMode(TRUE, left->GetCurrentAlignment());
     }
     if (GetTabsNum() > 0) return;
     if (m_bAutoDestroy && AllowDestroyEmptyTabbedPane())

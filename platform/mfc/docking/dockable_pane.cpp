@@ -301,6 +301,8 @@ CDockablePane* CDockablePane::AttachToTabWnd(CDockablePane* pTabControlBarAttach
     if (target == nullptr || target == this || m_hWnd == nullptr || GetParentTabbedPane() == target)
         return nullptr;
     if (!CanBeAttached() || !target->CanAcceptPane(this)) return nullptr;
+    // One that hides at an edge comes out for it.
+    target->SetAutoHideMode(FALSE, target->GetCurrentAlignment());
     CBaseTabbedPane* tabbed = nullptr;
     if (target->holds_tabs()) {
         tabbed = static_cast<CBaseTabbedPane*>(target);
@@ -317,6 +319,8 @@ CDockablePane* CDockablePane::AttachToTabWnd(CDockablePane* pTabControlBarAttach
     }
     tabbed->AddTab(this, TRUE, bSetActive);
     tabbed->ShowPane(TRUE, FALSE, FALSE);
+    // Tabs that float lay out their own frame only, and this pane may have left room in the main one.
+    AdjustDockingLayout();
     if (ppTabbedControlBar != nullptr) *ppTabbedControlBar = tabbed;
     return many ? tabbed : this;
 }

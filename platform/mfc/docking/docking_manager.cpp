@@ -305,6 +305,8 @@ bool CDockingManager::dock_beside(CDockablePane* pane, CDockablePane* target, DW
         pane->leave_home(true);
         pane->ShowWindow(SW_HIDE);
         const bool joined = group->dock_beside(pane, target, alignment, extent) != FALSE;
+        // A frame whose other panes are all hidden comes up with the one that joins.
+        if (joined && pane->m_isShown && !group->IsWindowVisible()) group->ShowWindow(SW_SHOWNOACTIVATE);
         AdjustDockingLayout();
         return joined;
     }

@@ -275,6 +275,8 @@ void CDockingManager::restore_frame(const CRect& rect, const SplitTree& panes) {
     if (keys.empty()) return;
     for (const PaneKey key : keys) {
         bring_home(pane_of(key));
+        // Nothing was laid out since it was docked, and its frame doesn't hide what it doesn't show.
+        pane_of(key)->ShowWindow(SW_HIDE);
         pane_of(key)->leave_home(true);
         pane_of(key)->m_isShown = panes.shows(key);
     }

@@ -333,3 +333,29 @@ TEST_F(AutoHide, PaintsNamesInTheLooksColours) {
         for (int x = name.left + 6; x < name.right; ++x) written = written || dc.GetPixel(x, y) != face;
     EXPECT_TRUE(written);
 }
+
+TEST_F(AutoHide, ATabThatLeavesAHiddenPaneTakesItsNameFromTheStrip) {
+    frame->DockPane(&panes[1]);
+    panes[1].AttachToTabWnd(&panes[0], DM_UNKNOWN);
+    panes[2].AttachToTabWnd(&panes[0], DM_UNKNOWN);
+    ASSERT_TRUE(panes[0].ToggleAutoHide());
+    ASSERT_EQ(bar()->GetVisibleCount(), 3);
+    ASSERT_TRUE(panes[2].FloatPane(CRect(300, 300, 500, 500)));
+    EXPECT_EQ(bar()->GetVisibleCount(), 2);
+    // The last one that is left goes on hiding, by itself.
+    ASSERT_TRUE(panes[1].FloatPane(CRect(300, 300, 500, 500)));
+    EXPECT_EQ(bar()->GetVisibleCount(), 1);
+    EXPECT_TRUE(panes[0].IsAutoHideMode());
+    EXPECT_FALSE(panes[0].IsPaneVisible());
+    ASSERT_TRUE(panes[0].FloatPane(CRect(100, 300, 300, 500)));
+    EXPECT_FALSE(bar()->IsPaneVisible());
+    EXPECT_EQ(frame->GetDockingManager()->GetClientAreaBounds().left, 0);
+}
+
+TEST_F(AutoHide, APaneComesOutForOneThatJoinsItInTabs) {
+    ASSERT_TRUE(panes[0].ToggleAutoHide());
+    ASSERT_TRUE(panes[1].AttachToTabWnd(&panes[0], DM_UNKNOWN) != nullptr);
+    EXPECT_FALSE(bar()->IsPaneVisible());
+    ASSERT_NE(panes[0].GetParentTabbedPane(), nullptr);
+    EXPECT_TRUE(panes[0].GetParentTabbedPane()->IsPaneVisible());
+}

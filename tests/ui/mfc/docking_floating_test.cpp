@@ -329,3 +329,24 @@ TEST_F(Docking, all_floating_frames_hide_and_show_together) {
     EXPECT_TRUE(pane.GetParentMiniFrame()->IsWindowVisible());
     EXPECT_EQ(at(other), CRect(0, 0, 150, 500));
 }
+
+TEST_F(Docking, a_docked_pane_that_becomes_a_tab_of_a_floating_one_leaves_no_hole) {
+    Pane& floating = make(L"floating");
+    ASSERT_TRUE(floating.FloatPane(CRect(300, 300, 500, 500)));
+    Pane& tab = docked(L"tab", AFX_IDW_DOCKBAR_LEFT);
+    ASSERT_TRUE(tab.AttachToTabWnd(&floating, DM_UNKNOWN) != nullptr);
+    check_frame();
+}
+
+TEST_F(Docking, a_frame_of_hidden_panes_comes_up_with_one_that_joins) {
+    Pane& hidden = make(L"hidden");
+    ASSERT_TRUE(hidden.FloatPane(CRect(300, 300, 500, 500)));
+    hidden.ShowPane(FALSE, FALSE, FALSE);
+    CPaneFrameWnd* group = hidden.GetParentMiniFrame();
+    ASSERT_FALSE(group->IsWindowVisible());
+    Pane& joining = make(L"joining");
+    ASSERT_TRUE(joining.DockToWindow(&hidden, CBRS_ALIGN_LEFT));
+    EXPECT_TRUE(group->IsWindowVisible());
+    EXPECT_FALSE(hidden.IsWindowVisible());
+    EXPECT_TRUE(joining.IsWindowVisible());
+}

@@ -232,3 +232,24 @@ TEST_F(DockingState, goes_through_an_archive) {
     EXPECT_THROW(manager().Serialize(in), CArchiveException*);
     EXPECT_EQ(at(left), CRect(0, 0, 150, 500));
 }
+
+TEST_F(DockingState, a_pane_that_is_hidden_in_a_floating_frame_is_not_seen_there) {
+    Pane& pane = docked(L"docked", AFX_IDW_DOCKBAR_LEFT);
+    Pane& other = make(L"other");
+    ASSERT_TRUE(other.FloatPane(CRect(300, 300, 500, 500)));
+    ASSERT_TRUE(pane.DockToWindow(&other, CBRS_ALIGN_LEFT));
+    pane.ShowPane(FALSE, FALSE, FALSE);
+    CMemFile memory;
+    {
+        CArchive archive(&memory, CArchive::store);
+        manager().Serialize(archive);
+    }
+    frame->DockPane(&pane, AFX_IDW_DOCKBAR_LEFT);
+    pane.ShowPane(TRUE, FALSE, FALSE);
+    memory.SeekToBegin();
+    CArchive archive(&memory, CArchive::load);
+    manager().Serialize(archive);
+    EXPECT_EQ(pane.GetParentMiniFrame(), other.GetParentMiniFrame());
+    EXPECT_FALSE(pane.IsPaneVisible());
+    EXPECT_TRUE(other.IsPaneVisible());
+}

@@ -45,7 +45,8 @@ struct KMFC_API LayoutRecord {
     const GroupRecord* find_group(PaneKey id) const;
 };
 
-/// As numbers: version first, a sum of all last.
+/// As numbers: version first, a sum of all last. The toolkit's named layouts read and write them too, by
+/// CDockingManager::Serialize; what changes them needs another version.
 KMFC_API std::vector<std::int32_t> encode(const LayoutRecord& record);
 /// False, with `record` untouched, for anything that `encode` doesn't write: cut off, longer, another
 /// version, an id of 0 or met twice, a side, share or size out of range, a tree too deep, a hidden pane that
