@@ -13,13 +13,18 @@ BEGIN_MESSAGE_MAP(CNameChoiceDialog, CKtUiDialog)
     ON_LBN_DBLCLK(IDC_CHOICES, &CNameChoiceDialog::OnDoubleClick)
 END_MESSAGE_MAP()
 
-CNameChoiceDialog::CNameChoiceDialog(std::vector<OdString> names, CWnd* parent)
-    : CKtUiDialog(IDD_BLOCK_CHOICE, parent, AfxGetInstanceHandle()), m_names(std::move(names)) {
+CNameChoiceDialog::CNameChoiceDialog(std::vector<OdString> names, CWnd* parent, const Words& words)
+    : CKtUiDialog(IDD_BLOCK_CHOICE, parent, AfxGetInstanceHandle()),
+      m_names(std::move(names)),
+      m_words(words) {
     SetDialogName(L"BlockChoice");
 }
 
 BOOL CNameChoiceDialog::OnInitDialog() {
     const BOOL result = CKtUiDialog::OnInitDialog();
+    CString text;
+    if (m_words.title != 0 && text.LoadString(m_words.title)) SetWindowText(text);
+    if (m_words.label != 0 && text.LoadString(m_words.label)) SetDlgItemText(IDC_CHOICES_LABEL, text);
     for (const OdString& name : m_names)
         SendDlgItemMessage(IDC_CHOICES, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
     StretchControlXY(IDC_CHOICES, 100, 100);

@@ -1,4 +1,4 @@
-// Asks for one of several names: the block of a user's arrowhead or callout.
+// Asks for one of several names: the block of a user's arrowhead or callout, a layout.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,11 @@ class CNameChoiceDialog : public CKtUiDialog {
     DECLARE_DYNAMIC(CNameChoiceDialog)
 
 public:
-    CNameChoiceDialog(std::vector<OdString> names, CWnd* parent);
+    /// Strings: the title, and what stands above the names; 0 for the template's.
+    struct Words {
+        UINT title, label;
+    };
+    CNameChoiceDialog(std::vector<OdString> names, CWnd* parent, const Words& words = {0, 0});
     /// The name chosen after DoModal has answered IDOK.
     const OdString& chosen() const { return m_chosen; }
 
@@ -27,6 +31,7 @@ private:
     int selected();
 
     std::vector<OdString> m_names;
+    Words m_words;
     OdString m_chosen;
 };
 

@@ -71,6 +71,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
     ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION, &CMainFrame::OnPalette)
     ON_COMMAND_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnLock)
+    ON_COMMAND_RANGE(ID_VIEW_LAYOUT_SAVE, ID_VIEW_LAYOUT_LAST, &CMainFrame::OnLayout)
     ON_COMMAND(ID_TOOLS_OPTIONS, &CMainFrame::OnOptions)
     ON_COMMAND(ID_APP_ABOUT, &CMainFrame::OnAbout)
     ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
@@ -79,6 +80,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION,
                                &CMainFrame::OnUpdatePalette)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnUpdateLock)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LAYOUT_SAVE, ID_VIEW_LAYOUT_LAST, &CMainFrame::OnUpdateLayout)
     ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &CMainFrame::OnUpdateUndo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &CMainFrame::OnUpdateRedo)
     ON_UPDATE_COMMAND_UI(ID_EDIT_DESELECT, &CMainFrame::OnUpdateHasSelection)
@@ -113,6 +115,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (!m_palettes.Create(*this)) return -1;
     m_extensions = std::make_unique<CExtensions>(CString(ktutProgramFolder().c_str()) + L"extensions\\");
     m_palettes.AddExtension(*m_extensions, *this);
+    m_layouts.Attach(*this);
     CKtUiDialog keeper(0);
     keeper.SetDialogName(L"Options");
     m_options = LoadOptions(keeper);

@@ -8,6 +8,7 @@
 #include "drawing_picker.h"
 #include "drawing_view.h"
 #include "extensions.h"
+#include "layouts_menu.h"
 #include "options.h"
 #include "palettes.h"
 #include "picker_bar.h"
@@ -87,6 +88,8 @@ protected:
     afx_msg void OnUpdatePickerBar(CCmdUI* item);
     afx_msg void OnUpdatePalette(CCmdUI* item);
     afx_msg void OnUpdateLock(CCmdUI* item);
+    afx_msg void OnLayout(UINT id);
+    afx_msg void OnUpdateLayout(CCmdUI* item);
     afx_msg void OnUpdateUndo(CCmdUI* item);
     afx_msg void OnUpdateRedo(CCmdUI* item);
     afx_msg void OnUpdateHasSelection(CCmdUI* item);
@@ -147,6 +150,7 @@ private:
     CPickerBar m_pickers;
     std::unique_ptr<CExtensions> m_extensions;
     CPalettes m_palettes;
+    CLayoutsMenu m_layouts;
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
     DrafterOptions m_options;
 };

@@ -31,6 +31,10 @@ void CMainFrame::OnUpdatePalette(CCmdUI* item) {
     item->SetCheck(m_palettes.IsShown(item->m_nID));
 }
 
+void CMainFrame::OnLayout(UINT id) { m_layouts.Do(id); }
+
+void CMainFrame::OnUpdateLayout(CCmdUI* item) { m_layouts.Update(item); }
+
 void CMainFrame::OnUpdateLock(CCmdUI* item) { item->SetCheck(m_palettes.IsLocked(item->m_nID)); }
 
 bool CMainFrame::TakesBlockAt(CPoint screen) const {

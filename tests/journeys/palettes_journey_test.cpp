@@ -311,6 +311,74 @@ TEST_F(PalettesJourney, ClosingAsksAboutWhatIsBeingTyped) {
     EXPECT_DOUBLE_EQ(firstOf(*saved())->thickness(), 2);
 }
 
+TEST_F(PalettesJourney, AnArrangementIsKeptUnderANameAndComesBack) {
+    const auto save = [&](const std::wstring& name) {
+        view('Y', 'S');
+        const HWND dialog = drafter->waitForDialog(L"Save Layout");
+        ASSERT_NE(dialog, nullptr);
+        drafter->type(name);
+        drafter->key(VK_RETURN);
+        EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    };
+    view('Y', 'D');  // there is none to delete
+    EXPECT_EQ(drafter->waitForDialog(L"Delete Layout", 300), nullptr);
+    drafter->key(VK_ESCAPE);
+    drafter->key(VK_ESCAPE);
+    drafter->key(VK_ESCAPE);
+    const RECT docked = rectOf(setOf(properties()));
+    save(L"beside");
+    dragSet(properties(), {420, 160});
+    ASSERT_TRUE(waitUntil([&] { return isFloating(properties()); }));
+    const RECT floating = rectOf(::GetAncestor(properties(), GA_ROOT));
+    save(L"above");
+    restart();
+    ASSERT_TRUE(waitUntil([&] { return isFloating(properties()); }));
+    view('Y', '2');  // by the alphabet "beside" is the second
+    ASSERT_TRUE(waitUntil([&] { return !isFloating(properties()); }));
+    EXPECT_TRUE(waitUntil([&] {
+        const RECT now = rectOf(setOf(properties()));
+        return ::EqualRect(&now, &docked) != FALSE;
+    }));
+    picture("journey-palettes-layouts");
+    view('Y', '1');
+    ASSERT_TRUE(waitUntil([&] { return isFloating(properties()); }));
+    const RECT now = rectOf(::GetAncestor(properties(), GA_ROOT));
+    EXPECT_TRUE(::EqualRect(&now, &floating));
+    view('Y', 'B');
+    ASSERT_TRUE(waitUntil([&] { return !isFloating(properties()); })) << "as at first";
+    // One of the same name is replaced only when that is wanted.
+    view('Y', 'S');
+    const HWND dialog = drafter->waitForDialog(L"Save Layout");
+    ASSERT_NE(dialog, nullptr);
+    drafter->type(L"above");
+    drafter->key(VK_RETURN);
+    ASSERT_TRUE(drafter->waitUntilGone(dialog));
+    EXPECT_NE(drafter->dismissMessage(drafter->frame()).find(L"\"above\""), std::wstring::npos);
+    view('Y', '1');
+    EXPECT_FALSE(isFloating(properties())) << "it was replaced";
+    view('Y', 'D');
+    const HWND choice = drafter->waitForDialog(L"Delete Layout");
+    ASSERT_NE(choice, nullptr);
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(drafter->waitUntilGone(choice));
+    dragSet(properties(), {420, 160});
+    ASSERT_TRUE(waitUntil([&] { return isFloating(properties()); }));
+    view('Y', '1');
+    EXPECT_TRUE(waitUntil([&] { return !isFloating(properties()); })) << "\"beside\" is the first now";
+}
+
+TEST_F(PalettesJourney, F6GoesThroughDrawingAndPalettes) {
+    drafter->click(drafter->view(), {4, 4});
+    const HWND panel = properties();
+    drafter->key(VK_F6);
+    EXPECT_TRUE(waitUntil([&] { return ::IsChild(setOf(panel), focusOf(panel)) != FALSE; }));
+    drafter->key(VK_F6, true);
+    EXPECT_TRUE(waitUntil([&] { return layers() != nullptr || properties() != panel; }))
+        << "the next palette";
+    drafter->key(VK_F6);
+    EXPECT_TRUE(goesTo(drafter->view(), drafter->view()));
+}
+
 TEST_F(PalettesJourney, LockedPalettesStayWhereTheyAre) {
     view('K', 'D');
     dragSet(properties(), {420, 160});

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr unsigned kPoll = 15;  // milliseconds
+constexpr unsigned kUsualWait = 8000;
 
 void sendKey(WORD virtualKey, bool up) {
     INPUT input = {};
@@ -118,17 +119,19 @@ HWND Program::findWindow(const std::function<bool(HWND)>& wanted) const {
     return search.found;
 }
 
-HWND Program::waitForDialog(const std::wstring& title) {
+HWND Program::waitForDialog(const std::wstring& title, unsigned milliseconds) {
     HWND found = nullptr;
-    waitUntil([&] {
-        found = findWindow([&](HWND window) {
-            wchar_t name[16] = {};
-            ::GetClassNameW(window, name, 16);
-            return std::wstring(name) == L"#32770" && textOf(window).rfind(title, 0) == 0;
-        });
-        return found != nullptr;
-    });
-    if (found == nullptr) tellState();
+    waitUntil(
+        [&] {
+            found = findWindow([&](HWND window) {
+                wchar_t name[16] = {};
+                ::GetClassNameW(window, name, 16);
+                return std::wstring(name) == L"#32770" && textOf(window).rfind(title, 0) == 0;
+            });
+            return found != nullptr;
+        },
+        milliseconds);
+    if (found == nullptr && milliseconds >= kUsualWait) tellState();
     if (found != nullptr) settle(found);
     return found;
 }

@@ -22,7 +22,7 @@ public:
     bool isRunning() const;
 
     /// The visible dialog whose title begins with `title`, as soon as there is one.
-    HWND waitForDialog(const std::wstring& title);
+    HWND waitForDialog(const std::wstring& title, unsigned milliseconds = 8000);
     /// The visible dialog that belongs to `owner`, whatever its title, as soon as there is one.
     HWND waitForDialogOf(HWND owner);
     /// Waits for a message box that belongs to `owner`, answers it by Enter, and answers its words; an empty

@@ -140,6 +140,19 @@ BOOL CBaseTabbedPane::RemovePane(CWnd* pBar) {
     return TRUE;
 }
 
+void CBaseTabbedPane::forget_tab(CDockablePane* pane) {
+    const int index =
+        m_pTabWnd->GetSafeHwnd() != nullptr ? m_pTabWnd->GetTabFromHwnd(pane->GetSafeHwnd()) : -1;
+    if (index == -1) return;
+    if (m_pAutoHideBar != nullptr) m_pAutoHideBar->RemoveAutoHideWindow(pane);
+    const BOOL destroys = m_pTabWnd->IsAutoDestroyWindow();
+    m_pTabWnd->AutoDestroyWindow(FALSE);
+    m_pTabWnd->RemoveTab(index);
+    m_pTabWnd->AutoDestroyWindow(destroys);
+    show_active_name();
+    tabs_have_gone();
+}
+
 void CBaseTabbedPane::tabs_have_gone() {
     if (m_bAutoDestroy && GetTabsNum() == 1) {
         CDockablePane* const left = pane_of_tab(0);

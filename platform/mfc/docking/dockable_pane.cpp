@@ -69,6 +69,7 @@ int CDockablePane::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void CDockablePane::OnDestroy() {
     leave_auto_hide();
+    if (CBaseTabbedPane* const tabbed = GetParentTabbedPane()) tabbed->forget_tab(this);
     m_tips.reset();
     CBasePane::OnDestroy();
 }

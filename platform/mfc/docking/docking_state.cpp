@@ -110,7 +110,7 @@ std::vector<std::int32_t> CDockingManager::stored_layout() const {
             CDockablePane* pane = CMFCAutoHideBar::sliding_pane(button->GetAutoHideWindow());
             const PaneKey name = stored_name(key_of(pane));
             const auto isIt = [name](const HiddenRecord& known) { return known.pane == name; };
-            if (name != 0 && pane->IsVisible() &&
+            if (name != 0 && button->IsVisible() &&
                 std::none_of(record.hidden.begin(), record.hidden.end(), isIt))
                 record.hidden.push_back({name, side_of(bar->GetCurrentAlignment()), pane->auto_hide_size()});
         }

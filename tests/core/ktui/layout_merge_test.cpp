@@ -27,13 +27,6 @@ Tree split(bool upright, int share, Tree first, Tree second) {
 
 /// Without what the numbers don't carry.
 Record bare(Record record) {
-    const auto clear = [](auto& self, Tree& tree) -> void {
-        tree.hides = false;
-        tree.size = CSize(0, 0);
-        for (Tree& half : tree.halves) self(self, half);
-    };
-    for (Row& row : record.rows) clear(clear, row.panes);
-    for (Frame& frame : record.frames) clear(clear, frame.panes);
     record.panes.clear();
     return record;
 }
@@ -170,6 +163,46 @@ TEST(LayoutNumbers, RandomLayoutsComeBack) {
         ASSERT_TRUE(FromNumbers(ToNumbers(record), read)) << "seed " << random_layout::kSeed << ", " << i;
         ASSERT_TRUE(read == record) << "seed " << random_layout::kSeed << ", " << i;
     }
+}
+
+TEST(LayoutNumbers, WhatHidesComesLastAndIsNotShown) {
+    Record record;
+    Tree hiding = leaf(7);
+    hiding.hides = true;
+    hiding.size = CSize(120, 300);
+    record.rows = {{Side::bottom, 90, hiding}};
+    std::vector<std::int32_t> numbers = ToNumbers(record);
+    numbers.pop_back();  // the sum
+    EXPECT_EQ(numbers, (std::vector<std::int32_t>{0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 7, 3, 120, 300}));
+    Record read;
+    ASSERT_TRUE(FromNumbers(ToNumbers(record), read));
+    EXPECT_TRUE(read == record);
+    // At another edge than its row's: the row's is taken.
+    numbers[11] = 0;
+    std::uint32_t sum = 2166136261u;
+    for (const std::int32_t number : numbers) sum = (sum ^ static_cast<std::uint32_t>(number)) * 16777619u;
+    numbers.push_back(static_cast<std::int32_t>(sum));
+    read = Record();
+    ASSERT_TRUE(FromNumbers(numbers, read));
+    EXPECT_TRUE(read == record);
+}
+
+TEST(LayoutNumbers, WhatHidesHasAPlaceWhereItIsNotShown) {
+    const auto taken = [](std::vector<std::int32_t> numbers) {
+        std::uint32_t sum = 2166136261u;
+        for (const std::int32_t number : numbers)
+            sum = (sum ^ static_cast<std::uint32_t>(number)) * 16777619u;
+        numbers.push_back(static_cast<std::int32_t>(sum));
+        Record read;
+        return FromNumbers(numbers, read);
+    };
+    EXPECT_TRUE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 7, 3, 0, 100000}));
+    EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 1, 0, 0, 1, 7, 3, 120, 300})) << "it is shown";
+    EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 8, 3, 120, 300})) << "no place";
+    EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 2, 7, 3, 1, 1, 7, 3, 1, 1})) << "twice";
+    EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 7, 4, 120, 300})) << "no such side";
+    EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 7, 3, -1, 300}));
+    EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 7, 3, 120, 100001}));
 }
 
 TEST(LayoutNumbers, WhatIsDamagedIsRefused) {

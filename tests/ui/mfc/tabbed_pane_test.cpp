@@ -437,3 +437,32 @@ TEST_F(TabbedPane, HandsTheFocusOnByControlAndTab) {
     EXPECT_EQ(tabbed->GetTabWnd()->GetActiveTab(), 0);
     EXPECT_EQ(::GetFocus(), panes[0].m_hWnd);
 }
+
+TEST_F(TabbedPane, LosesTheTabOfAPaneThatIsDestroyed) {
+    CTabbedPane* const tabbed = join();
+    CRect place;
+    tabbed->GetWindowRect(&place);
+    tabbed->GetTabWnd()->SetActiveTab(1);
+    panes[1].DestroyWindow();
+    ASSERT_EQ(tabbed->GetTabsNum(), 2);
+    EXPECT_EQ(tabbed->FindBarByTabNumber(0), &panes[0]);
+    EXPECT_EQ(tabbed->FindBarByTabNumber(1), &panes[2]);
+    EXPECT_EQ(tabbed->GetTabWnd()->GetActiveWnd(), &panes[2]);
+    EXPECT_TRUE(panes[2].IsWindowVisible());
+    panes[2].DestroyWindow();
+    ui_test::pump();
+    EXPECT_FALSE(panes[0].IsTabbed()) << "the last stands alone";
+    EXPECT_TRUE(panes[0].IsWindowVisible());
+    CRect now;
+    panes[0].GetWindowRect(&now);
+    EXPECT_EQ(now, place);
+}
+
+TEST_F(TabbedPane, LosesTheTabOfADestroyedPaneAlsoWhereItDestroysPanesItself) {
+    CTabbedPane* const tabbed = join();
+    tabbed->GetTabWnd()->AutoDestroyWindow();
+    panes[0].DestroyWindow();
+    EXPECT_EQ(tabbed->GetTabsNum(), 2);
+    EXPECT_TRUE(tabbed->GetTabWnd()->IsAutoDestroyWindow());
+    EXPECT_EQ(panes[0].m_hWnd, nullptr);
+}

@@ -60,6 +60,9 @@ public:
     /// Takes a pane's present name over to its tab.
     void rename_tab(const CDockablePane& pane);
 
+    /// A tab's pane is being destroyed.
+    void forget_tab(CDockablePane* pane);
+
 protected:
     void PostNcDestroy() override;
     /// Ends this pane or puts the one that is left in its place.
