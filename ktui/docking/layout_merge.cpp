@@ -44,8 +44,10 @@ void join(Tree& target, Tree added, const Neighbor& like) {
     split.upright = like.upright;
     split.share = like.share;
     Tree former = std::move(target);
-    split.halves.push_back(like.isFirst ? std::move(added) : std::move(former));
-    split.halves.push_back(like.isFirst ? std::move(former) : std::move(added));
+    Tree& first = like.isFirst ? added : former;
+    Tree& second = like.isFirst ? former : added;
+    split.halves.push_back(std::move(first));
+    split.halves.push_back(std::move(second));
     target = std::move(split);
 }
 
