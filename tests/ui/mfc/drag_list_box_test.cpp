@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "list_rows.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {
@@ -41,6 +42,21 @@ public:
     }
 };
 
+/// Where the system finds the mouse: the real one may be elsewhere before it looks.
+CPoint pointerPlace;
+BOOL WINAPI tellPointer(POINT* place) {
+    *place = pointerPlace;
+    return TRUE;
+}
+
+HMODULE moduleOf(BOOL(WINAPI* function)(HWND)) {
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<const wchar_t*>(function), &module);
+    return module;
+}
+
 class DragList : public ::testing::Test {
 protected:
     DragList() {
@@ -64,14 +80,16 @@ protected:
         return parent.SendMessage(dragMessage(), kListId, reinterpret_cast<LPARAM>(&info));
     }
     std::wstring texts() { return ui_test::rows_of(list); }
-    /// Sends a message of the mouse, which the system then asks for its place.
+    /// Sends a message of the mouse, for whose place the system then asks.
     void mouse(UINT message, CPoint screen) {
-        ASSERT_TRUE(ui_test::move_cursor(screen));
+        ASSERT_TRUE(pointer.isThere());
+        pointerPlace = screen;
         list.ScreenToClient(&screen);
         list.SendMessage(message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(screen.x, screen.y));
     }
     ui_test::ParentWindow parent;
     List list;
+    ui_test::ReplacedImport pointer{moduleOf(&::MakeDragList), "GetCursorPos", &tellPointer};
 };
 
 TEST_F(DragList, FindsTheItemAtAPoint) {
