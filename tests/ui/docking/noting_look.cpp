@@ -16,8 +16,8 @@ std::vector<DrawnCaption>& NotingLook::captions() {
 
 void NotingLook::OnDrawCaptionButton(CDC* dc, CMFCCaptionButton* button, BOOL active, BOOL horizontal,
                                      BOOL held, BOOL disabled, int image) {
-    buttons().push_back({button->GetHit(), active, horizontal, held, disabled, button->m_bFocused,
-                         button->m_bPushed});
+    buttons().push_back(
+        {button->GetHit(), active, horizontal, held, disabled, button->m_bFocused, button->m_bPushed});
     CMFCVisualManager::OnDrawCaptionButton(dc, button, active, horizontal, held, disabled, image);
 }
 
