@@ -172,9 +172,12 @@ TEST_F(PaneLock, AButtonThatIsHeldElsewhereCanBePressedAgain) {
 
 TEST_F(PaneLock, TheFrameworkAlwaysHearsTheReleaseOfTheButton) {
     dock(bar, CBRS_ALIGN_LEFT);
+    KbUiLockPanel(true, false);
     press(bar, captionPlace(bar));
+    setKey(VK_CONTROL, true);
+    press(bar, captionPlace(bar));
+    ASSERT_TRUE(bar.isBlocked());
     ASSERT_TRUE(bar.IsTracked());
-    bar.m_dockFlags |= 0x2000000;
     sendMouse(bar, WM_LBUTTONUP, captionPlace(bar));
     EXPECT_FALSE(bar.IsTracked());
     EXPECT_NE(::GetCapture(), bar.m_hWnd);
