@@ -189,6 +189,10 @@ TEST_F(DockControlBar, DocksAtASideOfTheHostsMainFrame) {
     host.frame = nullptr;
     bar.DockControlBar(CBRS_ALIGN_LEFT, nullptr);
     EXPECT_FALSE(bar.IsDocked()) << "without a frame";
+    CMDIFrameWndEx windowless;
+    host.frame = &windowless;
+    bar.DockControlBar(CBRS_ALIGN_LEFT, nullptr);
+    EXPECT_FALSE(bar.IsDocked()) << "a frame without a window";
     host.hasUiHost = false;
     bar.DockControlBar(CBRS_ALIGN_LEFT, nullptr);
     EXPECT_FALSE(bar.IsDocked()) << "without a host";
@@ -398,6 +402,9 @@ TEST_F(DockControlBarXml, ADockedBarComesBackWithItsAlignment) {
 }
 
 TEST_F(DockControlBarXml, AVisibleFlagInTheRecordPutsTheBarOnTheScreen) {
+    bar.m_floatingRect = CRect(310, 205, 550, 435);
+    // Read from the floating corner, this becomes 234 wide.
+    bar.m_dockingRect = CRect(310, 205, 544, 405);
     EXPECT_EQ(bar.Save(root), 1);
     IXMLDOMElementPtr info;
     IXMLDOMNode* found = nullptr;
@@ -412,12 +419,17 @@ TEST_F(DockControlBarXml, AVisibleFlagInTheRecordPutsTheBarOnTheScreen) {
     barElement->setAttribute(_bstr_t(L"Orientation"), _variant_t(L"16384"));
     EXPECT_EQ(bar.Load(root), 1);
     EXPECT_TRUE(bar.isVisible());
-    EXPECT_TRUE(bar.IsDocked());
+    ASSERT_TRUE(bar.IsDocked());
     EXPECT_EQ(bar.GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_RIGHT));
+    CRect place;
+    bar.GetWindowRect(&place);
+    EXPECT_EQ(place.Width(), 234) << "the docked place's";
     barElement->setAttribute(_bstr_t(L"Orientation"), _variant_t(L"1"));
     EXPECT_EQ(bar.Load(root), 1);
     EXPECT_FALSE(bar.IsDocked());
-    EXPECT_NE(bar.GetParentMiniFrame(), nullptr);
+    ASSERT_NE(bar.GetParentMiniFrame(), nullptr);
+    bar.GetParentMiniFrame()->GetWindowRect(&place);
+    expectRect(place, 310, 205, 550, 435);
 }
 
 TEST_F(DockControlBarXml, WithoutANodeNothingIsKept) {
