@@ -127,6 +127,20 @@ TEST_F(UprightPainting, TheMenuButtonCanBeHeldAndThePinIsThatOfAPaneThatStays) {
     EXPECT_EQ(paintedOf(19).held, FALSE);
 }
 
+TEST_F(UprightPainting, ThePinOfAPaneThatHidesIsDrawnSo) {
+    struct Hiding : OpenBar {
+        bool hides = false;
+        BOOL IsAutoHideMode() const override { return hides; }
+    } hiding;
+    dock(hiding, CBRS_ALIGN_BOTTOM, 4007);
+    hiding.hides = true;
+    NotingLook::buttons().clear();
+    hiding.SendMessage(WM_NCPAINT, 1, 0);
+    hiding.hides = false;
+    ASSERT_EQ(NotingLook::buttons().size(), 3u);
+    for (const DrawnButton& button : NotingLook::buttons()) EXPECT_EQ(button.held, button.hit != 19);
+}
+
 TEST_F(UprightPainting, AButtonThatCantBeUsedIsGrey) {
     EXPECT_EQ(paintedOf(19).disabled, FALSE);
     EXPECT_EQ(paintedOf(9).disabled, FALSE);
