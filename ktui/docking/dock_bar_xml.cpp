@@ -117,6 +117,7 @@ int LoadDockBar(IUnknown* unknown, const DockBarFields& fields) {
 }
 
 DWORD AlignmentOfOrientation(unsigned orientation, DWORD style) {
+    // Kept: a docked orientation leaves the floating bit of the style as it is.
     const DWORD others = style & ~CBRS_ALIGN_ANY;
     switch (orientation) {
         case 0:

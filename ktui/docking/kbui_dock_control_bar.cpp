@@ -35,7 +35,10 @@ BEGIN_MESSAGE_MAP(CKbUiDockControlBar, CDockablePane)
     ON_WM_NCCALCSIZE()
     ON_WM_NCPAINT()
     ON_WM_NCHITTEST()
+    ON_WM_NCMOUSEMOVE()
+    ON_WM_NCMOUSELEAVE()
     ON_WM_NCLBUTTONDOWN()
+    ON_WM_NCLBUTTONDBLCLK()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -161,6 +164,7 @@ void CKbUiDockControlBar::OnWindowPosChanged(WINDOWPOS* position) {
     CRect rect(CPoint(position->x, position->y), CSize(position->cx, position->cy));
     const bool floating = !IsDocked();
     SizeChanged(&rect, floating, static_cast<int>(position->flags));
+    // Kept: of a floating bar this is the place inside its frame; Load takes it for one on the screen.
     (floating ? m_floatingRect : m_dockingRect) = rect;
 }
 

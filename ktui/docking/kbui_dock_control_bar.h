@@ -18,7 +18,7 @@
 /// Locks bars against moving: docked ones, floating ones. Ctrl held down lifts both locks for the moment.
 KTUI_API void KbUiLockPanel(bool docked, bool floating);
 
-// Kept: these do nothing and answer 0. A tool is identified by SetToolID alone.
+// Kept: these do nothing; those with a result answer 0. A tool is identified by SetToolID alone.
 KTUI_API int KbUiRegisterTool(const char* module, const char* tool, GUID* id);
 KTUI_API int KbUiSetFloatingFrameClass(CRuntimeClass* frame);
 KTUI_API void KbUiRegisterFloatingFrameClassAddress(CRuntimeClass** frame);
@@ -107,8 +107,8 @@ public:
     /// Stores the sides to dock at, without the top.
     void EnableDocking(DWORD alignment) override;
     CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
-    /// The framework's state and the visible flag. A floating frame that would lie off the main window's
-    /// screens comes back near the screen's origin.
+    /// The framework's state and the visible flag. A floating frame that would not meet the main window's
+    /// rectangle comes back near the screen's origin.
     BOOL LoadState(LPCTSTR profile = nullptr, int index = -1, UINT id = static_cast<UINT>(-1)) override;
     BOOL SaveState(LPCTSTR profile = nullptr, int index = -1, UINT id = static_cast<UINT>(-1)) override;
     /// Marks the other bars of its tabs as visible when a floating one is shown and activated.
@@ -153,7 +153,10 @@ protected:
     afx_msg void OnNcCalcSize(BOOL calculatesValidRects, NCCALCSIZE_PARAMS* params);
     afx_msg void OnNcPaint();
     afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg void OnNcMouseMove(UINT hit, CPoint point);
+    afx_msg void OnNcMouseLeave();
     afx_msg void OnNcLButtonDown(UINT hit, CPoint point);
+    afx_msg void OnNcLButtonDblClk(UINT hit, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
@@ -169,8 +172,11 @@ protected:
     unsigned __int64 m_reserved2 = 0;
     GUID m_toolId = {};
     bool m_closeButtonVisible = false;
-    CRect m_dockingRect{0, 0, 0, 0};   ///< as docked last, parent's client coordinates
-    CRect m_floatingRect{0, 0, 0, 0};  ///< as floating last
+    /// As docked last, in the parent's client coordinates; after LoadState the place of the floating frame
+    /// that the framework kept, in screen coordinates.
+    CRect m_dockingRect{0, 0, 0, 0};
+    /// As floating last, inside the floating frame; after LoadState the frame's place in screen coordinates.
+    CRect m_floatingRect{0, 0, 0, 0};
 
     static bool m_bToolsRestartMode;
     // Kept: not used.
@@ -182,6 +188,8 @@ private:
     void bringFrameBack();
     /// Whether the caption stands upright at the left: docked at the bottom.
     bool hasUprightCaption() const;
+    /// Whether a button of the upright caption lies at a screen point.
+    bool isOnUprightButton(CPoint screen) const;
     void placeUprightButtons(CPoint corner, int captionHeight);
     bool hidesButton(const CMFCCaptionButton& button) const;
     void drawUprightCaption(CDC& dc, CSize size);

@@ -68,6 +68,7 @@ void CKbUiDockControlBar::OnNcPaint() {
         CDockablePane::OnNcPaint();
         return;
     }
+    // Kept: the pane counts as not active from here on.
     m_bActive = FALSE;
     CWindowDC dc(this);
     CRect window, client, update;
@@ -80,6 +81,7 @@ void CKbUiDockControlBar::OnNcPaint() {
         clip.CreateRectRgn(0, 0, window.Width(), window.Height());
         dc.SelectClipRgn(&clip);
     }
+    // After the region, which would put the client area back.
     dc.ExcludeClipRect(&client);
     CDC memory;
     CBitmap bitmap;
@@ -102,8 +104,12 @@ void CKbUiDockControlBar::drawUprightCaption(CDC& dc, CSize size) {
         CMFCVisualManager::GetInstance()->OnDrawPaneCaption(&dc, this, m_bActive, caption, buttons);
     for (INT_PTR index = 0; index < m_arrButtons.GetSize(); ++index) {
         CMFCCaptionButton* button = buttonAt(m_arrButtons, index);
-        const bool pinned = button->GetHit() == kPinButton && IsAutoHideMode();
-        if (!button->m_bHidden) button->OnDraw(&dc, m_bActive, IsHorizontal(), pinned, !button->m_bEnabled);
+        const UINT hit = button->GetHit();
+        // Kept: the menu button is always drawn as one that can be held down, the pin as the pane hides.
+        const bool held = hit == kMenuButton || (hit == kPinButton && IsAutoHideMode());
+        if (!button->m_bHidden)
+            button->OnDraw(&dc, m_bActive, IsHorizontal(), held,
+                           is_button_disabled(static_cast<LRESULT>(hit)));
     }
     CRect name = caption;
     name.top = buttons.bottom;
@@ -138,12 +144,37 @@ LRESULT CKbUiDockControlBar::OnNcHitTest(CPoint point) {
     return inside.PtInRect(point) ? HTCLIENT : CDockablePane::OnNcHitTest(point);
 }
 
+bool CKbUiDockControlBar::isOnUprightButton(CPoint screen) const {
+    return hasUprightCaption() && FindButton(screen) != nullptr;
+}
+
+// The hit codes of upright buttons lead outside of the client area, where an ordinary caption's lead into it.
+
+void CKbUiDockControlBar::OnNcMouseMove(UINT hit, CPoint point) {
+    if (!hasUprightCaption()) {
+        CDockablePane::OnNcMouseMove(hit, point);
+        return;
+    }
+    ScreenToClient(&point);
+    OnMouseMove(::GetKeyState(VK_LBUTTON) < 0 ? MK_LBUTTON : 0, point);
+}
+
+void CKbUiDockControlBar::OnNcMouseLeave() { CDockablePane::OnMouseLeave(); }
+
 void CKbUiDockControlBar::OnNcLButtonDown(UINT hit, CPoint point) {
-    if (!hasUprightCaption() || FindButton(point) == nullptr) {
+    if (!isOnUprightButton(point)) {
         CDockablePane::OnNcLButtonDown(hit, point);
         return;
     }
-    // The buttons' hit codes lead here; elsewhere they lie in what counts as the client area.
     ScreenToClient(&point);
-    CDockablePane::OnLButtonDown(MK_LBUTTON, point);
+    OnLButtonDown(MK_LBUTTON, point);
+}
+
+void CKbUiDockControlBar::OnNcLButtonDblClk(UINT hit, CPoint point) {
+    if (!isOnUprightButton(point)) {
+        CDockablePane::OnNcLButtonDblClk(hit, point);
+        return;
+    }
+    ScreenToClient(&point);
+    OnLButtonDblClk(MK_LBUTTON, point);
 }

@@ -42,6 +42,7 @@ BOOL CKbUiDockControlBar::LoadState(LPCTSTR profile, int index, UINT id) {
     setVisible(GetRecentVisibleState() != FALSE);
     bringFrameBack();
     m_floatingRect = m_recentDockInfo.m_rectRecentFloatingRect;
+    // Kept: the docked place is that of the floating frame.
     m_dockingRect = m_recentDockInfo.GetRecentDockedRect(FALSE);
     return TRUE;
 }
@@ -53,9 +54,11 @@ void CKbUiDockControlBar::bringFrameBack() {
     ::GetWindowRect(::GetDesktopWindow(), &desktop);
     const CRect main = mainWindowRect();
     CRect rect = m_recentDockInfo.m_rectRecentFloatingRect;
-    // Kept: the frame is put in the middle of a rectangle of the main window's size at the screen's origin.
+    // Kept: what doesn't meet the main window counts as lost, also when it shows on another monitor. It is
+    // put in the middle of a rectangle of the main window's size at the screen's origin.
     if (meet(main, desktop) && !meet(main, rect))
         rect.MoveToXY((main.Width() - rect.Width()) / 2, (main.Height() - rect.Height()) / 2);
+    // Kept: one that isn't lost is written to both places and moved to it as well.
     m_recentDockInfo.m_rectRecentFloatingRect = rect;
     m_recentDockInfo.GetRecentDockedRect(FALSE) = rect;
     frame->MoveWindow(&rect, TRUE);

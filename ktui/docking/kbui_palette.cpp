@@ -18,7 +18,8 @@ const CSize kNameEditRoom(100, 20);  // pixels that a name edit is pushed back b
 /// The key of a palette's name.
 CString keyOf(const CString& path, int id) {
     CString key;
-    // Kept: the path's address in the place of the path.
+    // Kept: the path's address in the place of the path. Format knows this conversion by a small letter only;
+    // what it prints is the same.
     key.Format(L"%palette-%d", static_cast<LPCTSTR>(path), id);
     return key;
 }

@@ -46,10 +46,13 @@ public:
     /// Lets the user rename the palette over its tab, or at a point (client). Nothing happens before Create.
     virtual void EditName();
     virtual void EditName(CPoint& point);
-    /// For subclasses; not asked. Whether the pointer isn't null.
+    // Kept: not asked when a name edit ends.
+    /// For subclasses. Whether the pointer isn't null.
     virtual int NameEditValidation(CEdit* edit);
 
-    /// Makes the window as a child of `set` (0 for null). `paletteStyle` is not used: the style becomes 1.
+    // Kept: `paletteStyle` is not used.
+    /// Makes the window as a child of `set`; its palette style becomes 1. 0 for a null set and when there is
+    /// no window, otherwise 1.
     int Create(unsigned long style, const wchar_t* name, CKbUiPaletteSet* set, unsigned long paletteStyle);
     CString GetName() const { return m_name; }
     /// Takes the name, and shows it on the palette's tab if it has one.

@@ -69,6 +69,8 @@ public:
     int helpCalls = 0;
     int linetypeDialogMode = 0;  ///< as the last call gave it
     int filledBackgrounds = 0;
+    HDC filledDc = nullptr;  ///< of the last background
+    CRect filledRect{0, 0, 0, 0};
 
     // CKhSystem
     CKhServiceManager* serviceManager() override { return this; }
@@ -127,7 +129,11 @@ public:
 
     // CKhPaletteHost, CKhPaletteSizing
     CKhPaletteSizing* sizing() override { return this; }
-    void fillBackground(HDC, const RECT&) override { ++filledBackgrounds; }
+    void fillBackground(HDC dc, const RECT& rect) override {
+        ++filledBackgrounds;
+        filledDc = dc;
+        filledRect = rect;
+    }
 
 private:
     CKhSystem* m_former;

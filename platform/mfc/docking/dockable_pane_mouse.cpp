@@ -21,7 +21,6 @@ void CDockablePane::OnLButtonDown(UINT, CPoint point) {
     if (hit != HTCAPTION) {
         if (is_button_disabled(hit)) return;
         m_nHit = static_cast<UINT>(hit);
-        m_bCaptionButtonsCapture = TRUE;
         SetCapture();
         follow_buttons(screen);
         return;
@@ -75,7 +74,6 @@ void CDockablePane::OnLButtonUp(UINT, CPoint point) {
     const bool onButton = pressed != HTNOWHERE && under != nullptr && under->GetHit() == pressed;
     if (m_bCaptionDragging || pressed != HTNOWHERE) {
         m_bCaptionDragging = FALSE;
-        m_bCaptionButtonsCapture = FALSE;
         m_nHit = HTNOWHERE;
         ReleaseCapture();
         follow_buttons(screen);
@@ -132,15 +130,20 @@ void CDockablePane::follow_buttons(CPoint screen) {
     m_nHot = under != nullptr ? under->GetHit() : HTNOWHERE;
     // While one is pressed the others stay cold.
     if (m_nHit != HTNOWHERE && m_nHot != m_nHit) m_nHot = HTNOWHERE;
+    m_bCaptionButtonsCapture = m_nHot != HTNOWHERE || m_nHit != HTNOWHERE;
     if (mark_buttons(m_arrButtons, m_nHot, m_nHit)) redraw_caption();
     if (m_nHot == HTNOWHERE) return;
     UpdateTooltips();
-    TRACKMOUSEEVENT leave = {sizeof(leave), TME_LEAVE, m_hWnd, 0};
+    // A pane may give its buttons hit codes outside of the client area; the system tells them apart.
+    const LRESULT area = ::SendMessageW(m_hWnd, WM_NCHITTEST, 0, MAKELPARAM(screen.x, screen.y));
+    const DWORD outside = area == HTCLIENT ? 0 : TME_NONCLIENT;
+    TRACKMOUSEEVENT leave = {sizeof(leave), TME_LEAVE | outside, m_hWnd, 0};
     ::TrackMouseEvent(&leave);
 }
 
 void CDockablePane::OnMouseLeave() {
     m_nHot = HTNOWHERE;
+    m_bCaptionButtonsCapture = m_nHit != HTNOWHERE;
     if (mark_buttons(m_arrButtons, HTNOWHERE, m_nHit)) redraw_caption();
     Default();
 }
@@ -152,8 +155,8 @@ void CDockablePane::OnCancelMode() {
 
 void CDockablePane::OnCaptureChanged(CWnd* pWnd) {
     m_bCaptionDragging = FALSE;
-    m_bCaptionButtonsCapture = FALSE;
     m_nHit = HTNOWHERE;
+    m_bCaptionButtonsCapture = m_nHot != HTNOWHERE;
     if (mark_buttons(m_arrButtons, m_nHot, HTNOWHERE)) redraw_caption();
     CPane::OnCaptureChanged(pWnd);
 }

@@ -5,6 +5,7 @@
 #include <afxvisualmanager.h>
 
 #include "bar_fixture.h"
+#include "noting_look.h"
 #include "picture.h"
 
 namespace {
@@ -62,6 +63,38 @@ TEST_F(BarCaption, IsOrdinaryAnywhereElse) {
     EXPECT_LE(client.left, 102);
 }
 
+/// Draws the caption and looks whether it lies along the upper edge.
+struct OrdinaryCaption : BarCaption {
+    void expectOrdinary() {
+        const int height = bar.GetCaptionHeight();
+        ASSERT_GT(height, 4);
+        EXPECT_EQ(clientOf(CRect(100, 200, 500, 400)).top, 200 + height);
+        const NotingLook::InForce look;
+        NotingLook::captions().clear();
+        bar.SendMessage(WM_NCPAINT, 1, 0);
+        ASSERT_EQ(NotingLook::captions().size(), 1u);
+        expectRect(NotingLook::captions()[0].area, 0, 0, windowRect().Width(), height);
+        EXPECT_NE(hit(CPoint(windowRect().right + height - 1, windowRect().bottom - 1)), HTCLIENT);
+    }
+};
+
+TEST_F(OrdinaryCaption, StandsOnABarAtTheLeft) {
+    bar.DestroyWindow();
+    dock(bar, CBRS_ALIGN_LEFT);
+    expectOrdinary();
+}
+
+TEST_F(OrdinaryCaption, StandsOnAFloatingBarThatWouldDockAtTheBottom) {
+    OpenBar second;
+    floatBar(bar);
+    dock(second, CBRS_ALIGN_LEFT, 4002);
+    ASSERT_TRUE(second.DockToWindow(&bar, CBRS_ALIGN_BOTTOM));
+    bar.SetPaneAlignment(CBRS_ALIGN_BOTTOM);
+    ASSERT_EQ(bar.GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_BOTTOM));
+    ASSERT_FALSE(bar.IsDocked());
+    expectOrdinary();
+}
+
 TEST_F(BarCaption, TheClientIsNeverInsideOut) {
     const CRect client = clientOf(CRect(100, 200, 104, 190));
     EXPECT_EQ(client.right, client.left);
@@ -87,6 +120,45 @@ TEST_F(BarCaption, ItsButtonsStandBelowEachOther) {
         y += pitch();
     }
     EXPECT_GT(y, 2);
+}
+
+TEST_F(BarCaption, AHiddenButtonTakesNoRoom) {
+    CDockingManager::m_bDockBarMenu = TRUE;
+    CDockablePane::m_bHideDisabledButtons = TRUE;
+    clientOf(CRect(100, 200, 500, 400));
+    EXPECT_EQ(bar.FindButtonByHit(8)->GetRect().top, 2 + 2 * pitch());
+    bar.SetControlBarStyle(bar.GetControlBarStyle() & ~static_cast<DWORD>(AFX_CBRS_AUTOHIDE));
+    clientOf(CRect(100, 200, 500, 400));
+    ASSERT_TRUE(bar.FindButtonByHit(9)->m_bHidden);
+    EXPECT_EQ(bar.FindButtonByHit(8)->GetRect().top, 2 + pitch());
+}
+
+TEST_F(BarCaption, TheTipsFollowTheButtons) {
+    const auto tipOf = [this](UINT_PTR hit) {
+        TOOLINFOW tool = {};
+        tool.cbSize = sizeof tool;
+        tool.hwnd = bar.m_hWnd;
+        tool.uId = hit;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND window, LPARAM found) -> BOOL {
+                wchar_t name[40] = {};
+                ::GetClassNameW(window, name, 40);
+                return std::wstring(name) != TOOLTIPS_CLASSW ||
+                       !::SendMessageW(window, TTM_GETTOOLINFOW, 0, found);
+            },
+            reinterpret_cast<LPARAM>(&tool));
+        return CRect(tool.rect);
+    };
+    CPoint origin(0, 0);
+    bar.ClientToScreen(&origin);
+    origin -= windowRect().TopLeft();
+    bar.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
+    EXPECT_TRUE(tipOf(19) == CRect(CPoint(2 - origin.x, 2 - origin.y), CMFCCaptionButton::GetSize()));
+    CDockablePane::m_bHideDisabledButtons = TRUE;
+    bar.SetControlBarStyle(bar.GetControlBarStyle() & ~static_cast<DWORD>(AFX_CBRS_CLOSE));
+    clientOf(windowRect());
+    EXPECT_TRUE(tipOf(19).IsRectEmpty());
 }
 
 TEST_F(BarCaption, HidesButtonsThatCantBeUsed) {
@@ -143,10 +215,10 @@ TEST_F(BarCaption, PointsOnButtonsHitThem) {
 TEST_F(BarCaption, TheRestIsClientAreaFromTwoCaptionsDownAndOneBeyondTheRight) {
     const CRect window = windowRect();
     const int height = bar.GetCaptionHeight();
-    EXPECT_EQ(hit(CPoint(window.left + 100, window.top + 2 * height)), HTCLIENT);
+    EXPECT_EQ(hit(CPoint(window.left + 1, window.top + 2 * height)), HTCLIENT);
     EXPECT_EQ(hit(CPoint(window.right + height - 1, window.bottom - 1)), HTCLIENT);
-    // Just outside of that rectangle the framework answers.
-    struct Ordinary : CDockablePane {};
+    // Just outside of that rectangle the framework answers, to whom this is no client area.
+    EXPECT_NE(hit(CPoint(window.left + 1, window.top + 2 * height - 1)), HTCLIENT);
     EXPECT_NE(hit(CPoint(window.right + height, window.bottom - 1)), HTCLIENT);
 }
 

@@ -40,6 +40,38 @@ TEST_F(BarState, AnIndexAndAnIdMakeOtherKeys) {
     EXPECT_EQ(stored(L"BasePane-4001ab"), 1);
 }
 
+TEST_F(BarState, WithoutAProfileTheKeyIsThatOfTheApplication) {
+    dock(bar, CBRS_ALIGN_LEFT, 4001);
+    bar.setVisible(true);
+    const NotedSettings::InForce settings;
+    const CWinApp& application = *AfxGetApp();
+    std::wstring path = L"SOFTWARE\\";
+    for (const wchar_t* part : {application.m_pszRegistryKey, application.m_pszProfileName})
+        if (part != nullptr) path += std::wstring(part) + L"\\";
+    EXPECT_EQ(bar.SaveState(), 1);
+    ASSERT_FALSE(NotedSettings::requests().empty());
+    EXPECT_EQ(NotedSettings::requests().back(), L"create " + path + L"BasePanes\\BasePane-4001");
+    EXPECT_EQ(NotedSettings::values()[L"IsVisible"], L"1");
+}
+
+TEST_F(BarState, AKeyThatCantBeMadeIsIgnored) {
+    dock(bar, CBRS_ALIGN_LEFT, 4001);
+    bar.setVisible(true);
+    const NotedSettings::InForce settings;
+    NotedSettings::refusesKeys() = true;
+    EXPECT_EQ(bar.SaveState(), 1);
+    EXPECT_TRUE(NotedSettings::values().empty());
+}
+
+TEST_F(BarState, AClearVisibleFlagComesBackClear) {
+    dock(bar, CBRS_ALIGN_LEFT, 4001);
+    bar.setVisible(false);
+    ASSERT_EQ(bar.SaveState(kProfile), 1);
+    bar.setVisible(true);
+    ASSERT_EQ(bar.LoadState(kProfile), 1);
+    EXPECT_FALSE(bar.isVisible());
+}
+
 TEST_F(BarState, WithoutAStateNothingIsRead) {
     dock(bar, CBRS_ALIGN_LEFT, 4001);
     bar.setVisible(true);
@@ -98,6 +130,25 @@ TEST_F(LostFrame, ComesBackNearTheScreensOriginAtItsSize) {
 
 TEST_F(LostFrame, StaysWhereTheMainWindowMeetsIt) {
     expectRect(loaded(CRect(700, 500, 910, 611)), 700, 500, 910, 611);
+    expectRect(bar.m_recentDockInfo.m_rectRecentFloatingRect, 700, 500, 910, 611);
+    expectRect(bar.m_recentDockInfo.GetRecentDockedRect(FALSE), 700, 500, 910, 611);
+    expectRect(bar.m_floatingRect, 700, 500, 910, 611);
+    expectRect(bar.m_dockingRect, 700, 500, 910, 611);
+}
+
+TEST_F(LostFrame, LargerThanTheMainWindowItLiesHalfTheDifferenceBeforeTheOrigin) {
+    // The main window is 800 by 600: half of -11 each way, towards zero.
+    expectRect(loaded(CRect(5000, 5000, 5811, 5611)), -5, -5, 806, 606);
+}
+
+TEST_F(LostFrame, WithoutAHostOrAMainWindowItStaysWhereItIs) {
+    host.hasUiHost = false;
+    expectRect(loaded(CRect(5000, 5000, 5210, 5111)), 5000, 5000, 5210, 5111);
+    host.hasUiHost = true;
+    AfxGetApp()->m_pMainWnd = nullptr;
+    expectRect(loaded(CRect(5100, 5000, 5310, 5111)), 5100, 5000, 5310, 5111);
+    AfxGetApp()->m_pMainWnd = frame;
+    EXPECT_NE(loaded(CRect(5100, 5000, 5310, 5111)).left, 5100);
 }
 
 TEST_F(LostFrame, StaysWhereItIsWhenTheMainWindowIsOffTheScreen) {

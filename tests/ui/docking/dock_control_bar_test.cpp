@@ -141,12 +141,14 @@ TEST_F(DockControlBar, ARectangleBelowTheMinimumGrowsFromItsCorner) {
     noting.SetMinSize(CSize(120, 90));
     ASSERT_TRUE(noting.CKbUiDockControlBar::Create(frame, L"Bar", 4001, WS_VISIBLE | CBRS_LEFT,
                                                    CRect(10, 20, 60, 400)));
+    EXPECT_TRUE(noting.made.TopLeft() == CPoint(10, 20));
     EXPECT_EQ(noting.made.Width(), 120);
     EXPECT_EQ(noting.made.Height(), 380);
     Noting low;
     low.SetMinSize(CSize(120, 90));
     ASSERT_TRUE(
         low.CKbUiDockControlBar::Create(frame, L"Bar", 4002, WS_VISIBLE | CBRS_LEFT, CRect(10, 20, 310, 50)));
+    EXPECT_TRUE(low.made.TopLeft() == CPoint(10, 20));
     EXPECT_EQ(low.made.Width(), 300);
     EXPECT_EQ(low.made.Height(), 90);
 }
@@ -187,6 +189,10 @@ TEST_F(DockControlBar, DocksAtASideOfTheHostsMainFrame) {
     host.frame = nullptr;
     bar.DockControlBar(CBRS_ALIGN_LEFT, nullptr);
     EXPECT_FALSE(bar.IsDocked()) << "without a frame";
+    CMDIFrameWndEx windowless;
+    host.frame = &windowless;
+    bar.DockControlBar(CBRS_ALIGN_LEFT, nullptr);
+    EXPECT_FALSE(bar.IsDocked()) << "a frame without a window";
     host.hasUiHost = false;
     bar.DockControlBar(CBRS_ALIGN_LEFT, nullptr);
     EXPECT_FALSE(bar.IsDocked()) << "without a host";
@@ -234,9 +240,17 @@ TEST_F(DockControlBar, NotesWhereItWasDockedAndWhereItFloated) {
     struct Noting : OpenBar {
         std::vector<std::pair<CRect, int>> told;
         std::vector<bool> storedBefore;
-        void SizeChanged(CRect* rect, int floating, int) override {
+        std::vector<int> order;  ///< messages of the default processing, 0 for being told
+        int lastFlags = 0;
+        void SizeChanged(CRect* rect, int floating, int flags) override {
             told.emplace_back(*rect, floating);
+            order.push_back(0);
+            lastFlags = flags;
             storedBefore.push_back((floating ? m_floatingRect : m_dockingRect) == *rect);
+        }
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_SIZE || message == WM_MOVE) order.push_back(static_cast<int>(message));
+            return OpenBar::WindowProc(message, wParam, lParam);
         }
     } noting;
     dock(noting, CBRS_ALIGN_LEFT);
@@ -245,12 +259,15 @@ TEST_F(DockControlBar, NotesWhereItWasDockedAndWhereItFloated) {
     place.flags = SWP_NOSIZE | SWP_NOMOVE;
     noting.told.clear();
     noting.storedBefore.clear();
+    noting.order.clear();
     noting.SendMessage(WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&place));
     expectRect(noting.m_dockingRect, 5, 6, 75, 86);
     ASSERT_EQ(noting.told.size(), 1u);
     expectRect(noting.told[0].first, 5, 6, 75, 86);
     EXPECT_EQ(noting.told[0].second, 0);
     EXPECT_FALSE(noting.storedBefore[0]) << "told first";
+    EXPECT_EQ(noting.lastFlags, SWP_NOSIZE | SWP_NOMOVE);
+    EXPECT_EQ(noting.order, (std::vector<int>{WM_MOVE, WM_SIZE, 0})) << "after the default processing";
     floatBar(noting);
     noting.told.clear();
     const CRect docked = noting.m_dockingRect;
@@ -274,6 +291,11 @@ TEST_F(DockControlBar, TheHostPaintsItsBackgroundAndTheBarItself) {
     EXPECT_EQ(painting.paints, 1);
     CClientDC dc(&painting);
     EXPECT_EQ(painting.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC), 0), 1);
+    CRect client;
+    painting.GetClientRect(&client);
+    EXPECT_EQ(host.filledDc, dc.m_hDC);
+    EXPECT_TRUE(host.filledRect == client);
+    EXPECT_FALSE(client.IsRectEmpty());
 }
 
 TEST_F(DockControlBar, TheCloseButtonClearsTheVisibleFlag) {
@@ -380,6 +402,9 @@ TEST_F(DockControlBarXml, ADockedBarComesBackWithItsAlignment) {
 }
 
 TEST_F(DockControlBarXml, AVisibleFlagInTheRecordPutsTheBarOnTheScreen) {
+    bar.m_floatingRect = CRect(310, 205, 550, 435);
+    // Read from the floating corner, this becomes 234 wide.
+    bar.m_dockingRect = CRect(310, 205, 544, 405);
     EXPECT_EQ(bar.Save(root), 1);
     IXMLDOMElementPtr info;
     IXMLDOMNode* found = nullptr;
@@ -394,12 +419,17 @@ TEST_F(DockControlBarXml, AVisibleFlagInTheRecordPutsTheBarOnTheScreen) {
     barElement->setAttribute(_bstr_t(L"Orientation"), _variant_t(L"16384"));
     EXPECT_EQ(bar.Load(root), 1);
     EXPECT_TRUE(bar.isVisible());
-    EXPECT_TRUE(bar.IsDocked());
+    ASSERT_TRUE(bar.IsDocked());
     EXPECT_EQ(bar.GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_RIGHT));
+    CRect place;
+    bar.GetWindowRect(&place);
+    EXPECT_EQ(place.Width(), 234) << "the docked place's";
     barElement->setAttribute(_bstr_t(L"Orientation"), _variant_t(L"1"));
     EXPECT_EQ(bar.Load(root), 1);
     EXPECT_FALSE(bar.IsDocked());
-    EXPECT_NE(bar.GetParentMiniFrame(), nullptr);
+    ASSERT_NE(bar.GetParentMiniFrame(), nullptr);
+    bar.GetParentMiniFrame()->GetWindowRect(&place);
+    expectRect(place, 310, 205, 550, 435);
 }
 
 TEST_F(DockControlBarXml, WithoutANodeNothingIsKept) {

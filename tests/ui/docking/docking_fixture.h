@@ -8,6 +8,7 @@
 #include <afxcontrolbars.h>
 #include <afxsettingsstore.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -80,6 +81,7 @@ public:
             values().clear();
             requests().clear();
             refusesKeys() = false;
+            onKey() = nullptr;
             CSettingsStoreSP::SetRuntimeClass(RUNTIME_CLASS(NotedSettings));
         }
         ~InForce() { CSettingsStoreSP::SetRuntimeClass(nullptr); }
@@ -95,6 +97,12 @@ public:
     static bool& refusesKeys() {
         static bool refuses = false;
         return refuses;
+    }
+
+    /// Told of each key while it is asked for.
+    static std::function<void(const std::wstring& key)>& onKey() {
+        static std::function<void(const std::wstring& key)> heard;
+        return heard;
     }
 
     BOOL Open(LPCTSTR path) override { return take(L"open ", path); }
@@ -120,6 +128,7 @@ private:
     BOOL take(const wchar_t* verb, LPCTSTR path) {
         requests().push_back(std::wstring(verb) + path + (m_bAdmin ? L" admin" : L"") +
                              (m_bReadOnly ? L" readonly" : L""));
+        if (onKey()) onKey()(path);
         return !refusesKeys();
     }
 };

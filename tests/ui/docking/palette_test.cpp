@@ -178,6 +178,11 @@ TEST_F(Palette, TheHostPaintsItsBackground) {
     CClientDC dc(palette);
     EXPECT_EQ(palette->SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC), 0), 1);
     EXPECT_EQ(host.filledBackgrounds, before + 1);
+    CRect client;
+    palette->GetClientRect(&client);
+    EXPECT_EQ(host.filledDc, dc.m_hDC);
+    EXPECT_TRUE(host.filledRect == client);
+    EXPECT_FALSE(client.IsRectEmpty());
 }
 
 TEST_F(Palette, AnswersWhetherAnEditIsThere) {

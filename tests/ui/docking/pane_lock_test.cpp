@@ -2,8 +2,6 @@
 #include <ktui/docking/mfc_tab_ctrl_ex.h>
 #include <ktui/docking/tabbed_pane_ex.h>
 
-#include <afxcaptionbutton.h>
-
 #include "bar_fixture.h"
 
 namespace {
@@ -115,21 +113,91 @@ TEST_F(PaneLock, WithCtrlALockedBarCanBeDragged) {
 TEST_F(PaneLock, CaptionButtonsOfALockedBarCanBePressed) {
     dock(bar, CBRS_ALIGN_LEFT);
     KbUiLockPanel(true, false);
-    CMFCCaptionButton* close = bar.FindButtonByHit(19);
-    ASSERT_NE(close, nullptr);
-    CRect window;
-    bar.GetWindowRect(&window);
-    CPoint place = close->GetRect().CenterPoint() + CSize(window.TopLeft());
-    bar.ScreenToClient(&place);
-    bar.m_bCaptionButtonsCapture = FALSE;
-    press(bar, place);
-    EXPECT_TRUE(bar.isBlocked()) << "they don't follow the mouse";
-    release(bar, place);
-    bar.m_bCaptionButtonsCapture = TRUE;
+    const CPoint place = buttonPlace(bar, 19);
+    sendMouse(bar, WM_MOUSEMOVE, place);
     press(bar, place);
     EXPECT_FALSE(bar.isBlocked());
+    EXPECT_TRUE(showsCursor(IDC_ARROW));
     release(bar, place);
     EXPECT_FALSE(bar.IsVisible()) << "pressed";
+}
+
+TEST_F(PaneLock, ButtonsThatNoMouseHasMetDontFollowIt) {
+    dock(bar, CBRS_ALIGN_LEFT);
+    KbUiLockPanel(true, false);
+    const CPoint place = buttonPlace(bar, 19);
+    press(bar, place);
+    EXPECT_TRUE(bar.isBlocked());
+    release(bar, place);
+    EXPECT_TRUE(bar.IsVisible());
+}
+
+TEST_F(PaneLock, ButtonsThatTheMouseHasLeftDontFollowItAnyMore) {
+    dock(bar, CBRS_ALIGN_LEFT);
+    KbUiLockPanel(true, false);
+    const CPoint place = buttonPlace(bar, 19);
+    sendMouse(bar, WM_MOUSEMOVE, place);
+    bar.SendMessage(WM_MOUSELEAVE);
+    press(bar, place);
+    EXPECT_TRUE(bar.isBlocked()) << "out of the window";
+    release(bar, place);
+    sendMouse(bar, WM_MOUSEMOVE, place);
+    sendMouse(bar, WM_MOUSEMOVE, CPoint(60, 60));
+    press(bar, place);
+    EXPECT_TRUE(bar.isBlocked()) << "away from the button";
+    release(bar, place);
+    EXPECT_TRUE(bar.IsVisible());
+}
+
+TEST_F(PaneLock, APressBesideTheButtonsIsRefusedWhileTheyFollowTheMouse) {
+    dock(bar, CBRS_ALIGN_LEFT);
+    KbUiLockPanel(true, false);
+    sendMouse(bar, WM_MOUSEMOVE, buttonPlace(bar, 19));
+    press(bar, captionPlace(bar));
+    EXPECT_TRUE(bar.isBlocked());
+    release(bar, captionPlace(bar));
+}
+
+TEST_F(PaneLock, AButtonThatIsHeldElsewhereCanBePressedAgain) {
+    dock(bar, CBRS_ALIGN_LEFT);
+    KbUiLockPanel(true, false);
+    const CPoint place = buttonPlace(bar, 19);
+    sendMouse(bar, WM_MOUSEMOVE, place);
+    press(bar, place);
+    sendMouse(bar, WM_MOUSEMOVE, CPoint(60, 60), MK_LBUTTON);
+    sendMouse(bar, WM_MOUSEMOVE, place, MK_LBUTTON);
+    sendMouse(bar, WM_LBUTTONUP, place);
+    EXPECT_FALSE(bar.IsVisible());
+}
+
+TEST_F(PaneLock, TheFrameworkAlwaysHearsTheReleaseOfTheButton) {
+    dock(bar, CBRS_ALIGN_LEFT);
+    KbUiLockPanel(true, false);
+    press(bar, captionPlace(bar));
+    setKey(VK_CONTROL, true);
+    press(bar, captionPlace(bar));
+    ASSERT_TRUE(bar.isBlocked());
+    ASSERT_TRUE(bar.IsTracked());
+    sendMouse(bar, WM_LBUTTONUP, captionPlace(bar));
+    EXPECT_FALSE(bar.IsTracked());
+    EXPECT_NE(::GetCapture(), bar.m_hWnd);
+    EXPECT_FALSE(bar.isBlocked());
+}
+
+TEST_F(PaneLock, InAPlainFloatingFrameTheFirstLockHolds) {
+    dock(bar, CBRS_ALIGN_LEFT);
+    bar.SetMiniFrameRTC(RUNTIME_CLASS(CMultiPaneFrameWnd));
+    floatBar(bar);
+    ASSERT_FALSE(bar.GetParentMiniFrame()->IsKindOf(RUNTIME_CLASS(CMultiPaneFrameWndEx)));
+    KbUiLockPanel(false, true);
+    EXPECT_NE(bar.CanFloat(), 0);
+    EXPECT_EQ(bar.GetEnabledAlignment(), 0xD000u);
+    KbUiLockPanel(true, false);
+    EXPECT_EQ(bar.CanFloat(), 0);
+    EXPECT_EQ(bar.GetEnabledAlignment(), 0u);
+    setKey(VK_CONTROL, true);
+    EXPECT_NE(bar.CanFloat(), 0);
+    EXPECT_EQ(bar.GetEnabledAlignment(), 0xD000u) << "its frame isn't the toolkit's";
 }
 
 TEST_F(PaneLock, ADoubleClickOnALockedBarOnlyTakesTheFocus) {
