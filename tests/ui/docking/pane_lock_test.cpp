@@ -288,8 +288,8 @@ TEST_F(FrameLock, ADoubleClickOnALockedFrameLeavesItWhereItIs) {
             sendMouse(*each, WM_LBUTTONDBLCLK, captionOf(*each));
             EXPECT_TRUE(isFocusIn(*each)) << "it takes the focus " << docked;
             ui_test::pump();
-            EXPECT_FALSE(bar.IsDocked()) << docked;
-            EXPECT_FALSE(plain.IsDocked()) << docked;
+            ASSERT_FALSE(bar.IsDocked()) << docked;
+            ASSERT_FALSE(plain.IsDocked()) << docked;
         }
     }
     KbUiLockPanel(false, false);

@@ -1,4 +1,7 @@
 // What a strip leaves behind with its window, what it does with the windows that it holds, and its tips.
+#include <cstddef>
+#include <new>
+
 #include "fake_resolution.h"
 #include "strip_fixture.h"
 
@@ -17,6 +20,28 @@ public:
 private:
     int* m_deleted;
 };
+
+/// Lies where a page was deleted, and notes who still takes it for the page.
+class Remains : public CWnd {
+public:
+    BOOL DestroyWindow() override { return ++touched; }
+    static void operator delete(void*) { ++touched; }
+    static int touched;
+};
+int Remains::touched = 0;
+
+/// A page in a place of its own, of which remains stay behind.
+class LonePage : public Page {
+public:
+    using Page::Page;
+    static void* operator new(std::size_t) { return place; }
+    static void operator delete(void* deleted) { ::new (deleted) Remains; }
+    static void clearAway() { reinterpret_cast<Remains*>(place)->~Remains(); }
+
+private:
+    alignas(std::max_align_t) static unsigned char place[];
+};
+alignas(std::max_align_t) unsigned char LonePage::place[sizeof(LonePage)];
 
 struct StripLifetime : StripTest {
     /// The tips of this thread that belong to the parent window.
@@ -81,7 +106,8 @@ TEST_F(StripLifetime, ItsWidthsGrowWithTheResolutionOnceForEachWindow) {
 
 TEST_F(StripLifetime, AWindowWithTwoTabsIsDeletedOnce) {
     int deleted = 0;
-    auto* page = new Page(&deleted);
+    Remains::touched = 0;
+    auto* page = new LonePage(&deleted);
     ASSERT_TRUE(page->Create(nullptr, L"page", WS_CHILD, CRect(0, 0, 5, 5), &parent, 5));
     const HWND window = page->m_hWnd;
     OpenStrip strip;
@@ -91,7 +117,9 @@ TEST_F(StripLifetime, AWindowWithTwoTabsIsDeletedOnce) {
     strip.InsertTab(1, L"Other", L"", new Page(&others));
     strip.InsertTab(2, L"Page again", L"", page);
     strip.DestroyWindow();
-    EXPECT_EQ(deleted, 1);
+    ASSERT_EQ(deleted, 1);
+    EXPECT_EQ(Remains::touched, 0) << "nor destroyed again";
+    LonePage::clearAway();
     EXPECT_EQ(others, 1);
     EXPECT_FALSE(::IsWindow(window));
     EXPECT_EQ(strip.GetTabCount(), 0);
