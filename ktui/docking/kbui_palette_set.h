@@ -32,7 +32,9 @@ enum : unsigned long {
     kKbUiCloseButton = 8,
     kKbUiEditName = 16,
     kKbUiSnap = 32,
-    kKbUiSinglePaletteTab = 64,  ///< the strip shows even with a single palette; the others are only reported
+    /// The strip shows even with a single palette, once the set is sized; SetActivePalette by pointer hides
+    /// it again until the next size. The other bits are only reported.
+    kKbUiSinglePaletteTab = 64,
     kKbUiUseSinglePaletteTabName = 128,
 };
 
@@ -90,7 +92,9 @@ public:
     int SetName(const wchar_t* name);
 
     /// Adds a palette as index 0; the others move up. It gets a window if it has none, and is hidden unless
-    /// it is the first. -1 for null, a window that can't be made, and an empty name; otherwise 0.
+    /// it is the first. -1 for null, a window that can't be made, and an empty name, for which it stays
+    /// hidden all the same; otherwise 0. A palette that is there already gets a second tab; it is deleted
+    /// once.
     int AddPalette(CKbUiPalette* palette);
     /// Adds a palette that has a window; `index` counts from the other end: 0 adds behind the last. -1 for
     /// null, an index outside 0 to the count, and an empty name; otherwise 0.
@@ -108,8 +112,8 @@ public:
     CKbUiPalette* GetActivePalette() const;
     /// -1 when the active index is negative or above the count.
     int GetActivePaletteTabIndex() const;
-    /// Shows the palette and hides the others. 0 for null and one that isn't in the set; 1 otherwise, also
-    /// for an empty set.
+    /// Shows the palette and hides the others; with a single palette the strip is hidden until the next size,
+    /// whatever the style. 0 for null and one that isn't in the set; 1 otherwise, also for an empty set.
     int SetActivePalette(CKbUiPalette* palette);
     // Kept: an index equal to the count hides all palettes, and the strip isn't moved.
     int SetActivePalette(int index);

@@ -44,6 +44,7 @@ void CKbUiPaletteSet::OnContextMenu(CWnd* window, CPoint point) {
     int index = -1;
     if (tabs.HitTest(point - CSize(area.TopLeft()), index) != static_cast<int>(strip::Target::Tab)) return;
     const CKbUiPalette* palette = GetPalette(index);
+    // Kept: the style has to be exactly 1; another with that bit set has no menu.
     if (palette == nullptr || palette->GetPaletteStyle() != kEditable) return;
     m_data->m_contextPalette = index;
     CMenu menu;

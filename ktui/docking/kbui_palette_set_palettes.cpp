@@ -32,6 +32,7 @@ CKbUiPalette* CKbUiPaletteSet::GetActivePalette() const { return GetPalette(m_da
 
 int CKbUiPaletteSet::GetActivePaletteTabIndex() const {
     const int active = m_data->m_tabs.GetActiveTab();
+    // Kept: an index equal to the count is answered.
     return active < 0 || active > GetPaletteCount() ? -1 : active;
 }
 
@@ -41,6 +42,7 @@ int CKbUiPaletteSet::AddPalette(CKbUiPalette* palette) {
         if (!palette->Create(this)) return -1;
         palette->UpdateWindow();
     }
+    // Kept: hidden before the name is looked at, so a palette that is refused for its name is hidden too.
     if (GetPaletteCount() > 0) palette->ShowWindow(SW_HIDE);
     return m_data->m_tabs.InsertTab(0, palette->GetName(), palette->GetName(), palette);
 }
@@ -48,6 +50,7 @@ int CKbUiPaletteSet::AddPalette(CKbUiPalette* palette) {
 int CKbUiPaletteSet::InsertPalette(int index, CKbUiPalette* palette) {
     const int count = GetPaletteCount();
     if (palette == nullptr || index < 0 || index > count) return -1;
+    // Kept: hidden before the name is looked at.
     if (count != 0) palette->ShowWindow(SW_HIDE);
     // Kept: the index counts from the other end of the list.
     return m_data->m_tabs.InsertTab(count - index, palette->GetName(), palette->GetName(), palette);
@@ -128,6 +131,7 @@ int CKbUiPaletteSet::SetActivePalette(CKbUiPalette* palette) {
         showActive(*palette, index);
         CRect client;
         GetClientRect(&client);
+        // Kept: a single palette's strip is hidden, also with style bit 64.
         if (GetPaletteCount() < 2)
             strip.MoveWindow(0, 0, 0, 0);
         else

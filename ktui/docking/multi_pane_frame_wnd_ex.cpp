@@ -53,6 +53,7 @@ void CMultiPaneFrameWndEx::OnLButtonDblClk(UINT flags, CPoint point) {
 }
 
 void CMultiPaneFrameWndEx::OnLButtonDown(UINT flags, CPoint point) {
+    // Kept: the button is the one that is hot, not the one at the point that is pressed.
     if (!isFloatingLocked() || FindButtonByHit(m_nHot) != nullptr) {
         CMultiPaneFrameWnd::OnLButtonDown(flags, point);
         return;

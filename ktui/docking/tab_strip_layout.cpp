@@ -95,7 +95,10 @@ Outline OutlineOf(const RECT& tab, bool overturned) {
              {tab.right - 1, base}}};
 }
 
-CPoint Turned(CPoint client, int height) { return CPoint(height - client.y, client.x); }
+CPoint Turned(CPoint client, int height) {
+    // Kept: counted from the height, so the lowest pixel of the window lies at 1.
+    return CPoint(height - client.y, client.x);
+}
 
 CRect TurnedBack(const RECT& turned, int height) {
     return CRect(turned.top, height - turned.right, turned.bottom, height - turned.left);

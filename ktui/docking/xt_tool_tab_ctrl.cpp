@@ -58,6 +58,7 @@ int CXToolTabCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) 
 
 int CXToolTabCtrl::OnCreate(LPCREATESTRUCT create) {
     const int result = CWnd::OnCreate(create);
+    m_unscaled = {m_scrollWidth, m_minTabWidth, m_maxTabWidth};
     for (int* size : {&m_scrollWidth, &m_minTabWidth, &m_maxTabWidth})
         *size = KtUiAppearancePixels(m_hWnd, *size);
     if (m_style & strip::kHasTips) {
@@ -73,9 +74,29 @@ void CXToolTabCtrl::OnDestroy() {
         const std::unique_ptr<XTTabItem> tab(GetTab(0));
         m_tabs.RemoveAt(0);
         if (tab->m_window == nullptr) continue;
+        forgetWindow(tab->m_window);
         tab->m_window->DestroyWindow();
         delete tab->m_window;
     }
+    startAnew();
+}
+
+void CXToolTabCtrl::forgetWindow(const CWnd* window) {
+    for (int index = 0; index < GetTabCount(); ++index)
+        if (GetTab(index)->m_window == window) GetTab(index)->m_window = nullptr;
+}
+
+void CXToolTabCtrl::startAnew() {
+    // The tip's owner is the main window, so it doesn't go by itself.
+    m_tip.DestroyWindow();
+    m_nextToolId = 0;
+    m_activeTab = 0;
+    m_firstVisible = 0;
+    m_lastVisible = -1;
+    m_scrollRect.SetRectEmpty();
+    m_scrollWidth = m_unscaled.scroll;
+    m_minTabWidth = m_unscaled.minTab;
+    m_maxTabWidth = m_unscaled.maxTab;
 }
 
 int CXToolTabCtrl::InsertTab(int index, const wchar_t* text, const wchar_t* tip, CWnd* window) {
@@ -114,6 +135,7 @@ int CXToolTabCtrl::SetTabText(int index, const wchar_t* text) {
     if (index < 0 || index >= GetTabCount()) return 0;
     XTTabItem& tab = *GetTab(index);
     if (tab.m_text == text) return 1;
+    // Kept: the tip stays the one that the tab was inserted with.
     tab.m_text = text;
     Recalc();
     return 1;
@@ -237,6 +259,6 @@ void CXToolTabCtrl::OnLButtonDown(UINT flags, CPoint point) {
 
 void CXToolTabCtrl::OnLButtonDblClk(UINT, CPoint point) {
     int index = -1;
-    if (HitTest(point, index) == static_cast<int>(strip::Target::Tab))
-        GetTab(index)->m_window->SendMessage(kBeginNameEdit, 0, 0);
+    if (HitTest(point, index) != static_cast<int>(strip::Target::Tab)) return;
+    if (CWnd* window = GetTab(index)->m_window) window->SendMessage(kBeginNameEdit, 0, 0);
 }

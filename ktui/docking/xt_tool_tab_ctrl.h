@@ -6,7 +6,8 @@
 // always holds the active one, and an arrow area tells that there are more.
 //
 // The windows belong to the caller until the strip's own window is destroyed: windows that are in the strip
-// then are destroyed and their objects deleted.
+// then are destroyed and their objects deleted, each once, also one that has several tabs. Afterwards the
+// strip is as it was before its creation, and may be created again.
 #pragma once
 
 #include <afxwin.h>
@@ -56,7 +57,7 @@ public:
     /// Takes the tab away, and leaves its window alone. The active index goes down by one if the tab was
     /// active. 0 if there is none at `index`, otherwise 1.
     int RemoveTab(int index);
-    /// 0 if there is no tab at `index`, otherwise 1.
+    /// Changes the text; the tip stays. 0 if there is no tab at `index`, otherwise 1.
     int SetTabText(int index, const wchar_t* text);
     /// Whether the strip stands on its side.
     bool IsTurned() const;
@@ -119,4 +120,15 @@ private:
     void placeTools();
     void fillOutline(CDC* dc, CRgn& region);
     void drawText(CDC* dc, const XTTabItem& tab, bool active);
+    /// Leaves the tabs of `window`, which is about to go, without a window.
+    void forgetWindow(const CWnd* window);
+    /// Puts back what a window of the strip has left behind.
+    void startAnew();
+
+    /// Widths as they were given, for the next window of the strip.
+    struct {
+        int scroll;
+        int minTab;
+        int maxTab;
+    } m_unscaled = {};
 };

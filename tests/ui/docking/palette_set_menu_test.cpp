@@ -1,10 +1,72 @@
 // The menu of a tab, renaming, and what is kept of a set.
 #include "in_language.h"
 #include "palette_fixture.h"
+#include "replaced_import.h"
+
+namespace docking_test {
+
+/// The user's settings; every request is noted, and keys can be refused.
+class WatchedSettings : public CSettingsStore {
+    DECLARE_DYNCREATE(WatchedSettings)
+
+public:
+    /// In force as long as it lives.
+    struct InForce {
+        InForce() {
+            requests().clear();
+            CSettingsStoreSP::SetRuntimeClass(RUNTIME_CLASS(WatchedSettings));
+        }
+        ~InForce() { CSettingsStoreSP::SetRuntimeClass(nullptr); }
+    };
+    static std::vector<std::wstring>& requests() {
+        static std::vector<std::wstring> all;
+        return all;
+    }
+
+    BOOL Open(LPCTSTR path) override {
+        note(L"open ", path);
+        return CSettingsStore::Open(path);
+    }
+    BOOL CreateKey(LPCTSTR path) override {
+        note(L"create ", path);
+        return CSettingsStore::CreateKey(path);
+    }
+
+private:
+    void note(const wchar_t* verb, LPCTSTR path) {
+        requests().push_back(std::wstring(verb) + path + (m_bAdmin ? L" admin" : L"") +
+                             (m_bReadOnly ? L" readonly" : L""));
+    }
+};
+
+IMPLEMENT_DYNCREATE(WatchedSettings, CSettingsStore)
+
+}  // namespace docking_test
 
 namespace {
 
 using namespace docking_test;
+
+struct TrackedMenu {
+    UINT flags = 99;
+    CPoint place;
+    HWND owner = nullptr;
+    int times = 0;
+} tracked;
+
+BOOL WINAPI noteMenu(HMENU, UINT flags, int x, int y, int, HWND owner, const RECT*) {
+    tracked = {flags, CPoint(x, y), owner, tracked.times + 1};
+    return TRUE;
+}
+
+LRESULT CALLBACK refuseNameEdits(int code, WPARAM window, LPARAM data) {
+    if (code == HCBT_CREATEWND) {
+        wchar_t name[20] = {};
+        ::GetClassNameW(reinterpret_cast<HWND>(window), name, 20);
+        if (std::wstring(name).substr(0, 11) == L"KH:NameEdit") return 1;
+    }
+    return ::CallNextHookEx(nullptr, code, window, data);
+}
 
 struct PaletteSetMenu : PaletteSetTest {
     struct Set : OpenSet {
@@ -56,6 +118,38 @@ TEST_F(PaletteSetMenu, ARightClickOnATabOffersToRenameItsPalette) {
     EXPECT_EQ(menuSet.id, 32772u);
     EXPECT_EQ(menuSet.text, L"&Rename Palette");
     EXPECT_EQ(menuSet.m_data->m_contextPalette, 1);
+}
+
+TEST_F(PaletteSetMenu, IsTrackedAtThePointForTheWindowThatWasClicked) {
+    makeMenuSet();
+    const CPoint place = placeIn(menuSet, 1);
+    CXToolTabCtrl& tabs = menuSet.m_data->m_tabs;
+    const ui_test::ReplacedImport notes(::GetModuleHandleW(L"kmfc.dll"), "TrackPopupMenu", &noteMenu);
+    ASSERT_TRUE(notes.isThere());
+    tracked = {};
+    tabs.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(tabs.m_hWnd), MAKELPARAM(place.x, place.y));
+    EXPECT_EQ(tracked.times, 1);
+    EXPECT_EQ(tracked.flags, 0u);
+    EXPECT_TRUE(tracked.place == place);
+    EXPECT_EQ(tracked.owner, tabs.m_hWnd);
+}
+
+TEST_F(PaletteSetMenu, ChoosingItsItemRenamesThePalette) {
+    make();
+    fill({L"A", L"B"});
+    set.SetActivePalette(set.GetPalette(0));
+    const CPoint place = tabPlace(1);
+    // The menu takes the keys from the queue.
+    strip().PostMessage(WM_KEYDOWN, VK_DOWN, 1);
+    strip().PostMessage(WM_KEYDOWN, VK_RETURN, 1);
+    ui_test::later([] { ::EndMenu(); }, 3000);
+    strip().SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(strip().m_hWnd),
+                        MAKELPARAM(place.x, place.y));
+    ASSERT_TRUE(ui_test::pump_until([] { return openNameEdit() != nullptr; }));
+    EXPECT_EQ(set.GetActivePaletteTabIndex(), 1);
+    EXPECT_EQ(ui_test::text_of(openNameEdit()), L"A");
+    endNameEdit(L"Z");
+    EXPECT_EQ(set.GetPalette(1)->GetName(), L"Z");
 }
 
 TEST_F(PaletteSetMenu, ItsTextIsThereInBothLanguages) {
@@ -189,6 +283,17 @@ TEST_F(PaletteSetMenu, AnswersWhetherTheNameEditBeganAndEnded) {
     EXPECT_EQ(openNameEdit(), nullptr);
 }
 
+TEST_F(PaletteSetMenu, ANameEditThatCantBeMadeIsToldAndChangesNothing) {
+    make();
+    const HHOOK hook = ::SetWindowsHookExW(WH_CBT, refuseNameEdits, nullptr, ::GetCurrentThreadId());
+    EXPECT_EQ(set.SendMessage(WM_USER + 101, 0, 0), 0);
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(openNameEdit(), nullptr);
+    EXPECT_EQ(set.GetName(), L"Set");
+    EXPECT_EQ(set.SendMessage(WM_USER + 101, 0, 0), 1) << "and another one can";
+    endNameEdit(nullptr);
+}
+
 /// The application's settings stand under a key of the test's own.
 struct PaletteSetState : PaletteSetTest {
     PaletteSetState() { AfxGetApp()->m_pszRegistryKey = L"ktui docking test"; }
@@ -218,6 +323,32 @@ TEST_F(PaletteSetState, KeepsItsNameBesideTheFrameworksState) {
     set.SetName(L"Other");
     EXPECT_EQ(set.Load(nullptr), 1);
     EXPECT_EQ(set.GetName(), L"Stored");
+}
+
+TEST_F(PaletteSetState, ItsNameIsWrittenToTheUsersSettingsAndOnlyReadFromThem) {
+    make();
+    ::SetWindowLongPtrW(set, GWLP_ID, 77);
+    const std::wstring key = std::wstring(AFXGetRegPath(L"BasePanes", nullptr)) + L"BasePane-77";
+    const WatchedSettings::InForce settings;
+    ASSERT_EQ(set.Save(nullptr), 1);
+    ASSERT_FALSE(WatchedSettings::requests().empty());
+    EXPECT_EQ(WatchedSettings::requests().back(), L"create " + key);
+    WatchedSettings::requests().clear();
+    ASSERT_EQ(set.Load(nullptr), 1);
+    ASSERT_FALSE(WatchedSettings::requests().empty());
+    EXPECT_EQ(WatchedSettings::requests().back(), L"open " + key + L" readonly");
+}
+
+TEST_F(PaletteSetState, AKeyThatCantBeMadeLeavesTheNameOutAndIsNoFailure) {
+    make();
+    ::SetWindowLongPtrW(set, GWLP_ID, 77);
+    const NotedSettings::InForce settings;
+    NotedSettings::refusesKeys() = true;
+    EXPECT_EQ(set.Save(nullptr), 1);
+    EXPECT_EQ(NotedSettings::values().count(L"Name"), 0u);
+    NotedSettings::refusesKeys() = false;
+    EXPECT_EQ(set.Save(nullptr), 1);
+    EXPECT_EQ(NotedSettings::values()[L"Name"], L"Set");
 }
 
 TEST_F(PaletteSetState, TheVisibleFlagIsNotItsAffair) {

@@ -443,7 +443,10 @@ TEST_F(PaletteSet, EntryPointsWithoutEffectHaveTheirAnswers) {
     set.SetTitleBarLocation(static_cast<KbUiTitleBarLocation>(0));
     EXPECT_EQ(set.TitleBarLocation(), static_cast<KbUiTitleBarLocation>(1));
     set.OnTogglePin();
+    alignas(CKbUiTheme) unsigned char theme[sizeof(CKbUiTheme)] = {};
     EXPECT_EQ(set.GetTheme(), nullptr);
+    EXPECT_EQ(set.SetTheme(reinterpret_cast<CKbUiTheme*>(theme)), nullptr);
+    EXPECT_EQ(set.GetTheme(), nullptr) << "not kept";
     EXPECT_EQ(set.SetTheme(nullptr), nullptr);
     EXPECT_FALSE(set.CanFrameworkTakeFocus());
     set.OnActivate(0, nullptr, FALSE);

@@ -212,6 +212,35 @@ TEST_F(PaneLock, ADoubleClickOnALockedBarOnlyTakesTheFocus) {
     EXPECT_FALSE(bar.IsDocked()) << "a free one floats";
 }
 
+/// Tells with which visible flag it was asked to close.
+class ClosingBar : public OpenBar {
+public:
+    void OnPressCloseButton() override {
+        flagsAtClosing.push_back(isVisible());
+        OpenBar::OnPressCloseButton();
+    }
+    std::vector<bool> flagsAtClosing;
+};
+
+/// A pane that knows nothing of locks.
+class PlainPane : public CDockablePane {
+public:
+    void dockIn(CMDIFrameWndEx* frame, unsigned id) {
+        ASSERT_TRUE(CDockablePane::Create(L"Plain", frame, CRect(0, 0, 150, 200), TRUE, id,
+                                          WS_CHILD | WS_VISIBLE | CBRS_LEFT | CBRS_FLOAT_MULTI));
+        SetMiniFrameRTC(RUNTIME_CLASS(CMultiPaneFrameWndEx));
+        SetTabbedPaneRTC(RUNTIME_CLASS(CTabbedPaneEx));
+        EnableDocking(CBRS_ALIGN_ANY);
+        frame->DockPane(this);
+        ui_test::pump();
+    }
+};
+
+bool isFocusIn(const CWnd& window) {
+    const HWND focus = ::GetFocus();
+    return focus == window.m_hWnd || ::IsChild(window.m_hWnd, focus);
+}
+
 /// A floating frame to look into.
 struct FrameLock : PaneLock {
     CPaneFrameWnd* floating = nullptr;
@@ -231,10 +260,19 @@ struct FrameLock : PaneLock {
         return rect;
     }
     /// On the frame's caption, in its client coordinates.
-    CPoint caption() {
-        CRect rect;
-        floating->GetCaptionRect(rect);
+    CPoint caption() { return captionOf(*floating); }
+    static CPoint captionOf(CPaneFrameWnd& of) {
+        CRect rect, window;
+        of.GetCaptionRect(rect);
+        of.GetWindowRect(&window);
         CPoint place(rect.left + 12, rect.CenterPoint().y);
+        place += CSize(window.TopLeft());
+        of.ScreenToClient(&place);
+        return place;
+    }
+    /// The middle of the frame's close button, in its client coordinates.
+    CPoint closeButton() {
+        CPoint place = floating->FindButtonByHit(AFX_HTCLOSE)->GetRect().CenterPoint();
         place += CSize(frameRect().TopLeft());
         floating->ScreenToClient(&place);
         return place;
@@ -245,7 +283,11 @@ TEST_F(FrameLock, ALockedFrameHasNoSizingEdges) {
     const CRect rect = frameRect();
     const std::pair<CPoint, LRESULT> edges[] = {{CPoint(rect.left + 1, rect.CenterPoint().y), HTLEFT},
                                                 {CPoint(rect.right - 2, rect.CenterPoint().y), HTRIGHT},
+                                                {CPoint(rect.CenterPoint().x, rect.top), HTTOP},
+                                                {CPoint(rect.left, rect.top), HTTOPLEFT},
+                                                {CPoint(rect.right - 1, rect.top), HTTOPRIGHT},
                                                 {CPoint(rect.CenterPoint().x, rect.bottom - 2), HTBOTTOM},
+                                                {CPoint(rect.left, rect.bottom - 1), HTBOTTOMLEFT},
                                                 {CPoint(rect.right - 1, rect.bottom - 1), HTBOTTOMRIGHT}};
     for (const auto& [point, answer] : edges) {
         EXPECT_EQ(hit(point), answer) << answer;
@@ -268,6 +310,7 @@ TEST_F(FrameLock, APressOnALockedFrameBeginsNoDrag) {
     press(*floating, caption());
     EXPECT_TRUE(showsCursor(IDC_NO));
     EXPECT_FALSE(floating->IsCaptured());
+    EXPECT_TRUE(isFocusIn(*floating));
     ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
     sendMouse(*floating, WM_MOUSEMOVE, CPoint(40, 40), MK_LBUTTON);
     EXPECT_TRUE(showsCursor(IDC_NO)) << "until the button is up";
@@ -299,19 +342,63 @@ TEST_F(FrameLock, AFreeFrameAndOneWithCtrlCanBeDragged) {
 }
 
 TEST_F(FrameLock, ADoubleClickOnALockedFrameLeavesItWhereItIs) {
+    PlainPane plain;
+    plain.dockIn(frame, 4003);
+    ASSERT_TRUE(plain.FloatPane(CRect(300, 300, 500, 500)));
+    ui_test::pump();
+    CPaneFrameWnd* other = plain.GetParentMiniFrame();
+    ASSERT_NE(other, nullptr);
+    ASSERT_TRUE(other->IsKindOf(RUNTIME_CLASS(CMultiPaneFrameWndEx)));
     for (const auto& [docked, floats] : {std::pair(true, false), std::pair(false, true)}) {
         KbUiLockPanel(docked, floats);
-        sendMouse(*floating, WM_LBUTTONDBLCLK, caption());
-        ui_test::pump();
-        EXPECT_FALSE(bar.IsDocked());
+        for (CPaneFrameWnd* each : {floating, other}) {
+            frame->SetFocus();
+            sendMouse(*each, WM_LBUTTONDBLCLK, captionOf(*each));
+            EXPECT_TRUE(isFocusIn(*each)) << "it takes the focus " << docked;
+            ui_test::pump();
+            ASSERT_FALSE(bar.IsDocked()) << docked;
+            ASSERT_FALSE(plain.IsDocked()) << docked;
+        }
     }
     KbUiLockPanel(false, false);
-    sendMouse(*floating, WM_LBUTTONDBLCLK, caption());
-    EXPECT_TRUE(ui_test::pump_until([this] { return bar.IsDocked() != FALSE; })) << "a free one docks";
+    sendMouse(*other, WM_LBUTTONDBLCLK, captionOf(*other));
+    EXPECT_TRUE(ui_test::pump_until([&] { return plain.IsDocked() != FALSE; })) << "a free one docks";
 }
 
-TEST_F(FrameLock, ClosingTheFrameClearsTheVisibleFlagOfItsBars) {
-    OpenBar second;
+TEST_F(FrameLock, WithCtrlADoubleClickDocksALockedFrame) {
+    KbUiLockPanel(false, true);
+    setKey(VK_CONTROL, true);
+    sendMouse(*floating, WM_LBUTTONDBLCLK, caption());
+    EXPECT_TRUE(ui_test::pump_until([this] { return bar.IsDocked() != FALSE; }));
+}
+
+TEST_F(FrameLock, TheHotButtonOfALockedFrameCanBePressed) {
+    KbUiLockPanel(false, true);
+    ASSERT_NE(floating->FindButtonByHit(AFX_HTCLOSE), nullptr);
+    sendMouse(*floating, WM_MOUSEMOVE, closeButton());
+    press(*floating, closeButton());
+    EXPECT_FALSE(showsCursor(IDC_NO));
+    release(*floating, closeButton());
+    ui_test::pump();
+    EXPECT_FALSE(bar.IsVisible()) << "pressed";
+}
+
+TEST_F(FrameLock, AButtonThatIsntHotIsRefusedAndAHotOneCounts) {
+    KbUiLockPanel(false, true);
+    press(*floating, closeButton());
+    EXPECT_TRUE(showsCursor(IDC_NO)) << "the mouse hasn't moved over it";
+    release(*floating, closeButton());
+    ui_test::pump();
+    EXPECT_TRUE(bar.IsVisible());
+    sendMouse(*floating, WM_MOUSEMOVE, closeButton());
+    press(*floating, caption());
+    EXPECT_FALSE(showsCursor(IDC_NO)) << "wherever the press is";
+    EXPECT_TRUE(floating->IsCaptured());
+    release(*floating, caption());
+}
+
+TEST_F(FrameLock, ClosingTheFrameClearsTheVisibleFlagOfItsBarsBeforeTheyClose) {
+    ClosingBar second;
     dock(second, CBRS_ALIGN_RIGHT, 4002);
     ASSERT_TRUE(second.DockToWindow(&bar, CBRS_ALIGN_BOTTOM));
     ASSERT_EQ(second.GetParentMiniFrame(), floating);
@@ -321,11 +408,24 @@ TEST_F(FrameLock, ClosingTheFrameClearsTheVisibleFlagOfItsBars) {
     ui_test::pump();
     EXPECT_FALSE(bar.isVisible());
     EXPECT_FALSE(second.isVisible());
+    EXPECT_EQ(second.flagsAtClosing, std::vector<bool>{false});
+}
+
+TEST_F(FrameLock, ClosingTheFrameClearsTheVisibleFlagOfAHiddenBarInIt) {
+    OpenBar second;
+    dock(second, CBRS_ALIGN_RIGHT, 4002);
+    ASSERT_TRUE(second.DockToWindow(&bar, CBRS_ALIGN_BOTTOM));
+    second.ShowPane(FALSE, FALSE, FALSE);
+    ASSERT_EQ(second.GetParentMiniFrame(), floating);
+    second.setVisible(true);
+    floating->SendMessage(WM_CLOSE);
+    ui_test::pump();
+    EXPECT_FALSE(second.isVisible());
 }
 
 /// Two bars in tabs.
 struct TabLock : PaneLock {
-    OpenBar second;
+    ClosingBar second;
     CTabbedPaneEx* tabbed = nullptr;
 
     void SetUp() override {
@@ -367,13 +467,17 @@ TEST_F(TabLock, APressOnTheLockedCaptionBeginsNoDrag) {
     press(*tabbed, place);
     EXPECT_TRUE(showsCursor(IDC_NO));
     EXPECT_FALSE(tabbed->IsTracked());
+    EXPECT_TRUE(isFocusIn(*tabbed));
     ::SetCursor(::LoadCursorW(nullptr, IDC_ARROW));
     sendMouse(*tabbed, WM_MOUSEMOVE, CPoint(40, 40), MK_LBUTTON);
     EXPECT_TRUE(showsCursor(IDC_NO));
     sendMouse(*tabbed, WM_LBUTTONUP, CPoint(40, 40));
     EXPECT_TRUE(showsCursor(IDC_ARROW));
+    frame->SetFocus();
+    ASSERT_FALSE(isFocusIn(*tabbed));
     sendMouse(*tabbed, WM_LBUTTONDBLCLK, place);
     EXPECT_TRUE(tabbed->IsDocked());
+    EXPECT_TRUE(isFocusIn(*tabbed));
     KbUiLockPanel(false, false);
     press(*tabbed, place);
     EXPECT_TRUE(tabbed->IsTracked());
@@ -384,11 +488,12 @@ TEST_F(TabLock, TheCloseButtonClearsTheVisibleFlagOfTheActiveBar) {
     bar.setVisible(true);
     second.setVisible(true);
     auto* tabs = tabbed->GetUnderlyingWindow();
-    CWnd* active = tabs->GetActiveWnd();
-    ASSERT_TRUE(active == &bar || active == &second);
+    tabs->SetActiveTab(tabs->GetTabFromHwnd(second));
+    ASSERT_EQ(tabs->GetActiveWnd(), &second);
     tabbed->OnPressCloseButton();
-    EXPECT_EQ(bar.isVisible(), active != &bar);
-    EXPECT_EQ(second.isVisible(), active != &second);
+    EXPECT_EQ(second.flagsAtClosing, std::vector<bool>{false}) << "cleared before it closes";
+    EXPECT_FALSE(second.isVisible());
+    EXPECT_TRUE(bar.isVisible()) << "the other one stays";
 }
 
 TEST_F(TabLock, ATabbedPaneMayStandAtTheTop) {
@@ -418,6 +523,34 @@ TEST_F(TabLock, ClosingTheirFrameClearsTheVisibleFlagOfAllTabs) {
     ui_test::pump();
     EXPECT_FALSE(bar.isVisible());
     EXPECT_FALSE(second.isVisible());
+    for (const bool flag : second.flagsAtClosing) EXPECT_FALSE(flag) << "cleared before it closes";
+}
+
+TEST_F(PaneLock, PlainPanesInTheToolkitsTabsAreLockedToo) {
+    PlainPane first, second;
+    first.dockIn(frame, 4003);
+    second.dockIn(frame, 4004);
+    ASSERT_NE(second.AttachToTabWnd(&first, DM_SHOW), nullptr);
+    ui_test::pump();
+    auto* tabbed = DYNAMIC_DOWNCAST(CTabbedPaneEx, first.GetParentTabbedPane());
+    ASSERT_NE(tabbed, nullptr);
+    for (const bool floats : {false, true}) {
+        if (floats) {
+            ASSERT_TRUE(tabbed->FloatPane(CRect(300, 300, 500, 500)));
+            ui_test::pump();
+            ASSERT_TRUE(tabbed->GetParentMiniFrame()->IsKindOf(RUNTIME_CLASS(CMultiPaneFrameWndEx)));
+        }
+        EXPECT_TRUE(tabbed->CanFloat()) << floats;
+        KbUiLockPanel(!floats, floats);
+        ASSERT_TRUE(first.CanFloat()) << "itself it is free";
+        EXPECT_FALSE(tabbed->CanFloat()) << floats;
+        setKey(VK_CONTROL, true);
+        EXPECT_TRUE(tabbed->CanFloat()) << "with Ctrl " << floats;
+        setKey(VK_CONTROL, false);
+        KbUiLockPanel(floats, !floats);
+        EXPECT_TRUE(tabbed->CanFloat()) << "the other lock " << floats;
+        KbUiLockPanel(false, false);
+    }
 }
 
 TEST_F(TabLock, ShowingAFloatingTabMarksTheOthersAsVisible) {
@@ -433,19 +566,27 @@ TEST_F(TabLock, ShowingAFloatingTabMarksTheOthersAsVisible) {
 }
 
 TEST_F(TabLock, KeepsTheEnabledAlignmentBeforeTheRest) {
-    struct Open : CTabbedPaneEx {
-        using CTabbedPaneEx::m_dwEnabledAlignment;
-    };
+    constexpr DWORD kBehind = 0x12345678;
     CMemFile file;
     tabbed->EnableDocking(0x5000);
     {
         CArchive archive(&file, CArchive::store);
         tabbed->Serialize(archive);
+        archive << kBehind;
     }
     file.SeekToBegin();
     DWORD first = 0;
     ASSERT_EQ(file.Read(&first, sizeof first), sizeof first);
     EXPECT_EQ(first, 0x5000u);
+    tabbed->EnableDocking(0x8000);
+    file.SeekToBegin();
+    CArchive archive(&file, CArchive::load);
+    tabbed->Serialize(archive);
+    EXPECT_EQ(tabbed->GetEnabledAlignment(), 0x5000u);
+    DWORD behind = 0;
+    archive >> behind;
+    EXPECT_EQ(behind, kBehind) << "all of it was read, and no more";
+    EXPECT_EQ(tabbed->GetTabsNum(), 2);
 }
 
 }  // namespace

@@ -478,12 +478,35 @@ TEST_F(ToolTabCtrl, ShowsItsTipsTheMovesOfTheMouse) {
     ::SetWindowLongPtrW(strip.m_tip, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(formerTipProc));
 }
 
-TEST_F(ToolTabCtrl, ATipWindowIsActiveAndOnTop) {
+std::vector<WPARAM> activations;
+LRESULT CALLBACK noteActivations(int code, WPARAM wParam, LPARAM lParam) {
+    const auto& call = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (code == HC_ACTION && call.message == TTM_ACTIVATE) activations.push_back(call.wParam);
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+TEST_F(ToolTabCtrl, ItsTipIsActivatedAndComesToTheTopWhenTheTabsAreLaidOut) {
+    activations.clear();
+    const HHOOK hook = ::SetWindowsHookExW(WH_CALLWNDPROC, noteActivations, nullptr, ::GetCurrentThreadId());
     OpenStrip strip;
     make(strip, kRight, 18, 400);
-    strip.fill(1);
-    EXPECT_NE(strip.m_tip.m_hWnd, nullptr);
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(activations, std::vector<WPARAM>{TRUE});
     EXPECT_EQ(::GetWindow(strip.m_tip, GW_OWNER), parent.m_hWnd);
+    strip.fill(1);
+    CWnd above;
+    ASSERT_TRUE(above.CreateEx(strip.m_tip.GetExStyle() & WS_EX_TOPMOST, L"STATIC", L"above",
+                               WS_POPUP | WS_VISIBLE, CRect(0, 0, 20, 20), nullptr, 0));
+    const auto isAbove = [](HWND higher, HWND lower) {
+        while (lower != nullptr && lower != higher) lower = ::GetWindow(lower, GW_HWNDPREV);
+        return lower == higher;
+    };
+    above.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ASSERT_TRUE(isAbove(above, strip.m_tip));
+    parent.SetFocus();
+    strip.Recalc();
+    EXPECT_TRUE(isAbove(strip.m_tip, above));
+    EXPECT_EQ(::GetFocus(), parent.m_hWnd) << "it takes no focus";
 }
 
 }  // namespace

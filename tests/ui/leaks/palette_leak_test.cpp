@@ -56,7 +56,35 @@ protected:
     }
 };
 
+LRESULT CALLBACK refuseNameEdits(int code, WPARAM window, LPARAM data) {
+    if (code == HCBT_CREATEWND) {
+        wchar_t name[20] = {};
+        ::GetClassNameW(reinterpret_cast<HWND>(window), name, 20);
+        if (CString(name).Left(11) == L"KH:NameEdit") return 1;
+    }
+    return ::CallNextHookEx(nullptr, code, window, data);
+}
+
 }  // namespace
+
+TEST_F(PaletteLeaks, AThousandNameEditsThatCantBeMadeLeaveNothing) {
+    CKbUiPaletteSet set(2);
+    fill(set);
+    const HHOOK hook = ::SetWindowsHookExW(WH_CBT, refuseNameEdits, nullptr, ::GetCurrentThreadId());
+    expect_no_growth([&] { done += set.SendMessage(kBeginNameEdit, 0, 0) == 0; });
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(done, kTimes + kWarmUp);
+}
+
+TEST_F(PaletteLeaks, ASetThatIsMadeAThousandTimesLeavesNothing) {
+    CKbUiPaletteSet set(2);
+    expect_no_growth([&] {
+        fill(set);
+        done += set.GetPaletteCount() == 10;
+        set.DestroyWindow();
+    });
+    EXPECT_EQ(done, kTimes + kWarmUp);
+}
 
 TEST_F(PaletteLeaks, AThousandSetsWithTenPalettesLeaveNothing) {
     expect_no_growth([&] {
