@@ -70,11 +70,9 @@ void DocumentTabs::remove(CMDIChildWndEx& child) {
     const int tab = is_on() ? GetTabFromHwnd(child.m_hWnd) : -1;
     if (tab == -1) return;
     const int before = GetTabsHeight();
-    m_isFollowing = true;  // the system says which document is active now
+    m_isFollowing = true;  // the system has said already which document is active now
     RemoveTab(tab);
     m_isFollowing = false;
-    if (auto* active = DYNAMIC_DOWNCAST(CMDIChildWndEx, m_frame.MDIGetActive()); active != &child)
-        if (active != nullptr) activate(*active);
     room_changes(before);
 }
 

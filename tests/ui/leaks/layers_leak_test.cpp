@@ -47,38 +47,38 @@ class QuickPicker : public CDrawingPicker {
     void PickObjects(unsigned, ObjectsPicked picked) override { picked(nullptr); }
 };
 
-TEST_F(DialogLeaks, AThousandPanelsOfLayersLeaveNothing) {
-    for (const wchar_t* name : {L"walls", L"doors"}) NeedLayer(*drawing, name);
-    CUndoHistory history(drawing);
-    OwnLayers dialog;
+/// Opens a panel a thousand times, shown and filled by `show`.
+template <class Panel, class Show>
+void expect_panels_leave_nothing(Panel& panel, UINT id, CWnd& parent, Show show) {
     int opened = 0;
-    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_LAYERS_PANEL); });
+    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, id); });
     const auto open_once = [&] {
-        ASSERT_TRUE(dialog.Create(IDD_LAYERS_PANEL, &parent));
-        dialog.Show(*drawing, history);
-        dialog.ShowWindow(SW_SHOW);
-        ui_test::pump();
-        ++opened;
-        dialog.DestroyWindow();
-    };
-    expect_no_growth(open_once, systemGrowth, kShownGdiSlack);
-    EXPECT_EQ(opened, kTimes + kWarmUp);
-}
-
-TEST_F(DialogLeaks, AThousandPanelsOfPropertiesLeaveNothing) {
-    OwnProperties panel;
-    int opened = 0;
-    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_PROPERTIES_PANEL); });
-    const auto open_once = [&] {
-        ASSERT_TRUE(panel.Create(IDD_PROPERTIES_PANEL, &parent));
-        panel.Show(*drawing, {});
-        panel.ShowWindow(SW_SHOW);
+        ASSERT_TRUE(panel.Create(id, &parent));
+        show();
         ui_test::pump();
         ++opened;
         panel.DestroyWindow();
     };
     expect_no_growth(open_once, systemGrowth, kShownGdiSlack);
     EXPECT_EQ(opened, kTimes + kWarmUp);
+}
+
+TEST_F(DialogLeaks, AThousandPanelsOfLayersLeaveNothing) {
+    for (const wchar_t* name : {L"walls", L"doors"}) NeedLayer(*drawing, name);
+    CUndoHistory history(drawing);
+    OwnLayers panel;
+    expect_panels_leave_nothing(panel, IDD_LAYERS_PANEL, parent, [&] {
+        panel.Show(*drawing, history);
+        panel.ShowWindow(SW_SHOW);
+    });
+}
+
+TEST_F(DialogLeaks, AThousandPanelsOfPropertiesLeaveNothing) {
+    OwnProperties panel;
+    expect_panels_leave_nothing(panel, IDD_PROPERTIES_PANEL, parent, [&] {
+        panel.Show(*drawing, {});
+        panel.ShowWindow(SW_SHOW);
+    });
 }
 
 TEST_F(DialogLeaks, AThousandPanelsOfBlocksLeaveNothing) {
@@ -89,18 +89,10 @@ TEST_F(DialogLeaks, AThousandPanelsOfBlocksLeaveNothing) {
     blocks->add(OdDbSymbolTableRecordPtr(block.get()));
     NoTarget target;
     CBlocksPanel panel(target);
-    int opened = 0;
-    const size_t systemGrowth = heap_growth([&] { open_bare_dialog(parent.m_hWnd, IDD_BLOCKS_PANEL); });
-    const auto open_once = [&] {
-        ASSERT_TRUE(panel.Create(IDD_BLOCKS_PANEL, &parent));
+    expect_panels_leave_nothing(panel, IDD_BLOCKS_PANEL, parent, [&] {
         panel.ShowWindow(SW_SHOW);
         panel.Show(*drawing);
-        ui_test::pump();
-        ++opened;
-        panel.DestroyWindow();
-    };
-    expect_no_growth(open_once, systemGrowth, kShownGdiSlack);
-    EXPECT_EQ(opened, kTimes + kWarmUp);
+    });
 }
 
 TEST_F(DialogLeaks, AThousandMeasureDialogsLeaveNothing) {

@@ -119,71 +119,68 @@ TEST(CancelledList, AnOtherItemThatWasOnlyPassedOpensNothing) {
     EXPECT_EQ(in.picker.GetCurSel(), 1);
 }
 
-TEST(CancelledList, StylesOfTheFormerFontComeBack) {
+struct OwnFonts {
     FakeFonts fonts;
-    InHolder<CKtUiFontComboBox> in;
-    in.host.fonts = &fonts;
-    in.picker.AddItems();
+};
+
+/// A font picker with a list of styles beside it; the fonts outlive both.
+struct FontAndStyles : OwnFonts, InHolder<CKtUiFontComboBox> {
+    FontAndStyles() {
+        host.fonts = &fonts;
+        picker.AddItems();
+        buddy.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 250, 210, 380), &holder, 62);
+        picker.setBuddy(&buddy, true);
+    }
     CComboBox buddy;
-    buddy.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 250, 210, 380), &in.holder, 62);
-    in.picker.setBuddy(&buddy, true);
+};
+
+TEST(CancelledList, StylesOfTheFormerFontComeBack) {
+    FontAndStyles in;
     in.picker.setCurrentFont(L"arialbd.ttf");
     const int font = in.picker.GetCurSel();
     in.picker.SetFocus();
     in.dropDown();
     in.picker.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
     ASSERT_NE(in.picker.GetCurSel(), font);
-    ASSERT_FALSE(buddy.IsWindowEnabled()) << "the next one is a shape font";
+    ASSERT_FALSE(in.buddy.IsWindowEnabled()) << "the next one is a shape font";
     in.picker.SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
     pump();
     EXPECT_EQ(in.picker.GetCurSel(), font);
     CString file;
     in.picker.getCurrentFont(file);
     EXPECT_STREQ(file, L"arialbd.ttf");
-    EXPECT_TRUE(buddy.IsWindowEnabled());
-    EXPECT_EQ(buddy.GetCount(), 2);
+    EXPECT_TRUE(in.buddy.IsWindowEnabled());
+    EXPECT_EQ(in.buddy.GetCount(), 2);
 }
 
 TEST(CancelledList, StylesStayWhenTheFocusGoesFromAClosedList) {
-    FakeFonts fonts;
-    InHolder<CKtUiFontComboBox> in;
-    in.host.fonts = &fonts;
-    in.picker.AddItems();
-    CComboBox buddy;
-    buddy.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 250, 210, 380), &in.holder, 62);
-    in.picker.setBuddy(&buddy, true);
+    FontAndStyles in;
     in.picker.SetFocus();
     in.dropDown();
     in.picker.setCurrentFont(L"arialbd.ttf");
     in.picker.SendMessage(WM_KEYDOWN, VK_RETURN, 1);
     pump();
     ASSERT_FALSE(in.picker.GetDroppedState());
-    const int style = buddy.GetCurSel();
+    const int style = in.buddy.GetCurSel();
     ASSERT_GE(style, 0);
-    buddy.SetFocus();
+    in.buddy.SetFocus();
     pump();
-    EXPECT_EQ(buddy.GetCurSel(), style);
+    EXPECT_EQ(in.buddy.GetCurSel(), style);
     CString file;
     in.picker.getCurrentFont(file);
     EXPECT_STREQ(file, L"arialbd.ttf");
 }
 
 TEST(CancelledList, WithoutAFormerFontTheStylesGo) {
-    FakeFonts fonts;
-    InHolder<CKtUiFontComboBox> in;
-    in.host.fonts = &fonts;
-    in.picker.AddItems();
-    CComboBox buddy;
-    buddy.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 250, 210, 380), &in.holder, 62);
-    in.picker.setBuddy(&buddy, true);
+    FontAndStyles in;
     in.picker.SetFocus();
     in.dropDown();
     in.picker.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
     ASSERT_EQ(in.picker.GetCurSel(), 0);
-    ASSERT_EQ(buddy.GetCount(), 2) << "the styles of the font that the list stands on";
+    ASSERT_EQ(in.buddy.GetCount(), 2) << "the styles of the font that the list stands on";
     in.picker.SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
     pump();
     EXPECT_EQ(in.picker.GetCurSel(), -1);
-    EXPECT_EQ(buddy.GetCount(), 0);
-    EXPECT_FALSE(buddy.IsWindowEnabled());
+    EXPECT_EQ(in.buddy.GetCount(), 0);
+    EXPECT_FALSE(in.buddy.IsWindowEnabled());
 }
