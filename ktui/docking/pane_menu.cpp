@@ -36,7 +36,7 @@ struct Subject {
     CDockablePane* stop;     ///< with its tabs
     CDockablePane* content;  ///< what shows in it
     bool isHidden;           ///< at an edge
-    bool isLocked;
+    bool isHeld;             ///< in a floating frame that is locked
 };
 
 void add(CMenu& menu, UINT command, UINT text, const wchar_t* written, bool enabled, bool checked = false) {
@@ -47,10 +47,10 @@ void add(CMenu& menu, UINT command, UINT text, const wchar_t* written, bool enab
 /// The panes that a pane can share tabs with.
 std::vector<CDockablePane*> partnersOf(const KeyedFrame& keyed, const Subject& subject) {
     std::vector<CDockablePane*> partners;
-    if (subject.isLocked || !subject.content->CanBeAttached() || subject.content->GetEnabledAlignment() == 0)
-        return partners;
+    // A locked pane has no side to dock at, and nothing joins one.
+    if (!subject.content->CanBeAttached() || subject.content->GetEnabledAlignment() == 0) return partners;
     for (CDockablePane* pane : PaneStops(keyed))
-        if (pane != subject.stop && !IsPaneLocked(pane->GetParentMiniFrame()) &&
+        if (pane != subject.stop && PaneContent(pane)->GetEnabledAlignment() != 0 &&
             pane->CanAcceptPane(subject.content))
             partners.push_back(pane);
     return partners;
@@ -60,16 +60,15 @@ void fill(CMenu& menu, CMenu& tabs, const KeyedFrame& keyed, const Subject& subj
           const std::vector<CDockablePane*>& partners) {
     const CDockablePane& content = *subject.content;
     const bool floats = content.IsFloating() != FALSE;
-    add(menu, kMove, IDS_PANE_MENU_MOVE, L"移动(&M)", !subject.isLocked && CanMovePane(*subject.stop));
-    add(menu, kSize, IDS_PANE_MENU_SIZE, L"大小(&S)", !subject.isLocked && CanSizePane(*subject.stop));
+    add(menu, kMove, IDS_PANE_MENU_MOVE, L"移动(&M)", !subject.isHeld && CanMovePane(*subject.stop));
+    add(menu, kSize, IDS_PANE_MENU_SIZE, L"大小(&S)", !subject.isHeld && CanSizePane(*subject.stop));
     menu.AppendMenu(MF_SEPARATOR);
     const DWORD allowed = content.GetEnabledAlignment() & keyed.manager->GetEnabledAlignment();
     for (const Sides& side : kSides) {
         const bool isThere = !floats && !subject.isHidden && content.GetCurrentAlignment() == side.alignment;
-        add(menu, side.command, side.text, side.written, !subject.isLocked && (allowed & side.alignment) != 0,
-            isThere);
+        add(menu, side.command, side.text, side.written, (allowed & side.alignment) != 0, isThere);
     }
-    add(menu, kFloat, IDS_PANE_MENU_FLOAT, L"浮动(&F)", !subject.isLocked && content.CanFloat(), floats);
+    add(menu, kFloat, IDS_PANE_MENU_FLOAT, L"浮动(&F)", content.CanFloat() != FALSE, floats);
     for (std::size_t i = 0; i < partners.size(); ++i) {
         CString name = WindowName(*PaneContent(partners[i]));
         name.Replace(L"&", L"&&");
@@ -79,8 +78,8 @@ void fill(CMenu& menu, CMenu& tabs, const KeyedFrame& keyed, const Subject& subj
                     reinterpret_cast<UINT_PTR>(tabs.m_hMenu),
                     LoadToolkitString(IDS_PANE_MENU_TAB_WITH, L"合并为选项卡(&T)"));
     menu.AppendMenu(MF_SEPARATOR);
-    const bool hides = subject.isHidden || (!floats && subject.stop->CanAutoHide());
-    add(menu, kAutoHide, IDS_PANE_MENU_AUTO_HIDE, L"自动隐藏(&A)", hides, subject.isHidden);
+    add(menu, kAutoHide, IDS_PANE_MENU_AUTO_HIDE, L"自动隐藏(&A)",
+        subject.isHidden || subject.stop->CanAutoHide(), subject.isHidden);
     add(menu, kClose, IDS_PANE_MENU_CLOSE, L"关闭(&C)", content.CanBeClosed() != FALSE);
 }
 
@@ -111,9 +110,7 @@ void obey(UINT command, const KeyedFrame& keyed, const Subject& subject,
         case 0: return;
         case kMove: return BeginMove(*subject.stop, PaneMove::kPlace);
         case kSize: return BeginMove(*subject.stop, PaneMove::kSize);
-        case kFloat:
-            if (!content.IsFloating()) content.FloatPane(content.m_recentDockInfo.m_rectRecentFloatingRect);
-            break;
+        case kFloat: content.FloatPane(content.m_recentDockInfo.m_rectRecentFloatingRect); break;
         case kAutoHide: subject.stop->ToggleAutoHide(); break;
         case kClose: content.OnPressCloseButton(); break;
         default: break;
@@ -129,8 +126,9 @@ void obey(UINT command, const KeyedFrame& keyed, const Subject& subject,
 void ShowPaneMenu(const KeyedFrame& keyed) {
     CDockablePane* stop = PaneStopWithFocus(keyed);
     if (stop == nullptr) return;
+    const CPaneFrameWnd* frame = stop->GetParentMiniFrame();
     const Subject subject = {stop, PaneContent(stop), stop->IsAutoHideMode() != FALSE,
-                             IsPaneLocked(stop->GetParentMiniFrame())};
+                             frame != nullptr && IsPaneLocked(frame)};
     const std::vector<CDockablePane*> partners = partnersOf(keyed, subject);
     CMenu menu, tabs;
     if (!menu.CreatePopupMenu() || !tabs.CreatePopupMenu()) return;

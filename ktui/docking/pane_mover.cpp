@@ -67,22 +67,13 @@ void moveDivider(CSize by) {
     if (::IsWindow(window)) underWay.dividers.push_back({window, placeOf(window).TopLeft() - before});
 }
 
-/// The least size that a frame's window allows, in pixels.
-CSize leastSize(HWND frame) {
-    MINMAXINFO limits = {};
-    ::SendMessageW(frame, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
-    return CSize(limits.ptMinTrackSize.x, limits.ptMinTrackSize.y);
-}
-
 void moveFrame(CSize by) {
     CRect place = placeOf(underWay.frame);
-    if (underWay.what == PaneMove::kPlace) {
+    if (underWay.what == PaneMove::kPlace)
         place.OffsetRect(by.cx, by.cy);
-    } else {
-        const CSize least = leastSize(underWay.frame);
-        place.right = std::max(place.right + by.cx, place.left + least.cx);
-        place.bottom = std::max(place.bottom + by.cy, place.top + least.cy);
-    }
+    else
+        place.BottomRight() += by;
+    // The window itself holds its least size.
     ::SetWindowPos(underWay.frame, nullptr, place.left, place.top, place.Width(), place.Height(),
                    SWP_NOZORDER | SWP_NOACTIVATE);
 }

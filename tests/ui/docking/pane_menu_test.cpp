@@ -146,10 +146,10 @@ TEST_F(PaneMenu, OffersNoMoveOfALockedPane) {
     KbUiLockPanel(true, false);
     focus(*bars[0]);
     open();
-    const std::vector<std::wstring> docked = {L"-&Move",       L"-&Size",        L"-*Dock &left",
+    const std::vector<std::wstring> docked = {L"-&Move",       L"&Size",         L"-*Dock &left",
                                               L"-Dock &right", L"-Dock &bottom", L"-&Float",
                                               L"-&Tab with()", L"&Auto-hide",    L"&Close"};
-    EXPECT_EQ(shown.lines, docked);
+    EXPECT_EQ(shown.lines, docked) << "its divider can be moved";
     KbUiLockPanel(false, true);
     open();
     EXPECT_EQ(shown.lines[1], L"&Size");
@@ -236,6 +236,17 @@ TEST_F(PaneMenu, JoinsAndLeavesTabs) {
     EXPECT_EQ(focused(), L"Bar A");
 }
 
+TEST_F(PaneMenu, FloatsATabThatFloatsWithOthersByItself) {
+    focus(*bars[0]);
+    open(L"Bar D");
+    ASSERT_EQ(bars[0]->GetParentMiniFrame(), bars[3]->GetParentMiniFrame());
+    open(L"&Float");
+    EXPECT_FALSE(bars[0]->IsTabbed());
+    EXPECT_FALSE(bars[0]->IsDocked());
+    EXPECT_NE(bars[0]->GetParentMiniFrame(), bars[3]->GetParentMiniFrame());
+    EXPECT_EQ(focused(), L"Bar A");
+}
+
 TEST_F(PaneMenu, AnAmpersandInANameIsShown) {
     bars[1]->SetWindowText(L"Text & Style");
     focus(*bars[0]);
@@ -263,6 +274,22 @@ TEST_F(PaneMenu, ClosesAPaneAndGoesToTheMiddle) {
     EXPECT_TRUE(said() == L"Drawing area");
 }
 
+TEST_F(PaneMenu, AsksThePaneToClose) {
+    struct Asked : OpenBar {
+        int presses = 0;
+        void OnPressCloseButton() override { ++presses; }
+    } bar;
+    ASSERT_TRUE(bar.CKbUiDockControlBar::Create(
+        frame, L"Stays", 4700, WS_CHILD | WS_VISIBLE | CBRS_LEFT | CBRS_FLOAT_MULTI, CRect(0, 0, 150, 120)));
+    bar.EnableDocking(CBRS_ALIGN_ANY);
+    frame->DockPane(&bar);
+    focus(bar);
+    open(L"&Close");
+    EXPECT_EQ(bar.presses, 1);
+    EXPECT_TRUE(bar.IsVisible());
+    EXPECT_TRUE(::GetFocus() == bar.m_hWnd) << "it has kept itself open";
+}
+
 TEST_F(PaneMenu, NothingChosenChangesNothing) {
     focus(*bars[0]);
     const Seen before = seen();
@@ -288,6 +315,17 @@ TEST_F(PaneMenu, ArrowsMoveAFloatingPane) {
     EXPECT_EQ(label(), nullptr);
     EXPECT_TRUE(key(VK_RIGHT)) << "the keys are the pane's again";
     EXPECT_EQ(textOf(floatingPlace()), textOf(before + CPoint(15, 7)));
+}
+
+TEST_F(PaneMenu, TheKeysOfAMoveAreToldAsLongAsItLasts) {
+    focus(*bars[3]);
+    open(L"&Move");
+    bool later = false;
+    ui_test::later([&] { later = true; }, 1800);
+    ASSERT_TRUE(ui_test::pump_until([&] { return later; }));
+    EXPECT_EQ(said(), L"Arrow keys move, Enter keeps, Escape goes back");
+    key(VK_ESCAPE);
+    EXPECT_EQ(label(), nullptr);
 }
 
 TEST_F(PaneMenu, EscapePutsAFloatingPaneBack) {

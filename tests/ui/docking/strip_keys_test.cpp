@@ -158,7 +158,7 @@ TEST_F(StripKeys, AMarkTellsThatTheStripHasTheFocus) {
     for (int y = wanted.top; y < wanted.bottom; ++y)
         for (int x = wanted.left; x < wanted.right; ++x) inside += before.at(x, y) != marked.at(x, y);
     EXPECT_EQ(inside, 0) << "only its outline";
-    const CRect part(0, 0, client.Width(), client.Height() - 12);
+    const CRect part(0, 0, client.Width(), wanted.CenterPoint().y);
     strip().InvalidateRect(&part, FALSE);
     EXPECT_TRUE(stripPicture() == marked) << "after a part was painted anew";
     first.SetFocus();
