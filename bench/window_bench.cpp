@@ -30,6 +30,7 @@ constexpr Row kRows[] = {
     {"messages", bench::measure_messages},
     {"buttons", bench::measure_buttons},
     {"resize", bench::measure_resize},
+    {"docking", bench::measure_docking},
     {"file_dialog", bench::measure_file_dialog},
     {"find_files", bench::measure_find_files},
 };

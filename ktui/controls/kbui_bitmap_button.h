@@ -8,6 +8,8 @@
 //         CKtUiDialog::OnInitDialog();
 //         m_button.SubclassDlgItem(IDC_BUTTON, this);
 //         m_button.AutoLoad();
+//         return TRUE;
+//     }
 //
 // For a host that follows the system's appearance a picture NAME may have larger ones beside it, NAME_125,
 // NAME_150 and NAME_200, which are taken at resolutions above 100, 125 and 150 %.

@@ -6,20 +6,17 @@
 #include <map>
 #include <vector>
 
-#include <ktdsres/pane_keys_ids.h>
 #include <ktui/docking/kbui_palette.h>
 #include <ktui/docking/kbui_palette_set.h>
 #include <ktui/docking/pane_label.h>
-#include <ktui/host/string_resources.h>
+#include <ktui/docking/pane_menu.h>
+#include <ktui/docking/pane_mover.h>
+#include <ktui/docking/pane_stops.h>
+#include <ktui/docking/strip_keys.h>
 
 namespace {
 
 constexpr UINT_PTR kFrameWatch = 0x4B50;  // what is added to the frame's window procedure
-
-struct KeyedFrame {
-    CFrameWnd* frame;
-    CDockingManager* manager;
-};
 
 std::map<HWND, KeyedFrame> keyedFrames;
 HHOOK messageHook = nullptr;
@@ -30,88 +27,24 @@ CDockingManager* managerOf(CFrameWnd& frame) {
     return nullptr;
 }
 
+UINT paneMenuMessage() {
+    static const UINT message = ::RegisterWindowMessageW(L"KtUiPaneMenu");
+    return message;
+}
+
 bool isHeld(int key) { return ::GetKeyState(key) < 0; }
-
-/// All panes that the focus can go to: of tabs the pane around them.
-std::vector<CDockablePane*> stopsOf(const KeyedFrame& keyed) {
-    CObList list;
-    keyed.manager->GetPaneList(list, TRUE, RUNTIME_CLASS(CDockablePane), FALSE);
-    std::vector<CDockablePane*> docked, hidden, floating;
-    for (POSITION at = list.GetHeadPosition(); at != nullptr;) {
-        auto* pane = static_cast<CDockablePane*>(list.GetNext(at));
-        if (pane->GetSafeHwnd() == nullptr || pane->IsTabbed()) continue;
-        if (pane->IsAutoHideMode())
-            hidden.push_back(pane);
-        else if (::IsWindowVisible(pane->m_hWnd))
-            (pane->IsDocked() ? docked : floating).push_back(pane);
-    }
-    docked.insert(docked.end(), hidden.begin(), hidden.end());
-    docked.insert(docked.end(), floating.begin(), floating.end());
-    return docked;
-}
-
-bool holds(const CWnd& pane, HWND window) {
-    return window != nullptr && (window == pane.m_hWnd || ::IsChild(pane.m_hWnd, window));
-}
-
-/// What shows in a pane: of tabs the active one.
-CDockablePane* contentOf(CDockablePane* pane) {
-    auto* tabbed = DYNAMIC_DOWNCAST(CBaseTabbedPane, pane);
-    CMFCBaseTabCtrl* tabs = tabbed != nullptr ? tabbed->GetUnderlyingWindow() : nullptr;
-    auto* active =
-        tabs != nullptr ? DYNAMIC_DOWNCAST(CDockablePane, tabs->GetTabWnd(tabs->GetActiveTab())) : nullptr;
-    return active != nullptr ? active : pane;
-}
-
-/// The first control of a window that the focus stops at, or the window itself.
-HWND firstStop(HWND window) {
-    HWND found = nullptr;
-    ::EnumChildWindows(
-        window,
-        [](HWND child, LPARAM result) -> BOOL {
-            const bool stops = (::GetWindowLongW(child, GWL_STYLE) & WS_TABSTOP) != 0 &&
-                               ::IsWindowVisible(child) && ::IsWindowEnabled(child);
-            if (stops) *reinterpret_cast<HWND*>(result) = child;
-            return !stops;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found != nullptr ? found : window;
-}
-
-CString nameOf(CWnd& window) {
-    CString name;
-    window.GetWindowText(name);
-    return name;
-}
-
-void goTo(CDockablePane* pane) {
-    if (pane->IsAutoHideMode()) pane->Slide(TRUE, FALSE);
-    CDockablePane* content = contentOf(pane);
-    ::SetFocus(firstStop(content->m_hWnd));
-    ShowPaneLabel(pane->m_hWnd, nameOf(*content));
-}
-
-void goToMiddle(const KeyedFrame& keyed) {
-    keyed.frame->SetActiveWindow();
-    keyed.frame->SetFocus();
-    CWnd* middle = keyed.frame->GetDlgItem(AFX_IDW_PANE_FIRST);
-    ShowPaneLabel(middle != nullptr ? middle->m_hWnd : keyed.frame->m_hWnd,
-                  LoadToolkitString(IDS_PANE_KEYS_MIDDLE, L"绘图区"));
-}
 
 /// Place 0 is the middle.
 void goOn(const KeyedFrame& keyed, int by) {
-    const std::vector<CDockablePane*> stops = stopsOf(keyed);
-    const HWND focus = ::GetFocus();
-    const auto now =
-        std::ranges::find_if(stops, [&](const CDockablePane* pane) { return holds(*pane, focus); });
+    const std::vector<CDockablePane*> stops = PaneStops(keyed);
+    const auto now = std::ranges::find(stops, PaneStopWithFocus(keyed));
     const int count = static_cast<int>(stops.size()) + 1;
     const int place = now != stops.end() ? static_cast<int>(now - stops.begin()) + 1 : 0;
     const int next = (place + by + count) % count;
     if (next == 0)
-        goToMiddle(keyed);
+        GoToMiddle(keyed);
     else
-        goTo(stops[static_cast<std::size_t>(next - 1)]);
+        GoToPane(stops[static_cast<std::size_t>(next - 1)]);
 }
 
 bool turnPalette(CDockablePane& pane, int by) {
@@ -121,7 +54,7 @@ bool turnPalette(CDockablePane& pane, int by) {
     const int next = (std::max(0, set->GetActivePaletteTabIndex()) + by + count) % count;
     set->SetActivePalette(next);
     CKbUiPalette* palette = set->GetPalette(next);
-    ::SetFocus(firstStop(palette->m_hWnd));
+    FocusFirstStop(palette->m_hWnd);
     ShowPaneLabel(set->m_hWnd, palette->GetName());
     return true;
 }
@@ -134,16 +67,15 @@ bool turnTab(CDockablePane& pane, int by) {
         const int next = (tabs->GetActiveTab() + by * i + count * i) % count;
         if (!tabs->IsTabVisible(next)) continue;
         tabs->SetActiveTab(next);
-        goTo(&pane);
+        GoToPane(&pane);
         return true;
     }
     return false;
 }
 
 bool turn(const KeyedFrame& keyed, int by) {
-    for (CDockablePane* pane : stopsOf(keyed))
-        if (holds(*pane, ::GetFocus())) return turnPalette(*contentOf(pane), by) || turnTab(*pane, by);
-    return false;
+    CDockablePane* pane = PaneStopWithFocus(keyed);
+    return pane != nullptr && (turnPalette(*PaneContent(pane), by) || turnTab(*pane, by));
 }
 
 /// The main window that a window belongs to, by itself or by a floating frame; null while that is disabled.
@@ -159,15 +91,34 @@ const KeyedFrame* frameOf(HWND window) {
     return nullptr;
 }
 
+bool takesF6(const KeyedFrame& keyed) {
+    const int by = isHeld(VK_SHIFT) ? -1 : 1;
+    if (isHeld(VK_CONTROL)) return turn(keyed, by);
+    goOn(keyed, by);
+    return true;
+}
+
+bool opensMenu(const KeyedFrame& keyed) {
+    if (isHeld(VK_CONTROL) || isHeld(VK_SHIFT)) return false;
+    CDockablePane* pane = PaneStopWithFocus(keyed);
+    if (pane == nullptr) return false;
+    // Not from within the hook, which other messages have to pass while the menu shows.
+    ::PostMessageW(keyed.frame->m_hWnd, paneMenuMessage(), 0, 0);
+    return true;
+}
+
 /// Whether the message was ours.
 bool takes(const MSG& message) {
-    if (message.message != WM_KEYDOWN || message.wParam != VK_F6 || isHeld(VK_MENU)) return false;
+    if (TakesKeyOfMove(message)) return true;
+    const bool isSystemKey = message.message == WM_SYSKEYDOWN;
+    if (message.message != WM_KEYDOWN && !isSystemKey) return false;
     const KeyedFrame* keyed = frameOf(message.hwnd);
     if (keyed == nullptr) return false;
-    const int by = isHeld(VK_SHIFT) ? -1 : 1;
-    if (isHeld(VK_CONTROL)) return turn(*keyed, by);
-    goOn(*keyed, by);
-    return true;
+    if (isSystemKey)
+        return (message.wParam == VK_OEM_MINUS || message.wParam == VK_SUBTRACT) && opensMenu(*keyed);
+    if (isHeld(VK_MENU)) return false;
+    if (message.wParam == VK_F6) return takesF6(*keyed);
+    return TakesKeyOfStrip(*keyed, message);
 }
 
 LRESULT CALLBACK onMessage(int code, WPARAM removes, LPARAM message) {
@@ -180,12 +131,17 @@ void leave(HWND frame);
 
 LRESULT CALLBACK watchFrame(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     if (message == WM_NCDESTROY) leave(window);
+    if (message == paneMenuMessage()) {
+        if (const auto at = keyedFrames.find(window); at != keyedFrames.end()) ShowPaneMenu(at->second);
+        return 0;
+    }
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
 void leave(HWND frame) {
     if (keyedFrames.erase(frame) == 0) return;
     ::RemoveWindowSubclass(frame, watchFrame, kFrameWatch);
+    EndMove(true);
     HidePaneLabel();
     if (!keyedFrames.empty()) return;
     ::UnhookWindowsHookEx(messageHook);

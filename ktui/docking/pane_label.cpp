@@ -21,7 +21,7 @@ void CALLBACK onTimer(HWND, UINT, UINT_PTR, DWORD) { HidePaneLabel(); }
 
 }  // namespace
 
-void ShowPaneLabel(HWND over, const CString& text) {
+void ShowPaneLabel(HWND over, const CString& text, PaneLabelEnd end) {
     HidePaneLabel();
     label = ::CreateWindowExW(WS_EX_TOPMOST | WS_EX_TRANSPARENT, TOOLTIPS_CLASSW, nullptr,
                               WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0,
@@ -35,7 +35,7 @@ void ShowPaneLabel(HWND over, const CString& text) {
     ::SendMessageW(label, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     ::SendMessageW(label, TTM_TRACKPOSITION, 0, MAKELPARAM(place.left + kInset, place.top + kInset));
     ::SendMessageW(label, TTM_TRACKACTIVATE, TRUE, reinterpret_cast<LPARAM>(&tool));
-    timer = ::SetTimer(nullptr, 0, kShownFor, onTimer);
+    if (end == PaneLabelEnd::kByItself) timer = ::SetTimer(nullptr, 0, kShownFor, onTimer);
 }
 
 void HidePaneLabel() {

@@ -9,6 +9,7 @@ IMPLEMENT_DYNAMIC(CSaveOptionSheet, CPropertySheet)
 
 BEGIN_MESSAGE_MAP(CSaveOptionSheet, CPropertySheet)
     ON_WM_CREATE()
+    ON_WM_HELPINFO()
     ON_COMMAND(IDM_SAVE_OPTIONS_HELP, &CSaveOptionSheet::OnHelp)
 END_MESSAGE_MAP()
 
@@ -33,3 +34,8 @@ int CSaveOptionSheet::OnCreate(LPCREATESTRUCT create) {
 }
 
 void CSaveOptionSheet::OnHelp() { ShowHostHelp(); }
+
+BOOL CSaveOptionSheet::OnHelpInfo(HELPINFO*) {
+    OnHelp();
+    return TRUE;
+}

@@ -20,6 +20,8 @@ public:
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnHelp();
+    /// F1 asks for what the Help button asks for.
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -379,6 +379,75 @@ TEST_F(PalettesJourney, F6GoesThroughDrawingAndPalettes) {
     EXPECT_TRUE(goesTo(drafter->view(), drafter->view()));
 }
 
+TEST_F(PalettesJourney, ByKeysAloneASetIsFloatedMovedSizedDockedHiddenAndClosed) {
+    drafter->click(drafter->view(), {4, 4});
+    drafter->key(VK_F6);
+    const HWND set = setOf(properties());
+    ASSERT_TRUE(waitUntil([&] { return ::IsChild(set, focusOf(set)) != FALSE; }));
+    const auto choose = [&](WORD letter) {
+        drafter->key(VK_OEM_MINUS, false, true);
+        if (letter == 'F') picture("journey-pane-menu");
+        drafter->key(letter);
+    };
+    choose('F');
+    ASSERT_TRUE(waitUntil([&] { return isFloating(properties()); }));
+    const HWND frame = ::GetAncestor(properties(), GA_ROOT);
+    RECT wanted = rectOf(frame);
+    const auto stands = [&] {
+        return waitUntil([&] {
+            const RECT now = rectOf(frame);
+            return ::EqualRect(&now, &wanted) != FALSE;
+        });
+    };
+    choose('M');
+    picture("journey-pane-moves");
+    for (const WORD arrow : {VK_RIGHT, VK_RIGHT, VK_DOWN}) drafter->key(arrow);
+    drafter->key(VK_RETURN);
+    ::OffsetRect(&wanted, 16, 8);
+    EXPECT_TRUE(stands());
+    choose('S');
+    drafter->key(VK_DOWN);
+    wanted.bottom += 8;
+    EXPECT_TRUE(stands());
+    drafter->key(VK_ESCAPE);
+    wanted.bottom -= 8;
+    EXPECT_TRUE(stands()) << "Escape gives the former size back";
+    choose('R');
+    ASSERT_TRUE(waitUntil([&] { return !isFloating(properties()); }));
+    EXPECT_GE(rectOf(set).left, rectOf(drafter->view()).right);
+    const LONG width = rectOf(set).right - rectOf(set).left;
+    choose('S');
+    drafter->key(VK_LEFT);
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(waitUntil([&] { return rectOf(set).right - rectOf(set).left == width + 8; }));
+    choose('A');
+    const RECT view = rectOf(drafter->view());
+    EXPECT_TRUE(waitUntil([&] {
+        return rectOf(drafter->view()).right > view.right || rectOf(set).left < rectOf(drafter->view()).right;
+    })) << "it slid out over the drawing";
+    choose('A');
+    EXPECT_TRUE(waitUntil([&] { return rectOf(set).left >= rectOf(drafter->view()).right; }));
+    choose('C');
+    EXPECT_TRUE(waitUntil([&] { return properties() == nullptr; }));
+    EXPECT_TRUE(goesTo(drafter->view(), drafter->view()));
+}
+
+TEST_F(PalettesJourney, ByKeysAloneThePalettesOfASetAreChangedAndEntered) {
+    drafter->click(drafter->view(), {4, 4});
+    drafter->key('2', true);
+    const HWND panel = properties(), set = setOf(panel), strip = item(set, kStrip);
+    ASSERT_TRUE(goesTo(panel, item(panel, IDC_TRUE_COLOR)));
+    drafter->key(VK_TAB, false, false, true);
+    ASSERT_TRUE(goesTo(set, strip));
+    picture("journey-strip-focus");
+    drafter->key(VK_UP);
+    drafter->key(VK_DOWN);
+    ASSERT_NE(layers() != nullptr, properties() != nullptr);
+    drafter->key(layers() != nullptr ? VK_UP : VK_DOWN);
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(waitUntil([&] { return focusOf(set) != strip && ::IsChild(set, focusOf(set)); }));
+}
+
 TEST_F(PalettesJourney, LockedPalettesStayWhereTheyAre) {
     view('K', 'D');
     dragSet(properties(), {420, 160});

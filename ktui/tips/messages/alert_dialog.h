@@ -1,7 +1,7 @@
 // KbUiAlertDialog: a question with a warning sign and up to two named answers besides Cancel.
 //
 //     if (KbUiAlertDialog(L"Export", L"The file is open elsewhere.", L"Try again", L"Another file", 0) == 0)
-//     ...
+//         tryAgain();
 #pragma once
 
 #include <ktui/ktui_api.h>

@@ -60,6 +60,8 @@ void CPaneDivider::OnMouseMove(UINT, CPoint point) {
     if (way != m_moved) m_moved += move_edge(way - m_moved);
 }
 
+void CPaneDivider::Move(CPoint& ptOffset, BOOL) { move_edge(IsHorizontal() ? ptOffset.y : ptOffset.x); }
+
 int CPaneDivider::move_edge(int delta) {
     CRect before, after;
     GetWindowRect(&before);

@@ -38,6 +38,13 @@ BOOL CDC::Attach(HDC hDC) {
     return TRUE;
 }
 
+int CDC::StartDoc(LPCTSTR lpszDocName) {
+    DOCINFOW job = {};
+    job.cbSize = sizeof job;
+    job.lpszDocName = lpszDocName;
+    return StartDoc(&job);
+}
+
 HDC CDC::Detach() {
     HDC dc = m_hDC;
     if (dc) gdi_maps().dcs.RemoveHandle(dc, this);

@@ -1,5 +1,7 @@
 #include <kmfc/global_data.h>
 
+#include <cstring>
+
 #include <kmfc/exceptions.h>
 #include <kmfc/wnd.h>
 
@@ -140,12 +142,25 @@ void AFX_GLOBAL_DATA::CleanUp() {
 }
 
 int AFX_GLOBAL_DATA::GetTextHeight(BOOL bHorz) {
+    // Each layout of a frame asks for it dozens of times, and measuring takes a context of the screen.
+    struct Measured {
+        LOGFONTW font = {};
+        int dpi = 0;
+        int height = 0;
+    };
+    thread_local Measured latest[2];
+    Measured& measured = latest[bHorz ? 0 : 1];
+    const HFONT font = bHorz ? fontRegular : fontVert;
+    LOGFONTW now = {};
+    ::GetObjectW(font, sizeof now, &now);
+    if (measured.dpi == m_nDpi && std::memcmp(&now, &measured.font, sizeof now) == 0) return measured.height;
     const ScreenDC screen;
-    const HGDIOBJ former = ::SelectObject(screen, bHorz ? fontRegular : fontVert);
+    const HGDIOBJ former = ::SelectObject(screen, font);
     TEXTMETRICW metrics = {};
     ::GetTextMetricsW(screen, &metrics);
     ::SelectObject(screen, former);
-    return metrics.tmHeight;
+    measured = {now, m_nDpi, static_cast<int>(metrics.tmHeight)};
+    return measured.height;
 }
 
 HCURSOR AFX_GLOBAL_DATA::GetHandCursor() {

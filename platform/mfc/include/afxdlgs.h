@@ -6,4 +6,5 @@
 
 #include <kmfc/common_dialogs.h>
 #include <kmfc/file_dialog.h>
+#include <kmfc/print_dialog.h>
 #include <kmfc/property_sheet.h>

@@ -10,6 +10,7 @@
 #include <kmfc/edit_view.h>
 #include <kmfc/form_view.h>
 #include <kmfc/mem_dc.h>
+#include <kmfc/print_info.h>
 #include <kmfc/splitter_wnd.h>
 #include <kmfc/status_bar.h>
 #include <kmfc/tool_bar.h>

@@ -5,6 +5,16 @@
 #define IDD_NEWKIND 30721
 #define IDC_NEWKIND_LIST 1000
 
+#define IDD_PRINTING 30722
+#define IDC_PRINTING_DOCUMENT 1001
+#define IDC_PRINTING_DEVICE 1002
+#define IDC_PRINTING_PORT 1003
+#define IDC_PRINTING_PAGE 1004
+#define IDS_PRINT_PAGES 30750  // of the print preview, for one page and for two
+#define IDS_PRINT_PAGE 30751
+#define IDS_PRINT_FILES 30752  // filter of files that are printed to
+#define IDS_PRINT_FAILED 30753
+
 // Tips of caption buttons.
 #define IDS_PANE_CLOSE 30740
 #define IDS_PANE_AUTOHIDE 30741

@@ -208,7 +208,7 @@ CPoint CScrollView::origin() const {
     return corner;
 }
 
-void CScrollView::OnPrepareDC(CDC* pDC) {
+void CScrollView::OnPrepareDC(CDC* pDC, CPrintInfo* pInfo) {
     if (m_nMapMode == kScaleToFit) {
         pDC->SetMapMode(MM_ANISOTROPIC);
         pDC->SetWindowExt(std::max<int>(1, m_totalLog.cx), std::max<int>(1, m_totalLog.cy));
@@ -216,8 +216,9 @@ void CScrollView::OnPrepareDC(CDC* pDC) {
     } else {
         pDC->SetMapMode(m_nMapMode);
     }
-    pDC->SetViewportOrg(origin());
-    CView::OnPrepareDC(pDC);
+    // A page begins at its corner, wherever the window was scrolled to.
+    pDC->SetViewportOrg(pDC->IsPrinting() ? CPoint(0, 0) : origin());
+    CView::OnPrepareDC(pDC, pInfo);
 }
 
 BOOL CScrollView::OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll) {

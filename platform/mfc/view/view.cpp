@@ -58,7 +58,7 @@ void CView::OnPaint() {
     OnDraw(&dc);
 }
 
-void CView::OnPrepareDC(CDC*) {}
+void CView::OnPrepareDC(CDC*, CPrintInfo*) {}
 void CView::OnInitialUpdate() { OnUpdate(nullptr, 0, nullptr); }
 void CView::OnUpdate(CView*, LPARAM, CObject*) { Invalidate(TRUE); }
 BOOL CView::IsSelected(const CObject*) const { return FALSE; }

@@ -28,6 +28,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) {
 }
 
 CWinApp::~CWinApp() {
+    SelectPrinter(nullptr, nullptr);
     delete m_pDocManager;
     delete m_pRecentFileList;
     AFX_MODULE_STATE* state = AfxGetModuleState();

@@ -56,6 +56,33 @@ public:
     unsigned long foundIndex = 0;
 };
 
+/// The popup in which something is renamed at the moment, or null.
+inline HWND openNameEdit() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM result) -> BOOL {
+            wchar_t name[20] = {};
+            ::GetClassNameW(window, name, 20);
+            if (std::wstring(name).substr(0, 11) != L"KH:NameEdit") return TRUE;
+            *reinterpret_cast<HWND*>(result) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+/// Enters a text in it; null gives it up.
+inline void endNameEdit(const wchar_t* text) {
+    const HWND popup = openNameEdit();
+    ASSERT_NE(popup, nullptr);
+    if (text) ::SetWindowTextW(::GetDlgItem(popup, 1127), text);
+    MSG message = {};
+    message.message = WM_KEYDOWN;
+    message.wParam = text ? VK_RETURN : VK_ESCAPE;
+    EXPECT_TRUE(CWnd::FromHandlePermanent(popup)->PreTranslateMessage(&message));
+    EXPECT_EQ(openNameEdit(), nullptr);
+}
+
 /// A set that was made as a child of the frame, 200 by 400 pixels of client area, and not docked yet.
 struct PaletteSetTest : DockingTest {
     OpenSet set;
@@ -96,30 +123,6 @@ struct PaletteSetTest : DockingTest {
         return place;
     }
     /// The name edit that is open, or null.
-    static HWND openNameEdit() {
-        HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM result) -> BOOL {
-                wchar_t name[20] = {};
-                ::GetClassNameW(window, name, 20);
-                if (std::wstring(name).substr(0, 11) != L"KH:NameEdit") return TRUE;
-                *reinterpret_cast<HWND*>(result) = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
-    }
-    static void endNameEdit(const wchar_t* text) {
-        const HWND popup = openNameEdit();
-        ASSERT_NE(popup, nullptr);
-        if (text) ::SetWindowTextW(::GetDlgItem(popup, 1127), text);
-        MSG message = {};
-        message.message = WM_KEYDOWN;
-        message.wParam = text ? VK_RETURN : VK_ESCAPE;
-        EXPECT_TRUE(CWnd::FromHandlePermanent(popup)->PreTranslateMessage(&message));
-        EXPECT_EQ(openNameEdit(), nullptr);
-    }
 };
 
 }  // namespace docking_test

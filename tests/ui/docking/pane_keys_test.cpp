@@ -1,77 +1,8 @@
 // Going through the panes of a main window by keyboard.
-#include <ktui/docking/pane_keys.h>
-
 #include "in_language.h"
-#include "layouts_fixture.h"
+#include "pane_keys_fixture.h"
 
 using namespace docking_test;
-
-namespace {
-
-struct PaneKeys : LayoutsTest {
-    std::vector<std::unique_ptr<CButton>> buttons;
-
-    /// A and B docked, C hidden at an edge, D floating, and a set of three palettes.
-    PaneKeys() {
-        fillFrame(4);
-        EXPECT_TRUE(bars[2]->ToggleAutoHide());
-        EXPECT_TRUE(bars[3]->FloatPane(CRect(300, 250, 450, 380)));
-        frame->SetFocus();
-        ui_test::pump();
-    }
-    ~PaneKeys() override {
-        KtUiEnablePaneKeys(*frame, FALSE);
-        for (const int key : {VK_SHIFT, VK_CONTROL, VK_MENU}) setKey(key, false);
-    }
-    /// A key, as the message loop hands it out; whether it came to the window with the focus.
-    bool press(std::initializer_list<int> held = {}) {
-        MSG message = {};
-        for (const int key : held) setKey(key, true);
-        ::PostMessageW(::GetFocus() != nullptr ? ::GetFocus() : frame->m_hWnd, WM_KEYDOWN, VK_F6, 1);
-        bool came = false;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            came = came || (message.message == WM_KEYDOWN && message.wParam == VK_F6);
-            ::DispatchMessageW(&message);
-        }
-        for (const int key : held) setKey(key, false);
-        return came;
-    }
-    /// The pane that has the focus, or what else has it.
-    std::wstring focused() {
-        const HWND focus = ::GetFocus();
-        for (CKbUiDockControlBar* pane : panes())
-            if (focus == pane->m_hWnd || ::IsChild(pane->m_hWnd, focus)) {
-                CString name;
-                pane->GetWindowText(name);
-                return std::wstring(name);
-            }
-        return focus != nullptr && ::GetAncestor(focus, GA_ROOT) == frame->m_hWnd ? L"middle" : L"elsewhere";
-    }
-    static HWND label() {
-        HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM result) -> BOOL {
-                wchar_t name[40] = {};
-                ::GetClassNameW(window, name, 40);
-                const bool isLabel = std::wstring(name) == TOOLTIPS_CLASSW && ::IsWindowVisible(window);
-                if (isLabel) *reinterpret_cast<HWND*>(result) = window;
-                return !isLabel;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
-    }
-    static std::wstring said() {
-        wchar_t text[100] = {};
-        TOOLINFOW tool = {};
-        tool.cbSize = TTTOOLINFOW_V2_SIZE;
-        tool.lpszText = text;
-        if (label() != nullptr) ::SendMessageW(label(), TTM_GETTEXTW, 100, reinterpret_cast<LPARAM>(&tool));
-        return text;
-    }
-};
-
-}  // namespace
 
 TEST_F(PaneKeys, AreOffUntilTheyAreAskedFor) {
     EXPECT_TRUE(press());
@@ -157,6 +88,17 @@ TEST_F(PaneKeys, CtrlF6TurnsTheTabsOfAPane) {
     EXPECT_EQ(tabs->GetActiveTab(), 3);
     press();
     EXPECT_EQ(focused(), L"Set") << "the tabs count as one";
+}
+
+TEST_F(PaneKeys, TabsThatFloatCountAsOnePane) {
+    ASSERT_NE(bars[0]->AttachToTabWnd(bars[3].get(), DM_UNKNOWN), nullptr);
+    ASSERT_FALSE(bars[0]->IsDocked());
+    frame->SetFocus();
+    ASSERT_TRUE(KtUiEnablePaneKeys(*frame, TRUE));
+    for (const wchar_t* name : {L"Bar B", L"Set", L"Bar C", L"Bar A", L"middle"}) {
+        EXPECT_FALSE(press());
+        EXPECT_EQ(focused(), name);
+    }
 }
 
 TEST_F(PaneKeys, CtrlF6ElsewhereAndKeysWithAltGoToTheProgram) {

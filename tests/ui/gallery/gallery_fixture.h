@@ -24,7 +24,7 @@ public:
 
 constexpr LANGID kEnglish = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
 constexpr LANGID kChinese = MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED);
-constexpr int kStandard = 96, kLarge = 144;  // pixels an inch
+constexpr int kStandard = 96;  // pixels an inch
 
 /// How the gallery is shown.
 struct Shown {

@@ -1,4 +1,4 @@
-// Nothing of the gallery is cut off or covered, in either language, at the standard resolution and at 150 %.
+// Nothing of the gallery is cut off or covered, in either language, at 100, 125, 150 and 200 %.
 #include "gallery_fixture.h"
 
 using namespace gallery_test;
@@ -9,9 +9,13 @@ class Layout : public Pages {};
 
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(Resolutions, Layout,
-                         ::testing::Values(Shown{kEnglish, kStandard}, Shown{kChinese, kStandard},
-                                           Shown{kEnglish, kLarge}, Shown{kChinese, kLarge}));
+INSTANTIATE_TEST_SUITE_P(Resolutions, Layout, ::testing::ValuesIn([] {
+                             std::vector<Shown> all;
+                             for (const int dpi : {kStandard, 120, 144, 192})
+                                 for (const auto language : {kEnglish, kChinese})
+                                     all.push_back({language, dpi});
+                             return all;
+                         }()));
 
 TEST_P(Layout, DialogsAreLaidOutForTheResolution) {
     LOGFONT font = {};

@@ -282,11 +282,19 @@ TEST(GlobalData, MakesItsFontsFromOne) {
     larger.lfHeight = -40;
     EXPECT_TRUE(afxGlobalData.SetMenuFont(&larger, TRUE));
     EXPECT_GE(afxGlobalData.GetTextHeight(), 40);
+    EXPECT_LT(afxGlobalData.GetTextHeight(FALSE), 40);
     LOGFONTW same = {};
     afxGlobalData.fontVert.GetLogFont(&same);
     EXPECT_EQ(same.lfHeight, vertical.lfHeight) << "the upright ones stay";
     afxGlobalData.UpdateFonts();
     EXPECT_LT(afxGlobalData.GetTextHeight(), 40);
+    EXPECT_TRUE(afxGlobalData.SetMenuFont(&larger, FALSE));
+    EXPECT_GE(afxGlobalData.GetTextHeight(FALSE), 40);
+    afxGlobalData.fontRegular.DeleteObject();
+    larger.lfHeight = -60;
+    afxGlobalData.fontRegular.CreateFontIndirect(&larger);
+    EXPECT_GE(afxGlobalData.GetTextHeight(), 60) << "a font that was exchanged from outside";
+    afxGlobalData.UpdateFonts();
 }
 
 TEST(GlobalData, RegistersAWindowClassOnce) {

@@ -137,6 +137,26 @@ TEST_F(Docking, a_divider_follows_the_mouse_as_far_as_least_sizes_allow) {
     check_frame();
 }
 
+TEST_F(Docking, a_divider_moves_by_what_lies_across_it) {
+    Pane& left = docked(L"left", AFX_IDW_DOCKBAR_LEFT, 150);
+    Pane& below = docked(L"below", AFX_IDW_DOCKBAR_BOTTOM, 120);
+    left.SetMinSize(CSize(60, 10));
+    below.SetMinSize(CSize(10, 50));
+    for (CPaneDivider* divider : dividers(*frame)) {
+        CPoint offset(9, 7);
+        divider->Move(offset);
+    }
+    EXPECT_EQ(at(left).Width(), 159);
+    EXPECT_EQ(at(below).Height(), 113);
+    for (CPaneDivider* divider : dividers(*frame)) {
+        CPoint offset(-5000, 5000);
+        divider->Move(offset);
+    }
+    EXPECT_EQ(at(left).Width(), 60);
+    EXPECT_EQ(at(below).Height(), 50);
+    check_frame();
+}
+
 TEST_F(Docking, escape_puts_a_divider_back) {
     Pane& pane = docked(L"one", AFX_IDW_DOCKBAR_BOTTOM, 150);
     CPaneDivider& divider = *dividers(*frame)[0];

@@ -106,6 +106,20 @@ TEST_F(SaveOptions, HelpOpensTheHosts) {
     });
 }
 
+TEST_F(SaveOptions, F1InAFieldOpensTheHostsHelpOnce) {
+    run([this](HWND sheet) {
+        const auto askIn = [this](HWND field) {
+            host.helpCalls = 0;
+            HELPINFO info = {sizeof info, HELPINFO_WINDOW, ::GetDlgCtrlID(field), field, 0, {}};
+            ::SendMessageW(field, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+            EXPECT_EQ(host.helpCalls, 1) << info.iCtrlId;
+        };
+        askIn(control(page(sheet), 57082));
+        askIn(control(showDxf(sheet), 57096));
+        press(sheet, IDCANCEL);
+    });
+}
+
 TEST_F(SaveOptions, ADrawingsSettingsAreShown) {
     for (const int proxies : {0, 1})
         for (int index = 0; index < 4; ++index) {

@@ -7,10 +7,12 @@
 #include <kmfc/thread.h>
 
 class CCommandLineInfo;
+class CDC;
 class CDocManager;
 class CDocTemplate;
 class CDocument;
 class CFrameWnd;
+class CPrintDialog;
 class CView;
 class CRecentFileList;
 
@@ -119,10 +121,23 @@ public:
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
+    // The program's printer, which is the system's default one until the user chose another.
+    /// Fills in the settings of the printer; they stay the application's. FALSE without a printer.
+    BOOL GetPrinterDeviceDefaults(struct tagPDW* pPrintDlg);
+    /// Takes other settings, blocks of GlobalAlloc, which belong to the application from here on. The former
+    /// ones are freed with `bFreeOld`.
+    void SelectPrinter(HANDLE hDevNames, HANDLE hDevMode, BOOL bFreeOld = TRUE);
+    /// Attaches a device context of the printer to `dc`.
+    BOOL CreatePrinterDC(CDC& dc);
+    /// Shows a print dialog with the program's printer, and keeps the one that was chosen in it.
+    INT_PTR DoPrintDialog(CPrintDialog* pPD);
+
     /// Handlers for the map of the application: a new document, and one that the user chooses.
     afx_msg void OnFileNew();
     afx_msg void OnFileOpen();
     afx_msg void OnAppExit();
+    /// Asks for the printer.
+    afx_msg void OnFilePrintSetup();
     afx_msg void OnHelp();
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpFinder();
@@ -132,6 +147,11 @@ public:
 
 protected:
     void SaveStdProfileSettings();
+    /// Takes the system's default printer where there is none yet.
+    void find_printer();
+
+    HGLOBAL m_hDevMode = nullptr;  ///< settings of the printer
+    HGLOBAL m_hDevNames = nullptr;
 
 private:
     CString m_strAppName, m_strExeName, m_strRegistryKey, m_strProfileName, m_strCmdLine, m_strHelpFilePath;

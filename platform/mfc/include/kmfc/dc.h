@@ -290,8 +290,18 @@ public:
 
     static CBrush* PASCAL GetHalftoneBrush();
 
+    // Print jobs. Above 0 on success.
+    int StartDoc(LPDOCINFO lpDocInfo) { return ::StartDocW(m_hDC, lpDocInfo); }
+    int StartDoc(LPCTSTR lpszDocName);
+    int StartPage() { return ::StartPage(m_hDC); }
+    int EndPage() { return ::EndPage(m_hDC); }
+    int EndDoc() { return ::EndDoc(m_hDC); }
+    int AbortDoc() { return ::AbortDoc(m_hDC); }
+    int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int)) { return ::SetAbortProc(m_hDC, lpfn); }
+
 protected:
     BOOL m_bPrinting = FALSE;  ///< set by whoever prints
+    friend class CView;
 
 private:
     template <class F>

@@ -27,6 +27,9 @@ public:
     /// Whether it stands between a side of the frame and the middle.
     BOOL IsDefault() const { return m_bDefaultSlider; }
     int GetWidth() const { return m_nWidth; }
+    /// Moves the edge by the part of `ptOffset` (pixels) that lies across it, as far as the panes' least
+    /// sizes allow. The layout is brought up to date in any case.
+    virtual void Move(CPoint& ptOffset, BOOL bAdjustLayout = TRUE);
     BOOL CanFloat() const override { return FALSE; }
     BOOL CanFocus() const override { return FALSE; }
     BOOL PreTranslateMessage(MSG* pMsg) override;

@@ -4,9 +4,9 @@
 // on; each is a virtual function. The window is made when the page is first shown, and goes with the sheet.
 #pragma once
 
-#include <prsht.h>
-
 #include <kmfc/dialog.h>
+
+#include <prsht.h>
 
 class CPropertySheet;
 

@@ -6,6 +6,7 @@
 //     if (sheet.DoModal() == IDOK) use(general.m_name);
 #pragma once
 
+#include <afxcoll.h>
 #include <kmfc/property_page.h>
 
 // Buttons of a sheet besides IDOK and IDCANCEL, and what DoModal of a wizard answers.

@@ -30,7 +30,7 @@ public:
     /// Fills what lies beside the contents; for OnEraseBkgnd.
     void FillOutsideRect(CDC* pDC, CBrush* pBrush);
 
-    void OnPrepareDC(CDC* pDC) override;
+    void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr) override;
     BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE) override;
     BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE) override;
     void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder) override;

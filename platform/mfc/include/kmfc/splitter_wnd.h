@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include <afxres.h>
 #include <kmfc/create_context.h>
 #include <kmfc/wnd.h>
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <afxres.h>
 #include <kmfc/control_bar.h>
 #include <kmfc/status_bar_ctrl.h>
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kmfc/object.h>
+#include <kmfc/string.h>
 
 /// Base of the objects; owns the handle.
 class KMFC_API CSyncObject : public CObject {

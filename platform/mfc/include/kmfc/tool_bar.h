@@ -1,6 +1,8 @@
 // CToolBar: a bar of buttons with pictures, in a frame.
 #pragma once
 
+#include <afxcoll.h>
+#include <afxres.h>
 #include <kmfc/control_bar.h>
 #include <kmfc/tool_bar_ctrl.h>
 

@@ -8,6 +8,11 @@
 
 class CDocument;
 class CSplitterWnd;
+struct CPrintInfo;
+
+namespace kmfc {
+class PrintingDialog;
+}
 
 /// Sent to a frame's windows once, before it is shown for the first time.
 constexpr UINT WM_INITIALUPDATE = 0x0364;
@@ -22,8 +27,9 @@ public:
     CDocument* GetDocument() const { return m_pDocument; }
 
     virtual BOOL IsSelected(const CObject* pDocItem) const;
-    /// Prepares `pDC` before OnDraw.
-    virtual void OnPrepareDC(CDC* pDC);
+    /// Prepares `pDC` before OnDraw, and before each page with what is printed. There it may end the job
+    /// (m_bContinuePrinting).
+    virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr);
     /// Called once, when the view is tied to its document and before it is shown; calls OnUpdate.
     virtual void OnInitialUpdate();
     /// Scrolls by a code for each direction (horizontal in the low byte, vertical in the high one; 0xFF for
@@ -35,6 +41,10 @@ public:
     static CSplitterWnd* GetParentSplitter(const CWnd* pWnd, BOOL bAnyState);
     /// The bar that the panes of a splitter share, or null.
     CScrollBar* GetScrollBarCtrl(int nBar) const override;
+
+    /// Prints the document. A window tells which page and lets the user give up; the main window is disabled
+    /// meanwhile. The user is told of a failure.
+    afx_msg void OnFilePrint();
 
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -50,6 +60,19 @@ protected:
     /// The document has changed. Hints mean what document and views agree on. This one invalidates.
     virtual void OnUpdate(CView* pSender, LPARAM lHint, CObject* pHint);
     virtual void OnDraw(CDC* pDC) = 0;
+
+    // Printing. A program that prints maps ID_FILE_PRINT and ID_FILE_PRINT_DIRECT to OnFilePrint, and
+    // overrides OnPreparePrinting to call DoPreparePrinting. There is no preview.
+    /// Called first; tells how many pages there are, as far as that is known. FALSE ends the job.
+    virtual BOOL OnPreparePrinting(CPrintInfo* pInfo);
+    /// Asks for printer and pages, nothing where the job is direct, and makes the printer's device context.
+    /// FALSE if the user thought better of it or there is no printer.
+    BOOL DoPreparePrinting(CPrintInfo* pInfo);
+    /// Called once around all pages with the printer's context.
+    virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    /// Draws page m_nCurPage; this one calls OnDraw.
+    virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
     void PostNcDestroy() override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -68,6 +91,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool print_document(CPrintInfo& info, const CString& file);
+    bool print_pages(CDC& dc, CPrintInfo& info, kmfc::PrintingDialog& dialog);
+
     kmfc::ControlOverView<CScrollBar> m_sharedBars[2];  ///< by SB_HORZ and SB_VERT
 
     friend class CDocument;
