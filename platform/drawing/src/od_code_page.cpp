@@ -43,8 +43,7 @@ std::string upperAscii(std::string_view text) {
 bool isNoCharacter(int page, wchar_t c) {
     const bool isIso = page >= 28591 && page <= 28599;
     const bool hasControls = isIso || page == 950 || page == 65001;
-    const bool hasPrivate =
-        page == 936 || page == 949 || page == 950 || page == 1361 || page == 10000 || page == 65001;
+    const bool hasPrivate = page == 936 || page == 949 || page == 950 || page == 1361 || page == 65001;
     if (c >= 0x80 && c <= 0x9F) return !hasControls;
     return c >= 0xF880 && c <= 0xF8FF && !hasPrivate;
 }
@@ -114,7 +113,8 @@ constexpr wchar_t kDos720[] = {
     0x064F, 0x0650, 0x2248, 0x00B0, 0x2219, 0x00B7, 0x221A, 0x207F, 0x00B2, 0x25A0, 0x00A0,
 };
 
-constexpr int kDosArabic = 720, kJohab = 1361, kHebrew = 1255, kVietnamese = 1258, kMacintosh = 10000;
+constexpr int kDosArabic = 720, kJohab = 1361, kHebrew = 1255, kVietnamese = 1258, kIsoGreek = 28597,
+              kIsoHebrew = 28598, kMacintosh = 10000;
 
 Converter& converter(int page, bool toPage) {
     // Each thread has its own, because a converter has a state.
@@ -205,8 +205,15 @@ struct Moved {
     int page;
     wchar_t system, own;
 };
+/// A point that the system's converter of the Hebrew page lacks.
+constexpr wchar_t kHolamHaser = 0x05BA;
+constexpr char kHolamHaserByte = '\xCA';
+constexpr wchar_t kNone = 0xF8FE;  // no character of any page
 constexpr Moved kMoved[] = {
-    {kMacintosh, 0x0394, 0x2206}, {kMacintosh, 0xE01E, 0xF8FF}, {kJohab, 0x20A9, L'\\'}};
+    {kMacintosh, 0x0394, 0x2206}, {kMacintosh, 0x03A9, 0x2126}, {kMacintosh, 0xE01E, kNone},
+    {kJohab, 0x20A9, L'\\'},      {kIsoGreek, 0x2018, 0x02BD},  {kIsoGreek, 0x2019, 0x02BC},
+    {kIsoGreek, 0x20AC, kNone},   {kIsoGreek, 0x20AF, kNone},   {kIsoGreek, 0x037A, kNone},
+    {kIsoHebrew, 0x00AF, 0x203E}, {kIsoHebrew, 0x200E, kNone},  {kIsoHebrew, 0x200F, kNone}};
 
 void settle(int page, std::wstring& text, bool toSystem) {
     for (const Moved& moved : kMoved) {
@@ -230,13 +237,20 @@ bool decodeBySystem(int page, std::string_view bytes, std::wstring& text) {
     const bool joins = page == kHebrew || page == kVietnamese;
     if (!joins) return decodeWhole(page, bytes, text);
     for (std::size_t i = 0; i < bytes.size(); ++i)
-        if (!decodeWhole(page, bytes.substr(i, 1), text)) return false;
+        if (page == kHebrew && bytes[i] == kHolamHaserByte)
+            text += kHolamHaser;
+        else if (!decodeWhole(page, bytes.substr(i, 1), text))
+            return false;
     return true;
 }
 
 bool encodeBySystem(int page, std::wstring_view character, std::string& bytes) {
     if (page == kDosArabic) return character.size() == 1 && encodeDos720(character[0], bytes);
     std::wstring own(character);
+    if (page == kHebrew && own == std::wstring(1, kHolamHaser)) {
+        bytes.assign(1, kHolamHaserByte);
+        return true;
+    }
     settle(page, own, true);
     return converter(page, true)
         .run(reinterpret_cast<const char*>(own.data()), own.size() * sizeof(wchar_t), bytes);
