@@ -21,6 +21,7 @@
 #include "od_db_text_style_table.h"
 #include "od_dxf_error.h"
 #include "od_dxf_form.h"
+#include "od_dxf_loss.h"
 #include "od_dxf_reading.h"
 #include "od_header_variables.h"
 
@@ -52,6 +53,11 @@ public:
     /// The same into memory. Lines of a text end with CR LF.
     std::string writeDxfBytes(const OdDxfForm& form, OdDbDxfError* error = nullptr);
     std::string writeDxfBytes(OdDb::DwgVersion version = OdDb::kDHL_Unknown, OdDbDxfError* error = nullptr);
+    /// What a file of this version (kDHL_Unknown: of that which was read) would not hold of the drawing, or
+    /// in another form: by kind and type, with counts, in the order of the file. Empty where everything has
+    /// its place. What a new drawing has as well, and no file needs, isn't among it. Takes about as long as
+    /// writing.
+    std::vector<OdDxfLoss> lossesIn(OdDb::DwgVersion version = OdDb::kDHL_Unknown) const;
     /// The version of the file that was read; kDHL_1032 for a new drawing.
     OdDb::DwgVersion originalFileVersion() const;
     /// Whether that file was a binary one; false for a new drawing.

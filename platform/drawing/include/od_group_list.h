@@ -18,13 +18,17 @@ enum class OdGroupKind : std::uint8_t { kText, kReal, kInteger, kHandle };
 /// The kind of the groups with this code; codes without a meaning hold text.
 ODRT_API OdGroupKind odGroupKind(int code);
 
-/// One value with its code. `text` points into the list and lives until the list changes.
+/// Whether groups with this code are extended data of applications.
+constexpr bool odIsExtendedDataCode(int code) { return code >= 1000; }
+
+/// One value with its code. `text` and `mended` point into the list and live until the list changes.
 struct OdGroup {
     int code = 0;
     OdGroupKind kind = OdGroupKind::kText;
     double real = 0;           ///< the value if kind is kReal
     std::int64_t integer = 0;  ///< the value if kind is kInteger or kHandle
     std::string_view text;     ///< the value if kind is kText, in UTF-8
+    std::string_view mended;   ///< what stood in the file where that was no value of this kind; mostly empty
     std::uint32_t begin = 0;   ///< place of this group in the list
     std::uint32_t end = 0;     ///< place of the next group
 
@@ -114,6 +118,7 @@ private:
     std::string_view bytes() const { return m_block ? std::string_view(m_block->data(), m_block->used) : ""; }
     char* grow(std::uint32_t count);
     char* putCode(int code, std::uint32_t payload);
+    void addBytes(std::string_view bytes);
     void set(int code, const OdGroupList& value);
 
     Block* m_block = nullptr;

@@ -94,7 +94,7 @@ public:
     struct Variable {
         std::string name;
         OdGroupList groups;
-        int firstVersion;  ///< OdDb::DwgVersion; 0 for an unknown variable
+        bool fromFile;  ///< whether the file that was read had it
     };
 
     /// Only the known variables, with the values of a new drawing.

@@ -50,6 +50,7 @@ OdResult OdDbDatabase::readDxfBytes(std::string_view bytes, OdDbDxfError* error,
         return fail(error, reason);
     }
     m_store->complete();
+    if (!m_store->versionIsKnown) m_store->version = odVersionThatHolds(*m_store);
     m_modified = false;
     if (error) *error = OdDbDxfError();
     return kOdOk;
@@ -77,6 +78,10 @@ std::string OdDbDatabase::writeDxfBytes(const OdDxfForm& form, OdDbDxfError* err
     std::string bytes = odWriteDxf(*m_store, form, report.leftOut);
     if (error) *error = report;
     return bytes;
+}
+
+std::vector<OdDxfLoss> OdDbDatabase::lossesIn(OdDb::DwgVersion version) const {
+    return odDxfLosses(*m_store, version);
 }
 
 OdDb::DwgVersion OdDbDatabase::originalFileVersion() const { return m_store->version; }

@@ -17,7 +17,7 @@ bool findXData(const OdGroupList& groups, const wchar_t* application, std::uint3
     OdGroup group;
     bool found = false;
     for (std::uint32_t at = 0; groups.read(at, group); at = group.end) {
-        if (group.code != kApplicationName) continue;
+        if (group.code != kApplicationName && (!found || odIsExtendedDataCode(group.code))) continue;
         if (found) {
             end = group.begin;
             return true;

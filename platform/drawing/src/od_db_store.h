@@ -2,10 +2,13 @@
 // class stands for. A read builds a new store and puts it in the place of the old one when it has succeeded.
 #pragma once
 
+#include <map>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 #include "od_db.h"
+#include "od_held_codes.h"
 
 /// The kinds of symbol table, in the order in which files hold them.
 enum OdTableKind {
@@ -115,12 +118,16 @@ struct OdDbStore {
     OdDbObject* named(const wchar_t* name) const;
     /// Gives the store its tables, before anything else is put in.
     void makeTables();
+    /// Adds the records that every drawing has.
+    void completeRecords();
     /// Adds what every drawing has and this one lacks: standard records, spaces, dictionaries, layouts.
     void complete();
 
     OdDbDatabase* database;
     OdDb::DwgVersion version = OdDb::kDHL_1032;
-    bool binary = false;  // the form that was read
+    bool hasSpaceBlocks = false;  // whether a file of R12 has blocks for its spaces, as later programs write
+    bool versionIsKnown = true;   // whether the file that was read said it
+    bool binary = false;          // the form that was read
     int codePage = 1252;
     std::string codePageName = "ANSI_1252";
     OdDbHeader header;
@@ -133,12 +140,14 @@ struct OdDbStore {
     OdGroupList thumbnail;
     bool hasOwnThumbnail = false;  // given by a program, not read
     std::vector<OdRawSection> sections;
-    std::vector<OdRawSection> otherTables;  // tables that no class stands for
-    OdDbChangeNotes* notes = nullptr;       // what is told of changes; null while nobody notes them
+    std::vector<OdRawSection> otherTables;        // tables that no class stands for
+    OdHeldCodes heldCodes;                        // of the file that was read
+    std::map<std::string, OdGroupList> comments;  // beside records: by the section or table, with / behind it
+    std::unordered_set<std::wstring> namesOfR12File[kTableCount];  // folded, if that file was of R12
+    OdDbChangeNotes* notes = nullptr;  // what is told of changes; null while nobody notes them
 
 private:
     OdDbDictionary* needDictionary(const wchar_t* name, bool withDefault = false);
-    void completeRecords();
     void completeSpaces();
     void completePlotStyles();
     void completeLayouts();

@@ -258,7 +258,11 @@ std::string odBinaryOfDxfText(std::string_view text, bool wideCodes) {
     std::string bytes(kMark);
     bytes.reserve(text.size());
     Output output(bytes, wideCodes);
-    OdDxfScanner scanner(text);
-    while (scanner.next()) output.group(scanner.code(), scanner.value());
+    constexpr int kComment = 999;
+    OdDxfScanner scanner(text, nullptr, true);
+    while (scanner.next()) {
+        for (const std::string_view comment : scanner.takeComments()) output.group(kComment, comment);
+        output.group(scanner.code(), scanner.value());
+    }
     return bytes;
 }

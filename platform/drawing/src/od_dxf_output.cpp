@@ -10,32 +10,24 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// Codes that R12 knows, whatever they stand in.
-bool r12Has(int code, OdDxfPart part) {
-    if (part == OdDxfPart::kCommon && (code == 48 || code == 60)) return false;
-    return code < 80 || (code >= 140 && code < 150) || (code >= 170 && code < 180) ||
-           (code >= 210 && code < 240) || code >= 1000;
-}
+constexpr int kEmbeddedObject = 101;
+constexpr int kApplicationData = 102;
 
-/// The first version that has this code in the common part of entities and in table records.
-OdDb::DwgVersion firstVersionOf(int code) {
-    switch (code) {
-        case 290:
-        case 341:
-        case 370:
-        case 371:
-        case 372:
-        case 380:
-        case 390: return OdDb::kDHL_1015;
-        case 420:
-        case 430:
-        case 440: return OdDb::kDHL_1018;
-        case 284:
-        case 345:
-        case 346:
-        case 347:
-        case 348: return OdDb::kDHL_1021;
-        default: return OdDb::kDHL_1009;
+/// Whether a group says only what holds without it.
+bool saysNothing(const OdGroup& group, const OdGroupRule& rule) {
+    switch (rule.loss) {
+        case OdDxfLossKind::kLineWeight: return group.integer == -1 || group.integer == -3;
+        case OdDxfLossKind::kPlotStyle: return group.integer == (group.code == 290 ? 1 : 0);
+        default: break;
+    }
+    switch (group.kind) {
+        // Blocks can be exploded unless they say otherwise, and layouts are told for themselves.
+        case OdGroupKind::kInteger:
+            return group.integer == (rule.type == "BLOCK_RECORD" && group.code == 280 ? 1 : 0);
+        case OdGroupKind::kHandle:
+            return group.integer == 0 || (rule.type == "BLOCK_RECORD" && group.code == 340);
+        case OdGroupKind::kReal: return group.real == 0;
+        default: return group.text.empty();
     }
 }
 
@@ -110,6 +102,7 @@ void OdDxfOutput::putOwnHandle(OdDbHandle value, int code) {
 }
 
 void OdDxfOutput::putGroup(const OdGroup& group) {
+    if (m_keepsMended && !group.mended.empty()) return putText(group.code, group.mended);
     switch (group.kind) {
         case OdGroupKind::kReal: putReal(group.code, group.real); break;
         case OdGroupKind::kInteger: putInteger(group.code, group.integer); break;
@@ -118,24 +111,50 @@ void OdDxfOutput::putGroup(const OdGroup& group) {
     }
 }
 
-bool OdDxfOutput::has(int code, OdDxfPart part) const {
-    if (isR12()) return r12Has(code, part);
-    if (part == OdDxfPart::kCommon || part == OdDxfPart::kRecord) return m_version >= firstVersionOf(code);
+void OdDxfOutput::beginRecord(OdDxfRecordKind kind, std::string_view type) {
+    m_losses.beginRecord();
+    m_kind = kind;
+    m_occurrences = 0;
+    if (type != m_type || m_own.empty()) m_own = odGroupRules(type);
+    m_type = type;
+}
+
+const OdGroupRule* OdDxfOutput::ruleAgainst(const OdGroup& group, OdDxfPart part) {
+    for (const OdGroupRule& rule : part == OdDxfPart::kCommon ? m_common : m_own) {
+        if (group.code < rule.first || group.code > rule.last) continue;
+        if (rule.occurrence > 1 && ++m_occurrences < rule.occurrence) continue;
+        if (m_version < rule.since) return &rule;
+    }
+    return nullptr;
+}
+
+/// Whether the version lacks the group; what it says is noted as lost then.
+bool OdDxfOutput::leavesOut(const OdGroup& group, OdDxfPart part) {
+    if (part == OdDxfPart::kObject && !isR12()) return false;
+    const OdGroupRule* rule = part == OdDxfPart::kObject ? nullptr : ruleAgainst(group, part);
+    const bool lacksCode = isR12() && !odIsR12Code(group.code);
+    if (!rule && !lacksCode) return false;
+    if (m_held && m_held->has(m_kind, group.code)) return false;
+    if (rule ? !saysNothing(group, *rule) : group.code != 100)
+        m_losses.addOnce(rule ? rule->loss : OdDxfLossKind::kSetting,
+                         rule && rule->loss != OdDxfLossKind::kSetting ? std::string_view() : m_type);
     return true;
 }
 
 void OdDxfOutput::putGroups(const OdGroupList& groups, OdDxfPart part, std::uint32_t begin,
                             std::uint32_t end) {
-    constexpr int kEmbeddedObject = 101;
-    constexpr int kFirstExtendedData = 1000;
     bool embedded = false;
     bool application = false;
     OdGroup group;
     for (std::uint32_t at = begin; at < end && groups.read(at, group); at = group.end) {
-        if (group.code == kEmbeddedObject) embedded = m_version < OdDb::kDHL_1032;
-        if (group.code >= kFirstExtendedData) embedded = false;
-        if (group.code == 102) application = !group.text.empty() && group.text[0] == '{';
-        const bool leftOut = embedded || (isR12() && application);
-        if (!leftOut && has(group.code, part)) putGroup(group);
+        if (group.code == kEmbeddedObject) {
+            embedded = m_version < OdDb::kDHL_1032;
+            if (embedded) m_losses.addOnce(OdDxfLossKind::kSetting, m_type);
+        }
+        if (odIsExtendedDataCode(group.code)) embedded = false;
+        if (group.code == kApplicationData) application = !group.text.empty() && group.text[0] == '{';
+        const bool leftOut = embedded || (isR12() && (application || group.code == kApplicationData));
+        const bool free = application || odIsExtendedDataCode(group.code);
+        if (!leftOut && (free || !leavesOut(group, part))) putGroup(group);
     }
 }

@@ -1,6 +1,5 @@
 #include "od_dxf_r12.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "od_angle.h"
@@ -8,33 +7,9 @@
 #include "od_db_polylines.h"
 #include "od_db_store.h"
 #include "od_dxf_markers.h"
+#include "od_r12_paragraph.h"
 
 namespace {
-
-constexpr std::string_view kR12Variables[] = {
-    "ATTDIA",   "ATTREQ",    "AXISMODE", "AXISUNIT",  "BLIPMODE",   "CHAMFERA",   "CHAMFERB",   "COORDS",
-    "DIMALT",   "DIMALTD",   "DIMALTF",  "DIMAPOST",  "DIMASO",     "DIMBLK",     "DIMBLK1",    "DIMBLK2",
-    "DIMCEN",   "DIMCLRD",   "DIMCLRE",  "DIMCLRT",   "DIMDLE",     "DIMDLI",     "DIMEXE",     "DIMEXO",
-    "DIMGAP",   "DIMLFAC",   "DIMLIM",   "DIMPOST",   "DIMRND",     "DIMSAH",     "DIMSE1",     "DIMSE2",
-    "DIMSHO",   "DIMSOXD",   "DIMTAD",   "DIMTFAC",   "DIMTIH",     "DIMTIX",     "DIMTM",      "DIMTOFL",
-    "DIMTOH",   "DIMTOL",    "DIMTP",    "DIMTSZ",    "DIMTVP",     "DRAGMODE",   "FASTZOOM",   "GRIDMODE",
-    "GRIDUNIT", "HANDLING",  "MAXACTVP", "MENU",      "OSMODE",     "PELEVATION", "PEXTMAX",    "PEXTMIN",
-    "PINSBASE", "PLIMCHECK", "PLIMMAX",  "PLIMMIN",   "PLINEWID",   "PUCSNAME",   "PUCSORG",    "PUCSXDIR",
-    "PUCSYDIR", "SHADEDGE",  "SHADEDIF", "SKETCHINC", "SKPOLY",     "SNAPANG",    "SNAPBASE",   "SNAPISOPAIR",
-    "SNAPMODE", "SNAPSTYLE", "SNAPUNIT", "SPLFRAME",  "SPLINESEGS", "SPLINETYPE", "SURFTAB1",   "SURFTAB2",
-    "SURFTYPE", "SURFU",     "SURFV",    "TDCREATE",  "TDINDWG",    "TDUPDATE",   "TDUSRTIMER", "UCSNAME",
-    "UCSORG",   "UCSXDIR",   "UCSYDIR",  "USERI1",    "USERI2",     "USERI3",     "USERI4",     "USERI5",
-    "USERR1",   "USERR2",    "USERR3",   "USERR4",    "USERR5",     "USRTIMER",   "VIEWCTR",    "VIEWDIR",
-    "VIEWMODE", "VIEWSIZE",  "WORLDVIEW"};
-
-constexpr std::string_view kR12Entities[] = {"LINE",   "POINT",  "CIRCLE", "ARC",      "TRACE",    "SOLID",
-                                             "TEXT",   "SHAPE",  "INSERT", "ATTDEF",   "ATTRIB",   "POLYLINE",
-                                             "VERTEX", "SEQEND", "3DFACE", "VIEWPORT", "DIMENSION"};
-
-template <class List>
-bool contains(const List& list, std::string_view name) {
-    return std::find(std::begin(list), std::end(list), name) != std::end(list);
-}
 
 /// A polyline over points, flat or in space.
 OdDbEntityPtr polylineThrough(const OdArray<OdGePoint3d>& points, bool closed, bool inSpace) {
@@ -66,6 +41,11 @@ OdDbEntityPtr fromFlatPolyline(const OdDbPolyline& source) {
         if (corners[i].endWidth != 0) groups.setReal(41, corners[i].endWidth);
         if (corners[i].bulge != 0) groups.setReal(42, corners[i].bulge);
     }
+    constexpr int kContinuousPattern = 128;
+    if (source.groups().integer(70) & kContinuousPattern)
+        made->editGroups().setInteger(70, made->groups().integer(70) | kContinuousPattern);
+    if (const double width = source.constantWidth(); width != 0)
+        for (const int code : {40, 41}) made->editGroups().setReal(code, width);
     if (source.thickness() != 0) made->setThickness(source.thickness());
     const OdGeVector3d normal = source.normal();
     if (normal.z != 1) made->editGroups().setPoint(210, {normal.x, normal.y, normal.z});
@@ -93,38 +73,30 @@ OdDbEntityPtr fromEllipse(const OdDbEllipse& source) {
     return polylineThrough(points, whole, true);
 }
 
-std::vector<OdDbEntityPtr> fromParagraph(const OdDbMText& source) {
-    constexpr double kLineSpacing = 5.0 / 3.0;
-    std::vector<OdDbEntityPtr> lines;
-    const OdString plain = source.plainText();
-    std::wstring_view rest = plain.view();
-    const double angle = source.rotation();
-    for (int number = 0; !rest.empty(); ++number) {
-        const std::size_t end = std::min(rest.find(L'\n'), rest.size());
-        OdSmartPtr<OdDbText> text(new OdDbText);
-        const double down = source.textHeight() * (1 + number * kLineSpacing);
-        const OdGePoint3d at = source.location();
-        text->setPosition({at.x + std::sin(angle) * down, at.y - std::cos(angle) * down, at.z});
-        text->setHeight(source.textHeight());
-        text->setTextString(OdString(std::wstring(rest.substr(0, end))));
-        if (angle != 0) text->setRotation(angle);
-        if (const OdString style = source.groups().text(7); !style.isEmpty())
-            text->editGroups().setText(7, style);
-        lines.push_back(OdDbEntityPtr(text.get()));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+/// Gives `form` the properties that all entities have, but not the pictures of entities that a program can't
+/// draw.
+void takeCommon(const OdGroupList& source, OdGroupList& form) {
+    OdGroup group;
+    const std::uint32_t end = source.ownEnd();
+    int markers = 0;
+    for (std::uint32_t at = 0; at < end && source.read(at, group); at = group.end) {
+        if (group.code == 100 && ++markers > 1) return;
+        const bool picture = group.code == 92 || group.code == 160 || group.code == 310;
+        if (odIsCommonEntityCode(group.code) && !picture) form.add(group);
     }
-    return lines;
+}
+
+/// Appends the extended data.
+void takeExtendedData(const OdGroupList& source, OdGroupList& form) {
+    OdGroup group;
+    bool extended = false;
+    for (std::uint32_t at = source.ownEnd(); source.read(at, group); at = group.end) {
+        extended = extended || odIsExtendedDataCode(group.code);
+        if (extended) form.add(group);
+    }
 }
 
 }  // namespace
-
-bool odIsR12Variable(std::string_view name) { return contains(kR12Variables, name); }
-
-bool odVersionHasEntity(OdDb::DwgVersion version, std::string_view type) {
-    if (version <= OdDb::kDHL_1009) return contains(kR12Entities, type);
-    if (version < OdDb::kDHL_1014) return type != "LWPOLYLINE" && type != "HATCH";
-    return true;
-}
 
 std::vector<OdDbEntityPtr> odOlderForm(const OdDbEntity& entity, OdDb::DwgVersion version) {
     constexpr int kPiecesPerControlPoint = 8;
@@ -140,10 +112,8 @@ std::vector<OdDbEntityPtr> odOlderForm(const OdDbEntity& entity, OdDb::DwgVersio
             spline->samplePoints(kPiecesPerControlPoint * spline->controlPoints().length() + 1), false,
             true));
     else if (const auto* paragraph = dynamic_cast<const OdDbMText*>(&entity))
-        forms = fromParagraph(*paragraph);
-    for (const OdDbEntityPtr& form : forms) {
-        if (entity.color() != OdCmColor()) form->setColor(entity.color());
-        form->setLinetypeScale(entity.linetypeScale());
-    }
+        forms = odLinesOfParagraph(*paragraph);
+    for (const OdDbEntityPtr& form : forms) takeCommon(entity.groups(), form->editGroups());
+    if (!forms.empty()) takeExtendedData(entity.groups(), forms[0]->editGroups());
     return forms;
 }

@@ -7,6 +7,7 @@
 #include "od_dxf_entities.h"
 #include "od_dxf_markers.h"
 #include "od_dxf_record.h"
+#include "od_r12_names.h"
 #include "od_dxf_writer.h"
 
 namespace {
@@ -20,26 +21,40 @@ public:
           m_entities(store, m_records) {}
 
     bool run() {
-        while (scanner().next() && !scanner().isRecord("EOF")) {
+        std::string place;
+        while (goOn(place) && !scanner().isRecord("EOF")) {
             if (!scanner().isRecord("SECTION") &&
                 !passOver(L"A section was expected; what stands before the next was passed over."))
                 return false;
             // The beginning of a section ends one that has no end mark.
             while (scanner().isRecord("SECTION"))
-                if (!section()) return false;
+                if (!section(place)) return false;
             if (scanner().isRecord("EOF")) break;
         }
         useNames();
+        m_store.heldCodes = m_records.heldCodes();
+        if (m_store.version <= OdDb::kDHL_1009) takeNamesOfR12();
         return !scanner().failed();
     }
     OdDxfScanner& scanner() { return m_records.scanner(); }
 
 private:
-    bool section() {
+    /// Goes on to the next pair and keeps the comments before it under `place`.
+    bool goOn(const std::string& place) {
+        const bool goesOn = scanner().next();
+        OdGroupList comments;
+        m_records.appendComments(comments);
+        if (!comments.isEmpty()) m_store.comments[place].add(comments);
+        return goesOn;
+    }
+
+    /// A section; `place` becomes that behind it.
+    bool section(std::string& place) {
         if (!scanner().next()) return false;
         if (scanner().code() != 2) return passOver(L"A section has no name; it was passed over.");
         const std::string name(scanner().word());
-        if (!scanner().next()) return false;
+        place = "/" + name;
+        if (!goOn(name)) return false;
         if (name == "HEADER") return header();
         if (name == "CLASSES") return rawRecords(m_store.classes);
         if (name == "TABLES") return tables();
@@ -78,6 +93,7 @@ private:
     bool lead(OdGroupList& groups) {
         while (scanner().code() != 0)
             if (!m_records.append(groups) || !scanner().next()) return false;
+        m_records.appendComments(groups);
         groups.shrink();
         return true;
     }
@@ -99,6 +115,7 @@ private:
             OdGroupList groups;
             while (scanner().next() && scanner().code() != 9 && scanner().code() != 0)
                 if (!m_records.append(groups)) return false;
+            m_records.appendComments(groups);
             if (scanner().failed()) return false;
             // These three tell about the file and not about the drawing.
             if (name != "ACADVER" && name != "DWGCODEPAGE" && name != "HANDSEED")
@@ -120,6 +137,7 @@ private:
 
     bool table() {
         if (!m_records.read(OdDxfRecordKind::kTableRecord, m_record)) return false;
+        m_tableName = m_record.name;
         for (int kind = 0; kind < kTableCount; ++kind)
             if (m_record.name == odWide(m_store.tables[kind]->recordName()).c_str())
                 return knownTable(static_cast<OdTableKind>(kind));
@@ -137,7 +155,7 @@ private:
     }
 
     bool tableEnd() {
-        if (scanner().isRecord("ENDTAB")) return scanner().next();
+        if (scanner().isRecord("ENDTAB")) return goOn("/TABLE " + odUtf8(m_tableName.view()));
         return scanner().mend(OdDxfErrorCode::kBadStructure,
                               L"The table doesn't end where it must; it ends here.");
     }
@@ -186,7 +204,10 @@ private:
     bool block() {
         if (!m_records.read(OdDxfRecordKind::kBlock, m_record)) return false;
         OdString name = m_record.name;
-        if (odIsModelSpaceName(name)) name = L"*Model_Space";
+        if (odIsModelSpaceName(name)) {
+            name = L"*Model_Space";
+            m_store.hasSpaceBlocks = true;
+        }
         if (odIsPaperSpaceName(name)) name = L"*Paper_Space";
         OdDbBlockTableRecord& record = recordOfBlock(name);
         if (m_store.blockBegin(record).isEmpty()) {
@@ -226,6 +247,7 @@ private:
 
     /// Puts the handles of the records whose names stood for them, now that all are known.
     void useNames() {
+        if (!m_names.empty()) m_store.completeRecords();
         for (const auto& [style, name] : m_names) {
             const OdTableKind kind = name.code == 340  ? kTextStyleTable
                                      : name.code < 345 ? kBlockTable
@@ -233,6 +255,14 @@ private:
             if (const OdDbSymbolTableRecord* meant = m_store.record(kind, name.name))
                 m_store.groupsOf(*style).setHandle(name.code, meant->handle());
         }
+    }
+
+    /// Notes which names a file of R12 brought, and gives back those that weren't legal in it.
+    void takeNamesOfR12() {
+        for (int kind = 0; kind < kTableCount; ++kind)
+            for (const OdDbSymbolTableRecord* record : m_store.records(static_cast<OdTableKind>(kind)))
+                m_store.namesOfR12File[kind].insert(odFoldedName(record->getName()));
+        odTakeWholeNames(m_store);
     }
 
     struct StyleName {
@@ -243,6 +273,7 @@ private:
     OdDbStore& m_store;
     OdDxfRecordReader m_records;
     std::vector<StyleName> m_names;
+    OdString m_tableName;
     OdDxfEntityReader m_entities;
     OdDxfRecord m_record;
 };
@@ -251,6 +282,7 @@ bool read_text(std::string_view text, OdDbStore& store, OdDxfReading& reading, O
     OdDxfOverview overview;
     if (!odOverviewDxf(text, reading.strict, overview, error)) return false;
     store.version = overview.version;
+    store.versionIsKnown = overview.hasVersion;
     if (!overview.codePageName.empty()) {
         store.codePageName = overview.codePageName;
         store.codePage = odCodePageFromName(overview.codePageName);

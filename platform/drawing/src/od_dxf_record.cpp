@@ -1,28 +1,43 @@
 #include "od_dxf_record.h"
 
+namespace {
+
+constexpr int kComment = 999;
+
+/// Whether a code stands in files for what the runtime keeps in another form, so that it says nothing about
+/// them.
+bool isMadeHere(int code) { return code == 100 || code == 102 || code == 330 || code == 360; }
+
+}  // namespace
+
 bool OdDxfRecordReader::append(OdGroupList& groups) {
-    const int code = m_scanner.code();
-    switch (odGroupKind(code)) {
-        case OdGroupKind::kReal: {
-            double value = 0;
-            if (!m_scanner.real(value)) return false;
-            groups.addReal(code, value);
-            return true;
-        }
-        case OdGroupKind::kInteger: {
-            std::int64_t value = 0;
-            if (!m_scanner.integer(value)) return false;
-            groups.addInteger(code, value);
-            return true;
-        }
+    OdGroup group;
+    group.code = m_scanner.code();
+    group.kind = odGroupKind(group.code);
+    const std::size_t mends = m_scanner.mendCount();
+    switch (group.kind) {
+        case OdGroupKind::kReal:
+            if (!m_scanner.real(group.real)) return false;
+            break;
+        case OdGroupKind::kInteger:
+            if (!m_scanner.integer(group.integer)) return false;
+            break;
         case OdGroupKind::kHandle: {
-            OdDbHandle value = 0;
-            if (!m_scanner.handle(value)) return false;
-            groups.addHandle(code, value);
-            return true;
+            OdDbHandle handle = 0;
+            if (!m_scanner.handle(handle)) return false;
+            group.integer = static_cast<std::int64_t>(handle);
+            break;
         }
-        default: groups.addText(code, text()); return true;
+        case OdGroupKind::kText: group.text = text(); break;
     }
+    if (m_scanner.mendCount() != mends) group.mended = m_decoder.decode(m_scanner.word());
+    groups.add(group);
+    return true;
+}
+
+void OdDxfRecordReader::appendComments(OdGroupList& groups) {
+    for (const std::string_view comment : m_scanner.takeComments())
+        groups.addText(kComment, m_decoder.decode(comment));
 }
 
 bool OdDxfRecordReader::takeOutOfEntity(OdDxfRecord& record) {
@@ -84,7 +99,11 @@ bool OdDxfRecordReader::takeNameForHandle(OdDxfRecord& record) {
             OdDxfErrorCode::kBadNumber,
             L"A name stood where a handle belongs; that of the record with this name stands for it."))
         return true;
-    record.groups.addHandle(code, 0);
+    OdGroup group;
+    group.code = code;
+    group.kind = OdGroupKind::kHandle;
+    group.mended = name();
+    record.groups.add(group);
     record.namesForHandles.push_back({code, odWide(name())});
     return true;
 }
@@ -101,7 +120,6 @@ bool OdDxfRecordReader::close(OdDxfRecord& record) {
 
 bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
     constexpr int kEmbeddedObject = 101;
-    constexpr int kFirstExtendedData = 1000;
     record.type = m_scanner.word();
     record.line = m_scanner.line();
     record.groups.restart();
@@ -115,15 +133,17 @@ bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
     m_inside = m_foreign = m_ownerTaken = false;
     while (m_scanner.next() && m_scanner.code() != 0) {
         const int code = m_scanner.code();
-        if (code == kEmbeddedObject || code >= kFirstExtendedData) m_foreign = true;
+        if (code == kEmbeddedObject || odIsExtendedDataCode(code)) m_foreign = true;
         if (m_foreign && m_inside && !close(record)) return false;
         if (code == 102 && !m_foreign) m_inside = !m_scanner.word().empty() && m_scanner.word()[0] == '{';
         if (code == 100 && !m_inside && !m_foreign) ++m_markers;
         if (!m_inside && !m_foreign && (takeOut(kind, record) || takeNameForHandle(record))) continue;
+        if (!m_inside && !m_foreign && !isMadeHere(code)) m_held.add(kind, code);
         if (!append(record.groups)) return false;
     }
     if (m_scanner.failed()) return false;
     if (m_inside && !close(record)) return false;
+    appendComments(record.groups);
     if (m_scanner.code() == 0) return true;
     return m_scanner.fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
 }

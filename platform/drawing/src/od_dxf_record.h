@@ -5,6 +5,7 @@
 #include <string>
 #include "od_code_page.h"
 #include "od_dxf_scanner.h"
+#include "od_held_codes.h"
 
 /// A name where a handle belongs, as some programs write dimension styles.
 struct OdDxfNameForHandle {
@@ -27,20 +28,21 @@ struct OdDxfRecord {
     int line = 0;                                     ///< where the record begins
 };
 
-/// What is taken out of a record's groups besides handle and owner.
-enum class OdDxfRecordKind { kObject, kEntity, kTableRecord, kBlock };
-
 /// Reads records one after the other. The scanner always stands on the group 0 that comes next.
 class OdDxfRecordReader {
 public:
     OdDxfRecordReader(std::string_view text, int codePage, bool utf8, OdDxfReading& reading)
-        : m_scanner(text, &reading), m_decoder(codePage, utf8) {}
+        : m_scanner(text, &reading, true), m_decoder(codePage, utf8) {}
 
     OdDxfScanner& scanner() { return m_scanner; }
     /// Reads the record that the scanner stands on, up to the next group 0.
     bool read(OdDxfRecordKind kind, OdDxfRecord& record);
     /// Appends the scanner's pair to `groups`, in the form that its code asks for.
     bool append(OdGroupList& groups);
+    /// Appends the comments that the scanner has passed over.
+    void appendComments(OdGroupList& groups);
+    /// Which codes own groups of records had so far, beside those that every file has.
+    const OdHeldCodes& heldCodes() const { return m_held; }
     /// The value of a text group, decoded.
     std::string_view text() { return m_decoder.decode(m_scanner.value()); }
     /// The same of a name, which ends at a zero character.
@@ -60,4 +62,5 @@ private:
     bool m_ownerTaken = false;
     bool m_inside = false;   // within a block of application data
     bool m_foreign = false;  // within embedded objects or extended data
+    OdHeldCodes m_held;
 };

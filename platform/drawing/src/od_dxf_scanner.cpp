@@ -63,6 +63,7 @@ OdDb::DwgVersion versionNamed(std::string_view name) {
 bool noteHeader(OdDxfScanner& scanner, std::string_view variable, OdDxfOverview& overview) {
     if (variable == "$ACADVER" && scanner.code() == 1) {
         overview.version = versionNamed(scanner.word());
+        overview.hasVersion = true;
         if (overview.version == OdDb::kDHL_Unknown)
             return scanner.fail(OdDxfErrorCode::kUnsupportedVersion, L"The file's version is older than R9.");
     } else if (variable == "$DWGCODEPAGE") {
@@ -90,8 +91,11 @@ bool refuseAtOnce(std::string_view text, OdDbDxfError& error) {
 
 }  // namespace
 
-OdDxfScanner::OdDxfScanner(std::string_view text, OdDxfReading* reading)
-    : m_reading(reading), m_lineEnd(text.find('\n') == std::string_view::npos ? '\r' : '\n'), m_rest(text) {}
+OdDxfScanner::OdDxfScanner(std::string_view text, OdDxfReading* reading, bool keepsComments)
+    : m_reading(reading),
+      m_lineEnd(text.find('\n') == std::string_view::npos ? '\r' : '\n'),
+      m_keepsComments(keepsComments),
+      m_rest(text) {}
 
 bool OdDxfScanner::takeLine(std::string_view& line) {
     if (m_rest.empty()) return false;
@@ -140,7 +144,10 @@ bool OdDxfScanner::next() {
     do {
         if (failed()) return false;
         if (!takeCode()) return !failed() && endOfText();
-        if (takeLine(m_value)) continue;
+        if (takeLine(m_value)) {
+            if (m_code == kComment && m_keepsComments) m_comments.push_back(m_value);
+            continue;
+        }
         return mends() ? endOfText()
                        : fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
     } while (m_code == kComment);
@@ -183,6 +190,7 @@ bool OdDxfScanner::mend(OdDxfErrorCode code, const wchar_t* text) {
     if (!mends()) return fail(code, text);
     if (m_reading->mends.size() < OdDxfReading::kMostMends) m_reading->mends.push_back({m_line, 0, text});
     ++m_reading->mendCount;
+    ++m_mendCount;
     return true;
 }
 

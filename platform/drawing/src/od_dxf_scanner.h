@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string_view>
+#include <utility>
+#include <vector>
 #include "od_dxf_error.h"
 #include "od_dxf_reading.h"
 #include "od_group_list.h"
@@ -11,11 +13,15 @@ class OdDxfScanner {
 public:
     /// Lines end with LF or CR LF, or all of them with CR alone. With `reading` (which outlives the scanner)
     /// and unless it is strict, what is wrong is mended and noted there; otherwise it is an error.
-    explicit OdDxfScanner(std::string_view text, OdDxfReading* reading = nullptr);
+    /// `keepsComments` has takeComments() answer.
+    explicit OdDxfScanner(std::string_view text, OdDxfReading* reading = nullptr, bool keepsComments = false);
 
-    /// Goes on to the next pair; comments (999) are passed over. False at the end of the text and on an
-    /// error. Where things are mended, an end mark stands behind the last pair if the text has none.
+    /// Goes on to the next pair; comments (999) are passed over, and kept for takeComments(). False at the
+    /// end of the text and on an error. Where things are mended, an end mark stands behind the last pair if
+    /// the text has none.
     bool next();
+    /// The comments that were passed over since they were taken last.
+    std::vector<std::string_view> takeComments() { return std::exchange(m_comments, {}); }
     int code() const { return m_code; }
     /// The value's line without its end, blanks and all.
     std::string_view value() const { return m_value; }
@@ -37,6 +43,8 @@ public:
     /// Notes at the present line that something was put right, and answers true; where nothing is mended, the
     /// same as fail().
     bool mend(OdDxfErrorCode code, const wchar_t* text);
+    /// How often mend() has put something right.
+    std::size_t mendCount() const { return m_mendCount; }
     /// Whether the end mark at which the scanner stands was missing.
     bool cutOff() const { return m_cutOff; }
     const OdDbDxfError& error() const { return m_error; }
@@ -51,6 +59,9 @@ private:
     OdDxfReading* m_reading;
     char m_lineEnd;
     bool m_cutOff = false;
+    bool m_keepsComments;
+    std::size_t m_mendCount = 0;
+    std::vector<std::string_view> m_comments;
     std::string_view m_rest;
     std::string_view m_value;
     int m_code = 0;
@@ -65,6 +76,7 @@ OdDbHandle odHandleFromText(std::string_view digits);
 struct OdDxfOverview {
     OdDb::DwgVersion version = OdDb::kDHL_1009;
     std::string codePageName;
+    bool hasVersion = false;  ///< whether the file says its version; without one it is read as R12
     OdDbHandle firstFreeHandle = 1;
     std::size_t records = 0;
 };

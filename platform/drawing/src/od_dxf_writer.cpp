@@ -28,42 +28,60 @@ public:
     Writer(OdDbStore& store, OdDb::DwgVersion version, int precision)
         : m_store(store), m_out(version, store.codePage, precision), m_entities(store, m_out) {}
 
-    std::string run(int& leftOut) {
+    std::string run() {
         // The header names the next free handle, which is known only when all else is written.
         m_entities.prepare();
+        m_comments = m_store.comments;
+        if (m_store.version <= m_out.version()) m_out.keepHeld(m_store.heldCodes);
         tablesAndBlocks();
         entities();
-        if (!m_out.isR12()) {
-            objects();
-            preview();
-        }
+        objects();
+        preview();
         for (const OdRawSection& section : m_store.sections) rawSection(section);
         m_out.put(0, "EOF");
         std::string body = std::move(m_out.text());
         m_out.text().clear();
         header(m_out.greatestHandle() + 1);
         if (!m_out.isR12()) classes();
-        leftOut = m_entities.leftOut();
         return m_out.text() + body;
     }
+
+    void keepMended() { m_out.keepMended(); }
+    OdDxfLosses& losses() { return m_out.losses(); }
 
 private:
     void beginSection(std::string_view name) {
         m_out.put(0, "SECTION");
         m_out.put(2, name);
+        m_section = name;
+        comments(m_section);
     }
-    void endSection() { m_out.put(0, "ENDSEC"); }
+    void endSection() {
+        m_out.put(0, "ENDSEC");
+        comments("/" + m_section);
+    }
+
+    /// The comments of a place, the first time that it is met.
+    void comments(const std::string& place) {
+        const auto found = m_comments.find(place);
+        if (found == m_comments.end()) return;
+        OdGroup group;
+        for (std::uint32_t at = 0; found->second.read(at, group); at = group.end) m_out.putGroup(group);
+        m_comments.erase(found);
+    }
 
     void header(OdDbHandle nextHandle) {
+        comments("");
         beginSection("HEADER");
         m_out.put(9, "$ACADVER");
         m_out.put(1, versionName(m_out.version()));
         m_out.put(9, "$DWGCODEPAGE");
         m_out.put(3, m_store.codePageName);
         for (const OdDbHeader::Variable& variable : m_store.header.variables()) {
-            if (variable.firstVersion > m_out.version()) continue;
-            const bool foreign = !variable.firstVersion && !odIsR12Variable(variable.name);
-            if (m_out.isR12() && foreign && m_store.version > OdDb::kDHL_1009) continue;
+            if (!hasVariable(variable)) {
+                if (saysSomething(variable)) m_out.losses().add(OdDxfLossKind::kVariable, {});
+                continue;
+            }
             m_out.put(9, "$" + variable.name);
             putVariable(variable);
         }
@@ -72,17 +90,34 @@ private:
         endSection();
     }
 
+    /// Whether the version has the variable. What stood in a file of this version or an older one may stand
+    /// there again, whatever it is; of unknown names only R12 is spared.
+    bool hasVariable(const OdDbHeader::Variable& variable) const {
+        if (variable.fromFile && m_store.version <= m_out.version()) return true;
+        const OdDb::DwgVersion since = odFirstVersionOfVariable(variable.name);
+        return since == OdDb::kDHL_Unknown ? !m_out.isR12() : since <= m_out.version();
+    }
+
+    /// Whether a new drawing has no such variable, or another value of it.
+    static bool saysSomething(const OdDbHeader::Variable& variable) {
+        static const OdDbHeader usual;
+        const OdGroupList* groups = usual.find(variable.name);
+        return !groups || !(*groups == variable.groups);
+    }
+
     /// The groups of a variable; a true colour goes only where versions have one.
     void putVariable(const OdDbHeader::Variable& variable) {
-        if (!variable.firstVersion) {
-            OdGroup group;
-            for (std::uint32_t at = 0; variable.groups.read(at, group); at = group.end) m_out.putGroup(group);
-        } else {
-            const bool colors = m_out.version() >= OdDb::kDHL_1018;
-            OdGroup group;
-            for (std::uint32_t at = 0; variable.groups.read(at, group); at = group.end)
-                if (colors || group.code < 420 || group.code > 430) m_out.putGroup(group);
-        }
+        OdGroupList groups = variable.groups;
+        m_entities.names().replaceInVariable(variable.name, groups);
+        const bool known = odFirstVersionOfVariable(variable.name) != OdDb::kDHL_Unknown;
+        const bool held = variable.fromFile && m_store.version <= m_out.version();
+        const bool colors = !known || held || m_out.version() >= OdDb::kDHL_1018;
+        OdGroup group;
+        for (std::uint32_t at = 0; groups.read(at, group); at = group.end)
+            if (colors || group.code < 420 || group.code > 430)
+                m_out.putGroup(group);
+            else
+                m_out.losses().add(OdDxfLossKind::kTrueColor, {});
     }
 
     void classes() {
@@ -99,8 +134,11 @@ private:
     }
 
     void rawSection(const OdRawSection& section) {
-        if (m_out.isR12() && m_store.version > OdDb::kDHL_1009) return;
-        if (section.name == "ACDSDATA" && m_out.version() < OdDb::kDHL_1027) return;
+        const bool newer = section.name == "ACDSDATA" ? m_out.version() < OdDb::kDHL_1027 : m_out.isR12();
+        if (newer && m_store.version > m_out.version()) {
+            m_out.losses().add(OdDxfLossKind::kSection, section.name);
+            return;
+        }
         beginSection(section.name);
         OdGroup group;
         for (std::uint32_t at = 0; section.lead.read(at, group); at = group.end) m_out.putGroup(group);
@@ -112,8 +150,7 @@ private:
         beginSection("TABLES");
         for (int kind = 0; kind < kTableCount; ++kind)
             if (kind != kBlockTable || !m_out.isR12()) table(static_cast<OdTableKind>(kind));
-        for (const OdRawSection& other : m_store.otherTables)
-            if (!m_out.isR12() || m_store.version <= OdDb::kDHL_1009) otherTable(other);
+        for (const OdRawSection& other : m_store.otherTables) otherTable(other);
         endSection();
         beginSection("BLOCKS");
         for (OdDbSymbolTableRecord* record : m_store.records(kBlockTable))
@@ -124,6 +161,7 @@ private:
     void table(OdTableKind kind) {
         OdDbSymbolTable& symbols = *m_store.tables[kind];
         m_out.put(0, "TABLE");
+        m_out.beginRecord(OdDxfRecordKind::kTableRecord, "TABLE");
         m_out.put(2, symbols.recordName());
         const OdGroupList& groups = symbols.groups();
         OdGroup marker;
@@ -133,16 +171,41 @@ private:
             m_entities.ownerAmong(groups, 0, marked ? marker.begin : 0);
             m_out.put(100, "AcDbSymbolTable");
         }
-        m_out.putInteger(70, symbols.count());
-        m_out.putGroups(groups, OdDxfPart::kRecord, marked ? marker.end : 0);
+        std::vector<OdDbSymbolTableRecord*> records;
         for (OdDbSymbolTableRecord* record : m_store.records(kind))
-            if (!record->isErased()) tableRecord(kind, *record, symbols);
+            if (isWritten(kind, *record)) records.push_back(record);
+        const bool addsApplication = kind == kRegAppTable && !m_entities.names().isEmpty();
+        m_out.putInteger(70, static_cast<std::int64_t>(records.size()) + (addsApplication ? 1 : 0));
+        m_out.putGroups(groups, OdDxfPart::kOwn, marked ? marker.end : 0);
+        for (OdDbSymbolTableRecord* record : records) tableRecord(kind, *record, symbols);
+        if (addsApplication) wholeNamesApplication();
+        endTable(symbols.recordName());
+    }
+
+    void endTable(const std::string& name) {
         m_out.put(0, "ENDTAB");
+        comments("/TABLE " + name);
+    }
+
+    bool isWritten(OdTableKind kind, const OdDbSymbolTableRecord& record) {
+        if (record.isErased()) return false;
+        if (m_entities.names().find(kind, record.getName()))
+            m_out.losses().add(OdDxfLossKind::kName, record.dxfName());
+        return kind != kBlockTable || m_entities.hasBlock(static_cast<const OdDbBlockTableRecord&>(record));
+    }
+
+    /// The registered application under which whole names stand in R12.
+    void wholeNamesApplication() {
+        m_out.put(0, "APPID");
+        m_out.put(2, kOdWholeNames);
+        m_out.putInteger(70, 0);
     }
 
     void tableRecord(OdTableKind kind, OdDbSymbolTableRecord& record, const OdDbSymbolTable& symbols) {
         m_out.put(0, record.dxfName());
-        const OdGroupList groups = m_entities.recordForm(kind, record.groups());
+        m_out.beginRecord(OdDxfRecordKind::kTableRecord, record.dxfName());
+        const OdGroupList groups = m_entities.recordForm(kind, record);
+        const OdString name = m_entities.nameOf(kind, record);
         OdGroup first, second;
         std::uint32_t head = 0;
         std::uint32_t body = 0;
@@ -152,23 +215,27 @@ private:
         }
         // The first 2 of a record is its name; one that stands before the markers must not come before it.
         const bool nameFirst = groups.find(2, second) && second.begin < body;
-        if (nameFirst) m_out.putText(2, record.getName());
+        if (nameFirst) m_out.putText(2, name);
         if (!m_out.isR12()) {
             m_out.putOwnHandle(record.handle(), kind == kDimStyleTable ? 105 : 5);
             m_entities.ownerAmong(groups, symbols.handle(), head);
             m_out.putGroups(groups, OdDxfPart::kObject, head, body);
         }
-        if (!nameFirst) m_out.putText(2, record.getName());
-        m_out.putGroups(groups, OdDxfPart::kRecord, body);
+        if (!nameFirst) m_out.putText(2, name);
+        m_out.putGroups(groups, OdDxfPart::kOwn, body);
     }
 
     void otherTable(const OdRawSection& other) {
+        if (m_out.isR12() && m_store.version > OdDb::kDHL_1009) {
+            m_out.losses().add(OdDxfLossKind::kSection, other.name);
+            return;
+        }
         m_out.put(0, "TABLE");
         m_out.putText(2, other.name);
         OdGroup group;
         for (std::uint32_t at = 0; other.lead.read(at, group); at = group.end) m_out.putGroup(group);
         for (const OdRawRecord& record : other.records) rawRecord(record);
-        m_out.put(0, "ENDTAB");
+        endTable(other.name);
     }
 
     void entities() {
@@ -180,6 +247,10 @@ private:
     }
 
     void objects() {
+        if (m_out.isR12()) {
+            for (const OdDbObject* object : m_store.fileObjects) m_entities.noteLeftOut(*object);
+            return;
+        }
         beginSection("OBJECTS");
         // Readers take the first object for the root of all dictionaries.
         if (OdDbDictionary* root = m_store.root()) m_entities.object(*root);
@@ -189,8 +260,13 @@ private:
     }
 
     void preview() {
+        if (m_store.thumbnail.isEmpty()) return;
         const bool fits = m_out.version() >= OdDb::kDHL_1015 || !m_store.hasOwnThumbnail;
-        if (m_store.thumbnail.isEmpty() || !fits) return;
+        if (!fits || (m_out.isR12() && m_store.version > OdDb::kDHL_1009)) {
+            // A picture that the program made itself is no loss.
+            if (!m_store.hasOwnThumbnail) m_out.losses().add(OdDxfLossKind::kSection, "THUMBNAILIMAGE");
+            return;
+        }
         beginSection("THUMBNAILIMAGE");
         OdGroup group;
         for (std::uint32_t at = 0; m_store.thumbnail.read(at, group); at = group.end) m_out.putGroup(group);
@@ -199,6 +275,8 @@ private:
 
     OdDbStore& m_store;
     OdDxfOutput m_out;
+    std::map<std::string, OdGroupList> m_comments;  // not written yet
+    std::string m_section;
     OdDxfEntityWriter m_entities;
 };
 
@@ -206,7 +284,27 @@ private:
 
 std::string odWriteDxf(OdDbStore& store, const OdDxfForm& form, int& leftOut) {
     const OdDb::DwgVersion version = form.version == OdDb::kDHL_Unknown ? store.version : form.version;
-    const std::string text =
-        Writer(store, version, form.binary ? kOdFullPrecision : form.precision).run(leftOut);
+    Writer writer(store, version, form.binary ? kOdFullPrecision : form.precision);
+    // What a program wrote in its own way goes back to it; a binary file has room for values alone.
+    if (!form.binary && version == store.version) writer.keepMended();
+    const std::string text = writer.run();
+    leftOut = writer.losses().entitiesLeftOut();
     return form.binary ? odBinaryOfDxfText(text, version > OdDb::kDHL_1009) : text;
+}
+
+std::vector<OdDxfLoss> odDxfLosses(OdDbStore& store, OdDb::DwgVersion version) {
+    Writer writer(store, version == OdDb::kDHL_Unknown ? store.version : version, 0);
+    writer.run();
+    return writer.losses().all();
+}
+
+OdDb::DwgVersion odVersionThatHolds(OdDbStore& store) {
+    constexpr OdDb::DwgVersion kVersions[] = {OdDb::kDHL_1009, OdDb::kDHL_1012, OdDb::kDHL_1014,
+                                              OdDb::kDHL_1015, OdDb::kDHL_1018, OdDb::kDHL_1021,
+                                              OdDb::kDHL_1024, OdDb::kDHL_1027};
+    // Judged like a drawing of the newest version: what stands in the file must not count as held.
+    store.version = OdDb::kDHL_1032;
+    for (const OdDb::DwgVersion version : kVersions)
+        if (odDxfLosses(store, version).empty()) return version;
+    return OdDb::kDHL_1032;
 }

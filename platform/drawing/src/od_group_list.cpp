@@ -8,7 +8,8 @@
 namespace {
 
 // A packed group is its code (2 bytes), then 8 bytes for a real, a variable-length integer for an integer or
-// a handle, or a variable-length count and the bytes of a text.
+// a handle, or a variable-length count and the bytes of a text. Where a file had something else than a value,
+// the code is marked, and a count and the bytes of that follow.
 
 std::size_t putVarint(char* out, std::uint64_t value) {
     std::size_t count = 0;
@@ -36,7 +37,9 @@ constexpr std::int64_t unzigzag(std::uint64_t value) {
 constexpr std::uint32_t kLongestNumber = 10;  // bytes of a variable-length integer
 constexpr int kEmbeddedObject = 101;
 constexpr int kApplicationData = 102;
-constexpr int kFirstExtendedData = 1000;
+constexpr int kFirstExtendedText = 1000;
+/// Added to the code of a group behind whose value stands what the file had in its place.
+constexpr int kMendedMark = 0x4000;
 
 struct KindRange {
     int first, last;
@@ -126,8 +129,9 @@ bool OdGroupList::read(std::uint32_t at, OdGroup& group) const {
     std::int16_t code;
     std::memcpy(&code, in, 2);
     in += 2;
-    group.code = code;
-    group.kind = odGroupKind(code);
+    const bool isMended = code >= kMendedMark;
+    group.code = isMended ? code - kMendedMark : code;
+    group.kind = odGroupKind(group.code);
     group.begin = at;
     std::uint64_t number = 0;
     switch (group.kind) {
@@ -146,16 +150,28 @@ bool OdGroupList::read(std::uint32_t at, OdGroup& group) const {
                 group.kind == OdGroupKind::kInteger ? unzigzag(number) : static_cast<std::int64_t>(number);
             break;
     }
+    group.mended = {};
+    if (isMended) {
+        in = takeVarint(in, number);
+        group.mended = std::string_view(in, number);
+        in += number;
+    }
     group.end = static_cast<std::uint32_t>(in - m_block->data());
     return true;
 }
 
 void OdGroupList::addText(int code, std::string_view utf8) {
+    putCode(code, 0);
+    addBytes(utf8);
+}
+
+/// Appends bytes with their count before them.
+void OdGroupList::addBytes(std::string_view bytes) {
     char number[kLongestNumber];
-    const std::size_t count = putVarint(number, utf8.size());
-    char* at = putCode(code, static_cast<std::uint32_t>(count + utf8.size()));
+    const std::size_t count = putVarint(number, bytes.size());
+    char* at = grow(static_cast<std::uint32_t>(count + bytes.size()));
     std::memcpy(at, number, count);
-    if (!utf8.empty()) std::memcpy(at + count, utf8.data(), utf8.size());
+    if (!bytes.empty()) std::memcpy(at + count, bytes.data(), bytes.size());
 }
 
 void OdGroupList::addReal(int code, double value) {
@@ -181,12 +197,14 @@ void OdGroupList::addPoint(int code, const OdGePoint3d& point, bool flat) {
 }
 
 void OdGroupList::add(const OdGroup& group) {
+    const int code = group.mended.empty() ? group.code : group.code + kMendedMark;
     switch (group.kind) {
-        case OdGroupKind::kReal: addReal(group.code, group.real); break;
-        case OdGroupKind::kText: addText(group.code, group.text); break;
-        case OdGroupKind::kInteger: addInteger(group.code, group.integer); break;
-        case OdGroupKind::kHandle: addHandle(group.code, group.handle()); break;
+        case OdGroupKind::kReal: addReal(code, group.real); break;
+        case OdGroupKind::kText: addText(code, group.text); break;
+        case OdGroupKind::kInteger: addInteger(code, group.integer); break;
+        case OdGroupKind::kHandle: addHandle(code, group.handle()); break;
     }
+    if (!group.mended.empty()) addBytes(group.mended);
 }
 
 void OdGroupList::add(const OdGroupList& other) {
@@ -209,7 +227,7 @@ void OdGroupList::replace(std::uint32_t begin, std::uint32_t end, const OdGroupL
 bool OdGroupList::find(int code, OdGroup& group, std::uint32_t from) const {
     int depth = 0;
     for (std::uint32_t at = from; read(at, group); at = group.end) {
-        if (group.code == kEmbeddedObject || group.code >= kFirstExtendedData) return false;
+        if (group.code == kEmbeddedObject || odIsExtendedDataCode(group.code)) return false;
         if (group.code == kApplicationData) {
             depth = !group.text.empty() && group.text[0] == '{' ? 1 : 0;
             continue;
@@ -235,7 +253,7 @@ bool OdGroupList::findIn(const char* marker, int code, OdGroup& group) const {
 std::uint32_t OdGroupList::ownEnd() const {
     OdGroup group;
     std::uint32_t at = 0;
-    while (read(at, group) && group.code != kEmbeddedObject && group.code < kFirstExtendedData)
+    while (read(at, group) && group.code != kEmbeddedObject && !odIsExtendedDataCode(group.code))
         at = group.end;
     return at;
 }
@@ -290,7 +308,7 @@ OdGePoint3d OdGroupList::point(int code, const OdGePoint3d& absent) const {
 OdString OdGroupList::xDataText(int index) const {
     OdGroup group;
     for (std::uint32_t at = 0; read(at, group); at = group.end)
-        if (group.code == kFirstExtendedData && index-- == 0) return group.wide();
+        if (group.code == kFirstExtendedText && index-- == 0) return group.wide();
     return {};
 }
 

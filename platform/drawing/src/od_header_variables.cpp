@@ -6,20 +6,17 @@
 
 namespace {
 
-/// A known variable: its name, code and first version.
+/// A known variable: its name and code.
 struct Known {
     const char* name;
     int code;
-    OdDb::DwgVersion firstVersion;
 };
 
-using namespace OdDb;
-
 constexpr Known kKnown[] = {
-#define ODDB_ROW(name, code, value, version) {#name, code, version},
+#define ODDB_ROW(name, code, value, version) {#name, code},
     ODDB_INTEGER_VARIABLES(ODDB_ROW) ODDB_REAL_VARIABLES(ODDB_ROW) ODDB_NAME_VARIABLES(ODDB_ROW)
 #undef ODDB_ROW
-#define ODDB_ROW(name, code, x, y, z, count, version) {#name, code, version},
+#define ODDB_ROW(name, code, x, y, z, count, version) {#name, code},
         ODDB_POINT_VARIABLES(ODDB_ROW)
 #undef ODDB_ROW
 };
@@ -62,6 +59,7 @@ OdDbHeader::OdDbHeader() {
     ODDB_POINT_VARIABLES(ODDB_SET)
 #undef ODDB_SET
     endFileOrder();
+    for (Variable& variable : m_variables) variable.fromFile = false;
 }
 
 int OdDbHeader::indexOf(std::string_view name) const {
@@ -78,11 +76,12 @@ void OdDbHeader::set(std::string_view name, OdGroupList groups) {
     int index = indexOf(name);
     if (index < 0) {
         index = static_cast<int>(m_variables.size());
-        const Known* known = knownVariable(name);
-        m_variables.push_back({std::string(name), {}, known ? known->firstVersion : 0});
+        m_variables.push_back({std::string(name), {}, false});
         m_byName.emplace(std::string(name), index);
     }
-    m_variables[static_cast<std::size_t>(index)].groups = std::move(groups);
+    OdDbHeader::Variable& variable = m_variables[static_cast<std::size_t>(index)];
+    variable.groups = std::move(groups);
+    variable.fromFile = variable.fromFile || m_loading;
     if (m_loading)
         m_fileOrder.push_back(index);
     else
