@@ -6,7 +6,7 @@
 struct SceneCorner;
 
 /// A mapping of the plane: scale, turn and move.
-struct STANDIN_API PlaneTransform {
+struct KTSCENE_API PlaneTransform {
     double xx = 1, xy = 0, yx = 0, yy = 1, x = 0, y = 0;
     OdGePoint2d apply(double px, double py) const { return {xx * px + xy * py + x, yx * px + yy * py + y}; }
     OdGePoint2d apply(const OdGePoint3d& p) const { return apply(p.x, p.y); }
@@ -26,7 +26,7 @@ enum class SceneUse {
     kPaper    ///< the same without layers that aren't plotted
 };
 
-class STANDIN_API SceneBuilder {
+class KTSCENE_API SceneBuilder {
 public:
     explicit SceneBuilder(OdDbDatabase& drawing, SceneUse use = SceneUse::kScreen);
 

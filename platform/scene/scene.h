@@ -6,7 +6,7 @@
 
 #include <od_db.h>
 
-#include "standin_api.h"
+#include "scene_api.h"
 
 /// How a piece of the scene is drawn. "By layer" and "by block" are resolved already.
 struct DisplayStyle {
@@ -61,13 +61,13 @@ struct SceneText {
 };
 
 /// A rectangle in drawing units; empty until something is added.
-struct STANDIN_API SceneExtents {
+struct KTSCENE_API SceneExtents {
     OdGePoint2d low{1e300, 1e300}, high{-1e300, -1e300};
     bool isEmpty() const { return low.x > high.x; }
     void add(const OdGePoint2d& point);
 };
 
-struct STANDIN_API Scene {
+struct KTSCENE_API Scene {
     std::vector<ScenePath> paths;
     std::vector<SceneText> texts;
 
@@ -76,4 +76,4 @@ struct STANDIN_API Scene {
 };
 
 /// The visible entities of block `space` of `drawing`.
-STANDIN_API Scene BuildScene(OdDbDatabase& drawing, const OdDbObjectId& space);
+KTSCENE_API Scene BuildScene(OdDbDatabase& drawing, const OdDbObjectId& space);
