@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "scene.h"
+#include "scene_options.h"
 
 namespace scene_test {
 
