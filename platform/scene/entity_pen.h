@@ -13,6 +13,7 @@ struct SceneLevel {
     SurroundingLook surrounding;
     OdDbObjectId entity;  ///< of the space; null at the outermost level
     int depth = 0;
+    bool marksAreDots = false;  ///< within a dimension, whose definition points are dots whatever is set
 };
 
 /// A line of text in the coordinates of an entity.
@@ -45,6 +46,13 @@ public:
     EntityPen within(const SpaceTransform& inner) const;
     /// A pen for coordinates in the plane of the entity's normal.
     EntityPen inPlaneOf(const OdDbEntity& entity) const;
+
+    /// A pen in whose blocks points are dots.
+    EntityPen withDots() const {
+        EntityPen pen = *this;
+        pen.m_level.marksAreDots = true;
+        return pen;
+    }
 
     /// How far the points of a curve may leave it, in the pen's coordinates; 0 for the usual steps.
     double tolerance() const;

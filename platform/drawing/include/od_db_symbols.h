@@ -24,7 +24,7 @@ public:
     /// The left end of the frame, half up its first row.
     OdGePoint3d location() const { return m_groups.point(10); }
     OdGePoint3d direction() const { return m_groups.point(11, {1, 0, 0}); }
-    /// The fields, parted by "%%v", and rows, parted by "^J".
+    /// The fields, parted by "%%v", in rows, parted by L'\n'.
     OdString text() const { return m_groups.text(1); }
     OdString dimStyleName() const { return m_groups.text(3); }
 };

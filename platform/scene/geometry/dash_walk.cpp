@@ -8,8 +8,9 @@ void WalkDashes(const std::vector<double>& dashes, const LinePart& part, const s
     double repeat = 0;
     for (const double dash : dashes) repeat += std::abs(dash);
     const double start = repeat > 0 ? std::floor(part.from / repeat) * repeat : 0;
-    // Where a repeat is lost in the size of the numbers, the pattern can't be seen either.
-    if (!(repeat > 0) || !(start + repeat > start)) {
+    // A pattern that repeats so often can't be seen.
+    constexpr double kMostRepeats = 20000;
+    if (!(repeat > 0) || !((part.to - part.from) / repeat < kMostRepeats) || !(start + repeat > start)) {
         if (spend()) draw(part);
         return;
     }

@@ -19,7 +19,7 @@ void DrawDimension(const OdDbEntity& entity, EntityPen& pen) {
         return;
     }
     // A copy of a dimension may share its block, moved.
-    const EntityPen inPlane = pen.inPlaneOf(entity);
+    const EntityPen inPlane = pen.inPlaneOf(entity).withDots();
     OdGroup group;
     const bool isMoved = entity.groups().find(12, group);
     DrawBlockWithin(isMoved ? inPlane.within(SpaceTransform::Moved(entity.groups().point(12))) : inPlane,

@@ -19,7 +19,7 @@ using namespace dimension_codes;
 
 constexpr double kUsualArrowSize = 0.18;
 
-/// The line from the arrowhead on, and the arrowhead; without one where the line is too short for it.
+/// The line from the arrowhead on, and the arrowhead.
 void drawLeaderLine(const std::vector<OdGePoint3d>& vertices, bool isSplined, const Arrowhead& arrowhead,
                     const EntityPen& pen) {
     if (vertices.size() < 2) return;
@@ -27,8 +27,13 @@ void drawLeaderLine(const std::vector<OdGePoint3d>& vertices, bool isSplined, co
     pen.stroke(line);
     if (line.size() < 2) return;
     const OdGePoint2d way = Flat(line[0]) - Flat(line[1]);
-    const double length = Length(way), first = Length(Flat(vertices[0]) - Flat(vertices[1]));
-    if (length > 0 && first >= 2 * arrowhead.size) DrawArrowhead(pen, arrowhead, line[0], way * (1 / length));
+    if (const double length = Length(way); length > 0)
+        DrawArrowhead(pen, arrowhead, line[0], way * (1 / length));
+}
+
+/// A leader whose first piece is shorter than two arrowheads has none.
+bool hasRoom(const std::vector<OdGePoint3d>& vertices, double arrowSize) {
+    return vertices.size() > 1 && Length(Flat(vertices[0]) - Flat(vertices[1])) >= 2 * arrowSize;
 }
 
 }  // namespace
@@ -55,6 +60,7 @@ void DrawLeader(const OdDbEntity& entity, EntityPen& pen) {
         const double sign = leader->isHookLineReversed() ? 1 : -1;
         vertices.push_back(vertices.back() + along * (reach * sign));
     }
+    if (!hasRoom(vertices, arrowhead.size)) arrowhead.size = 0;
     drawLeaderLine(vertices, leader->isSplined(), arrowhead, own);
 }
 

@@ -36,7 +36,7 @@ void DrawPoint(const OdDbEntity& entity, EntityPen& pen) {
     const auto* point = As<OdDbPoint>(entity);
     if (point == nullptr) return;
     OdDbDatabase& drawing = pen.work().drawing();
-    const int mode = drawing.getPDMODE();
+    const int mode = pen.level().marksAreDots ? kDot : drawing.getPDMODE();
     const double size = pen.work().markSize(drawing.getPDSIZE());
     const SpaceTransform place =
         SpaceTransform::Moved(point->position())

@@ -233,14 +233,6 @@ void Reader::takeCode() {
 
 void Reader::takeLetter() {
     const wchar_t letter = m_rest[0];
-    if (letter == L'^' && m_rest.size() > 1) {
-        const wchar_t control = m_rest[1];
-        m_rest.remove_prefix(2);
-        if (control == L'J') endParagraph();
-        if (control == L'I') put(L' ');
-        if (control == L' ') put(L'^');
-        return;
-    }
     if (m_rest.substr(0, 2) == L"%%" && m_rest.size() > 2) {
         const std::size_t length = DigitsAt(m_rest.substr(2), 3, 10) > 0 ? 5 : 3;
         put(DecodeText(m_rest.substr(0, length)).letters);

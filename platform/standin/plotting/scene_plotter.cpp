@@ -11,6 +11,17 @@ constexpr double kThinnestDot = 0.35;  // points
 
 PdfPoint pointOf(const OdGePoint2d& p) { return {p.x, p.y}; }
 
+/// Whether one of a path's lines is a dot.
+bool hasDot(const ScenePath& path) {
+    std::size_t first = 0;
+    for (std::size_t i = 0; i <= path.breaks.size(); ++i) {
+        const std::size_t end = i < path.breaks.size() ? path.breaks[i] : path.points.size();
+        if (end == first + 2 && path.points[first] == path.points[first + 1]) return true;
+        first = end;
+    }
+    return false;
+}
+
 /// Draws the pieces of one scene.
 class Plotter {
 public:
@@ -145,9 +156,7 @@ void Plotter::fill(const ScenePath& path) {
 
 void Plotter::stroke(const ScenePath& path) {
     const double width = path.style.lineWeight / kHundredthsOfMillimetre * kPointsPerMillimetre;
-    const OdGePoint2d &first = path.points.front(), &last = path.points.back();
-    const bool isDot =
-        path.points.size() == 2 && path.breaks.empty() && first.x == last.x && first.y == last.y;
+    const bool isDot = hasDot(path);
     m_page.setStrokeColor(InkOf(path.style.color));
     m_page.setLineWidth(isDot ? std::max(width, kThinnestDot) : width);
     m_page.setRoundEnds(isDot);

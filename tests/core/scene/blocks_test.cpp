@@ -119,11 +119,11 @@ std::string attribute(const char* layer, const char* flags) {
 
 TEST(SceneBlocks, AttributesHavePlacesAndLayersOfTheirOwn) {
     const auto drawn = [](const std::string& attributes, const char* mode = "1") {
-        return Drawn({.header = std::string("9 $ATTMODE|70 ") + mode,
-                      .tables = table("LAYER", kLayers),
-                      .blocks = block("B", kUnitLine),
-                      .entities = "0 INSERT|8 RED|66 1|2 B|10 100|20 100|30 0|41 3|42 3|43 3|" + attributes +
-                                  "|0 SEQEND|8 0"});
+        return Drawn(Parts{.header = std::string("9 $ATTMODE|70 ") + mode,
+                           .tables = table("LAYER", kLayers),
+                           .blocks = block("B", kUnitLine),
+                           .entities = "0 INSERT|8 RED|66 1|2 B|10 100|20 100|30 0|41 3|42 3|43 3|" +
+                                       attributes + "|0 SEQEND|8 0"});
     };
     const Drawn one = drawn(attribute("GREEN", "0"));
     ASSERT_EQ(one.texts().size(), 1u);

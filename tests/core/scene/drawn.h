@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -15,7 +16,8 @@ namespace scene_test {
 
 constexpr double kPi = std::numbers::pi;
 
-/// Groups of a file from a short form: "0 LINE|8 0|10 1.5" are three groups.
+/// Groups of a file from a short form: "0 LINE|8 0|10 1.5" are three groups. A sign of paragraph (\x14) in a
+/// value stands for a bar.
 inline std::string groups(std::string_view brief) {
     std::string text;
     while (!brief.empty()) {
@@ -23,7 +25,9 @@ inline std::string groups(std::string_view brief) {
         const std::string_view one = brief.substr(0, end);
         const std::size_t gap = std::min(one.find(' '), one.size());
         text.append(one.substr(0, gap)).append("\n");
-        if (gap < one.size()) text.append(one.substr(gap + 1));
+        std::string value(gap < one.size() ? one.substr(gap + 1) : std::string_view());
+        std::replace(value.begin(), value.end(), '\x14', '|');
+        text.append(value);
         text.append("\n");
         brief.remove_prefix(std::min(end + 1, brief.size()));
     }
