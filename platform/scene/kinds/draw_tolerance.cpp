@@ -74,7 +74,8 @@ void DrawTolerance(const OdDbEntity& entity, EntityPen& pen) {
     pen.rules().setColor(letters.look(), style.color(kTextColor), pen.look());
     const SceneFont font = FontOfStyle(style.object(kTextStyle));
     double middle = 0;
-    for (const std::wstring_view row : split(frame->text().view(), L"\n")) {
+    const OdString fields = frame->text();
+    for (const std::wstring_view row : split(fields.view(), L"\n")) {
         double x = 0;
         for (const std::wstring_view field : split(row, L"%%v")) {
             const OdString words = wordsOf(field);
