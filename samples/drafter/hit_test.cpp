@@ -3,10 +3,21 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <span>
 
 namespace {
 
-constexpr double kCharacterWidth = 0.8;  // of the height
+/// Calls `part` with each line of a path, or each boundary of an area, until one answers true.
+template <class Part>
+bool anyPart(const ScenePath& path, Part part) {
+    std::size_t first = 0;
+    for (std::size_t i = 0; i <= path.breaks.size(); ++i) {
+        const std::size_t end = i < path.breaks.size() ? path.breaks[i] : path.points.size();
+        if (end > first && part(std::span(path.points).subspan(first, end - first))) return true;
+        first = end;
+    }
+    return false;
+}
 
 double distanceToSegment(const OdGePoint2d& at, const OdGePoint2d& from, const OdGePoint2d& to) {
     const double dx = to.x - from.x, dy = to.y - from.y;
@@ -17,10 +28,13 @@ double distanceToSegment(const OdGePoint2d& at, const OdGePoint2d& from, const O
 }
 
 double distanceTo(const ScenePath& path, const OdGePoint2d& at) {
-    if (path.points.empty()) return HUGE_VAL;
-    double nearest = distanceToSegment(at, path.points.front(), path.points.front());
-    for (std::size_t i = 1; i < path.points.size(); ++i)
-        nearest = std::min(nearest, distanceToSegment(at, path.points[i - 1], path.points[i]));
+    double nearest = HUGE_VAL;
+    anyPart(path, [&](std::span<const OdGePoint2d> points) {
+        nearest = std::min(nearest, distanceToSegment(at, points.front(), points.front()));
+        for (std::size_t i = 1; i < points.size(); ++i)
+            nearest = std::min(nearest, distanceToSegment(at, points[i - 1], points[i]));
+        return false;
+    });
     return nearest;
 }
 
@@ -35,6 +49,26 @@ bool isWithin(const Points& points, const OdGePoint2d& at) {
             within = !within;
     }
     return within;
+}
+
+/// Whether an odd count of an area's boundaries surrounds a point.
+bool isInArea(const ScenePath& path, const OdGePoint2d& at) {
+    bool within = false;
+    anyPart(path, [&](std::span<const OdGePoint2d> points) {
+        if (points.size() > 2 && isWithin(points, at)) within = !within;
+        return false;
+    });
+    return within;
+}
+
+/// Whether a place is seen through a clip of the scene, and those around it.
+bool isSeen(const Scene& scene, int clip, const OdGePoint2d& at) {
+    while (clip >= 0) {
+        const SceneClip& each = scene.clips[static_cast<std::size_t>(clip)];
+        if (each.outline.size() < 3 || !isWithin(each.outline, at)) return false;
+        clip = each.within < clip ? each.within : kNoClip;
+    }
+    return true;
 }
 
 bool isIn(const SceneExtents& window, const OdGePoint2d& point) {
@@ -73,7 +107,15 @@ bool areaTouches(const SceneExtents& window, const Points& points) {
 }
 
 bool touches(const SceneExtents& window, const ScenePath& path) {
-    return path.filled ? areaTouches(window, path.points) : linesCross(window, path.points, false);
+    if (path.filled && isInArea(path, window.low)) return true;
+    return anyPart(
+        path, [&](std::span<const OdGePoint2d> points) { return linesCross(window, points, path.filled); });
+}
+
+/// The part of a window in which a clip lets anything be seen.
+SceneExtents seenPart(const Scene& scene, int clip, SceneExtents window) {
+    if (clip != kNoClip) window.cut(scene.clipExtents(clip));
+    return window;
 }
 
 template <class Points>
@@ -85,9 +127,7 @@ bool areIn(const SceneExtents& window, const Points& points) {
 }  // namespace
 
 std::array<OdGePoint2d, 4> TextBox(const SceneText& text) {
-    const double width = text.text.length() * text.height * text.widthFactor * kCharacterWidth;
-    const double left = -width * text.horizontal / 2;
-    const double low = text.vertical == 2 ? -text.height / 2 : text.vertical == 3 ? -text.height : 0;
+    const double width = TextExtent(text), left = -width * text.horizontal / 2, low = -BaseLineDrop(text);
     const double c = std::cos(text.rotation), s = std::sin(text.rotation);
     const auto corner = [&](double u, double v) {
         return OdGePoint2d{text.position.x + u * c - v * s, text.position.y + u * s + v * c};
@@ -100,6 +140,7 @@ OdDbObjectId EntityAt(const Scene& scene, const OdGePoint2d& at, double reach) {
     OdDbObjectId found;
     double nearest = reach;
     for (const ScenePath& path : scene.paths) {
+        if (!isSeen(scene, path.clip, at)) continue;
         const double distance = distanceTo(path, at);
         if (distance > nearest) continue;
         nearest = distance;
@@ -107,9 +148,9 @@ OdDbObjectId EntityAt(const Scene& scene, const OdGePoint2d& at, double reach) {
     }
     if (!found.isNull()) return found;
     for (const SceneText& text : scene.texts)
-        if (isWithin(TextBox(text), at)) return text.entity;
+        if (isSeen(scene, text.clip, at) && isWithin(TextBox(text), at)) return text.entity;
     for (const ScenePath& path : scene.paths)
-        if (path.filled && path.points.size() > 2 && isWithin(path.points, at)) found = path.entity;
+        if (path.filled && isSeen(scene, path.clip, at) && isInArea(path, at)) found = path.entity;
     return found;
 }
 
@@ -130,9 +171,13 @@ std::set<OdDbObjectId> EntitiesInside(const Scene& scene, const SceneExtents& wi
 std::set<OdDbObjectId> EntitiesTouching(const Scene& scene, const SceneExtents& window) {
     std::set<OdDbObjectId> found;
     for (const ScenePath& path : scene.paths)
-        if (touches(window, path)) found.insert(path.entity);
+        if (const SceneExtents seen = seenPart(scene, path.clip, window);
+            !seen.isEmpty() && touches(seen, path))
+            found.insert(path.entity);
     for (const SceneText& text : scene.texts)
-        if (areaTouches(window, TextBox(text))) found.insert(text.entity);
+        if (const SceneExtents seen = seenPart(scene, text.clip, window);
+            !seen.isEmpty() && areaTouches(seen, TextBox(text)))
+            found.insert(text.entity);
     found.erase(OdDbObjectId());
     return found;
 }

@@ -24,14 +24,18 @@ int penWidth(int lineWeight) {
 /// Paints the pieces of one scene.
 class ScenePainter {
 public:
-    ScenePainter(CDC& dc, const ScenePlace& place, const std::set<OdDbObjectId>& selection,
-                 const SceneColors& colors)
-        : m_dc(dc), m_place(place), m_selection(selection), m_colors(colors) {}
+    ScenePainter(CDC& dc, const Scene& scene, const ScenePlace& place,
+                 const std::set<OdDbObjectId>& selection, const SceneColors& colors)
+        : m_dc(dc), m_scene(scene), m_place(place), m_selection(selection), m_colors(colors) {}
 
-    void draw(const ScenePath& path);
-    void draw(const SceneText& text);
+    /// Paths and texts in the order in which they lie.
+    void draw();
 
 private:
+    void draw(const ScenePath& path);
+    void draw(const SceneText& text);
+    void seeThrough(int clip);
+    std::vector<CPoint> pixelsOf(const std::vector<OdGePoint2d>& points) const;
     bool isSelected(const OdDbObjectId& entity) const { return m_selection.contains(entity); }
     COLORREF colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const {
         return isSelected(entity) ? m_colors.selection : onPaper(style.color.color());
@@ -40,47 +44,114 @@ private:
         constexpr COLORREF kWhite = RGB(255, 255, 255), kBlack = RGB(0, 0, 0);
         return color == kWhite ? ReadableColor(kWhite, m_colors.paper, kMarkContrast, kBlack) : color;
     }
-    void fill(const std::vector<CPoint>& pixels, COLORREF color);
+    void fill(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color);
+    void stroke(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color);
     void write(const SceneText& text, int height, CPoint at);
+    double widthFactorOf(const SceneText& text, int height);
 
     CDC& m_dc;
+    const Scene& m_scene;
     const ScenePlace& m_place;
     const std::set<OdDbObjectId>& m_selection;
     const SceneColors& m_colors;
+    int m_clip = kNoClip;  // through which of the scene's clips is drawn at present
+    int m_saved = 0;       // the state of the device context around it
 };
 
-void ScenePainter::fill(const std::vector<CPoint>& pixels, COLORREF color) {
+/// The ends of a path's lines, or of an area's boundaries.
+std::vector<std::size_t> endsOf(const ScenePath& path) {
+    std::vector<std::size_t> ends = path.breaks;
+    ends.push_back(path.points.size());
+    return ends;
+}
+
+std::vector<CPoint> ScenePainter::pixelsOf(const std::vector<OdGePoint2d>& points) const {
+    std::vector<CPoint> pixels;
+    pixels.reserve(points.size());
+    for (const OdGePoint2d& point : points) pixels.push_back(m_place.ToPixel(point));
+    return pixels;
+}
+
+/// What follows is seen through a clip of the scene, and those around it.
+void ScenePainter::seeThrough(int clip) {
+    if (clip == m_clip) return;
+    if (m_clip != kNoClip) m_dc.RestoreDC(m_saved);
+    m_clip = clip;
+    if (clip == kNoClip) return;
+    m_saved = m_dc.SaveDC();
+    for (int at = clip; at >= 0;) {
+        const SceneClip& each = m_scene.clips[static_cast<std::size_t>(at)];
+        const std::vector<CPoint> outline = pixelsOf(each.outline);
+        CRgn region;
+        if (region.CreatePolygonRgn(outline.data(), static_cast<int>(outline.size()), ALTERNATE))
+            ::ExtSelectClipRgn(m_dc.m_hDC, region, RGN_AND);
+        at = each.within < at ? each.within : kNoClip;
+    }
+}
+
+void ScenePainter::draw() {
+    std::size_t path = 0;
+    const auto drawPaths = [&](std::size_t end) {
+        for (; path < std::min(end, m_scene.paths.size()); ++path) {
+            seeThrough(m_scene.paths[path].clip);
+            draw(m_scene.paths[path]);
+        }
+    };
+    for (const SceneText& text : m_scene.texts) {
+        drawPaths(text.pathsBelow);
+        seeThrough(text.clip);
+        draw(text);
+    }
+    drawPaths(m_scene.paths.size());
+    seeThrough(kNoClip);
+}
+
+void ScenePainter::fill(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color) {
+    std::vector<INT> counts;
+    std::size_t first = 0;
+    for (const std::size_t end : endsOf(path)) {
+        counts.push_back(static_cast<INT>(end - first));
+        first = end;
+    }
     CBrush brush(color);
     CPen pen(PS_SOLID, 1, color);
     CBrush* formerBrush = m_dc.SelectObject(&brush);
     CPen* formerPen = m_dc.SelectObject(&pen);
-    m_dc.Polygon(pixels.data(), static_cast<int>(pixels.size()));
+    if (counts.size() == 1)
+        m_dc.Polygon(pixels.data(), counts[0]);
+    else
+        ::PolyPolygon(m_dc.m_hDC, pixels.data(), counts.data(), static_cast<int>(counts.size()));
     m_dc.SelectObject(formerPen);
     m_dc.SelectObject(formerBrush);
 }
 
-void ScenePainter::draw(const ScenePath& path) {
-    const COLORREF color = colorOf(path.style, path.entity);
-    std::vector<CPoint> pixels;
-    pixels.reserve(path.points.size());
-    for (const OdGePoint2d& point : path.points) pixels.push_back(m_place.ToPixel(point));
-    if (path.filled) {
-        fill(pixels, color);
-        return;
-    }
-    int width = penWidth(path.style.lineWeight);
+void ScenePainter::stroke(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color) {
+    int width = m_scene.showsLineWeights ? penWidth(path.style.lineWeight) : 1;
     if (isSelected(path.entity)) ++width;
     LOGBRUSH brush = {BS_SOLID, color, 0};
     CPen pen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_FLAT | PS_JOIN_ROUND, width, &brush);
     CPen* former = m_dc.SelectObject(&pen);
-    DrawDashedPath(m_dc, pixels, path.style.dashes, m_place.scale);
+    auto first = pixels.begin();
+    for (const std::size_t end : endsOf(path)) {
+        const auto last = pixels.begin() + static_cast<std::ptrdiff_t>(end);
+        DrawDashedPath(m_dc, {first, last}, path.style.dashes, m_place.scale);
+        first = last;
+    }
     m_dc.SelectObject(former);
+}
+
+void ScenePainter::draw(const ScenePath& path) {
+    const std::vector<CPoint> pixels = pixelsOf(path.points);
+    if (!path.filled)
+        stroke(path, pixels, colorOf(path.style, path.entity));
+    else
+        fill(path, pixels, path.wipes ? m_colors.paper : colorOf(path.style, path.entity));
 }
 
 void ScenePainter::draw(const SceneText& text) {
     const int height = static_cast<int>(std::lround(text.height * m_place.scale / kCapitalShare));
     if (height < kSmallestText) return;
-    const bool isPlain = text.widthFactor == 1 && text.font.oblique == 0;
+    const bool isPlain = text.widthFactor == 1 && text.font.oblique == 0 && text.fitWidth == 0;
     const CPoint at = m_place.ToPixel(text.position);
     if (isPlain) {
         write(text, height, at);
@@ -89,7 +160,7 @@ void ScenePainter::draw(const SceneText& text) {
     // Width and slant are those of the upright text, which is turned afterwards.
     const int saved = m_dc.SaveDC();
     const double c = std::cos(text.rotation), s = std::sin(text.rotation);
-    const double width = text.widthFactor, slant = std::tan(text.font.oblique);
+    const double width = widthFactorOf(text, height), slant = std::tan(text.font.oblique);
     XFORM transform = {};
     transform.eM11 = static_cast<FLOAT>(c * width);
     transform.eM12 = static_cast<FLOAT>(-s * width);
@@ -105,6 +176,21 @@ void ScenePainter::draw(const SceneText& text) {
     m_dc.RestoreDC(saved);
 }
 
+/// The text's own factor, or that by which it takes up the width it is to fit.
+double ScenePainter::widthFactorOf(const SceneText& text, int height) {
+    if (text.fitWidth <= 0) return text.widthFactor;
+    LOGFONT look = TextFace(text.font);
+    look.lfHeight = -std::min(height, kLargestText);
+    CFont font;
+    font.CreateFontIndirect(&look);
+    CFont* former = m_dc.SelectObject(&font);
+    SIZE size = {};
+    ::GetTextExtentPoint32W(m_dc.m_hDC, text.text, text.text.length(), &size);
+    m_dc.SelectObject(former);
+    if (size.cx <= 0) return text.widthFactor;
+    return std::copysign(text.fitWidth * m_place.scale / size.cx, text.widthFactor);
+}
+
 void ScenePainter::write(const SceneText& text, int height, CPoint at) {
     LOGFONT look = TextFace(text.font);
     look.lfHeight = -std::min(height, kLargestText);
@@ -115,9 +201,7 @@ void ScenePainter::write(const SceneText& text, int height, CPoint at) {
     CFont* former = m_dc.SelectObject(&font);
     constexpr UINT kHorizontal[] = {TA_LEFT, TA_CENTER, TA_RIGHT};
     // The alignment of GDI is by base line; the other rows are found from the height of capitals.
-    double down = 0;
-    if (text.vertical == 2) down = text.height * m_place.scale / 2;
-    if (text.vertical == 3) down = text.height * m_place.scale;
+    const double down = BaseLineDrop(text) * m_place.scale;
     const int x = at.x + static_cast<int>(std::lround(down * std::sin(text.rotation)));
     const int y = at.y + static_cast<int>(std::lround(down * std::cos(text.rotation)));
     m_dc.SetTextAlign(kHorizontal[std::clamp(text.horizontal, 0, 2)] | TA_BASELINE);
@@ -151,7 +235,5 @@ void ScenePlace::Fit(const SceneExtents& extents) {
 
 void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place, const std::set<OdDbObjectId>& selection,
                 const SceneColors& colors) {
-    ScenePainter painter(dc, place, selection, colors);
-    for (const ScenePath& path : scene.paths) painter.draw(path);
-    for (const SceneText& text : scene.texts) painter.draw(text);
+    ScenePainter(dc, scene, place, selection, colors).draw();
 }

@@ -1,5 +1,14 @@
 #include "od_dxf_entities.h"
 
+#include "od_db_faces.h"
+#include "od_db_further_blocks.h"
+#include "od_db_hatch.h"
+#include "od_db_leaders.h"
+#include "od_db_mline.h"
+#include "od_db_raster.h"
+#include "od_db_rays.h"
+#include "od_db_symbols.h"
+#include "od_db_viewport.h"
 #include "od_dxf_markers.h"
 
 namespace {
@@ -8,6 +17,9 @@ template <class T>
 OdDbEntityPtr make() {
     return OdDbEntityPtr(new T);
 }
+
+/// An older name of the same kind, which is kept.
+OdDbEntityPtr makeMLeader() { return OdDbEntityPtr(new OdDbMLeader("MLEADER")); }
 
 struct EntityMaker {
     const char* type;
@@ -29,7 +41,27 @@ constexpr EntityMaker kMakers[] = {{"LINE", make<OdDbLine>},
                                    {"ELLIPSE", make<OdDbEllipse>},
                                    {"SOLID", make<OdDbSolid>},
                                    {"SPLINE", make<OdDbSpline>},
-                                   {"DIMENSION", make<OdDbDimension>}};
+                                   {"DIMENSION", make<OdDbDimension>},
+                                   {"HATCH", make<OdDbHatch>},
+                                   {"ATTDEF", make<OdDbAttributeDefinition>},
+                                   {"LEADER", make<OdDbLeader>},
+                                   {"MULTILEADER", make<OdDbMLeader>},
+                                   {"MLEADER", makeMLeader},
+                                   {"VIEWPORT", make<OdDbViewport>},
+                                   {"3DFACE", make<OdDbFace>},
+                                   {"TRACE", make<OdDbTrace>},
+                                   {"SHAPE", make<OdDbShape>},
+                                   {"MLINE", make<OdDbMline>},
+                                   {"RAY", make<OdDbRay>},
+                                   {"XLINE", make<OdDbXline>},
+                                   {"TOLERANCE", make<OdDbFcf>},
+                                   {"IMAGE", make<OdDbRasterImage>},
+                                   {"WIPEOUT", make<OdDbWipeout>},
+                                   {"MESH", make<OdDbSubDMesh>},
+                                   {"HELIX", make<OdDbHelix>},
+                                   {"ACAD_TABLE", make<OdDbTable>},
+                                   {"ARC_DIMENSION", make<OdDbArcDimension>},
+                                   {"LARGE_RADIAL_DIMENSION", make<OdDbRadialDimensionLarge>}};
 
 bool endsSection(const OdDxfScanner& scanner) {
     return scanner.isRecord("ENDSEC") || scanner.isRecord("SECTION") || scanner.isRecord("EOF") ||
@@ -49,6 +81,9 @@ OdDbObjectPtr odMakeObject(std::string_view type) {
     if (type == "LAYOUT") return new OdDbLayout;
     if (type == "PLOTSETTINGS") return new OdDbPlotSettings;
     if (type == "ACDBPLACEHOLDER") return new OdDbPlaceHolder;
+    if (type == "IMAGEDEF") return new OdDbRasterImageDef;
+    if (type == "MLINESTYLE") return new OdDbMlineStyle;
+    if (type == "SORTENTSTABLE") return new OdDbSortentsTable;
     return new OdDbUnknownObject(std::string(type));
 }
 

@@ -36,9 +36,6 @@ public:
     std::string write(std::wstring_view title);
 
 private:
-    void addViewport(const OdDbEntity& viewport, const OdDbObjectId& model, const PaperPlace& place,
-                     PdfPage& page);
-
     OdDbDatabase& m_drawing;
     PlotFaces m_faces;
     PlotLook m_look;

@@ -5,6 +5,7 @@
 #include <od_db.h>
 
 #include "scene.h"
+#include "standin_api.h"
 
 /// A page and the mapping onto it.
 struct PaperPlace {

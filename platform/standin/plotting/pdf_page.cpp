@@ -58,6 +58,17 @@ void PdfPage::clip(const PdfPoint& low, const PdfPoint& high) {
     put("W n");
 }
 
+void PdfPage::clip(const std::vector<PdfPoint>& outline) {
+    if (outline.size() < 3) {
+        clip({0, 0}, {0, 0});
+        return;
+    }
+    moveTo(outline.front());
+    for (std::size_t i = 1; i < outline.size(); ++i) lineTo(outline[i]);
+    closePath();
+    put("W* n");
+}
+
 void PdfPage::beginLayer(int layer) { put("/OC /L" + std::to_string(layer) + " BDC"); }
 
 void PdfPage::showText(int font, std::string_view codes, const double (&matrix)[6]) {

@@ -54,8 +54,12 @@ public:
     void closePath() { put("h"); }
     void stroke() { put("S"); }
     void fill() { put("f"); }
+    /// Fills what an odd count of the path's parts surrounds.
+    void fillByOddParity() { put("f*"); }
     /// Keeps what follows within a rectangle, until the state is restored.
     void clip(const PdfPoint& low, const PdfPoint& high);
+    /// The same within an outline that is closed by itself; nothing is left within fewer than three points.
+    void clip(const std::vector<PdfPoint>& outline);
 
     /// What follows belongs to layer number `layer` of the file, up to endLayer.
     void beginLayer(int layer);

@@ -11,6 +11,17 @@ constexpr double kThinnestDot = 0.35;  // points
 
 PdfPoint pointOf(const OdGePoint2d& p) { return {p.x, p.y}; }
 
+/// Whether one of a path's lines is a dot.
+bool hasDot(const ScenePath& path) {
+    std::size_t first = 0;
+    for (std::size_t i = 0; i <= path.breaks.size(); ++i) {
+        const std::size_t end = i < path.breaks.size() ? path.breaks[i] : path.points.size();
+        if (end == first + 2 && path.points[first] == path.points[first + 1]) return true;
+        first = end;
+    }
+    return false;
+}
+
 /// Draws the pieces of one scene.
 class Plotter {
 public:
@@ -18,13 +29,16 @@ public:
             const PlotLook& look)
         : m_file(file), m_page(page), m_place(place), m_faces(faces), m_look(look) {}
 
-    void draw(const ScenePath& path);
-    void draw(const SceneText& text);
+    void draw(const Scene& scene);
 
 private:
+    void draw(const ScenePath& path);
+    void draw(const SceneText& text);
+    void seeThrough(const Scene& scene, int clip);
     PdfPoint at(const OdGePoint2d& p) const { return pointOf(m_place.apply(p)); }
     bool beginLayer(const DisplayStyle& style);
     void trace(const ScenePath& path);
+    void traceLine(const ScenePath& path, std::size_t first, std::size_t end);
     void curve(const SceneArc& arc);
     void fill(const ScenePath& path);
     void stroke(const ScenePath& path);
@@ -34,7 +48,42 @@ private:
     const PaperPlace& m_place;
     const PlotFaces& m_faces;
     const PlotLook& m_look;
+    int m_clip = kNoClip;  // through which of the scene's clips the page is seen at present
 };
+
+/// What follows is seen through a clip of the scene, and those around it.
+void Plotter::seeThrough(const Scene& scene, int clip) {
+    if (clip == m_clip) return;
+    if (m_clip != kNoClip) m_page.restoreState();
+    m_clip = clip;
+    if (clip == kNoClip) return;
+    m_page.saveState();
+    for (int at = clip; at >= 0;) {
+        const SceneClip& each = scene.clips[static_cast<std::size_t>(at)];
+        std::vector<PdfPoint> outline;
+        for (const OdGePoint2d& point : each.outline) outline.push_back(this->at(point));
+        m_page.clip(outline);
+        at = each.within < at ? each.within : kNoClip;
+    }
+}
+
+/// Paths and texts in the order in which they lie.
+void Plotter::draw(const Scene& scene) {
+    std::size_t path = 0;
+    const auto drawPaths = [&](std::size_t end) {
+        for (; path < std::min(end, scene.paths.size()); ++path) {
+            seeThrough(scene, scene.paths[path].clip);
+            draw(scene.paths[path]);
+        }
+    };
+    for (const SceneText& text : scene.texts) {
+        drawPaths(text.pathsBelow);
+        seeThrough(scene, text.clip);
+        draw(text);
+    }
+    drawPaths(scene.paths.size());
+    seeThrough(scene, kNoClip);
+}
 
 bool Plotter::beginLayer(const DisplayStyle& style) {
     if (!m_look.layers) return false;
@@ -68,10 +117,21 @@ void Plotter::curve(const SceneArc& arc) {
 }
 
 void Plotter::trace(const ScenePath& path) {
-    m_page.moveTo(at(path.points.front()));
-    auto arc = path.arcs.begin();
-    for (std::size_t i = 0; i + 1 < path.points.size();) {
-        if (arc != path.arcs.end() && arc->first == i && arc->last > i) {
+    std::size_t first = 0;
+    for (const std::size_t end : path.breaks) {
+        if (end <= first || end >= path.points.size()) continue;
+        traceLine(path, first, end);
+        first = end;
+    }
+    traceLine(path, first, path.points.size());
+}
+
+void Plotter::traceLine(const ScenePath& path, std::size_t first, std::size_t end) {
+    m_page.moveTo(at(path.points[first]));
+    auto arc = std::find_if(path.arcs.begin(), path.arcs.end(),
+                            [first](const SceneArc& each) { return each.first >= first; });
+    for (std::size_t i = first; i + 1 < end;) {
+        if (arc != path.arcs.end() && arc->first == i && arc->last > i && arc->last < end) {
             curve(*arc);
             i = arc->last;
             ++arc;
@@ -79,22 +139,24 @@ void Plotter::trace(const ScenePath& path) {
             m_page.lineTo(at(path.points[++i]));
         }
     }
-    const OdGePoint2d &first = path.points.front(), &last = path.points.back();
-    const bool isClosed =
-        path.points.size() > 2 && std::hypot(first.x - last.x, first.y - last.y) * m_place.scale < 1e-3;
+    const OdGePoint2d &from = path.points[first], &to = path.points[end - 1];
+    const bool isClosed = end - first > 2 && std::hypot(from.x - to.x, from.y - to.y) * m_place.scale < 1e-3;
     if (isClosed) m_page.closePath();
 }
 
 void Plotter::fill(const ScenePath& path) {
-    m_page.setFillColor(InkOf(path.style.color));
+    constexpr PdfColor kPaper = {255, 255, 255};
+    m_page.setFillColor(path.wipes ? kPaper : InkOf(path.style.color));
     trace(path);
-    m_page.fill();
+    if (path.breaks.empty())
+        m_page.fill();
+    else
+        m_page.fillByOddParity();
 }
 
 void Plotter::stroke(const ScenePath& path) {
     const double width = path.style.lineWeight / kHundredthsOfMillimetre * kPointsPerMillimetre;
-    const OdGePoint2d &first = path.points.front(), &last = path.points.back();
-    const bool isDot = path.points.size() == 2 && first.x == last.x && first.y == last.y;
+    const bool isDot = hasDot(path);
     m_page.setStrokeColor(InkOf(path.style.color));
     m_page.setLineWidth(isDot ? std::max(width, kThinnestDot) : width);
     m_page.setRoundEnds(isDot);
@@ -120,9 +182,10 @@ void Plotter::draw(const SceneText& text) {
     double length = 0;
     for (const PdfRun& run : runs) length += run.width;
     const double c = std::cos(text.rotation), s = std::sin(text.rotation);
-    const double stretch = em * text.widthFactor, slant = std::tan(text.font.oblique) * em;
-    const double rows[] = {0, 0, 0.5, 1};
-    const double down = text.height * m_place.scale * rows[std::clamp(text.vertical, 0, 3)];
+    double stretch = em * text.widthFactor;
+    if (text.fitWidth > 0 && length > 0)
+        stretch = std::copysign(text.fitWidth * m_place.scale / length, text.widthFactor);
+    const double slant = std::tan(text.font.oblique) * em, down = BaseLineDrop(text) * m_place.scale;
     double along = -length * stretch * std::clamp(text.horizontal, 0, 2) / 2;
     const PdfPoint start = at(text.position);
     const bool isInLayer = beginLayer(text.style);
@@ -173,7 +236,6 @@ void PlotScene(PdfWriter& file, PdfPage& page, const Scene& scene, const PaperPl
     page.saveState();
     page.setRoundCorners();
     if (look.merges) page.useState(PdfWriter::kMergeState);
-    for (const ScenePath& path : scene.paths) plotter.draw(path);
-    for (const SceneText& text : scene.texts) plotter.draw(text);
+    plotter.draw(scene);
     page.restoreState();
 }

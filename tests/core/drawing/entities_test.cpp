@@ -187,19 +187,20 @@ TEST(Entities, ErasedOnesAreNotWritten) {
 }
 
 TEST(Entities, UnknownKindsHaveCommonProperties) {
-    const OdDbDatabasePtr drawing = readDrawing(
-        withEntities("0|HATCH\n5|50\n100|AcDbEntity\n8|FILL\n62|2\n100|AcDbHatch\n62|9\n60|1\n370|5\n"));
-    auto* hatch = firstEntity<OdDbUnknownEntity>(*drawing);
-    ASSERT_TRUE(hatch);
-    EXPECT_STREQ(hatch->dxfName(), "HATCH");
-    EXPECT_EQ(hatch->layer(), L"FILL");
-    EXPECT_EQ(hatch->colorIndex(), 2);
-    EXPECT_EQ(hatch->visibility(), OdDb::kVisible) << "group 60 is the hatch's own here";
-    EXPECT_EQ(hatch->lineWeight(), OdDb::kLnWtByLayer);
-    hatch->setColorIndex(4);
-    hatch->setLineWeight(OdDb::kLnWt100);
+    const OdDbDatabasePtr drawing = readDrawing(withEntities(
+        "0|REGION\n5|50\n100|AcDbEntity\n8|FILL\n62|2\n100|AcDbModelerGeometry\n62|9\n60|1\n370|5\n"));
+    auto* region = firstEntity<OdDbUnknownEntity>(*drawing);
+    ASSERT_TRUE(region);
+    EXPECT_STREQ(region->dxfName(), "REGION");
+    EXPECT_EQ(region->layer(), L"FILL");
+    EXPECT_EQ(region->colorIndex(), 2);
+    EXPECT_EQ(region->visibility(), OdDb::kVisible) << "group 60 is the region's own here";
+    EXPECT_EQ(region->lineWeight(), OdDb::kLnWtByLayer);
+    region->setColorIndex(4);
+    region->setLineWeight(OdDb::kLnWt100);
     const std::string text = drawing->writeDxfBytes();
-    EXPECT_NE(text.find(" 62\r\n4\r\n370\r\n100\r\n100\r\nAcDbHatch\r\n 62\r\n9\r\n"), std::string::npos);
+    EXPECT_NE(text.find(" 62\r\n4\r\n370\r\n100\r\n100\r\nAcDbModelerGeometry\r\n 62\r\n9\r\n"),
+              std::string::npos);
 }
 
 TEST(Curves, GiveTheirGeometryInRadians) {

@@ -1,6 +1,8 @@
 // Whole files of the plotter as programs see them that nobody here wrote: poppler's and qpdf's.
 #include "plotting/drawing_plot.h"
 
+#include <od_db_viewport.h>
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -223,7 +225,7 @@ TEST_F(DrawingPlots, ALayoutShowsItsSheetAndWhatItsViewportsShow) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     addLine(*drawing, L"*Model_Space", 1000, 1000, 1100, 1000, 1);
     addLine(*drawing, L"*Paper_Space", 10, 10, 190, 10, 5);
-    OdDbEntityPtr viewport(new OdDbUnknownEntity("VIEWPORT"));
+    OdDbEntityPtr viewport(new OdDbViewport);
     const auto block = blockOf(*drawing, L"*Paper_Space").open<OdDbBlockTableRecord>(OdDb::kForWrite);
     block->appendOdDbEntity(viewport);
     OdGroupList& groups = viewport->editGroups();

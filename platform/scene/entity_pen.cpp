@@ -1,0 +1,135 @@
+#include "entity_pen.h"
+
+#include <cmath>
+
+#include "geometry/curve_points.h"
+#include "kinds/linetype_marks.h"
+
+const Look& EntityPen::byBlock() const {
+    return m_level.surrounding.byBlock != nullptr ? *m_level.surrounding.byBlock : StyleRules::outermost();
+}
+
+EntityPen EntityPen::within(const SpaceTransform& inner) const {
+    EntityPen pen = *this;
+    pen.m_level.place = m_level.place.after(inner);
+    return pen;
+}
+
+EntityPen EntityPen::inPlaneOf(const OdDbEntity& entity) const {
+    const OdGeVector3d normal = entity.normal();
+    if (normal == OdGeVector3d{0, 0, 1}) return *this;
+    return within(SpaceTransform::OfNormal(normal));
+}
+
+double EntityPen::tolerance() const {
+    const double wanted = m_work.options().tolerance;
+    if (!(wanted > 0)) return 0;
+    const double scale = std::max(Length(m_level.place.x), Length(m_level.place.y));
+    return scale > 0 ? wanted / scale : wanted;
+}
+
+ScenePath EntityPen::newPath() const {
+    ScenePath path;
+    path.style = m_look.style;
+    path.entity = m_level.entity;
+    return path;
+}
+
+std::vector<OdGePoint2d> EntityPen::flattened(const std::vector<OdGePoint3d>& points) const {
+    std::vector<OdGePoint2d> flat;
+    flat.reserve(points.size());
+    for (const OdGePoint3d& point : points) flat.push_back(onPlane(point));
+    return flat;
+}
+
+void EntityPen::addStroke(ScenePath path) const {
+    if (m_look.pattern != nullptr && !m_look.pattern->marks.empty()) DrawLinetypeMarks(*this, path);
+    m_work.add(std::move(path));
+}
+
+void EntityPen::stroke(const std::vector<OdGePoint3d>& points) const { strokes(points, {}); }
+
+void EntityPen::strokes(const std::vector<OdGePoint3d>& points, std::vector<std::size_t> breaks) const {
+    ScenePath path = newPath();
+    path.points = flattened(points);
+    path.breaks = std::move(breaks);
+    addStroke(std::move(path));
+}
+
+void EntityPen::stroke(const std::vector<OdGePoint2d>& points, std::vector<SceneArc> arcs, double z) const {
+    ScenePath path = newPath();
+    path.points.reserve(points.size());
+    for (const OdGePoint2d& point : points) path.points.push_back(onPlane({point.x, point.y, z}));
+    for (SceneArc& arc : arcs) {
+        arc.center = onPlane({arc.center.x, arc.center.y, z});
+        arc.axisX = Flat(m_level.place.turned({arc.axisX.x, arc.axisX.y, 0}));
+        arc.axisY = Flat(m_level.place.turned({arc.axisY.x, arc.axisY.y, 0}));
+    }
+    path.arcs = std::move(arcs);
+    addStroke(std::move(path));
+}
+
+void EntityPen::arc(const OdGePoint3d& center, const SpaceVector& axisX, const SpaceVector& axisY,
+                    double start, double sweep) const {
+    SceneArc arc;
+    arc.center = onPlane(center);
+    arc.axisX = Flat(m_level.place.turned(axisX));
+    arc.axisY = Flat(m_level.place.turned(axisY));
+    arc.start = start;
+    arc.sweep = sweep;
+    ScenePath path = newPath();
+    AppendArc(path.points, arc, m_work.options().tolerance, true);
+    arc.last = path.points.size() - 1;
+    path.arcs.push_back(arc);
+    addStroke(std::move(path));
+}
+
+void EntityPen::fill(const std::vector<OdGePoint3d>& points, std::vector<std::size_t> breaks) const {
+    ScenePath path = newPath();
+    path.points = flattened(points);
+    path.breaks = std::move(breaks);
+    path.filled = true;
+    m_work.add(std::move(path));
+}
+
+void EntityPen::wipe(const std::vector<OdGePoint3d>& points) const {
+    ScenePath path = newPath();
+    path.points = flattened(points);
+    path.filled = path.wipes = true;
+    m_work.add(std::move(path));
+}
+
+void EntityPen::endless(const OdGePoint3d& base, const SpaceVector& direction, bool bothWays) const {
+    m_work.addEndless(newPath(), onPlane(base), Flat(m_level.place.turned(direction)), bothWays);
+}
+
+/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
+void EntityPen::text(const PlacedText& text) const {
+    const OdGePoint2d along = Flat(m_level.place.turned(text.along)) * text.widthFactor;
+    const OdGePoint2d up = Flat(m_level.place.turned(text.up + text.along * std::tan(text.font.oblique)));
+    const double width = Length(along);
+    if (!(width > 0) || !(text.height > 0)) return;
+    OdGePoint2d line = along * (1 / width);
+    double above = Cross(line, up);
+    SceneText item;
+    item.widthFactor = 1;
+    if (above < 0) {
+        line = line * -1;
+        above = -above;
+        item.widthFactor = -1;
+    }
+    if (!(above > 0)) return;
+    item.text = text.text;
+    item.position = onPlane(text.position);
+    item.height = text.height * above;
+    item.rotation = std::atan2(line.y, line.x);
+    item.widthFactor *= width / above;
+    item.horizontal = text.horizontal;
+    item.vertical = text.vertical;
+    item.fitWidth = text.widthFactor != 0 ? text.fitWidth * width / std::abs(text.widthFactor) : 0;
+    item.font = text.font;
+    item.font.oblique = std::atan2(Dot(line, up), above);
+    item.style = m_look.style;
+    item.entity = m_level.entity;
+    m_work.add(std::move(item));
+}

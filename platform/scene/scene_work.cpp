@@ -1,0 +1,89 @@
+#include "scene_work.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "geometry/space_transform.h"
+#include "rules/text_width.h"
+
+namespace {
+
+constexpr std::size_t kPieceCost = 40;
+
+bool isDrawable(const OdGePoint2d& point) {
+    constexpr double kFarthest = 1e100;
+    return std::abs(point.x) < kFarthest && std::abs(point.y) < kFarthest;
+}
+
+}  // namespace
+
+SceneWork::SceneWork(OdDbDatabase& drawing, const SceneOptions& options)
+    : m_drawing(drawing), m_options(options), m_shapes(options.shapeFile) {
+    m_scene.showsLineWeights = options.use == SceneUse::kPaper || drawing.getLWDISPLAY() != 0;
+}
+
+bool SceneWork::spend(std::size_t amount) {
+    m_spent += amount;
+    if (m_spent > m_options.workLimit) m_scene.isCut = true;
+    return !m_scene.isCut;
+}
+
+void SceneWork::add(ScenePath path) {
+    if (path.points.empty() || !std::all_of(path.points.begin(), path.points.end(), isDrawable)) return;
+    if (!spend(kPieceCost + path.points.size())) return;
+    path.clip = m_clip;
+    m_scene.paths.push_back(std::move(path));
+}
+
+void SceneWork::add(SceneText text) {
+    const bool isWhole = isDrawable(text.position) && std::isfinite(text.rotation) &&
+                         std::isfinite(text.widthFactor) && text.height > 0 && isDrawable({text.height, 0});
+    if (text.text.isEmpty() || !isWhole || !spend(kPieceCost + static_cast<std::size_t>(text.text.length())))
+        return;
+    text.clip = m_clip;
+    text.pathsBelow = m_scene.paths.size();
+    m_scene.texts.push_back(std::move(text));
+}
+
+void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePoint2d& direction,
+                           bool bothWays) {
+    const double length = Length(direction);
+    if (!(length > 0) || !isDrawable(base) || !isDrawable(direction)) return;
+    path.points = {base, base};
+    path.isEndless = true;
+    const std::size_t before = m_scene.paths.size();
+    add(std::move(path));
+    if (m_scene.paths.size() > before)
+        m_endless.push_back({before, base, direction * (1 / length), bothWays});
+}
+
+double SceneWork::textWidth(const SceneFont& font, std::wstring_view text) const {
+    return m_options.textWidth ? m_options.textWidth(font, text) : EstimatedTextWidth(font, text);
+}
+
+double SceneWork::markSize(double setting) const {
+    constexpr double kUsualShare = 0.05;  // of the height of the view
+    if (setting > 0) return setting;
+    double height = m_options.viewHeight;
+    if (!(height > 0)) {
+        const double low = m_drawing.getEXTMIN().y, high = m_drawing.getEXTMAX().y;
+        height = high > low ? high - low : 1;
+    }
+    return height * (setting < 0 ? -setting / 100 : kUsualShare);
+}
+
+Scene SceneWork::take() {
+    constexpr double kReach = 20;  // times the size of everything else
+    SceneExtents all = m_scene.extents();
+    for (const Endless& line : m_endless) all.add(line.base);
+    const double size = all.isEmpty() ? 0 : Length(all.high - all.low);
+    const double reach = (size > 0 ? size : 1) * kReach;
+    for (const Endless& line : m_endless) {
+        std::vector<OdGePoint2d>& points = m_scene.paths[line.path].points;
+        if (line.bothWays) points[0] = line.base - line.direction * reach;
+        points[1] = line.base + line.direction * reach;
+    }
+    m_endless.clear();
+    m_spent = 0;
+    return std::exchange(m_scene, {});
+}

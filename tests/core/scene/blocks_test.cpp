@@ -1,0 +1,240 @@
+// Block references: base points, scales, turns, normals, rows and columns, attributes, and whose look counts.
+#include "drawn.h"
+
+namespace {
+
+using namespace scene_test;
+
+const char* const kUnitLine = "0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0";
+
+TEST(SceneBlocks, TheBasePointFallsOnTheInsertionPoint) {
+    const Drawn drawn({.blocks = block("B", "0 LINE|8 0|10 5|20 5|30 0|11 7|21 5|31 0", "10 5|20 5|30 0"),
+                       .entities = "0 INSERT|8 0|2 B|10 100|20 200|30 0"});
+    ASSERT_EQ(drawn.paths().size(), 1u);
+    EXPECT_TRUE(goesThrough(drawn.path(), {{100, 200}, {102, 200}}));
+}
+
+TEST(SceneBlocks, ScaleComesBeforeTurnAndTurnBeforeMove) {
+    const Drawn drawn({.blocks = block("B", "0 LINE|8 0|10 1|20 1|30 0|11 2|21 1|31 0", "10 1|20 0|30 0"),
+                       .entities = "0 INSERT|8 0|2 B|10 10|20 20|30 0|41 2|42 3|43 1|50 90"});
+    // From the base (0,1) and (1,1); scaled (0,3) and (2,3); turned (-3,0) and (-3,2).
+    EXPECT_TRUE(goesThrough(drawn.path(), {{7, 20}, {7, 22}}));
+}
+
+TEST(SceneBlocks, ANegativeScaleMirrors) {
+    const Drawn drawn({.blocks = block("B", "0 ARC|8 0|10 0|20 0|30 0|40 1|50 0|51 90"),
+                       .entities = "0 INSERT|8 0|2 B|10 0|20 0|30 0|41 -1|42 1|43 1"});
+    EXPECT_TRUE(isAt(drawn.path().points.front(), -1, 0));
+    EXPECT_TRUE(isAt(drawn.path().points.back(), 0, 1));
+    EXPECT_LT(distanceTo(drawn.path(), -std::sqrt(0.5), std::sqrt(0.5)), 0.002);
+}
+
+TEST(SceneBlocks, ANormalDownwardsMirrorsAboutTheYAxis) {
+    const Drawn drawn({.blocks = block("B", kUnitLine),
+                       .entities = "0 INSERT|8 0|2 B|10 10|20 3|30 0|50 90|210 0|220 0|230 -1"});
+    // In the plane: at (10,3), turned upwards to (10,4); its x axis points to the left.
+    EXPECT_TRUE(goesThrough(drawn.path(), {{-10, 3}, {-10, 4}}));
+}
+
+TEST(SceneBlocks, RowsAndColumnsRunAlongTheTurnedAxes) {
+    const Drawn drawn(
+        {.blocks = block("B", kUnitLine),
+         .entities = "0 INSERT|8 0|2 B|10 0|20 0|30 0|50 90|70 3|71 2|44 10|45 5|41 2|42 2|43 2"});
+    ASSERT_EQ(drawn.paths().size(), 6u);
+    // Spacings aren't scaled. Columns go up, rows to the left.
+    EXPECT_TRUE(goesThrough(drawn.path(0), {{0, 0}, {0, 2}}));
+    EXPECT_TRUE(goesThrough(drawn.path(2), {{0, 20}, {0, 22}}));
+    EXPECT_TRUE(goesThrough(drawn.path(3), {{-5, 0}, {-5, 2}}));
+    EXPECT_TRUE(goesThrough(drawn.path(5), {{-5, 20}, {-5, 22}}));
+}
+
+TEST(SceneBlocks, ACountOfNoneIsOne) {
+    const Drawn drawn(
+        {.blocks = block("B", kUnitLine), .entities = "0 INSERT|8 0|2 B|10 0|20 0|30 0|70 0|71 -3"});
+    EXPECT_EQ(drawn.paths().size(), 1u);
+}
+
+TEST(SceneBlocks, ByBlockGoesUpThroughAllLevels) {
+    const std::string inner = block("IN", "0 LINE|8 0|62 0|6 BYBLOCK|370 -2|10 0|20 0|30 0|11 1|21 0|31 0");
+    const std::string middle = block("MID", "0 INSERT|8 0|62 0|6 BYBLOCK|370 -2|2 IN|10 0|20 0|30 0");
+    const Drawn drawn({.tables = table("LTYPE", "0 LTYPE|2 DASHED|70 0|3 d|72 65|73 2|40 1.5|49 1|49 -0.5"),
+                       .blocks = inner + middle,
+                       .entities = "0 INSERT|8 0|62 1|6 DASHED|48 2|370 70|2 MID|10 0|20 0|30 0"});
+    ASSERT_EQ(drawn.paths().size(), 1u);
+    EXPECT_EQ(drawn.path().style.color.colorIndex(), 1);
+    EXPECT_EQ(drawn.path().style.dashes, (std::vector<double>{2, -1}));
+    EXPECT_EQ(drawn.path().style.lineWeight, 70);
+}
+
+TEST(SceneBlocks, WhatIsByBlockOutsideOfBlocksIsInTheForegroundColor) {
+    const Drawn drawn("0 LINE|8 0|62 0|370 -2|10 0|20 0|30 0|11 1|21 0|31 0");
+    EXPECT_EQ(drawn.path().style.color.colorIndex(), 7);
+    EXPECT_EQ(drawn.path().style.lineWeight, 25);
+}
+
+const char* const kLayers =
+    "0 LAYER|2 0|70 0|62 7|6 CONTINUOUS|0 LAYER|2 RED|70 0|62 1|6 CONTINUOUS|370 50|0 LAYER|2 GREEN|70 0|62 "
+    "3|6 "
+    "CONTINUOUS|0 LAYER|2 OFF|70 0|62 -5|6 CONTINUOUS|0 LAYER|2 FROZEN|70 1|62 4|6 CONTINUOUS";
+
+TEST(SceneBlocks, LayerZeroStandsForTheLayerOfTheReferenceThroughAllLevels) {
+    const std::string inner = block("IN", kUnitLine);
+    const std::string middle =
+        block("MID", "0 INSERT|8 0|2 IN|10 0|20 0|30 0|0 INSERT|8 GREEN|2 IN|10 0|20 0|30 0");
+    const Drawn drawn({.tables = table("LAYER", kLayers),
+                       .blocks = inner + middle,
+                       .entities = "0 INSERT|8 RED|2 MID|10 0|20 0|30 0"});
+    ASSERT_EQ(drawn.paths().size(), 2u);
+    EXPECT_EQ(drawn.path(0).style.color.colorIndex(), 1);
+    EXPECT_EQ(drawn.path(0).style.lineWeight, 50);
+    EXPECT_EQ(drawn.path(1).style.color.colorIndex(), 3);
+}
+
+std::size_t countOn(const char* layer, const char* inner) {
+    return Drawn({.tables = table("LAYER", kLayers),
+                  .blocks = block("B", std::string("0 LINE|8 ") + inner + "|10 0|20 0|30 0|11 1|21 0|31 0"),
+                  .entities = std::string("0 INSERT|8 ") + layer + "|2 B|10 0|20 0|30 0"})
+        .paths()
+        .size();
+}
+
+TEST(SceneBlocks, AFrozenReferenceIsGoneAndOneThatIsOffKeepsWhatIsOnOtherLayers) {
+    EXPECT_EQ(countOn("RED", "0"), 1u);
+    EXPECT_EQ(countOn("FROZEN", "RED"), 0u);
+    EXPECT_EQ(countOn("OFF", "RED"), 1u);
+    EXPECT_EQ(countOn("OFF", "0"), 0u);
+    EXPECT_EQ(countOn("RED", "OFF"), 0u);
+    EXPECT_EQ(countOn("RED", "FROZEN"), 0u);
+}
+
+TEST(SceneBlocks, AnInvisibleReferenceIsGone) {
+    EXPECT_TRUE(Drawn({.blocks = block("B", kUnitLine), .entities = "0 INSERT|8 0|60 1|2 B|10 0|20 0|30 0"})
+                    .paths()
+                    .empty());
+}
+
+std::string attribute(const char* layer, const char* flags) {
+    return std::string("0 ATTRIB|8 ") + layer + "|10 7|20 8|30 0|40 2|1 VALUE|2 TAG|70 " + flags;
+}
+
+TEST(SceneBlocks, AttributesHavePlacesAndLayersOfTheirOwn) {
+    const auto drawn = [](const std::string& attributes, const char* mode = "1") {
+        return Drawn(Parts{.header = std::string("9 $ATTMODE|70 ") + mode,
+                           .tables = table("LAYER", kLayers),
+                           .blocks = block("B", kUnitLine),
+                           .entities = "0 INSERT|8 RED|66 1|2 B|10 100|20 100|30 0|41 3|42 3|43 3|" +
+                                       attributes + "|0 SEQEND|8 0"});
+    };
+    const Drawn one = drawn(attribute("GREEN", "0"));
+    ASSERT_EQ(one.texts().size(), 1u);
+    EXPECT_TRUE(isAt(one.text().position, 7, 8)) << "not scaled and not moved by the reference";
+    EXPECT_EQ(one.text().height, 2);
+    EXPECT_EQ(one.text().text, L"VALUE");
+    EXPECT_EQ(one.text().style.color.colorIndex(), 3);
+    EXPECT_EQ(drawn(attribute("0", "0")).text().style.color.colorIndex(), 7) << "layer 0 is itself here";
+    EXPECT_TRUE(drawn(attribute("OFF", "0")).texts().empty());
+    EXPECT_TRUE(drawn(attribute("FROZEN", "0")).texts().empty());
+    EXPECT_TRUE(drawn(attribute("RED", "1")).texts().empty());
+    EXPECT_EQ(drawn(attribute("RED", "1"), "2").texts().size(), 1u) << "all are shown";
+    EXPECT_TRUE(drawn(attribute("RED", "0"), "0").texts().empty()) << "none is shown";
+}
+
+TEST(SceneBlocks, DefinitionsOfAttributesShowTheirTagOutsideAndConstantOnesTheirTextInside) {
+    const auto definition = [](const char* flags) {
+        return std::string("0 ATTDEF|8 0|10 1|20 2|30 0|40 3|1 text|3 prompt|2 TAG|70 ") + flags;
+    };
+    const Drawn outside(definition("0"));
+    EXPECT_EQ(outside.text().text, L"TAG");
+    EXPECT_TRUE(isAt(outside.text().position, 1, 2));
+    const auto inside = [&](const char* flags) {
+        return Drawn(
+            {.blocks = block("B", definition(flags)), .entities = "0 INSERT|8 0|2 B|10 10|20 0|30 0"});
+    };
+    EXPECT_TRUE(inside("0").texts().empty());
+    EXPECT_EQ(inside("2").text().text, L"text");
+    EXPECT_TRUE(isAt(inside("2").text().position, 11, 2));
+    EXPECT_TRUE(inside("3").texts().empty()) << "constant, but invisible";
+}
+
+TEST(SceneBlocks, EverythingInAReferenceBelongsToIt) {
+    const Drawn drawn({.blocks = block("B", kUnitLine), .entities = "0 INSERT|5 ABC|8 0|2 B|10 0|20 0|30 0"});
+    EXPECT_EQ(drawn.path().entity.handle(), 0xABCu);
+}
+
+TEST(SceneBlocks, ABlockThatHoldsItselfIsDrawnOnce) {
+    const Drawn drawn({.blocks = block("B", std::string(kUnitLine) + "|0 INSERT|8 0|2 B|10 1|20 0|30 0"),
+                       .entities = "0 INSERT|8 0|2 B|10 0|20 0|30 0"});
+    EXPECT_EQ(drawn.paths().size(), 1u);
+}
+
+TEST(SceneBlocks, AMissingBlockIsNothing) {
+    EXPECT_TRUE(Drawn("0 INSERT|8 0|2 NONE|10 0|20 0|30 0").paths().empty());
+}
+
+TEST(SceneBlocks, EndlessWorkEndsAndIsTold) {
+    const auto built = [](const char* counts) {
+        const OdDbDatabasePtr drawing =
+            drawingOf({.blocks = block("B", kUnitLine),
+                       .entities = std::string("0 INSERT|8 0|2 B|10 0|20 0|30 0|44 1|45 1|") + counts});
+        SceneOptions options;
+        options.workLimit /= 20;
+        return BuildScene(*drawing, drawing->modelSpaceId(), options);
+    };
+    EXPECT_TRUE(built("70 32767|71 32767").isCut);
+    EXPECT_FALSE(built("70 9|71 9").isCut);
+}
+
+TEST(SceneBlocks, TheWorkLimitIsTheCallers) {
+    const OdDbDatabasePtr drawing =
+        drawingOf({.blocks = block("B", kUnitLine),
+                   .entities = "0 INSERT|8 0|2 B|10 0|20 0|30 0|70 100|71 100|44 1|45 1"});
+    SceneOptions options;
+    options.workLimit = 10000;
+    const Scene scene = BuildScene(*drawing, drawing->modelSpaceId(), options);
+    EXPECT_TRUE(scene.isCut);
+    EXPECT_GT(scene.paths.size(), 10u);
+    EXPECT_LT(scene.paths.size(), 100u) << "each costs 120 and more";
+}
+
+TEST(SceneBlocks, ATableIsItsBlock) {
+    const Drawn drawn({.blocks = block("*T1", kUnitLine),
+                       .entities = "0 ACAD_TABLE|8 0|2 *T1|10 5|20 6|30 0|11 0|21 1|31 0"});
+    EXPECT_TRUE(goesThrough(drawn.path(), {{5, 6}, {5, 7}}));
+    EXPECT_EQ(Drawn("0 ACAD_TABLE|8 0|2 *T1|10 5|20 6|30 0").scene.notDrawn.at("ACAD_TABLE"), 1);
+}
+
+TEST(SceneBlocks, WhatHasNoLookIsCountedByKind) {
+    const Drawn drawn("0 3DSOLID|8 0|0 3DSOLID|8 0|0 OLE2FRAME|8 0|0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0");
+    EXPECT_EQ(drawn.scene.notDrawn, (std::map<std::string, int>{{"3DSOLID", 2}, {"OLE2FRAME", 1}}));
+}
+
+TEST(SceneBlocks, TheOrderOfATableIsTheDrawingOrder) {
+    const Parts parts = {.blocks =
+                             "0 BLOCK|5 A0|8 0|2 B|70 0|10 0|20 0|30 0|3 B|0 LINE|5 A1|8 0|62 1|10 0|20 0|30 "
+                             "0|11 1|21 0|31 0|0 "
+                             "LINE|5 A2|8 0|62 2|10 0|20 0|30 0|11 1|21 0|31 0|0 ENDBLK|5 A3|8 0|",
+                         .entities = "0 INSERT|8 0|2 B|10 0|20 0|30 0"};
+    OdDbDatabasePtr drawing = drawingOf(parts);
+    OdDbBlockTablePtr blocks;
+    drawing->getBlockTable(blocks);
+    const auto record = blocks->getAt(L"B").open<OdDbBlockTableRecord>(OdDb::kForWrite);
+    EXPECT_EQ(BuildScene(*drawing, record->objectId()).paths.front().style.color.colorIndex(), 1);
+    Parts sorted = parts;
+    const std::string handle = [&] {
+        char text[32];
+        std::snprintf(text, sizeof text, "%llX", static_cast<unsigned long long>(record->handle()));
+        return std::string(text);
+    }();
+    sorted.tables =
+        "0 TABLE|2 BLOCK_RECORD|5 1|100 AcDbSymbolTable|70 1|0 BLOCK_RECORD|5 " + handle +
+        "|102 {ACAD_XDICTIONARY|360 B0|102 }|100 AcDbSymbolTableRecord|100 AcDbBlockTableRecord|2 B|0 "
+        "ENDTAB";
+    sorted.objects = "0 DICTIONARY|5 B0|330 " + handle +
+                     "|100 AcDbDictionary|3 ACAD_SORTENTS|360 B1|0 SORTENTSTABLE|5 B1|330 " +
+                     "B0|100 AcDbSortentsTable|330 " + handle + "|331 A1|5 A2|331 A2|5 A1";
+    drawing = drawingOf(sorted);
+    drawing->getBlockTable(blocks);
+    EXPECT_EQ(BuildScene(*drawing, blocks->getAt(L"B")).paths.front().style.color.colorIndex(), 2);
+}
+
+}  // namespace
