@@ -4,6 +4,7 @@
 
 namespace {
 
+constexpr int kMiddle = 0xE900;  // what bars and palettes leave of a frame
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 
 std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder,
@@ -26,7 +27,12 @@ namespace journey {
 Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder, const std::wstring& switches)
     : Program(commandOf(drawing, folder, switches), isFrame) {}
 
-HWND Drafter::view() const { return ::GetDlgItem(frame(), 0xE900); }
+HWND Drafter::drawing() const {
+    const HWND all = ::GetDlgItem(frame(), kMiddle);
+    return reinterpret_cast<HWND>(::SendMessageW(all, WM_MDIGETACTIVE, 0, 0));
+}
+
+HWND Drafter::view() const { return ::GetDlgItem(drawing(), kMiddle); }
 
 void Drafter::openDrawing(const std::wstring& path) {
     activate(frame());

@@ -13,6 +13,8 @@ public:
     explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {},
                      const std::wstring& switches = {});
 
+    /// The window of the drawing in front, and the view in it; null without one.
+    HWND drawing() const;
     HWND view() const;
     /// Opens another drawing by File > Open.
     void openDrawing(const std::wstring& path);
