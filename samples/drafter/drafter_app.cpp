@@ -69,8 +69,17 @@ protected:
 private:
     CMainFrame& frame() { return *static_cast<CMainFrame*>(m_pMainWnd); }
 
+    /// The application's own handler, which is asked before the main window's, would look for a template of
+    /// documents.
+    afx_msg void OnRecentFile(UINT id) { frame().OpenRecent(static_cast<int>(id - ID_FILE_MRU_FILE1)); }
+    DECLARE_MESSAGE_MAP()
+
     std::unique_ptr<CStandinHost> m_host;
 };
+
+BEGIN_MESSAGE_MAP(CDrafterApp, CWinAppEx)
+    ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE9, &CDrafterApp::OnRecentFile)
+END_MESSAGE_MAP()
 
 CDrafterApp theApp;
 

@@ -57,8 +57,11 @@ CDrawingWindow::CDrawingWindow(CDrawingDesk& desk, std::unique_ptr<CDraftDocumen
     : m_desk(desk), m_document(std::move(document)), m_number(number) {}
 
 bool CDrawingWindow::Open(CMDIFrameWnd& frame) {
-    if (!Create(nullptr, Title(), WS_CHILD | WS_OVERLAPPEDWINDOW, rectDefault, &frame)) return false;
+    // Without a system menu the main window's menu gets no second row of buttons: the tab has them.
+    if (!Create(nullptr, Title(), WS_CHILD | WS_CAPTION | WS_THICKFRAME, rectDefault, &frame)) return false;
     ActivateFrame();
+    // Only now the window is as large as it stays.
+    m_view.ZoomExtents();
     return true;
 }
 

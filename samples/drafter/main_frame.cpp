@@ -39,7 +39,6 @@ BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWndEx)
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_CLOSE_ALL, &CMainFrame::OnCloseAll)
     ON_COMMAND(ID_FILE_SAVE_ALL, &CMainFrame::OnSaveAll)
-    ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE9, &CMainFrame::OnRecentFile)
     ON_WM_DROPFILES()
     ON_COMMAND(ID_WINDOW_NEXT_DRAWING, &CMainFrame::OnNextDrawing)
     ON_COMMAND(ID_WINDOW_PREVIOUS_DRAWING, &CMainFrame::OnPreviousDrawing)
@@ -87,6 +86,8 @@ CMainFrame::~CMainFrame() {
 
 int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (CMDIFrameWndEx::OnCreate(create) == -1) return -1;
+    // The drawings fill what lies between the bars to its edges.
+    CWnd::FromHandle(m_hWndMDIClient)->ModifyStyleEx(WS_EX_CLIENTEDGE, 0, SWP_FRAMECHANGED);
     if (!m_status.Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS, CRect(0, 0, 0, 0), this,
                          AFX_IDW_STATUS_BAR))
         return -1;

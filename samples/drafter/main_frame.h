@@ -31,6 +31,9 @@ public:
     /// isn't saved under its own name.
     bool OpenDrawing(const CString& path, bool isReadOnly = false);
 
+    /// The same for an entry of the recent drawings, counted from 0; one that is gone leaves them.
+    void OpenRecent(int index);
+
     BOOL PreTranslateMessage(MSG* message) override;
     void OnUpdateFrameTitle(BOOL addToTitle) override;
     HMENU GetWindowMenuPopup(HMENU bar) override;
@@ -59,7 +62,6 @@ protected:
     afx_msg void OnFileOpen();
     afx_msg void OnCloseAll();
     afx_msg void OnSaveAll();
-    afx_msg void OnRecentFile(UINT id);
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnNextDrawing();
     afx_msg void OnPreviousDrawing();

@@ -135,8 +135,8 @@ void CMainFrame::OnSaveAll() {
     if (front != nullptr) front->MDIActivate();
 }
 
-void CMainFrame::OnRecentFile(UINT id) {
-    const CString path = RecentDrawing(static_cast<int>(id - ID_FILE_MRU_FILE1));
+void CMainFrame::OpenRecent(int index) {
+    const CString path = RecentDrawing(index);
     if (path.IsEmpty()) return;
     if (::GetFileAttributesW(path) == INVALID_FILE_ATTRIBUTES) {
         tell(IDS_RECENT_GONE, path);
