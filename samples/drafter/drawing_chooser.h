@@ -15,7 +15,8 @@ struct DrawingsToOpen {
     std::vector<CString> paths;  ///< none if the user cancelled
     bool isReadOnly = false;
 };
-/// `folder` is shown the first time; later the dialog begins where it was left. Several can be chosen at once.
+/// `folder` is shown the first time; later the dialog begins where it was left. Several can be chosen at
+/// once.
 DrawingsToOpen AskDrawingsToOpen(const CString& folder);
 
 struct DrawingToSave {

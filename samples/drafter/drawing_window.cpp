@@ -30,6 +30,7 @@ BEGIN_MESSAGE_MAP(CDrawingWindow, CMDIChildWndEx)
     ON_WM_DESTROY()
     ON_WM_SETFOCUS()
     ON_WM_MDIACTIVATE()
+    ON_WM_SYSCOMMAND()
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CDrawingWindow::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CDrawingWindow::OnPointer)
     ON_COMMAND(ID_FILE_CLOSE, &CDrawingWindow::OnFileClose)
@@ -99,6 +100,16 @@ void CDrawingWindow::OnMDIActivate(BOOL activate, CWnd* coming, CWnd* going) {
         m_desk.DrawingActivated(this);
     else if (coming == nullptr)
         m_desk.DrawingActivated(nullptr);
+}
+
+/// The system's own keys, Ctrl+F6, go in the order of the tabs as well.
+void CDrawingWindow::OnSysCommand(UINT command, LPARAM lParam) {
+    const UINT asked = command & 0xFFF0;
+    if (asked != SC_NEXTWINDOW && asked != SC_PREVWINDOW)
+        return CMDIChildWndEx::OnSysCommand(command, lParam);
+    const bool isBack = ::GetKeyState(VK_SHIFT) < 0;
+    m_desk.DialogOwner().SendMessage(WM_COMMAND,
+                                     isBack ? ID_WINDOW_PREVIOUS_DRAWING : ID_WINDOW_NEXT_DRAWING);
 }
 
 LRESULT CDrawingWindow::OnSelection(WPARAM, LPARAM) {

@@ -68,6 +68,7 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnMDIActivate(BOOL activate, CWnd* coming, CWnd* going);
+    afx_msg void OnSysCommand(UINT command, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
     afx_msg void OnFileClose();

@@ -171,7 +171,8 @@ void CLayersPanel::ShowNothing() {
 }
 
 void CLayersPanel::enableLists(bool enable) {
-    for (const int id : {IDC_LAYER_SEARCH, IDC_LAYER_LIST, IDC_NEW_LAYER}) GetDlgItem(id)->EnableWindow(enable);
+    for (const int id : {IDC_LAYER_SEARCH, IDC_LAYER_LIST, IDC_NEW_LAYER})
+        GetDlgItem(id)->EnableWindow(enable);
 }
 
 OdString CLayersPanel::filter() {

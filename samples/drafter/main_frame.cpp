@@ -225,6 +225,7 @@ void CMainFrame::OnOptions() {
     COptionsDialog dialog(
         m_options, [this](const DrafterOptions& options) { applyOptions(options); }, m_extensions.get(),
         this);
+    if (m_active == nullptr) dialog.WithoutDrawing();
     if (dialog.DoModal() == IDOK) applyOptions(dialog.options());
     // An extension's page may have edited the drawing as well, and what was applied stays when it is
     // cancelled.

@@ -17,7 +17,10 @@
 
 class CStandinHost;
 
-class CMainFrame : public CMDIFrameWndEx, private CDrawingDesk, private CBlockTarget, private CDrafterServices {
+class CMainFrame : public CMDIFrameWndEx,
+                   private CDrawingDesk,
+                   private CBlockTarget,
+                   private CDrafterServices {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:

@@ -69,9 +69,8 @@ protected:
     std::wstring title() const { return textOf(drafter->frame()); }
     /// Whether the drawing of this title comes to the front, in the frame's title too.
     bool isInFront(const std::wstring& name) {
-        return waitUntil([&] {
-            return textOf(drafter->drawing()) == name && title() == name + L" - Drafter";
-        });
+        return waitUntil(
+            [&] { return textOf(drafter->drawing()) == name && title() == name + L" - Drafter"; });
     }
     bool become(const Titles& names) {
         return waitUntil([&] { return drafter->drawings() == names; });
@@ -98,9 +97,7 @@ protected:
     bool isShown(int control, const std::wstring& text) {
         return waitUntil([&] { return panelSays(control) == text; });
     }
-    std::wstring pickedLayer() const {
-        return currentEntry(item(item(drafter->frame(), kBar), IDC_LAYER));
-    }
+    std::wstring pickedLayer() const { return currentEntry(item(item(drafter->frame(), kBar), IDC_LAYER)); }
     /// The question that comes up, which names the drawing.
     HWND questionAbout(const std::wstring& name) {
         HWND question = drafter->waitForDialogOf(drafter->frame());
@@ -122,6 +119,10 @@ TEST_F(Documents, ThreeOfTheCommandLineAreOpenAndKeysAndMouseGoFromOneToTheOther
     drafter->key(VK_TAB, true, false, true);
     EXPECT_TRUE(isInFront(L"one.dxf"));
     drafter->key(VK_TAB, true, false, true);
+    EXPECT_TRUE(isInFront(L"three.dxf"));
+    drafter->key(VK_F6, true);
+    EXPECT_TRUE(isInFront(L"one.dxf")) << "the system's own key";
+    drafter->key(VK_F6, true, false, true);
     EXPECT_TRUE(isInFront(L"three.dxf"));
     EXPECT_NE(drafter->chooseTab(L"two.dxf").x, -1);
     EXPECT_TRUE(isInFront(L"two.dxf"));
@@ -324,7 +325,8 @@ TEST_F(Documents, WithoutADrawingWhatNeedsOneIsDisabledAndANewOneBringsItBack) {
     ASSERT_TRUE(become({}));
     EXPECT_EQ(title(), L"Drafter");
     EXPECT_EQ(panelSays(IDC_PANEL_TITLE), L"No drawing is open.");
-    EXPECT_EQ(textOf(item(drafter->frame(), kStatusBar)), L"No drawing is open.");
+    EXPECT_EQ(textOf(item(drafter->frame(), kStatusBar)),
+              L"No drawing is open. Ctrl+O opens one, Ctrl+N starts a new one.");
     for (const int id : {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE, IDC_LAYER}) {
         EXPECT_FALSE(::IsWindowEnabled(item(properties(), id))) << id;
         EXPECT_FALSE(::IsWindowEnabled(item(item(drafter->frame(), kBar), id))) << id;
@@ -360,9 +362,7 @@ TEST_F(Documents, WithoutADrawingWhatNeedsOneIsDisabledAndANewOneBringsItBack) {
     EXPECT_TRUE(isInFront(L"Untitled"));
     drafter->key('N', true);
     EXPECT_TRUE(isInFront(L"Untitled 2"));
-    EXPECT_TRUE(waitUntil([&] {
-        return ::IsWindowEnabled(item(blocks, IDC_BLOCK_LIST));
-    }));
+    EXPECT_TRUE(waitUntil([&] { return ::IsWindowEnabled(item(blocks, IDC_BLOCK_LIST)); }));
     drafter->key('2', true);
     EXPECT_TRUE(isShown(IDC_PANEL_TITLE, L"Current settings"));
     EXPECT_TRUE(::IsWindowEnabled(item(properties(), IDC_TRUE_COLOR)));
@@ -378,10 +378,15 @@ TEST_F(Documents, ADialogThatWaitsForAPickComesBackWhenItsDrawingIsToBeLeftOrClo
     const auto isBack = [&] {
         return waitUntil([&] { return ::IsWindowVisible(dialog) && !::IsWindowEnabled(drafter->frame()); });
     };
-    const std::function<void()> ways[] = {
-        [&] { drafter->key(VK_TAB, true); }, [&] { drafter->key(VK_F4, true); },
-        [&] { drafter->click(drafter->tabs(), {20, 10}); },
-        [&] { drafter->middleClick(drafter->tabs(), {20, 10}); }};
+    const std::function<void()> ways[] = {[&] { drafter->key(VK_TAB, true); },
+                                          [&] { drafter->key(VK_F4, true); },
+                                          [&] { drafter->key(VK_F6, true); },
+                                          [&] {
+                                              drafter->click(drafter->tabs(), {20, 10});
+                                          },
+                                          [&] {
+                                              drafter->middleClick(drafter->tabs(), {20, 10});
+                                          }};
     for (const auto& leave : ways) {
         drafter->click(item(dialog, IDC_PICK_DISTANCE));
         ASSERT_TRUE(isAway());
@@ -471,8 +476,8 @@ TEST_F(Documents, AFileThatAnotherProgramWroteIsToldForItsOwnDrawingOnly) {
         ASSERT_TRUE(go(name));
         scale(L"2");
     }
-    std::filesystem::last_write_time(
-        m_paths[0], std::filesystem::last_write_time(m_paths[0]) + std::chrono::hours(1));
+    std::filesystem::last_write_time(m_paths[0],
+                                     std::filesystem::last_write_time(m_paths[0]) + std::chrono::hours(1));
     drafter->key('S', true);
     EXPECT_TRUE(isInFront(L"two.dxf")) << "this one is as it was";
     ASSERT_TRUE(go(L"one.dxf*"));

@@ -20,8 +20,9 @@ public:
     HWND view() const;
     /// The strip of tabs.
     HWND tabs() const;
-    /// A point of the strip on the tab of the drawing in front: near its left end, where it stays when another
-    /// one comes to the front. Goes through the tabs by clicks until the one with `title` is in front.
+    /// A point of the strip on the tab of the drawing in front: near its left end, where it stays when
+    /// another one comes to the front. Goes through the tabs by clicks until the one with `title` is in
+    /// front.
     POINT chooseTab(const std::wstring& title);
     /// The titles of the windows of all drawings, those first that were opened first.
     std::vector<std::wstring> drawings() const;

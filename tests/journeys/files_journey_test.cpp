@@ -248,10 +248,9 @@ TEST_F(Files, EachOfTenDroppedFilesIsOpened) {
     drop(ten);
     ASSERT_TRUE(titleBegins(L"dropped 9.dxf"));
     EXPECT_EQ(drafter->drawings(),
-              (std::vector<std::wstring>{L"dropped 0.dxf", L"dropped 1.dxf", L"dropped 2.dxf",
-                                         L"dropped 3.dxf", L"dropped 4.dxf", L"dropped 5.dxf",
-                                         L"dropped 6.dxf", L"dropped 7.dxf", L"dropped 8.dxf",
-                                         L"dropped 9.dxf"}));
+              (std::vector<std::wstring>{
+                  L"dropped 0.dxf", L"dropped 1.dxf", L"dropped 2.dxf", L"dropped 3.dxf", L"dropped 4.dxf",
+                  L"dropped 5.dxf", L"dropped 6.dxf", L"dropped 7.dxf", L"dropped 8.dxf", L"dropped 9.dxf"}));
     picture("journey-ten-drawings");
 }
 
