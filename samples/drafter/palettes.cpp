@@ -222,8 +222,12 @@ void CPalettes::Save(CWinAppEx& keeper) const {
 }
 
 void CPalettes::Enable(bool enable) {
-    for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet})
-        if (set->m_hWnd != nullptr) set->EnableWindow(enable);
+    for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet}) {
+        if (set->m_hWnd == nullptr) continue;
+        set->EnableWindow(enable);
+        // One that floats can't be dragged or closed by its frame either.
+        if (CPaneFrameWnd* const floating = set->GetParentMiniFrame()) floating->EnableWindow(enable);
+    }
 }
 
 void CPalettes::RaiseFloating() {

@@ -54,12 +54,16 @@ void CPropertiesPanel::showTitle() {
 void CPropertiesPanel::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) {
     if (m_hWnd == nullptr) return;
     const bool wasBusy = std::exchange(m_isBusy, true);
+    // What can't be written yet stays while other fields are.
+    const bool isSame = m_drawing == &drawing && m_objects == objects;
+    const std::vector<Entry> bad = isSame ? BadEntries() : std::vector<Entry>();
     m_drawing = &drawing;
     m_objects = std::move(objects);
     showTitle();
     enableFields(true);
     RefillLists(drawing);
     ShowValues(drawing, m_objects);
+    TypeAgain(bad);
     m_isBusy = wasBusy;
 }
 
