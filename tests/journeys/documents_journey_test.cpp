@@ -369,6 +369,56 @@ TEST_F(Documents, WithoutADrawingWhatNeedsOneIsDisabledAndANewOneBringsItBack) {
     EXPECT_EQ(panelSays(IDC_LINETYPE_SCALE), L"1.0000");
 }
 
+TEST_F(Documents, TheExtensionsPaletteIsOfUseOnlyWithADrawing) {
+    constexpr int kProject = 1001, kProjectLabel = 1310;  // of the extension
+    drafter->key('V', false, true);
+    drafter->key('A');
+    drafter->key('T');
+    HWND panel = nullptr;
+    ASSERT_TRUE(waitUntil([&] { return (panel = drafter->panelWith(kProjectLabel)) != nullptr; }));
+    const HWND project = item(panel, kProject);
+    drafter->click(project);
+    EXPECT_TRUE(waitUntil([&] { return focusOf(panel) == project; }));
+    drafter->activate(drafter->frame());
+    for (int i = 0; i < 3; ++i) drafter->key(VK_F4, true);
+    ASSERT_TRUE(become({}));
+    drafter->click(project);
+    EXPECT_NE(focusOf(drafter->frame()), project);
+    drafter->activate(drafter->frame());
+    drafter->key('N', true);
+    ASSERT_TRUE(isInFront(L"Untitled"));
+    drafter->click(project);
+    EXPECT_TRUE(waitUntil([&] { return focusOf(panel) == project; }));
+}
+
+TEST_F(Documents, OptionsHoldForEveryOpenDrawing) {
+    drafter->key('O', true, false, true);
+    HWND dialog = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(dialog, nullptr);
+    drafter->key(VK_NEXT, true);
+    HWND page = nullptr;
+    ASSERT_TRUE(waitUntil([&] {
+        page = ::FindWindowExW(dialog, page, L"#32770", nullptr);
+        return page != nullptr && ::IsWindowVisible(page) && item(page, IDC_CROSSHAIR) != nullptr;
+    }));
+    drafter->replaceText(item(page, IDC_CROSSHAIR), L"100");
+    drafter->key(VK_RETURN);
+    ASSERT_TRUE(drafter->waitUntilGone(dialog));
+    for (const wchar_t* name : {L"one.dxf", L"two.dxf"}) {
+        ASSERT_TRUE(go(name));
+        // Far from the pointer: the arm of the crosshair, and the paper beside it.
+        drafter->hover(drafter->view(), {60, 100});
+        const auto pixel = [&](POINT at) {
+            ::ClientToScreen(drafter->view(), &at);
+            const HDC screen = ::GetDC(nullptr);
+            const COLORREF color = ::GetPixel(screen, at.x, at.y);
+            ::ReleaseDC(nullptr, screen);
+            return color;
+        };
+        EXPECT_TRUE(waitUntil([&] { return pixel({400, 100}) != pixel({400, 112}); })) << name;
+    }
+}
+
 TEST_F(Documents, ADialogThatWaitsForAPickComesBackWhenItsDrawingIsToBeLeftOrClosed) {
     HWND dialog = openByKey('M');
     ASSERT_NE(dialog, nullptr);
