@@ -45,6 +45,8 @@ void CMainFrame::DrawingActivated(CDrawingWindow* window) {
     m_active = window;
     m_host.SetCurrentDocument(window != nullptr ? &window->document() : nullptr);
     m_host.SetPlotView(window != nullptr ? &window->plotView() : nullptr);
+    // That of the drawing before.
+    m_status.SetText(L"", kPointerPane, 0);
     if (window == nullptr) return showNothing();
     if (window->RefreshIfOutdated()) return;
     DrawingChanged(*window);
@@ -54,7 +56,6 @@ void CMainFrame::DrawingActivated(CDrawingWindow* window) {
 void CMainFrame::showNothing() {
     m_pickers.ShowNothing();
     m_palettes.ShowNothing();
-    m_status.SetText(L"", kPointerPane, 0);
     m_status.SetText(L"", kSelectionPane, 0);
     SayIdle();
     OnUpdateFrameTitle(FALSE);
@@ -141,7 +142,6 @@ LRESULT CMainFrame::OnTabTip(WPARAM, LPARAM lParam) {
 }
 
 void CMainFrame::goBy(int step) {
-    if (GiveUpCommand()) return;
     const int count = GetMDITabs().GetTabsNum();
     if (count > 1) GetMDITabs().SetActiveTab((GetMDITabs().GetActiveTab() + step + count) % count);
 }

@@ -14,6 +14,7 @@ using namespace journey;
 namespace {
 
 constexpr int kStatusBar = 0xE801, kBar = 0xE805;
+constexpr int kPointerPane = 1, kSelectionPane = 2;
 using Titles = std::vector<std::wstring>;
 
 /// The words of the tool tip that shows.
@@ -49,6 +50,11 @@ protected:
         layer->setName((L"WALLS " + name).c_str());
         layers->add(OdDbSymbolTableRecordPtr(layer.get()));
         drawing->setClayer(layer->objectId());
+        OdDbLinetypeTablePtr linetypes;
+        drawing->getLinetypeTable(linetypes, OdDb::kForWrite);
+        const OdSmartPtr<OdDbLinetypeTableRecord> linetype(new OdDbLinetypeTableRecord);
+        linetype->setName((L"FENCE " + name).c_str());
+        linetypes->add(OdDbSymbolTableRecordPtr(linetype.get()));
         OdDbBlockTablePtr blocks;
         drawing->getBlockTable(blocks, OdDb::kForWrite);
         const OdDbBlockTableRecordPtr block(new OdDbBlockTableRecord);
@@ -97,6 +103,23 @@ protected:
     bool isShown(int control, const std::wstring& text) {
         return waitUntil([&] { return panelSays(control) == text; });
     }
+    /// What a pane of the status line says.
+    std::wstring pane(int index) const {
+        constexpr SIZE_T kBytes = 200 * sizeof(wchar_t);
+        const HWND status = item(drafter->frame(), kStatusBar);
+        DWORD id = 0;
+        ::GetWindowThreadProcessId(status, &id);
+        const HANDLE process = ::OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ, FALSE, id);
+        void* const there =
+            ::VirtualAllocEx(process, nullptr, kBytes, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+        ::SendMessageW(status, SB_GETTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(there));
+        wchar_t text[kBytes / sizeof(wchar_t)] = {};
+        ::ReadProcessMemory(process, there, text, kBytes, nullptr);
+        ::VirtualFreeEx(process, there, 0, MEM_RELEASE);
+        ::CloseHandle(process);
+        return text;
+    }
+    HWND barPicker(int id) const { return item(item(drafter->frame(), kBar), id); }
     std::wstring pickedLayer() const { return currentEntry(item(item(drafter->frame(), kBar), IDC_LAYER)); }
     /// The question that comes up, which names the drawing.
     HWND questionAbout(const std::wstring& name) {
@@ -180,12 +203,21 @@ TEST_F(Documents, SelectionPalettesAndPickersFollowTheDrawingInFront) {
     ASSERT_NE(properties(), nullptr);
     ASSERT_TRUE(go(L"one.dxf"));
     EXPECT_EQ(pickedLayer(), L"WALLS one");
+    EXPECT_GE(entryOf(barPicker(IDC_LINETYPE), L"FENCE one"), 0);
     drafter->click(drafter->view(), {4, 4});
     drafter->key('A', true);
     EXPECT_TRUE(isShown(IDC_PANEL_TITLE, L"Line"));
+    EXPECT_NE(pane(kPointerPane), L"");
+    EXPECT_TRUE(waitUntil([&] { return pane(kSelectionPane) == L"1 selected"; }));
     ASSERT_TRUE(go(L"two.dxf"));
+    EXPECT_EQ(pane(kPointerPane), L"") << "the place was one in the other drawing";
+    EXPECT_EQ(pane(kSelectionPane), L"Nothing selected");
     EXPECT_TRUE(isShown(IDC_PANEL_TITLE, L"Current settings"));
     EXPECT_EQ(pickedLayer(), L"WALLS two");
+    for (const HWND list : {barPicker(IDC_LINETYPE), item(properties(), IDC_LINETYPE)}) {
+        EXPECT_GE(entryOf(list, L"FENCE two"), 0);
+        EXPECT_LT(entryOf(list, L"FENCE one"), 0);
+    }
     ASSERT_NE(drafter->openLayers(), nullptr);
     const HWND layers = drafter->panelWith(kLayersPanel);
     const auto says = [&](const std::wstring& name) {
@@ -336,12 +368,17 @@ TEST_F(Documents, WithoutADrawingWhatNeedsOneIsDisabledAndANewOneBringsItBack) {
         EXPECT_EQ(panelSays(id), L"") << id;
     }
     picture("journey-no-drawing");
-    // Keys that need a drawing do nothing.
+    // Keys that need a drawing do nothing; one would bring the picker bar back.
+    drafter->key('V', false, true);
+    drafter->key('P');
+    const HWND bar = item(drafter->frame(), kBar);
+    EXPECT_TRUE(waitUntil([&] { return !::IsWindowVisible(bar); }));
     for (const WORD letter : {'1', 'S', 'E', 'A', 'W', 'Z', 'Y', 'D', 'T', 'M', 'F'})
         drafter->key(letter, true);
     drafter->key(VK_F4, true);
     drafter->key(VK_TAB, true);
     EXPECT_TRUE(::IsWindowEnabled(drafter->frame())) << "no dialog is up";
+    EXPECT_FALSE(::IsWindowVisible(bar));
     // The palettes open, and are empty.
     ASSERT_NE(drafter->openLayers(), nullptr);
     const HWND layers = drafter->panelWith(kLayersPanel);
