@@ -50,7 +50,22 @@ void CBlocksPanel::Show(OdDbDatabase& drawing) {
     if (m_hWnd == nullptr) return;
     m_drawing = &drawing;
     m_isStale = true;
+    m_list.EnableWindow();
     if (IsWindowVisible()) refresh();
+}
+
+void CBlocksPanel::ShowNothing() {
+    if (m_hWnd == nullptr) return;
+    if (!m_dragged.isNull()) ::ReleaseCapture();
+    m_drawing = nullptr;
+    m_isStale = false;
+    m_rows.clear();
+    m_list.DeleteAllItems();
+    m_list.EnableWindow(FALSE);
+    CString words;
+    words.LoadString(IDS_NO_DRAWING);
+    SetDlgItemText(IDC_MESSAGE, words);
+    GetDlgItem(IDOK)->EnableWindow(FALSE);
 }
 
 void CBlocksPanel::OnPaint() {

@@ -28,6 +28,8 @@ public:
     /// Shows the blocks of a drawing as they are now; it must live until another one is shown. What can't be
     /// seen is drawn when it is.
     void Show(OdDbDatabase& drawing);
+    /// No drawing is open.
+    void ShowNothing();
 
     BOOL PreTranslateMessage(MSG* message) override;
 

@@ -1,6 +1,6 @@
 // The drafter: a small host that shows the toolkit at work on a drawing.
 //
-//     drafter.exe [--clean] [drawing.dxf]    --clean puts window and palettes where they stand at first
+//     drafter.exe [--clean] [drawing.dxf ...]    --clean puts window and palettes where they stand at first
 #include <afxadv.h>
 #include <afxwin.h>
 #include <afxwinappex.h>
@@ -9,6 +9,7 @@
 
 #include <ktui/ktui.h>
 
+#include "command_line.h"
 #include "drawing_chooser.h"
 #include "main_frame.h"
 #include "resource.h"
@@ -20,8 +21,6 @@ constexpr int kLongestRecentPath = 60;  // characters, in the menu
 
 // After so many milliseconds the file dialogs give a drive up that does not answer.
 constexpr unsigned kDriveLimit = 3000;
-
-constexpr const wchar_t* kCleanSwitch = L"--clean";
 
 class CDrafterApp : public CWinAppEx {
 public:
@@ -42,15 +41,17 @@ public:
         m_pRecentFileList->m_nMaxDisplayLength = kLongestRecentPath;
         ShowPreviewsOfDrawings();
         KtUiSetNeverBlocked(kDriveLimit);
-        CString path = m_lpCmdLine;
-        if (takeClean(path)) CleanState();
+        const DrafterCommandLine told = ReadCommandLine(
+            m_lpCmdLine, [](const std::wstring& path) { return ktutPathExists(path.c_str()); });
+        if (told.isClean) CleanState();
         auto* frame = new CMainFrame(*m_host);
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAINFRAME)) return FALSE;
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
-        path.Trim(L" \"");
-        if (!path.IsEmpty()) frame->OpenDrawing(path);
+        std::vector<CString> files;
+        for (const std::wstring& file : told.files) files.emplace_back(file.c_str());
+        frame->OpenAtStart(files);
         return TRUE;
     }
 
@@ -68,17 +69,17 @@ protected:
 private:
     CMainFrame& frame() { return *static_cast<CMainFrame*>(m_pMainWnd); }
 
-    /// Takes the switch at the head of a command line away; false if there is none.
-    static bool takeClean(CString& line) {
-        line.Trim();
-        const int length = static_cast<int>(::wcslen(kCleanSwitch));
-        if (line.Left(length) != kCleanSwitch) return false;
-        line = line.Mid(length);
-        return true;
-    }
+    /// The application's own handler, which is asked before the main window's, would look for a template of
+    /// documents.
+    afx_msg void OnRecentFile(UINT id) { frame().OpenRecent(static_cast<int>(id - ID_FILE_MRU_FILE1)); }
+    DECLARE_MESSAGE_MAP()
 
     std::unique_ptr<CStandinHost> m_host;
 };
+
+BEGIN_MESSAGE_MAP(CDrafterApp, CWinAppEx)
+    ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE9, &CDrafterApp::OnRecentFile)
+END_MESSAGE_MAP()
 
 CDrafterApp theApp;
 

@@ -89,7 +89,7 @@ CString pathChosen(CKtUiNavDialog& dialog) {
 
 }  // namespace
 
-DrawingToOpen AskDrawingToOpen(const CString& folder) {
+DrawingsToOpen AskDrawingsToOpen(const CString& folder) {
     CNavDataArray chosen;
     CNavFilterArray filters;
     addType(filters, textOf(IDS_DRAWING_TYPE), L"*.dxf");
@@ -100,8 +100,10 @@ DrawingToOpen AskDrawingToOpen(const CString& folder) {
     dialog.SetPreviewVisible(1);
     dialog.SetReadOnlyAllowed(1);
     dialog.SetReadOnlyHidden(0);
-    DrawingToOpen answer;
-    answer.path = pathChosen(dialog);
+    dialog.SetMultiSelectAllowed(1);
+    DrawingsToOpen answer;
+    if (dialog.DoModal() != IDOK) return answer;
+    for (int i = 0; i < chosen.GetCount(); ++i) answer.paths.emplace_back(chosen.GetData(i)->GetText());
     answer.isReadOnly = dialog.GetReadOnlySpecified() != 0;
     return answer;
 }

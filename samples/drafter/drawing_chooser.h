@@ -2,6 +2,8 @@
 // and a list of the forms that a drawing can be saved in.
 #pragma once
 
+#include <vector>
+
 #include <afxwin.h>
 
 #include <od_dxf_form.h>
@@ -9,12 +11,13 @@
 class CDraftDocument;
 class CStandinHost;
 
-struct DrawingToOpen {
-    CString path;  ///< empty if the user cancelled
+struct DrawingsToOpen {
+    std::vector<CString> paths;  ///< none if the user cancelled
     bool isReadOnly = false;
 };
-/// `folder` is shown the first time; later the dialog begins where it was left.
-DrawingToOpen AskDrawingToOpen(const CString& folder);
+/// `folder` is shown the first time; later the dialog begins where it was left. Several can be chosen at
+/// once.
+DrawingsToOpen AskDrawingsToOpen(const CString& folder);
 
 struct DrawingToSave {
     CString path;  ///< empty if the user cancelled

@@ -7,7 +7,8 @@ class CKbUiTabExtensionManager;
 /// The version of this interface. An extension of another version isn't used.
 constexpr int kDrafterExtensionVersion = 2;
 
-/// What the drafter does for the palettes of extensions. It outlives them.
+/// What the drafter does for the palettes of extensions. It outlives them. The working drawing is always the
+/// one in front; while none is open the palettes are disabled, and the working drawing is null.
 class CDrafterServices {
 public:
     /// Makes one step of Undo of what was changed in the working drawing, under this name, and shows it.

@@ -111,6 +111,19 @@ bool CFieldsDialog::RestoreField(unsigned id) {
     return true;
 }
 
+std::vector<CFieldsDialog::Entry> CFieldsDialog::BadEntries() const {
+    std::vector<Entry> entries;
+    for (const Field& field : m_fields)
+        if (isBad(field)) entries.push_back({field.id, textOf(field)});
+    return entries;
+}
+
+void CFieldsDialog::TypeAgain(const std::vector<Entry>& entries) {
+    for (const Entry& entry : entries)
+        if (const Field* field = fieldOf(entry.id)) field->edit->SetWindowText(entry.text);
+    showProblem();
+}
+
 std::optional<double> CFieldsDialog::EditedDistance(unsigned id) const {
     double number = 0;
     if (!IsEdited(id) || IsBad(id) || ktdbDisToF(FieldText(id), -1, &number) != kKtdbOk) return {};

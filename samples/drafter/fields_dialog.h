@@ -40,6 +40,14 @@ protected:
     bool IsBad(unsigned id) const;
     /// Gives an edited field back what it showed before, with all of it selected; false if it isn't edited.
     bool RestoreField(unsigned id);
+    /// What was typed into a field.
+    struct Entry {
+        unsigned id;
+        CString text;
+    };
+    /// The bad values that are shown, and typing them again where the fields were filled since.
+    std::vector<Entry> BadEntries() const;
+    void TypeAgain(const std::vector<Entry>& entries);
     /// The value of an edited field: drawing units, or radians. Nothing for an unedited or unusable one.
     std::optional<double> EditedDistance(unsigned id) const;
     std::optional<double> EditedAngle(unsigned id) const;

@@ -151,7 +151,28 @@ void CLayersPanel::Show(OdDbDatabase& drawing, CUndoHistory& history) {
     m_linetype.ShowLTypes(true);
     m_filling = false;
     if (isOther) selected = {drawing.clayer()};
+    enableLists(true);
     fillList(selected);
+}
+
+void CLayersPanel::ShowNothing() {
+    if (m_hWnd == nullptr) return;
+    if (m_list.GetEditControl() != nullptr) m_list.CancelEditLabel();
+    m_drawing = nullptr;
+    m_history = nullptr;
+    m_rows.clear();
+    m_filling = true;
+    m_list.DeleteAllItems();
+    m_filling = false;
+    SetDlgItemText(IDC_CURRENT_LAYER, L"");
+    showPickers();
+    enableLists(false);
+    say(textOf(IDS_NO_DRAWING));
+}
+
+void CLayersPanel::enableLists(bool enable) {
+    for (const int id : {IDC_LAYER_SEARCH, IDC_LAYER_LIST, IDC_NEW_LAYER})
+        GetDlgItem(id)->EnableWindow(enable);
 }
 
 OdString CLayersPanel::filter() {

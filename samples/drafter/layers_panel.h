@@ -22,6 +22,8 @@ public:
 
     /// Shows the layers of a drawing as they are now. Both must live until another one is shown.
     void Show(OdDbDatabase& drawing, CUndoHistory& history);
+    /// No drawing is open.
+    void ShowNothing();
 
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -51,6 +53,7 @@ private:
     void addColumns();
     void registerResizing();
     void fillList(const std::vector<OdDbObjectId>& selected);
+    void enableLists(bool enable);
     void showRow(int row, const LayerRow& layer);
     void showCurrent();
     void showPickers();

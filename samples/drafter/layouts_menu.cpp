@@ -13,7 +13,7 @@ constexpr unsigned kLastDigit = 9;  // entries with a key of their own
 
 }  // namespace
 
-void CLayoutsMenu::Attach(CFrameWndEx& frame) {
+void CLayoutsMenu::Attach(CMDIFrameWndEx& frame) {
     m_frame = &frame;
     m_layouts.Attach(frame);
     m_layouts.KeepBuiltIn();

@@ -8,7 +8,7 @@
 class CLayoutsMenu {
 public:
     /// Notes how the palettes stand now as the built-in layout. The window outlives this.
-    void Attach(CFrameWndEx& frame);
+    void Attach(CMDIFrameWndEx& frame);
     /// Lists the names in place of the entry ID_VIEW_LAYOUT_FIRST, and enables what can be done.
     void Update(CCmdUI* item);
     void Do(UINT command);
@@ -21,6 +21,6 @@ private:
     /// Says why the last call failed.
     void tell() const;
 
-    CFrameWndEx* m_frame = nullptr;
+    CMDIFrameWndEx* m_frame = nullptr;
     CKtUiPaletteLayouts m_layouts;
 };

@@ -1,12 +1,13 @@
-// The drafter's main window: menu, drawing view, status line.
+// The drafter's main window: menu, bars, palettes, status line, and the open drawings, each with a tab.
 #pragma once
 
-#include <afxwin.h>
-#include <afxframewndex.h>
+#include <vector>
 
-#include "draft_document.h"
-#include "drawing_picker.h"
-#include "drawing_view.h"
+#include <afxwin.h>
+#include <afxmdiframewndex.h>
+
+#include "drawing_desk.h"
+#include "drawing_window.h"
 #include "extensions.h"
 #include "layouts_menu.h"
 #include "options.h"
@@ -14,27 +15,31 @@
 #include "picker_bar.h"
 #include "status_line.h"
 
-#include <standin_plot_view.h>
-
-class CKhFontStyle;
 class CStandinHost;
 
-class CMainFrame : public CFrameWndEx,
-                   private CDrawingPicker,
+class CMainFrame : public CMDIFrameWndEx,
+                   private CDrawingDesk,
                    private CBlockTarget,
-                   private CDrafterServices,
-                   private StandinPlotView {
+                   private CDrafterServices {
     DECLARE_DYNAMIC(CMainFrame)
 
 public:
     explicit CMainFrame(CStandinHost& host);
     ~CMainFrame() override;
 
-    /// Shows the drawing in `path`; tells the user why if it cannot be read, and the present drawing stays.
-    /// A drawing that is opened to be looked at only takes no lock, and isn't saved under its own name.
+    /// Opens the drawings of these files, and a new one if that leaves none.
+    void OpenAtStart(const std::vector<CString>& files);
+    /// Shows the drawing in `path` in a window of its own; one that is open already comes to the front. Tells
+    /// the user why if it cannot be read. A drawing that is opened to be looked at only takes no lock, and
+    /// isn't saved under its own name.
     bool OpenDrawing(const CString& path, bool isReadOnly = false);
 
+    /// The same for an entry of the recent drawings, counted from 0; one that is gone leaves them.
+    void OpenRecent(int index);
+
     BOOL PreTranslateMessage(MSG* message) override;
+    void OnUpdateFrameTitle(BOOL addToTitle) override;
+    HMENU GetWindowMenuPopup(HMENU bar) override;
 
     CPalettes& palettes() { return m_palettes; }
 
@@ -42,40 +47,30 @@ protected:
     CWnd* GetMessageBar() override { return &m_status; }
     /// While nothing else is to be said, what was mended in the drawing.
     void GetMessageString(UINT id, CString& message) const override;
-    /// While the user picks, only what changes the view or the selection goes on.
+    /// While the user picks, only what changes the view or the selection goes on, or the drawing.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnClose();
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnChangingTab(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnTabTip(WPARAM wParam, LPARAM lParam);
     afx_msg void OnFileNew();
     afx_msg void OnFileOpen();
-    afx_msg void OnFileSave();
-    afx_msg void OnFileSaveAs();
-    afx_msg void OnFileExport();
-    afx_msg void OnRecentFile(UINT id);
+    afx_msg void OnCloseAll();
+    afx_msg void OnSaveAll();
     afx_msg void OnDropFiles(HDROP drop);
-    afx_msg void OnUndo();
-    afx_msg void OnRedo();
-    afx_msg void OnSelectAll();
-    afx_msg void OnSelectWindow();
-    afx_msg void OnDeselect();
-    afx_msg void OnZoomExtents();
-    afx_msg void OnZoomIn();
-    afx_msg void OnZoomOut();
-    afx_msg void OnProperties();
+    afx_msg void OnNextDrawing();
+    afx_msg void OnPreviousDrawing();
     afx_msg void OnPropertiesPalette();
     afx_msg void OnLayers();
     afx_msg void OnBlocks();
-    afx_msg void OnDimensionStyle();
-    afx_msg void OnTextStyle();
-    afx_msg void OnMeasure();
     afx_msg void OnAbout();
     afx_msg void OnHelpTopics();
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
@@ -90,67 +85,65 @@ protected:
     afx_msg void OnUpdateLock(CCmdUI* item);
     afx_msg void OnLayout(UINT id);
     afx_msg void OnUpdateLayout(CCmdUI* item);
-    afx_msg void OnUpdateUndo(CCmdUI* item);
-    afx_msg void OnUpdateRedo(CCmdUI* item);
-    afx_msg void OnUpdateHasSelection(CCmdUI* item);
+    afx_msg void OnUpdateHasDrawing(CCmdUI* item);
+    afx_msg void OnUpdateHasOthers(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) override;
-    void PickObjects(unsigned prompt, ObjectsPicked picked) override;
-    bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override;
-    bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override;
+    // As the desk of its drawings.
+    CStandinHost& Host() override { return m_host; }
+    const DrafterOptions& Options() const override { return m_options; }
+    CWnd& DialogOwner() override { return *this; }
+    void DrawingActivated(CDrawingWindow* window) override;
+    void DrawingChanged(const CDrawingWindow& window) override;
+    void SelectionChanged(const CDrawingWindow& window) override;
+    void PointerMoved(const CDrawingWindow& window) override;
+    void NameChanged(const CDrawingWindow& window) override;
+    void Say(const CString& prompt) override { m_status.Say(prompt); }
+    void SayIdle() override;
+    void TakeTyped() override { m_palettes.TakeTyped(); }
+    bool GiveUpCommand() override;
+    CDrawingWindow* WindowOf(const CString& path) override;
+
     bool TakesBlockAt(CPoint screen) const override;
     void DropBlock(const OdDbObjectId& block, CPoint screen) override;
     void PlaceBlock(const OdDbObjectId& block) override;
     void DrawingChanged(const wchar_t* name) override;
-    void insertBlock(const OdDbObjectId& block, const OdGePoint2d& place);
-    void showIdle();
-    void showPrompt();
-    void showDocument(std::unique_ptr<CDraftDocument> document);
-    /// Gives the options to the host, the view and the drawing.
+
+    /// The windows of the open drawings, as their tabs stand.
+    std::vector<CDrawingWindow*> drawings();
+    CDrawingWindow* drawingOf(int tab);
+    bool isPicking() const { return m_active != nullptr && m_active->view().IsPicking(); }
+    CDrawingWindow* show(std::unique_ptr<CDraftDocument> document);
+    /// How many the next drawing without a file is.
+    int nextNumber();
+    void startNew();
+    void openEach(const std::vector<CString>& files, bool isReadOnly);
+    /// Closes the drawing that the program began with if nothing was done to it.
+    void leaveFirst();
+    /// Asks for each changed drawing; false if the user thought better of it.
+    bool mayCloseAll();
+    void goBy(int step);
+    /// A click with the middle button on a tab closes its drawing.
+    bool closesTab(const MSG& message);
+    void showNothing();
+    void showSelection();
+    /// Gives the options to the host, the views and the drawing in front.
     void useOptions(const DrafterOptions& options);
     /// The same, and keeps them for the user.
     void applyOptions(const DrafterOptions& options);
-    /// The picker bar and the palettes follow the drawing and the selection.
-    void showBars();
     void enablePalettes();
-    std::vector<OdDbObjectId> selectedObjects() const;
-    void showDrawing(bool keepPlace);
-    /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
-    /// under the string `name`.
-    void runDialog(CDialog& dialog, UINT name);
-    /// Makes one step of Undo of what was changed, under the string `name`, and shows the drawing.
     void finishChange(UINT name);
-    void finishChange(const CString& name);
-    /// Makes a font file known to the host, and to the system for as long as the program runs; its first
-    /// style, or null with the reason in `message`.
-    CKhFontStyle* loadFont(const CString& file, CString& message);
-    /// The drawing's name for the user, also of one without a file.
-    CString shownName() const;
-    void showTitle();
-    bool saveTo(const CString& path, const OdDxfForm& form);
-    /// Locks the file that the drawing is to be saved to, unless it is locked already; false if another
-    /// program has it, which is told.
-    bool lockForSaving(const CString& path, CDrawingLock& lock);
-    /// Saves under the drawing's name, asking for one where that is needed; false if it was not saved.
-    bool saveDrawing();
-    /// Asks whether changes are to be saved; false if the user thought better of it.
-    bool mayDiscard();
-    bool saveAs();
-    /// Makes a drawing the newest of the application's recent files.
-    void keepRecent(const CString& path);
-    void forgetRecent(const CString& path);
 
     CStandinHost& m_host;
-    std::unique_ptr<CDraftDocument> m_document;
-    CDrawingView m_view;
+    CDrawingWindow* m_active = nullptr;  ///< the drawing in front; null while none is open
+    CDrawingWindow* m_first = nullptr;   ///< the one that the program began with, until another one is opened
     CStatusLine m_status;
-    unsigned m_firstPrompt = 0;
     CPickerBar m_pickers;
     std::unique_ptr<CExtensions> m_extensions;
     CPalettes m_palettes;
     CLayoutsMenu m_layouts;
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
+    bool m_isGoing = false;
     DrafterOptions m_options;
 };

@@ -7,7 +7,7 @@ void CMainFrame::enablePalettes() { m_palettes.Enable(IsWindowEnabled() && !m_is
 
 /// When a dialog has gone, the window may come to lie on palettes that float.
 void CMainFrame::OnActivate(UINT state, CWnd* other, BOOL minimized) {
-    CFrameWndEx::OnActivate(state, other, minimized);
+    CMDIFrameWndEx::OnActivate(state, other, minimized);
     if (state != WA_INACTIVE) m_palettes.RaiseFloating();
 }
 
@@ -38,29 +38,19 @@ void CMainFrame::OnUpdateLayout(CCmdUI* item) { m_layouts.Update(item); }
 void CMainFrame::OnUpdateLock(CCmdUI* item) { item->SetCheck(m_palettes.IsLocked(item->m_nID)); }
 
 bool CMainFrame::TakesBlockAt(CPoint screen) const {
-    return !m_view.IsPicking() && ::WindowFromPoint(screen) == m_view.m_hWnd;
+    return m_active != nullptr && !isPicking() && ::WindowFromPoint(screen) == m_active->view().m_hWnd;
 }
 
 void CMainFrame::DropBlock(const OdDbObjectId& block, CPoint screen) {
-    m_view.ScreenToClient(&screen);
-    insertBlock(block, m_view.FromPixel(screen));
+    CDrawingView& view = m_active->view();
+    view.ScreenToClient(&screen);
+    m_active->InsertBlockAt(block, view.FromPixel(screen));
 }
 
 void CMainFrame::PlaceBlock(const OdDbObjectId& block) {
-    if (m_view.IsPicking()) return;
-    m_view.SetFocus();
-    PickPlaces(1, IDS_PICK_INSERTION, [this, block](const std::vector<OdGePoint2d>& places) {
-        if (places.empty())
-            showIdle();
-        else
-            insertBlock(block, places.front());
-    });
+    if (m_active != nullptr && !isPicking()) m_active->PlaceBlock(block);
 }
 
-void CMainFrame::insertBlock(const OdDbObjectId& block, const OdGePoint2d& place) {
-    const OdDbObjectId reference = InsertBlock(*m_document->database(), block, place);
-    if (reference.isNull()) return;
-    finishChange(IDS_CHANGE_INSERT_BLOCK);
-    m_view.SetSelection({reference});
-    m_view.SetFocus();
+void CMainFrame::DrawingChanged(const wchar_t* name) {
+    if (m_active != nullptr) m_active->FinishChange(CString(name));
 }

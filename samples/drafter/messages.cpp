@@ -141,7 +141,8 @@ void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error
         reason.Format(IDS_FILE_UNREADABLE, path.GetString(), error.text.c_str());
     else
         reason.Format(IDS_READ_FAILED, path.GetString(), static_cast<int>(error.line), error.text.c_str());
-    warn(parent, IDS_UNREADABLE_HEADING, reason + L"\n\n" + formatted(IDS_DRAWING_KEPT, kept));
+    if (!kept.IsEmpty()) reason += L"\n\n" + formatted(IDS_DRAWING_KEPT, kept);
+    warn(parent, IDS_UNREADABLE_HEADING, reason);
 }
 
 void TellMended(CWnd& parent, const CString& path, const OdDxfReading& reading) {

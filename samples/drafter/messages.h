@@ -24,7 +24,8 @@ void TellInUse(const CString& path, const CString& holder);
 /// What was mended in a drawing, how often, and where first; for one line. Empty for nothing.
 CString MendedText(const OdDxfReading& reading);
 
-/// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing that was open, still is.
+/// Tells why the drawing at `path` wasn't opened, and that `kept`, the drawing in front, stays
+/// open; empty if there is none.
 void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error, const CString& kept);
 
 /// Tells what was wrong in the drawing at `path`, which was opened all the same, and where.

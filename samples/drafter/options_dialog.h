@@ -15,6 +15,8 @@ public:
     COptionsDialog(const DrafterOptions& options, std::function<void(const DrafterOptions&)> apply,
                    CExtensions* extensions, CWnd* parent);
 
+    /// Before it is shown: no drawing is open, so that there are no units to edit.
+    void WithoutDrawing() { m_units.WithoutDrawing(); }
     /// What was accepted by OK or Apply.
     const DrafterOptions& options() const { return m_options; }
 

@@ -231,7 +231,10 @@ void CUnitsPage::Show() {
     select(IDC_LINEAR_PRECISION, m_options.units.linearPrecision);
     select(IDC_ANGULAR_UNITS, m_options.units.angular);
     select(IDC_ANGULAR_PRECISION, m_options.units.angularPrecision);
-    showSample();
+    if (m_hasDrawing) return showSample();
+    for (const int list : {IDC_LINEAR_UNITS, IDC_LINEAR_PRECISION, IDC_ANGULAR_UNITS, IDC_ANGULAR_PRECISION})
+        GetDlgItem(list)->EnableWindow(FALSE);
+    SetDlgItemText(IDC_UNITS_SAMPLE, textOf(IDS_NO_DRAWING));
 }
 
 UnitOptions CUnitsPage::chosen() const {

@@ -81,6 +81,8 @@ class CUnitsPage : public COptionsPage {
 
 public:
     using COptionsPage::COptionsPage;
+    /// Before it is shown: no drawing is open, so that nothing on the page can be used.
+    void WithoutDrawing() { m_hasDrawing = false; }
 
 protected:
     void Show() override;
@@ -91,4 +93,6 @@ protected:
 private:
     UnitOptions chosen() const;
     void showSample();
+
+    bool m_hasDrawing = true;
 };

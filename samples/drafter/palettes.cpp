@@ -32,7 +32,7 @@ CPalettes::CPalettes(std::function<void(UINT name)> changed, std::function<void(
 
 CPalettes::~CPalettes() = default;
 
-bool CPalettes::Create(CFrameWndEx& frame) {
+bool CPalettes::Create(CMDIFrameWndEx& frame) {
     m_frame = &frame;
     const int width = KtUiAppearancePixels(frame.m_hWnd, kDockedWidth);
     const int height = KtUiAppearancePixels(frame.m_hWnd, kHeight);
@@ -91,6 +91,20 @@ const CPalettes::Entry* CPalettes::entryOf(UINT command) const {
 void CPalettes::ShowDrawing(CDraftDocument& document) {
     if (m_layers.m_hWnd != nullptr) m_layers.Show(*document.database(), document.history());
     m_blocks.Show(*document.database());
+    enableExtension(true);
+}
+
+void CPalettes::ShowNothing() {
+    m_properties.ShowNothing();
+    m_layers.ShowNothing();
+    m_blocks.ShowNothing();
+    enableExtension(false);
+}
+
+/// Its palettes know only the working drawing, and nothing of there being none.
+void CPalettes::enableExtension(bool enable) {
+    for (int i = 0; isExtensionThere() && i < m_extensionSet.GetPaletteCount(); ++i)
+        m_extensionSet.GetPalette(i)->EnableWindow(enable);
 }
 
 void CPalettes::ShowObjects(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects) {
@@ -208,8 +222,12 @@ void CPalettes::Save(CWinAppEx& keeper) const {
 }
 
 void CPalettes::Enable(bool enable) {
-    for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet})
-        if (set->m_hWnd != nullptr) set->EnableWindow(enable);
+    for (CKbUiPaletteSet* set : {&m_set, &m_extensionSet}) {
+        if (set->m_hWnd == nullptr) continue;
+        set->EnableWindow(enable);
+        // One that floats can't be dragged or closed by its frame either.
+        if (CPaneFrameWnd* const floating = set->GetParentMiniFrame()) floating->EnableWindow(enable);
+    }
 }
 
 void CPalettes::RaiseFloating() {

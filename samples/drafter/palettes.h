@@ -27,13 +27,15 @@ public:
 
     /// Makes the palettes and docks them as they stand at first. False without the set; a palette that can't
     /// be made is left out, and IsThere says so.
-    bool Create(CFrameWndEx& frame);
+    bool Create(CMDIFrameWndEx& frame);
     /// Makes the set with the extension's palettes, hidden; without any there is no such set.
     void AddExtension(CExtensions& extensions, CDrafterServices& services);
     /// Shows a drawing as it is now.
     void ShowDrawing(CDraftDocument& document);
     /// Shows the values of `objects` of a drawing, or its current settings.
     void ShowObjects(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects);
+    /// No drawing is open: the palettes are empty, and nothing in them can be used.
+    void ShowNothing();
     /// Writes what is being typed.
     void TakeTyped();
 
@@ -71,9 +73,10 @@ private:
     void putIn(Entry& entry);
     void takeOut(Entry& entry);
     void lock() const;
+    void enableExtension(bool enable);
     bool isExtensionThere() const { return m_extensionSet.m_hWnd != nullptr; }
 
-    CFrameWndEx* m_frame = nullptr;
+    CMDIFrameWndEx* m_frame = nullptr;
     CPropertiesPanel m_properties;
     CLayersPanel m_layers;
     CBlocksPanel m_blocks;

@@ -128,7 +128,9 @@ void CPickerBar::fillLayers() {
 }
 
 void CPickerBar::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) {
+    if (m_hWnd == nullptr) return;
     m_showing = true;
+    if (m_drawing == nullptr) enablePickers(true);
     m_drawing = &drawing;
     m_objects = std::move(objects);
     fillLists();
@@ -143,6 +145,24 @@ void CPickerBar::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) 
     m_shown.plotStyle = pickedPlotStyle();
     fillLayers();
     m_showing = false;
+}
+
+void CPickerBar::ShowNothing() {
+    if (m_hWnd == nullptr) return;
+    m_showing = true;
+    m_drawing = nullptr;
+    m_objects.clear();
+    m_shown = {};
+    for (CComboBox* picker :
+         std::initializer_list<CComboBox*>{&m_color, &m_linetype, &m_lineWeight, &m_plotStyle, &m_layer})
+        picker->SetCurSel(-1);
+    m_search.ClearEditor();
+    enablePickers(false);
+    m_showing = false;
+}
+
+void CPickerBar::enablePickers(bool enable) {
+    for (const int id : kInOrder) GetDlgItem(id)->EnableWindow(enable);
 }
 
 void CPickerBar::showPlotStyle(const std::optional<OdString>& name) {

@@ -26,6 +26,8 @@ public:
     /// Shows the values of `objects`, or the current settings without objects. Another drawing's lists are
     /// filled anew.
     void Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects);
+    /// No drawing is open: nothing is shown, and nothing can be picked.
+    void ShowNothing();
     /// As high as the rows that the frame has the width for.
     CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
 
@@ -42,6 +44,7 @@ private:
     void addTips();
     void allowTips(bool allow);
     static UINT nameOf(UINT id);
+    void enablePickers(bool enable);
     void fillLists();
     void fillLayers();
     bool searchByKey(UINT key);

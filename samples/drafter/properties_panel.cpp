@@ -46,7 +46,7 @@ BOOL CPropertiesPanel::OnInitDialog() {
 
 void CPropertiesPanel::showTitle() {
     CString title;
-    title.LoadString(IDS_PANEL_CURRENT);
+    title.LoadString(m_drawing != nullptr ? IDS_PANEL_CURRENT : IDS_NO_DRAWING);
     if (!m_objects.empty()) title = DescribeObjects(m_objects);
     SetDlgItemText(IDC_PANEL_TITLE, title);
 }
@@ -54,12 +54,32 @@ void CPropertiesPanel::showTitle() {
 void CPropertiesPanel::Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects) {
     if (m_hWnd == nullptr) return;
     const bool wasBusy = std::exchange(m_isBusy, true);
+    // What can't be written yet stays while other fields are.
+    const bool isSame = m_drawing == &drawing && m_objects == objects;
+    const std::vector<Entry> bad = isSame ? BadEntries() : std::vector<Entry>();
     m_drawing = &drawing;
     m_objects = std::move(objects);
     showTitle();
+    enableFields(true);
     RefillLists(drawing);
     ShowValues(drawing, m_objects);
+    TypeAgain(bad);
     m_isBusy = wasBusy;
+}
+
+void CPropertiesPanel::ShowNothing() {
+    if (m_hWnd == nullptr) return;
+    const bool wasBusy = std::exchange(m_isBusy, true);
+    m_drawing = nullptr;
+    m_objects.clear();
+    showTitle();
+    ClearValues();
+    enableFields(false);
+    m_isBusy = wasBusy;
+}
+
+void CPropertiesPanel::enableFields(bool enable) {
+    for (const auto& each : kChanges) GetDlgItem(static_cast<int>(each.control))->EnableWindow(enable);
 }
 
 void CPropertiesPanel::write(UINT control) {

@@ -18,6 +18,8 @@ public:
     /// Shows the values of `objects`, or the current settings without objects. The drawing must live until
     /// another one is shown.
     void Show(OdDbDatabase& drawing, std::vector<OdDbObjectId> objects);
+    /// No drawing is open: nothing is shown, and nothing can be entered.
+    void ShowNothing();
     /// Writes what is being typed, as leaving the field does.
     void TakeTyped();
 
@@ -33,6 +35,7 @@ protected:
 private:
     void write(UINT control);
     void showTitle();
+    void enableFields(bool enable);
 
     std::function<void(UINT name)> m_changed;
     OdDbDatabase* m_drawing = nullptr;

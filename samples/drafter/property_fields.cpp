@@ -91,6 +91,15 @@ void CPropertyFields::ShowValues(OdDbDatabase& drawing, const std::vector<OdDbOb
     ShowMessage(CString());
 }
 
+void CPropertyFields::ClearValues() {
+    m_pickers.Clear();
+    m_layer.ResetContent();
+    m_shownLayer.reset();
+    for (const unsigned id : {IDC_LINETYPE_SCALE, IDC_HYPERLINK, IDC_ELEVATION, IDC_THICKNESS, IDC_ROTATION})
+        FillField(id, CString());
+    ShowMessage(CString());
+}
+
 void CPropertyFields::SetRotation(double radians) { m_rotation.SetWindowText(FormatAngle(radians)); }
 
 PropertyValues CPropertyFields::EnteredValues() {

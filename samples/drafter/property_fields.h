@@ -19,6 +19,8 @@ public:
 protected:
     /// Shows the values of `objects`, or the current settings without objects; nothing counts as edited then.
     void ShowValues(OdDbDatabase& drawing, const std::vector<OdDbObjectId>& objects);
+    /// Shows no value anywhere; nothing counts as edited then.
+    void ClearValues();
     /// What the user entered or picked since; a bad value is left out.
     PropertyValues EnteredValues();
     /// Fills the lists anew from the drawing.

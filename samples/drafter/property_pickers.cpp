@@ -69,6 +69,13 @@ void CPropertyPickers::Show(const OdDbDatabase& drawing, const PropertyValues& v
     m_shown.plotStyle = pickedPlotStyle();
 }
 
+void CPropertyPickers::Clear() {
+    for (CComboBox* picker : std::initializer_list<CComboBox*>{&m_trueColor, &m_indexColor, &m_linetype,
+                                                               &m_lineWeight, &m_plotStyle})
+        picker->SetCurSel(-1);
+    m_shown = {};
+}
+
 void CPropertyPickers::showColor(const std::optional<OdCmColor>& color) {
     if (!color) {
         m_trueColor.ShowVaries();

@@ -41,6 +41,8 @@ public:
     void Refill(const OdDbDatabase& drawing);
     /// Shows the values of the drawing's objects or settings.
     void Show(const OdDbDatabase& drawing, const PropertyValues& values);
+    /// Shows no value.
+    void Clear();
     /// Puts what was picked into `values`.
     void Collect(PropertyValues& values);
 

@@ -1,9 +1,13 @@
 #include "drafter_driver.h"
 
+#include <algorithm>
+
 #include "paths.h"
 
 namespace {
 
+constexpr int kTabs = 0xE8FE;
+constexpr int kMiddle = 0xE900;  // what bars and palettes leave of a frame
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 
 std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder,
@@ -26,7 +30,37 @@ namespace journey {
 Drafter::Drafter(const std::wstring& drawing, const std::wstring& folder, const std::wstring& switches)
     : Program(commandOf(drawing, folder, switches), isFrame) {}
 
-HWND Drafter::view() const { return ::GetDlgItem(frame(), 0xE900); }
+HWND Drafter::drawing() const {
+    const HWND all = ::GetDlgItem(frame(), kMiddle);
+    return reinterpret_cast<HWND>(::SendMessageW(all, WM_MDIGETACTIVE, 0, 0));
+}
+
+HWND Drafter::tabs() const { return ::GetDlgItem(frame(), kTabs); }
+
+POINT Drafter::chooseTab(const std::wstring& title) {
+    constexpr int kStep = 24, kBelow = 100;  // pixels; the step is less than any tab
+    const RECT strip = rectOf(tabs());
+    for (POINT at = {kStep, (strip.bottom - strip.top) / 2}; at.x < strip.right - strip.left; at.x += kStep) {
+        // Let go elsewhere, a sign that closes does nothing.
+        drag(tabs(), at, {at.x, kBelow});
+        if (textOf(drawing()) == title) return at;
+    }
+    return {-1, -1};
+}
+
+std::vector<std::wstring> Drafter::drawings() const {
+    std::vector<HWND> windows;
+    const HWND all = ::GetDlgItem(frame(), kMiddle);
+    for (HWND each = ::GetWindow(all, GW_CHILD); each != nullptr; each = ::GetWindow(each, GW_HWNDNEXT))
+        windows.push_back(each);
+    // The system numbers them as they come, and closes the gaps.
+    std::ranges::sort(windows, {}, [](HWND each) { return ::GetDlgCtrlID(each); });
+    std::vector<std::wstring> titles;
+    for (const HWND each : windows) titles.push_back(textOf(each));
+    return titles;
+}
+
+HWND Drafter::view() const { return ::GetDlgItem(drawing(), kMiddle); }
 
 void Drafter::openDrawing(const std::wstring& path) {
     activate(frame());

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "../../samples/drafter/resource.h"
+#include <vector>
+
 #include "program_driver.h"
 
 namespace journey {
@@ -13,7 +15,17 @@ public:
     explicit Drafter(const std::wstring& drawing, const std::wstring& folder = {},
                      const std::wstring& switches = {});
 
+    /// The window of the drawing in front, and the view in it; null without one.
+    HWND drawing() const;
     HWND view() const;
+    /// The strip of tabs.
+    HWND tabs() const;
+    /// A point of the strip on the tab of the drawing in front: near its left end, where it stays when
+    /// another one comes to the front. Goes through the tabs by clicks until the one with `title` is in
+    /// front.
+    POINT chooseTab(const std::wstring& title);
+    /// The titles of the windows of all drawings, those first that were opened first.
+    std::vector<std::wstring> drawings() const;
     /// Opens another drawing by File > Open.
     void openDrawing(const std::wstring& path);
     /// Opens Format > Properties by its key and answers the dialog.

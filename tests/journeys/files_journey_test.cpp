@@ -151,6 +151,11 @@ TEST_F(Files, WhatTheFirstProgramHasClosedIsFree) {
     drafter->activate(drafter->frame());
     drafter->key('N', true);
     ASSERT_TRUE(titleBegins(L"Untitled"));
+    EXPECT_TRUE(std::filesystem::exists(first + L".lock")) << "it is still open behind the other";
+    drafter->key(VK_TAB, true);
+    ASSERT_TRUE(titleBegins(L"bracket.dxf"));
+    drafter->key(VK_F4, true);
+    ASSERT_TRUE(titleBegins(L"Untitled"));
     Drafter other(first);
     ASSERT_NE(other.frame(), nullptr);
     EXPECT_TRUE(waitUntil([&] { return textOf(other.frame()).rfind(L"bracket.dxf - ", 0) == 0; }));
@@ -233,13 +238,30 @@ TEST_F(Files, ADroppedDrawingIsOpened) {
     EXPECT_TRUE(titleBegins(L"bracket.dxf"));
 }
 
-TEST_F(Files, OfTenDroppedFilesTheFirstIsOpenedAndThatIsSaid) {
+TEST_F(Files, EachOfTenDroppedFilesIsOpened) {
     open(L"");
-    std::vector<std::wstring> ten = {first};
-    for (int i = 1; i < 10; ++i) ten.push_back(scratchCopy(L"site_plan.dxf"));
+    std::vector<std::wstring> ten;
+    for (int i = 0; i < 10; ++i) {
+        ten.push_back(scratchPath(L"dropped " + std::to_wstring(i) + L".dxf"));
+        ::CopyFileW(first.c_str(), ten.back().c_str(), FALSE);
+    }
     drop(ten);
-    EXPECT_NE(message().find(L"first of 10 files"), std::wstring::npos);
-    EXPECT_TRUE(titleBegins(L"bracket.dxf"));
+    ASSERT_TRUE(titleBegins(L"dropped 9.dxf"));
+    EXPECT_EQ(drafter->drawings(),
+              (std::vector<std::wstring>{
+                  L"dropped 0.dxf", L"dropped 1.dxf", L"dropped 2.dxf", L"dropped 3.dxf", L"dropped 4.dxf",
+                  L"dropped 5.dxf", L"dropped 6.dxf", L"dropped 7.dxf", L"dropped 8.dxf", L"dropped 9.dxf"}));
+    picture("journey-ten-drawings");
+}
+
+TEST_F(Files, OfDroppedFilesTheGoodOnesAreOpenedAndTheOthersRefused) {
+    open(first);
+    const std::wstring second = scratchCopy(L"site_plan.dxf");
+    drop({first + L".gone", second, std::filesystem::path(first).parent_path().wstring()});
+    EXPECT_NE(message().find(L"no longer there"), std::wstring::npos);
+    ASSERT_TRUE(titleBegins(L"site_plan.dxf"));
+    EXPECT_NE(message().find(L"This is a folder"), std::wstring::npos);
+    EXPECT_EQ(drafter->drawings(), (std::vector<std::wstring>{L"bracket.dxf", L"site_plan.dxf"}));
 }
 
 TEST_F(Files, AFolderAndAFileThatIsGoneAreRefusedInWords) {

@@ -257,10 +257,16 @@ TEST_F(PalettesJourney, AModalDialogKeepsTheUserFromFloatingOnesToo) {
                             100 + shown.bottom - shown.top});
     drafter->click(thickness);
     EXPECT_NE(focusOf(panel), thickness);
+    // Nor can it be dragged.
+    dragSet(panel, {40, 120});
+    const RECT after = rectOf(::GetAncestor(panel, GA_ROOT));
+    EXPECT_TRUE(::EqualRect(&floating, &after)) << after.left << " " << after.top;
     drafter->click(item(dialog, IDCANCEL));
     EXPECT_TRUE(drafter->waitUntilGone(dialog));
     drafter->click(thickness);
     EXPECT_TRUE(goesTo(panel, thickness));
+    dragSet(panel, {40, 120});
+    EXPECT_TRUE(waitUntil([&] { return rectOf(::GetAncestor(panel, GA_ROOT)).left == floating.left + 40; }));
 }
 
 TEST_F(PalettesJourney, WhatTheMenuHidesStaysHiddenTheNextTime) {

@@ -94,7 +94,9 @@ TEST_F(PickerBarJourney, InANarrowWindowTheSearchBoxIsInReachOfKeysAndMouse) {
                     rect.bottom <= bar.bottom)
             << id;
     }
-    EXPECT_EQ(bar.bottom, view.top) << "the drawing begins below all rows";
+    const RECT tabs = rectOf(drafter->tabs());
+    EXPECT_EQ(bar.bottom, tabs.top) << "the drawing begins below all rows";
+    EXPECT_EQ(tabs.bottom, view.top);
     selectAll();
     drafter->key('F', true);
     drafter->type(L"wal");

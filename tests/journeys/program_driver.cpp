@@ -256,6 +256,14 @@ void Program::click(HWND window) {
     click(window, {client.right / 2, client.bottom / 2});
 }
 
+void Program::middleClick(HWND window, POINT client) {
+    hover(window, client);
+    ::ClientToScreen(window, &client);
+    sendMouse(client, MOUSEEVENTF_MIDDLEDOWN);
+    sendMouse(client, MOUSEEVENTF_MIDDLEUP);
+    settle(m_frame);
+}
+
 void Program::press(HWND window, POINT client) {
     // Two clicks in quick succession would be a double click.
     const ULONGLONG quiet = m_lastClick + ::GetDoubleClickTime() + kPoll, now = ::GetTickCount64();

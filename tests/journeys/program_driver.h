@@ -38,6 +38,8 @@ public:
     /// Clicks with the left button at a client point of `window`, or at its middle.
     void click(HWND window, POINT client);
     void click(HWND window);
+    /// Clicks with the middle button.
+    void middleClick(HWND window, POINT client);
     /// Draws with the left button held from one client point of `window` to the other.
     void drag(HWND window, POINT from, POINT to, bool shift = false);
     /// Presses the left button at a client point of `window`, and lets it go where the pointer is.

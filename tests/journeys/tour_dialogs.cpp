@@ -316,6 +316,7 @@ int ShowDialogs() {
         showMeasure(drafter);
         showPickerBar(drafter);
         if (const char* missing = ShowPalettes(drafter)) throw Missing{missing};
+        if (const char* missing = ShowDrawings(drafter)) throw Missing{missing};
         showQuestion(drafter);
     } catch (const Missing& missing) {
         std::printf("error: %s did not come up\n", missing.what);

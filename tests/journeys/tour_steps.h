@@ -14,6 +14,9 @@ void tell(const char* name, const std::wstring& text);
 /// something did not come up.
 int ShowDialogs();
 
+/// Opens two more drawings, goes from one to the other, and closes both. What did not come about, or null.
+const char* ShowDrawings(journey::Drafter& drafter);
+
 /// Changes a property, lists layers and drops a block, and takes all of it back. What did not come up, or
 /// null.
 const char* ShowPalettes(journey::Drafter& drafter);

@@ -339,4 +339,24 @@ TEST_F(Layers, EscapeGoesToTheMainWindowAndTheListStays) {
     EXPECT_EQ(names().size(), 4u);
 }
 
+TEST_F(Layers, WithoutADrawingTheListIsEmptyAndNothingCanBeDone) {
+    press(IDC_RENAME_LAYER);
+    dialog.ShowNothing();
+    EXPECT_EQ(list().GetItemCount(), 0);
+    EXPECT_EQ(list().GetEditControl(), nullptr);
+    EXPECT_EQ(text_of(item(dialog, IDC_MESSAGE).m_hWnd), L"No drawing is open.");
+    EXPECT_EQ(text_of(item(dialog, IDC_CURRENT_LAYER).m_hWnd), L"");
+    for (const int id : {IDC_LAYER_LIST, IDC_LAYER_SEARCH, IDC_NEW_LAYER, IDC_RENAME_LAYER, IDC_DELETE_LAYER,
+                         static_cast<int>(IDOK), IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT})
+        EXPECT_FALSE(item(dialog, id).IsWindowEnabled()) << id;
+    for (const UINT command : {IDC_NEW_LAYER, IDC_RENAME_LAYER, IDC_DELETE_LAYER, IDOK})
+        dialog.SendMessage(WM_COMMAND, command);
+    EXPECT_EQ(changes, 0);
+    dialog.Show(*drawing, *history);
+    EXPECT_EQ(names().size(), 4u);
+    EXPECT_EQ(text_of(item(dialog, IDC_MESSAGE).m_hWnd), L"");
+    for (const int id : {IDC_LAYER_LIST, IDC_LAYER_SEARCH, IDC_NEW_LAYER, IDC_TRUE_COLOR})
+        EXPECT_TRUE(item(dialog, id).IsWindowEnabled()) << id;
+}
+
 }  // namespace

@@ -43,6 +43,22 @@ protected:
 
 constexpr int kFiles = 0, kDisplay = 1, kUnits = 2, kExtension = 3;
 
+TEST_F(OptionsTest, WithoutADrawingThereAreNoUnitsToSet) {
+    options.units = {4, 3, 1, 2};
+    const auto dialog = make();
+    dialog->WithoutDrawing();
+    show(*dialog, [&] {
+        turn(*dialog, kUnits);
+        for (const int id :
+             {IDC_LINEAR_UNITS, IDC_LINEAR_PRECISION, IDC_ANGULAR_UNITS, IDC_ANGULAR_PRECISION})
+            EXPECT_FALSE(on(*dialog, kUnits, id).IsWindowEnabled()) << id;
+        EXPECT_EQ(text_of(on(*dialog, kUnits, IDC_UNITS_SAMPLE)), L"No drawing is open.");
+        press(*dialog, IDC_APPLY);
+    });
+    ASSERT_EQ(applied.size(), 1u);
+    EXPECT_EQ(applied[0].units, options.units) << "they stay as they were";
+}
+
 TEST_F(OptionsTest, ShowsWhatIsSet) {
     options.supportFolders = L"C:\\windows;C:\\";
     options.styleSheets = L"C:\\";

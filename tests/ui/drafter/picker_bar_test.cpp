@@ -361,4 +361,22 @@ TEST_F(PickerBar, ATipThatWasToComeUpDoesNotLieOnTheList) {
     combo.SendMessage(CB_SHOWDROPDOWN, FALSE);
 }
 
+TEST_F(PickerBar, WithoutADrawingItShowsNothingAndNothingCanBePicked) {
+    constexpr int kAll[] = {IDC_TRUE_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE, IDC_LAYER};
+    bar.Show(*drawing, {lines[0], lines[1]});
+    bar.ShowNothing();
+    for (const int id : kAll) {
+        EXPECT_FALSE(bar.GetDlgItem(id)->IsWindowEnabled()) << id;
+        EXPECT_EQ(shown(id), L"none") << id;
+    }
+    EXPECT_FALSE(bar.GetDlgItem(IDC_LAYER_SEARCH)->IsWindowEnabled());
+    drawing->setPSTYLEMODE(1);
+    bar.Show(*drawing, {});
+    for (const int id : kAll) {
+        EXPECT_EQ(bar.GetDlgItem(id)->IsWindowEnabled() != FALSE, id != IDC_PLOT_STYLE) << id;
+        EXPECT_NE(shown(id), L"none") << id;
+    }
+    EXPECT_TRUE(bar.GetDlgItem(IDC_LAYER_SEARCH)->IsWindowEnabled());
+}
+
 }  // namespace

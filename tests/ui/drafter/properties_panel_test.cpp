@@ -153,6 +153,62 @@ TEST_F(PropertiesPanel, ABadValueIsSaidAndNotWritten) {
     EXPECT_DOUBLE_EQ(circle(0)->thickness(), 0);
 }
 
+TEST_F(PropertiesPanel, ABadValueStaysWhileAnotherFieldIsWritten) {
+    showBoth();
+    type(IDC_LINETYPE_SCALE, L"0");
+    const CString problem = text(IDC_MESSAGE);
+    EXPECT_FALSE(problem.IsEmpty());
+    type(IDC_THICKNESS, L"2.5");
+    leave();
+    EXPECT_DOUBLE_EQ(circle(0)->thickness(), 2.5);
+    EXPECT_EQ(text(IDC_LINETYPE_SCALE), L"0");
+    EXPECT_EQ(text(IDC_MESSAGE), problem);
+    EXPECT_EQ(changes, Changes{IDS_CHANGE_THICKNESS});
+    // Mended, it is written; and Escape still has the former value.
+    item(panel, IDC_LINETYPE_SCALE).SetFocus();
+    panel.SendMessage(WM_COMMAND, IDCANCEL);
+    EXPECT_EQ(text(IDC_LINETYPE_SCALE), L"1.0000");
+    EXPECT_EQ(text(IDC_MESSAGE), L"");
+    type(IDC_LINETYPE_SCALE, L"3");
+    leave();
+    EXPECT_DOUBLE_EQ(circle(0)->linetypeScale(), 3);
+    EXPECT_EQ(changes.size(), 2u);
+}
+
+TEST_F(PropertiesPanel, ABadValueGoesWithTheSelectionThatItWasTypedFor) {
+    showBoth();
+    type(IDC_LINETYPE_SCALE, L"0");
+    panel.Show(*drawing, {circles[0]});
+    EXPECT_EQ(text(IDC_LINETYPE_SCALE), L"1.0000");
+    EXPECT_EQ(text(IDC_MESSAGE), L"");
+}
+
+TEST_F(PropertiesPanel, WithoutADrawingNothingIsShownAndNothingCanBeEntered) {
+    constexpr int kAll[] = {IDC_TRUE_COLOR,     IDC_INDEX_COLOR, IDC_LINETYPE,  IDC_LINE_WEIGHT,
+                            IDC_PLOT_STYLE,     IDC_LAYER,       IDC_HYPERLINK, IDC_ELEVATION,
+                            IDC_LINETYPE_SCALE, IDC_THICKNESS,   IDC_ROTATION};
+    showBoth();
+    type(IDC_LINETYPE_SCALE, L"0");
+    panel.ShowNothing();
+    EXPECT_EQ(text(IDC_PANEL_TITLE), L"No drawing is open.");
+    EXPECT_EQ(text(IDC_MESSAGE), L"");
+    for (const int id : kAll) EXPECT_FALSE(item(panel, id).IsWindowEnabled()) << id;
+    for (const int id : {IDC_HYPERLINK, IDC_ELEVATION, IDC_LINETYPE_SCALE, IDC_THICKNESS, IDC_ROTATION})
+        EXPECT_EQ(text(id), L"") << id;
+    for (const int id :
+         {IDC_TRUE_COLOR, IDC_INDEX_COLOR, IDC_LINETYPE, IDC_LINE_WEIGHT, IDC_PLOT_STYLE, IDC_LAYER})
+        EXPECT_EQ(item(panel, id).SendMessage(CB_GETCURSEL), CB_ERR) << id;
+    panel.TakeTyped();
+    EXPECT_TRUE(changes.empty());
+    showBoth();
+    EXPECT_EQ(text(IDC_PANEL_TITLE), L"2 Circles");
+    EXPECT_TRUE(item(panel, IDC_TRUE_COLOR).IsWindowEnabled());
+    EXPECT_TRUE(item(panel, IDC_THICKNESS).IsWindowEnabled());
+    EXPECT_FALSE(item(panel, IDC_ROTATION).IsWindowEnabled()) << "circles have none";
+    EXPECT_EQ(text(IDC_THICKNESS), L"0.0000");
+    EXPECT_EQ(entry(IDC_LAYER), L"0");
+}
+
 TEST_F(PropertiesPanel, WhatIsTheSameIsNoChange) {
     showBoth();
     type(IDC_THICKNESS, text(IDC_THICKNESS));

@@ -1,7 +1,6 @@
-// The main window's export: the drawing goes to a file, with an area that the user may pick in the view.
-#include "main_frame.h"
+// A drawing's export: it goes to a file, with an area that the user may pick in the view.
+#include "drawing_window.h"
 
-#include <afxadv.h>
 #include <ktut.h>
 #include <standin_host.h>
 #include <ktui/host/message_box.h>
@@ -9,6 +8,7 @@
 #include <optional>
 
 #include "drawing_chooser.h"
+#include "recent_drawings.h"
 #include "resource.h"
 
 namespace {
@@ -28,22 +28,21 @@ CString exportedName(const CString& drawing) {
 
 }  // namespace
 
-void CMainFrame::OnFileExport() {
+void CDrawingWindow::OnFileExport() {
     const CString path = m_document->path().c_str();
-    const CString last = path.IsEmpty() ? (*AfxGetApp()->m_pRecentFileList)[0] : path;
-    const CString name = m_document->name().isEmpty() ? textOf(IDS_PROPOSED_NAME) : shownName();
+    const CString folder = path.IsEmpty() ? RecentFolder() : path.Left(path.ReverseFind(L'\\'));
     CDrawingChange change(m_document->history());
-    const CString chosen = AskFileToExport(last.Left(last.ReverseFind(L'\\')), exportedName(name));
+    const CString chosen = AskFileToExport(folder, exportedName(proposedName()));
     // A page set-up that overrides the layout's own is kept in the drawing.
     change.Keep(textOf(IDS_CHANGE_PAGE_SETUP).GetString());
-    showDrawing(true);
+    Refresh(true);
     CString message;
-    if (!chosen.IsEmpty() && !m_host.ExportDrawing(chosen, message))
+    if (!chosen.IsEmpty() && !m_desk.Host().ExportDrawing(chosen, message))
         KtUiMessageBox(nullptr, message, MB_ICONEXCLAMATION);
     m_view.SetFocus();
 }
 
-bool CMainFrame::displayedArea(OdGePoint2d& low, OdGePoint2d& high) {
+bool CDrawingWindow::displayedArea(OdGePoint2d& low, OdGePoint2d& high) {
     CRect client;
     m_view.GetClientRect(&client);
     if (client.IsRectEmpty()) return false;
@@ -53,12 +52,12 @@ bool CMainFrame::displayedArea(OdGePoint2d& low, OdGePoint2d& high) {
 }
 
 /// Whoever asks waits, so messages are served here until both corners are picked.
-bool CMainFrame::pickArea(OdGePoint2d& first, OdGePoint2d& second) {
+bool CDrawingWindow::pickArea(OdGePoint2d& first, OdGePoint2d& second) {
     std::optional<bool> isPicked;
     m_firstPrompt = IDS_EXPORT_CORNER;
     m_view.SetFocus();
     m_view.PickCorners([&](bool picked) { isPicked = picked; });
-    showPrompt();
+    sayPrompt();
     while (!isPicked)
         if (!AfxGetApp()->PumpMessage()) {
             // The program ends; whoever waits further out is to hear it too.

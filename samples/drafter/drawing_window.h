@@ -1,0 +1,123 @@
+// CDrawingWindow: the window of an open drawing, with a tab of its own in the main window. It owns the
+// drawing with its history, and the view with its place and selection, and serves the commands that need
+// them.
+#pragma once
+
+#include <memory>
+
+#include <afxwin.h>
+#include <afxmdichildwndex.h>
+
+#include "draft_document.h"
+#include "drawing_desk.h"
+#include "drawing_picker.h"
+#include "drawing_view.h"
+
+#include <standin_plot_view.h>
+
+class CKhFontStyle;
+
+class CDrawingWindow : public CMDIChildWndEx, private CDrawingPicker, private StandinPlotView {
+    DECLARE_DYNAMIC(CDrawingWindow)
+
+public:
+    /// Shows `document`; `number` counts the drawings without a file, from 1. Made by new: it deletes itself.
+    CDrawingWindow(CDrawingDesk& desk, std::unique_ptr<CDraftDocument> document, int number);
+
+    /// Makes the window and brings it to the front.
+    bool Open(CMDIFrameWnd& frame);
+
+    CDraftDocument& document() const { return *m_document; }
+    OdDbDatabase& drawing() const { return *m_document->database(); }
+    CDrawingView& view() { return m_view; }
+    const CDrawingView& view() const { return m_view; }
+    StandinPlotView& plotView() { return *this; }
+    std::vector<OdDbObjectId> SelectedObjects() const;
+    int number() const { return m_number; }
+
+    /// The drawing's name for the user, also of one without a file.
+    CString ShownName() const;
+    /// The same with marks for a drawing that is read-only or was changed.
+    CString Title() const;
+
+    /// Shows the drawing as it is now. `keepPlace` leaves the view's place and the selection.
+    void Refresh(bool keepPlace);
+    /// The drawing may look otherwise, as after other options: it is shown anew when it comes to the front.
+    void Outdate() { m_isOutdated = true; }
+    /// False if the drawing was shown as it is already.
+    bool RefreshIfOutdated();
+    void UseLook();
+    /// Makes one step of Undo of what was changed, under the string `name`, and shows the drawing.
+    void FinishChange(UINT name);
+    void FinishChange(const CString& name);
+    /// Inserts a block, and selects the new reference.
+    void InsertBlockAt(const OdDbObjectId& block, const OdGePoint2d& place);
+    /// Has the user pick a place for the block.
+    void PlaceBlock(const OdDbObjectId& block);
+    /// Ends what is being picked, as Escape does.
+    void GiveUpPicking() { m_view.EndPicking(false); }
+
+    /// Saves under the drawing's name, asking for one where that is needed; false if it was not saved.
+    bool Save();
+    /// Asks whether changes are to be saved; false if the user thought better of it.
+    bool MayClose();
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnSetFocus(CWnd* former);
+    afx_msg void OnMDIActivate(BOOL activate, CWnd* coming, CWnd* going);
+    afx_msg void OnSysCommand(UINT command, LPARAM lParam);
+    afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnFileClose();
+    afx_msg void OnFileSave();
+    afx_msg void OnFileSaveAs();
+    afx_msg void OnFileExport();
+    afx_msg void OnUndo();
+    afx_msg void OnRedo();
+    afx_msg void OnSelectAll();
+    afx_msg void OnSelectWindow();
+    afx_msg void OnDeselect();
+    afx_msg void OnZoomExtents();
+    afx_msg void OnZoomIn();
+    afx_msg void OnZoomOut();
+    afx_msg void OnProperties();
+    afx_msg void OnDimensionStyle();
+    afx_msg void OnTextStyle();
+    afx_msg void OnMeasure();
+    afx_msg void OnUpdateUndo(CCmdUI* item);
+    afx_msg void OnUpdateRedo(CCmdUI* item);
+    afx_msg void OnUpdateHasSelection(CCmdUI* item);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void PickPlaces(std::size_t count, unsigned firstPrompt, PlacesPicked picked) override;
+    void PickObjects(unsigned prompt, ObjectsPicked picked) override;
+    bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override;
+    bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override;
+    void sayPrompt();
+    void showTitle();
+    /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
+    /// under the string `name`.
+    void runDialog(CDialog& dialog, UINT name);
+    /// Makes a font file known to the host, and to the system for as long as the program runs; its first
+    /// style, or null with the reason in `message`.
+    CKhFontStyle* loadFont(const CString& file, CString& message);
+    /// What a file of the drawing is called at first.
+    CString proposedName() const;
+    bool saveTo(const CString& path, const OdDxfForm& form);
+    /// Locks the file that the drawing is to be saved to, unless it is locked already; false if another
+    /// program or window has it, which is told.
+    bool lockForSaving(const CString& path, CDrawingLock& lock);
+    bool saveAs();
+
+    CDrawingDesk& m_desk;
+    std::unique_ptr<CDraftDocument> m_document;
+    int m_number;
+    CDrawingView m_view;
+    unsigned m_firstPrompt = 0;
+    bool m_isOutdated = false;
+    bool m_wasShown = false;
+};
