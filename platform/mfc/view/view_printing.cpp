@@ -169,7 +169,7 @@ bool CView::print_document(CPrintInfo& info, const CString& file) {
     const CString title = m_pDocument != nullptr ? m_pDocument->GetTitle() : CString(AfxGetAppName());
     PrinterContext printer(info);
     CDC& dc = printer.dc;
-    
+    dc.m_bPrinting = TRUE;
     OnBeginPrinting(&dc, &info);
     bool succeeded = true;
     {
