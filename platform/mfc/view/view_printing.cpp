@@ -116,12 +116,11 @@ private:
     bool m_ended = false;
 };
 
-/// Deals with the printer of a command line: its device context; false where it can't be made.
-bool take_printer(const CCommandLineInfo& command, CPrintInfo& info) {
-    info.m_bDirect = TRUE;
-    if (command.m_nShellCommand != CCommandLineInfo::FilePrintTo) return true;
+/// Takes the printer that a command line names, if it does; false where it isn't there.
+bool take_printer(const CCommandLineInfo* command, CPrintInfo& info) {
+    if (command == nullptr || command->m_nShellCommand != CCommandLineInfo::FilePrintTo) return true;
     info.m_pPD->m_pd.hDC =
-        ::CreateDCW(command.m_strDriverName, command.m_strPrinterName, command.m_strPortName, nullptr);
+        ::CreateDCW(command->m_strDriverName, command->m_strPrinterName, command->m_strPortName, nullptr);
     return info.m_pPD->m_pd.hDC != nullptr;
 }
 
@@ -151,11 +150,10 @@ BOOL CView::DoPreparePrinting(CPrintInfo* pInfo) {
 void CView::OnFilePrint() {
     CPrintInfo info;
     const MSG* message = GetCurrentMessage();
-    const CCommandLineInfo* command = AfxGetApp()->m_pCmdInfo;
     if (message != nullptr && message->message == WM_COMMAND &&
         LOWORD(message->wParam) == ID_FILE_PRINT_DIRECT)
         info.m_bDirect = TRUE;
-    if (command != nullptr && !take_printer(*command, info)) {
+    if (!take_printer(AfxGetApp()->m_pCmdInfo, info)) {
         AfxMessageBox(IDS_PRINT_FAILED);
         return;
     }

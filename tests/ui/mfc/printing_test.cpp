@@ -12,8 +12,9 @@ namespace {
 /// What the replaced functions do.
 struct System {
     bool hasPrinter = true;
-    bool accepts = true;    ///< the print dialog
-    DWORD chosenFlags = 0;  ///< PD_PAGENUMS, PD_PRINTTOFILE
+    bool exchanges = false;  ///< another printer is chosen
+    bool accepts = true;     ///< the print dialog
+    DWORD chosenFlags = 0;   ///< PD_PAGENUMS, PD_PRINTTOFILE
     WORD from = 0, to = 0;
     int startDoc = 7, startPage = 1, endPage = 1, endDoc = 1;
     BOOL(CALLBACK* abortProc)(HDC, int) = nullptr;
@@ -53,6 +54,10 @@ BOOL WINAPI printDialog(PRINTDLGW* data) {
                 std::to_string(data->nFromPage) + "-" + std::to_string(data->nToPage) + ")";
     note(what);
     if (!printer.hasPrinter || (isQuestion && !printer.accepts)) return FALSE;
+    if (printer.exchanges) {
+        ::GlobalFree(data->hDevNames);
+        data->hDevNames = namesOf(L"winspool", L"Another", L"LPT1:");
+    }
     if (data->hDevNames == nullptr) data->hDevNames = namesOf(L"winspool", L"Plotter", L"LPT9:");
     if (data->hDevMode == nullptr) data->hDevMode = modeOf(3);
     data->Flags |= printer.chosenFlags;
@@ -412,10 +417,15 @@ TEST_F(Printing, TheDialogTellsWhatWasChosen) {
     EXPECT_EQ(chosen.CreatePrinterDC(), nullptr);
     EXPECT_EQ(chosen.GetDevMode(), nullptr);
     EXPECT_TRUE(chosen.GetDeviceName().IsEmpty());
+    ASSERT_TRUE(chosen.GetDefaults());
+    EXPECT_EQ(chosen.GetDeviceName(), L"Plotter");
+    ::DeleteDC(chosen.m_pd.hDC);
     printer.chosenFlags = PD_PAGENUMS | PD_COLLATE;
     printer.from = 2;
     printer.to = 9;
+    take();
     ASSERT_EQ(chosen.DoModal(), IDOK);
+    EXPECT_EQ(take().at(0).substr(0, 6), "dialog") << "after the defaults were asked for, too";
     EXPECT_EQ(chosen.GetDriverName(), L"winspool");
     EXPECT_EQ(chosen.GetDeviceName(), L"Plotter");
     EXPECT_EQ(chosen.GetPortName(), L"LPT9:");
@@ -443,7 +453,18 @@ TEST_F(Printing, TheApplicationKeepsItsPrinter) {
     EXPECT_EQ(take(), (Heard{"default printer", "setup"}));
     app.OnFilePrintSetup();
     EXPECT_EQ(take(), Heard{"setup"});
+    CDC chosen;
+    printer.exchanges = true;
+    app.OnFilePrintSetup();
+    printer.exchanges = false;
+    take();
+    ASSERT_TRUE(app.CreatePrinterDC(chosen));
+    EXPECT_EQ(take(), Heard{"context winspool Another LPT1: 3"}) << "the one chosen last";
+    PRINTDLGW kept = {};
+    ASSERT_TRUE(app.GetPrinterDeviceDefaults(&kept));
     app.SelectPrinter(namesOf(L"other", L"Printer", L"X:"), modeOf(1));
+    EXPECT_EQ(::GlobalFlags(kept.hDevNames), static_cast<UINT>(GMEM_INVALID_HANDLE));
+    EXPECT_EQ(::GlobalFlags(kept.hDevMode), static_cast<UINT>(GMEM_INVALID_HANDLE));
     CDC dc;
     ASSERT_TRUE(app.CreatePrinterDC(dc));
     EXPECT_EQ(take(), Heard{"context other Printer X: 1"});
