@@ -55,8 +55,10 @@ BOOL WINAPI printDialog(PRINTDLGW* data) {
     note(what);
     if (!printer.hasPrinter || (isQuestion && !printer.accepts)) return FALSE;
     if (printer.exchanges) {
+        // Made before the former one goes, so that it lies elsewhere.
+        const HGLOBAL another = namesOf(L"winspool", L"Another", L"LPT1:");
         ::GlobalFree(data->hDevNames);
-        data->hDevNames = namesOf(L"winspool", L"Another", L"LPT1:");
+        data->hDevNames = another;
     }
     if (data->hDevNames == nullptr) data->hDevNames = namesOf(L"winspool", L"Plotter", L"LPT9:");
     if (data->hDevMode == nullptr) data->hDevMode = modeOf(3);
