@@ -78,8 +78,8 @@ void fill(CMenu& menu, CMenu& tabs, const KeyedFrame& keyed, const Subject& subj
                     reinterpret_cast<UINT_PTR>(tabs.m_hMenu),
                     LoadToolkitString(IDS_PANE_MENU_TAB_WITH, L"合并为选项卡(&T)"));
     menu.AppendMenu(MF_SEPARATOR);
-    add(menu, kAutoHide, IDS_PANE_MENU_AUTO_HIDE, L"自动隐藏(&A)",
-        subject.isHidden || subject.stop->CanAutoHide(), subject.isHidden);
+    add(menu, kAutoHide, IDS_PANE_MENU_AUTO_HIDE, L"自动隐藏(&A)", subject.stop->CanAutoHide() != FALSE,
+        subject.isHidden);
     add(menu, kClose, IDS_PANE_MENU_CLOSE, L"关闭(&C)", content.CanBeClosed() != FALSE);
 }
 
