@@ -27,7 +27,6 @@ IMPLEMENT_DYNAMIC(CDrawingWindow, CMDIChildWndEx)
 BEGIN_MESSAGE_MAP(CDrawingWindow, CMDIChildWndEx)
     ON_WM_CREATE()
     ON_WM_CLOSE()
-    ON_WM_DESTROY()
     ON_WM_SETFOCUS()
     ON_WM_MDIACTIVATE()
     ON_WM_SYSCOMMAND()
@@ -79,12 +78,6 @@ void CDrawingWindow::OnClose() {
     GiveUpPicking();
     m_desk.TakeTyped();
     if (MayClose()) DestroyWindow();
-}
-
-void CDrawingWindow::OnDestroy() {
-    // Where the system makes another window active first, this is not the one in front any more.
-    if (GetMDIFrame()->MDIGetActive() == this) m_desk.DrawingActivated(nullptr);
-    CMDIChildWndEx::OnDestroy();
 }
 
 void CDrawingWindow::OnSetFocus(CWnd*) { m_view.SetFocus(); }

@@ -65,7 +65,6 @@ public:
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
-    afx_msg void OnDestroy();
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnMDIActivate(BOOL activate, CWnd* coming, CWnd* going);
     afx_msg void OnSysCommand(UINT command, LPARAM lParam);

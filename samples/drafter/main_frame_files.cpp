@@ -150,7 +150,6 @@ void CMainFrame::OnDropFiles(HDROP drop) {
     const std::vector<CString> files = TakeDroppedFiles(drop);
     if (!IsWindowEnabled() || isPicking()) return;
     SetForegroundWindow();
-    m_palettes.TakeTyped();
     for (const CString& file : files) {
         if (const UINT problem = WhyNoDrawing(file))
             tell(problem, file);

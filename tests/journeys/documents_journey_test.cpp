@@ -252,6 +252,14 @@ TEST_F(Documents, WhatIsTypedInAPaletteGoesToTheDrawingThatItWasTypedFor) {
     drafter->replaceText(item(properties(), IDC_LINETYPE_SCALE), L"8");
     EXPECT_NE(drafter->chooseTab(L"three.dxf").x, -1);
     EXPECT_TRUE(become({L"one.dxf*", L"two.dxf*", L"three.dxf"}));
+    // By a file that is dropped, which leaves the focus where it is.
+    drafter->click(drafter->view(), {4, 4});
+    drafter->key('A', true);
+    drafter->replaceText(item(properties(), IDC_LINETYPE_SCALE), L"9");
+    ASSERT_TRUE(DropOn(drafter->frame(), {m_paths[0]}));
+    EXPECT_TRUE(become({L"one.dxf*", L"two.dxf*", L"three.dxf*"}));
+    EXPECT_TRUE(isInFront(L"one.dxf*"));
+    EXPECT_TRUE(isShown(IDC_LINETYPE_SCALE, L"7.0000")) << "its own";
 }
 
 TEST_F(Documents, TheMiddleButtonAndTheSignCloseATab) {
@@ -332,6 +340,38 @@ TEST_F(Documents, ClosingTheProgramAsksForEachChangedDrawingAndCancelKeepsAll) {
     ASSERT_EQ(third->readDxf(m_paths[2].c_str()), kOdOk);
     EXPECT_EQ(firstOf(*first)->linetypeScale(), 2);
     EXPECT_EQ(firstOf(*third)->linetypeScale(), 1);
+}
+
+TEST_F(Documents, ClosingAllAsksFirstAndCancelKeepsAll) {
+    ASSERT_TRUE(go(L"two.dxf"));
+    scale(L"2");
+    drafter->key('F', false, true);
+    drafter->key('L');
+    HWND question = questionAbout(L"two.dxf");
+    ASSERT_NE(question, nullptr);
+    cancel(question);
+    EXPECT_EQ(drafter->drawings(), (Titles{L"one.dxf", L"two.dxf*", L"three.dxf"}));
+    // The same for a single one.
+    drafter->activate(drafter->frame());
+    drafter->key(VK_F4, true);
+    question = questionAbout(L"two.dxf");
+    ASSERT_NE(question, nullptr);
+    cancel(question);
+    EXPECT_EQ(drafter->drawings(), (Titles{L"one.dxf", L"two.dxf*", L"three.dxf"}));
+}
+
+TEST_F(Documents, WhatIsTypedCountsWhenItsDrawingIsClosed) {
+    ASSERT_TRUE(go(L"two.dxf"));
+    drafter->click(drafter->view(), {4, 4});
+    drafter->key('A', true);
+    ASSERT_TRUE(isShown(IDC_PANEL_TITLE, L"Line"));
+    drafter->replaceText(item(properties(), IDC_LINETYPE_SCALE), L"7");
+    // As the system asks it, without a command and without a click.
+    ::PostMessageW(drafter->drawing(), WM_CLOSE, 0, 0);
+    HWND question = questionAbout(L"two.dxf");
+    ASSERT_NE(question, nullptr);
+    cancel(question);
+    EXPECT_TRUE(become({L"one.dxf", L"two.dxf*", L"three.dxf"}));
 }
 
 TEST_F(Documents, AllAreSavedAndClosedByTheMenu) {
