@@ -298,4 +298,13 @@ TEST(SceneParagraphs, ALayersColorIsThatOfLettersByLayer) {
     EXPECT_EQ(drawn.text(2).style.color.colorIndex(), 7);
 }
 
+TEST(SceneParagraphs, TextsOfAnyLengthEnd) {
+    std::string words, marks;
+    for (int i = 0; i < 100000; ++i) words += "a ";
+    for (int i = 0; i < 20000; ++i) marks += "%%ua%%u";
+    EXPECT_EQ(Paragraphs(paragraph(words, "71 1|41 7")).scene.texts.size(), 10000u)
+        << "so many lines and no more";
+    EXPECT_TRUE(Drawn(text("50 0", marks.c_str())).scene.isCut);
+}
+
 }  // namespace
