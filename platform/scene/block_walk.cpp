@@ -12,13 +12,15 @@ namespace {
 constexpr int kMaximumDepth = 24;  // blocks within blocks
 constexpr std::size_t kEntityCost = 40;
 
-/// The entities as they lie: by their numbers, or by those that a table of the block gives in their place.
-std::vector<OdDbEntity*> inDrawOrder(const OdDbBlockTableRecord& block) {
-    std::vector<OdDbEntity*> entities = block.entities();
+OdSmartPtr<OdDbSortentsTable> orderOf(const OdDbBlockTableRecord& block) {
     const auto beside = block.extensionDictionary().open<OdDbDictionary>();
-    const auto table = beside ? beside->getAt(L"ACAD_SORTENTS").open<OdDbSortentsTable>() : nullptr;
-    if (!table) return entities;
-    const std::map<OdDbHandle, OdDbHandle> places = table->places();
+    return beside ? beside->getAt(L"ACAD_SORTENTS").open<OdDbSortentsTable>()
+                  : OdSmartPtr<OdDbSortentsTable>();
+}
+
+/// The entities by their numbers, or by those that a table of the block gives in their place.
+std::vector<OdDbEntity*> sorted(std::vector<OdDbEntity*> entities, const OdDbSortentsTable& table) {
+    const std::map<OdDbHandle, OdDbHandle> places = table.places();
     const auto placeOf = [&places](const OdDbEntity* entity) {
         const auto found = places.find(entity->handle());
         return found != places.end() ? found->second : entity->handle();
@@ -50,15 +52,19 @@ void DrawEntity(SceneWork& work, const OdDbEntity& entity, const SceneLevel& lev
 void DrawBlock(SceneWork& work, const OdDbObjectId& block, const SceneLevel& level) {
     const auto record = block.open<OdDbBlockTableRecord>();
     if (!record || level.depth > kMaximumDepth || work.isOver() || !work.enter(block)) return;
-    const auto draw = [&](const OdDbEntity* entity) {
-        SceneLevel inner = level;
-        if (level.entity.isNull()) inner.entity = entity->objectId();
-        DrawEntity(work, *entity, inner);
+    const auto draw = [&](const std::vector<OdDbEntity*>& entities) {
+        for (const OdDbEntity* entity : entities) {
+            if (!work.spend(kEntityCost)) return;
+            SceneLevel inner = level;
+            if (level.entity.isNull()) inner.entity = entity->objectId();
+            DrawEntity(work, *entity, inner);
+        }
     };
-    for (const OdDbEntity* entity : inDrawOrder(*record)) {
-        if (!work.spend(kEntityCost)) break;
-        draw(entity);
-    }
+    const auto order = orderOf(*record);
+    if (!order)
+        draw(record->entities());
+    else if (work.spend(record->entities().size()))
+        draw(sorted(record->entities(), *order));
     work.leave(block);
 }
 

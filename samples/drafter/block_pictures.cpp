@@ -1,12 +1,14 @@
 #include "block_pictures.h"
 
 #include "scene_painter.h"
+#include "screen_scene.h"
 
 void DrawBlockPictures(CImageList& pictures, OdDbDatabase& drawing, const std::vector<BlockRow>& blocks,
                        int size) {
     pictures.DeleteImageList();
     pictures.Create(size, size, ILC_COLOR24, static_cast<int>(blocks.size()), 1);
     CWindowDC screen(nullptr);
+    const SceneOptions options = ScreenSceneOptions();
     for (const BlockRow& block : blocks) {
         CDC memory;
         CBitmap bitmap;
@@ -14,7 +16,7 @@ void DrawBlockPictures(CImageList& pictures, OdDbDatabase& drawing, const std::v
         bitmap.CreateCompatibleBitmap(&screen, size, size);
         CBitmap* const former = memory.SelectObject(&bitmap);
         memory.FillSolidRect(CRect(0, 0, size, size), kDrawingPaper);
-        const Scene scene = BuildScene(drawing, block.id);
+        const Scene scene = BuildScene(drawing, block.id, options);
         ScenePlace place;
         place.size = CSize(size, size);
         place.Fit(scene.extents());

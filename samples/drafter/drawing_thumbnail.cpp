@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "scene_painter.h"
+#include "screen_scene.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ struct DeleteBitmap {
 static_assert(kThumbnailWidth % 4 == 0, "the rows have no bytes to fill them up");
 
 std::string DrawingThumbnail(OdDbDatabase& drawing) {
-    const Scene scene = BuildScene(drawing, drawing.modelSpaceId());
+    const Scene scene = BuildScene(drawing, drawing.modelSpaceId(), ScreenSceneOptions());
     if (scene.extents().isEmpty()) return {};
     const Image image = emptyImage();
     void* bits = nullptr;

@@ -124,6 +124,16 @@ bool areIn(const SceneExtents& window, const Points& points) {
                        [&](const OdGePoint2d& point) { return isIn(window, point); });
 }
 
+/// Whether all of a piece lies in a window that its clip lets be seen.
+template <class Points>
+bool isSeenIn(const SceneExtents& window, const Scene& scene, int clip, const Points& points) {
+    if (clip == kNoClip) return areIn(window, points);
+    SceneExtents seen;
+    for (const OdGePoint2d& point : points) seen.add(point);
+    seen.cut(scene.clipExtents(clip));
+    return seen.isEmpty() || (isIn(window, seen.low) && isIn(window, seen.high));
+}
+
 }  // namespace
 
 std::array<OdGePoint2d, 4> TextBox(const SceneText& text) {
@@ -160,8 +170,10 @@ std::set<OdDbObjectId> EntitiesInside(const Scene& scene, const SceneExtents& wi
         const auto place = isInside.emplace(entity, true).first;
         place->second = place->second && inside;
     };
-    for (const ScenePath& path : scene.paths) note(path.entity, areIn(window, path.points));
-    for (const SceneText& text : scene.texts) note(text.entity, areIn(window, TextBox(text)));
+    for (const ScenePath& path : scene.paths)
+        note(path.entity, isSeenIn(window, scene, path.clip, path.points));
+    for (const SceneText& text : scene.texts)
+        note(text.entity, isSeenIn(window, scene, text.clip, TextBox(text)));
     std::set<OdDbObjectId> found;
     for (const auto& [entity, inside] : isInside)
         if (inside && !entity.isNull()) found.insert(entity);

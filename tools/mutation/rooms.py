@@ -49,7 +49,7 @@ ROOMS = {
         Room("platform/ktut", ("platform/ktut",), ("ktut_test",), ("ktut_test",), 90),
         Room("platform/ktrx", ("platform/ktrx",), (), ("ui_standin_test", "ui_host_test"), 90),
         Room("platform/standin", ("platform/standin",), ("standin_core_test",), ("standin_core_test", "ui_standin_test"), 90),
-        Room("platform/scene", ("platform/scene",), ("scene_test",), ("scene_test", "standin_core_test"), 90),
+        Room("platform/scene", ("platform/scene",), ("scene_test", "standin_core_test"), (), 90),
         Room("platform/drawing", ("platform/drawing",), ("drawing_test",), (), 90),
         Room("platform/mfc", ("platform/mfc",), ("mfc_core_test",), _programs("tests/ui/mfc"), 80),
     )

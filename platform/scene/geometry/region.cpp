@@ -2,6 +2,14 @@
 
 #include <algorithm>
 
+#include "scene.h"
+
+namespace {
+
+constexpr std::size_t kBoxesForOnePoint = 16;  // comparisons of boxes that are the work of one point
+
+}  // namespace
+
 bool IsWithin(const Boundary& boundary, const OdGePoint2d& point) {
     bool within = false;
     for (std::size_t i = 0, last = boundary.size() - 1; i < boundary.size(); last = i++) {
@@ -12,15 +20,23 @@ bool IsWithin(const Boundary& boundary, const OdGePoint2d& point) {
     return within;
 }
 
-std::vector<int> NestingOf(const std::vector<Boundary>& boundaries) {
-    std::vector<int> depths;
-    for (const Boundary& inner : boundaries) {
-        int depth = 0;
+std::vector<int> NestingOf(const std::vector<Boundary>& boundaries,
+                           const std::function<bool(std::size_t)>& spend) {
+    std::vector<SceneExtents> boxes(boundaries.size());
+    for (std::size_t i = 0; i < boundaries.size(); ++i)
+        for (const OdGePoint2d& point : boundaries[i]) boxes[i].add(point);
+    std::vector<int> depths(boundaries.size(), 0);
+    for (std::size_t i = 0; i < boundaries.size(); ++i) {
+        if (!spend(boundaries.size() / kBoxesForOnePoint)) break;
         // A corner may lie on the other boundary; the middle of a side rarely does as well.
+        const Boundary& inner = boundaries[i];
         const OdGePoint2d at = inner.size() > 1 ? (inner[0] + inner[1]) * 0.5 : OdGePoint2d{};
-        for (const Boundary& outer : boundaries)
-            if (&outer != &inner && IsWithin(outer, at)) ++depth;
-        depths.push_back(depth);
+        for (std::size_t k = 0; k < boundaries.size(); ++k) {
+            const SceneExtents& box = boxes[k];
+            if (k == i || at.x < box.low.x || at.x > box.high.x || at.y < box.low.y || at.y > box.high.y)
+                continue;
+            if (spend(boundaries[k].size()) && IsWithin(boundaries[k], at)) ++depths[i];
+        }
     }
     return depths;
 }

@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kGreatestDegree = 25;
 constexpr int kDeepest = 9;  // halvings of one span
+constexpr std::size_t kMostPoints = 1'000'000;
 
 /// A point with its weight; the coordinates are multiplied by the weight.
 struct Weighted {
@@ -47,7 +48,7 @@ void appendSpan(std::vector<OdGePoint3d>& points, const Curve& curve, double u, 
     // An S crosses its chord in the middle.
     for (const double part : {0.25, 0.75})
         isFlat = isFlat && distanceToChord(curve(u + (v - u) * part), from, to) <= tolerance;
-    if (depth >= kDeepest || (isFlat && depth > 0)) {
+    if (depth >= kDeepest || (isFlat && depth > 0) || points.size() > kMostPoints) {
         points.push_back(to);
         return;
     }

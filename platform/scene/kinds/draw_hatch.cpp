@@ -60,7 +60,7 @@ Boundary boundaryOf(const OdDbHatchLoop& loop, double tolerance) {
 }
 
 /// The boundaries that count by the hatch's style for islands.
-std::vector<Boundary> boundariesOf(const OdDbHatch& hatch, double tolerance) {
+std::vector<Boundary> boundariesOf(const OdDbHatch& hatch, double tolerance, SceneWork& work) {
     constexpr std::size_t kFewest = 3;
     std::vector<Boundary> all;
     for (const OdDbHatchLoop& loop : hatch.loops()) {
@@ -70,7 +70,8 @@ std::vector<Boundary> boundariesOf(const OdDbHatch& hatch, double tolerance) {
     const OdDbHatchStyle style = hatch.style();
     if (style == OdDbHatchStyle::kOddParity) return all;
     const int deepest = style == OdDbHatchStyle::kOutermost ? 1 : 0;
-    const std::vector<int> depths = NestingOf(all);
+    const std::vector<int> depths =
+        NestingOf(all, [&work](std::size_t amount) { return work.spend(amount); });
     std::vector<Boundary> counting;
     for (std::size_t i = 0; i < all.size(); ++i)
         if (depths[i] <= deepest) counting.push_back(std::move(all[i]));
@@ -158,7 +159,7 @@ void DrawHatch(const OdDbEntity& entity, EntityPen& pen) {
     const auto* hatch = As<OdDbHatch>(entity);
     if (hatch == nullptr || pen.work().drawing().getFILLMODE() == 0) return;
     const EntityPen inPlane = pen.inPlaneOf(entity);
-    const std::vector<Boundary> boundaries = boundariesOf(*hatch, inPlane.tolerance());
+    const std::vector<Boundary> boundaries = boundariesOf(*hatch, inPlane.tolerance(), pen.work());
     std::size_t corners = 0;
     for (const Boundary& boundary : boundaries) corners += boundary.size();
     if (boundaries.empty() || !pen.work().spend(corners)) return;

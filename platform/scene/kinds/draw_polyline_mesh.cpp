@@ -34,8 +34,13 @@ void drawPolyface(const OdDb2dPolyline& polyline, const EntityPen& pen) {
     edges.draw(pen);
 }
 
+/// How many points a net has each way.
+struct NetSize {
+    std::size_t rows, columns;
+};
+
 /// The counts of the net's points: those of the smooth surface where there is one.
-std::pair<std::size_t, std::size_t> netOf(const OdDb2dPolyline& polyline) {
+NetSize netOf(const OdDb2dPolyline& polyline) {
     const OdGroupList& groups = polyline.groups();
     const bool isSmooth = groups.integer(75) != 0;
     const std::int64_t rows = groups.integer(isSmooth ? 73 : 71),
@@ -46,7 +51,8 @@ std::pair<std::size_t, std::size_t> netOf(const OdDb2dPolyline& polyline) {
 
 void drawNet(const OdDb2dPolyline& polyline, const EntityPen& pen) {
     const OdArray<OdDbVertex*> vertices = polyline.vertices();
-    const auto [rows, columns] = netOf(polyline);
+    const NetSize net = netOf(polyline);
+    const std::size_t rows = net.rows, columns = net.columns;
     const std::int64_t flags = polyline.groups().integer(70);
     if (rows == 0 || columns == 0 || vertices.size() / columns < rows) return;
     std::vector<OdGePoint3d> points;

@@ -84,7 +84,8 @@ void DrawSingleLine(const OdDbText& text, const OdString& words, const EntityPen
     if ((generation & kUpsideDown) != 0) placed.up = placed.up * -1;
     const EntityPen inPlane = pen.inPlaneOf(text);
     inPlane.text(placed);
-    for (const TextMark& mark : decoded.marks) drawMark(placed, mark, inPlane);
+    for (const TextMark& mark : decoded.marks)
+        if (pen.work().spend(decoded.letters.size())) drawMark(placed, mark, inPlane);
 }
 
 void DrawTextLine(const OdDbEntity& entity, EntityPen& pen) {

@@ -76,6 +76,7 @@ void DrawLinetypeMarks(const EntityPen& pen, const ScenePath& path) {
     for (double start = 0; start < length && pen.work().spend(1); start += repeat)
         for (const PatternMark& mark : pattern.marks) {
             Place place;
-            if (placeAt(path.points, start + ends[mark.dash], place)) drawMark(flat, mark, place);
+            if (pen.work().spend(path.points.size()) && placeAt(path.points, start + ends[mark.dash], place))
+                drawMark(flat, mark, place);
         }
 }

@@ -24,7 +24,8 @@ std::vector<ParagraphRun> wordsOf(const Paragraph& paragraph) {
         for (std::size_t at = 0; at < run.text.size();) {
             std::size_t end = std::min(run.text.find(L' ', at), run.text.size());
             while (end < run.text.size() && run.text[end] == L' ') ++end;
-            words.push_back(run);
+            words.emplace_back();
+            words.back().format = run.format;
             words.back().text = run.text.substr(at, end - at);
             at = end;
         }

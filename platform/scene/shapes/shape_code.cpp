@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int kDeepest = 8;  // shapes within shapes
-constexpr std::size_t kMostPoints = 20000;
+constexpr int kDeepest = 8;                 // shapes within shapes
+constexpr std::size_t kMostSteps = 100000;  // bytes followed and points drawn, of one shape
 
 std::string lowered(std::string text) {
     for (char& c : text)
@@ -53,7 +53,7 @@ private:
 };
 
 void Tracer::put(const OdGePoint2d& point) {
-    if (++m_count > kMostPoints) return;
+    if (++m_count > kMostSteps) return;
     if (m_lines.empty() || m_lines.back().empty()) {
         begin();
         m_lines.back().push_back(m_at);
@@ -169,7 +169,7 @@ void Tracer::run(const std::string& code, int depth) {
     if (depth > kDeepest) return;
     std::size_t at = 0;
     bool skips = false;
-    while (at < code.size() && m_count <= kMostPoints) {
+    while (at < code.size() && ++m_count <= kMostSteps) {
         const auto byte = static_cast<unsigned char>(code[at++]);
         if (byte == 0) return;
         // Vertical writing alone takes what follows 14.

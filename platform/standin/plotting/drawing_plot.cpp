@@ -1,18 +1,48 @@
 #include "plotting/drawing_plot.h"
 
 #include <algorithm>
+#include <map>
 
-#include "scene_builder.h"
+#include "scene_options.h"
 
 namespace {
 
 constexpr double kStampHeight = 2.5;  // millimetres, of capitals
 constexpr double kStampPlace = 5;     // millimetres from the left and the lower edge
 
-Scene plottedScene(OdDbDatabase& drawing, const OdDbObjectId& block) {
-    SceneBuilder builder(drawing, SceneUse::kPaper);
-    builder.addBlock(block);
-    return builder.take();
+/// Widths of texts by the advances of their letters, each of which is asked for once.
+class PlotTextWidths {
+public:
+    explicit PlotTextWidths(const PlotFaces& faces) : m_faces(faces) {}
+
+    /// In the height of capitals.
+    double of(const SceneFont& font, std::wstring_view text) {
+        constexpr double kEm = 1000;
+        const PlotFace face = m_faces(font);
+        std::map<wchar_t, double>& advances = m_advances[face.name];
+        double width = 0;
+        for (const wchar_t letter : text) {
+            const auto [place, isNew] = advances.try_emplace(letter, 0.0);
+            if (isNew) place->second = face.source(static_cast<char32_t>(letter)).advance;
+            width += place->second;
+        }
+        return width / kEm / kCapitalShare;
+    }
+
+private:
+    const PlotFaces& m_faces;
+    std::map<std::string, std::map<wchar_t, double>> m_advances;
+};
+
+Scene plottedScene(OdDbDatabase& drawing, const OdDbObjectId& block, const PlotFaces& faces = {}) {
+    SceneOptions options;
+    options.use = SceneUse::kPaper;
+    PlotTextWidths widths(faces);
+    if (faces)
+        options.textWidth = [&widths](const SceneFont& font, std::wstring_view text) {
+            return widths.of(font, text);
+        };
+    return BuildScene(drawing, block, options);
 }
 
 OdDbObjectId modelSpace(OdDbDatabase& drawing) {
@@ -58,13 +88,13 @@ void DrawingPlot::addModel(const SceneExtents& area, const OdDbPlotSettings& set
     // A line on the edge keeps its whole width.
     constexpr double kEdge = 1.5;  // points
     page.clip({low.x - kEdge, low.y - kEdge}, {high.x + kEdge, high.y + kEdge});
-    PlotScene(m_file, page, plottedScene(m_drawing, modelSpace(m_drawing)), place, m_faces, m_look);
+    PlotScene(m_file, page, plottedScene(m_drawing, modelSpace(m_drawing), m_faces), place, m_faces, m_look);
     page.restoreState();
 }
 
 void DrawingPlot::addLayout(const OdDbLayout& layout, const OdDbPlotSettings& settings) {
     const OdDbObjectId block = layout.getBlockTableRecordId();
-    const Scene scene = plottedScene(m_drawing, block);
+    const Scene scene = plottedScene(m_drawing, block, m_faces);
     const PaperPlace place = PlaceLayout(settings, scene.extents());
     PdfPage& page = m_file.addPage(place.width, place.height);
     m_last = &page;

@@ -241,4 +241,42 @@ TEST_F(HitTest, ASelectionIsReplacedAddedToOrLessened) {
     EXPECT_EQ(SelectionAfter({a}, {}, true), (Set{a}));
 }
 
+TEST_F(HitTest, LinesOfOnePathAreHitEachByItselfAndIslandsAreNoArea) {
+    const OdDbObjectId id = addLine(0, 0, 1, 0);
+    Scene shown;
+    ScenePath path;
+    path.entity = id;
+    path.points = {{0, 0}, {10, 0}, {0, 5}, {10, 5}};
+    path.breaks = {2};
+    shown.paths = {path};
+    EXPECT_EQ(EntityAt(shown, {5, 5}, kReach), id);
+    EXPECT_TRUE(EntityAt(shown, {5, 2.5}, kReach).isNull()) << "nothing joins the two lines";
+    EXPECT_TRUE(EntitiesTouching(shown, window(4, 2, 6, 3)).empty());
+    path.filled = true;
+    path.points = {{0, 0}, {20, 0}, {20, 20}, {0, 20}, {5, 5}, {15, 5}, {15, 15}, {5, 15}};
+    path.breaks = {4};
+    shown.paths = {path};
+    EXPECT_EQ(EntityAt(shown, {2.5, 10}, kReach), id);
+    EXPECT_TRUE(EntityAt(shown, {10, 10}, kReach).isNull());
+    EXPECT_EQ(EntitiesTouching(shown, window(2, 2, 3, 3)).size(), 1u);
+    EXPECT_TRUE(EntitiesTouching(shown, window(9, 9, 11, 11)).empty());
+}
+
+TEST_F(HitTest, WhatAClipHidesIsNotHit) {
+    const OdDbObjectId id = addLine(0, 0, 1, 0);
+    Scene shown;
+    shown.clips = {{{{0, -5}, {5, -5}, {5, 5}, {0, 5}}, kNoClip}};
+    ScenePath path;
+    path.entity = id;
+    path.points = {{-10, 0}, {10, 0}};
+    path.clip = 0;
+    shown.paths = {path};
+    EXPECT_EQ(EntityAt(shown, {2, 0}, kReach), id);
+    EXPECT_TRUE(EntityAt(shown, {8, 0}, kReach).isNull());
+    EXPECT_TRUE(EntitiesTouching(shown, window(7, -1, 9, 1)).empty());
+    EXPECT_EQ(EntitiesTouching(shown, window(4, -1, 9, 1)).size(), 1u);
+    EXPECT_EQ(EntitiesInside(shown, window(-1, -6, 6, 6)).size(), 1u) << "all that is seen of it lies inside";
+    EXPECT_TRUE(EntitiesInside(shown, window(1, -6, 6, 6)).empty());
+}
+
 }  // namespace

@@ -184,4 +184,12 @@ TEST(SceneHatches, BoundariesThatSayNothingAreNothing) {
     EXPECT_TRUE(Drawn(hatch("|92 1|93 1|72 9|10 0|20 0|97 0", "|75 0|98 0", "1")).paths().empty());
 }
 
+TEST(SceneHatches, ManyBoundariesAreNestedInTime) {
+    std::string loops = square(0, 1000);
+    for (int i = 0; i < 3000; ++i) loops += square(1 + i * 0.1, 1 + i * 0.1 + 0.05);
+    const Drawn drawn(hatch(loops, "|75 1|76 1|98 0", "1"));
+    EXPECT_FALSE(drawn.scene.isCut);
+    EXPECT_EQ(drawn.path().breaks.size(), 3000u);
+}
+
 }  // namespace

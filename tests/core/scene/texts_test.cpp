@@ -298,4 +298,17 @@ TEST(SceneParagraphs, ALayersColorIsThatOfLettersByLayer) {
     EXPECT_EQ(drawn.text(2).style.color.colorIndex(), 7);
 }
 
+TEST(SceneParagraphs, TextsOfAnyLengthEnd) {
+    std::string words, marks;
+    for (int i = 0; i < 30000; ++i) words += "a ";
+    for (int i = 0; i < 3000; ++i) marks += "%%ua%%u";
+    EXPECT_EQ(Paragraphs(paragraph(words, "71 1|41 7")).scene.texts.size(), 10000u)
+        << "so many lines and no more";
+    const OdDbDatabasePtr drawing = drawingOf({.entities = text("50 0", marks.c_str())});
+    SceneOptions options;
+    options.workLimit = 1'000'000;
+    EXPECT_TRUE(BuildScene(*drawing, drawing->modelSpaceId(), options).isCut)
+        << "each line costs the whole text";
+}
+
 }  // namespace

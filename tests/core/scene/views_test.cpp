@@ -236,6 +236,13 @@ TEST(SceneShapes, AShapeIsTurnedStretchedAndMayHoldAnother) {
     EXPECT_TRUE(shape("\x07\x02", "2 CALL").paths.empty()) << "shapes that call each other end";
 }
 
+TEST(SceneShapes, AShapeThatCallsItselfWithoutEndEnds) {
+    std::string code;
+    for (int i = 0; i < 500; ++i) code += "\x07\x01";
+    EXPECT_TRUE(shape(code).paths.empty());
+    EXPECT_LE(shape("\x10" + code).paths.at(0).points.size(), 100001u);
+}
+
 TEST(SceneShapes, AShapeThatNoFileHasIsCounted) {
     EXPECT_EQ(shape("\x20", "2 OTHER").notDrawn.at("SHAPE"), 1);
     EXPECT_EQ(Drawn("0 SHAPE|8 0|10 0|20 0|30 0|40 1|2 FIRST").scene.notDrawn.at("SHAPE"), 1);

@@ -257,6 +257,28 @@ TEST_F(DrawingPlots, ALayoutShowsItsSheetAndWhatItsViewportsShow) {
     EXPECT_TRUE(isWhite(pictureOf(save(without)).at(90 * kMm, 60 * kMm))) << "the viewport is off";
 }
 
+TEST_F(DrawingPlots, ParagraphsBreakByTheLettersOfTheFile) {
+    // Letters of 0.6 em in capitals of 0.72: six of them and a blank of half the width are 5.4 capitals wide.
+    const auto lines = [&](double width) {
+        OdDbDatabasePtr drawing(new OdDbDatabase);
+        OdSmartPtr<OdDbMText> text(new OdDbMText);
+        text->setContents(L"AAA BBB");
+        text->setTextHeight(10);
+        text->setWidth(width);
+        blockOf(*drawing, L"*Model_Space")
+            .open<OdDbBlockTableRecord>()
+            ->appendOdDbEntity(OdDbEntityPtr(text.get()));
+        DrawingPlot plot = plotOf(drawing);
+        SceneExtents area;
+        area.add({-10, -50});
+        area.add({100, 50});
+        plot.addModel(area, *layoutOf(*drawing, L"*Model_Space"), false);
+        const std::string words = outputOf("pdftotext -layout " + save(plot) + " -");
+        return std::count(words.begin(), words.end(), '\n');
+    };
+    EXPECT_EQ(lines(55) + 1, lines(53));
+}
+
 TEST_F(DrawingPlots, EachLayoutIsAPageInTheOrderOfTheTabs) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     const auto layouts = LayoutsOnPaper(*drawing);

@@ -194,6 +194,71 @@ TEST_F(Plotted, ASolidIsFilledAndAPointIsARoundDot) {
     EXPECT_TRUE(has(content, "0 1 0 rg\n0 0 m\n10 0 l\n0 10 l\nf\n")) << content;
 }
 
+TEST_F(Plotted, AnAreaWithIslandsIsFilledByOddParityAndLinesOfOnePathAreApart) {
+    ScenePath area;
+    area.filled = true;
+    area.points = {{0, 0}, {9, 0}, {0, 9}, {1, 1}, {3, 1}, {1, 3}};
+    area.breaks = {3};
+    Scene shown;
+    shown.paths = {area};
+    std::string content = plot(shown);
+    EXPECT_TRUE(has(content, "0 0 m\n9 0 l\n0 9 l\n1 1 m\n3 1 l\n1 3 l\nf*\n")) << content;
+    shown.paths[0].filled = false;
+    content = plot(shown);
+    EXPECT_TRUE(has(content, "0 0 m\n9 0 l\n0 9 l\n1 1 m\n3 1 l\n1 3 l\nS\n")) << content;
+    EXPECT_TRUE(has(content, "0 J\n"));
+    shown.paths[0].points = {{0, 0}, {9, 0}, {4, 4}, {4, 4}};
+    shown.paths[0].breaks = {2};
+    EXPECT_TRUE(has(plot(shown), "1 J\n")) << "a dot has round ends, or it were nothing";
+}
+
+TEST_F(Plotted, AnAreaThatHidesIsAsWhiteAsThePaperAndLiesWhereItsPlaceIs) {
+    ScenePath area;
+    area.filled = area.wipes = true;
+    area.points = {{0, 0}, {9, 0}, {0, 9}};
+    area.style.color = numbered(1);
+    SceneText text;
+    text.text = L"A";
+    text.height = 5;
+    Scene shown;
+    shown.paths = {area};
+    shown.texts = {text, text};
+    shown.texts[1].pathsBelow = 1;
+    const std::string content = plot(shown);
+    EXPECT_TRUE(has(content, "1 1 1 rg\n0 0 m\n"));
+    const std::size_t fill = content.find("\nf\n"), first = content.find("BT"), second = content.rfind("BT");
+    EXPECT_LT(first, fill);
+    EXPECT_LT(fill, second);
+}
+
+TEST_F(Plotted, APieceIsSeenThroughItsClipAndThoseAroundIt) {
+    ScenePath line;
+    line.points = {{0, 0}, {9, 0}};
+    Scene shown;
+    shown.clips = {{{{1, 1}, {2, 1}, {2, 2}}, kNoClip}, {{{3, 3}, {4, 3}, {4, 4}}, 0}};
+    shown.paths = {line, line, line};
+    shown.paths[1].clip = 1;
+    const std::string content = plot(shown);
+    const std::size_t inner = content.find("q\n3 3 m\n4 3 l\n4 4 l\nh\nW* n\n1 1 m\n2 1 l\n2 2 l\nh\nW* n\n");
+    ASSERT_NE(inner, std::string::npos) << content;
+    const std::size_t stroke = content.find("S\n", inner), end = content.find("Q\n", inner);
+    EXPECT_LT(stroke, end);
+    EXPECT_EQ(content.find("W*", end), std::string::npos) << "the last line is seen whole again";
+}
+
+TEST_F(Plotted, AFittedTextTakesUpItsWidthAndABackwardOneRunsToTheLeft) {
+    SceneText text;
+    text.text = L"AB";
+    text.height = 7.2;
+    text.fitWidth = 24;
+    Scene shown;
+    shown.texts = {text};
+    // Two letters of 0.6 em are 1.2 wide: 20 units an em fit, for an em of 10.
+    EXPECT_TRUE(has(plot(shown), "20 0 0 10 0 0 Tm")) << plot(shown);
+    shown.texts[0].widthFactor = -1;
+    EXPECT_TRUE(has(plot(shown), "-20 0 0 10 0 0 Tm")) << plot(shown);
+}
+
 TEST_F(Plotted, LayersThatAreOffFrozenOrNotPlottedAreLeftOut) {
     addLine(0, 0, 1, 1);
     OdDbLayerTablePtr layers;
