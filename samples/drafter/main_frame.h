@@ -9,6 +9,7 @@
 #include "drawing_view.h"
 #include "extensions.h"
 #include "layouts_menu.h"
+#include "messages.h"
 #include "options.h"
 #include "palettes.h"
 #include "picker_bar.h"
@@ -132,6 +133,7 @@ private:
     bool saveTo(const CString& path, const OdDxfForm& form);
     /// Locks the file that the drawing is to be saved to, unless it is locked already; false if another
     /// program has it, which is told.
+    LossChoice askLosses(const CString& path, OdDb::DwgVersion version);
     bool lockForSaving(const CString& path, CDrawingLock& lock);
     /// Saves under the drawing's name, asking for one where that is needed; false if it was not saved.
     bool saveDrawing();

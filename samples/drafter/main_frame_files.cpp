@@ -78,6 +78,11 @@ bool CMainFrame::saveTo(const CString& path, const OdDxfForm& form) {
         KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION);
         return false;
     }
+    switch (askLosses(path, form.version)) {
+        case LossChoice::kCancel: return false;
+        case LossChoice::kSaveAs: return saveAs();
+        case LossChoice::kSave: break;
+    }
     CDrawingLock lock;
     if (!lockForSaving(path, lock)) return false;
     if (m_document->Save(path, form)) {
@@ -96,6 +101,15 @@ bool CMainFrame::saveTo(const CString& path, const OdDxfForm& form) {
         text.Format(IDS_WRITE_REFUSED, path.GetString(), reason.GetString());
     KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION);
     return false;
+}
+
+/// Tells what the file would not hold, unless the user knows it already.
+LossChoice CMainFrame::askLosses(const CString& path, OdDb::DwgVersion version) {
+    std::vector<OdDxfLoss> losses;
+    if (!m_document->LosesMore(version, losses)) return LossChoice::kSave;
+    const LossChoice choice = AskLosses(*this, path, losses);
+    if (choice == LossChoice::kSave) m_document->AcceptLosses(version, losses);
+    return choice;
 }
 
 bool CMainFrame::lockForSaving(const CString& path, CDrawingLock& lock) {
