@@ -1,7 +1,7 @@
-// Reads drawings and writes them again, as standard input asks: a line for each of the file to read, the file to
-// write, the version's number (1009 to 1032; 0 for that of the file) and "text", "binary", or "nothing" for
-// reading alone, parted by tabs. Answers with a line for each: "read", the version, the count of mends and that
-// of lost kinds, or "refused", the line and why.
+// Reads drawings and writes them again, as standard input asks: a line for each of the file to read, the file
+// to write, the version's number (1009 to 1032; 0 for that of the file) and "text", "binary", or "nothing"
+// for reading alone, parted by tabs. Answers with a line for each: "read", the version, the count of mends
+// and that of lost kinds, or "refused", the line and why.
 #include <od_db.h>
 
 #include <cstdio>
