@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "drawing_thumbnail.h"
 
 namespace {
@@ -72,6 +74,23 @@ bool CDraftDocument::Save(const wchar_t* path, const OdDxfForm& form) {
     m_written = whenWritten(path);
     m_isNew = false;
     return true;
+}
+
+bool CDraftDocument::LosesMore(OdDb::DwgVersion version, std::vector<OdDxfLoss>& losses) const {
+    losses = m_drawing->lossesIn(version);
+    const auto isKnown = [&](const OdDxfLoss& loss) {
+        return std::any_of(m_acceptedLosses.begin(), m_acceptedLosses.end(), [&](const OdDxfLoss& known) {
+            return known.kind == loss.kind && known.type == loss.type && known.becomes == loss.becomes &&
+                   known.count >= loss.count;
+        });
+    };
+    return version != m_acceptedVersion ? !losses.empty()
+                                        : !std::all_of(losses.begin(), losses.end(), isKnown);
+}
+
+void CDraftDocument::AcceptLosses(OdDb::DwgVersion version, const std::vector<OdDxfLoss>& losses) {
+    m_acceptedVersion = version;
+    m_acceptedLosses = losses;
 }
 
 bool CDraftDocument::IsFileNewer() const { return m_written != 0 && whenWritten(path().c_str()) > m_written; }

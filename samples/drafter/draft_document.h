@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <kh_system.h>
 #include <od_db.h>
@@ -34,6 +35,11 @@ public:
     bool Save(const wchar_t* path, const OdDxfForm& form);
     /// The same in the form that the file has, or that of a new one.
     bool Save(const wchar_t* path) { return Save(path, m_form); }
+    /// Whether a file of this version would lack something that the user wasn't told of yet; `losses` becomes
+    /// all that it would lack.
+    bool LosesMore(OdDb::DwgVersion version, std::vector<OdDxfLoss>& losses) const;
+    /// Takes note that the user knows of these losses in this version.
+    void AcceptLosses(OdDb::DwgVersion version, const std::vector<OdDxfLoss>& losses);
     /// The form of the drawing's file; 2018 as text for a new drawing.
     const OdDxfForm& form() const { return m_form; }
     /// Whether the page of options for exchange files says binary, and setting that; whoever listens hears of
@@ -64,6 +70,8 @@ private:
     OdDbDatabasePtr m_drawing;
     OdDxfReading m_reading;
     OdDxfForm m_form{OdDb::kDHL_1032};
+    OdDb::DwgVersion m_acceptedVersion = OdDb::kDHL_Unknown;
+    std::vector<OdDxfLoss> m_acceptedLosses;
     std::unique_ptr<CUndoHistory> m_history;
     unsigned long long m_written = 0;  ///< when the file was, as far as we know; 0 without one
     CDrawingLock m_lock;

@@ -12,6 +12,7 @@
 #include "drawing_desk.h"
 #include "drawing_picker.h"
 #include "drawing_view.h"
+#include "messages.h"
 
 #include <standin_plot_view.h>
 
@@ -107,6 +108,8 @@ private:
     /// What a file of the drawing is called at first.
     CString proposedName() const;
     bool saveTo(const CString& path, const OdDxfForm& form);
+    /// Tells what the file would not hold, unless the user knows it already.
+    LossChoice askLosses(const CString& path, OdDb::DwgVersion version);
     /// Locks the file that the drawing is to be saved to, unless it is locked already; false if another
     /// program or window has it, which is told.
     bool lockForSaving(const CString& path, CDrawingLock& lock);

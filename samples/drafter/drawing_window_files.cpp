@@ -6,7 +6,6 @@
 
 #include "ask_file.h"
 #include "drawing_chooser.h"
-#include "messages.h"
 #include "recent_drawings.h"
 #include "resource.h"
 
@@ -32,6 +31,11 @@ bool CDrawingWindow::saveTo(const CString& path, const OdDxfForm& form) {
         tell(IDS_SAVE_READ_ONLY, path);
         return false;
     }
+    switch (askLosses(path, form.version)) {
+        case LossChoice::kCancel: return false;
+        case LossChoice::kSaveAs: return saveAs();
+        case LossChoice::kSave: break;
+    }
     CDrawingLock lock;
     if (!lockForSaving(path, lock)) return false;
     if (m_document->Save(path, form)) {
@@ -50,6 +54,14 @@ bool CDrawingWindow::saveTo(const CString& path, const OdDxfForm& form) {
         text.Format(IDS_WRITE_REFUSED, path.GetString(), reason.GetString());
     KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION);
     return false;
+}
+
+LossChoice CDrawingWindow::askLosses(const CString& path, OdDb::DwgVersion version) {
+    std::vector<OdDxfLoss> losses;
+    if (!m_document->LosesMore(version, losses)) return LossChoice::kSave;
+    const LossChoice choice = AskLosses(m_desk.DialogOwner(), path, losses);
+    if (choice == LossChoice::kSave) m_document->AcceptLosses(version, losses);
+    return choice;
 }
 
 bool CDrawingWindow::lockForSaving(const CString& path, CDrawingLock& lock) {

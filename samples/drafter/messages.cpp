@@ -8,6 +8,7 @@
 #include <ktui/host/message_box.h>
 #include <ktui/tips/messages/ktui_task_dialog.h>
 
+#include "loss_texts.h"
 #include "resource.h"
 
 namespace {
@@ -157,6 +158,21 @@ void TellMended(CWnd& parent, const CString& path, const OdDxfReading& reading) 
     CString text;
     text.Format(IDS_MENDED, path.GetString(), list.GetString());
     warn(parent, IDS_MENDED_HEADING, text);
+}
+
+LossChoice AskLosses(CWnd& parent, const CString& path, const std::vector<OdDxfLoss>& losses) {
+    CString text;
+    text.Format(IDS_LOSS_EXPLAINED, path.GetString(), LossText(losses).GetString());
+    Question question(textOf(IDS_LOSS_HEADING));
+    question.SetContent(plain(text));
+    question.SetMainIcon(warningIcon());
+    question.Offer(IDS_LOSS_SAVE_COMMAND, IDS_LOSS_SAVE_EXPLAINED);
+    question.Offer(IDS_LOSS_SAVE_AS_COMMAND, IDS_LOSS_SAVE_AS_EXPLAINED);
+    switch (question.Ask(parent)) {
+        case 0: return LossChoice::kSave;
+        case 1: return LossChoice::kSaveAs;
+        default: return LossChoice::kCancel;
+    }
 }
 
 NewerFileChoice AskNewerFile(CWnd& parent, const CString& path) {

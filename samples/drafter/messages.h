@@ -1,9 +1,12 @@
 // What the drafter asks and tells: every message that is more than a line.
 #pragma once
 
+#include <vector>
+
 #include <afxwin.h>
 
 #include <od_dxf_error.h>
+#include <od_dxf_loss.h>
 #include <od_dxf_reading.h>
 
 /// What to do with a drawing that was changed.
@@ -30,6 +33,12 @@ void TellUnreadable(CWnd& parent, const CString& path, const OdDbDxfError& error
 
 /// Tells what was wrong in the drawing at `path`, which was opened all the same, and where.
 void TellMended(CWnd& parent, const CString& path, const OdDxfReading& reading);
+
+/// What to do with a drawing of which the chosen version can't hold all.
+enum class LossChoice { kSave, kSaveAs, kCancel };
+
+/// Tells what a file at `path` would not hold of the drawing, and asks what to do.
+LossChoice AskLosses(CWnd& parent, const CString& path, const std::vector<OdDxfLoss>& losses);
 
 /// What to do when the file on disk was written after the drawing was opened.
 enum class NewerFileChoice { kOverwrite, kSaveAs, kCancel };

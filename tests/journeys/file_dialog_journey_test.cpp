@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "journey_fixture.h"
+#include "message_text.h"
 
 #include <commctrl.h>
 
@@ -31,13 +32,19 @@ protected:
         drafter->key('A');
         return drafter->waitForDialogOf(drafter->frame());
     }
-    void saveAs(int form) {
+    /// Answers Save As with the target in this form.
+    void answerSaveAs(int form) {
         HWND dialog = openSaveAs();
         ASSERT_NE(dialog, nullptr);
         drafter->pick(item(dialog, kTypeBox), form);
         drafter->replaceText(item(dialog, kNameBox), target);
         drafter->key(VK_RETURN);
         EXPECT_TRUE(drafter->waitUntilGone(dialog));
+    }
+    /// The same, and saves although the version can't hold all.
+    void saveAs(int form) {
+        answerSaveAs(form);
+        EXPECT_NE(drafter->dismissMessage(drafter->frame()), L"");
         EXPECT_TRUE(titleHas(L"file dialog target.dxf"));
     }
     bool titleHas(const std::wstring& words) {
@@ -87,6 +94,45 @@ TEST_F(FileDialogs, TheFormIsChosenAndKeptOnSavingAgain) {
     picture("journey-save-as");
     cancel(dialog);
     std::filesystem::remove(std::filesystem::path(target).replace_extension(L".bak"));
+}
+
+TEST_F(FileDialogs, WhatAVersionCannotHoldIsToldBeforeTheDrawingIsSaved) {
+    answerSaveAs(kR12Text);
+    HWND question = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(question, nullptr);
+    picture("journey-losses");
+    const std::wstring words = ui_test::message_text(question);
+    EXPECT_NE(words.find(L"can't hold all of the drawing"), std::wstring::npos) << words;
+    EXPECT_NE(words.find(L"file dialog target.dxf"), std::wstring::npos) << words;
+    EXPECT_NE(words.find(L"LWPOLYLINE: 11 become POLYLINE"), std::wstring::npos) << words;
+    EXPECT_NE(words.find(L"MTEXT: 1 become TEXT"), std::wstring::npos) << words;
+    EXPECT_NE(words.find(L"Lineweights left out: 26"), std::wstring::npos) << words;
+    EXPECT_NE(words.find(L"Settings of DIMENSION left out: 13"), std::wstring::npos) << words;
+    EXPECT_FALSE(std::filesystem::exists(target)) << "nothing is written before the answer";
+    drafter->key(VK_ESCAPE);
+    EXPECT_TRUE(drafter->waitUntilGone(question));
+    EXPECT_TRUE(titleHas(L"bracket.dxf"));
+    EXPECT_FALSE(std::filesystem::exists(target));
+    // The second command asks for the version again.
+    answerSaveAs(kR12Text);
+    question = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(question, nullptr);
+    drafter->key(VK_DOWN);
+    drafter->key(VK_RETURN);
+    EXPECT_TRUE(drafter->waitUntilGone(question));
+    HWND dialog = drafter->waitForDialogOf(drafter->frame());
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(item(dialog, kNameBox), nullptr);
+    cancel(dialog);
+    EXPECT_FALSE(std::filesystem::exists(target));
+    // The first one saves, and what the user knows isn't told again.
+    saveAs(kR12Text);
+    EXPECT_TRUE(std::filesystem::exists(target));
+    drafter->activate(drafter->frame());
+    drafter->key('S', true);
+    const auto backup = std::filesystem::path(target).replace_extension(L".bak");
+    EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(backup); }));
+    std::filesystem::remove(backup);
 }
 
 TEST_F(FileDialogs, ADrawingIsOpenedToBeLookedAt) {

@@ -1,6 +1,7 @@
 #include "od_r12_names.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -57,15 +58,25 @@ std::wstring legalForm(std::wstring_view name) {
     return legal;
 }
 
-/// `legal`, or with a number at its end if that is taken.
-std::wstring freeForm(const std::wstring& legal, const std::unordered_set<std::wstring>& taken) {
-    std::wstring form = legal;
-    for (int number = 2; taken.count(odFoldedName(form.c_str())); ++number) {
-        const std::wstring end = L"_" + std::to_wstring(number);
-        form = legal.substr(0, kLongestName - end.size()) + end;
+/// The legal names of one table that are taken, and what was made of each that was wanted again.
+class TakenNames {
+public:
+    void take(const std::wstring& name) { m_taken.insert(odFoldedName(name.c_str())); }
+    /// `legal`, or with a number at its end if that is taken.
+    std::wstring freeForm(const std::wstring& legal) {
+        std::wstring form = legal;
+        int& number = m_numbers.emplace(odFoldedName(legal.c_str()), 1).first->second;
+        while (!m_taken.insert(odFoldedName(form.c_str())).second) {
+            const std::wstring end = L"_" + std::to_wstring(++number);
+            form = legal.substr(0, kLongestName - end.size()) + end;
+        }
+        return form;
     }
-    return form;
-}
+
+private:
+    std::unordered_set<std::wstring> m_taken;  // folded
+    std::unordered_map<std::wstring, int> m_numbers;
+};
 
 /// The legal and the whole name that stand in extended data; both empty if they don't.
 struct BothNames {
@@ -145,21 +156,20 @@ OdRecordNames odR12Names(const OdDbStore& store) {
     OdRecordNames names;
     for (int table = 0; table < kTableCount; ++table) {
         const auto kind = static_cast<OdTableKind>(table);
-        std::unordered_set<std::wstring> taken;
+        TakenNames taken;
         std::vector<const OdDbSymbolTableRecord*> illegal;
         for (const OdDbSymbolTableRecord* record : store.records(kind)) {
             if (record->isErased()) continue;
             const std::wstring folded = odFoldedName(record->getName());
             if (odIsR12Name(record->getName().view()) || store.namesOfR12File[kind].count(folded))
-                taken.insert(folded);
+                taken.take(folded);
             else
                 illegal.push_back(record);
         }
         for (const OdDbSymbolTableRecord* record : illegal) {
             if (names.find(kind, record->getName())) continue;
-            const std::wstring legal = freeForm(legalForm(record->getName().view()), taken);
-            taken.insert(odFoldedName(legal.c_str()));
-            names.add(kind, record->getName(), OdString(legal));
+            const std::wstring legal = legalForm(record->getName().view());
+            names.add(kind, record->getName(), OdString(taken.freeForm(legal)));
         }
     }
     return names;
