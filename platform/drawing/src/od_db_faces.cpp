@@ -9,18 +9,7 @@ OdGePoint3d OdDbFace::pointAt(int corner) const {
     return m_groups.point(10 + corner);
 }
 
-OdArray<OdGePoint3d> OdDbSubDMesh::vertices() const {
-    OdArray<OdGePoint3d> all;
-    OdGroupCursor cursor(m_groups);
-    OdGroup group;
-    while (cursor.next(group)) {
-        if (group.code == 10) all.append({group.real, 0, 0});
-        if (all.isEmpty()) continue;
-        if (group.code == 20) all[all.length() - 1].y = group.real;
-        if (group.code == 30) all[all.length() - 1].z = group.real;
-    }
-    return all;
-}
+OdArray<OdGePoint3d> OdDbSubDMesh::vertices() const { return pointsInOrder(m_groups); }
 
 std::vector<std::vector<int>> OdDbSubDMesh::faces() const {
     constexpr int kFaceListSize = 93, kEdgeCount = 94, kEntry = 90;

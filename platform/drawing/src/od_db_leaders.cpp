@@ -2,18 +2,7 @@
 
 #include "od_group_cursor.h"
 
-OdArray<OdGePoint3d> OdDbLeader::vertices() const {
-    OdArray<OdGePoint3d> all;
-    OdGroupCursor cursor(m_groups);
-    OdGroup group;
-    while (cursor.next(group)) {
-        if (group.code == 10) all.append({group.real, 0, 0});
-        if (all.isEmpty()) continue;
-        if (group.code == 20) all[all.length() - 1].y = group.real;
-        if (group.code == 30) all[all.length() - 1].z = group.real;
-    }
-    return all;
-}
+OdArray<OdGePoint3d> OdDbLeader::vertices() const { return pointsInOrder(m_groups); }
 
 namespace {
 

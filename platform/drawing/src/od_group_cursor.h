@@ -2,6 +2,8 @@
 // place.
 #pragma once
 
+#include "od_array.h"
+#include "od_ge.h"
 #include "od_group_list.h"
 
 class OdGroupCursor {
@@ -27,3 +29,17 @@ private:
     std::uint32_t m_at = 0;
     std::uint32_t m_end;
 };
+
+/// The points whose coordinates have the codes 10, 20 and 30, in the order of the file.
+inline OdArray<OdGePoint3d> pointsInOrder(const OdGroupList& groups) {
+    OdArray<OdGePoint3d> all;
+    OdGroupCursor cursor(groups);
+    OdGroup group;
+    while (cursor.next(group)) {
+        if (group.code == 10) all.append({group.real, 0, 0});
+        if (all.isEmpty()) continue;
+        if (group.code == 20) all[all.length() - 1].y = group.real;
+        if (group.code == 30) all[all.length() - 1].z = group.real;
+    }
+    return all;
+}

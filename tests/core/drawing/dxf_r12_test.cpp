@@ -5,16 +5,6 @@
 
 #include "dxf_text.h"
 
-namespace {
-
-int occurrences(const std::string& text, const std::string& part) {
-    int count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
-    return count;
-}
-
-}  // namespace
-
 TEST(DxfR12, WidthsOfAFlatPolylineBecomeThoseOfItsVertices) {
     const std::string text = rewritten(
         withEntities(

@@ -55,6 +55,13 @@ inline constexpr OdDb::DwgVersion kAllVersions[] = {OdDb::kDHL_1009, OdDb::kDHL_
                                                     OdDb::kDHL_1015, OdDb::kDHL_1018, OdDb::kDHL_1021,
                                                     OdDb::kDHL_1024, OdDb::kDHL_1027, OdDb::kDHL_1032};
 
+/// How often `part` stands in a written text.
+inline int occurrences(const std::string& text, const std::string& part) {
+    int count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+    return count;
+}
+
 /// Whether the pairs occur one after the other in a written text.
 inline bool has(const std::string& text, const std::string& pairs) {
     std::string flat;

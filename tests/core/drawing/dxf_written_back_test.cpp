@@ -4,16 +4,6 @@
 
 #include "dxf_text.h"
 
-namespace {
-
-int occurrences(const std::string& text, const std::string& part) {
-    int count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
-    return count;
-}
-
-}  // namespace
-
 TEST(DxfComments, StandWhereTheyStoodBesideRecords) {
     const std::string text = rewritten(
         dxf("999|top\n999|second\n0|SECTION\n999|in between\n2|HEADER\n999|header\n9|$ACADVER\n1|AC1015\n"
