@@ -2,23 +2,11 @@
 
 #include <algorithm>
 
+#include "od_group_cursor.h"
+
 namespace {
 
 constexpr int kGreatestDegree = 10;
-
-/// All points whose x has `code`.
-OdArray<OdGePoint3d> points(const OdGroupList& groups, int code) {
-    OdArray<OdGePoint3d> all;
-    OdGroup group;
-    const std::uint32_t end = groups.ownEnd();
-    for (std::uint32_t at = 0; at < end && groups.read(at, group); at = group.end) {
-        if (group.code == code) all.append({group.real, 0, 0});
-        if (all.isEmpty()) continue;
-        if (group.code == code + 10) all[all.length() - 1].y = group.real;
-        if (group.code == code + 20) all[all.length() - 1].z = group.real;
-    }
-    return all;
-}
 
 OdArray<double> reals(const OdGroupList& groups, int code) {
     OdArray<double> all;
@@ -60,9 +48,9 @@ OdArray<double> OdDbSpline::knots() const { return reals(m_groups, 40); }
 
 OdArray<double> OdDbSpline::weights() const { return reals(m_groups, 41); }
 
-OdArray<OdGePoint3d> OdDbSpline::controlPoints() const { return points(m_groups, 10); }
+OdArray<OdGePoint3d> OdDbSpline::controlPoints() const { return pointsInOrder(m_groups, 10); }
 
-OdArray<OdGePoint3d> OdDbSpline::fitPoints() const { return points(m_groups, 11); }
+OdArray<OdGePoint3d> OdDbSpline::fitPoints() const { return pointsInOrder(m_groups, 11); }
 
 OdResult OdDbSpline::setControlPoints(int degree, const OdArray<OdGePoint3d>& controls) {
     if (degree < 1 || degree > kGreatestDegree || controls.length() <= degree) return kOdInvalidInput;

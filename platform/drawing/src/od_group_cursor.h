@@ -30,16 +30,16 @@ private:
     std::uint32_t m_end;
 };
 
-/// The points whose coordinates have the codes 10, 20 and 30, in the order of the file.
-inline OdArray<OdGePoint3d> pointsInOrder(const OdGroupList& groups) {
+/// The points whose coordinates have the codes `code`, `code` + 10 and `code` + 20, in the order of the file.
+inline OdArray<OdGePoint3d> pointsInOrder(const OdGroupList& groups, int code = 10) {
     OdArray<OdGePoint3d> all;
     OdGroupCursor cursor(groups);
     OdGroup group;
     while (cursor.next(group)) {
-        if (group.code == 10) all.append({group.real, 0, 0});
+        if (group.code == code) all.append({group.real, 0, 0});
         if (all.isEmpty()) continue;
-        if (group.code == 20) all[all.length() - 1].y = group.real;
-        if (group.code == 30) all[all.length() - 1].z = group.real;
+        if (group.code == code + 10) all[all.length() - 1].y = group.real;
+        if (group.code == code + 20) all[all.length() - 1].z = group.real;
     }
     return all;
 }
