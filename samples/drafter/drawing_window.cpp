@@ -119,7 +119,9 @@ LRESULT CDrawingWindow::OnPointer(WPARAM, LPARAM) {
 void CDrawingWindow::Refresh(bool keepPlace) {
     m_isOutdated = false;
     m_wasShown = true;
-    m_view.SetScene(BuildScene(drawing(), drawing().currentSpaceId()), keepPlace);
+    Scene scene = BuildScene(drawing(), drawing().currentSpaceId(), ScreenSceneOptions());
+    m_notice = UndrawnText(scene);
+    m_view.SetScene(std::move(scene), keepPlace);
     showTitle();
     m_desk.DrawingChanged(*this);
 }
@@ -145,6 +147,11 @@ CString CDrawingWindow::ShownName() const {
     CString untitled = textOf(IDS_UNTITLED);
     if (m_number > 1) untitled.Format(IDS_UNTITLED_NUMBER, m_number);
     return untitled;
+}
+
+CString CDrawingWindow::Notice() const {
+    const CString mended = MendedText(m_document->Reading());
+    return mended.IsEmpty() || m_notice.IsEmpty() ? mended + m_notice : mended + L" " + m_notice;
 }
 
 CString CDrawingWindow::Title() const {

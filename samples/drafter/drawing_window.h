@@ -40,6 +40,8 @@ public:
     CString ShownName() const;
     /// The same with marks for a drawing that is read-only or was changed.
     CString Title() const;
+    /// What was mended in the drawing and what of it isn't shown, for the status line; empty for nothing.
+    CString Notice() const;
 
     /// Shows the drawing as it is now. `keepPlace` leaves the view's place and the selection.
     void Refresh(bool keepPlace);
@@ -120,6 +122,7 @@ private:
     int m_number;
     CDrawingView m_view;
     unsigned m_firstPrompt = 0;
+    CString m_notice;  ///< what isn't shown
     bool m_isOutdated = false;
     bool m_wasShown = false;
 };

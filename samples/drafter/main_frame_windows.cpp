@@ -110,8 +110,7 @@ LRESULT CMainFrame::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void CMainFrame::GetMessageString(UINT id, CString& message) const {
     if (id == AFX_IDS_IDLEMESSAGE) {
-        message =
-            m_active != nullptr ? MendedText(m_active->document().Reading()) : textOf(IDS_NO_DRAWING_HINT);
+        message = m_active != nullptr ? m_active->Notice() : textOf(IDS_NO_DRAWING_HINT);
         if (!message.IsEmpty()) return;
     }
     CMDIFrameWndEx::GetMessageString(id, message);

@@ -332,4 +332,57 @@ TEST(ScenePictures, AWipeoutHidesWhatLiesBelowIt) {
     EXPECT_EQ(drawn.text(1).pathsBelow, 1u);
 }
 
+TEST(SceneDimensions, LettersNeverStandOnTheirHeadsAndMayBeLevel) {
+    const Drawn back = dimension("70 1|10 0|20 3|30 0|13 10|23 0|33 0|14 0|24 0|34 0");
+    EXPECT_NEAR(back.text().rotation, 0, 1e-9);
+    EXPECT_NEAR(dimension(std::string(kLevel) + "|50 90", "|73 1").text().rotation, 0, 1e-9);
+}
+
+TEST(SceneMultilines, JointsFillAndRoundCapsAreTheStyles) {
+    const auto drawn = [](const char* flags) {
+        const std::string pair = "|74 2|41 1|41 0|75 0|74 2|41 -1|41 0|75 0";
+        const std::string ahead = "|31 0|12 1|22 0|32 0|13 0|23 1|33 0";
+        return Drawn(Parts{
+            .entities =
+                "0 MLINE|8 0|100 AcDbMline|2 S|340 C0|40 1|70 0|71 1|72 3|73 2|10 0|20 0|30 0|11 0|21 0" +
+                ahead + pair + "|11 5|21 0" + ahead + pair + "|11 10|21 0" + ahead + pair,
+            .objects = std::string("0 MLINESTYLE|5 C0|330 0|100 AcDbMlineStyle|2 S|70 ") + flags +
+                       "|62 4|71 2|49 1|62 256|6 BYLAYER|49 -1|62 256|6 BYLAYER"});
+    };
+    EXPECT_EQ(drawn("0").paths().size(), 4u);
+    const Drawn joints = drawn("2");
+    ASSERT_EQ(joints.paths().size(), 5u);
+    EXPECT_TRUE(goesThrough(joints.path(4), {{5, -1}, {5, 1}}));
+    const Drawn filled = drawn("1");
+    ASSERT_EQ(filled.paths().size(), 6u);
+    EXPECT_TRUE(filled.path(0).filled);
+    EXPECT_EQ(filled.path(0).style.color.colorIndex(), 4);
+    EXPECT_TRUE(goesThrough(filled.path(0), {{0, -1}, {5, -1}, {5, 1}, {0, 1}}));
+    const Drawn round = drawn("64");
+    ASSERT_EQ(round.paths().size(), 5u);
+    EXPECT_LT(distanceTo(round.path(4), -1, 0), 0.01) << "outwards of the start";
+    EXPECT_LT(distanceTo(drawn("1024").path(4), 11, 0), 0.01);
+}
+
+TEST(ScenePictures, APictureThatIsNotShownHasNoNameAndAWipeoutAFrameByItsSetting) {
+    std::string hidden = kPicture;
+    hidden.replace(hidden.find("70 1"), 4, "70 0");
+    EXPECT_TRUE(Drawn(Parts{.entities = "0 IMAGE|8 0|100 AcDbRasterImage" + hidden,
+                            .objects = "0 IMAGEDEF|5 D0|330 0|100 AcDbRasterImageDef|1 site.png"})
+                    .texts()
+                    .empty());
+    const auto paths = [](const char* setting) {
+        return Drawn(Parts{.entities = "0 WIPEOUT|8 0|10 0|20 0|30 0|11 4|21 0|31 0|12 0|22 4|32 0|13 1|23 1",
+                           .objects =
+                               std::string(
+                                   "0 DICTIONARY|5 C|330 0|100 AcDbDictionary|3 ACAD_WIPEOUT_VARS|350 D9|0 "
+                                   "WIPEOUTVARIABLES|5 D9|330 C|70 ") +
+                               setting})
+            .paths()
+            .size();
+    };
+    EXPECT_EQ(paths("0"), 1u);
+    EXPECT_EQ(paths("1"), 2u);
+}
+
 }  // namespace

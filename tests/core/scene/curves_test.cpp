@@ -191,4 +191,11 @@ TEST(SceneCurves, PointMarksMayBeAShareOfTheView) {
     EXPECT_NEAR(height(), 2.5, 1e-12) << "of the drawing's own extents";
 }
 
+TEST(SceneCurves, ANormalFarFromZHasItsXAxisAcrossZ) {
+    // The normal's part along x is below the part along z: by the root of a half each, x stands across both.
+    const Drawn drawn("0 ARC|8 0|10 0|20 0|30 0|40 10|50 0|51 90|210 0.6|220 0|230 0.8");
+    EXPECT_TRUE(isAt(drawn.path().points.front(), 0, 10));
+    EXPECT_TRUE(isAt(drawn.path().points.back(), -8, 0));
+}
+
 }  // namespace

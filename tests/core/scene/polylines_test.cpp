@@ -160,4 +160,10 @@ TEST(ScenePolylines, ASolidAndATraceLieInTheirPlane) {
     EXPECT_EQ(outline.path().points.size(), 5u);
 }
 
+TEST(ScenePolylines, ASmoothMeshIsTheNetOfItsSurface) {
+    std::string entity = "0 POLYLINE|8 0|66 1|70 16|71 9|72 9|73 2|74 2|75 6";
+    for (int i = 0; i < 4; ++i) entity += netVertex(i % 2, i / 2);
+    EXPECT_EQ(Drawn(entity + "|0 SEQEND|8 0").path().points.size(), 8u);
+}
+
 }  // namespace

@@ -311,4 +311,13 @@ TEST(SceneParagraphs, TextsOfAnyLengthEnd) {
         << "each line costs the whole text";
 }
 
+TEST(SceneParagraphs, LettersMayBeSpacedAndSettingsOfAParagraphHoldOn) {
+    const Paragraphs spaced(paragraph("{\\T2;ab}c"));
+    EXPECT_NEAR(spaced.scene.texts.at(1).position.x, 14, 1e-9);
+    EXPECT_NEAR(spaced.scene.texts.at(0).widthFactor, 2, 1e-9);
+    const Paragraphs centred(paragraph("\\pqc;a\\Pb", "71 1|41 10"));
+    EXPECT_EQ(centred.scene.texts.at(1).horizontal, 1);
+    EXPECT_NEAR(centred.scene.texts.at(1).position.x, 15, 1e-9);
+}
+
 }  // namespace

@@ -2,6 +2,8 @@
 #include "../../../samples/drafter/scene_notice.h"
 #include "drafter_fixture.h"
 
+using namespace ui_test;
+
 TEST_F(DrafterTest, ADrawingThatIsShownWholeIsNotTalkedAbout) { EXPECT_TRUE(UndrawnText({}).IsEmpty()); }
 
 TEST_F(DrafterTest, WhatIsNotDrawnIsCountedByKind) {
