@@ -117,7 +117,6 @@ private:
     CDrawingWindow* show(std::unique_ptr<CDraftDocument> document);
     /// How many the next drawing without a file is.
     int nextNumber();
-    void startNew();
     void openEach(const std::vector<CString>& files, bool isReadOnly);
     /// Closes the drawing that the program began with if nothing was done to it.
     void leaveFirst();

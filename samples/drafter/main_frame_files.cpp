@@ -31,8 +31,7 @@ void tell(UINT id, const CString& path) {
 
 void CMainFrame::OpenAtStart(const std::vector<CString>& files) {
     // A message about a file has a drawing behind it.
-    startNew();
-    m_first = m_active;
+    m_first = show(std::make_unique<CDraftDocument>());
     openEach(files, false);
 }
 
@@ -56,10 +55,10 @@ bool CMainFrame::OpenDrawing(const CString& file, bool isReadOnly) {
         TellUnreadable(*this, path, error, m_active != nullptr ? m_active->ShownName() : CString());
         return false;
     }
+    leaveFirst();
     CDrawingWindow* const window = show(std::move(document));
     if (window == nullptr) return false;
     KeepRecent(path);
-    leaveFirst();
     const OdDxfReading& reading = window->document().Reading();
     if (reading.mendCount > 0) TellMended(*this, path, reading);
     return true;
@@ -84,16 +83,12 @@ int CMainFrame::nextNumber() {
 
 void CMainFrame::leaveFirst() {
     CDrawingWindow* const first = std::exchange(m_first, nullptr);
-    if (first == nullptr) return;
+    // The user may have closed it.
+    if (first == nullptr || std::ranges::count(drawings(), first) == 0) return;
     CDraftDocument& document = first->document();
     const bool isUntouched =
         document.path().isEmpty() && !document.history().CanUndo() && !document.history().CanRedo();
     if (isUntouched && !document.database()->isModified()) first->DestroyWindow();
-}
-
-void CMainFrame::startNew() {
-    auto document = std::make_unique<CDraftDocument>();
-    show(std::move(document));
 }
 
 void CMainFrame::OnFileNew() {

@@ -72,6 +72,11 @@ protected:
         space.appendOdDbEntity(OdDbEntityPtr(line.get()));
     }
 
+    /// Whether the room of the drawings has scroll bars of its own.
+    bool scrolls() const {
+        const HWND room = ::GetParent(drafter->drawing());
+        return (::GetWindowLongW(room, GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL)) != 0;
+    }
     std::wstring title() const { return textOf(drafter->frame()); }
     /// Whether the drawing of this title comes to the front, in the frame's title too.
     bool isInFront(const std::wstring& name) {
@@ -134,6 +139,7 @@ protected:
 TEST_F(Documents, ThreeOfTheCommandLineAreOpenAndKeysAndMouseGoFromOneToTheOther) {
     ASSERT_EQ(drafter->drawings(), (Titles{L"one.dxf", L"two.dxf", L"three.dxf"}));
     EXPECT_TRUE(isInFront(L"three.dxf"));
+    EXPECT_FALSE(scrolls());
     picture("journey-three-drawings");
     drafter->key(VK_TAB, true);
     EXPECT_TRUE(isInFront(L"one.dxf")) << "around the end";
@@ -269,15 +275,63 @@ TEST_F(Documents, TheMiddleButtonAndTheSignCloseATab) {
     drafter->middleClick(drafter->tabs(), second);
     EXPECT_TRUE(become({L"one.dxf", L"three.dxf"}));
     EXPECT_TRUE(isInFront(L"three.dxf")) << "the one in front stays";
+    EXPECT_FALSE(scrolls());
     EXPECT_FALSE(std::filesystem::exists(m_paths[1] + L".lock"));
     drafter->key(VK_F4, true);
     EXPECT_TRUE(become({L"one.dxf"}));
     EXPECT_TRUE(isInFront(L"one.dxf"));
+    EXPECT_FALSE(scrolls());
     // The sign stands at the right of the tab in front.
     const RECT strip = rectOf(drafter->tabs());
     for (int x = 20; x < strip.right - strip.left && drafter->drawing() != nullptr; x += 8)
         drafter->click(drafter->tabs(), {x, (strip.bottom - strip.top) / 2});
     EXPECT_TRUE(become({}));
+}
+
+TEST_F(Documents, TheEmptyDrawingOfTheStartGoesWithoutATrace) {
+    drafter.reset();
+    drafter = std::make_unique<Drafter>(L"");
+    EXPECT_TRUE(isInFront(L"Untitled"));
+    EXPECT_FALSE(scrolls());
+    ASSERT_TRUE(DropOn(drafter->frame(), {m_paths[0]}));
+    EXPECT_TRUE(isInFront(L"one.dxf"));
+    EXPECT_TRUE(become({L"one.dxf"}));
+    EXPECT_FALSE(scrolls());
+    drafter.reset();
+    drafter = std::make_unique<Drafter>(m_paths[0]);
+    EXPECT_TRUE(isInFront(L"one.dxf"));
+    EXPECT_TRUE(become({L"one.dxf"}));
+    EXPECT_FALSE(scrolls());
+    // Closed by the user, it is gone already.
+    drafter.reset();
+    drafter = std::make_unique<Drafter>(L"");
+    EXPECT_TRUE(isInFront(L"Untitled"));
+    drafter->activate(drafter->frame());
+    drafter->key(VK_F4, true);
+    EXPECT_TRUE(become({}));
+    ASSERT_TRUE(DropOn(drafter->frame(), {m_paths[0]}));
+    EXPECT_TRUE(become({L"one.dxf"}));
+    // One that was changed stays.
+    drafter.reset();
+    drafter = std::make_unique<Drafter>(L"");
+    EXPECT_TRUE(isInFront(L"Untitled"));
+    drafter->activate(drafter->frame());
+    drafter->pickByMouse(barPicker(IDC_LINE_WEIGHT), L"0.50 mm");
+    EXPECT_TRUE(isInFront(L"Untitled*"));
+    ASSERT_TRUE(DropOn(drafter->frame(), {m_paths[0]}));
+    EXPECT_TRUE(become({L"Untitled*", L"one.dxf"}));
+    EXPECT_FALSE(scrolls());
+}
+
+TEST_F(Documents, AStartOnAFileThatCannotBeReadTellsItAndBeginsWithAnEmptyDrawing) {
+    const std::wstring bad = scratchPath(L"no drawing.dxf");
+    std::ofstream(std::filesystem::path(bad)) << "this is no drawing\n";
+    drafter.reset();
+    drafter = std::make_unique<Drafter>(bad);
+    EXPECT_NE(drafter->dismissMessage(drafter->frame()).find(L"no drawing.dxf"), std::wstring::npos);
+    EXPECT_TRUE(isInFront(L"Untitled"));
+    EXPECT_EQ(drafter->drawings(), Titles{L"Untitled"});
+    std::filesystem::remove(bad);
 }
 
 TEST_F(Documents, AFileThatIsOpenAlreadyComesToTheFront) {
@@ -379,10 +433,11 @@ TEST_F(Documents, AllAreSavedAndClosedByTheMenu) {
     scale(L"2");
     ASSERT_TRUE(go(L"two.dxf"));
     scale(L"3");
+    ASSERT_TRUE(go(L"one.dxf*"));
     drafter->key('F', false, true);
     drafter->key('V');
     EXPECT_TRUE(become({L"one.dxf", L"two.dxf", L"three.dxf"}));
-    EXPECT_TRUE(isInFront(L"two.dxf")) << "the one in front stays";
+    EXPECT_TRUE(isInFront(L"one.dxf")) << "the one in front stays";
     drafter->key('F', false, true);
     drafter->key('L');
     EXPECT_TRUE(become({}));
@@ -542,6 +597,17 @@ TEST_F(Documents, APickWithoutADialogEndsWithItsDrawing) {
     EXPECT_TRUE(waitUntil([&] { return textOf(status) == idle; }));
     drafter->click(drafter->view(), {100, 100});
     EXPECT_EQ(drafter->drawings(), (Titles{L"one.dxf", L"two.dxf", L"three.dxf"})) << "nothing is inserted";
+    // It has ended even if the drawing stays after all.
+    scale(L"2");
+    ASSERT_TRUE(startPick());
+    drafter->key(VK_F4, true);
+    HWND question = questionAbout(L"one.dxf");
+    ASSERT_NE(question, nullptr);
+    cancel(question);
+    EXPECT_TRUE(waitUntil([&] { return textOf(status) == idle; }));
+    drafter->activate(drafter->frame());
+    drafter->key('Z', true);
+    EXPECT_TRUE(become({L"one.dxf", L"two.dxf", L"three.dxf"})) << "commands are served";
     ASSERT_TRUE(startPick());
     drafter->key(VK_F4, true);
     EXPECT_TRUE(become({L"two.dxf", L"three.dxf"}));

@@ -373,4 +373,32 @@ TEST_F(DocumentTabsTest, LoseNothingWhenTheFrameCloses) {
     frame = nullptr;
 }
 
+TEST_F(DocumentTabsTest, TheRoomOfDocumentsNeverScrolls) {
+    frame->EnableMDITabs(TRUE, TRUE, CMFCTabCtrl::LOCATION_TOP);
+    const auto scrolls = [&] {
+        return (::GetWindowLongW(frame->m_hWndMDIClient, GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL)) != 0;
+    };
+    Plan* first = open();
+    ui_test::pump();
+    EXPECT_FALSE(scrolls());
+    Plan* second = open();
+    ui_test::pump();
+    EXPECT_FALSE(scrolls());
+    first->OnCloseDocument();
+    first = second;
+    // The one behind goes before the system has arranged anything.
+    second = open();
+    first->OnCloseDocument();
+    ui_test::pump();
+    EXPECT_FALSE(scrolls()) << "one behind the others has gone";
+    Plan* third = open();
+    frame->MoveWindow(20, 20, 200, 150);
+    ui_test::pump();
+    EXPECT_FALSE(scrolls());
+    second->OnCloseDocument();
+    third->OnCloseDocument();
+    ui_test::pump();
+    EXPECT_FALSE(scrolls()) << "none is left";
+}
+
 }  // namespace documents_test
