@@ -1,3 +1,4 @@
+#include "od_comment_code.h"
 #include "od_db_store.h"
 
 namespace {
@@ -30,6 +31,14 @@ bool findXData(const OdGroupList& groups, const wchar_t* application, std::uint3
     }
     end = groups.size();
     return found;
+}
+
+/// Place of the comments at the end, or that end.
+std::uint32_t commentsBegin(const OdGroupList& groups) {
+    OdGroup group;
+    std::uint32_t at = groups.ownEnd();
+    while (groups.read(at, group) && group.code != kOdComment) at = group.end;
+    return at;
 }
 
 }  // namespace
@@ -120,6 +129,6 @@ void OdDbObject::setXData(const wchar_t* application, const OdGroupList& data) {
         if (m_store) m_store->needRecord(kRegAppTable, application);
     }
     std::uint32_t begin = m_groups.size(), body = 0, end = m_groups.size();
-    if (!findXData(m_groups, application, begin, body, end)) begin = end = m_groups.size();
+    if (!findXData(m_groups, application, begin, body, end)) begin = end = commentsBegin(m_groups);
     editGroups().replace(begin, end, whole);
 }

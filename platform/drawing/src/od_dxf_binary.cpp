@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "od_comment_code.h"
 #include "od_dxf_output.h"
 #include "od_dxf_scanner.h"
 
@@ -258,10 +259,9 @@ std::string odBinaryOfDxfText(std::string_view text, bool wideCodes) {
     std::string bytes(kMark);
     bytes.reserve(text.size());
     Output output(bytes, wideCodes);
-    constexpr int kComment = 999;
     OdDxfScanner scanner(text, nullptr, true);
     while (scanner.next()) {
-        for (const std::string_view comment : scanner.takeComments()) output.group(kComment, comment);
+        for (const std::string_view comment : scanner.takeComments()) output.group(kOdComment, comment);
         output.group(scanner.code(), scanner.value());
     }
     return bytes;

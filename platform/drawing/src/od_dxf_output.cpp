@@ -113,10 +113,12 @@ void OdDxfOutput::putGroup(const OdGroup& group) {
 
 void OdDxfOutput::beginRecord(OdDxfRecordKind kind, std::string_view type) {
     m_losses.beginRecord();
-    m_kind = kind;
     m_occurrences = 0;
-    if (type != m_type || m_own.empty()) m_own = odGroupRules(type);
+    if (type == m_type && kind == m_kind) return;
+    m_kind = kind;
     m_type = type;
+    m_own = odGroupRules(type);
+    m_heldOfType = m_held ? m_held->find(kind, type) : nullptr;
 }
 
 const OdGroupRule* OdDxfOutput::ruleAgainst(const OdGroup& group, OdDxfPart part) {
@@ -134,7 +136,7 @@ bool OdDxfOutput::leavesOut(const OdGroup& group, OdDxfPart part) {
     const OdGroupRule* rule = part == OdDxfPart::kObject ? nullptr : ruleAgainst(group, part);
     const bool lacksCode = isR12() && !odIsR12Code(group.code);
     if (!rule && !lacksCode) return false;
-    if (m_held && m_held->has(m_kind, group.code)) return false;
+    if (m_heldOfType && m_heldOfType->has(group.code)) return false;
     if (rule ? !saysNothing(group, *rule) : group.code != 100)
         m_losses.addOnce(rule ? rule->loss : OdDxfLossKind::kSetting,
                          rule && rule->loss != OdDxfLossKind::kSetting ? std::string_view() : m_type);

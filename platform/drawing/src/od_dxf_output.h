@@ -72,6 +72,7 @@ private:
     bool m_keepsMended = false;
     OdDxfLosses m_losses;
     const OdHeldCodes* m_held = nullptr;
+    const OdCodeSet* m_heldOfType = nullptr;
     OdDxfRecordKind m_kind = OdDxfRecordKind::kObject;
     std::string_view m_type;
     std::span<const OdGroupRule> m_common;

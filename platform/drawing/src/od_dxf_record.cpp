@@ -1,8 +1,8 @@
 #include "od_dxf_record.h"
 
-namespace {
+#include "od_comment_code.h"
 
-constexpr int kComment = 999;
+namespace {
 
 /// Whether a code stands in files for what the runtime keeps in another form, so that it says nothing about
 /// them.
@@ -37,7 +37,7 @@ bool OdDxfRecordReader::append(OdGroupList& groups) {
 
 void OdDxfRecordReader::appendComments(OdGroupList& groups) {
     for (const std::string_view comment : m_scanner.takeComments())
-        groups.addText(kComment, m_decoder.decode(comment));
+        groups.addText(kOdComment, m_decoder.decode(comment));
 }
 
 bool OdDxfRecordReader::takeOutOfEntity(OdDxfRecord& record) {
@@ -129,6 +129,7 @@ bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
     record.paperSpace = record.partsFollow = false;
     record.name.empty();
     record.namesForHandles.clear();
+    OdCodeSet& held = m_held.of(kind, record.type);
     m_markers = 0;
     m_inside = m_foreign = m_ownerTaken = false;
     while (m_scanner.next() && m_scanner.code() != 0) {
@@ -138,7 +139,7 @@ bool OdDxfRecordReader::read(OdDxfRecordKind kind, OdDxfRecord& record) {
         if (code == 102 && !m_foreign) m_inside = !m_scanner.word().empty() && m_scanner.word()[0] == '{';
         if (code == 100 && !m_inside && !m_foreign) ++m_markers;
         if (!m_inside && !m_foreign && (takeOut(kind, record) || takeNameForHandle(record))) continue;
-        if (!m_inside && !m_foreign && !isMadeHere(code)) m_held.add(kind, code);
+        if (!m_inside && !m_foreign && !isMadeHere(code)) held.add(code);
         if (!append(record.groups)) return false;
     }
     if (m_scanner.failed()) return false;

@@ -1,12 +1,13 @@
 #include "od_dxf_scanner.h"
 
+#include "od_comment_code.h"
+
 #include <charconv>
 #include <cmath>
 #include <limits>
 
 namespace {
 
-constexpr int kComment = 999;
 constexpr int kLeastCode = -5;
 constexpr int kGreatestCode = 1071;
 constexpr std::string_view kBinaryMark = "AutoCAD Binary DXF";
@@ -145,12 +146,12 @@ bool OdDxfScanner::next() {
         if (failed()) return false;
         if (!takeCode()) return !failed() && endOfText();
         if (takeLine(m_value)) {
-            if (m_code == kComment && m_keepsComments) m_comments.push_back(m_value);
+            if (m_code == kOdComment && m_keepsComments) m_comments.push_back(m_value);
             continue;
         }
         return mends() ? endOfText()
                        : fail(OdDxfErrorCode::kTruncated, L"The file ends before its end mark.");
-    } while (m_code == kComment);
+    } while (m_code == kOdComment);
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "od_group_list.h"
 
+#include "od_comment_code.h"
+
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -253,7 +255,8 @@ bool OdGroupList::findIn(const char* marker, int code, OdGroup& group) const {
 std::uint32_t OdGroupList::ownEnd() const {
     OdGroup group;
     std::uint32_t at = 0;
-    while (read(at, group) && group.code != kEmbeddedObject && !odIsExtendedDataCode(group.code))
+    while (read(at, group) && group.code != kEmbeddedObject && group.code != kOdComment &&
+           !odIsExtendedDataCode(group.code))
         at = group.end;
     return at;
 }

@@ -3,20 +3,41 @@
 #pragma once
 
 #include <bitset>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 
 /// What kind of record groups belong to.
 enum class OdDxfRecordKind { kObject, kEntity, kTableRecord, kBlock };
 
-class OdHeldCodes {
+/// Codes of groups, below those of extended data.
+class OdCodeSet {
 public:
-    void add(OdDxfRecordKind kind, int code) {
-        if (code >= 0 && code < kCodes) m_codes[static_cast<int>(kind)].set(static_cast<std::size_t>(code));
+    void add(int code) {
+        if (isIn(code)) m_codes.set(static_cast<std::size_t>(code));
     }
-    bool has(OdDxfRecordKind kind, int code) const {
-        return code >= 0 && code < kCodes && m_codes[static_cast<int>(kind)][static_cast<std::size_t>(code)];
-    }
+    bool has(int code) const { return isIn(code) && m_codes[static_cast<std::size_t>(code)]; }
 
 private:
     static constexpr int kCodes = 1000;
-    std::bitset<kCodes> m_codes[4];
+    static bool isIn(int code) { return code >= 0 && code < kCodes; }
+    std::bitset<kCodes> m_codes;
+};
+
+/// The codes that records of each type held.
+class OdHeldCodes {
+public:
+    /// Those of a type, to be added to.
+    OdCodeSet& of(OdDxfRecordKind kind, std::string_view type) {
+        return m_sets[static_cast<int>(kind)][std::string(type)];
+    }
+    /// Those of a type; null if the file had no such record.
+    const OdCodeSet* find(OdDxfRecordKind kind, std::string_view type) const {
+        const auto& sets = m_sets[static_cast<int>(kind)];
+        const auto found = sets.find(std::string(type));
+        return found == sets.end() ? nullptr : &found->second;
+    }
+
+private:
+    std::unordered_map<std::string, OdCodeSet> m_sets[4];
 };

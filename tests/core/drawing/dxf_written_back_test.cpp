@@ -45,6 +45,21 @@ TEST(DxfComments, GoToTheEndOfTheirRecordAndPartNoPoint) {
     EXPECT_TRUE(has(drawing->writeDxfBytes(), "21|4.0\n999|not the x\n999|last"));
 }
 
+TEST(DxfComments, StandBehindWhatIsAddedToTheirRecord) {
+    const OdDbDatabasePtr drawing = readDrawing(withEntities("0|CIRCLE\n8|0\n10|1\n20|2\n40|3\n999|note\n"));
+    auto* circle = firstEntity<OdDbCircle>(*drawing);
+    circle->setThickness(7);
+    OdGroupList data;
+    data.addText(1000, "mine");
+    circle->setXData(L"ACAD", data);
+    const std::string text = drawing->writeDxfBytes();
+    EXPECT_TRUE(has(text, "39|7.0\n1001|ACAD\n1000|mine\n999|note\n0|ENDSEC"));
+    EXPECT_EQ(rewritten(text), text);
+    const std::string block =
+        dxf(header("AC1009") + "0|SECTION\n2|BLOCKS\n0|BLOCK\n2|A\n999|note\n0|ENDBLK\n0|ENDSEC\n0|EOF");
+    EXPECT_EQ(rewritten(rewritten(block)), rewritten(block));
+}
+
 TEST(DxfComments, AreKeptInEveryVersionAndForm) {
     const OdDbDatabasePtr drawing =
         readDrawing(dxf("999|made by \\U+00C4rzte\n") +
@@ -175,4 +190,16 @@ TEST(DxfWithoutVersion, NamesStayAsTheyAre) {
                         "31\n10|0\n20|0\n0|ENDSEC\n0|EOF"));
     EXPECT_EQ(drawing->originalFileVersion(), OdDb::kDHL_1009);
     EXPECT_TRUE(has(drawing->writeDxfBytes(), "8|my long layer with blanks and more than 31"));
+}
+
+TEST(DxfWrittenBack, AGroupIsHeldByRecordsOfItsTypeAlone) {
+    // R14 has text styles by handle in dimension styles, and no layouts in the records of blocks.
+    const std::string text = rewritten(
+        dxf(header("AC1014") +
+            "0|SECTION\n2|TABLES\n0|TABLE\n2|DIMSTYLE\n5|9\n0|DIMSTYLE\n105|A0\n100|AcDbSymbolTableRecord\n"
+            "100|AcDbDimStyleTableRecord\n2|ours\n70|0\n340|11\n0|ENDTAB\n0|ENDSEC\n0|EOF"));
+    EXPECT_TRUE(has(text, "340|11"));
+    EXPECT_FALSE(has(text, "2|*Model_Space\n340|"));
+    EXPECT_EQ(text.find("2\r\n*Model_Space\r\n340"), std::string::npos);
+    EXPECT_EQ(rewritten(text), text);
 }
