@@ -1,6 +1,7 @@
 #include "drawing_window.h"
 
 #include <kh_font_list.h>
+#include <screen_scene.h>
 #include <standin_host.h>
 
 #include "dimension_style_dialog.h"
@@ -8,6 +9,7 @@
 #include "options.h"
 #include "properties_dialog.h"
 #include "resource.h"
+#include "scene_notice.h"
 #include "text_style_dialog.h"
 
 namespace {
