@@ -181,6 +181,25 @@ TEST_F(Files, WhatWasMendedInADrawingIsSaidAndTheDrawingOpens) {
         << odUtf8(textOf(status));
 }
 
+TEST_F(Files, WhatIsNotDrawnIsSaidInTheStatusLineOfItsDrawing) {
+    const std::filesystem::path odd = std::filesystem::path(first).replace_filename(L"odd.dxf");
+    std::ofstream(odd) << "0\nSECTION\n2\nENTITIES\n0\nREGION\n8\n0\n0\nREGION\n8\n0\n0\nBODY\n8\n0\n"
+                          "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n5\n21\n5\n0\nENDSEC\n0\nEOF\n";
+    open(odd.wstring());
+    ASSERT_TRUE(titleBegins(L"odd.dxf"));
+    const HWND status = ::GetDlgItem(drafter->frame(), 0xE801);
+    const auto says = [&](const wchar_t* words) {
+        return waitUntil([&] { return textOf(status).find(words) != std::wstring::npos; });
+    };
+    EXPECT_TRUE(says(L"3 objects are not shown: BODY 1, REGION 2")) << odUtf8(textOf(status));
+    drafter->activate(drafter->frame());
+    drafter->key('N', true);
+    ASSERT_TRUE(titleBegins(L"Untitled"));
+    EXPECT_TRUE(waitUntil([&] { return textOf(status).find(L"not shown") == std::wstring::npos; }));
+    drafter->key(VK_TAB, true);
+    EXPECT_TRUE(says(L"3 objects are not shown"));
+}
+
 TEST_F(Files, ABinaryDrawingStaysOneWhenItIsSaved) {
     const std::filesystem::path binary = std::filesystem::path(first).replace_filename(L"binary.dxf");
     {
