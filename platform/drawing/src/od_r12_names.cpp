@@ -201,6 +201,9 @@ void odTakeWholeNames(OdDbStore& store) {
                                       ? store.blockBegin(static_cast<OdDbBlockTableRecord&>(*record))
                                       : store.groupsOf(*record);
             const BothNames names = takeNames(groups);
+            // A damaged file may hold them more than once; the first are meant.
+            for (std::uint32_t size = groups.size(); takeNames(groups), groups.size() != size;)
+                size = groups.size();
             const bool isMeant = !names.whole.isEmpty() && record->getName().iCompare(names.legal) == 0;
             if (!isMeant || store.record(kind, names.whole)) continue;
             whole.add(kind, record->getName(), names.whole);
