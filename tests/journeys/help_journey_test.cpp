@@ -41,7 +41,9 @@ protected:
     }
     /// The page that was shown since the last call, without its folder; "none" if none is.
     std::wstring shown() {
-        if (!waitUntil([this] { return std::filesystem::exists(m_shown); })) return L"none";
+        // A program has to start first, which takes its time on a machine with much else to do.
+        constexpr unsigned kProgramStarts = 60000;  // milliseconds
+        if (!waitUntil([this] { return std::filesystem::exists(m_shown); }, kProgramStarts)) return L"none";
         std::ifstream file(std::filesystem::path(m_shown), std::ios::binary);
         const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
         file.close();
