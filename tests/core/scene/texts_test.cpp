@@ -300,7 +300,7 @@ TEST(SceneParagraphs, ALayersColorIsThatOfLettersByLayer) {
 
 TEST(SceneParagraphs, TextsOfAnyLengthEnd) {
     std::string words, marks;
-    for (int i = 0; i < 30000; ++i) words += "a ";
+    for (int i = 0; i < 50000; ++i) words += "a ";
     for (int i = 0; i < 3000; ++i) marks += "%%ua%%u";
     EXPECT_EQ(Paragraphs(paragraph(words, "71 1|41 7")).scene.texts.size(), 10000u)
         << "so many lines and no more";
