@@ -17,7 +17,8 @@ std::string textOf(double value) {
 }
 
 std::string quoted(const OdString& text) {
-    std::string line = "\"" + odUtf8(text.view());
+    std::string line = "\"";
+    line += odUtf8(text.view());
     for (char& c : line)
         if (c == '\n' || c == '\r' || c == '\0') c = ' ';
     return line;
