@@ -190,9 +190,14 @@ OdGroupList odWholeNameData(const OdString& legal, const OdString& whole) {
 }
 
 void odTakeWholeNames(OdDbStore& store) {
-    OdDbSymbolTableRecord* application = store.record(kRegAppTable, odWide(kOdWholeNames));
-    if (!application) return;
-    store.isErasedOf(*application) = true;
+    // A damaged file may name the application more than once.
+    bool isNamed = false;
+    for (OdDbSymbolTableRecord* application : store.records(kRegAppTable)) {
+        if (application->getName().iCompare(odWide(kOdWholeNames).c_str()) != 0) continue;
+        store.isErasedOf(*application) = true;
+        isNamed = true;
+    }
+    if (!isNamed) return;
     OdRecordNames whole;
     for (int table = 0; table < kTableCount; ++table) {
         const auto kind = static_cast<OdTableKind>(table);

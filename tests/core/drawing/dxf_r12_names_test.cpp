@@ -177,3 +177,20 @@ TEST(DxfR12Names, AreOnlyTakenWhereTheRecordStillBearsTheLegalOne) {
     EXPECT_TRUE(hasLayer(layerOf("a_b", "a_b", "TAKEN NAME"), L"a_b"));
     EXPECT_TRUE(hasLayer(layerOf("a_b", "a_b", ""), L"a_b"));
 }
+
+TEST(DxfR12Names, AnApplicationThatIsNamedTwiceGoesAltogether) {
+    const std::string file =
+        dxf(header("AC1009") +
+            "0|SECTION\n2|TABLES\n"
+            "0|TABLE\n2|LAYER\n70|1\n0|LAYER\n2|A_B\n70|0\n62|1\n6|CONTINUOUS\n"
+            "1001|KTUI_NAMES\n1000|A_B\n1000|A B\n0|ENDTAB\n"
+            "0|TABLE\n2|APPID\n70|1\n0|APPID\n2|KTUI_NAMES\n70|0\n0|ENDTAB\n"
+            "0|TABLE\n2|APPID\n70|1\n0|APPID\n2|ktui_names\n70|0\n0|ENDTAB\n0|ENDSEC\n0|EOF");
+    const OdDbDatabasePtr drawing = readDrawing(file);
+    ASSERT_TRUE(drawing);
+    const std::string text = drawing->writeDxfBytes(OdDxfForm{OdDb::kDHL_1009});
+    EXPECT_EQ(occurrences(text, "\r\nAPPID\r\n  2\r\n"), 2) << "one for each application";
+    EXPECT_EQ(occurrences(text, "ktui_names"), 0);
+    EXPECT_EQ(drawing->writeDxfBytes(OdDxfForm{OdDb::kDHL_1032}).find("KTUI_NAMES"), std::string::npos);
+    EXPECT_EQ(readDrawing(text)->writeDxfBytes(OdDxfForm{OdDb::kDHL_1009}), text);
+}
