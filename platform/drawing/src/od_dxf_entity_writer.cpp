@@ -23,8 +23,12 @@ OdGroupList unmarkedForm(std::string_view type, const OdGroupList& groups) {
     OdGroupList plain;
     OdGroup group;
     const std::uint32_t end = groups.ownEnd();
-    for (std::uint32_t at = 0; groups.read(at, group); at = group.end)
-        if (group.code != 100 || at >= end) plain.add(group);
+    for (std::uint32_t at = 0; groups.read(at, group); at = group.end) {
+        // Behind a marker that none knows there may be another layer or linetype, which without markers would
+        // count.
+        const bool isElsewhere = group.code == 100 || odIsEntityPropertyCode(group.code);
+        if (!isElsewhere || at >= end) plain.add(group);
+    }
     odCompleteEntityMarkers(type, plain);
     return plain;
 }

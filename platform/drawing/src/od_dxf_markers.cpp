@@ -160,6 +160,8 @@ OdGroupList usualRecordGroups(std::string_view type) {
 
 }  // namespace
 
+bool odIsEntityPropertyCode(int code) { return code == 6 || code == 8 || code == 67; }
+
 bool odIsCommonEntityCode(int code) {
     switch (code) {
         case 6:

@@ -11,6 +11,9 @@ void odCompleteEntityMarkers(std::string_view type, OdGroupList& groups);
 /// The same for a symbol table record of this type.
 void odCompleteRecordMarkers(std::string_view type, OdGroupList& groups);
 
+/// Whether a group with this code is kept as a property of an entity: layer, linetype, sheet.
+bool odIsEntityPropertyCode(int code);
+
 /// Whether a group with this code belongs to the common part of all entities.
 bool odIsCommonEntityCode(int code);
 

@@ -82,7 +82,8 @@ void takeCommon(const OdGroupList& source, OdGroupList& form) {
     for (std::uint32_t at = 0; at < end && source.read(at, group); at = group.end) {
         if (group.code == 100 && ++markers > 1) return;
         const bool picture = group.code == 92 || group.code == 160 || group.code == 310;
-        if (odIsCommonEntityCode(group.code) && !picture) form.add(group);
+        if (odIsCommonEntityCode(group.code) && !odIsEntityPropertyCode(group.code) && !picture)
+            form.add(group);
     }
 }
 

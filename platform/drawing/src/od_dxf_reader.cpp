@@ -33,7 +33,9 @@ public:
         }
         useNames();
         m_store.heldCodes = m_records.heldCodes();
-        if (m_store.version <= OdDb::kDHL_1009) takeNamesOfR12();
+        if (m_store.version <= OdDb::kDHL_1009) noteNamesOfR12();
+        // Also from a file that another program has brought into a newer version.
+        odTakeWholeNames(m_store);
         return !scanner().failed();
     }
     OdDxfScanner& scanner() { return m_records.scanner(); }
@@ -257,12 +259,11 @@ private:
         }
     }
 
-    /// Notes which names a file of R12 brought, and gives back those that weren't legal in it.
-    void takeNamesOfR12() {
+    /// Notes which names a file of R12 brought.
+    void noteNamesOfR12() {
         for (int kind = 0; kind < kTableCount; ++kind)
             for (const OdDbSymbolTableRecord* record : m_store.records(static_cast<OdTableKind>(kind)))
                 m_store.namesOfR12File[kind].insert(odFoldedName(record->getName()));
-        odTakeWholeNames(m_store);
     }
 
     struct StyleName {

@@ -5,6 +5,7 @@
 // escaped stay as they are. For the same reason \U+ with the number of a printable ASCII character is no
 // escape.
 
+#include <algorithm>
 #include <cstdint>
 
 #include "od_code_page.h"
@@ -151,7 +152,10 @@ void appendCharacter(std::wstring_view character, int codePage, bool utf8, std::
 
 std::string_view OdDxfTextDecoder::decode(std::string_view value) {
     if (isPlain(value)) return value;
-    m_text = odUtf8(resolveEscapes(wideOf(value, m_codePage, m_utf8)));
+    std::wstring text = resolveEscapes(wideOf(value, m_codePage, m_utf8));
+    // A zero ends a text.
+    text.resize(std::min(text.find(L'\0'), text.size()));
+    m_text = odUtf8(text);
     return m_text;
 }
 

@@ -171,10 +171,13 @@ private:
             m_entities.ownerAmong(groups, 0, marked ? marker.begin : 0);
             m_out.put(100, "AcDbSymbolTable");
         }
-        std::vector<OdDbSymbolTableRecord*> records;
-        for (OdDbSymbolTableRecord* record : m_store.records(kind))
-            if (isWritten(kind, *record)) records.push_back(record);
         const bool addsApplication = kind == kRegAppTable && !m_entities.names().isEmpty();
+        std::vector<OdDbSymbolTableRecord*> records;
+        for (OdDbSymbolTableRecord* record : m_store.records(kind)) {
+            const bool isAdded =
+                addsApplication && record->getName().iCompare(odWide(kOdWholeNames).c_str()) == 0;
+            if (!isAdded && isWritten(kind, *record)) records.push_back(record);
+        }
         m_out.putInteger(70, static_cast<std::int64_t>(records.size()) + (addsApplication ? 1 : 0));
         m_out.putGroups(groups, OdDxfPart::kOwn, marked ? marker.end : 0);
         for (OdDbSymbolTableRecord* record : records) tableRecord(kind, *record, symbols);

@@ -100,6 +100,8 @@ BothNames takeNames(OdGroupList& groups) {
             whole += group.text;
     }
     names.whole = odWide(whole);
+    // What stands behind extended data without being some would become the record's own.
+    while (groups.read(at, group) && !odIsExtendedDataCode(group.code)) at = group.end;
     groups.replace(begin, at, OdGroupList());
     return names;
 }

@@ -194,3 +194,23 @@ TEST(DxfR12Names, AnApplicationThatIsNamedTwiceGoesAltogether) {
     EXPECT_EQ(drawing->writeDxfBytes(OdDxfForm{OdDb::kDHL_1032}).find("KTUI_NAMES"), std::string::npos);
     EXPECT_EQ(readDrawing(text)->writeDxfBytes(OdDxfForm{OdDb::kDHL_1009}), text);
 }
+
+TEST(DxfR12Names, WholeNamesComeBackFromANewerVersionToo) {
+    const std::string file = dxf(header("AC1015") +
+                                 "0|SECTION\n2|TABLES\n"
+                                 "0|TABLE\n2|APPID\n70|1\n0|APPID\n2|KTUI_NAMES\n70|0\n0|ENDTAB\n"
+                                 "0|TABLE\n2|LAYER\n70|1\n0|LAYER\n5|A0\n2|A_B\n70|0\n62|1\n6|Continuous\n"
+                                 "1001|KTUI_NAMES\n1000|A_B\n1000|A B\n5|9\n0|ENDTAB\n0|ENDSEC\n0|EOF");
+    const std::string text = rewritten(file);
+    EXPECT_TRUE(has(text, "100|AcDbLayerTableRecord\n2|A B"));
+    EXPECT_EQ(text.find("KTUI_NAMES"), std::string::npos);
+    EXPECT_FALSE(has(text, "6|Continuous\n5|9")) << "what stood behind its data is not the layer's own";
+}
+
+TEST(DxfR12Names, ALayerThatIsNoneOfItsEntitiesIsNotWrittenBesideTheirs) {
+    const std::string text = rewritten(withEntities("0|LWPOLYLINE\n5|30\n330|1F\n100|AcDbE\n430|B$C\n102|{"
+                                                    "OWN\n8|ODD\n102|}\n8|0\n8|ODD\n100|AcDbPolyline\n90|2\n"
+                                                    "70|0\n10|0\n20|0\n10|1\n20|1\n"),
+                                       OdDb::kDHL_1009);
+    EXPECT_EQ(rewritten(text), text);
+}
