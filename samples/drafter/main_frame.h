@@ -17,6 +17,9 @@
 
 class CStandinHost;
 
+/// What the main window tells itself when a drawing came or went: some window of it should have the focus.
+constexpr UINT WM_DRAFTER_FOCUS = WM_APP + 3;
+
 class CMainFrame : public CMDIFrameWndEx,
                    private CDrawingDesk,
                    private CBlockTarget,
@@ -59,6 +62,7 @@ protected:
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnTakeFocus(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnChangingTab(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnTabTip(WPARAM wParam, LPARAM lParam);
     afx_msg void OnFileNew();

@@ -43,6 +43,8 @@ CDrawingWindow* CMainFrame::WindowOf(const CString& path) {
 void CMainFrame::DrawingActivated(CDrawingWindow* window) {
     if (m_isGoing) return;
     m_active = window;
+    // A drawing that had the focus takes it along when it goes.
+    PostMessage(WM_DRAFTER_FOCUS);
     m_host.SetCurrentDocument(window != nullptr ? &window->document() : nullptr);
     m_host.SetPlotView(window != nullptr ? &window->plotView() : nullptr);
     // That of the drawing before.
@@ -51,6 +53,11 @@ void CMainFrame::DrawingActivated(CDrawingWindow* window) {
     if (window->RefreshIfOutdated()) return;
     DrawingChanged(*window);
     NameChanged(*window);
+}
+
+LRESULT CMainFrame::OnTakeFocus(WPARAM, LPARAM) {
+    if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) SetFocus();
+    return 0;
 }
 
 void CMainFrame::showNothing() {

@@ -41,6 +41,11 @@ TEST_F(Styles, TheCurrentDimensionStyleIsShownAndItsArrowheadsArePicked) {
     drafter->replaceText(item(dialog, IDC_ARROW_SIZE), L"1.75");
     picture("journey-dimension-style");
     ok(dialog);
+    // Its file is of a version that has no linetypes of dimensions, which is told first.
+    drafter->activate(drafter->frame());
+    drafter->key('S', true);
+    EXPECT_NE(drafter->dismissMessage(drafter->frame()).find(L"Settings of DIMSTYLE left out: 1"),
+              std::wstring::npos);
     const OdDbDatabasePtr drawing = saved();
     const auto style = dimStyle(*drawing, L"SURVEY");
     EXPECT_EQ(style->dimblk1(), L"_BoxBlank");

@@ -44,6 +44,7 @@ public:
     OdResult setDimlwd(OdDb::LineWeight weight);
     /// Linetype of the dimension line; that which stands for ByBlock at first.
     OdDbObjectId dimltype() const;
+    /// What it is already is not written again.
     OdResult setDimltype(const OdDbObjectId& linetype);
 
 private:

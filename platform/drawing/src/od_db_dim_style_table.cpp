@@ -61,6 +61,8 @@ OdDbObjectId OdDbDimStyleTableRecord::dimltype() const {
 OdResult OdDbDimStyleTableRecord::setDimltype(const OdDbObjectId& linetype) {
     const auto record = linetype.open<OdDbLinetypeTableRecord>();
     if (!record || linetype.database() != database()) return kOdInvalidInput;
+    // Older versions can't hold it, so what holds without being written isn't.
+    if (dimltype() == linetype) return kOdOk;
     editGroups().setHandle(kLinetype, linetype.handle());
     return kOdOk;
 }
