@@ -20,6 +20,7 @@ bool drawUsual(const EntityPen& pen, const std::wstring& name) {
         const double radius = name == L"DOT" ? 0.5 : 0.25;
         std::vector<OdGePoint3d> circle;
         constexpr int kCorners = 32;
+        circle.reserve(kCorners);
         for (int i = 0; i < kCorners; ++i)
             circle.push_back(
                 {radius * std::cos(turn * i / kCorners), radius * std::sin(turn * i / kCorners), 0});

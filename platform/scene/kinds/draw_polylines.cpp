@@ -34,6 +34,7 @@ void drawFlat(const std::vector<WideCorner>& corners, bool closed, double elevat
     const bool isFilled = pen.work().drawing().getFILLMODE() != 0;
     for (const std::vector<OdGePoint2d>& area : WideLine(corners, closed, pen.tolerance())) {
         std::vector<OdGePoint3d> outline;
+        outline.reserve(area.size() + 1);
         for (const OdGePoint2d& point : area) outline.push_back({point.x, point.y, elevation});
         if (isFilled && area.size() > 2) {
             pen.fill(outline);

@@ -71,8 +71,7 @@ void DrawLinetypeMarks(const EntityPen& pen, const ScenePath& path) {
     if (!(repeat > 0) || !(length / repeat < kMostRepeats)) return;
     SceneLevel onPlane = pen.level();
     onPlane.place = {};
-    Look plain = pen.look();
-    const EntityPen flat(pen.work(), onPlane, plain);
+    const EntityPen flat(pen.work(), onPlane, pen.look());
     for (double start = 0; start < length && pen.work().spend(1); start += repeat)
         for (const PatternMark& mark : pattern.marks) {
             Place place;
