@@ -88,16 +88,16 @@ OdDbObjectPtr odMakeObject(std::string_view type) {
 }
 
 void odTakeDictionaryEntries(OdDbStore& store, OdDbDictionary& dictionary, OdGroupList& groups) {
-    OdGroup name, handle;
+    OdGroup name, handle, marker;
     std::uint32_t at = 0;
-    while (groups.find(3, name, at)) {
-        const bool paired = groups.read(name.end, handle) && handle.kind == OdGroupKind::kHandle;
-        if (!paired) {
-            at = name.end;
-            continue;
-        }
+    // A handle behind this marker is the default's, whatever stands before it.
+    std::uint32_t end = groups.findMarker("AcDbDictionaryWithDefault", marker) ? marker.begin : groups.size();
+    while (groups.find(3, name, at) && name.begin < end) {
+        at = name.end;
+        if (!groups.read(name.end, handle) || handle.kind != OdGroupKind::kHandle) continue;
         store.entriesOf(dictionary).push_back({name.wide(), handle.handle(), handle.code});
         at = name.begin;
+        end -= handle.end - name.begin;
         groups.replace(name.begin, handle.end, OdGroupList());
     }
 }

@@ -78,6 +78,10 @@ private:
     std::unordered_map<std::wstring, int> m_numbers;
 };
 
+bool isOfWholeNames(const OdString& application) {
+    return application.iCompare(odWide(kOdWholeNames).c_str()) == 0;
+}
+
 /// The legal and the whole name that stand in extended data; both empty if they don't.
 struct BothNames {
     OdString legal, whole;
@@ -159,6 +163,7 @@ OdRecordNames odR12Names(const OdDbStore& store) {
     for (int table = 0; table < kTableCount; ++table) {
         const auto kind = static_cast<OdTableKind>(table);
         TakenNames taken;
+        if (kind == kRegAppTable) taken.take(odWide(kOdWholeNames).c_str());
         std::vector<const OdDbSymbolTableRecord*> illegal;
         for (const OdDbSymbolTableRecord* record : store.records(kind)) {
             if (record->isErased()) continue;
@@ -192,14 +197,9 @@ OdGroupList odWholeNameData(const OdString& legal, const OdString& whole) {
 }
 
 void odTakeWholeNames(OdDbStore& store) {
-    // A damaged file may name the application more than once.
-    bool isNamed = false;
-    for (OdDbSymbolTableRecord* application : store.records(kRegAppTable)) {
-        if (application->getName().iCompare(odWide(kOdWholeNames).c_str()) != 0) continue;
-        store.isErasedOf(*application) = true;
-        isNamed = true;
-    }
-    if (!isNamed) return;
+    // A damaged file may name the application more than once, or not at all.
+    for (OdDbSymbolTableRecord* application : store.records(kRegAppTable))
+        if (isOfWholeNames(application->getName())) store.isErasedOf(*application) = true;
     OdRecordNames whole;
     for (int table = 0; table < kTableCount; ++table) {
         const auto kind = static_cast<OdTableKind>(table);
@@ -212,7 +212,8 @@ void odTakeWholeNames(OdDbStore& store) {
             for (std::uint32_t size = groups.size(); takeNames(groups), groups.size() != size;)
                 size = groups.size();
             const bool isMeant = !names.whole.isEmpty() && record->getName().iCompare(names.legal) == 0;
-            if (!isMeant || store.record(kind, names.whole)) continue;
+            const bool isOurs = kind == kRegAppTable && isOfWholeNames(names.whole);
+            if (!isMeant || isOurs || store.record(kind, names.whole)) continue;
             whole.add(kind, record->getName(), names.whole);
             store.nameOf(*record) = names.whole;
         }

@@ -207,6 +207,47 @@ TEST(DxfR12Names, WholeNamesComeBackFromANewerVersionToo) {
     EXPECT_FALSE(has(text, "6|Continuous\n5|9")) << "what stood behind its data is not the layer's own";
 }
 
+TEST(DxfR12Names, WholeNamesComeBackWithoutTheirApplication) {
+    const std::string file = dxf(header("AC1009") +
+                                 "0|SECTION\n2|TABLES\n"
+                                 "0|TABLE\n2|LAYER\n70|2\n0|LAYER\n2|A_B\n70|0\n62|1\n6|CONTINUOUS\n"
+                                 "1001|KTUI_NAMES\n1000|A_B\n1000|A B\n"
+                                 "0|LAYER\n2|C\n70|0\n62|1\n6|CONTINUOUS\n"
+                                 "1001|KTUI_NAMES\n1000|of_another\n1000|of another\n"
+                                 "0|ENDTAB\n0|ENDSEC\n0|EOF");
+    const std::string text = rewritten(file, OdDb::kDHL_1032);
+    EXPECT_TRUE(has(text, "100|AcDbLayerTableRecord\n2|A B"));
+    EXPECT_TRUE(has(text, "100|AcDbLayerTableRecord\n2|C"));
+    EXPECT_EQ(text.find("KTUI_NAMES"), std::string::npos);
+    const std::string old = rewritten(file, OdDb::kDHL_1009);
+    EXPECT_TRUE(has(old, "0|LAYER\n2|A_B\n70|0\n62|1\n6|CONTINUOUS\n1001|KTUI_NAMES\n1000|A_B\n1000|A B\n"));
+    EXPECT_EQ(old.find("of_another"), std::string::npos) << "a name that was not this layer's goes";
+    EXPECT_EQ(rewritten(old), old);
+}
+
+TEST(DxfR12Names, NoApplicationTakesTheNameOfThatOfWholeNames) {
+    const std::string own = "2|KTUI[NAMES\n70|0\n";
+    const std::string text = rewritten(dxf(header("AC1015") +
+                                           "0|SECTION\n2|TABLES\n"
+                                           "0|TABLE\n2|APPID\n70|1\n0|APPID\n5|A0\n" +
+                                           own + "0|ENDTAB\n0|ENDSEC\n0|EOF"),
+                                       OdDb::kDHL_1009);
+    EXPECT_TRUE(
+        has(text, "0|APPID\n2|KTUI_NAMES_2\n70|0\n1001|KTUI_NAMES\n1000|KTUI_NAMES_2\n1000|KTUI[NAMES\n"));
+    EXPECT_EQ(rewritten(text), text);
+    EXPECT_TRUE(has(rewritten(text, OdDb::kDHL_1032), own)) << "and it comes back";
+}
+
+TEST(DxfR12Names, NoApplicationComesBackAsThatOfWholeNames) {
+    const std::string text = rewritten(
+        dxf(header("AC1009") + "0|SECTION\n2|TABLES\n0|TABLE\n2|APPID\n70|1\n"
+                               "0|APPID\n2|MINE\n70|0\n1001|KTUI_NAMES\n1000|MINE\n1000|KTUI_NAMES\n"
+                               "0|ENDTAB\n0|ENDSEC\n0|EOF"),
+        OdDb::kDHL_1032);
+    EXPECT_TRUE(has(text, "2|MINE\n70|0\n"));
+    EXPECT_EQ(text.find("KTUI_NAMES"), std::string::npos);
+}
+
 TEST(DxfR12Names, ALayerThatIsNoneOfItsEntitiesIsNotWrittenBesideTheirs) {
     const std::string text = rewritten(withEntities("0|LWPOLYLINE\n5|30\n330|1F\n100|AcDbE\n430|B$C\n102|{"
                                                     "OWN\n8|ODD\n102|}\n8|0\n8|ODD\n100|AcDbPolyline\n90|2\n"
