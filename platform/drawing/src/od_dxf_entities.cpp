@@ -89,9 +89,11 @@ OdDbObjectPtr odMakeObject(std::string_view type) {
 
 void odTakeDictionaryEntries(OdDbStore& store, OdDbDictionary& dictionary, OdGroupList& groups) {
     OdGroup name, handle, marker;
-    std::uint32_t at = 0;
+    std::uint32_t at = groups.findMarker("AcDbDictionary", marker) ? marker.end : 0;
     // A handle behind this marker is the default's, whatever stands before it.
-    std::uint32_t end = groups.findMarker("AcDbDictionaryWithDefault", marker) ? marker.begin : groups.size();
+    std::uint32_t end =
+        groups.findMarker("AcDbDictionaryWithDefault", marker, at) ? marker.begin : groups.size();
+    at = 0;
     while (groups.find(3, name, at) && name.begin < end) {
         at = name.end;
         if (!groups.read(name.end, handle) || handle.kind != OdGroupKind::kHandle) continue;

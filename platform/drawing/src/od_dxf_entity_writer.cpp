@@ -280,18 +280,18 @@ void OdDxfEntityWriter::object(OdDbObject& object) {
     m_out.beginRecord(OdDxfRecordKind::kObject, object.dxfName());
     m_out.putOwnHandle(object.handle());
     const OdGroupList& groups = object.groups();
+    auto* dictionary = dynamic_cast<OdDbDictionary*>(&object);
     OdGroup first, second;
-    const bool marked = groups.find(100, first);
+    const bool marked = dictionary ? groups.findMarker("AcDbDictionary", first) : groups.find(100, first);
     const std::uint32_t head = marked ? first.begin : 0;
     ownerAmong(groups, m_store.ownerOf(object), head);
-    auto* dictionary = dynamic_cast<OdDbDictionary*>(&object);
     if (!dictionary) {
         m_out.putGroups(groups, OdDxfPart::kObject, head);
         return;
     }
     if (!marked) m_out.put(100, "AcDbDictionary");
     const std::uint32_t split =
-        marked && groups.find(100, second, first.end) ? second.begin : groups.ownEnd();
+        groups.find(100, second, marked ? first.end : 0) ? second.begin : groups.ownEnd();
     m_out.putGroups(groups, OdDxfPart::kObject, head, split);
     dictionaryEntries(*dictionary);
     m_out.putGroups(groups, OdDxfPart::kObject, split);

@@ -94,6 +94,26 @@ TEST(DxfKeeps, TheDefaultOfADictionaryWhateverStandsBeforeIt) {
                     "3|Stray\n340|71\n0|ACDBPLACEHOLDER"));
 }
 
+TEST(DxfKeeps, TheEntriesOfADictionaryWhoseMarkersAreMissingOrSwapped) {
+    const std::string before =
+        "0|SECTION\n2|OBJECTS\n0|DICTIONARY\n5|C\n330|0\n100|AcDbDictionary\n3|MINE\n350|70\n"
+        "0|ACDBDICTIONARYWDFLT\n5|70\n330|C\n";
+    const std::string behind = "0|ACDBPLACEHOLDER\n5|71\n330|70\n0|ENDSEC\n0|EOF";
+    const auto written = [&](const std::string& groups) {
+        return rewritten(dxf(header("AC1015") + before + groups + behind));
+    };
+    EXPECT_TRUE(
+        has(written("3|First\n350|71\n100|AcDbDictionaryWithDefault\n340|71\n"),
+            "100|AcDbDictionary\n3|First\n350|71\n100|AcDbDictionaryWithDefault\n340|71\n0|ACDBPLACEHOLDER"));
+    const std::string swapped =
+        "100|AcDbDictionaryWithDefault\n340|71\n100|AcDbDictionary\n3|First\n350|71\n";
+    EXPECT_TRUE(has(written(swapped), swapped));
+    const OdDbDatabasePtr drawing = readDrawing(dxf(header("AC1015") + before + swapped + behind));
+    OdDbDictionaryPtr named;
+    ASSERT_EQ(drawing->getNamedObjectsDictionary(named), kOdOk);
+    EXPECT_TRUE(named->getAt(L"MINE").open<OdDbDictionary>()->has(L"First"));
+}
+
 TEST(DxfKeeps, ArrowBlocksOfDimensionStylesAcrossVersions) {
     const std::string r12 = dxf(
         header("AC1009") +
