@@ -33,6 +33,7 @@ constexpr Row kRows[] = {
     {"docking", bench::measure_docking},
     {"file_dialog", bench::measure_file_dialog},
     {"find_files", bench::measure_find_files},
+    {"scene", bench::measure_scene_painting},
 };
 
 }  // namespace

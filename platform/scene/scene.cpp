@@ -34,6 +34,15 @@ void SceneExtents::add(const OdGePoint2d& point) {
     high.y = std::max(high.y, point.y);
 }
 
+bool SceneExtents::meets(const SceneExtents& other) const {
+    return low.x <= other.high.x && other.low.x <= high.x && low.y <= other.high.y && other.low.y <= high.y;
+}
+
+bool SceneExtents::holds(const SceneExtents& other) const {
+    return other.isEmpty() ||
+           (low.x <= other.low.x && other.high.x <= high.x && low.y <= other.low.y && other.high.y <= high.y);
+}
+
 void SceneExtents::cut(const SceneExtents& other) {
     low = {std::max(low.x, other.low.x), std::max(low.y, other.low.y)};
     high = {std::min(high.x, other.high.x), std::min(high.y, other.high.y)};
@@ -64,8 +73,11 @@ SceneExtents Scene::clipExtents(int clip) const {
 
 SceneExtents Scene::extents() const {
     SceneExtents result;
+    int lastClip = kNoClip;
+    SceneExtents lastSeen;  // what that clip leaves
     const auto take = [&](SceneExtents piece, int clip) {
-        if (clip != kNoClip) piece.cut(clipExtents(clip));
+        if (clip != kNoClip && clip != lastClip) lastSeen = clipExtents(lastClip = clip);
+        if (clip != kNoClip) piece.cut(lastSeen);
         if (piece.isEmpty()) return;
         result.add(piece.low);
         result.add(piece.high);

@@ -97,6 +97,10 @@ struct KTSCENE_API SceneExtents {
     OdGePoint2d low{1e300, 1e300}, high{-1e300, -1e300};
     bool isEmpty() const { return low.x > high.x; }
     void add(const OdGePoint2d& point);
+    /// Whether they have a place in common, be it on their sides.
+    bool meets(const SceneExtents& other) const;
+    /// Whether all of `other` lies in these; true for empty ones.
+    bool holds(const SceneExtents& other) const;
     /// Keeps what lies in `other` too.
     void cut(const SceneExtents& other);
 };

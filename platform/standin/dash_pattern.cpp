@@ -7,12 +7,28 @@ namespace {
 
 constexpr double kFinestPattern = 3;  // pixels; a shorter pattern looks like a continuous line
 
+/// In pixels.
+double patternLength(const std::vector<double>& dashes, double scale) {
+    double length = 0;
+    for (const double dash : dashes) length += std::abs(dash) * scale;
+    return length;
+}
+
 /// Walks a path and alternates between pen down and pen up as the pattern says, across corners.
 class DashWalker {
 public:
     DashWalker(CDC& dc, const std::vector<double>& dashes, double scale)
         : m_dc(dc), m_dashes(dashes), m_scale(scale) {
         m_left = std::abs(m_dashes[0]) * m_scale;
+    }
+
+    /// Begins this many pixels later, less than the pattern is long.
+    void skip(double pixels) {
+        while (pixels >= m_left) {
+            pixels -= m_left;
+            next();
+        }
+        m_left -= pixels;
     }
 
     void line(CPoint from, CPoint to) {
@@ -52,12 +68,14 @@ private:
 
 }  // namespace
 
+bool IsDashedAt(const std::vector<double>& dashes, double scale) {
+    return dashes.size() >= 2 && patternLength(dashes, scale) >= kFinestPattern;
+}
+
 void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vector<double>& dashes,
-                    double scale) {
+                    double scale, double skipped) {
     if (points.empty()) return;
-    double total = 0;
-    for (const double dash : dashes) total += std::abs(dash) * scale;
-    if (dashes.size() < 2 || total < kFinestPattern) {
+    if (!IsDashedAt(dashes, scale)) {
         if (points.size() == 2 && points[0] == points[1]) {
             dc.MoveTo(points[0]);
             dc.LineTo(points[0].x + 1, points[0].y);
@@ -67,6 +85,7 @@ void DrawDashedPath(CDC& dc, const std::vector<CPoint>& points, const std::vecto
         return;
     }
     DashWalker walker(dc, dashes, scale);
+    walker.skip(std::fmod(skipped * scale, patternLength(dashes, scale)));
     for (std::size_t i = 1; i < points.size(); ++i) walker.line(points[i - 1], points[i]);
 }
 

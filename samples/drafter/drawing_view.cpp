@@ -45,6 +45,7 @@ void CDrawingView::SetScene(Scene scene, bool keepPlace) {
     HideTip();
     if (m_windowFrom) stopWindow();
     m_scene = std::move(scene);
+    m_bounds = SceneBounds(m_scene);
     std::erase_if(m_selection, [](const OdDbObjectId& each) { return !each.isValid(); });
     if (!keepPlace) {
         m_selection.clear();
@@ -92,7 +93,7 @@ void CDrawingView::OnPaint() {
     if (client.IsRectEmpty()) return;
     CMemDC memory(dc, client);
     memory.GetDC().FillSolidRect(&client, m_colors.paper);
-    PaintScene(memory.GetDC(), m_scene, place(), m_selection, m_colors);
+    PaintScene(memory.GetDC(), m_scene, m_bounds, place(), m_selection, m_colors);
     paintBand(memory.GetDC());
     paintWindow(memory.GetDC());
     invertCrosshair(memory.GetDC());

@@ -110,6 +110,7 @@ private:
     void updateTip(CPoint pixel);
 
     Scene m_scene;
+    SceneBounds m_bounds;  ///< of the scene
     std::set<OdDbObjectId> m_selection;
     OdGePoint2d m_center;
     double m_scale = 1;  ///< pixels for one drawing unit

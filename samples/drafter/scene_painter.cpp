@@ -2,12 +2,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <map>
 #include <numbers>
+#include <span>
+#include <string>
+#include <utility>
 
 #include <ktui/host/contrast.h>
 
 #include "dash_pattern.h"
 #include "text_face.h"
+#include "visible_parts.h"
 
 namespace {
 
@@ -21,21 +27,95 @@ int penWidth(int lineWeight) {
     return std::max(1, static_cast<int>(std::lround(lineWeight / 100.0 * kPixelsPerMillimetre)));
 }
 
+/// Around the window, so that the edge of what is cut there is not seen, nor the halves of wide pens.
+constexpr double kSlack = 32;  // pixels
+
+/// A path smaller than this many pixels is drawn through so many of its points.
+constexpr double kSmallPath = 8;
+constexpr std::size_t kSmallPathPoints = 12;
+
+/// Pens and brushes of one painting, each made once.
+class PaintTools {
+public:
+    CPen& pen(int width, COLORREF color) {
+        CPen& pen = m_pens[{width, color}];
+        if (pen.m_hObject != nullptr) return pen;
+        // What systems draw fastest by far, as most lines are thin.
+        if (width == 1) {
+            pen.CreatePen(PS_SOLID, 1, color);
+            return pen;
+        }
+        LOGBRUSH brush = {BS_SOLID, color, 0};
+        pen.CreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_FLAT | PS_JOIN_ROUND, width, &brush);
+        return pen;
+    }
+    CPen& edge(COLORREF color) {
+        CPen& pen = m_edges[color];
+        if (pen.m_hObject == nullptr) pen.CreatePen(PS_SOLID, 1, color);
+        return pen;
+    }
+    CBrush& brush(COLORREF color) {
+        CBrush& brush = m_brushes[color];
+        if (brush.m_hObject == nullptr) brush.CreateSolidBrush(color);
+        return brush;
+    }
+    /// The screen font for a text's, `height` pixels high and turned by `rotation` radians.
+    CFont& font(const SceneFont& font, int height, double rotation) {
+        const bool isLast = m_isFaceKnown && font.family == m_faceOf.family && font.file == m_faceOf.file &&
+                            font.bold == m_faceOf.bold && font.italic == m_faceOf.italic;
+        if (!isLast) {
+            m_face = TextFace(font);
+            m_faceOf = font;
+            m_isFaceKnown = true;
+        }
+        LOGFONT look = m_face;
+        look.lfHeight = -std::min(height, kLargestText);
+        look.lfEscapement = look.lfOrientation =
+            static_cast<LONG>(std::lround(rotation * 1800 / std::numbers::pi));
+        // All but the name, and then the name, whatever stands behind its end.
+        std::string key(reinterpret_cast<const char*>(&look), offsetof(LOGFONT, lfFaceName));
+        const std::wstring name = look.lfFaceName;
+        key.append(reinterpret_cast<const char*>(name.data()), name.size() * sizeof(wchar_t));
+        CFont& made = m_fonts[key];
+        if (made.m_hObject == nullptr) made.CreateFontIndirect(&look);
+        return made;
+    }
+
+private:
+    std::map<std::pair<int, COLORREF>, CPen> m_pens;
+    std::map<COLORREF, CPen> m_edges;
+    std::map<COLORREF, CBrush> m_brushes;
+    std::map<std::string, CFont> m_fonts;
+    SceneFont m_faceOf;
+    LOGFONT m_face = {};
+    bool m_isFaceKnown = false;
+};
+
 /// Paints the pieces of one scene.
 class ScenePainter {
 public:
-    ScenePainter(CDC& dc, const Scene& scene, const ScenePlace& place,
+    ScenePainter(CDC& dc, const Scene& scene, const SceneBounds& bounds, const ScenePlace& place,
                  const std::set<OdDbObjectId>& selection, const SceneColors& colors)
-        : m_dc(dc), m_scene(scene), m_place(place), m_selection(selection), m_colors(colors) {}
+        : m_dc(dc),
+          m_scene(scene),
+          m_bounds(bounds),
+          m_place(place),
+          m_selection(selection),
+          m_colors(colors) {
+        const CSize& size = m_place.size;
+        const double x = (size.cx / 2.0 + kSlack) / m_place.scale,
+                     y = (size.cy / 2.0 + kSlack) / m_place.scale;
+        m_seen = {{m_place.center.x - x, m_place.center.y - y}, {m_place.center.x + x, m_place.center.y + y}};
+    }
 
     /// Paths and texts in the order in which they lie.
     void draw();
 
 private:
-    void draw(const ScenePath& path);
-    void draw(const SceneText& text);
+    void drawPath(std::size_t number);
+    void drawText(std::size_t number);
     void seeThrough(int clip);
-    std::vector<CPoint> pixelsOf(const std::vector<OdGePoint2d>& points) const;
+    std::vector<CPoint> pixelsOf(std::span<const OdGePoint2d> points) const;
     bool isSelected(const OdDbObjectId& entity) const { return m_selection.contains(entity); }
     COLORREF colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const {
         return isSelected(entity) ? m_colors.selection : onPaper(style.color.color());
@@ -44,37 +124,67 @@ private:
         constexpr COLORREF kWhite = RGB(255, 255, 255), kBlack = RGB(0, 0, 0);
         return color == kWhite ? ReadableColor(kWhite, m_colors.paper, kMarkContrast, kBlack) : color;
     }
-    void fill(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color);
-    void stroke(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color);
+    void fill(const ScenePath& path, const SceneExtents& bounds, COLORREF color);
+    void stroke(const ScenePath& path, const SceneExtents& bounds, COLORREF color);
+    /// Draws a line with a pen, or keeps it until one comes that needs another pen.
+    void line(CPen& pen, const std::vector<CPoint>& pixels);
+    /// Draws the lines that were kept.
+    void drawLines();
     void write(const SceneText& text, int height, CPoint at);
     double widthFactorOf(const SceneText& text, int height);
 
     CDC& m_dc;
     const Scene& m_scene;
+    const SceneBounds& m_bounds;
     const ScenePlace& m_place;
     const std::set<OdDbObjectId>& m_selection;
     const SceneColors& m_colors;
+    SceneExtents m_seen;  // the window and a little around it, in drawing units
+    PaintTools m_tools;
+    CPen* m_linesPen = nullptr;  // of the lines that are kept
+    std::vector<CPoint> m_linePixels;
+    std::vector<DWORD> m_lineCounts;
     int m_clip = kNoClip;  // through which of the scene's clips is drawn at present
     int m_saved = 0;       // the state of the device context around it
 };
 
-/// The ends of a path's lines, or of an area's boundaries.
-std::vector<std::size_t> endsOf(const ScenePath& path) {
-    std::vector<std::size_t> ends = path.breaks;
-    ends.push_back(path.points.size());
-    return ends;
+/// Calls `part` with each line of a path, or each boundary of an area.
+template <class Part>
+void eachPart(const ScenePath& path, Part part) {
+    std::size_t first = 0;
+    for (std::size_t i = 0; i <= path.breaks.size(); ++i) {
+        const std::size_t end = i < path.breaks.size() ? path.breaks[i] : path.points.size();
+        part(std::span(path.points).subspan(first, end - first));
+        first = end;
+    }
 }
 
-std::vector<CPoint> ScenePainter::pixelsOf(const std::vector<OdGePoint2d>& points) const {
+/// What a curve of many points keeps where it is only some pixels large, its ends among them.
+std::vector<OdGePoint2d> fewerPoints(std::span<const OdGePoint2d> points) {
+    std::vector<OdGePoint2d> few;
+    few.reserve(kSmallPathPoints + 1);
+    for (std::size_t i = 0; i < kSmallPathPoints; ++i)
+        few.push_back(points[i * points.size() / kSmallPathPoints]);
+    few.push_back(points.back());
+    return few;
+}
+
+/// A point for each pixel that differs from the one before; at least two of a line, which may be the same.
+std::vector<CPoint> ScenePainter::pixelsOf(std::span<const OdGePoint2d> points) const {
     std::vector<CPoint> pixels;
     pixels.reserve(points.size());
-    for (const OdGePoint2d& point : points) pixels.push_back(m_place.ToPixel(point));
+    for (const OdGePoint2d& point : points) {
+        const CPoint pixel = m_place.ToPixel(point);
+        if (pixels.empty() || pixels.back() != pixel) pixels.push_back(pixel);
+    }
+    if (pixels.size() == 1 && points.size() > 1) pixels.push_back(pixels.front());
     return pixels;
 }
 
 /// What follows is seen through a clip of the scene, and those around it.
 void ScenePainter::seeThrough(int clip) {
     if (clip == m_clip) return;
+    drawLines();
     if (m_clip != kNoClip) m_dc.RestoreDC(m_saved);
     m_clip = clip;
     if (clip == kNoClip) return;
@@ -93,64 +203,105 @@ void ScenePainter::draw() {
     std::size_t path = 0;
     const auto drawPaths = [&](std::size_t end) {
         for (; path < std::min(end, m_scene.paths.size()); ++path) {
+            if (!m_bounds.path(path).meets(m_seen)) continue;
             seeThrough(m_scene.paths[path].clip);
-            draw(m_scene.paths[path]);
+            drawPath(path);
         }
     };
-    for (const SceneText& text : m_scene.texts) {
-        drawPaths(text.pathsBelow);
-        seeThrough(text.clip);
-        draw(text);
+    for (std::size_t text = 0; text < m_scene.texts.size(); ++text) {
+        drawPaths(m_scene.texts[text].pathsBelow);
+        if (!m_bounds.text(text).meets(m_seen)) continue;
+        seeThrough(m_scene.texts[text].clip);
+        drawText(text);
     }
     drawPaths(m_scene.paths.size());
     seeThrough(kNoClip);
+    drawLines();
 }
 
-void ScenePainter::fill(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color) {
+void ScenePainter::fill(const ScenePath& path, const SceneExtents& bounds, COLORREF color) {
     std::vector<INT> counts;
-    std::size_t first = 0;
-    for (const std::size_t end : endsOf(path)) {
-        counts.push_back(static_cast<INT>(end - first));
-        first = end;
-    }
-    CBrush brush(color);
-    CPen pen(PS_SOLID, 1, color);
-    CBrush* formerBrush = m_dc.SelectObject(&brush);
-    CPen* formerPen = m_dc.SelectObject(&pen);
+    std::vector<CPoint> all;
+    eachPart(path, [&](std::span<const OdGePoint2d> boundary) {
+        const std::vector<CPoint> pixels =
+            m_seen.holds(bounds) ? pixelsOf(boundary) : pixelsOf(VisibleBoundary(boundary, m_seen));
+        if (pixels.size() < 2) return;
+        counts.push_back(static_cast<INT>(pixels.size()));
+        all.insert(all.end(), pixels.begin(), pixels.end());
+    });
+    if (counts.empty()) return;
+    drawLines();
+    CBrush* formerBrush = m_dc.SelectObject(&m_tools.brush(color));
+    CPen* formerPen = m_dc.SelectObject(&m_tools.edge(color));
     if (counts.size() == 1)
-        m_dc.Polygon(pixels.data(), counts[0]);
+        m_dc.Polygon(all.data(), counts[0]);
     else
-        ::PolyPolygon(m_dc.m_hDC, pixels.data(), counts.data(), static_cast<int>(counts.size()));
+        ::PolyPolygon(m_dc.m_hDC, all.data(), counts.data(), static_cast<int>(counts.size()));
     m_dc.SelectObject(formerPen);
     m_dc.SelectObject(formerBrush);
 }
 
-void ScenePainter::stroke(const ScenePath& path, const std::vector<CPoint>& pixels, COLORREF color) {
+void ScenePainter::stroke(const ScenePath& path, const SceneExtents& bounds, COLORREF color) {
     int width = m_scene.showsLineWeights ? penWidth(path.style.lineWeight) : 1;
     if (isSelected(path.entity)) ++width;
-    LOGBRUSH brush = {BS_SOLID, color, 0};
-    CPen pen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_FLAT | PS_JOIN_ROUND, width, &brush);
-    CPen* former = m_dc.SelectObject(&pen);
-    auto first = pixels.begin();
-    for (const std::size_t end : endsOf(path)) {
-        const auto last = pixels.begin() + static_cast<std::ptrdiff_t>(end);
-        DrawDashedPath(m_dc, {first, last}, path.style.dashes, m_place.scale);
-        first = last;
+    const bool isDot = width == 1 && (bounds.high.x - bounds.low.x) * m_place.scale < 1 &&
+                       (bounds.high.y - bounds.low.y) * m_place.scale < 1;
+    if (isDot) {
+        const CPoint at = m_place.ToPixel(path.points.front());
+        return line(m_tools.pen(width, color), {at, at});
     }
+    CPen& pen = m_tools.pen(width, color);
+    const bool isDashed = IsDashedAt(path.style.dashes, m_place.scale);
+    const auto draw = [&](std::span<const OdGePoint2d> points, double skipped) {
+        if (!isDashed) return line(pen, pixelsOf(points));
+        drawLines();
+        CPen* former = m_dc.SelectObject(&pen);
+        DrawDashedPath(m_dc, pixelsOf(points), path.style.dashes, m_place.scale, skipped);
+        m_dc.SelectObject(former);
+    };
+    const double size = std::max(bounds.high.x - bounds.low.x, bounds.high.y - bounds.low.y) * m_place.scale;
+    eachPart(path, [&](std::span<const OdGePoint2d> line) {
+        if (size < kSmallPath && line.size() > kSmallPathPoints) return draw(fewerPoints(line), 0);
+        if (m_seen.holds(bounds)) return draw(line, 0);
+        for (const VisibleLine& piece : VisibleLines(line, m_seen)) draw(piece.points, piece.skipped);
+    });
+}
+
+void ScenePainter::line(CPen& pen, const std::vector<CPoint>& pixels) {
+    constexpr std::size_t kMost = 4096;  // points that are kept
+    if (pixels.empty()) return;
+    if (m_linesPen != &pen || m_linePixels.size() > kMost) drawLines();
+    m_linesPen = &pen;
+    m_linePixels.insert(m_linePixels.end(), pixels.begin(), pixels.end());
+    // A line without length is seen as a dot.
+    if (pixels.size() == 2 && pixels[0] == pixels[1]) ++m_linePixels.back().x;
+    m_lineCounts.push_back(static_cast<DWORD>(pixels.size()));
+}
+
+void ScenePainter::drawLines() {
+    if (m_lineCounts.empty()) return;
+    CPen* former = m_dc.SelectObject(m_linesPen);
+    ::PolyPolyline(m_dc.m_hDC, m_linePixels.data(), m_lineCounts.data(),
+                   static_cast<DWORD>(m_lineCounts.size()));
     m_dc.SelectObject(former);
+    m_linePixels.clear();
+    m_lineCounts.clear();
 }
 
-void ScenePainter::draw(const ScenePath& path) {
-    const std::vector<CPoint> pixels = pixelsOf(path.points);
+void ScenePainter::drawPath(std::size_t number) {
+    const ScenePath& path = m_scene.paths[number];
+    const SceneExtents& bounds = m_bounds.path(number);
     if (!path.filled)
-        stroke(path, pixels, colorOf(path.style, path.entity));
+        stroke(path, bounds, colorOf(path.style, path.entity));
     else
-        fill(path, pixels, path.wipes ? m_colors.paper : colorOf(path.style, path.entity));
+        fill(path, bounds, path.wipes ? m_colors.paper : colorOf(path.style, path.entity));
 }
 
-void ScenePainter::draw(const SceneText& text) {
+void ScenePainter::drawText(std::size_t number) {
+    const SceneText& text = m_scene.texts[number];
     const int height = static_cast<int>(std::lround(text.height * m_place.scale / kCapitalShare));
     if (height < kSmallestText) return;
+    drawLines();
     const bool isPlain = text.widthFactor == 1 && text.font.oblique == 0 && text.fitWidth == 0;
     const CPoint at = m_place.ToPixel(text.position);
     if (isPlain) {
@@ -179,11 +330,7 @@ void ScenePainter::draw(const SceneText& text) {
 /// The text's own factor, or that by which it takes up the width it is to fit.
 double ScenePainter::widthFactorOf(const SceneText& text, int height) {
     if (text.fitWidth <= 0) return text.widthFactor;
-    LOGFONT look = TextFace(text.font);
-    look.lfHeight = -std::min(height, kLargestText);
-    CFont font;
-    font.CreateFontIndirect(&look);
-    CFont* former = m_dc.SelectObject(&font);
+    CFont* former = m_dc.SelectObject(&m_tools.font(text.font, height, 0));
     SIZE size = {};
     ::GetTextExtentPoint32W(m_dc.m_hDC, text.text, text.text.length(), &size);
     m_dc.SelectObject(former);
@@ -192,13 +339,7 @@ double ScenePainter::widthFactorOf(const SceneText& text, int height) {
 }
 
 void ScenePainter::write(const SceneText& text, int height, CPoint at) {
-    LOGFONT look = TextFace(text.font);
-    look.lfHeight = -std::min(height, kLargestText);
-    look.lfEscapement = look.lfOrientation =
-        static_cast<LONG>(std::lround(text.rotation * 1800 / std::numbers::pi));
-    CFont font;
-    font.CreateFontIndirect(&look);
-    CFont* former = m_dc.SelectObject(&font);
+    CFont* former = m_dc.SelectObject(&m_tools.font(text.font, height, text.rotation));
     constexpr UINT kHorizontal[] = {TA_LEFT, TA_CENTER, TA_RIGHT};
     // The alignment of GDI is by base line; the other rows are found from the height of capitals.
     const double down = BaseLineDrop(text) * m_place.scale;
@@ -233,7 +374,11 @@ void ScenePlace::Fit(const SceneExtents& extents) {
     scale = std::min(size.cx / width, size.cy / height) * kMargin;
 }
 
-void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place, const std::set<OdDbObjectId>& selection,
-                const SceneColors& colors) {
-    ScenePainter(dc, scene, place, selection, colors).draw();
+void PaintScene(CDC& dc, const Scene& scene, const SceneBounds& bounds, const ScenePlace& place,
+                const std::set<OdDbObjectId>& selection, const SceneColors& colors) {
+    ScenePainter(dc, scene, bounds, place, selection, colors).draw();
+}
+
+void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place) {
+    PaintScene(dc, scene, SceneBounds(scene), place);
 }

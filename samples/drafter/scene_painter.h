@@ -5,7 +5,7 @@
 
 #include <afxwin.h>
 
-#include "scene.h"
+#include "scene_bounds.h"
 
 constexpr COLORREF kDrawingPaper = RGB(33, 40, 48);
 constexpr COLORREF kSelectionColor = RGB(90, 170, 255);
@@ -30,5 +30,8 @@ struct ScenePlace {
 };
 
 /// Paints the scene with pixel 0, 0 as the window's corner; what belongs to `selection` is highlighted.
-void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place,
+/// `bounds` are those of the scene.
+void PaintScene(CDC& dc, const Scene& scene, const SceneBounds& bounds, const ScenePlace& place,
                 const std::set<OdDbObjectId>& selection = {}, const SceneColors& colors = {});
+/// The same for what is painted once.
+void PaintScene(CDC& dc, const Scene& scene, const ScenePlace& place);

@@ -1,0 +1,217 @@
+// What a scene looks like in pixels: what is far outside of the window, what is smaller than a pixel, dashes
+// of a line of which a piece is seen, and what lies above what.
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "../../../samples/drafter/scene_painter.h"
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0);
+constexpr int kWidth = 200, kHeight = 100;
+
+class ScenePainting : public ::testing::Test {
+protected:
+    ScenePainting() {
+        BITMAPINFO info = {};
+        info.bmiHeader = {sizeof(BITMAPINFOHEADER), kWidth, -kHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_dc.CreateCompatibleDC(nullptr);
+        m_former = ::SelectObject(m_dc, m_bitmap);
+        place.size = CSize(kWidth, kHeight);
+    }
+    ~ScenePainting() override {
+        ::SelectObject(m_dc, m_former);
+        ::DeleteObject(m_bitmap);
+    }
+    ScenePath& add(std::vector<OdGePoint2d> points, COLORREF color, bool filled = false) {
+        ScenePath& path = scene.paths.emplace_back();
+        path.points = std::move(points);
+        path.filled = filled;
+        path.style.color.setRGB(GetRValue(color), GetGValue(color), GetBValue(color));
+        return path;
+    }
+    void paint() {
+        m_dc.FillSolidRect(0, 0, kWidth, kHeight, kDrawingPaper);
+        PaintScene(m_dc, scene, place);
+        ::GdiFlush();
+    }
+    COLORREF at(int x, int y) { return m_dc.GetPixel(x, y); }
+    int count(COLORREF color) {
+        int pixels = 0;
+        for (int y = 0; y < kHeight; ++y)
+            for (int x = 0; x < kWidth; ++x) pixels += at(x, y) == color;
+        return pixels;
+    }
+
+    Scene scene;
+    ScenePlace place;
+
+private:
+    CDC m_dc;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_former = nullptr;
+};
+
+TEST_F(ScenePainting, ALineThatGoesFarBeyondTheWindowKeepsItsDirection) {
+    // A third of a turn as steep as it is wide, a million windows long, through the middle.
+    place.scale = 1e6;
+    add({{-300, -100}, {300, 100}}, kRed);
+    paint();
+    EXPECT_EQ(at(kWidth / 2, kHeight / 2), kRed);
+    EXPECT_EQ(at(kWidth / 2 + 90, kHeight / 2 - 30), kRed);
+    EXPECT_EQ(at(kWidth / 2 - 90, kHeight / 2 + 30), kRed);
+    EXPECT_EQ(at(kWidth / 2 + 90, kHeight / 2 - 33), kDrawingPaper);
+}
+
+TEST_F(ScenePainting, AnAreaThatGoesFarBeyondTheWindowKeepsItsEdge) {
+    place.scale = 1e6;
+    add({{-300, -100}, {300, 100}, {300, -200}}, kRed, true);
+    paint();
+    EXPECT_EQ(at(kWidth / 2, kHeight / 2 + 3), kRed);
+    EXPECT_EQ(at(kWidth / 2, kHeight / 2 - 3), kDrawingPaper);
+    EXPECT_EQ(at(kWidth - 1, kHeight / 2 - 30), kRed);
+    EXPECT_EQ(at(0, kHeight / 2 + 30), kDrawingPaper);
+    EXPECT_EQ(at(kWidth / 2, kHeight - 1), kRed) << "to the window's edge";
+}
+
+TEST_F(ScenePainting, AHoleOfAnAreaStaysAHoleWhereItIsCut) {
+    ScenePath& area = add(
+        {{-500, -500}, {500, -500}, {500, 500}, {-500, 500}, {-300, -10}, {20, -10}, {20, 10}, {-300, 10}},
+        kRed, true);
+    area.breaks = {4};
+    paint();
+    EXPECT_EQ(at(0, kHeight / 2), kDrawingPaper);
+    EXPECT_EQ(at(kWidth / 2 + 15, kHeight / 2), kDrawingPaper);
+    EXPECT_EQ(at(kWidth / 2 + 25, kHeight / 2), kRed);
+    EXPECT_EQ(at(0, kHeight / 2 - 15), kRed);
+}
+
+TEST_F(ScenePainting, NothingIsDrawnOfWhatLiesBesideTheWindow) {
+    add({{kWidth / 2.0 + 5, 0}, {kWidth, 0}}, kRed);
+    add({{0, kHeight}, {10, kHeight + 10.0}, {20, kHeight}}, kRed, true);
+    paint();
+    EXPECT_EQ(count(kRed), 0);
+}
+
+TEST_F(ScenePainting, HalfOfAWideLineBesideTheWindowIsSeen) {
+    scene.showsLineWeights = true;
+    add({{-90, kHeight / 2.0 + 2}, {90, kHeight / 2.0 + 2}}, kRed).style.lineWeight = 211;
+    paint();
+    EXPECT_EQ(at(kWidth / 2, 0), kRed);
+}
+
+TEST_F(ScenePainting, WhatIsSmallerThanAPixelIsADot) {
+    std::vector<OdGePoint2d> circle;
+    for (int i = 0; i <= 72; ++i)
+        circle.push_back({10 + 0.2 * std::cos(i * 0.0872665), 20 + 0.2 * std::sin(i * 0.0872665)});
+    add(circle, kRed);
+    add({{-30, 20}, {-30, 20}}, kGreen);
+    paint();
+    EXPECT_EQ(count(kRed), 1);
+    EXPECT_EQ(at(kWidth / 2 + 10, kHeight / 2 - 20), kRed);
+    EXPECT_EQ(count(kGreen), 1);
+    EXPECT_EQ(at(kWidth / 2 - 30, kHeight / 2 - 20), kGreen);
+}
+
+TEST_F(ScenePainting, ACircleOfSomePixelsIsRoundAndClosed) {
+    std::vector<OdGePoint2d> circle;
+    for (int i = 0; i <= 72; ++i)
+        circle.push_back({3 * std::cos(i * 0.0872665), 3 * std::sin(i * 0.0872665)});
+    add(circle, kRed);
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_EQ(at(x + 3, y), kRed);
+    EXPECT_EQ(at(x - 3, y), kRed);
+    EXPECT_EQ(at(x, y + 3), kRed);
+    EXPECT_EQ(at(x, y - 3), kRed);
+    EXPECT_EQ(at(x, y), kDrawingPaper);
+    EXPECT_EQ(at(x + 3, y + 3), kDrawingPaper);
+    EXPECT_GE(count(kRed), 16);
+}
+
+TEST_F(ScenePainting, ThePieceOfADashedLineHasItsDashesWhereTheWholeLineHasThem) {
+    const auto dashesFrom = [&](double start) {
+        scene.paths.clear();
+        add({{start, 0}, {90, 0}}, kRed).style.dashes = {12, -8};
+        paint();
+        std::string row;
+        for (int x = 20; x < 180; ++x) row += at(x, kHeight / 2) == kRed ? '#' : '.';
+        return row;
+    };
+    // Twenty is the pattern's length, so these are the same dashes, the second of them outside at first.
+    const std::string whole = dashesFrom(-100);
+    EXPECT_EQ(dashesFrom(-100 - 20 * 40.0), whole);
+    EXPECT_NE(dashesFrom(-100 - 20 * 40.0 - 7), whole);
+    EXPECT_NE(whole.find("############........"), std::string::npos) << whole;
+}
+
+TEST_F(ScenePainting, WhatComesLaterLiesAbove) {
+    add({{-50, 0}, {50, 0}}, kRed);
+    add({{-10, -10}, {10, -10}, {10, 10}, {-10, 10}}, kGreen, true);
+    add({{0, -50}, {0, 50}}, kRed);
+    add({{-50, 5}, {50, 5}}, kGreen);
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_EQ(at(x - 5, y), kGreen) << "the area above the first line";
+    EXPECT_EQ(at(x - 30, y), kRed);
+    EXPECT_EQ(at(x, y - 8), kRed) << "the second line above the area";
+    EXPECT_EQ(at(x, y - 5), kGreen) << "the last line above all";
+}
+
+TEST_F(ScenePainting, LinesAreSeenThroughTheirOwnClipOnly) {
+    scene.clips.push_back({{{-20, -20}, {0, -20}, {0, 20}, {-20, 20}}});
+    add({{-50, 5}, {50, 5}}, kRed).clip = 0;
+    add({{-50, -5}, {50, -5}}, kRed);
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_EQ(at(x - 10, y - 5), kRed);
+    EXPECT_EQ(at(x + 10, y - 5), kDrawingPaper);
+    EXPECT_EQ(at(x - 30, y - 5), kDrawingPaper);
+    EXPECT_EQ(at(x + 10, y + 5), kRed);
+    EXPECT_EQ(at(x - 30, y + 5), kRed);
+}
+
+TEST_F(ScenePainting, TextsInTwoSizesAndTurnsAreWrittenEachInItsOwn) {
+    const auto write = [&](OdGePoint2d position, double height, double rotation) {
+        SceneText& text = scene.texts.emplace_back();
+        text.text = OdString(L"HHHH");
+        text.position = position;
+        text.height = height;
+        text.rotation = rotation;
+        text.style.color.setRGB(255, 0, 0);
+    };
+    const auto box = [&] {
+        paint();
+        CRect all(kWidth, kHeight, 0, 0);
+        for (int y = 0; y < kHeight; ++y)
+            for (int x = 0; x < kWidth; ++x)
+                if (at(x, y) != kDrawingPaper)
+                    all = CRect(std::min<int>(all.left, x), std::min<int>(all.top, y),
+                                std::max<int>(all.right, x + 1), std::max<int>(all.bottom, y + 1));
+        return all;
+    };
+    write({-40, 0}, 8, 0);
+    const CRect small = box();
+    EXPECT_NEAR(small.Height(), 8, 2);
+    scene.texts.clear();
+    write({-40, 0}, 16, 0);
+    const CRect large = box();
+    EXPECT_NEAR(large.Height(), 16, 2);
+    EXPECT_NEAR(large.Width(), 2 * small.Width(), 6);
+    scene.texts.clear();
+    write({0, -40}, 8, 1.5707963267948966);
+    const CRect turned = box();
+    EXPECT_NEAR(turned.Width(), small.Height(), 2);
+    EXPECT_NEAR(turned.Height(), small.Width(), 5);
+    scene.texts.clear();
+    write({-40, -30}, 8, 0);
+    write({-40, 0}, 16, 0);
+    const CRect both = box();
+    EXPECT_EQ(both.right, large.right);
+    EXPECT_NEAR(both.Height(), 16 + 30, 3) << "the second is not written as the first";
+}
+
+}  // namespace
