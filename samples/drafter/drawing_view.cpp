@@ -252,5 +252,5 @@ void CDrawingView::panBy(CSize pixels) {
 }
 
 OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {
-    return EntityAt(m_scene, FromPixel(pixel), kPickDistance / m_scale);
+    return EntityAt(m_scene, m_bounds, FromPixel(pixel), kPickDistance / m_scale);
 }

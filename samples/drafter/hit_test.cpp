@@ -4,6 +4,7 @@
 #include <cmath>
 #include <map>
 #include <span>
+#include <vector>
 
 namespace {
 
@@ -146,21 +147,28 @@ std::array<OdGePoint2d, 4> TextBox(const SceneText& text) {
             corner(left, low + text.height)};
 }
 
-OdDbObjectId EntityAt(const Scene& scene, const OdGePoint2d& at, double reach) {
+OdDbObjectId EntityAt(const Scene& scene, const SceneBounds& bounds, const OdGePoint2d& at, double reach) {
     OdDbObjectId found;
     double nearest = reach;
-    for (const ScenePath& path : scene.paths) {
-        if (!isSeen(scene, path.clip, at)) continue;
-        const double distance = distanceTo(path, at);
+    const SceneExtents around = {{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
+    std::vector<const ScenePath*> near;
+    for (std::size_t i = 0; i < scene.paths.size(); ++i)
+        if (bounds.path(i).meets(around) && isSeen(scene, scene.paths[i].clip, at))
+            near.push_back(&scene.paths[i]);
+    for (const ScenePath* path : near) {
+        const double distance = distanceTo(*path, at);
         if (distance > nearest) continue;
         nearest = distance;
-        found = path.entity;
+        found = path->entity;
     }
     if (!found.isNull()) return found;
-    for (const SceneText& text : scene.texts)
-        if (isSeen(scene, text.clip, at) && isWithin(TextBox(text), at)) return text.entity;
-    for (const ScenePath& path : scene.paths)
-        if (path.filled && isSeen(scene, path.clip, at) && isInArea(path, at)) found = path.entity;
+    for (std::size_t i = 0; i < scene.texts.size(); ++i) {
+        const SceneText& text = scene.texts[i];
+        if (bounds.text(i).meets(around) && isSeen(scene, text.clip, at) && isWithin(TextBox(text), at))
+            return text.entity;
+    }
+    for (const ScenePath* path : near)
+        if (path->filled && isInArea(*path, at)) found = path->entity;
     return found;
 }
 

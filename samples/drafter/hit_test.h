@@ -5,12 +5,12 @@
 #include <array>
 #include <set>
 
-#include "scene.h"
+#include "scene_bounds.h"
 
 /// The object whose line is nearest to `at` and no farther than `reach`; where lines are equally near, the
 /// one drawn last. Without one, a text whose box `at` is in, and then the filled area drawn last. Null if
-/// there is none of these.
-OdDbObjectId EntityAt(const Scene& scene, const OdGePoint2d& at, double reach);
+/// there is none of these. `bounds` are those of the scene.
+OdDbObjectId EntityAt(const Scene& scene, const SceneBounds& bounds, const OdGePoint2d& at, double reach);
 
 /// The objects of which everything lies in `window`.
 std::set<OdDbObjectId> EntitiesInside(const Scene& scene, const SceneExtents& window);

@@ -8,6 +8,10 @@
 
 namespace {
 
+OdDbObjectId entityAt(const Scene& scene, const OdGePoint2d& at, double reach) {
+    return EntityAt(scene, SceneBounds(scene), at, reach);
+}
+
 constexpr double kReach = 0.5;
 
 class HitTest : public ::testing::Test {
@@ -25,7 +29,7 @@ protected:
         return add(line);
     }
     Scene scene() { return BuildScene(*drawing, drawing->modelSpaceId()); }
-    OdDbObjectId at(double x, double y) { return EntityAt(scene(), {x, y}, kReach); }
+    OdDbObjectId at(double x, double y) { return entityAt(scene(), {x, y}, kReach); }
     static SceneExtents window(double x1, double y1, double x2, double y2) {
         SceneExtents area;
         area.add({x1, y1});
@@ -249,15 +253,15 @@ TEST_F(HitTest, LinesOfOnePathAreHitEachByItselfAndIslandsAreNoArea) {
     path.points = {{0, 0}, {10, 0}, {0, 5}, {10, 5}};
     path.breaks = {2};
     shown.paths = {path};
-    EXPECT_EQ(EntityAt(shown, {5, 5}, kReach), id);
-    EXPECT_TRUE(EntityAt(shown, {5, 2.5}, kReach).isNull()) << "nothing joins the two lines";
+    EXPECT_EQ(entityAt(shown, {5, 5}, kReach), id);
+    EXPECT_TRUE(entityAt(shown, {5, 2.5}, kReach).isNull()) << "nothing joins the two lines";
     EXPECT_TRUE(EntitiesTouching(shown, window(4, 2, 6, 3)).empty());
     path.filled = true;
     path.points = {{0, 0}, {20, 0}, {20, 20}, {0, 20}, {5, 5}, {15, 5}, {15, 15}, {5, 15}};
     path.breaks = {4};
     shown.paths = {path};
-    EXPECT_EQ(EntityAt(shown, {2.5, 10}, kReach), id);
-    EXPECT_TRUE(EntityAt(shown, {10, 10}, kReach).isNull());
+    EXPECT_EQ(entityAt(shown, {2.5, 10}, kReach), id);
+    EXPECT_TRUE(entityAt(shown, {10, 10}, kReach).isNull());
     EXPECT_EQ(EntitiesTouching(shown, window(2, 2, 3, 3)).size(), 1u);
     EXPECT_TRUE(EntitiesTouching(shown, window(9, 9, 11, 11)).empty());
 }
@@ -271,8 +275,8 @@ TEST_F(HitTest, WhatAClipHidesIsNotHit) {
     path.points = {{-10, 0}, {10, 0}};
     path.clip = 0;
     shown.paths = {path};
-    EXPECT_EQ(EntityAt(shown, {2, 0}, kReach), id);
-    EXPECT_TRUE(EntityAt(shown, {8, 0}, kReach).isNull());
+    EXPECT_EQ(entityAt(shown, {2, 0}, kReach), id);
+    EXPECT_TRUE(entityAt(shown, {8, 0}, kReach).isNull());
     EXPECT_TRUE(EntitiesTouching(shown, window(7, -1, 9, 1)).empty());
     EXPECT_EQ(EntitiesTouching(shown, window(4, -1, 9, 1)).size(), 1u);
     EXPECT_EQ(EntitiesInside(shown, window(-1, -6, 6, 6)).size(), 1u) << "all that is seen of it lies inside";
