@@ -101,8 +101,8 @@ std::vector<std::uint32_t> distinctColors() {
     return colors;
 }
 
-/// The swatch of an index as the user sees it: 24 hues in ten rows from pale to dark, and below them, behind a
-/// row that is left free, 1 to 9 and the greys from the thirteenth column on.
+/// The swatch of an index as the user sees it: 24 hues in ten rows from pale to dark, and below them, behind
+/// a row that is left free, 1 to 9 and the greys from the thirteenth column on.
 CRect swatch(HWND palette, int index) {
     CRect client;
     ::GetClientRect(palette, &client);
@@ -148,7 +148,8 @@ TEST_F(ColorPalette, TheChosenSwatchHasAFrameWithinAFrame) {
             const HWND palette = ::GetDlgItem(dialog, IDC_COLOR_PALETTE);
             const Picture picture = pictureOf(palette);
             const CRect cell = swatch(palette, 34);
-            const COLORREF expected[] = {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), colors[34]};
+            const COLORREF expected[] = {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE),
+                                         colors[34]};
             for (int inset = 0; inset < 3; ++inset) {
                 EXPECT_EQ(picture.at(cell.left + inset, cell.top + inset), expected[inset]);
                 EXPECT_EQ(picture.at(cell.right - 1 - inset, cell.bottom - 1 - inset), expected[inset]);
