@@ -87,3 +87,18 @@ TEST_F(Profile, TipsAreOnUntilTheSettingSaysOtherwise) {
     profile().setProfileInt(L"General", L"ToolTips", 0, 0);
     EXPECT_EQ(tips->toolTips(), 0);
 }
+
+TEST_F(Profile, NoKeyStaysOpenBehindAnAnswer) {
+    profile().setProfileInt(L"General", L"ToolTips", 1, 0);
+    DWORD before = 0, after = 0;
+    ::GetProcessHandleCount(::GetCurrentProcess(), &before);
+    for (int i = 0; i < 50; ++i) {
+        int value = 0;
+        OdString text;
+        profile().setProfileInt(L"General", L"ToolTips", i, 0);
+        EXPECT_TRUE(profile().getProfileInt(L"General", L"ToolTips", value, 0));
+        EXPECT_FALSE(profile().getProfileString(L"General", L"ToolTips", text, 0));
+    }
+    ::GetProcessHandleCount(::GetCurrentProcess(), &after);
+    EXPECT_LT(after, before + 50);
+}
