@@ -136,12 +136,12 @@ TEST(Faces, ATriangleRepeatsItsThirdCorner) {
 
 TEST(Tables, HaveTheBlockOfTheirNameIfItIsThere) {
     const auto blockOf = [](const std::string& name) {
-        const OdDbDatabasePtr drawing =
-            readDrawing(dxf(header("AC1032") +
-                            "0|SECTION\n2|BLOCKS\n0|BLOCK\n8|0\n2|*T1\n70|1\n10|0\n20|0\n30|0\n3|*T1\n0|"
-                            "ENDBLK\n8|0\n0|ENDSEC\n"
-                            "0|SECTION\n2|ENTITIES\n0|ACAD_TABLE\n8|0\n10|1\n20|2\n30|0\n" +
-                            name + "0|ENDSEC\n0|EOF"));
+        const OdDbDatabasePtr drawing = readDrawing(
+            dxf(header("AC1032") +
+                "0|SECTION\n2|BLOCKS\n0|BLOCK\n8|0\n2|*T1\n70|1\n10|0\n20|0\n30|0\n3|*T1\n0|"
+                "ENDBLK\n8|0\n0|BLOCK\n8|0\n2|\n70|0\n10|0\n20|0\n30|0\n3|\n0|ENDBLK\n8|0\n0|ENDSEC\n"
+                "0|SECTION\n2|ENTITIES\n0|ACAD_TABLE\n8|0\n10|1\n20|2\n30|0\n" +
+                name + "0|ENDSEC\n0|EOF"));
         const auto* table = firstEntity<OdDbTable>(*drawing);
         EXPECT_TRUE(table);
         const auto block = table->blockTableRecord().open<OdDbBlockTableRecord>();
@@ -149,7 +149,7 @@ TEST(Tables, HaveTheBlockOfTheirNameIfItIsThere) {
     };
     EXPECT_EQ(blockOf("2|*T1\n"), L"*T1");
     EXPECT_EQ(blockOf("2|*T2\n"), L"none");
-    EXPECT_EQ(blockOf(""), L"none");
+    EXPECT_EQ(blockOf(""), L"none") << "though a block has no name either";
     EXPECT_TRUE(OdDbTable().blockTableRecord().isNull()) << "in no drawing";
     OdDbTable loose;
     loose.editGroups().setText(2, L"*T1");
