@@ -34,12 +34,12 @@ std::vector<OdDbEntity*> sorted(std::vector<OdDbEntity*> entities, const OdDbSor
 
 void DrawEntity(SceneWork& work, const OdDbEntity& entity, const SceneLevel& level) {
     if (entity.isErased() || entity.visibility() == OdDb::kInvisible) return;
-    const LayerLook* const layer = level.rules->layerOf(entity, level.surrounding);
+    const LayerLook& layer = level.rules->layerOf(entity, level.surrounding);
     // What a reference brings is on layers of its own: one that is off hides what stands for it alone. Of a
     // viewport layers hide the frame.
     const bool isReference = std::strcmp(entity.dxfName(), "INSERT") == 0;
     const bool isViewport = std::strcmp(entity.dxfName(), "VIEWPORT") == 0;
-    if (layer != nullptr && !isViewport && (layer->isFrozen || (layer->isOff && !isReference))) return;
+    if (!isViewport && (layer.isFrozen || (layer.isOff && !isReference))) return;
     const DrawFunction draw = DrawFunctionFor(entity.dxfName());
     if (draw == nullptr) {
         work.noteNotDrawn(entity.dxfName());

@@ -36,8 +36,8 @@ void SceneWork::add(ScenePath path) {
 }
 
 void SceneWork::add(SceneText text) {
-    const bool isWhole = isDrawable(text.position) && std::isfinite(text.rotation) &&
-                         std::isfinite(text.widthFactor) && text.height > 0 && isDrawable({text.height, 0});
+    const bool isWhole = isDrawable(text.position) && std::isfinite(text.widthFactor) && text.height > 0 &&
+                         isDrawable({text.height, 0});
     if (text.text.isEmpty() || !isWhole || !spend(kPieceCost + static_cast<std::size_t>(text.text.length())))
         return;
     text.clip = m_clip;

@@ -21,18 +21,10 @@ OdGePoint2d leftOf(const OdGePoint2d& direction) {
     return length > 0 ? OdGePoint2d{-direction.y / length, direction.x / length} : OdGePoint2d{};
 }
 
-/// The direction of an arc at one of its ends.
-OdGePoint2d tangent(const SceneArc& arc, bool atEnd) {
-    const double t = arc.start + (atEnd ? arc.sweep : 0), sign = arc.sweep < 0 ? -1 : 1;
-    return (arc.axisY * std::cos(t) - arc.axisX * std::sin(t)) * sign;
-}
-
 /// The left normal at a point of the middle line.
 OdGePoint2d normalAt(const Piece& piece, std::size_t index) {
     if (piece.isStraight()) return leftOf(piece.direction());
     const SceneArc& arc = piece.arcs.front();
-    if (index == 0) return leftOf(tangent(arc, false));
-    if (index + 1 == piece.middle.size()) return leftOf(tangent(arc, true));
     const OdGePoint2d outward = piece.middle[index] - arc.center;
     return leftOf(arc.sweep < 0 ? OdGePoint2d{outward.y, -outward.x} : OdGePoint2d{-outward.y, outward.x});
 }

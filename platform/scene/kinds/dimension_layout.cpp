@@ -59,8 +59,7 @@ private:
     EntityPen m_pen;
     DimensionStyle m_style;
     SpaceTransform m_toPlane;
-    double m_elevation = 0;
-    double m_arrowSize, m_textHeight;
+    double m_elevation, m_arrowSize, m_textHeight;
 };
 
 Layout::Layout(const OdDbDimension& dimension, const EntityPen& pen)

@@ -24,8 +24,8 @@ void drawAttributes(const OdDbBlockReference& reference, const EntityPen& pen) {
         if (attribute->visibility() == OdDb::kInvisible || (mode == kVisibleOnes && attribute->isInvisible()))
             continue;
         // An attribute isn't inside of the block: it lies where the reference lies, on a layer of its own.
-        const LayerLook* const layer = pen.rules().layerOf(*attribute, pen.level().surrounding);
-        if (layer != nullptr && (layer->isFrozen || layer->isOff)) continue;
+        const LayerLook& layer = pen.rules().layerOf(*attribute, pen.level().surrounding);
+        if (layer.isFrozen || layer.isOff) continue;
         const EntityPen own(pen.work(), pen.level(), pen.rules().lookOf(*attribute, pen.level().surrounding));
         DrawSingleLine(*attribute, attribute->textString(), own);
     }

@@ -82,6 +82,6 @@ void DrawViewport(const OdDbEntity& entity, EntityPen& pen) {
         DrawBlock(work, work.drawing().modelSpaceId(), inner);
         work.setClip(before);
     }
-    const LayerLook* const layer = pen.look().layer;
-    if (layer == nullptr || (!layer->isFrozen && !layer->isOff)) drawFrame(outline, pen);
+    const LayerLook& layer = *pen.look().layer;
+    if (!layer.isFrozen && !layer.isOff) drawFrame(outline, pen);
 }

@@ -9,10 +9,9 @@ namespace {
 
 constexpr std::size_t kDeepest = 64;  // braces within braces
 
-/// A number at the start of a text; `otherwise` where there is none.
-double numberOf(std::wstring_view text, double otherwise) {
+/// A number at the start of a text; 0 where there is none.
+double numberOf(std::wstring_view text) {
     double value = 0, place = 0, sign = 1;
-    bool isThere = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
         if (i == 0 && (c == L'-' || c == L'+')) {
@@ -20,14 +19,13 @@ double numberOf(std::wstring_view text, double otherwise) {
         } else if (c == L'.' && place == 0) {
             place = 1;
         } else if (c >= L'0' && c <= L'9') {
-            isThere = true;
             value = value * 10 + (c - L'0');
             if (place != 0) place *= 10;
         } else {
             break;
         }
     }
-    return isThere && std::isfinite(value) ? sign * value / (place == 0 ? 1 : place) : otherwise;
+    return std::isfinite(value) ? sign * value / (place == 0 ? 1 : place) : 0;
 }
 
 class Reader {
@@ -88,7 +86,7 @@ std::wstring_view Reader::upToSemicolon() {
 
 void Reader::takeHeight(std::wstring_view value) {
     const bool isFactor = !value.empty() && (value.back() == L'x' || value.back() == L'X');
-    const double number = numberOf(value, 0);
+    const double number = numberOf(value);
     if (number > 0) format().height = isFactor ? format().height * number : number;
 }
 
@@ -113,9 +111,9 @@ void Reader::takeParagraphSetting(std::wstring_view value) {
         if (!part.empty() && part[0] == L'x') part.remove_prefix(1);
         const wchar_t kind = part.empty() ? L' ' : part[0];
         const std::wstring_view rest = part.empty() ? part : part.substr(1);
-        if (kind == L'i') paragraph.firstIndent = numberOf(rest, 0);
-        if (kind == L'l') paragraph.leftIndent = numberOf(rest, 0);
-        if (kind == L'r') paragraph.rightIndent = numberOf(rest, 0);
+        if (kind == L'i') paragraph.firstIndent = numberOf(rest);
+        if (kind == L'l') paragraph.leftIndent = numberOf(rest);
+        if (kind == L'r') paragraph.rightIndent = numberOf(rest);
         if (kind == L'q' && !rest.empty())
             paragraph.align = rest[0] == L'c'   ? ParagraphAlign::kCentre
                               : rest[0] == L'r' ? ParagraphAlign::kRight
@@ -191,7 +189,7 @@ bool Reader::takeCharacterCode(wchar_t code) {
 /// Codes with a value that a semicolon ends.
 void Reader::takeSetting(wchar_t code) {
     const std::wstring_view value = upToSemicolon();
-    const double number = numberOf(value, 0);
+    const double number = numberOf(value);
     switch (code) {
         case L'H': takeHeight(value); break;
         case L'W':

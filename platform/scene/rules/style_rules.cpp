@@ -45,12 +45,12 @@ LayerLook StyleRules::readLayer(const OdDbObjectId& id) const {
     return look;
 }
 
-const LayerLook* StyleRules::layerOf(const OdDbEntity& entity, const SurroundingLook& surrounding) {
+const LayerLook& StyleRules::layerOf(const OdDbEntity& entity, const SurroundingLook& surrounding) {
     const OdDbObjectId id = entity.layerId();
     auto found = m_layers.find(id.handle());
     if (found == m_layers.end()) found = m_layers.emplace(id.handle(), readLayer(id)).first;
     const LayerLook& own = found->second;
-    return own.isZero && surrounding.layer != nullptr ? surrounding.layer : &own;
+    return own.isZero && surrounding.layer != nullptr ? *surrounding.layer : own;
 }
 
 void StyleRules::setColor(Look& look, const OdCmColor& color, const Look& byBlock) const {
@@ -58,14 +58,13 @@ void StyleRules::setColor(Look& look, const OdCmColor& color, const Look& byBloc
         look.style.color = byBlock.style.color;
     else if (!color.isByLayer())
         look.style.color = color;
-    else if (look.layer != nullptr)
+    else
         look.style.color = look.layer->color;
 }
 
 void StyleRules::setLinetype(Look& look, const OdDbObjectId& linetype, double scale,
                              const Look& byBlock) const {
-    const bool isByLayer = linetype == m_byLayer && look.layer != nullptr;
-    const OdDbObjectId& counts = isByLayer ? look.layer->linetype : linetype;
+    const OdDbObjectId& counts = linetype == m_byLayer ? look.layer->linetype : linetype;
     if (counts == m_byBlock) {
         look.pattern = byBlock.pattern;
         look.patternScale = byBlock.patternScale;
@@ -80,7 +79,7 @@ void StyleRules::setLinetype(Look& look, const OdDbObjectId& linetype, double sc
 }
 
 void StyleRules::setLineWeight(Look& look, int weight, const Look& byBlock) const {
-    if (weight == OdDb::kLnWtByLayer && look.layer != nullptr) weight = look.layer->lineWeight;
+    if (weight == OdDb::kLnWtByLayer) weight = look.layer->lineWeight;
     if (weight == OdDb::kLnWtByBlock) weight = byBlock.style.lineWeight;
     look.style.lineWeight = weight < 0 ? OdDb::kLnWt025 : weight;
 }
@@ -88,9 +87,8 @@ void StyleRules::setLineWeight(Look& look, int weight, const Look& byBlock) cons
 Look StyleRules::lookOf(const OdDbEntity& entity, const SurroundingLook& surrounding) {
     const Look& byBlock = surrounding.byBlock != nullptr ? *surrounding.byBlock : outermost();
     Look look;
-    look.layer = layerOf(entity, surrounding);
-    if (look.layer != nullptr) look.style.layer = look.layer->id;
-    look.style.color.setColorIndex(OdCmColor::kForeground);
+    look.layer = &layerOf(entity, surrounding);
+    look.style.layer = look.layer->id;
     setColor(look, entity.color(), byBlock);
     setLinetype(look, entity.linetypeId(), entity.linetypeScale(), byBlock);
     setLineWeight(look, entity.lineWeight(), byBlock);

@@ -24,7 +24,7 @@ struct Look {
     DisplayStyle style;
     const LinePattern* pattern = nullptr;  ///< null for a continuous line
     double patternScale = 1;
-    const LayerLook* layer = nullptr;  ///< the one that counts; null for none
+    const LayerLook* layer = nullptr;  ///< the one that counts; null where only what is by block is meant
 };
 
 /// What surrounds an entity: the block reference that it is drawn in, if any.
@@ -40,14 +40,14 @@ public:
                const OdDbObjectId& viewport = {});
 
     Look lookOf(const OdDbEntity& entity, const SurroundingLook& surrounding);
-    /// The layer that counts for an entity; null if it has none.
-    const LayerLook* layerOf(const OdDbEntity& entity, const SurroundingLook& surrounding);
+    /// The layer that counts for an entity; a usual one where the drawing lacks it.
+    const LayerLook& layerOf(const OdDbEntity& entity, const SurroundingLook& surrounding);
     /// The look of what is by block where there is no block.
     static const Look& outermost();
     /// Factor on all dashes beside that of the entity.
     void setPatternScale(double scale) { m_patternScale = scale; }
 
-    /// A part's own colour, linetype and weight within the look of the whole.
+    /// A part's own colour, linetype and weight within the look of the whole, which lookOf() gave.
     void setColor(Look& look, const OdCmColor& color, const Look& byBlock) const;
     void setLinetype(Look& look, const OdDbObjectId& linetype, double scale, const Look& byBlock) const;
     void setLineWeight(Look& look, int weight, const Look& byBlock) const;

@@ -92,10 +92,9 @@ void Tracer::arc(double radius, double start, double sweep) {
 
 void Tracer::octantArc(int radius, int octants) {
     const bool isClockwise = octants < 0;
-    const int kind = isClockwise ? octants + 128 : octants;
-    const int count = (kind & 7) == 0 ? 8 : kind & 7;
+    const int count = (octants & 7) == 0 ? 8 : octants & 7;
     const double octant = std::numbers::pi / 4;
-    arc(radius * m_scale, (kind >> 4 & 7) * octant, (isClockwise ? -count : count) * octant);
+    arc(radius * m_scale, (octants >> 4 & 7) * octant, (isClockwise ? -count : count) * octant);
 }
 
 /// Five bytes: where in its octant the arc begins and ends, the radius in two, and the octants.
@@ -107,8 +106,7 @@ void Tracer::fractionalArc(const std::string& code, std::size_t at) {
     const double radius = (byteAt(2) * kParts + byteAt(3)) * m_scale;
     const auto octants = static_cast<signed char>(code[at + 4]);
     const bool isClockwise = octants < 0;
-    const int kind = isClockwise ? octants + 128 : octants;
-    const int first = kind >> 4 & 7, count = (kind & 7) == 0 ? 8 : kind & 7;
+    const int first = octants >> 4 & 7, count = (octants & 7) == 0 ? 8 : octants & 7;
     const double sign = isClockwise ? -1 : 1;
     const double start = first * octant + sign * startPart;
     // The last octant counts up to the end's part; without a part it is whole.

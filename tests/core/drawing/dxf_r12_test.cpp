@@ -59,6 +59,8 @@ TEST(DxfR12, DataOfApplicationsIsLeftOutToItsEnd) {
                   OdDb::kDHL_1009);
     EXPECT_EQ(text.find("102\r\n"), std::string::npos);
     EXPECT_TRUE(has(text, "10|1.0\n20|2.0\n39|7.0")) << "what stands behind it stays";
+    EXPECT_FALSE(has(text, "40|9.0"));
+    EXPECT_FALSE(has(text, "40|8.0"));
 }
 
 TEST(DxfR12, EveryListOfVerticesHasOneEnd) {
@@ -209,4 +211,39 @@ TEST(DxfR12, AParagraphsStyleGivesItsWidth) {
     EXPECT_EQ(lines.size(), 2u) << "half as wide letters need half the lines";
     EXPECT_EQ(dynamic_cast<OdDbText*>(lines[0])->widthFactor(), 0.5);
     EXPECT_TRUE(has(kept->writeDxfBytes(), "7|NARROW"));
+}
+
+TEST(DxfR12, ATextThatBeginsWithABraceHoldsNoDataOfAnApplication) {
+    const std::string text = rewritten(
+        withEntities(
+            "0|MTEXT\n5|A0\n100|AcDbEntity\n8|0\n100|AcDbMText\n10|1\n20|2\n40|3\n1|{\\C1;red}\n73|2\n",
+            "AC1032"),
+        OdDb::kDHL_1014);
+    EXPECT_TRUE(has(text, "1|{\\C1;red}"));
+    EXPECT_FALSE(has(text, "73|2")) << "what the version lacks stays away behind it";
+}
+
+TEST(DxfR12, WhatItsOwnTablesHeldStandsThereAgain) {
+    const std::string text = rewritten(
+        dxf(header("AC1009") +
+            "0|SECTION\n2|TABLES\n0|TABLE\n2|LAYER\n70|1\n90|5\n0|LAYER\n2|WALL\n70|0\n62|3\n6|CONTINUOUS\n"
+            "0|ENDTAB\n0|ENDSEC\n0|EOF"));
+    const std::size_t table = text.find("LAYER\r\n");
+    EXPECT_NE(table, std::string::npos);
+    EXPECT_TRUE(has(text, "90|5"));
+}
+
+TEST(DxfR12, AParagraphOfAStyleThatIsNotThereBreaksAsOneOfTheUsualStyle) {
+    const auto lines = [](const std::string& style) {
+        const OdDbDatabasePtr again = readDrawing(rewritten(
+            withEntities("0|MTEXT\n100|AcDbEntity\n8|0\n100|AcDbMText\n" + style +
+                         "10|0\n20|0\n40|2\n41|20\n1|the quick brown fox jumps over the lazy dog\n"),
+            OdDb::kDHL_1009));
+        std::vector<OdString> texts;
+        for (OdDbEntity* each : modelEntities(*again))
+            if (const auto* text = dynamic_cast<OdDbText*>(each)) texts.push_back(text->textString());
+        return texts;
+    };
+    EXPECT_GT(lines("").size(), 2u);
+    EXPECT_EQ(lines("7|GONE\n"), lines(""));
 }

@@ -64,6 +64,8 @@ TEST(SceneDimensions, AnAlignedOneMeasuresBetweenItsPoints) {
     const Drawn drawn = dimension("70 1|10 -4|20 3|30 0|13 0|23 0|33 0|14 6|24 8|34 0");
     EXPECT_EQ(drawn.text().text, L"10");
     EXPECT_TRUE(goesThrough(drawn.path(2), {{-4, 3}, {2, 11}}));
+    const Drawn moved = dimension("70 1|10 96|20 103|30 0|13 100|23 100|33 0|14 106|24 108|34 0");
+    EXPECT_TRUE(goesThrough(moved.path(2), {{96, 103}, {102, 111}}));
 }
 
 TEST(SceneDimensions, SettingsOfTheStyleAndItsOverridesCount) {
@@ -81,6 +83,9 @@ TEST(SceneDimensions, SettingsOfTheStyleAndItsOverridesCount) {
     EXPECT_EQ(dimension(kLevel, "|178 1").text().style.color.colorIndex(), 1);
     EXPECT_EQ(dimension(kLevel, "|176 2").path(2).style.color.colorIndex(), 2);
     EXPECT_EQ(dimension(kLevel, "|177 4").path(0).style.color.colorIndex(), 4);
+    EXPECT_EQ(dimension(kLevel, "|371 50").path(2).style.lineWeight, 50);
+    EXPECT_EQ(dimension(kLevel, "|371 50").path(0).style.lineWeight, 25);
+    EXPECT_EQ(dimension(kLevel, "|372 70").path(0).style.lineWeight, 70);
     const Drawn ticked = dimension(kLevel, "|142 1");
     EXPECT_TRUE(goesThrough(ticked.path(4), {{19, 9}, {21, 11}}));
     const Drawn overridden = dimension(
@@ -124,6 +129,7 @@ TEST(SceneDimensions, AnAngleIsMeasuredWhereItsArcLies) {
     EXPECT_EQ(inner.text().text, L"90\u00B0");
     EXPECT_LT(distanceTo(inner.path(2), 7.0710678, 7.0710678), 0.02);
     EXPECT_TRUE(goesThrough(inner.path(0), {{5.5, 0}, {12, 0}}));
+    EXPECT_EQ(inner.paths().size(), 5u) << "two lines, the arc and its arrows";
     const Drawn outer =
         dimension("70 5|10 -7.0710678118|20 -7.0710678118|30 0|13 5|23 0|33 0|14 0|24 5|34 0|15 0|25 0|35 0");
     EXPECT_EQ(outer.text().text, L"270\u00B0");
@@ -155,6 +161,7 @@ TEST(SceneDimensions, ArrowheadsAreBlocksOrUsualFigures) {
                           .blocks = block("MINE", "0 LINE|8 0|10 0|20 0|30 0|11 -3|21 0|31 0"),
                           .entities = std::string("0 DIMENSION|8 0|3 Standard|") + kLevel});
     EXPECT_TRUE(goesThrough(own.path(3), {{0, 10}, {3, 10}}));
+    EXPECT_EQ(own.paths().size(), 5u) << "the block in place of the usual figure";
 }
 
 TEST(SceneDimensions, OtherKindsWithoutABlockAreCounted) {
@@ -189,6 +196,8 @@ TEST(SceneLeaders, ASplinedOneIsACurveAndAHookLineGoesUnderItsText) {
                             {{0, 0}, {6, 8}, {10, 8}, {18, 8}}));
     EXPECT_EQ(leader("71 0|72 0|73 0|74 0|75 1|41 7", "|77 0").path().points.size(), 3u)
         << "the text is beside the line";
+    EXPECT_EQ(leader("71 0|72 0|73 3|74 0|75 1|41 7", "|77 1").path().points.size(), 3u)
+        << "there is no text";
 }
 
 std::string multileader(const char* lineKind, const char* content) {
@@ -218,6 +227,20 @@ TEST(SceneLeaders, AMultileaderHasLinesADoglegAndItsText) {
     EXPECT_TRUE(isAt(drawn.text(0).position, 26, 9)) << "the top left of the box is given";
     EXPECT_EQ(drawn.text(0).height, 2);
     EXPECT_TRUE(Drawn(multileader("0", kNote)).paths().empty()) << "without lines";
+    const auto with = [](const char* part, const char* other) {
+        std::string entity = multileader("1", kNote);
+        entity.replace(entity.find(part), std::string(part).size(), other);
+        return Drawn(entity);
+    };
+    EXPECT_EQ(with("|291 1|172", "|291 0|172").paths().size(), 4u) << "without a dogleg";
+    EXPECT_EQ(with("|40 5|", "|40 0|").paths().size(), 4u) << "its dogleg has no length";
+    EXPECT_EQ(with("|304 one\\Ptwo|", "|304 one two|").texts().size(), 1u);
+    EXPECT_EQ(with("|304 one\\Ptwo|11 0|21 0|31 1|340 0|12 26|22 11|32 0|13 1|23 0|33 0|42 0|43 0|",
+                   "|304 one two|11 0|21 0|31 1|340 0|12 26|22 11|32 0|13 1|23 0|33 0|42 0|43 5|")
+                  .texts()
+                  .size(),
+              2u)
+        << "its words break at the width of the text";
 }
 
 TEST(SceneLeaders, AMultileadersContentMayBeABlock) {
@@ -336,6 +359,8 @@ TEST(SceneDimensions, LettersNeverStandOnTheirHeadsAndMayBeLevel) {
     const Drawn back = dimension("70 1|10 0|20 3|30 0|13 10|23 0|33 0|14 0|24 0|34 0");
     EXPECT_NEAR(back.text().rotation, 0, 1e-9);
     EXPECT_NEAR(dimension(std::string(kLevel) + "|50 90", "|73 1").text().rotation, 0, 1e-9);
+    EXPECT_NEAR(dimension(std::string(kLevel) + "|53 30").text().rotation, kPi / 6, 1e-9)
+        << "an angle of its own";
 }
 
 TEST(SceneMultilines, JointsFillAndRoundCapsAreTheStyles) {
@@ -361,6 +386,9 @@ TEST(SceneMultilines, JointsFillAndRoundCapsAreTheStyles) {
     const Drawn round = drawn("64");
     ASSERT_EQ(round.paths().size(), 5u);
     EXPECT_LT(distanceTo(round.path(4), -1, 0), 0.01) << "outwards of the start";
+    EXPECT_LT(distanceTo(round.path(4), -std::sqrt(0.5), std::sqrt(0.5)), 0.01);
+    EXPECT_TRUE(isAt(round.path(4).points.front(), 0, -1));
+    EXPECT_TRUE(isAt(round.path(4).points.back(), 0, 1));
     EXPECT_LT(distanceTo(drawn("1024").path(4), 11, 0), 0.01);
 }
 
@@ -383,6 +411,30 @@ TEST(ScenePictures, APictureThatIsNotShownHasNoNameAndAWipeoutAFrameByItsSetting
     };
     EXPECT_EQ(paths("0"), 1u);
     EXPECT_EQ(paths("1"), 2u);
+}
+
+/// What extended data of the dimension overrides.
+Drawn overridden(const std::string& data) { return dimension(std::string(kLevel) + "|1001 ACAD|" + data); }
+
+TEST(SceneDimensions, OverridesAreReadToTheirBracket) {
+    EXPECT_EQ(
+        overridden("1000 OTHER|1002 {|1070 7|1002 }|1000 DSTYLE|1002 {|1070 140|1040 5|1002 }").text().height,
+        5)
+        << "behind other data";
+    EXPECT_EQ(overridden("1000 DSTYLE|1002 {|1070 140|1040 5|1002 }|1070 140|1040 9").text().height, 5);
+    EXPECT_EQ(overridden("1000 DSTYLE|1002 {|1070 140|1040 5|1002 }|1000 X|1002 {|1070 140|1040 9|1002 }")
+                  .text()
+                  .height,
+              5);
+    const Drawn worded = overridden("1000 DSTYLE|1002 {|1070 3|1000 <> mm|1070 140|1040 5|1002 }");
+    EXPECT_EQ(worded.text().text, L"20 mm");
+    EXPECT_EQ(worded.text().height, 5) << "a text among them ends nothing";
+}
+
+TEST(SceneDimensions, AnOverrideOfAnotherKindIsNone) {
+    EXPECT_EQ(overridden("1000 DSTYLE|1002 {|1070 140|1070 5|1002 }").text().height, 3);
+    EXPECT_EQ(overridden("1000 DSTYLE|1002 {|1070 178|1040 6|1002 }").text().style.color.colorIndex(), 7);
+    EXPECT_EQ(overridden("1000 DSTYLE|1002 {|1070 3|1040 6|1002 }").text().text, L"20");
 }
 
 }  // namespace

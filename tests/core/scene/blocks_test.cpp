@@ -34,6 +34,11 @@ TEST(SceneBlocks, ANormalDownwardsMirrorsAboutTheYAxis) {
                        .entities = "0 INSERT|8 0|2 B|10 10|20 3|30 0|50 90|210 0|220 0|230 -1"});
     // In the plane: at (10,3), turned upwards to (10,4); its x axis points to the left.
     EXPECT_TRUE(goesThrough(drawn.path(), {{-10, 3}, {-10, 4}}));
+    // The plane of x: its axes are y and z, the height is along x.
+    const Drawn upright({.blocks = block("B", kUnitLine),
+                         .entities = "0 INSERT|8 0|2 B|10 3|20 0|30 7|70 2|71 1|44 5|210 1|220 0|230 0"});
+    EXPECT_TRUE(goesThrough(upright.path(0), {{7, 3}, {7, 4}}));
+    EXPECT_TRUE(goesThrough(upright.path(1), {{7, 8}, {7, 9}}));
 }
 
 TEST(SceneBlocks, RowsAndColumnsRunAlongTheTurnedAxes) {

@@ -198,4 +198,76 @@ TEST(SceneCurves, ANormalFarFromZHasItsXAxisAcrossZ) {
     EXPECT_TRUE(isAt(drawn.path().points.back(), -8, 0));
 }
 
+/// A curve of four control points.
+std::string arch(const std::vector<OdGePoint3d>& controls) {
+    std::string entity = "0 SPLINE|8 0|70 8|71 3|40 0|40 0|40 0|40 0|40 1|40 1|40 1|40 1";
+    for (const OdGePoint3d& at : controls)
+        entity +=
+            "|10 " + std::to_string(at.x) + "|20 " + std::to_string(at.y) + "|30 " + std::to_string(at.z);
+    return entity;
+}
+
+TEST(SceneCurves, ASplineIsAsFineAsAThousandthOfItsSize) {
+    // The box of the control points is 4 by 4, its diagonal 4 times the root of 2.
+    const std::string whole = arch({{0, 0, 0}, {0, 4, 0}, {4, 4, 0}, {4, 0, 0}});
+    const std::size_t count = builtWith(whole, 0).paths.at(0).points.size();
+    EXPECT_EQ(count, builtWith(whole, 0.004 * std::sqrt(2.0)).paths.at(0).points.size());
+    EXPECT_GT(count, 5u);
+    EXPECT_LT(count, 65u);
+    // What leaves a long chord by less than that share has its two ends and its middle, wherever it runs.
+    for (const std::vector<OdGePoint3d>& controls :
+         std::vector<std::vector<OdGePoint3d>>{{{0, 0, 0}, {100, 0.2, 0}, {200, 0.2, 0}, {300, 0, 0}},
+                                               {{0, 0, 0}, {0.2, 100, 0}, {0.2, 200, 0}, {0, 300, 0}},
+                                               {{0, 0, 0}, {0.2, 0, 100}, {0.2, 0, 200}, {0, 0, 300}},
+                                               {{0, 0, 0}, {-100, 0.2, 0}, {-200, 0.2, 0}, {-300, 0, 0}},
+                                               {{0, 0, 0}, {0.2, -100, 0}, {0.2, -200, 0}, {0, -300, 0}},
+                                               {{0, 0, 0}, {0.2, 0, -100}, {0.2, 0, -200}, {0, 0, -300}}})
+        EXPECT_EQ(builtWith(arch(controls), 0).paths.at(0).points.size(), 3u) << controls[1].x;
+}
+
+TEST(SceneCurves, ASplineOfTheFirstDegreeIsItsControlPoints) {
+    const Drawn drawn(
+        "0 SPLINE|8 0|70 8|71 1|40 0|40 0|40 1|40 2|40 2|10 0|20 0|30 0|10 4|20 0|30 0|10 4|20 3|30 0");
+    EXPECT_TRUE(goesThrough(drawn.path(), {{0, 0}, {4, 0}, {4, 3}}));
+}
+
+TEST(SceneCurves, ASplineOfTooHighADegreeIsDrawnThroughItsPoints) {
+    const auto nearestTo = [](int degree) {
+        std::string entity = "0 SPLINE|8 0|70 8|71 " + std::to_string(degree);
+        for (int i = 0; i < 2 * (degree + 1); ++i) entity += i <= degree ? "|40 0" : "|40 1";
+        for (int i = 0; i <= degree; ++i)
+            entity += "|10 " + std::to_string(i) + "|20 " + (i == 1 ? "10" : "0") + "|30 0";
+        return distanceTo(Drawn(entity).path(), 1, 10);
+    };
+    EXPECT_GT(nearestTo(25), 1.0) << "a control point pulls the curve";
+    EXPECT_LT(nearestTo(26), 1e-9);
+}
+
+TEST(SceneCurves, WhatLiesTooFarAwayIsNotDrawn) {
+    const auto count = [](const char* x, const char* y) {
+        return Drawn(std::string("0 LINE|8 0|10 0|20 0|30 0|31 0|11 ") + x + "|21 " + y).paths().size();
+    };
+    EXPECT_EQ(count("9e99", "-9e99"), 1u);
+    EXPECT_EQ(count("1e100", "0"), 0u);
+    EXPECT_EQ(count("0", "1e100"), 0u);
+    EXPECT_EQ(count("0", "-1e100"), 0u);
+}
+
+TEST(SceneExtents, WhatIsCutAwayWhollyLeavesNothing) {
+    SceneExtents low, aside, above;
+    for (const double at : {0.0, 1.0}) {
+        low.add({at, at});
+        aside.add({at + 5, at});
+        above.add({at, at + 5});
+    }
+    for (const SceneExtents& other : {aside, above}) {
+        SceneExtents rest = low;
+        rest.cut(other);
+        EXPECT_TRUE(rest.isEmpty());
+        rest.add({2, 3});
+        EXPECT_TRUE(isAt(rest.low, 2, 3)) << "and nothing is left of it";
+        EXPECT_TRUE(isAt(rest.high, 2, 3));
+    }
+}
+
 }  // namespace

@@ -166,4 +166,25 @@ TEST(ScenePolylines, ASmoothMeshIsTheNetOfItsSurface) {
     EXPECT_EQ(Drawn(entity + "|0 SEQEND|8 0").path().points.size(), 8u);
 }
 
+TEST(ScenePolylines, TheEdgesOfAWideArcAreArcsAboutItsCentre) {
+    for (const char* bulge : {"1", "-1", "0.3", "-0.3"}) {
+        const Drawn drawn(
+            std::string("0 LWPOLYLINE|8 0|90 2|70 0|43 2|10 5|20 0|10 -5|20 0|42 0|10 5|20 0|42 ") + bulge +
+            "|10 -5|20 0");
+        const double b = std::stod(bulge), rise = 5 * (1 / b - b) / 2,
+                     radius = 5 * (1 / std::abs(b) + std::abs(b)) / 2;
+        const ScenePath& area = drawn.paths().back();
+        for (const OdGePoint2d& point : area.points)
+            EXPECT_NEAR(std::abs(std::hypot(point.x, point.y + rise) - radius), 1, 1e-9) << bulge;
+    }
+}
+
+TEST(ScenePolylines, ANetWithoutRowsOrColumnsIsNothing) {
+    for (const char* size : {"71 0|72 2", "71 2|72 0"})
+        EXPECT_TRUE(Drawn(std::string("0 POLYLINE|8 0|66 1|70 16|") + size + netVertex(0, 0) +
+                          netVertex(1, 0) + "|0 SEQEND|8 0")
+                        .paths()
+                        .empty());
+}
+
 }  // namespace

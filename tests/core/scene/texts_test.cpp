@@ -104,6 +104,7 @@ TEST(SceneTexts, ATextLiesInItsPlane) {
 TEST(SceneTexts, CodesBecomeSignsAndLines) {
     EXPECT_EQ(Drawn(text("50 0", "45%%d %%p%%c1%%%%%065 \\U+00B2")).text().text,
               L"45\u00B0 \u00B1\u00D81%A \u00B2");
+    EXPECT_EQ(Drawn(text("50 0", "\\U+004d\\U+004F")).text().text, L"MO") << "digits of either case";
     EXPECT_EQ(Drawn(text("50 0", "100%%")).text().text, L"100");
     SceneOptions options;
     options.textWidth = [](const SceneFont&, std::wstring_view words) {
@@ -173,6 +174,8 @@ TEST(SceneParagraphs, TheSpacingFactorIsOneOfTheHighestLettersOrExact) {
     };
     EXPECT_NEAR(second("71 1|44 2"), 19 - 3 * 2 * 5.0 / 3, 1e-9);
     EXPECT_NEAR(second("71 1|73 2|44 2"), 19 - 2 * 5.0 / 3, 1e-9);
+    EXPECT_NEAR(Paragraphs(paragraph("a\\P\\Pb")).scene.texts.at(1).position.y, 19 - 2 * 5.0 / 3, 1e-9)
+        << "a line without letters is as high as the text";
 }
 
 TEST(SceneParagraphs, TheAttachmentSaysWhichPlaceOfTheBoxIsMeant) {
@@ -210,6 +213,9 @@ TEST(SceneParagraphs, IndentsShiftTheFirstLineAndAllLines) {
     ASSERT_EQ(drawn.words(), L"aa/bb");
     EXPECT_NEAR(drawn.scene.texts[0].position.x, 15, 1e-9);
     EXPECT_NEAR(drawn.scene.texts[1].position.x, 13, 1e-9);
+    const Paragraphs hanging(paragraph("\\pi-2,l+3;aa bb", "71 1|41 5"));
+    EXPECT_NEAR(hanging.scene.texts.at(0).position.x, 11, 1e-9);
+    EXPECT_NEAR(hanging.scene.texts.at(1).position.x, 13, 1e-9);
 }
 
 TEST(SceneParagraphs, FormatsHoldToTheEndOfTheirBraces) {
@@ -264,6 +270,8 @@ TEST(SceneParagraphs, SignsAndEscapesAreLetters) {
     EXPECT_EQ(Paragraphs(paragraph("\\{a\\}\\\\ \\U+00B0%%c%%d^ x")).words(), L"{a}\\ \u00B0\u00D8\u00B0^x");
     EXPECT_EQ(Paragraphs(paragraph("a^Jb")).words(), L"a/b");
     EXPECT_EQ(Paragraphs(paragraph("a}}b{{{c")).words(), L"abc") << "braces that don't pair";
+    EXPECT_EQ(Paragraphs(paragraph("a\\M+1B0F1b\\M+00000c")).words(), L"a\uFFFDb\uFFFDc")
+        << "characters of other code pages";
     EXPECT_EQ(Paragraphs(paragraph("a\\H")).words(), L"a") << "a code that nothing ends";
     EXPECT_EQ(Paragraphs(paragraph("a\\")).words(), L"a");
 }
@@ -318,6 +326,47 @@ TEST(SceneParagraphs, LettersMayBeSpacedAndSettingsOfAParagraphHoldOn) {
     const Paragraphs centred(paragraph("\\pqc;a\\Pb", "71 1|41 10"));
     EXPECT_EQ(centred.scene.texts.at(1).horizontal, 1);
     EXPECT_NEAR(centred.scene.texts.at(1).position.x, 15, 1e-9);
+}
+
+TEST(SceneTexts, LinesAtLettersAreWhole) {
+    const Drawn drawn(Parts{.tables = table("LTYPE", "0 LTYPE|2 DASHED|70 0|3 d|72 65|73 2|40 3|49 2|49 -1"),
+                            .entities = text("6 DASHED", "%%uab")});
+    ASSERT_EQ(drawn.paths().size(), 1u);
+    EXPECT_TRUE(drawn.path().style.dashes.empty());
+}
+
+TEST(SceneParagraphs, AHeightIsANumberOrAFactor) {
+    const auto height = [](const std::string& words) {
+        return Paragraphs(paragraph(words)).scene.texts.at(0).height;
+    };
+    EXPECT_EQ(height("\\H2;\\H3;a"), 3);
+    EXPECT_EQ(height("\\H2;\\H3x;a"), 6);
+    EXPECT_EQ(height("\\H2;\\H1.5X;a"), 3);
+    EXPECT_EQ(height("\\H+2;a"), 2);
+    for (const char* none : {"0", "-2", "", "x", "."})
+        EXPECT_EQ(height(std::string("\\H") + none + ";a"), 1) << none;
+    EXPECT_EQ(height("\\H" + std::string(400, '9') + ";a"), 1) << "more than any number";
+}
+
+TEST(SceneParagraphs, LettersOfOneLookAreOneText) {
+    EXPECT_EQ(Paragraphs(paragraph("a{b}c")).words(), L"abc");
+    for (const char* look : {"\\fTimes\x14"
+                             "b0\x14"
+                             "i0;",
+                             "\\fArial\x14"
+                             "b1\x14"
+                             "i0;",
+                             "\\fArial\x14"
+                             "b0\x14"
+                             "i1;",
+                             "\\Farial.shx;", "\\Q10;", "\\W2;", "\\T2;", "\\H2;", "\\C1;"})
+        EXPECT_EQ(Paragraphs(paragraph(std::string("{\\fArial\x14"
+                                                   "b0\x14"
+                                                   "i0;a") +
+                                       look + "b}"))
+                      .words(),
+                  L"a/b")
+            << look;
 }
 
 }  // namespace

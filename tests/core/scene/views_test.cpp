@@ -45,6 +45,11 @@ TEST(SceneViewports, AViewportShowsModelSpaceInItsScaleThroughItsFrame) {
     EXPECT_TRUE(goesThrough(sheet.scene.paths[1], {{80, 40}, {120, 40}, {120, 60}, {80, 60}, {80, 40}}));
     EXPECT_EQ(sheet.scene.paths[1].style.color.colorIndex(), 5);
     EXPECT_EQ(sheet.scene.paths[0].entity.handle(), 0xE0u) << "what is seen belongs to the viewport";
+    const Sheet nested(viewport(), std::string(kModelLine) +
+                                       "|0 VIEWPORT|5 E7|8 V|10 1005|20 1000|30 0|40 4|41 2|68 "
+                                       "3|69 3|12 1005|22 1000|17 0|27 0|37 0|45 10");
+    EXPECT_EQ(nested.scene.paths.size(), 2u) << "windows of model space aren't seen";
+    EXPECT_EQ(nested.scene.clips.size(), 1u);
 }
 
 TEST(SceneViewports, WhatIsCutOffTakesUpNoRoom) {
@@ -116,6 +121,11 @@ TEST(SceneViewports, AViewportMayOverrideColorLinetypeAndWeightOfALayer) {
     const Scene model = BuildScene(*sheet.drawing, sheet.drawing->modelSpaceId());
     EXPECT_EQ(model.paths.at(0).style.color.colorIndex(), 3);
     EXPECT_EQ(model.paths.at(0).style.lineWeight, 30);
+    // By layer, which a layer can't be.
+    std::string odd = objects;
+    odd.replace(odd.find("335 E0|420 -1023410171"), 22, "335 E0|420 -1073741824");
+    const Sheet kept(viewport(), kModelLine, layers, "", odd);
+    EXPECT_EQ(kept.scene.paths.at(0).style.color.colorIndex(), 3);
 }
 
 TEST(SceneViewports, DashesKeepTheirLengthOnTheSheetUnlessTheDrawingScalesThem) {
@@ -197,6 +207,16 @@ TEST(SceneShapes, VectorsHaveALengthAndOneOfSixteenDirections) {
     EXPECT_TRUE(goesThrough(shape("\x21").paths.at(0), {{10, 20}, {14, 22}}));
 }
 
+TEST(SceneShapes, TheSixteenDirectionsGoAroundASquare) {
+    const std::vector<OdGePoint2d> square = {{4, 0},  {4, 2},  {4, 4},  {2, 4},   {0, 4},   {-2, 4},
+                                             {-4, 4}, {-4, 2}, {-4, 0}, {-4, -2}, {-4, -4}, {-2, -4},
+                                             {0, -4}, {2, -4}, {4, -4}, {4, -2}};
+    for (std::size_t i = 0; i < square.size(); ++i)
+        EXPECT_TRUE(goesThrough(shape(std::string(1, static_cast<char>(0x20 + i))).paths.at(0),
+                                {{10, 20}, {10 + square[i].x, 20 + square[i].y}}))
+            << i;
+}
+
 TEST(SceneShapes, ThePenLiftsMovesScalesAndReturns) {
     const ScenePath lifted = shape(std::string("\x10\x02\x10\x01\x10", 5)).paths.at(0);
     EXPECT_TRUE(goesThrough(lifted, {{10, 20}, {12, 20}, {14, 20}, {16, 20}}));
@@ -220,12 +240,29 @@ TEST(SceneShapes, ArcsAreOctantsOrBulges) {
     EXPECT_TRUE(isAt(clockwise.points.back(), 8, 18));
     const ScenePath half = shape("\x0C\x02\x01\x7F").paths.at(0);
     EXPECT_TRUE(isAt(half.points.back(), 14, 22));
+    for (const OdGePoint2d& point : half.points)
+        EXPECT_NEAR(std::hypot(point.x - 12, point.y - 21), std::sqrt(5.0), 1e-9);
     EXPECT_LT(distanceTo(half, 13, 19), 0.02) << "a half circle to the right of its chord";
     const ScenePath broken = shape(std::string("\x0B\x80\x00\x00\x02\x02", 6)).paths.at(0);
     EXPECT_NEAR(std::hypot(broken.points.front().x - broken.points.back().x,
                            broken.points.front().y - broken.points.back().y),
                 2 * 4 * std::sin(1.5 * kPi / 8), 1e-9)
         << "begins half way in its octant: one and a half octants of radius 2, drawn twice as large";
+    // From half way in the second octant to a quarter of the third: 67.5 to 101.25 degrees.
+    const auto onCircle = [](double degrees, double radius) {
+        return OdGePoint2d{radius * std::cos(degrees * kPi / 180), radius * std::sin(degrees * kPi / 180)};
+    };
+    const auto endOf = [](const char* code) { return shape(std::string(code, 6)).paths.at(0).points.back(); };
+    const OdGePoint2d from = onCircle(67.5, 4), to = onCircle(101.25, 4), back = onCircle(-11.25, 4),
+                      down = onCircle(22.5, 4);
+    const OdGePoint2d end = endOf("\x0B\x80\x40\x00\x02\x12");
+    EXPECT_TRUE(isAt(end, 10 + to.x - from.x, 20 + to.y - from.y));
+    // The same clockwise, from 22.5 to -11.25.
+    const OdGePoint2d other = endOf("\x0B\x80\x40\x00\x02\x92");
+    EXPECT_TRUE(isAt(other, 10 + back.x - down.x, 20 + back.y - down.y));
+    // Radii beyond 255 have a second byte.
+    const OdGePoint2d far = endOf("\x0B\x80\x40\x01\x02\x12");
+    EXPECT_TRUE(isAt(far, 10 + 129 * (to.x - from.x), 20 + 129 * (to.y - from.y), 1e-9));
 }
 
 TEST(SceneShapes, AShapeIsTurnedStretchedAndMayHoldAnother) {
@@ -279,6 +316,47 @@ TEST(SceneLinetypes, ALineOfTooManyMarksHasItsDashesAlone) {
                                    complexLinetype("74 2|75 0|340 A8|46 0.5|50 0|44 0|45 0|9 GAS"));
     EXPECT_TRUE(scene.texts.empty());
     EXPECT_EQ(scene.paths.size(), 1u);
+}
+
+/// A drawing with one shape, by a file of these bytes.
+Scene withFile(const std::string& bytes, const char* name) {
+    const OdDbDatabasePtr drawing =
+        drawingOf(Parts{.tables = table("STYLE", kShapeStyle),
+                        .entities = std::string("0 SHAPE|8 0|10 10|20 20|30 0|40 2|2 ") + name});
+    SceneOptions options;
+    options.shapeFile = [&](const OdString&) { return bytes; };
+    return BuildScene(*drawing, drawing->modelSpaceId(), options);
+}
+
+TEST(SceneShapes, AFontsShapesAreAsHighAsItsCapitalsAreOne) {
+    // The first shape of a font describes it: the height of its capitals stands behind its name.
+    const std::string font = shapeFile({{"FONT", std::string("\x08\x02\x00", 3)}, {"BAR", "\x84"}}, 0);
+    EXPECT_TRUE(goesThrough(withFile(font, "BAR").paths.at(0), {{10, 20}, {10, 22}}));
+    const std::string library = shapeFile({{"BAR", "\x84"}}, 1);
+    EXPECT_TRUE(goesThrough(withFile(library, "BAR").paths.at(0), {{10, 20}, {10, 36}}));
+}
+
+TEST(SceneShapes, AFileOfAnotherKindHasNoShapes) {
+    const std::string whole = shapeFile({{"BAR", "\x84"}}, 1);
+    ASSERT_EQ(withFile(whole, "BAR").paths.size(), 1u);
+    std::string other = whole;
+    other.replace(11, 6, "bigfon");
+    EXPECT_EQ(withFile(other, "BAR").notDrawn.at("SHAPE"), 1);
+    std::string endless = whole;
+    endless[endless.find('\x1A')] = ' ';
+    EXPECT_EQ(withFile(endless, "BAR").notDrawn.at("SHAPE"), 1);
+    for (std::size_t length = 0; length < whole.size() - 3; ++length)
+        EXPECT_TRUE(withFile(whole.substr(0, length), "BAR").paths.empty()) << length;
+}
+
+TEST(SceneShapes, AShapeWithoutAnEndOfItsNameIsPassedOver) {
+    // One shape of three bytes that are all name, and one as it should be.
+    const std::string file(
+        "AutoCAD-86 shapes "
+        "V1.0\r\n\x1A\x01\x00\x02\x00\x02\x00\x01\x00\x03\x00\x02\x00\x06\x00TTTBAR\x00\x84\x00",
+        48);
+    EXPECT_EQ(withFile(file, "TTT").notDrawn.at("SHAPE"), 1);
+    EXPECT_TRUE(goesThrough(withFile(file, "BAR").paths.at(0), {{10, 20}, {10, 36}}));
 }
 
 }  // namespace

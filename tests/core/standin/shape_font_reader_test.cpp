@@ -107,6 +107,8 @@ TEST(ShapeFont, CountsThatLieAreDamage) {
     std::string unifont = font_bytes::unifont(letters());
     unifont[kHeader + 1] = '\x7F';
     EXPECT_EQ(problemOf(unifont), FontProblem::kDamaged);
+    unifont[kHeader] = unifont[kHeader + 1] = 0;
+    EXPECT_EQ(problemOf(unifont), FontProblem::kDamaged) << "not even its description is counted";
     std::string big = font_bytes::bigFont({{0xB0A1, "\x10"}});
     big[kHeader + 5] = '\x7F';
     EXPECT_EQ(problemOf(big), FontProblem::kDamaged);

@@ -1,5 +1,6 @@
 // The colour dialog: what it takes, what it refuses with which words, and where the user stands afterwards.
 #include "../../../platform/standin/resource.h"
+#include "picture.h"
 #include "standin_fixture.h"
 
 namespace {
@@ -153,4 +154,122 @@ TEST_F(ColorDialog, AnUntouchedColorComesBackAsItWas) {
     EXPECT_TRUE(pickColor(color, false, [&](HWND dialog) { click(dialog, IDOK); }));
     EXPECT_TRUE(color.isByACI());
     EXPECT_EQ(color.colorIndex(), 42);
+}
+
+TEST_F(ColorDialog, OffersLayerAndBlockOnlyWhereTheyAreAllowed) {
+    for (const bool allowed : {false, true}) {
+        int index = 5;
+        EXPECT_FALSE(pickIndex(index, allowed, [&](HWND dialog) {
+            for (const int id : {IDC_COLOR_BYLAYER, IDC_COLOR_BYBLOCK})
+                EXPECT_EQ(::IsWindowEnabled(::GetDlgItem(dialog, id)) != FALSE, allowed);
+            click(dialog, IDCANCEL);
+        }));
+    }
+}
+
+TEST_F(ColorDialog, AsksForPartsOnlyWhereTrueColorsAreTaken) {
+    constexpr int kParts[] = {IDC_COLOR_RGB_LABEL, IDC_COLOR_RED, IDC_COLOR_GREEN, IDC_COLOR_BLUE};
+    int index = 5;
+    EXPECT_FALSE(pickIndex(index, false, [&](HWND dialog) {
+        for (const int id : kParts) EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(dialog, id))) << id;
+        click(dialog, IDCANCEL);
+    }));
+    OdCmColor color = rgb(10, 20, 30);
+    EXPECT_FALSE(pickColor(color, false, [&](HWND dialog) {
+        for (const int id : kParts) EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(dialog, id))) << id;
+        click(dialog, IDCANCEL);
+    }));
+}
+
+TEST_F(ColorDialog, BeginsInTheIndexWithAllOfItSelected) {
+    int index = 128;
+    EXPECT_FALSE(pickIndex(index, false, [&](HWND dialog) {
+        const HWND edit = ::GetDlgItem(dialog, IDC_COLOR_INDEX);
+        EXPECT_EQ(::GetFocus(), edit);
+        EXPECT_EQ(::SendMessageW(edit, EM_GETSEL, 0, 0), MAKELRESULT(0, 3));
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_INDEX), L"128");
+        click(dialog, IDCANCEL);
+    }));
+}
+
+TEST_F(ColorDialog, ShowsWhatTheColorIsCalled) {
+    const auto shown = [&](const OdCmColor& start) {
+        OdCmColor color = start;
+        CString text;
+        EXPECT_FALSE(pickColor(color, true, [&](HWND dialog) {
+            text = textOf(dialog, IDC_COLOR_INDEX);
+            click(dialog, IDCANCEL);
+        }));
+        return text;
+    };
+    OdCmColor color;
+    color.setColorIndex(256);
+    EXPECT_EQ(shown(color), L"ByLayer");
+    color.setColorIndex(0);
+    EXPECT_EQ(shown(color), L"ByBlock");
+    color.setColorIndex(77);
+    EXPECT_EQ(shown(color), L"77");
+    EXPECT_EQ(shown(rgb(1, 2, 3)), L"") << "a true color has no index";
+}
+
+TEST_F(ColorDialog, AnIndexThatIsNoneBeginsWithTheForeground) {
+    int index = 999;
+    EXPECT_TRUE(pickIndex(index, false, [&](HWND dialog) {
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_INDEX), L"7");
+        click(dialog, IDOK);
+    }));
+    EXPECT_EQ(index, 7);
+}
+
+TEST_F(ColorDialog, TypedPartsTakeTheIndexAway) {
+    OdCmColor color;
+    color.setColorIndex(5);
+    EXPECT_TRUE(pickColor(color, false, [&](HWND dialog) {
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_BLUE), L"255");
+        type(dialog, IDC_COLOR_RED, L"9");
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_INDEX), L"");
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_BLUE), L"255");
+        click(dialog, IDOK);
+    }));
+    EXPECT_EQ(color, rgb(9, 0, 255));
+}
+
+TEST_F(ColorDialog, TheButtonOfTheLayerTakesItsColorAndName) {
+    OdCmColor color = rgb(10, 20, 30);
+    EXPECT_TRUE(pickColor(color, true, [&](HWND dialog) {
+        click(dialog, IDC_COLOR_BYLAYER);
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_INDEX), L"ByLayer");
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_RED), L"255") << "the layer is red";
+        EXPECT_EQ(textOf(dialog, IDC_COLOR_BLUE), L"0");
+        click(dialog, IDOK);
+    }));
+    EXPECT_TRUE(color.isByLayer());
+}
+
+TEST_F(ColorDialog, TheSampleShowsTheColorInAFrame) {
+    const auto sample = [&](const OdCmColor& start) {
+        OdCmColor color = start;
+        COLORREF inner = CLR_INVALID;
+        EXPECT_FALSE(pickColor(color, true, [&](HWND dialog) {
+            const HWND window = ::GetDlgItem(dialog, IDC_COLOR_SAMPLE);
+            ui_test::pump();
+            ::UpdateWindow(window);
+            const ui_test::Picture picture(*CWnd::FromHandle(window));
+            const int right = picture.width() - 1, bottom = picture.height() - 1;
+            for (const CPoint corner : {CPoint(0, 0), CPoint(right, bottom)})
+                EXPECT_EQ(picture.at(corner.x, corner.y), ::GetSysColor(COLOR_BTNTEXT));
+            inner = picture.at(1, 1);
+            EXPECT_EQ(picture.at(right - 1, bottom - 1), inner);
+            click(dialog, IDCANCEL);
+        }));
+        return inner;
+    };
+    EXPECT_EQ(sample(rgb(10, 20, 30)), static_cast<COLORREF>(RGB(10, 20, 30)));
+    OdCmColor color;
+    color.setColorIndex(5);
+    EXPECT_EQ(sample(color), static_cast<COLORREF>(RGB(0, 0, 255)));
+    color.setColorIndex(256);
+    EXPECT_EQ(sample(color), static_cast<COLORREF>(RGB(255, 0, 0))) << "that of the layer";
+    color.setColorIndex(0);
+    EXPECT_EQ(sample(color), static_cast<COLORREF>(RGB(255, 255, 255))) << "the foreground";
 }

@@ -53,13 +53,20 @@ TEST_F(Schemes, TextsCanBeReadOnTheirBackgrounds) {
     EXPECT_LT(brightness(colorOf(StandinColorScheme::kDark, kStandinRoleFace)), 80);
 }
 
-TEST_F(Schemes, TheLightTipIsTheOneOfLongStanding) {
-    EXPECT_EQ(colorOf(StandinColorScheme::kLight, kKhColorRoleTipText),
-              static_cast<COLORREF>(RGB(70, 72, 75)));
-    EXPECT_EQ(colorOf(StandinColorScheme::kLight, kKhColorRoleTipBorder),
-              static_cast<COLORREF>(RGB(70, 72, 75)));
-    EXPECT_EQ(colorOf(StandinColorScheme::kLight, kKhColorRoleTipBackground),
-              static_cast<COLORREF>(RGB(249, 249, 249)));
+TEST_F(Schemes, EachRoleHasItsColor) {
+    // Red, green and blue as web pages write them.
+    const auto check = [&](StandinColorScheme scheme, const std::vector<unsigned>& expected) {
+        ASSERT_EQ(expected.size(), static_cast<std::size_t>(kStandinRoleCount));
+        for (int role = 0; role < kStandinRoleCount; ++role) {
+            const unsigned web = expected[static_cast<std::size_t>(role)];
+            EXPECT_EQ(colorOf(scheme, role), static_cast<COLORREF>(RGB(web >> 16, web >> 8 & 255, web & 255)))
+                << role;
+        }
+    };
+    check(StandinColorScheme::kLight, {0xFFFFFF, 0x202020, 0xF0F0F0, 0x202020, 0x808080, 0x0067C0, 0xFFFFFF,
+                                       0xACACAC, 0x46484B, 0x46484B, 0xF9F9F9, 0x0054A6, 0xFFFFFF, 0x202020});
+    check(StandinColorScheme::kDark, {0x202225, 0xE8E8E8, 0x2D3034, 0xE8E8E8, 0x909498, 0x266EB2, 0xFFFFFF,
+                                      0x5C6066, 0xE8E8E8, 0x787C82, 0x383B40, 0x7AB8F5, 0x212830, 0xE8E8E8});
 }
 
 TEST_F(Schemes, HighContrastHasTheColorsOfTheSystem) {
@@ -81,6 +88,24 @@ TEST_F(Schemes, TheOneInForceIsTheSystemsUntilItIsSet) {
         EXPECT_EQ(colors().currentColorScheme(1), 1);
         host.SetColorScheme(StandinColorScheme::kLight);
         EXPECT_EQ(colors().currentColorScheme(1), 0);
+    }
+    {
+        const ui_test::SchemeColor dim(COLOR_WINDOW, RGB(127, 127, 127));
+        host.SetColorScheme(StandinColorScheme::kSystem);
+        EXPECT_EQ(colors().currentColorScheme(1), 1);
+    }
+    {
+        const ui_test::SchemeColor middling(COLOR_WINDOW, RGB(128, 128, 128));
+        EXPECT_EQ(colors().currentColorScheme(1), 0);
+    }
+    {
+        // Green looks brighter than red, and blue darker.
+        const ui_test::SchemeColor green(COLOR_WINDOW, RGB(0, 255, 0));
+        EXPECT_EQ(colors().currentColorScheme(1), 0);
+    }
+    {
+        const ui_test::SchemeColor purple(COLOR_WINDOW, RGB(255, 0, 255));
+        EXPECT_EQ(colors().currentColorScheme(1), 1);
     }
     host.SetColorScheme(StandinColorScheme::kHighContrast);
     EXPECT_EQ(colors().currentColorScheme(1), 2);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "canvas.h"
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {
@@ -89,4 +90,21 @@ TEST(DashPattern, ASampleRepeatsItTwoAndAHalfTimesInTheMiddle) {
     EXPECT_EQ(row, "     xxxxxxxxxxxxxxx.....xxxxxxxxxxxxxxx.....xxxxxxxxxx     ");
     EXPECT_EQ(canvas.count(RGB(255, 0, 0)), 40);
     EXPECT_EQ(canvas.count(RGB(0, 255, 0)), 50 * 10 - 40);
+}
+
+namespace {
+
+int WINAPI twiceAsFine(HDC, int index) { return index == LOGPIXELSY ? 192 : 0; }
+
+}  // namespace
+
+TEST(DashPattern, ASampleIsTwiceAsThickWherePixelsAreHalfAsHigh) {
+    const ui_test::ReplacedImport layer(::GetModuleHandleW(L"kmfc.dll"), "GetDeviceCaps", &twiceAsFine);
+    const ui_test::ReplacedImport own(::GetModuleHandleW(L"ktstandin.dll"), "GetDeviceCaps", &twiceAsFine);
+    ASSERT_TRUE(layer.isThere() || own.isThere());
+    ui_test::Canvas canvas(60, 12);
+    DrawLinetypeSample(canvas.dc, CRect(5, 1, 55, 11), {}, RGB(255, 0, 0), RGB(0, 255, 0));
+    int thick = 0;
+    for (int y = 0; y < 12; ++y) thick += canvas.at(30, y) == RGB(255, 0, 0);
+    EXPECT_EQ(thick, 2);
 }

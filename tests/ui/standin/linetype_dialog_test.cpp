@@ -35,6 +35,30 @@ TEST_F(LinetypeDialog, ListsByLayerAndByBlockAndTheOthersByName) {
     });
 }
 
+TEST_F(LinetypeDialog, ItsColumnsShareTheWidthWithoutAScrollBar) {
+    inManager([&](HWND manager) {
+        const HWND list = listOf(manager);
+        CRect client;
+        ::GetClientRect(list, &client);
+        const int width =
+            client.Width() -
+            (::GetWindowLongW(list, GWL_STYLE) & WS_VSCROLL ? 0 : ::GetSystemMetrics(SM_CXVSCROLL));
+        const int shares[] = {30, 28, 42};
+        const wchar_t* const titles[] = {L"Linetype", L"Appearance", L"Description"};
+        for (int column = 0; column < 3; ++column) {
+            wchar_t title[32] = {};
+            LVCOLUMNW shown = {};
+            shown.mask = LVCF_TEXT | LVCF_WIDTH;
+            shown.pszText = title;
+            shown.cchTextMax = 32;
+            ::SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column),
+                           reinterpret_cast<LPARAM>(&shown));
+            EXPECT_EQ(shown.cx, width * shares[column] / 100) << column;
+            EXPECT_STREQ(title, titles[column]);
+        }
+    });
+}
+
 TEST_F(LinetypeDialog, SelectsNothingForALinetypeThatItDoesNotList) {
     for (const OdDbObjectId& id : {OdDbObjectId(), table->getAt(L"SITE|FENCE"), drawing->clayer()}) {
         current = id;

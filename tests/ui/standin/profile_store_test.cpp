@@ -2,6 +2,7 @@
 #include <od_tool_tip_setting.h>
 
 #include "host_fixture.h"
+#include "replaced_import.h"
 
 namespace {
 class Profile : public ui_test::HostTest {
@@ -86,4 +87,30 @@ TEST_F(Profile, TipsAreOnUntilTheSettingSaysOtherwise) {
     EXPECT_EQ(tips->toolTips(), 1);
     profile().setProfileInt(L"General", L"ToolTips", 0, 0);
     EXPECT_EQ(tips->toolTips(), 0);
+}
+
+namespace {
+
+int closedKeys = 0;
+
+LSTATUS WINAPI noteClose(HKEY key) {
+    ++closedKeys;
+    return ::RegCloseKey(key);
+}
+
+}  // namespace
+
+TEST_F(Profile, NoKeyStaysOpenBehindAnAnswer) {
+    profile().setProfileInt(L"General", L"ToolTips", 1, 0);
+    const ui_test::ReplacedImport close(::GetModuleHandleW(L"ktstandin.dll"), "RegCloseKey", &noteClose);
+    ASSERT_TRUE(close.isThere());
+    closedKeys = 0;
+    int value = 0;
+    OdString text;
+    profile().setProfileInt(L"General", L"ToolTips", 0, 0);
+    EXPECT_EQ(closedKeys, 1);
+    EXPECT_TRUE(profile().getProfileInt(L"General", L"ToolTips", value, 0));
+    EXPECT_EQ(closedKeys, 2);
+    EXPECT_FALSE(profile().getProfileString(L"General", L"ToolTips", text, 0));
+    EXPECT_EQ(closedKeys, 3);
 }

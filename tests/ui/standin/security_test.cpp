@@ -85,6 +85,19 @@ TEST_F(Security, ASealTellsWhoSealedAndThatNothingChanged) {
     EXPECT_TRUE(removable);
 }
 
+TEST_F(Security, BeginsAndEndsInTheNameOfTheSigner) {
+    save();
+    inDialog([&](HWND dialog) {
+        const HWND signer = ::GetDlgItem(dialog, IDC_SEAL_SIGNER);
+        EXPECT_EQ(::GetFocus(), signer);
+        ::SetDlgItemTextW(dialog, IDC_SEAL_SIGNER, L"Ann");
+        click(dialog, IDC_SEAL);
+        ::SetFocus(::GetDlgItem(dialog, IDC_SEAL_REMOVE));
+        click(dialog, IDC_SEAL_REMOVE);
+        EXPECT_EQ(::GetFocus(), signer) << "the button is off now";
+    });
+}
+
 TEST_F(Security, AChangeOfOneByteIsTold) {
     save();
     seal(L"Ann");
