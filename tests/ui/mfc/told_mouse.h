@@ -1,5 +1,5 @@
-// Answers the class layer when it asks for the mouse. The real one is the machine's, which may be anywhere, and its moves
-// get lost under Wine.
+// Answers the class layer when it asks for the mouse. The real one is the machine's, which may be anywhere,
+// and its moves get lost under Wine.
 #pragma once
 
 #include <afxwin.h>
@@ -11,8 +11,8 @@
 
 namespace ui_test {
 
-/// Where the class layer finds the mouse, and which windows asked to hear that it left them; one at a time. The mouse
-/// never leaves by itself: a test sends WM_MOUSELEAVE.
+/// Where the class layer finds the mouse, and which windows asked to hear that it left them; one at a time.
+/// The mouse never leaves by itself: a test sends WM_MOUSELEAVE.
 class ToldMouse {
 public:
     ToldMouse() {
