@@ -254,6 +254,31 @@ TEST_F(LayoutFile, WhatIsSaidIsBuiltInWhereTheLibraryHasNoStrings) {
     EXPECT_EQ(said[0], said[1]);
 }
 
+TEST_F(LayoutFile, WithoutAWindowEveryOperationSaysSo) {
+    addBar(kFirstBar);
+    CStringArray names;
+    names.Add(L"one");
+    layouts.GetNames(names);
+    EXPECT_EQ(names.GetSize(), 0);
+    EXPECT_FALSE(layouts.Has(L"one"));
+    const std::function<BOOL()> operations[] = {
+        [this] { return layouts.Save(L"one"); },
+        [this] { return layouts.Apply(L"one"); },
+        [this] { return layouts.Rename(L"one", L"two"); },
+        [this] { return layouts.Delete(L"one"); },
+        [this] { return layouts.Export(path(L"one.xml").c_str(), L"one"); },
+        [this] { return layouts.Export(path(L"one.xml").c_str()); },
+        [this] { return layouts.Import(path(L"one.xml").c_str()); },
+        [this] { return layouts.PlacePane(*bars.front()); },
+        [this] { return layouts.SetKeepReachable(TRUE); },
+    };
+    for (const auto& each : operations) {
+        EXPECT_FALSE(each());
+        EXPECT_EQ(layouts.GetProblem(), L"There is no window whose palettes could be laid out.");
+    }
+    EXPECT_EQ(files(), 0);
+}
+
 TEST_F(LayoutFile, APaletteOfAPaneThatHasNoneIsLeftAlone) {
     fillFrame(2);
     ASSERT_TRUE(layouts.Save(L"x"));
