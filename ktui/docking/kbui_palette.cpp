@@ -34,8 +34,8 @@ BEGIN_MESSAGE_MAP(CKbUiPalette, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_SETCURSOR()
     ON_WM_LBUTTONDOWN()
-    ON_MESSAGE(kBeginNameEdit, OnBeginNameEdit)
-    ON_MESSAGE(kEndNameEdit, OnEndNameEdit)
+    ON_MESSAGE(kBeginNameEdit, &CKbUiPalette::OnBeginNameEdit)
+    ON_MESSAGE(kEndNameEdit, &CKbUiPalette::OnEndNameEdit)
 END_MESSAGE_MAP()
 
 CKbUiPalette::CKbUiPalette() { m_classWord = 0; }

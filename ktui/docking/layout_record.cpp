@@ -123,11 +123,6 @@ std::set<unsigned> PlacedPanes(const Record& record) {
     return placed;
 }
 
-bool Remove(Tree& tree, unsigned id) {
-    if (!tree.isSplit() || Find(tree, id) == nullptr) return false;
-    return prune(tree, [&](unsigned each) { return each == id; });
-}
-
 void Remove(Record& record, const std::set<unsigned>& panes) {
     const auto goes = [&](unsigned id) { return panes.count(id) != 0; };
     for (Group& group : record.groups) {

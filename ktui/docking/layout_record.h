@@ -99,9 +99,6 @@ Tree* Find(Tree& tree, unsigned id);
 /// Every pane that has a place, in tabs too.
 std::set<unsigned> PlacedPanes(const Record& record);
 
-/// Takes a pane or group out of a tree, whose neighbour takes its room. False when it is all there is or
-/// isn't there.
-bool Remove(Tree& tree, unsigned id);
 /// Takes panes out of a record: out of rows, frames and tabs. A group of which one pane is left becomes that
 /// pane; rows, frames and groups without panes go. What is known of the panes goes too.
 void Remove(Record& record, const std::set<unsigned>& panes);

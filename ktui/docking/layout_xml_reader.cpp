@@ -266,7 +266,7 @@ void Reader::readLeaf(const Element& element, Tree& tree, bool docked) {
     tree.shown = flag(element, kShown);
     if (element.find(kHides) != nullptr) {
         tree.hides = flag(element, kHides);
-        if (good() && tree.hides && (!docked || !tree.shown))
+        if (tree.hides && (!docked || !tree.shown))
             fail(FaultKind::badAttribute, kHides, *element.find(kHides));
         if (tree.hides) {
             tree.size.cx = static_cast<int>(number(element, kWidth, 0, kMostPixels));

@@ -29,7 +29,7 @@ BEGIN_MESSAGE_MAP(CNameEdit, CWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
-    ON_EN_KILLFOCUS(kEditId, OnKillFocusEdit)
+    ON_EN_KILLFOCUS(kEditId, &CNameEdit::OnKillFocusEdit)
 END_MESSAGE_MAP()
 
 CNameEdit::CNameEdit() = default;

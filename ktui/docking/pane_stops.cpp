@@ -28,7 +28,7 @@ CDockablePane* PaneStopWithFocus(const KeyedFrame& keyed) {
     const HWND focus = ::GetFocus();
     const std::vector<CDockablePane*> stops = PaneStops(keyed);
     const auto found = std::ranges::find_if(stops, [focus](const CDockablePane* pane) {
-        return focus != nullptr && (focus == pane->m_hWnd || ::IsChild(pane->m_hWnd, focus));
+        return focus == pane->m_hWnd || ::IsChild(pane->m_hWnd, focus);
     });
     return found != stops.end() ? *found : nullptr;
 }

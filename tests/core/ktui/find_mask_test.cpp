@@ -52,6 +52,8 @@ TEST(FindMask, AQuestionMarkStandsForOneOrAtAnEndForNone) {
     EXPECT_TRUE(fits(L"ab?.dwg", L"ab.dwg"));
     EXPECT_TRUE(fits(L"ab?.dwg", L"abc.dwg"));
     EXPECT_FALSE(fits(L"ab?.dwg", L"abcd.dwg"));
+    EXPECT_TRUE(fits(L"?.dwg", L".dwg"));
+    EXPECT_TRUE(fits(L"??.dwg", L"a.dwg"));
     EXPECT_FALSE(fits(L"a?", L"a."));
     EXPECT_TRUE(fits(L"plan.d??", L"plan.dwg"));
 }

@@ -205,6 +205,42 @@ TEST(LayoutNumbers, WhatHidesHasAPlaceWhereItIsNotShown) {
     EXPECT_FALSE(taken({0x444B0002, 1, 3, 90, 1, 7, 0, 0, 0, 1, 7, 3, 120, 100001}));
 }
 
+TEST(LayoutNumbers, AFlagIsNothingButZeroOrOne) {
+    const auto taken = [](std::int32_t shown) {
+        std::vector<std::int32_t> numbers = {0x444B0002, 1, 3, 90, 1, 7, shown, 0, 0, 0};
+        std::uint32_t sum = 2166136261u;
+        for (const std::int32_t number : numbers)
+            sum = (sum ^ static_cast<std::uint32_t>(number)) * 16777619u;
+        numbers.push_back(static_cast<std::int32_t>(sum));
+        Record read;
+        return FromNumbers(numbers, read);
+    };
+    EXPECT_TRUE(taken(0));
+    EXPECT_TRUE(taken(1));
+    EXPECT_FALSE(taken(2));
+    EXPECT_FALSE(taken(-1));
+}
+
+TEST(LayoutMerge, WhereTheTabInFrontGoesTheFirstOneComesToTheFront) {
+    Record record;
+    Group group;
+    group.id = kFirstGroup;
+    for (const unsigned pane : {1u, 2u, 3u}) {
+        Tab tab;
+        tab.pane = pane;
+        group.tabs.push_back(tab);
+    }
+    group.active = 3;
+    record.groups = {group};
+    record.rows = {{Side::left, 100, leaf(kFirstGroup)}};
+    Record other = record;
+    Remove(record, {3});
+    ASSERT_EQ(record.groups.size(), 1u);
+    EXPECT_EQ(record.groups[0].active, 1u);
+    Remove(other, {1});
+    EXPECT_EQ(other.groups[0].active, 3u) << "another one's going changes nothing";
+}
+
 TEST(LayoutNumbers, WhatIsDamagedIsRefused) {
     const std::vector<std::int32_t> good = ToNumbers(three());
     Record read;

@@ -127,6 +127,17 @@ TEST_F(KeepReachable, TheMainWindowWithItsDockedPanesComesBackToo) {
     EXPECT_EQ(placeOf(*frame).left, -3000);
 }
 
+TEST_F(KeepReachable, DoesNotPullTheMainWindowFromTheMouse) {
+    ASSERT_TRUE(layouts.SetKeepReachable(TRUE));
+    frame->SetWindowPos(nullptr, -3000, -3000, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    frame->SetCapture();
+    idle();
+    EXPECT_EQ(placeOf(*frame).left, -3000);
+    ::ReleaseCapture();
+    idle();
+    EXPECT_EQ(placeOf(*frame).TopLeft(), workArea().TopLeft());
+}
+
 TEST_F(KeepReachable, EndsWithTheObject) {
     auto other = std::make_unique<CKtUiPaletteLayouts>();
     layouts.Detach();

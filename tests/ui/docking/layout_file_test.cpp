@@ -1,7 +1,9 @@
 // Layouts as files: exported, imported, and files that are none.
 #include <fstream>
 
+#include "in_language.h"
 #include "layouts_fixture.h"
+#include "without_strings.h"
 
 using namespace docking_test;
 
@@ -187,20 +189,106 @@ TEST_F(LayoutFile, WhatIsNoFileOfLayoutsIsRefused) {
     EXPECT_TRUE(layouts.Apply(L"empty"));
 }
 
+/// A file that has to be refused, and what has to be said then.
+struct BrokenFile {
+    std::string name, bytes;
+    CString said;
+};
+
+std::vector<BrokenFile> brokenFiles() {
+    const std::string folder = std::string(KTUI_TEST_DATA) + "/broken_layouts/";
+    std::ifstream list(folder + "said.txt");
+    EXPECT_TRUE(list.good());
+    std::vector<BrokenFile> all;
+    for (std::string line; std::getline(list, line);) {
+        const std::size_t gap = line.find('\t');
+        EXPECT_NE(gap, std::string::npos) << line;
+        std::ifstream file(folder + line.substr(0, gap), std::ios::binary);
+        EXPECT_TRUE(file.good()) << line;
+        all.push_back({line, std::string((std::istreambuf_iterator<char>(file)), {}),
+                       CString(line.substr(gap + 1).c_str())});
+    }
+    return all;
+}
+
 TEST_F(LayoutFile, EveryBrokenFileOfTheCollectionIsRefusedWithItsElement) {
     fillFrame(3);
-    std::ifstream list(std::string(KTUI_TEST_DATA) + "/broken_layouts/said.txt");
-    ASSERT_TRUE(list.good());
-    int tried = 0;
-    for (std::string line; std::getline(list, line); ++tried) {
-        const std::size_t gap = line.find('\t');
-        ASSERT_NE(gap, std::string::npos) << line;
-        std::ifstream file(std::string(KTUI_TEST_DATA) + "/broken_layouts/" + line.substr(0, gap),
-                           std::ios::binary);
-        ASSERT_TRUE(file.good()) << line;
-        const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-        SCOPED_TRACE(line);
-        expectRefused(bytes, CString(line.substr(gap + 1).c_str()));
+    const std::vector<BrokenFile> files = brokenFiles();
+    EXPECT_GE(files.size(), 20u);
+    for (const BrokenFile& file : files) {
+        SCOPED_TRACE(file.name);
+        expectRefused(file.bytes, file.said);
     }
-    EXPECT_GE(tried, 20);
+}
+
+TEST_F(LayoutFile, WhatIsSaidIsBuiltInWhereTheLibraryHasNoStrings) {
+    std::vector<std::wstring> said[2];
+    CKtUiPaletteLayouts detached;
+    fillFrame(1);
+    const auto sayEverything = [&](std::vector<std::wstring>& all) {
+        const auto note = [&](BOOL done, const CKtUiPaletteLayouts& by) {
+            EXPECT_FALSE(done);
+            all.emplace_back(by.GetProblem());
+        };
+        note(detached.Save(L"x"), detached);
+        note(layouts.Save(L" "), layouts);
+        note(layouts.Apply(L"none"), layouts);
+        note(layouts.Rename(L"one", L"two"), layouts);
+        note(layouts.Import(path(L"none.xml").c_str()), layouts);
+        note(layouts.Import(write(std::string(20'000'000, ' '))), layouts);
+        note(layouts.Export(path(L"no folder\\one.xml").c_str()), layouts);
+        note(layouts.PlacePane(*bars.front()), layouts);
+        for (const BrokenFile& file : brokenFiles()) note(layouts.Import(write(file.bytes)), layouts);
+    };
+    ASSERT_TRUE(layouts.Save(L"one"));
+    ASSERT_TRUE(layouts.Save(L"two"));
+    {
+        const ui_test::InLanguage chinese(ui_test::kChinese);
+        sayEverything(said[0]);
+    }
+    {
+        const ui_test::WithoutStrings strings;
+        sayEverything(said[1]);
+    }
+    EXPECT_EQ(said[0][0], L"没有可以布置选项板的窗口。");
+    EXPECT_EQ(said[0], said[1]);
+}
+
+TEST_F(LayoutFile, WithoutAWindowEveryOperationSaysSo) {
+    addBar(kFirstBar);
+    CStringArray names;
+    names.Add(L"one");
+    layouts.GetNames(names);
+    EXPECT_EQ(names.GetSize(), 0);
+    EXPECT_FALSE(layouts.Has(L"one"));
+    const std::function<BOOL()> operations[] = {
+        [this] { return layouts.Save(L"one"); },
+        [this] { return layouts.Apply(L"one"); },
+        [this] { return layouts.Rename(L"one", L"two"); },
+        [this] { return layouts.Delete(L"one"); },
+        [this] { return layouts.Export(path(L"one.xml").c_str(), L"one"); },
+        [this] { return layouts.Export(path(L"one.xml").c_str()); },
+        [this] { return layouts.Import(path(L"one.xml").c_str()); },
+        [this] { return layouts.PlacePane(*bars.front()); },
+        [this] { return layouts.SetKeepReachable(TRUE); },
+    };
+    for (const auto& each : operations) {
+        EXPECT_FALSE(each());
+        EXPECT_EQ(layouts.GetProblem(), L"There is no window whose palettes could be laid out.");
+    }
+    EXPECT_EQ(files(), 0);
+}
+
+TEST_F(LayoutFile, APaletteOfAPaneThatHasNoneIsLeftAlone) {
+    fillFrame(2);
+    ASSERT_TRUE(layouts.Save(L"x"));
+    std::wstring text = stored(L"x");
+    const std::wstring id = L"<State Id=\"" + std::to_wstring(kFirstBar) + L"\"";
+    const std::size_t at = text.find(id);
+    ASSERT_NE(at, std::wstring::npos) << CStringA(text.c_str()).GetString();
+    text.insert(at + id.size(), L" Palette=\"0\"");
+    store(L"x", text);
+    const Seen before = seen();
+    EXPECT_TRUE(layouts.Apply(L"x")) << CStringA(layouts.GetProblem()).GetString();
+    EXPECT_EQ(seen(), before);
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "canvas.h"
+#include "replaced_import.h"
 #include "slot_of.h"
 #include "ui_test.h"
 
@@ -147,6 +148,32 @@ TEST_F(MemDC, GreyTextsAndEscapesGoToItsOwnHandle) {
     EXPECT_GT(drawn(dc, kGround, 40, 30), 5);
     EXPECT_EQ(dc.Escape(QUERYESCSUPPORT, 0, nullptr, nullptr),
               ::Escape(dc.m_hDC, QUERYESCSUPPORT, 0, nullptr, nullptr));
+}
+
+struct EscapeSeen {
+    HDC dc;
+    int escape, count;
+    LPCSTR input;
+    LPVOID output;
+} escapeSeen;
+
+int WINAPI noteEscape(HDC dc, int escape, int count, LPCSTR input, LPVOID output) {
+    escapeSeen = {dc, escape, count, input, output};
+    return 77;
+}
+
+TEST_F(MemDC, AnEscapeIsHandedOnWhole) {
+    const ui_test::ReplacedImport notes(::GetModuleHandleW(L"ktui.dll"), "Escape", &noteEscape);
+    ASSERT_TRUE(notes.isThere());
+    CXTMemDC dc(&canvas.dc, CRect(0, 0, 40, 30), kGround);
+    const char input[] = "in";
+    char output[4] = {};
+    EXPECT_EQ(dc.Escape(5, 2, input, output), 77);
+    EXPECT_EQ(escapeSeen.dc, dc.m_hDC);
+    EXPECT_EQ(escapeSeen.escape, 5);
+    EXPECT_EQ(escapeSeen.count, 2);
+    EXPECT_EQ(escapeSeen.input, input);
+    EXPECT_EQ(escapeSeen.output, output);
 }
 
 }  // namespace

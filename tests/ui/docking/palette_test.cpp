@@ -70,6 +70,11 @@ TEST_F(Palette, NeedsASet) {
     EXPECT_EQ(palette->GetName(), L"Layers");
 }
 
+TEST_F(Palette, WithoutASetItsNameIsNotEdited) {
+    ASSERT_TRUE(palette->CWnd::Create(nullptr, L"alone", WS_CHILD, CRect(0, 0, 5, 5), frame, 5));
+    EXPECT_EQ(palette->SendMessage(WM_USER + 101, 0, 0), 0);
+}
+
 TEST_F(Palette, IsAChildOfItsSetWithStyleOne) {
     PaletteSetTest::make();
     ASSERT_TRUE(palette->CKbUiPalette::Create(&set));

@@ -383,6 +383,64 @@ TEST_F(ToolTabCtrl, DestroysAndDeletesTheWindowsThatItStillHolds) {
     EXPECT_EQ(strip.GetTabCount(), 0);
 }
 
+/// A page that hears of its end while it is whole.
+class HearingPage : public CWnd {
+public:
+    explicit HearingPage(int* heard) : m_heard(heard) {}
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        *m_heard += message == WM_DESTROY;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    int* m_heard;
+};
+
+TEST_F(ToolTabCtrl, TheWindowsThatItHoldsHearOfTheirEnd) {
+    int heard = 0;
+    auto* held = new HearingPage(&heard);
+    OpenStrip strip;
+    make(strip, kRight, 18, 400);
+    ASSERT_TRUE(held->Create(nullptr, L"held", WS_CHILD, CRect(0, 0, 5, 5), &parent, 5));
+    strip.InsertTab(0, L"Held", L"", held);
+    strip.DestroyWindow();
+    EXPECT_EQ(heard, 1);
+}
+
+/// A strip that measures its tabs itself.
+class WideStrip : public OpenStrip {
+public:
+    int measured = 0;
+    void MeasureTabs(CDC* dc, int first, int last) override {
+        ++measured;
+        OpenStrip::MeasureTabs(dc, first, last);
+    }
+};
+
+TEST_F(ToolTabCtrl, AStripOfAnothersMeasuresItsTabsItself) {
+    WideStrip strip;
+    make(strip, kRight, 18, 400);
+    strip.fill(2);
+    strip.measured = 0;
+    strip.Recalc();
+    EXPECT_EQ(strip.measured, 1);
+}
+
+TEST_F(ToolTabCtrl, LayingTabsOutLeavesTheTipWhereItIs) {
+    OpenStrip strip;
+    make(strip, kRight, 18, 400);
+    strip.fill(1);
+    strip.m_tip.SetWindowPos(nullptr, 210, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    CRect before, after;
+    strip.m_tip.GetWindowRect(&before);
+    ASSERT_EQ(before.TopLeft(), CPoint(210, 120));
+    strip.Recalc();
+    strip.m_tip.GetWindowRect(&after);
+    EXPECT_EQ(after, before);
+}
+
 TEST_F(ToolTabCtrl, ItsDestructorDestroysTheWindowsToo) {
     bool gone = false;
     auto* held = new Page(&gone);

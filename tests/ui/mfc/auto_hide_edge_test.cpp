@@ -4,7 +4,7 @@
 #include <afxtabbedpane.h>
 
 #include "docking_fixture.h"
-#include "replaced_import.h"
+#include "told_mouse.h"
 
 using namespace docking;
 
@@ -12,22 +12,11 @@ namespace {
 
 constexpr const wchar_t* kProfile = L"Software\\ktui hiding test\\";
 
-const CPoint kFarAway(1000, 740);  // the mouse is over nothing of the frame
-CPoint mouse = kFarAway;
-
-/// The real mouse is the machine's, which may be anywhere.
-BOOL WINAPI tell_mouse(POINT* place) {
-    *place = mouse;
-    return TRUE;
-}
-
 class HidingPanes : public Docking {
 protected:
-    ui_test::ReplacedImport pointer{::GetModuleHandleW(L"kmfc.dll"), "GetCursorPos", &tell_mouse};
+    ui_test::ToldMouse mouse;
 
     HidingPanes() {
-        EXPECT_TRUE(pointer.isThere());
-        mouse = kFarAway;
         CDockablePane::m_bDisableAnimation = TRUE;
         frame->EnableAutoHidePanes(CBRS_ALIGN_ANY);
     }
@@ -143,10 +132,10 @@ TEST_F(HidingPanes, stay_out_while_the_mouse_is_on_their_edge) {
     Pane& pane = slid_out(AFX_IDW_DOCKBAR_LEFT);
     CMFCAutoHideBar& left = strip(CBRS_ALIGN_LEFT);
     frame->SetFocus();
-    mouse = on_screen(*edge()).CenterPoint();
+    mouse.place = on_screen(*edge()).CenterPoint();
     EXPECT_FALSE(left.check_condition());
     EXPECT_TRUE(pane.IsWindowVisible());
-    mouse = kFarAway;
+    mouse.place = ui_test::ToldMouse::kFarAway;
     EXPECT_TRUE(left.check_condition());
 }
 

@@ -3,6 +3,7 @@
 #include <afxcontrolbars.h>
 #include <gtest/gtest.h>
 
+#include "told_mouse.h"
 #include "ui_test.h"
 
 namespace {
@@ -23,8 +24,6 @@ struct AutoHide : ::testing::Test {
         }
         frame->DockPane(&panes[0]);
         frame->SetFocus();
-        // Far from the frame, so that the mouse is over none of it.
-        ui_test::move_cursor(CPoint(1000, 740));
     }
     ~AutoHide() override {
         CDockablePane::m_bDisableAnimation = FALSE;
@@ -45,10 +44,11 @@ struct AutoHide : ::testing::Test {
         window.GetWindowRect(&rect);
         return rect;
     }
-    static void mouse(CMFCAutoHideBar& strip, UINT message, CPoint at) {
+    static void send_mouse(CMFCAutoHideBar& strip, UINT message, CPoint at) {
         strip.SendMessage(message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0, MAKELPARAM(at.x, at.y));
     }
 
+    ui_test::ToldMouse mouse;
     CFrameWndEx* frame = new CFrameWndEx;
     CDockablePane panes[3];
 };
@@ -109,7 +109,7 @@ TEST_F(AutoHide, SlidesOutWhenItsNameIsClicked) {
     panes[0].ToggleAutoHide();
     CMFCAutoHideBar& strip = *bar();
     const CRect middle = frame->GetDockingManager()->GetClientAreaBounds();
-    mouse(strip, WM_LBUTTONDOWN, strip.buttons().front()->GetRect().CenterPoint());
+    send_mouse(strip, WM_LBUTTONDOWN, strip.buttons().front()->GetRect().CenterPoint());
     EXPECT_EQ(strip.slid_out(), &panes[0]);
     EXPECT_TRUE(strip.buttons().front()->IsActive());
     EXPECT_TRUE(panes[0].IsWindowVisible());
@@ -136,7 +136,7 @@ TEST_F(AutoHide, StaysOutWhenTheFrameIsLaidOut) {
 TEST_F(AutoHide, SlidesInWhenTheFocusLeaves) {
     panes[0].ToggleAutoHide();
     CMFCAutoHideBar& strip = *bar();
-    mouse(strip, WM_LBUTTONDOWN, strip.buttons().front()->GetRect().CenterPoint());
+    send_mouse(strip, WM_LBUTTONDOWN, strip.buttons().front()->GetRect().CenterPoint());
     EXPECT_FALSE(panes[0].CheckAutoHideCondition()) << "the focus is in it";
     frame->SetFocus();
     EXPECT_TRUE(panes[0].CheckAutoHideCondition());
@@ -148,7 +148,7 @@ TEST_F(AutoHide, SlidesInWhenTheFocusLeaves) {
 TEST_F(AutoHide, GoesByItselfWithTheFocus) {
     panes[0].ToggleAutoHide();
     CMFCAutoHideBar& strip = *bar();
-    mouse(strip, WM_LBUTTONDOWN, strip.buttons().front()->GetRect().CenterPoint());
+    send_mouse(strip, WM_LBUTTONDOWN, strip.buttons().front()->GetRect().CenterPoint());
     frame->SetFocus();
     EXPECT_TRUE(ui_test::pump_until([&] { return !panes[0].IsWindowVisible(); }));
 }
@@ -158,10 +158,9 @@ TEST_F(AutoHide, StaysWhileTheMouseIsOverIt) {
     CMFCAutoHideBar& strip = *bar();
     panes[0].Slide(TRUE, FALSE);
     frame->SetFocus();
-    // What is captured keeps the pane out while the mouse is on its way.
     const auto stays_with_mouse_at = [&](CPoint screen) {
+        mouse.place = screen;
         strip.SetCapture();
-        EXPECT_TRUE(ui_test::move_cursor(screen));
         EXPECT_FALSE(strip.check_condition()) << "something is being dragged";
         ::ReleaseCapture();
         return !strip.check_condition();
@@ -170,7 +169,7 @@ TEST_F(AutoHide, StaysWhileTheMouseIsOverIt) {
     CPoint name = strip.buttons().front()->GetRect().CenterPoint();
     strip.ClientToScreen(&name);
     EXPECT_TRUE(stays_with_mouse_at(name));
-    EXPECT_FALSE(stays_with_mouse_at(CPoint(1000, 740)));
+    EXPECT_FALSE(stays_with_mouse_at(ui_test::ToldMouse::kFarAway));
     EXPECT_EQ(strip.slid_out(), nullptr);
 }
 
@@ -179,15 +178,16 @@ TEST_F(AutoHide, SlidesOutWhenTheMouseRestsOnItsName) {
     panes[0].ToggleAutoHide();
     CMFCAutoHideBar& strip = *bar();
     CPoint name = strip.buttons().front()->GetRect().CenterPoint();
-    mouse(strip, WM_MOUSEMOVE, name);
+    send_mouse(strip, WM_MOUSEMOVE, name);
     EXPECT_TRUE(strip.buttons().front()->IsHighlighted());
+    EXPECT_EQ(mouse.askedForLeaving, std::vector<HWND>{strip.m_hWnd});
     EXPECT_EQ(strip.slid_out(), nullptr);
     EXPECT_TRUE(ui_test::pump_until([&] { return strip.slid_out() == &panes[0]; }));
     EXPECT_NE(::GetFocus(), panes[0].m_hWnd) << "the focus stays";
     panes[0].Slide(FALSE, FALSE);
-    mouse(strip, WM_MOUSEMOVE, name + CSize(0, 500));
+    send_mouse(strip, WM_MOUSEMOVE, name + CSize(0, 500));
     EXPECT_FALSE(strip.buttons().front()->IsHighlighted());
-    mouse(strip, WM_MOUSEMOVE, name);
+    send_mouse(strip, WM_MOUSEMOVE, name);
     strip.SendMessage(WM_MOUSELEAVE);
     EXPECT_FALSE(ui_test::pump_until([&] { return strip.slid_out() != nullptr; }, 100))
         << "the mouse has gone on";
@@ -289,7 +289,7 @@ TEST_F(AutoHide, NamesEachTabOfATabbedPane) {
     ASSERT_EQ(strip.buttons().size(), 3u);
     const CRect first = strip.buttons()[0]->GetRect(), second = strip.buttons()[1]->GetRect();
     EXPECT_EQ(second.top, first.bottom) << "tabs of one pane stand together";
-    mouse(strip, WM_LBUTTONDOWN, first.CenterPoint());
+    send_mouse(strip, WM_LBUTTONDOWN, first.CenterPoint());
     EXPECT_EQ(strip.slid_out(), tabbed);
     EXPECT_EQ(tabbed->GetTabWnd()->GetActiveWnd(), &panes[0]);
     EXPECT_TRUE(strip.buttons()[0]->IsActive());

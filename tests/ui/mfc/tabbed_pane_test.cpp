@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "told_mouse.h"
 #include "ui_test.h"
 
 namespace {
@@ -297,7 +298,8 @@ TEST_F(TabbedPane, TearsATabOffByTheMouse) {
     const CPoint at = rect.CenterPoint();
     CPoint screen = at - CSize(0, 80);
     tabs.ClientToScreen(&screen);
-    ASSERT_TRUE(ui_test::move_cursor(screen));
+    ui_test::ToldMouse mouse;
+    mouse.place = screen;
     tabs.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     tabs.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x, at.y - 80));
     EXPECT_TRUE(panes[1].IsFloating());

@@ -3,6 +3,7 @@
 
 #include "open_drawing.h"
 #include "shown_fixture.h"
+#include "without_strings.h"
 
 namespace {
 
@@ -23,8 +24,6 @@ bool findFile(const wchar_t* filter, int index, const wchar_t* folder, OdString&
     outFile = finding.foundFile.c_str();
     return finding.answer;
 }
-
-int WINAPI noString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
 
 class FileDialogCommands : public ShownTest {
 protected:
@@ -115,7 +114,7 @@ TEST_F(FileDialogCommands, ANameOfNothingIsNotValid) {
 }
 
 TEST_F(FileDialogCommands, TheWordsForItHaveADefault) {
-    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    const ui_test::WithoutStrings strings;
     look([&](HWND window) {
         answerMessage();
         locate(window, L".");

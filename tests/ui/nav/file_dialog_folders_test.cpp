@@ -2,10 +2,9 @@
 #include <shlobj.h>
 
 #include "shown_fixture.h"
+#include "without_strings.h"
 
 namespace {
-
-int WINAPI noString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
 
 class FileDialogFolders : public ShownTest {
 protected:
@@ -50,7 +49,7 @@ TEST_F(FileDialogFolders, HidesWhatIsForFiles) {
 }
 
 TEST_F(FileDialogFolders, TheirLabelHasADefault) {
-    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    const ui_test::WithoutStrings strings;
     look([&](HWND window) { EXPECT_EQ(text_of(::GetDlgItem(window, 1090)), L"文件夹"); });
 }
 
@@ -94,7 +93,7 @@ TEST_F(FileDialogFolders, AFolderThatIsNotThereIsToldAndTheDialogStays) {
 }
 
 TEST_F(FileDialogFolders, TheWordsForItHaveADefault) {
-    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    const ui_test::WithoutStrings strings;
     look([&](HWND window) {
         answerMessage();
         ::SetDlgItemTextW(window, kNameBox, L"missing");

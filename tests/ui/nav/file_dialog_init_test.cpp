@@ -343,8 +343,11 @@ TEST_F(FileDialogInit, TheirParentGrowsToTheBottomOfTheBar) {
     look([&](HWND window) {
         const HWND bar = ::GetDlgItem(window, 1184), holder = own(window);
         const CRect place = placeOf(holder);
-        ::SetWindowPos(holder, nullptr, 0, 0, place.Width(), 50, SWP_NOMOVE | SWP_NOZORDER);
+        ::SetWindowPos(holder, nullptr, 3, 5, place.Width(), 50, SWP_NOZORDER);
+        const CPoint corner = placeOf(holder).TopLeft();
+        ASSERT_NE(corner, place.TopLeft());
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+        EXPECT_EQ(placeOf(holder).TopLeft(), corner) << "in its place";
         EXPECT_EQ(placeOf(holder).bottom, placeOf(bar).bottom);
         EXPECT_EQ(placeOf(holder).Width(), place.Width());
         EXPECT_EQ(placeOf(own(window, 57015)), placeOf(bar));

@@ -2,6 +2,7 @@
 #include <ktui/nav/menu_button.h>
 
 #include "shown_fixture.h"
+#include "without_strings.h"
 
 namespace {
 
@@ -27,9 +28,6 @@ BOOL WINAPI trackMenu(HMENU menu, UINT flags, int x, int y, int, HWND owner, con
     }
     return TRUE;
 }
-
-/// The resource library has no strings.
-int WINAPI noString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
 
 class FileDialogMenu : public ShownTest {
 protected:
@@ -154,8 +152,7 @@ TEST_F(FileDialogMenu, ItsTextsAreThoseOfTheLibrary) {
 
 TEST_F(FileDialogMenu, ItsTextsHaveDefaults) {
     dialog.ConvertFlagsToState(0x4001000);
-    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
-    ASSERT_TRUE(strings.isThere());
+    const ui_test::WithoutStrings strings;
     look([&](HWND window) {
         pressZone(window);
         const std::vector<std::pair<UINT, std::wstring>> entries = {{1125, L"打开(&O)"},

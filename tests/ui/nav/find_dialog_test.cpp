@@ -1,6 +1,8 @@
 // The find dialog at its start: its texts, its controls, where they stand.
 #include "find_fixture.h"
 #include "in_language.h"
+#include "message_text.h"
+#include "without_strings.h"
 
 namespace {
 
@@ -91,11 +93,10 @@ TEST_F(FindTest, StartsWithItsTexts) {
     });
 }
 
-TEST_F(FindTest, SpeaksChinese) {
-    const ui_test::InLanguage chinese(ui_test::kChinese);
-    makeFile(L"a.dwg");
-    run([this] {
-        EXPECT_EQ(caption(), L"查找");
+class FindTexts : public FindTest {
+protected:
+    /// The dialog speaks Chinese, but for what its templates say.
+    void expectChinese() {
         EXPECT_EQ(tabTitle(item(IDC_FIND_TABS), 0), L"名称和位置");
         EXPECT_EQ(tabTitle(item(IDC_FIND_TABS), 1), L"修改日期");
         const wchar_t* const titles[] = {L"名称", L"所在文件夹", L"大小", L"类型", L"修改时间"};
@@ -120,6 +121,30 @@ TEST_F(FindTest, SpeaksChinese) {
         search();
         EXPECT_EQ(status(), L"找到 1 个文件。");
         EXPECT_EQ(caption(), L"查找: 名为*.*的文件");
+    }
+};
+
+TEST_F(FindTexts, AreChineseForAChineseUser) {
+    const ui_test::InLanguage chinese(ui_test::kChinese);
+    makeFile(L"a.dwg");
+    run([this] {
+        EXPECT_EQ(caption(), L"查找");
+        expectChinese();
+        cancel();
+    });
+}
+
+TEST_F(FindTexts, AreBuiltInWhereTheLibraryHasNone) {
+    const ui_test::WithoutStrings strings;
+    makeFile(L"a.dwg");
+    run([this] {
+        EXPECT_EQ(status(), L"找到 0 个文件。");
+        expectChinese();
+        ui_test::when_dialog(L"Test Caption", [](HWND box) {
+            EXPECT_EQ(ui_test::message_text(box), L"此举将清除当前搜索结果。");
+            ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+        });
+        command(IDC_FIND_NEW);
         cancel();
     });
 }

@@ -353,6 +353,26 @@ TEST_F(FindLocationTest, ALocationWiderThanTheBoxShowsItsBeginning) {
     });
 }
 
+UINT WINAPI everyDrive(LPCWSTR) { return DRIVE_FIXED; }
+
+TEST_F(FindLocationTest, TheWideNameOfAllDrivesShowsItsBeginningAfterANewSearch) {
+    const ui_test::ReplacedImport drives(::GetModuleHandleW(L"ktui.dll"), "GetDriveTypeW", &everyDrive);
+    run([&] {
+        ::SetWindowPos(dialog, nullptr, 0, 0, 450, 400, SWP_NOMOVE | SWP_NOZORDER);
+        const HWND edit =
+            reinterpret_cast<HWND>(::SendMessageW(item(IDC_FIND_LOCATION), CBEM_GETEDITCONTROL, 0, 0));
+        CRect box;
+        ::GetClientRect(edit, &box);
+        ASSERT_LT(box.Width(), widthOf(edit, locations()[1].c_str()));
+        ui_test::when_dialog(L"Test Caption",
+                             [](HWND question) { ::PostMessageW(question, WM_COMMAND, IDOK, 0); });
+        command(IDC_FIND_NEW);
+        EXPECT_EQ(ui_test::text_of(edit).GetString(), locations()[1]);
+        EXPECT_GE(static_cast<short>(LOWORD(::SendMessageW(edit, EM_POSFROMCHAR, 0, 0))), 0);
+        cancel();
+    });
+}
+
 TEST_F(FindLocationTest, ARowWiderThanTheListIsToldInATip) {
     makeFolder(CString(L'w', 100));
     const CString wide = root + CString(L'w', 100);

@@ -1,6 +1,7 @@
 // The menu of the Places list, the dialog of a place, and folders that are dropped.
 #include "in_language.h"
 #include "place_fixture.h"
+#include "without_strings.h"
 
 #include <functional>
 
@@ -62,6 +63,11 @@ protected:
         ADD_FAILURE() << command;
         return false;
     }
+    static std::vector<MenuItem> entries() {
+        return {{1125, L"R&emove", false}, {1126, L"Add &Current Folder", false},
+                {1127, L"&Add", false},    {1128, L"&Properties", false},
+                {0, L"-", false},          {1129, L"&Restore Standard Folders", false}};
+    }
     void command(int id) { list->SendMessage(WM_COMMAND, static_cast<WPARAM>(id)); }
     void choose(int id, CPoint at) {
         askForMenu(at);
@@ -84,17 +90,38 @@ TEST_F(PlaceListCommands, TheMenuHasItsEntriesInOrder) {
     openWith({L"one", L"two"});
     platform.folder = folder(L"Three");
     askForMenu(in(1));
-    EXPECT_EQ(menuItems, (std::vector<MenuItem>{{1125, L"R&emove", false},
-                                                {1126, L"Add &Current Folder", false},
-                                                {1127, L"&Add", false},
-                                                {1128, L"&Properties", false},
-                                                {0, L"-", false},
-                                                {1129, L"&Restore Standard Folders", false}}));
+    EXPECT_EQ(menuItems, entries());
     CPoint place = in(1);
     list->ClientToScreen(&place);
     EXPECT_EQ(menuPlace, place);
     EXPECT_EQ(menuOwner, list->m_hWnd);
     EXPECT_FALSE(menuFlags & TPM_RETURNCMD) << "the list gets the command";
+}
+
+TEST_F(PlaceListCommands, TheTextsAreBuiltInWhereTheLibraryHasNone) {
+    const ui_test::WithoutStrings strings;
+    open();
+    EXPECT_EQ(item(0).m_display, L"History");
+    openWith({L"one", L"two"});
+    platform.folder = folder(L"Three");
+    askForMenu(in(1));
+    EXPECT_EQ(menuItems, entries());
+    inDialog(L"Places Item Properties", [](HWND box) {
+        ::SetDlgItemTextW(box, 57027, L"no folder");
+        press(box, IDOK);
+        press(box, IDCANCEL);
+    });
+    command(kProperties);
+    command(kRemove);
+    command(kRestore);
+    list->SavePlaces(1);
+    std::vector<std::wstring> texts;
+    for (const Shown& each : messages()) texts.push_back(each.text);
+    EXPECT_EQ(texts,
+              (std::vector<std::wstring>{
+                  L"The path entered is invalid. It must be a full path to an existing folder.",
+                  L"Are you sure you want to remove '" + std::wstring(folder(L"two")) + L"' from Places?",
+                  L"Would you like to save the changes you made to the Places list?"}));
 }
 
 TEST_F(PlaceListCommands, WithoutARowRemoveAndPropertiesAreGrey) {

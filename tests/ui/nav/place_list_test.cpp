@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "in_language.h"
 #include "slot_of.h"
 
 namespace {
@@ -47,6 +48,12 @@ TEST_F(PlaceListTest, TheStandardFoldersAreTheShells) {
         EXPECT_EQ(text, item(row).m_display);
     }
     EXPECT_EQ(list->RecentFolder(), L"C:\\recent files");
+}
+
+TEST_F(PlaceListTest, TheRecentFolderIsNamedInTheUsersLanguage) {
+    const ui_test::InLanguage chinese(ui_test::kChinese);
+    open();
+    EXPECT_EQ(item(0).m_display, L"历史记录");
 }
 
 TEST_F(PlaceListTest, AnEmptyRecentFolderIsKept) {

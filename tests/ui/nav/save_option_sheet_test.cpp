@@ -9,6 +9,7 @@
 #include "in_language.h"
 #include "open_drawing.h"
 #include "ui_test.h"
+#include "without_strings.h"
 
 namespace {
 
@@ -17,9 +18,9 @@ constexpr const wchar_t* kFormatSetting = L"General/DefaultFormatForSave";
 class SaveOptions : public ::testing::Test {
 protected:
     /// Runs the sheet; `act` gets its window and must end it.
-    INT_PTR run(std::function<void(HWND)> act) {
+    INT_PTR run(std::function<void(HWND)> act, const wchar_t* title = L"Save As Options") {
         CSaveOptionSheet sheet(&parent);
-        ui_test::when_dialog(L"Save As Options", std::move(act));
+        ui_test::when_dialog(title, std::move(act));
         return sheet.DoModal();
     }
     static void press(HWND sheet, int button) {
@@ -142,6 +143,17 @@ TEST_F(SaveOptions, AnIndexIsOneOfFour) {
         EXPECT_EQ(rowOf(page(sheet), 57082, 3), L"Layers and spaces");
         press(sheet, IDCANCEL);
     });
+}
+
+TEST_F(SaveOptions, TheTextsAreBuiltInWhereTheLibraryHasNone) {
+    const ui_test::WithoutStrings strings;
+    run(
+        [](HWND sheet) {
+            const wchar_t* const indexes[] = {L"无", L"图层", L"空间", L"图层和空间"};
+            for (int i = 0; i < 4; ++i) EXPECT_EQ(rowOf(page(sheet), 57082, i), indexes[i]);
+            press(sheet, IDCANCEL);
+        },
+        L"另存为选项");
 }
 
 TEST_F(SaveOptions, TheFormatsAreListedWithTheirExtensions) {

@@ -1,9 +1,8 @@
 // The settings that override a layout's page set-up, and the end of the export dialog.
 #include "export_fixture.h"
+#include "without_strings.h"
 
 namespace {
-
-int WINAPI noString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
 
 constexpr const wchar_t* kName = L"AcPublish_PlotSettingsOverride";
 
@@ -155,7 +154,7 @@ TEST_F(ExportEnd, TheCaptionNamesTheFormat) {
 
 TEST_F(ExportEnd, TheWordsForItHaveDefaults) {
     const Held held(folder + L"one.dwg");
-    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    const ui_test::WithoutStrings strings;
     EXPECT_TRUE(throwsForHeld(L"one.dwg", L"Save As PDF"));
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_NE(messages[0].find(L"one.dwg> is currently open in another program."), std::wstring::npos);

@@ -2,12 +2,11 @@
 #include "export_fixture.h"
 #include "in_language.h"
 #include "slot_of.h"
+#include "without_strings.h"
 
 namespace {
 
 using Entries = std::vector<std::pair<std::wstring, int>>;
-
-int WINAPI noString(HINSTANCE, UINT, LPWSTR, int) { return 0; }
 
 /// The keyboard hooks that the toolkit has set and not taken back.
 int hooks = 0;
@@ -151,7 +150,7 @@ TEST_F(UnderlayExport, ShowsTheSummary) {
 }
 
 TEST_F(UnderlayExport, ItsWordsHaveDefaults) {
-    const ui_test::ReplacedImport strings(toolkit(), "LoadStringW", &noString);
+    const ui_test::WithoutStrings strings;
     service.override = true;
     look([&](HWND window) {
         EXPECT_EQ(shown(window, 57201), L"Single-sheet file");
