@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <docking/core/bar_record.h>
+#include <docking/core/stored_numbers.h>
 
 namespace {
 
@@ -48,6 +49,18 @@ TEST(BarRecord, each_damaged_number_is_refused_and_changes_nothing) {
     EXPECT_FALSE(decode_bars({}, kept));
     EXPECT_EQ(kept.size(), 2u);
     EXPECT_EQ(kept[0].place.offset, 140);
+}
+
+TEST(BarRecord, another_version_is_refused_with_a_sum_that_fits) {
+    std::vector<std::int32_t> other = encode_bars(two_bars());
+    other.pop_back();
+    ++other[0];
+    other.push_back(sum_of(other));
+    std::vector<BarRecord> read;
+    EXPECT_FALSE(decode_bars(other, read));
+    --other[0];
+    other.back() = sum_of({other.begin(), other.end() - 1});
+    EXPECT_TRUE(decode_bars(other, read));
 }
 
 /// With a sum that fits, so that it is the value itself that is refused.

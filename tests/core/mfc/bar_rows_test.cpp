@@ -145,6 +145,9 @@ TEST(BarRows, before_another_means_directly_before_it_at_its_offset) {
     EXPECT_EQ(placed(rows, 1000).at(2).left, 160);
     EXPECT_TRUE(rows.dock_before(3, 7));
     EXPECT_EQ(placed(rows, 1000).at(3).left, 100);
+    rows.dock(1, {0, false, 700}, 1000, extents);
+    EXPECT_TRUE(rows.dock_before(2, 1));
+    EXPECT_EQ(placed(rows, 1000).at(2).left, 700);
     EXPECT_FALSE(rows.dock_before(3, 3));
     EXPECT_FALSE(rows.dock_before(3, 99));
     EXPECT_EQ(rows.rows()[0].size(), 4u);

@@ -58,6 +58,7 @@ TEST(PicturePixels, on_dark_greys_turn_round_and_colours_stay) {
     EXPECT_EQ(dark.pixels[2], 0xFFFF0000u);
     EXPECT_EQ(dark.pixels[3], 0u);
     EXPECT_EQ(dark.pixels[4], 0xFF97A3B7u);
+    EXPECT_EQ(look_on_dark({CSize(1, 1), {0xFF007ACC}}).pixels[0], 0xFF007ACCu);
     // Half transparent black is half transparent white.
     EXPECT_EQ(look_on_dark({CSize(1, 1), {0x80000000}}).pixels[0], 0x80808080u);
 }
