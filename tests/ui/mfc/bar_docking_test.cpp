@@ -157,8 +157,11 @@ TEST_F(BarDocking, the_frame_of_a_floating_bar_keeps_to_its_rows_when_it_is_size
     EXPECT_EQ(sized.bottom - sized.top, one.Height() + 15);
     EXPECT_EQ(sized.left, one.left);
     sized.left = one.left - 50;
+    const LONG right = sized.right;
     mini->SendMessage(WM_SIZING, WMSZ_LEFT, reinterpret_cast<LPARAM>(&sized));
     EXPECT_EQ(sized.bottom - sized.top, one.Height());
+    EXPECT_EQ(sized.right, right);
+    EXPECT_EQ(sized.right - sized.left, one.Width());
     RECT low = one;
     low.bottom += 2 * 15;
     mini->SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&low));

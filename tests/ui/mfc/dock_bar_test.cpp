@@ -175,6 +175,8 @@ TEST_F(DockBar, a_disabled_button_does_nothing_and_is_let_go_when_it_becomes_one
     release(button_of(bar, 1));
     press(bar, button_of(bar, 1));
     EXPECT_EQ(::GetCapture(), nullptr);
+    send_mouse(bar.m_hWnd, WM_MOUSEMOVE, button_of(bar, 1), 0);
+    EXPECT_EQ(bar.GetHighlightedButton(), -1);
     press(bar, button_of(bar, 2));
     EXPECT_EQ(::GetCapture(), nullptr);
     ui_test::pump();
