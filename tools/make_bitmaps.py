@@ -8,6 +8,7 @@ import struct
 
 import button_pictures
 import picker_strips
+import tool_pictures
 
 RES = pathlib.Path(__file__).resolve().parent.parent / "ktui" / "res"
 LIBRARY = pathlib.Path(__file__).resolve().parent.parent / "ktdsres"
@@ -23,6 +24,14 @@ def write_bmp(path, rows):
     pad = b"\0" * (-width * 3 % 4)
     data = b"".join(b"".join(bytes((b, g, r)) for r, g, b in row) + pad for row in reversed(rows))
     header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(data), 2835, 2835, 0, 0)
+    path.write_bytes(b"BM" + struct.pack("<IHHI", 54 + len(data), 0, 0, 54) + header + data)
+
+
+def write_alpha_bmp(path, rows):
+    """Writes rows of (r, g, b, a) pixels, top row first, as a bitmap with an alpha channel."""
+    width, height = len(rows[0]), len(rows)
+    data = b"".join(bytes((b, g, r, a)) for row in reversed(rows) for r, g, b, a in row)
+    header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 32, 0, len(data), 2835, 2835, 0, 0)
     path.write_bytes(b"BM" + struct.pack("<IHHI", 54 + len(data), 0, 0, 54) + header + data)
 
 
@@ -216,6 +225,10 @@ def main():
     write_button_picture("pick_set", button_pictures.pick_set, 16)
     DRAFTER.mkdir(exist_ok=True)
     write_button_picture("drop_layers", button_pictures.drop_layers, 16, DRAFTER)
+    for name, bar in (("file_bar", tool_pictures.FILE_BAR), ("view_bar", tool_pictures.VIEW_BAR)):
+        write_alpha_bmp(DRAFTER / f"{name}.bmp", tool_pictures.strip(bar, 16))
+        for percent in LARGER_PERCENTS:
+            write_alpha_bmp(DRAFTER / f"{name}_{percent}.bmp", tool_pictures.strip(bar, 16 * percent // 100))
     write_button_picture("warning", button_pictures.warning, 32)
     for name, draw in (("search", button_pictures.search), ("clear", button_pictures.clear)):
         write_mono_bmp(RES / f"{name}.bmp", draw(16))

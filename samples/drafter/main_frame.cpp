@@ -49,6 +49,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWndEx)
     ON_REGISTERED_MESSAGE(kbUiMessage, &CMainFrame::OnKbUiMessage)
     ON_COMMAND(ID_VIEW_SEARCH_LAYERS, &CMainFrame::OnSearchLayers)
     ON_COMMAND(ID_VIEW_PICKER_BAR, &CMainFrame::OnPickerBar)
+    ON_COMMAND_RANGE(ID_VIEW_TOOLBAR_FILE, ID_VIEW_TOOLBAR_VIEW, &CMainFrame::OnToolBar)
     ON_COMMAND_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION, &CMainFrame::OnPalette)
     ON_COMMAND_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnLock)
     ON_COMMAND_RANGE(ID_VIEW_LAYOUT_SAVE, ID_VIEW_LAYOUT_LAST, &CMainFrame::OnLayout)
@@ -57,6 +58,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWndEx)
     ON_COMMAND(ID_HELP_TOPICS, &CMainFrame::OnHelpTopics)
     ON_WM_HELPINFO()
     ON_UPDATE_COMMAND_UI(ID_VIEW_PICKER_BAR, &CMainFrame::OnUpdatePickerBar)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_TOOLBAR_FILE, ID_VIEW_TOOLBAR_VIEW, &CMainFrame::OnUpdateToolBar)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_PALETTE_PROPERTIES, ID_VIEW_PALETTE_EXTENSION,
                                &CMainFrame::OnUpdatePalette)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LOCK_DOCKED, ID_VIEW_LOCK_FLOATING, &CMainFrame::OnUpdateLock)
@@ -95,6 +97,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT create) {
     if (!m_pickers.CreateBar(this)) return -1;
     EnableDocking(CBRS_ALIGN_ANY);
     EnableAutoHidePanes(CBRS_ALIGN_ANY);
+    if (!m_toolBars.Create(*this)) return -1;
     if (!m_palettes.Create(*this)) return -1;
     m_extensions = std::make_unique<CExtensions>(CString(ktutProgramFolder().c_str()) + L"extensions\\");
     m_palettes.AddExtension(*m_extensions, *this);
@@ -217,6 +220,10 @@ BOOL CMainFrame::PreTranslateMessage(MSG* message) {
         return FALSE;
     return CMDIFrameWndEx::PreTranslateMessage(message);
 }
+
+void CMainFrame::OnToolBar(UINT id) { m_toolBars.Toggle(id); }
+
+void CMainFrame::OnUpdateToolBar(CCmdUI* item) { item->SetCheck(m_toolBars.IsShown(item->m_nID)); }
 
 void CMainFrame::OnUpdatePickerBar(CCmdUI* item) { item->SetCheck(m_pickers.IsVisible()); }
 

@@ -14,6 +14,7 @@
 #include "palettes.h"
 #include "picker_bar.h"
 #include "status_line.h"
+#include "tool_bars.h"
 
 class CStandinHost;
 
@@ -80,11 +81,13 @@ protected:
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg LRESULT OnKbUiMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPickerBar();
+    afx_msg void OnToolBar(UINT id);
     afx_msg void OnPalette(UINT id);
     afx_msg void OnLock(UINT id);
     afx_msg void OnSearchLayers();
     afx_msg void OnOptions();
     afx_msg void OnUpdatePickerBar(CCmdUI* item);
+    afx_msg void OnUpdateToolBar(CCmdUI* item);
     afx_msg void OnUpdatePalette(CCmdUI* item);
     afx_msg void OnUpdateLock(CCmdUI* item);
     afx_msg void OnLayout(UINT id);
@@ -145,6 +148,7 @@ private:
     CPickerBar m_pickers;
     std::unique_ptr<CExtensions> m_extensions;
     CPalettes m_palettes;
+    CToolBars m_toolBars;
     CLayoutsMenu m_layouts;
     bool m_isInCommand = false;  ///< a modal dialog has stepped aside for an editor command
     bool m_isGoing = false;

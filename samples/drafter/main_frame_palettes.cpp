@@ -2,8 +2,12 @@
 #include "main_frame.h"
 #include "resource.h"
 
-/// A modal dialog keeps the user from the palettes too, also while it has stepped aside.
-void CMainFrame::enablePalettes() { m_palettes.Enable(IsWindowEnabled() && !m_isInCommand); }
+/// A modal dialog keeps the user from the palettes and toolbars too, also while it has stepped aside.
+void CMainFrame::enablePalettes() {
+    const bool enable = IsWindowEnabled() && !m_isInCommand;
+    m_palettes.Enable(enable);
+    m_toolBars.Enable(enable);
+}
 
 /// When a dialog has gone, the window may come to lie on palettes that float.
 void CMainFrame::OnActivate(UINT state, CWnd* other, BOOL minimized) {

@@ -4,6 +4,16 @@
 
 #define IDR_MAINFRAME 128
 
+// Toolbars: their buttons and pictures, those for 125, 150 and 200 % behind; also the ids of the bars.
+#define IDR_FILE_BAR 140
+#define IDR_FILE_BAR_125 141
+#define IDR_FILE_BAR_150 142
+#define IDR_FILE_BAR_200 143
+#define IDR_VIEW_BAR 144
+#define IDR_VIEW_BAR_125 145
+#define IDR_VIEW_BAR_150 146
+#define IDR_VIEW_BAR_200 147
+
 #define ID_VIEW_EXTENTS 0x8001
 #define ID_VIEW_ZOOM_IN 0x8002
 #define ID_VIEW_ZOOM_OUT 0x8003
@@ -29,6 +39,8 @@
 #define ID_FORMAT_PROPERTIES_PALETTE 0x8047
 #define ID_VIEW_LOCK_DOCKED 0x8048
 #define ID_VIEW_LOCK_FLOATING 0x8049
+#define ID_VIEW_TOOLBAR_FILE 0x804A
+#define ID_VIEW_TOOLBAR_VIEW 0x804B
 #define ID_VIEW_LAYOUT_SAVE 0x8050
 #define ID_VIEW_LAYOUT_DELETE 0x8051
 #define ID_VIEW_LAYOUT_RESET 0x8052
@@ -113,6 +125,9 @@
 #define IDC_UNITS_SAMPLE 1153
 #define IDC_SHOW_MESSAGES 1154
 #define IDC_MESSAGES_STATE 1155
+
+#define IDS_FILE_BAR 138
+#define IDS_VIEW_BAR 139
 
 #define IDD_PICKER_BAR 209
 #define HID_PICKER_BAR 1  // help id of its template

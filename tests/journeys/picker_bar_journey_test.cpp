@@ -8,7 +8,7 @@ using namespace journey;
 
 namespace {
 
-constexpr int kBar = 0xE805;
+constexpr int kBar = 0xE805, kToolBars = 0xE81B;
 
 class PickerBarJourney : public Journey {
 protected:
@@ -94,8 +94,9 @@ TEST_F(PickerBarJourney, InANarrowWindowTheSearchBoxIsInReachOfKeysAndMouse) {
                     rect.bottom <= bar.bottom)
             << id;
     }
-    const RECT tabs = rectOf(drafter->tabs());
-    EXPECT_EQ(bar.bottom, tabs.top) << "the drawing begins below all rows";
+    const RECT tools = rectOf(item(drafter->frame(), kToolBars)), tabs = rectOf(drafter->tabs());
+    EXPECT_EQ(bar.bottom, tools.top) << "the toolbars stand below all rows";
+    EXPECT_EQ(tools.bottom, tabs.top) << "and the drawing below them";
     EXPECT_EQ(tabs.bottom, view.top);
     selectAll();
     drafter->key('F', true);

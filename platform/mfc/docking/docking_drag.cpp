@@ -2,6 +2,7 @@
 #include <kmfc/docking_manager.h>
 #include <kmfc/global_data.h>
 
+#include "docked_bars.h"
 #include "frame_state.h"
 #include "guide_windows.h"
 
@@ -75,7 +76,9 @@ CRect around(const Arrangement& arrangement, const SplitTree& panes) {
 
 }  // namespace
 
-bool CDockingManager::is_dragging() const { return m_state->drag != nullptr; }
+bool CDockingManager::is_dragging() const {
+    return m_state->drag != nullptr || (m_state->bars != nullptr && m_state->bars->is_dragging());
+}
 
 void CDockingManager::begin_drag(CPaneFrameWnd* frame, CDockablePane* torn) {
     if (is_dragging()) end_drag(true);
@@ -122,7 +125,7 @@ DropScene CDockingManager::scene_of_drag() const {
 }
 
 void CDockingManager::drag_to(CPoint screen, bool free) {
-    if (!is_dragging()) return;
+    if (m_state->drag == nullptr) return;
     CPaneFrameWnd* frame = m_state->drag->frame;
     const CPoint corner = screen - frame->GetHotPoint();
     frame->SetWindowPos(nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -190,7 +193,8 @@ CRect CDockingManager::expected_rect() const {
 }
 
 void CDockingManager::end_drag(bool cancel) {
-    if (!is_dragging()) return;
+    if (m_state->bars != nullptr) m_state->bars->end_drag(cancel);
+    if (m_state->drag == nullptr) return;
     const std::unique_ptr<Drag> drag = std::move(m_state->drag);
     CPaneFrameWnd* frame = drag->frame;
     frame->m_bCaptured = FALSE;

@@ -4,6 +4,7 @@
 #include <kmfc/frame_ex.h>
 #include <kmfc/visual_manager.h>
 
+#include "docked_bars.h"
 #include "frame_state.h"
 #include "place_dividers.h"
 
@@ -26,24 +27,35 @@ CRect CDockingManager::plan(const CRect& free) {
     return m_state->now.center;
 }
 
+namespace {
+
+/// Where a fixed pane stands, which is taken off the room.
+CRect take_strip(CBasePane& pane, CRect& rest) {
+    const bool horizontal = pane.IsHorizontal() != FALSE;
+    const CSize size = pane.CalcFixedLayout(TRUE, horizontal);
+    CRect strip(rest);
+    const int high = std::min<int>(size.cy, rest.Height()), wide = std::min<int>(size.cx, rest.Width());
+    switch (side_of(pane.GetCurrentAlignment())) {
+        case Side::top: rest.top = strip.bottom = rest.top + high; break;
+        case Side::bottom: rest.bottom = strip.top = rest.bottom - high; break;
+        case Side::left: rest.left = strip.right = rest.left + wide; break;
+        case Side::right: rest.right = strip.left = rest.right - wide; break;
+    }
+    return strip;
+}
+
+}  // namespace
+
 void CDockingManager::take_fixed(CRect& rest) {
     m_state->fixed.clear();
     for (POSITION at = m_lstControlBars.GetHeadPosition(); at != nullptr;) {
         auto* pane = static_cast<CBasePane*>(m_lstControlBars.GetNext(at));
         if (pane->IsKindOf(RUNTIME_CLASS(CDockablePane)) || !pane->IsVisible()) continue;
         if (::GetParent(pane->m_hWnd) != m_pParentWnd->m_hWnd) continue;
-        const bool horizontal = pane->IsHorizontal() != FALSE;
-        const CSize size = pane->CalcFixedLayout(TRUE, horizontal);
-        CRect strip(rest);
-        const int high = std::min<int>(size.cy, rest.Height()), wide = std::min<int>(size.cx, rest.Width());
-        switch (side_of(pane->GetCurrentAlignment())) {
-            case Side::top: rest.top = strip.bottom = rest.top + high; break;
-            case Side::bottom: rest.bottom = strip.top = rest.bottom - high; break;
-            case Side::left: rest.left = strip.right = rest.left + wide; break;
-            case Side::right: rest.right = strip.left = rest.right - wide; break;
-        }
-        m_state->fixed[pane] = strip;
+        m_state->fixed[pane] = take_strip(*pane, rest);
     }
+    if (m_state->bars == nullptr) return;
+    for (CDockSite* site : m_state->bars->sites()) m_state->fixed[site] = take_strip(*site, rest);
 }
 
 bool CDockingManager::planned_rect(const CBasePane* pane, CRect& rect) const {
@@ -86,11 +98,13 @@ void CDockingManager::layout_frame(CRect& border, const std::function<void()>& l
                    free.bottom - center.bottom);
     layoutBars();
     m_bInLayout = FALSE;
+    if (m_state->bars != nullptr) m_state->bars->arrange();
     for (CMFCAutoHideBar* bar : CMFCAutoHideBar::of_frame(m_pParentWnd)) bar->follow_frame();
 }
 
 void CDockingManager::on_idle() {
     if (m_bLayoutPending) AdjustDockingLayout();
+    if (m_state->bars != nullptr) m_state->bars->update_floating();
     follow_focus();
 }
 
@@ -138,6 +152,7 @@ void CDockingManager::OnActivateFrame(BOOL) {
 
 void CDockingManager::frame_goes() {
     m_state->drag.reset();
+    if (m_state->bars != nullptr) m_state->bars->frame_goes();
     m_state->dividers.clear();
     CObList panes;
     GetPaneList(panes, TRUE, nullptr, TRUE);

@@ -4,6 +4,7 @@
 #include <kmfc/mdi_frame_ex.h>
 #include <kmfc/tabbed_pane.h>
 
+#include "docked_bars.h"
 #include "frame_state.h"
 
 using namespace kmfc::docking;
@@ -15,6 +16,14 @@ BOOL CDockingManager::m_bDockBarMenu = FALSE;
 int CDockingManager::m_nDockSensitivity = 15;
 BOOL CDockingManager::m_bSuppressLayout = FALSE;
 CSmartDockingInfo CDockingManager::m_SDParams;
+
+kmfc::docking::FrameState::FrameState() = default;
+kmfc::docking::FrameState::~FrameState() = default;
+
+DockedBars& CDockingManager::bars() {
+    if (m_state->bars == nullptr) m_state->bars = std::make_unique<DockedBars>(*this);
+    return *m_state->bars;
+}
 
 CDockingManager::CDockingManager() : m_state(std::make_unique<FrameState>()) {}
 CDockingManager::~CDockingManager() = default;
@@ -114,6 +123,7 @@ void CDockingManager::forget(CBasePane* pane) {
     if (POSITION const at = m_lstControlBars.Find(pane)) m_lstControlBars.RemoveAt(at);
     const bool hadRoom = m_state->layout.shows(key_of(pane));
     m_state->layout.remove(key_of(pane));
+    if (m_state->bars != nullptr) m_state->bars->remove(pane);
     if (m_state->drag != nullptr && m_state->drag->torn == pane) m_state->drag->torn = nullptr;
     if (CPaneFrameWnd* frame = pane->GetParentMiniFrame()) frame->RemovePane(pane);
     if (hadRoom && m_pParentWnd != nullptr) layout_later();
@@ -249,6 +259,9 @@ void CDockingManager::DockPane(CBasePane* pBar, UINT nDockBarID, LPCRECT lpRect)
 }
 
 BOOL CDockingManager::DockPaneLeftOf(CPane* pBarToDock, CPane* pTargetBar) {
+    auto* bar = DYNAMIC_DOWNCAST(CMFCToolBar, pBarToDock);
+    auto* targetBar = DYNAMIC_DOWNCAST(CMFCToolBar, pTargetBar);
+    if (bar != nullptr && targetBar != nullptr) return bars().dock_left_of(*bar, *targetBar);
     auto* pane = DYNAMIC_DOWNCAST(CDockablePane, pBarToDock);
     auto* target = DYNAMIC_DOWNCAST(CDockablePane, pTargetBar);
     return pane != nullptr && target != nullptr && pane->DockToWindow(target, CBRS_ALIGN_LEFT);

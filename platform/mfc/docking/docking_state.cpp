@@ -9,6 +9,7 @@
 
 #include "core/caption_layout.h"
 #include "core/layout_record.h"
+#include "docked_bars.h"
 #include "frame_state.h"
 
 using namespace kmfc::docking;
@@ -16,6 +17,7 @@ using namespace kmfc::docking;
 namespace {
 
 constexpr LPCTSTR kValue = L"DockingPaneAndPaneDividers";
+constexpr LPCTSTR kBarsValue = L"DockedBars";
 
 CString key_of_layout(LPCTSTR profile, UINT id) {
     CString key;
@@ -137,9 +139,12 @@ BOOL CDockingManager::SaveState(LPCTSTR lpszProfileName, UINT uiID) {
         static_cast<CBasePane*>(panes.GetNext(at))->SaveState(lpszProfileName, -1, uiID);
     CSettingsStoreSP store;
     CSettingsStore& settings = store.Create(FALSE, FALSE);
-    CByteArray bytes;
-    return settings.CreateKey(key_of_layout(lpszProfileName, uiID)) &&
-           settings.Write(kValue, as_bytes(stored_layout(), bytes));
+    CByteArray bytes, bars;
+    if (!settings.CreateKey(key_of_layout(lpszProfileName, uiID))) return FALSE;
+    if (m_state->bars != nullptr &&
+        !settings.Write(kBarsValue, as_bytes(encode_bars(m_state->bars->stored()), bars)))
+        return FALSE;
+    return settings.Write(kValue, as_bytes(stored_layout(), bytes));
 }
 
 BOOL CDockingManager::LoadState(LPCTSTR lpszProfileName, UINT uiID) {
@@ -150,7 +155,11 @@ BOOL CDockingManager::LoadState(LPCTSTR lpszProfileName, UINT uiID) {
     if (!settings.Open(key_of_layout(lpszProfileName, uiID)) || !settings.Read(kValue, bytes)) return FALSE;
     LayoutRecord record;
     if (!decode(as_numbers(bytes), record)) return FALSE;
+    CByteArray stored;
+    std::vector<BarRecord> places;
+    if (settings.Read(kBarsValue, stored) && !decode_bars(as_numbers(stored), places)) return FALSE;
     apply(record);
+    if (!places.empty()) bars().restore(places);
     // The panes go last: what they make of their own state stands above the layout's.
     CObList panes;
     GetPaneList(panes, TRUE, nullptr, TRUE);

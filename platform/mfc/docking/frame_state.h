@@ -44,13 +44,17 @@ struct Drag {
 };
 
 struct FrameState {
+    FrameState();
+    ~FrameState();
+
     FrameLayout layout;
     Arrangement now;                          ///< client coordinates of the frame
     CRect outer{0, 0, 0, 0};                  ///< what bars leave to panes
     std::map<const CBasePane*, CRect> fixed;  ///< where fixed panes stand
     Dividers dividers;
     std::unique_ptr<Drag> drag;
-    HWND active = nullptr;  ///< the pane that had the focus when captions were drawn last
+    std::unique_ptr<DockedBars> bars;  ///< from the first question for them on
+    HWND active = nullptr;             ///< the pane that had the focus when captions were drawn last
 };
 
 }  // namespace kmfc::docking

@@ -7,6 +7,8 @@
 #include <kmfc/base_pane.h>
 #include <kmfc/base_tabbed_pane.h>
 #include <kmfc/caption_button.h>
+#include <kmfc/bar_frame_wnd.h>
+#include <kmfc/dock_site.h>
 #include <kmfc/dockable_pane.h>
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
@@ -17,5 +19,6 @@
 #include <kmfc/pane_frame_wnd.h>
 #include <kmfc/settings_store.h>
 #include <kmfc/tabbed_pane.h>
+#include <kmfc/tool_bar_ex.h>
 #include <kmfc/visual_manager.h>
 #include <kmfc/win_app_ex.h>

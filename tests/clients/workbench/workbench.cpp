@@ -1,4 +1,5 @@
-// workbench.cpp : a frame with five panes, two of them in tabs, whose layout comes back the next time
+// workbench.cpp : a frame with a toolbar and five panes, two of them in tabs, whose layout comes back the
+// next time
 //
 #include "stdafx.h"
 
@@ -61,6 +62,7 @@ protected:
     DECLARE_DYNAMIC(CMainFrame)
 
     CStatusBar m_wndStatusBar;
+    CMFCToolBar m_wndToolBar;
     CListPane m_wndLayers;
     CListPane m_wndBlocks;
     CListPane m_wndProperties;
@@ -68,6 +70,7 @@ protected:
     CListPane m_wndNotes;
 
     CListPane* PaneOf(UINT nID);
+    static LPCTSTR PaneName(UINT nID);
     CString Describe();
     virtual void GetMessageString(UINT nID, CString& rMessage) const;
 
@@ -76,6 +79,8 @@ protected:
     afx_msg void OnUpdateViewPane(CCmdUI* pCmdUI);
     afx_msg void OnWindowFloat();
     afx_msg void OnWindowDock();
+    afx_msg void OnToolsFloat();
+    afx_msg void OnToolsDock();
     DECLARE_MESSAGE_MAP()
 };
 
@@ -87,6 +92,8 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LAYERS, ID_VIEW_NOTES, OnUpdateViewPane)
     ON_COMMAND(ID_WINDOW_FLOAT, OnWindowFloat)
     ON_COMMAND(ID_WINDOW_DOCK, OnWindowDock)
+    ON_COMMAND(ID_TOOLS_FLOAT, OnToolsFloat)
+    ON_COMMAND(ID_TOOLS_DOCK, OnToolsDock)
 END_MESSAGE_MAP()
 
 int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -97,6 +104,12 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         TRACE0("Failed to create status bar\n");
         return -1;
     }
+    if (!m_wndToolBar.Create(this, AFX_DEFAULT_TOOLBAR_STYLE, IDR_TOOLBAR)) {
+        TRACE0("Failed to create toolbar\n");
+        return -1;
+    }
+    for (UINT nID = ID_VIEW_LAYERS; nID <= ID_VIEW_NOTES; nID++)
+        m_wndToolBar.InsertButton(CMFCToolBarButton(nID, -1, PaneName(nID)));
     const DWORD dwStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | CBRS_FLOAT_MULTI;
     if (!m_wndLayers.Create(_T("Layers"), this, CRect(0, 0, 160, 200), TRUE, ID_VIEW_LAYERS,
                             dwStyle | CBRS_LEFT) ||
@@ -112,6 +125,8 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     }
     EnableDocking(CBRS_ALIGN_ANY);
+    m_wndToolBar.EnableDocking(CBRS_ALIGN_ANY);
+    DockPane(&m_wndToolBar);
     m_wndLayers.EnableDocking(CBRS_ALIGN_ANY);
     DockPane(&m_wndLayers);
     m_wndBlocks.EnableDocking(CBRS_ALIGN_ANY);
@@ -131,7 +146,13 @@ CListPane* CMainFrame::PaneOf(UINT nID) {
     return panes[nID - ID_VIEW_LAYERS];
 }
 
-// A letter for each pane: hidden, tabbed, docked or floating
+LPCTSTR CMainFrame::PaneName(UINT nID) {
+    static const LPCTSTR names[] = {_T("Layers"), _T("Blocks"), _T("Properties"), _T("Output"), _T("Notes")};
+    return names[nID - ID_VIEW_LAYERS];
+}
+
+// A letter for each pane: hidden, tabbed, docked or floating; then the toolbar: at the top, at the left or
+// floating
 CString CMainFrame::Describe() {
     CString strState;
     for (UINT nID = ID_VIEW_LAYERS; nID <= ID_VIEW_NOTES; nID++) {
@@ -143,6 +164,7 @@ CString CMainFrame::Describe() {
         else
             strState += pPane->IsFloating() ? _T('f') : _T('d');
     }
+    strState += m_wndToolBar.IsFloating() ? _T(" F") : m_wndToolBar.IsHorizontal() ? _T(" T") : _T(" L");
     return strState;
 }
 
@@ -168,6 +190,16 @@ void CMainFrame::OnWindowFloat() {
 
 void CMainFrame::OnWindowDock() {
     m_wndProperties.DockToFrameWindow(CBRS_ALIGN_LEFT);
+    PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
+}
+
+void CMainFrame::OnToolsFloat() {
+    m_wndToolBar.FloatPane(CRect(450, 200, 560, 200));
+    PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
+}
+
+void CMainFrame::OnToolsDock() {
+    DockPane(&m_wndToolBar, AFX_IDW_DOCKBAR_LEFT);
     PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
 }
 

@@ -59,7 +59,7 @@ constexpr UINT kFirstId = 3000;
 
 class Docking : public ::testing::Test {
 protected:
-    explicit Docking(DWORD visible = WS_VISIBLE) : frame(new Frame) {
+    explicit Docking(DWORD visible = WS_VISIBLE, Frame* made = new Frame) : frame(made) {
         frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW | visible, CRect(50, 50, 850, 650));
         CRect outer(0, 0, 700, 500);
         frame->CalcWindowRect(&outer);

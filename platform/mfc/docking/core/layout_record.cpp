@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "stored_numbers.h"
+
 namespace kmfc::docking {
 
 namespace {
@@ -14,12 +16,6 @@ constexpr int kMostRows = 1000, kMostFrames = 1000, kDeepest = 64;
 constexpr int kMostGroups = 1000, kMostTabs = 1000, kMostHidden = 1000;
 constexpr int kMostPixels = 100'000;
 enum Kind : std::int32_t { kNothing = 0, kLeaf = 1, kDivider = 2 };
-
-std::int32_t sum_of(const std::vector<std::int32_t>& numbers) {
-    std::uint32_t sum = 2166136261u;
-    for (const std::int32_t number : numbers) sum = (sum ^ static_cast<std::uint32_t>(number)) * 16777619u;
-    return static_cast<std::int32_t>(sum);
-}
 
 void write(std::vector<std::int32_t>& to, const Node* node) {
     if (node == nullptr) {
@@ -33,22 +29,10 @@ void write(std::vector<std::int32_t>& to, const Node* node) {
     }
 }
 
-/// Takes numbers one after the other; from the first fault on everything it gives is 0.
-class Reader {
+/// Reads trees as well.
+class Reader : public NumberReader {
 public:
-    explicit Reader(const std::vector<std::int32_t>& numbers) : m_numbers(numbers) {}
-
-    std::int32_t next(std::int64_t low, std::int64_t high) {
-        if (m_at >= m_numbers.size()) m_good = false;
-        if (!m_good) return 0;
-        const std::int32_t number = m_numbers[m_at++];
-        if (number < low || number > high) m_good = false;
-        return m_good ? number : 0;
-    }
-    std::int32_t any() { return next(INT32_MIN, INT32_MAX); }
-    bool good() const { return m_good; }
-    bool done() const { return m_good && m_at == m_numbers.size(); }
-    void fail() { m_good = false; }
+    using NumberReader::NumberReader;
 
     std::unique_ptr<Node> tree(std::set<PaneKey>& met, int depth) {
         const std::int32_t kind = next(kLeaf, kDivider);
@@ -70,11 +54,6 @@ public:
         }
         return good() ? std::move(node) : nullptr;
     }
-
-private:
-    const std::vector<std::int32_t>& m_numbers;
-    std::size_t m_at = 0;
-    bool m_good = true;
 };
 
 void read_rows(Reader& reader, FrameLayout& docked) {

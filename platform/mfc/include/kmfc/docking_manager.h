@@ -10,6 +10,7 @@
 #include <kmfc/frame.h>
 
 namespace kmfc::docking {
+class DockedBars;
 struct FrameState;
 struct Drag;
 struct DropScene;
@@ -102,6 +103,8 @@ public:
     void DisableRestoreDockState(BOOL bDisable = TRUE) { m_bRestoreDockStateDisabled = bDisable; }
 
     // For the panes and frames of this library.
+    /// The toolbars that dock in the frame.
+    kmfc::docking::DockedBars& bars();
     bool dock_at_edge(CDockablePane* pane, DWORD alignment, int extent, bool outer);
     bool dock_beside(CDockablePane* pane, CDockablePane* target, DWORD alignment, int extent);
     bool dock_at_remembered_place(CDockablePane* pane);

@@ -11,6 +11,7 @@ class CMFCAutoHideButton;
 class CMFCBaseTabCtrl;
 class CMFCCaptionButton;
 class CMFCTabCtrl;
+class CMFCToolBarButton;
 class CPaneDivider;
 class CPaneFrameWnd;
 class CWnd;
@@ -22,6 +23,9 @@ public:
     ~CMFCVisualManager() override;
     CMFCVisualManager(const CMFCVisualManager&) = delete;
     CMFCVisualManager& operator=(const CMFCVisualManager&) = delete;
+
+    /// How a button of a toolbar is drawn; whether it is checked or disabled, its style says.
+    enum AFX_BUTTON_STATE { ButtonsIsRegular, ButtonsIsPressed, ButtonsIsHighlighted };
 
     /// The process's manager, made at the first call of the class that SetDefaultManager named.
     static CMFCVisualManager* GetInstance();
@@ -54,6 +58,19 @@ public:
     virtual CSize GetCaptionButtonExtraBorder() const { return CSize(0, 0); }
     /// Pixels that captions of panes are higher than text and buttons.
     virtual int GetDockingPaneCaptionExtraHeight() const { return 0; }
+
+    // Toolbars.
+
+    /// The part that a docked bar is dragged by; `bHorz` for a bar whose buttons stand in a row.
+    virtual void OnDrawBarGripper(CDC* pDC, CRect rectGripper, BOOL bHorz, CBasePane* pBar);
+    /// A line between groups of buttons, upright in a bar whose buttons stand in a row (`bIsHoriz`).
+    virtual void OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz);
+    /// Fills a button that is hot, pressed or checked; one that is nothing of it shows the bar.
+    virtual void OnFillButtonInterior(CDC* pDC, CMFCToolBarButton* pButton, CRect rect,
+                                      AFX_BUTTON_STATE state);
+    /// A line around the same buttons.
+    virtual void OnDrawButtonBorder(CDC* pDC, CMFCToolBarButton* pButton, CRect rect, AFX_BUTTON_STATE state);
+    virtual COLORREF GetToolbarButtonTextColor(CMFCToolBarButton* pButton, AFX_BUTTON_STATE state);
 
     // Floating frames.
 

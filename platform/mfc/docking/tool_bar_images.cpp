@@ -1,0 +1,139 @@
+#include <kmfc/tool_bar_images.h>
+
+#include <kmfc/module_state.h>
+
+#include "core/picture_pixels.h"
+#include "look.h"
+
+namespace {
+
+using kmfc::PicturePixels;
+
+struct OwnBitmap {
+    HBITMAP handle = nullptr;
+    explicit OwnBitmap(HBITMAP bitmap) : handle(bitmap) {}
+    OwnBitmap(const OwnBitmap&) = delete;
+    OwnBitmap& operator=(const OwnBitmap&) = delete;
+    ~OwnBitmap() {
+        if (handle != nullptr) ::DeleteObject(handle);
+    }
+};
+
+BITMAPINFO info_of(const CSize& size) {
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;  // from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    return info;
+}
+
+/// The pixels of a bitmap: by its alpha channel, or all but those of the transparent colour.
+PicturePixels pixels_of(HBITMAP bitmap, COLORREF transparent) {
+    PicturePixels picture;
+    BITMAP about = {};
+    if (::GetObjectW(bitmap, sizeof(about), &about) == 0) return picture;
+    const CSize size(about.bmWidth, std::abs(about.bmHeight));
+    std::vector<std::uint32_t> pixels(static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy));
+    BITMAPINFO info = info_of(size);
+    CDC screen;
+    screen.CreateCompatibleDC(nullptr);
+    if (::GetDIBits(screen, bitmap, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS) == 0)
+        return picture;
+    const bool hasAlpha = about.bmBitsPixel == 32 && std::any_of(pixels.begin(), pixels.end(),
+                                                                 [](auto pixel) { return pixel >> 24 != 0; });
+    const std::uint32_t key = static_cast<std::uint32_t>(GetRValue(transparent)) << 16 |
+                              static_cast<std::uint32_t>(GetGValue(transparent)) << 8 |
+                              GetBValue(transparent);
+    for (std::uint32_t& pixel : pixels) {
+        if (!hasAlpha) pixel = (pixel & 0xFFFFFF) == key ? 0 : pixel | 0xFF000000;
+        pixel = kmfc::premultiplied(pixel);
+    }
+    picture.size = size;
+    picture.pixels = std::move(pixels);
+    return picture;
+}
+
+/// Two pictures of the same height, one beside the other.
+PicturePixels joined(const PicturePixels& first, const PicturePixels& second) {
+    PicturePixels both;
+    both.size = CSize(first.size.cx + second.size.cx, first.size.cy);
+    for (int y = 0; y < both.size.cy; ++y)
+        for (const PicturePixels* one : {&first, &second}) {
+            const auto row = one->pixels.begin() + static_cast<std::ptrdiff_t>(y) * one->size.cx;
+            both.pixels.insert(both.pixels.end(), row, row + one->size.cx);
+        }
+    return both;
+}
+
+void blend(CDC& dc, const CPoint& at, const PicturePixels& picture) {
+    const CSize size = picture.size;
+    const BITMAPINFO info = info_of(size);
+    void* bits = nullptr;
+    CBitmap bitmap;
+    if (!bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0))) return;
+    std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint32_t*>(bits));
+    CDC source;
+    if (!source.CreateCompatibleDC(&dc)) return;
+    CBitmap* const former = source.SelectObject(&bitmap);
+    constexpr BLENDFUNCTION over = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    ::AlphaBlend(dc, at.x, at.y, size.cx, size.cy, source, 0, 0, size.cx, size.cy, over);
+    source.SelectObject(former);
+}
+
+}  // namespace
+
+CMFCToolBarImages::CMFCToolBarImages() : m_all(std::make_unique<PicturePixels>()) {}
+CMFCToolBarImages::~CMFCToolBarImages() = default;
+
+void CMFCToolBarImages::SetImageSize(SIZE sizeImage, BOOL bUpdateCount) {
+    m_sizeImage = sizeImage;
+    if (!bUpdateCount) return;
+    m_iCount = sizeImage.cx > 0 && sizeImage.cy <= m_all->size.cy ? m_all->size.cx / sizeImage.cx : 0;
+}
+
+BOOL CMFCToolBarImages::Load(UINT uiResID, HINSTANCE hinstRes, BOOL bAdd) {
+    const LPCTSTR name = MAKEINTRESOURCEW(uiResID);
+    if (hinstRes == nullptr) hinstRes = AfxFindResourceHandle(name, RT_BITMAP);
+    const OwnBitmap bitmap(
+        static_cast<HBITMAP>(::LoadImageW(hinstRes, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    if (bitmap.handle == nullptr || m_sizeImage.cx <= 0) return FALSE;
+    PicturePixels loaded = pixels_of(bitmap.handle, m_clrTransparent);
+    if (loaded.pixels.empty() || loaded.size.cy < m_sizeImage.cy) return FALSE;
+    const bool behind = bAdd && m_iCount > 0;
+    if (behind && loaded.size.cy != m_all->size.cy) return FALSE;
+    *m_all = behind ? joined(*m_all, loaded) : std::move(loaded);
+    m_iCount = m_all->size.cx / m_sizeImage.cx;
+    return TRUE;
+}
+
+void CMFCToolBarImages::Clear() {
+    *m_all = PicturePixels();
+    m_iCount = 0;
+}
+
+COLORREF CMFCToolBarImages::SetTransparentColor(COLORREF clrTransparent) {
+    return std::exchange(m_clrTransparent, clrTransparent);
+}
+
+BOOL CMFCToolBarImages::PrepareDrawImage(CAfxDrawState& ds, CSize sizeImageDest) {
+    if (m_iCount == 0) return FALSE;
+    ds.m_size = m_sizeDest;
+    m_sizeDest = sizeImageDest == CSize(0, 0) ? m_sizeImage : sizeImageDest;
+    return TRUE;
+}
+
+void CMFCToolBarImages::EndDrawImage(CAfxDrawState& ds) { m_sizeDest = ds.m_size; }
+
+BOOL CMFCToolBarImages::Draw(CDC* pDC, int x, int y, int iImageIndex, BOOL bDisabled) {
+    if (iImageIndex < 0 || iImageIndex >= m_iCount) return FALSE;
+    const CPoint corner(iImageIndex * m_sizeImage.cx, 0);
+    PicturePixels picture = kmfc::resized(kmfc::cut_out(*m_all, CRect(corner, m_sizeImage)), m_sizeDest);
+    if (picture.pixels.empty()) return FALSE;
+    if (m_bMapToDark && kmfc::is_dark(kmfc::present_look().bar))
+        picture = kmfc::look_on_dark(std::move(picture));
+    if (bDisabled) picture = kmfc::disabled_look(std::move(picture));
+    blend(*pDC, CPoint(x, y), picture);
+    return TRUE;
+}

@@ -1,0 +1,6 @@
+// Toolbars that dock.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/tool_bar_ex.h>

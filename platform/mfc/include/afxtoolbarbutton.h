@@ -1,0 +1,6 @@
+// Buttons of toolbars that dock.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/tool_bar_button.h>

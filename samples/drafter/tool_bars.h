@@ -1,0 +1,28 @@
+// CToolBars: the drafter's toolbars, which dock in the main window. Where they stand is kept with its panes.
+#pragma once
+
+#include <afxwin.h>
+#include <afxtoolbar.h>
+
+#include "resource.h"
+
+class CMDIFrameWndEx;
+
+class CToolBars {
+public:
+    /// Makes the bars and docks them in one row at the top. False when a window can't be made.
+    bool Create(CMDIFrameWndEx& frame);
+
+    // By the commands of View > Toolbars.
+    bool IsShown(UINT command) const { return barOf(command).IsVisible() != FALSE; }
+    void Toggle(UINT command);
+
+    /// Lets the user at the bars, or keeps him from them, also where they float.
+    void Enable(bool enable);
+
+private:
+    const CMFCToolBar& barOf(UINT command) const { return command == ID_VIEW_TOOLBAR_FILE ? m_file : m_view; }
+
+    CMFCToolBar m_file;
+    CMFCToolBar m_view;
+};
