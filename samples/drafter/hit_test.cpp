@@ -151,11 +151,11 @@ OdDbObjectId EntityAt(const Scene& scene, const SceneBounds& bounds, const OdGeP
     OdDbObjectId found;
     double nearest = reach;
     const SceneExtents around = {{at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}};
-    std::vector<const ScenePath*> near;
+    std::vector<const ScenePath*> candidates;
     for (std::size_t i = 0; i < scene.paths.size(); ++i)
         if (bounds.path(i).meets(around) && isSeen(scene, scene.paths[i].clip, at))
-            near.push_back(&scene.paths[i]);
-    for (const ScenePath* path : near) {
+            candidates.push_back(&scene.paths[i]);
+    for (const ScenePath* path : candidates) {
         const double distance = distanceTo(*path, at);
         if (distance > nearest) continue;
         nearest = distance;
@@ -167,7 +167,7 @@ OdDbObjectId EntityAt(const Scene& scene, const SceneBounds& bounds, const OdGeP
         if (bounds.text(i).meets(around) && isSeen(scene, text.clip, at) && isWithin(TextBox(text), at))
             return text.entity;
     }
-    for (const ScenePath* path : near)
+    for (const ScenePath* path : candidates)
         if (path->filled && isInArea(*path, at)) found = path->entity;
     return found;
 }
