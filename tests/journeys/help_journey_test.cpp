@@ -43,8 +43,13 @@ protected:
     std::wstring shown() {
         // A program has to start first, which takes its time on a machine with much else to do.
         constexpr unsigned kProgramStarts = 60000;  // milliseconds
-        if (!waitUntil([this] { return std::filesystem::exists(m_shown); }, kProgramStarts)) return L"none";
-        std::ifstream file(std::filesystem::path(m_shown), std::ios::binary);
+        // While the program gives the file its name, nobody else can open it.
+        std::ifstream file;
+        const auto opens = [&] {
+            file.open(std::filesystem::path(m_shown), std::ios::binary);
+            return file.is_open();
+        };
+        if (!waitUntil(opens, kProgramStarts)) return L"none";
         const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
         file.close();
         std::filesystem::remove(m_shown);
