@@ -87,10 +87,11 @@ TEST(DxfKeeps, TheDefaultOfADictionaryWhateverStandsBeforeIt) {
     const std::string file = dxf(header("AC1015") +
                                  "0|SECTION\n2|OBJECTS\n0|DICTIONARY\n5|C\n330|0\n100|AcDbDictionary\n"
                                  "3|MINE\n350|70\n0|ACDBDICTIONARYWDFLT\n5|70\n330|C\n100|AcDbDictionary\n"
-                                 "3|First\n350|71\n100|AcDbDictionaryWithDefault\n3|Stray\n340|71\n"
+                                 "3|First of two with a name that is longer than the marker below\n350|71\n"
+                                 "3|Second\n350|71\n100|AcDbDictionaryWithDefault\n3|Stray\n340|71\n"
                                  "0|ACDBPLACEHOLDER\n5|71\n330|70\n0|ENDSEC\n0|EOF");
     EXPECT_TRUE(has(rewritten(file),
-                    "100|AcDbDictionary\n3|First\n350|71\n100|AcDbDictionaryWithDefault\n"
+                    "3|Second\n350|71\n100|AcDbDictionaryWithDefault\n"
                     "3|Stray\n340|71\n0|ACDBPLACEHOLDER"));
 }
 

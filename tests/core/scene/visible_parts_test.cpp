@@ -56,6 +56,13 @@ TEST(VisibleLines, ALineThatLeavesAndComesBackHasTwoPieces) {
     EXPECT_DOUBLE_EQ(pieces[1].skipped, 6 + 4 + 4);
 }
 
+TEST(VisibleLines, ACornerOutsidePartsTheLine) {
+    const auto pieces = VisibleLines(Points{{2, 2}, {5, 8}, {8, 2}}, kArea);
+    ASSERT_EQ(pieces.size(), 2u);
+    expectPoints(pieces[0].points, {{2, 2}, {3, 4}});
+    expectPoints(pieces[1].points, {{7, 4}, {8, 2}});
+}
+
 TEST(VisibleLines, NothingOfWhatPassesBeside) {
     EXPECT_TRUE(VisibleLines(Points{{-1, 0}, {-1, 4}}, kArea).empty());
     EXPECT_TRUE(VisibleLines(Points{{-3, 2}, {3, 8}}, kArea).empty()) << "beside a corner";
@@ -81,6 +88,8 @@ TEST(VisibleLines, ALongLineKeepsItsDirection) {
 TEST(VisibleBoundary, IsCutAtEachSide) {
     const Points inside = {{1, 1}, {9, 1}, {9, 3}};
     expectPoints(VisibleBoundary(inside, kArea), inside);
+    const Points whole = {{0, 0}, {10, 0}, {10, 4}, {0, 4}};
+    expectPoints(VisibleBoundary(whole, kArea), whole);
     EXPECT_DOUBLE_EQ(twiceTheArea(VisibleBoundary(Points{{-5, 1}, {15, 1}, {15, 3}, {-5, 3}}, kArea)),
                      2 * 20);
     EXPECT_DOUBLE_EQ(twiceTheArea(VisibleBoundary(Points{{2, -5}, {4, -5}, {4, 15}, {2, 15}}, kArea)), 2 * 8);
@@ -130,6 +139,20 @@ TEST(SceneBounds, OfATextLeaveRoomForAnyFontAndTurn) {
     EXPECT_LE(all.low.y, 50 - 16);
     EXPECT_GE(all.high.y, 50 + 16);
     EXPECT_LT(all.high.x, 200) << "and yet say where it is";
+}
+
+TEST(SceneExtents, OfASceneAreWhatEachClipLeaves) {
+    Scene scene;
+    scene.clips = {{{{0, 0}, {4, 0}, {4, 4}, {0, 4}}}, {{{10, 0}, {14, 0}, {14, 4}, {10, 4}}}};
+    for (const int clip : {0, 1}) {
+        scene.paths.push_back({.points = {{-50, 1}, {50, 2}}, .style = {}, .entity = {}});
+        scene.paths.back().clip = clip;
+    }
+    const SceneExtents all = scene.extents();
+    EXPECT_EQ(all.low.x, 0);
+    EXPECT_EQ(all.high.x, 14);
+    EXPECT_EQ(all.low.y, 1);
+    EXPECT_EQ(all.high.y, 2);
 }
 
 TEST(SceneExtents, MeetWhatSharesAPlaceAndHoldWhatIsAllInside) {
