@@ -283,4 +283,20 @@ TEST_F(HitTest, WhatAClipHidesIsNotHit) {
     EXPECT_TRUE(EntitiesInside(shown, window(1, -6, 6, 6)).empty());
 }
 
+TEST_F(HitTest, WhatAClipHidesOfATextIsNotHit) {
+    const OdDbObjectId id = addLine(0, 0, 1, 0);
+    Scene shown;
+    shown.clips = {{{{0, -5}, {5, -5}, {5, 5}, {0, 5}}, kNoClip}};
+    SceneText text;
+    text.entity = id;
+    text.text = OdString(L"HHHHHHHHHH");
+    text.height = 2;
+    text.clip = 0;
+    shown.texts = {text};
+    EXPECT_EQ(entityAt(shown, {4, 1}, kReach), id);
+    EXPECT_TRUE(entityAt(shown, {6, 1}, kReach).isNull());
+    shown.texts[0].clip = kNoClip;
+    EXPECT_EQ(entityAt(shown, {6, 1}, kReach), id) << "the text goes on there";
+}
+
 }  // namespace
