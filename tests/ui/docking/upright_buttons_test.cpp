@@ -3,6 +3,7 @@
 
 #include "bar_fixture.h"
 #include "noting_look.h"
+#include "told_mouse.h"
 
 namespace {
 
@@ -27,15 +28,12 @@ TEST_F(UprightButtons, GetHotUnderTheMouseAndColdWhenItGoes) {
     EXPECT_FALSE(isHot(9));
 }
 
-TEST_F(UprightButtons, StayHotWhileTheMouseRestsOnThem) {
-    ASSERT_TRUE(ui_test::move_cursor(closeOnScreen()));
-    EXPECT_TRUE(ui_test::pump_until([this] { return isHot(19); }));
-    int left = 0;
-    EXPECT_FALSE(ui_test::pump_until([&] { return !isHot(19) && ++left > 0; }, 300)) << "gone cold at once";
-    CPoint away = closeOnScreen();
-    away.Offset(300, -300);
-    ASSERT_TRUE(ui_test::move_cursor(away));
-    EXPECT_TRUE(ui_test::pump_until([this] { return !isHot(19); })) << "the system tells that it left";
+TEST_F(UprightButtons, AskToHearThatTheMouseLeavesTheCaption) {
+    const ui_test::ToldMouse mouse;
+    sendNcMouse(bar, WM_NCMOUSEMOVE, closeOnScreen());
+    EXPECT_EQ(mouse.askedForLeavingCaption, std::vector<HWND>{bar.m_hWnd});
+    EXPECT_TRUE(mouse.askedForLeaving.empty()) << "a client area that the mouse isn't in is left at once";
+    EXPECT_TRUE(isHot(19));
 }
 
 TEST_F(UprightButtons, OfALockedBarCanBePressedOnceTheMouseHasMetThem) {

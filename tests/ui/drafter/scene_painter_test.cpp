@@ -161,6 +161,15 @@ TEST_F(ScenePainting, WhatComesLaterLiesAbove) {
     EXPECT_EQ(at(x, y - 5), kGreen) << "the last line above all";
 }
 
+TEST_F(ScenePainting, ADashedLineLiesAboveTheLinesBeforeIt) {
+    add({{-50, 0}, {50, 0}}, kRed);
+    // A dash from -10 to 10 lies across the line.
+    add({{0, -10}, {0, 50}}, kGreen).style.dashes = {20, -10};
+    paint();
+    EXPECT_EQ(at(kWidth / 2, kHeight / 2), kGreen);
+    EXPECT_EQ(at(kWidth / 2, kHeight / 2 - 15), kDrawingPaper) << "the gap";
+}
+
 TEST_F(ScenePainting, LinesAreSeenThroughTheirOwnClipOnly) {
     scene.clips.push_back({{{-20, -20}, {0, -20}, {0, 20}, {-20, 20}}});
     add({{-50, 5}, {50, 5}}, kRed).clip = 0;

@@ -28,7 +28,8 @@ public:
     /// On the screen; far from the frames of these tests at first.
     static constexpr POINT kFarAway = {1000, 740};
     CPoint place = kFarAway;
-    std::vector<HWND> askedForLeaving;
+    std::vector<HWND> askedForLeaving;         ///< the client area
+    std::vector<HWND> askedForLeavingCaption;  ///< what is around it
 
 private:
     static ToldMouse*& current() {
@@ -41,6 +42,8 @@ private:
     }
     static BOOL WINAPI noteTracking(TRACKMOUSEEVENT* event) {
         if (event->dwFlags == TME_LEAVE) current()->askedForLeaving.push_back(event->hwndTrack);
+        if (event->dwFlags == (TME_LEAVE | TME_NONCLIENT))
+            current()->askedForLeavingCaption.push_back(event->hwndTrack);
         return TRUE;
     }
 
