@@ -244,7 +244,7 @@ void ScenePainter::fill(const ScenePath& path, const SceneExtents& bounds, COLOR
 void ScenePainter::stroke(const ScenePath& path, const SceneExtents& bounds, COLORREF color) {
     int width = m_scene.showsLineWeights ? penWidth(path.style.lineWeight) : 1;
     if (isSelected(path.entity)) ++width;
-    const bool isDot = width == 1 && (bounds.high.x - bounds.low.x) * m_place.scale < 1 &&
+    const bool isDot = (bounds.high.x - bounds.low.x) * m_place.scale < 1 &&
                        (bounds.high.y - bounds.low.y) * m_place.scale < 1;
     if (isDot) {
         const CPoint at = m_place.ToPixel(path.points.front());

@@ -132,6 +132,42 @@ TEST_F(ScenePainting, ACircleOfSomePixelsIsRoundAndClosed) {
     EXPECT_GE(count(kRed), 16);
 }
 
+TEST_F(ScenePainting, ACircleDrawnThroughFewOfItsPointsIsClosed) {
+    std::vector<OdGePoint2d> circle;
+    for (int i = 0; i <= 72; ++i)
+        circle.push_back({3.9 * std::cos(i * 0.0872665), 3.9 * std::sin(i * 0.0872665)});
+    add(circle, kRed);
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_TRUE(at(x + 3, y + 1) == kRed || at(x + 4, y + 1) == kRed) << "just before it closes";
+}
+
+TEST_F(ScenePainting, APointAmongTheLinesOfAPathIsADot) {
+    add({{-20, 0}, {20, 0}, {30, 10}, {30, 10}}, kRed).breaks = {2};
+    paint();
+    EXPECT_EQ(at(kWidth / 2 + 30, kHeight / 2 - 10), kRed);
+    EXPECT_EQ(at(kWidth / 2 + 25, kHeight / 2 - 5), kDrawingPaper);
+}
+
+TEST_F(ScenePainting, LinesAndAreasHaveEachTheirOwnWidthAndColor) {
+    scene.showsLineWeights = true;
+    add({{-50, 30}, {50, 30}}, kRed).style.lineWeight = 0;
+    add({{-50, 10}, {50, 10}}, kRed).style.lineWeight = 211;
+    add({{-50, -10}, {50, -10}}, kGreen).style.lineWeight = 0;
+    add({{-50, -20}, {-20, -20}, {-20, -40}, {-50, -40}}, kRed, true);
+    add({{20, -20}, {50, -20}, {50, -40}, {20, -40}}, kGreen, true);
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_EQ(at(x, y - 30), kRed);
+    EXPECT_EQ(at(x, y - 32), kDrawingPaper) << "thin";
+    EXPECT_EQ(at(x, y - 12), kRed) << "wide";
+    EXPECT_EQ(at(x, y + 10), kGreen);
+    EXPECT_EQ(at(x - 35, y + 30), kRed);
+    EXPECT_EQ(at(x - 50, y + 30), kRed) << "its edge";
+    EXPECT_EQ(at(x + 35, y + 30), kGreen);
+    EXPECT_EQ(at(x + 20, y + 30), kGreen) << "its edge";
+}
+
 TEST_F(ScenePainting, ThePieceOfADashedLineHasItsDashesWhereTheWholeLineHasThem) {
     const auto dashesFrom = [&](double start) {
         scene.paths.clear();
@@ -144,7 +180,8 @@ TEST_F(ScenePainting, ThePieceOfADashedLineHasItsDashesWhereTheWholeLineHasThem)
     // Twenty is the pattern's length, so these are the same dashes, the second of them outside at first.
     const std::string whole = dashesFrom(-100);
     EXPECT_EQ(dashesFrom(-100 - 20 * 40.0), whole);
-    EXPECT_NE(dashesFrom(-100 - 20 * 40.0 - 7), whole);
+    for (const int off : {7, 15})
+        EXPECT_EQ(dashesFrom(-100 - 20 * 40.0 - off).substr(0, 100), whole.substr(off, 100)) << off;
     EXPECT_NE(whole.find("############........"), std::string::npos) << whole;
 }
 
@@ -181,6 +218,31 @@ TEST_F(ScenePainting, LinesAreSeenThroughTheirOwnClipOnly) {
     EXPECT_EQ(at(x - 30, y - 5), kDrawingPaper);
     EXPECT_EQ(at(x + 10, y + 5), kRed);
     EXPECT_EQ(at(x - 30, y + 5), kRed);
+}
+
+TEST_F(ScenePainting, ATextLiesAboveTheLinesBeforeIt) {
+    scene.showsLineWeights = true;
+    add({{-90, 4}, {90, 4}}, kRed).style.lineWeight = 211;
+    SceneText& text = scene.texts.emplace_back();
+    text.text = OdString(L"HHHH");
+    text.position = {-20, 0};
+    text.height = 8;
+    text.style.color.setRGB(0, 255, 0);
+    text.pathsBelow = 1;
+    paint();
+    int pixels = 0;
+    for (int x = 0; x < kWidth; ++x) pixels += at(x, kHeight / 2 - 5) == kGreen;
+    EXPECT_GE(pixels, 8) << "a column of each stem";
+}
+
+TEST_F(ScenePainting, ATextFarFromTheMiddleIsWritten) {
+    SceneText& text = scene.texts.emplace_back();
+    text.text = OdString(L"H");
+    text.position = {80, 35};
+    text.height = 8;
+    text.style.color.setRGB(0, 255, 0);
+    paint();
+    EXPECT_GE(count(kGreen), 10);
 }
 
 TEST_F(ScenePainting, TextsInTwoSizesAndTurnsAreWrittenEachInItsOwn) {
