@@ -88,11 +88,11 @@ OdGePoint2d CDrawingView::FromPixel(CPoint pixel) const { return place().FromPix
 
 void CDrawingView::OnPaint() {
     CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    if (client.IsRectEmpty()) return;
-    CMemDC memory(dc, client);
-    memory.GetDC().FillSolidRect(&client, m_colors.paper);
+    CRect outdated;
+    dc.GetClipBox(&outdated);
+    if (outdated.IsRectEmpty()) return;
+    CMemDC memory(dc, outdated);
+    memory.GetDC().FillSolidRect(&outdated, m_colors.paper);
     PaintScene(memory.GetDC(), m_scene, m_bounds, place(), m_selection, m_colors);
     paintBand(memory.GetDC());
     paintWindow(memory.GetDC());
@@ -246,9 +246,18 @@ void CDrawingView::zoomAt(CPoint pixel, double factor) {
 }
 
 void CDrawingView::panBy(CSize pixels) {
+    // What is drawn moves along, so that only what comes into sight is painted. The crosshair stays where it
+    // is.
+    const std::optional<CPoint> crosshair = m_crosshairAt;
+    moveCrosshair({});
     m_center.x -= pixels.cx / m_scale;
     m_center.y += pixels.cy / m_scale;
-    Invalidate();
+    // A band or a window goes from a place of the drawing to the pointer.
+    if (IsPickingPlaces() || m_windowFrom)
+        Invalidate();
+    else
+        ScrollWindow(pixels.cx, pixels.cy);
+    moveCrosshair(crosshair);
 }
 
 OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {

@@ -27,8 +27,11 @@ int penWidth(int lineWeight) {
     return std::max(1, static_cast<int>(std::lround(lineWeight / 100.0 * kPixelsPerMillimetre)));
 }
 
-/// Around the window, so that the edge of what is cut there is not seen, nor the halves of wide pens.
-constexpr double kSlack = 32;  // pixels
+/// How far the halves of wide pens reach around what is painted.
+constexpr int kPenReach = 32;  // pixels
+/// What is further from the window is cut off. What is nearer is drawn as it is, so that it gets the same
+/// pixels when a part of the window is painted anew.
+constexpr int kFarthest = 8000;  // pixels
 
 /// A path smaller than this many pixels is drawn through so many of its points.
 constexpr double kSmallPath = 8;
@@ -102,16 +105,23 @@ public:
           m_place(place),
           m_selection(selection),
           m_colors(colors) {
-        const CSize& size = m_place.size;
-        const double x = (size.cx / 2.0 + kSlack) / m_place.scale,
-                     y = (size.cy / 2.0 + kSlack) / m_place.scale;
-        m_seen = {{m_place.center.x - x, m_place.center.y - y}, {m_place.center.x + x, m_place.center.y + y}};
+        const CRect window(CPoint(0, 0), m_place.size);
+        CRect painted;
+        dc.GetClipBox(&painted);
+        painted.IntersectRect(painted, window);
+        if (!painted.IsRectEmpty()) m_painted = around(painted, kPenReach);
+        m_near = around(window, kFarthest);
     }
 
     /// Paths and texts in the order in which they lie.
     void draw();
 
 private:
+    SceneExtents around(CRect pixels, int reach) const {
+        pixels.InflateRect(reach, reach);
+        return {m_place.FromPixel(CPoint(pixels.left, pixels.bottom)),
+                m_place.FromPixel(CPoint(pixels.right, pixels.top))};
+    }
     void drawPath(std::size_t number);
     void drawText(std::size_t number);
     void seeThrough(int clip);
@@ -139,7 +149,9 @@ private:
     const ScenePlace& m_place;
     const std::set<OdDbObjectId>& m_selection;
     const SceneColors& m_colors;
-    SceneExtents m_seen;  // the window and a little around it, in drawing units
+    // In drawing units.
+    SceneExtents m_painted;  // with what reaches into it; empty for nothing
+    SceneExtents m_near;     // all that can be drawn as it is
     PaintTools m_tools;
     CPen* m_linesPen = nullptr;  // of the lines that are kept
     std::vector<CPoint> m_linePixels;
@@ -203,14 +215,14 @@ void ScenePainter::draw() {
     std::size_t path = 0;
     const auto drawPaths = [&](std::size_t end) {
         for (; path < std::min(end, m_scene.paths.size()); ++path) {
-            if (!m_bounds.path(path).meets(m_seen)) continue;
+            if (!m_bounds.path(path).meets(m_painted)) continue;
             seeThrough(m_scene.paths[path].clip);
             drawPath(path);
         }
     };
     for (std::size_t text = 0; text < m_scene.texts.size(); ++text) {
         drawPaths(m_scene.texts[text].pathsBelow);
-        if (!m_bounds.text(text).meets(m_seen)) continue;
+        if (!m_bounds.text(text).meets(m_painted)) continue;
         seeThrough(m_scene.texts[text].clip);
         drawText(text);
     }
@@ -224,7 +236,7 @@ void ScenePainter::fill(const ScenePath& path, const SceneExtents& bounds, COLOR
     std::vector<CPoint> all;
     eachPart(path, [&](std::span<const OdGePoint2d> boundary) {
         const std::vector<CPoint> pixels =
-            m_seen.holds(bounds) ? pixelsOf(boundary) : pixelsOf(VisibleBoundary(boundary, m_seen));
+            m_near.holds(bounds) ? pixelsOf(boundary) : pixelsOf(VisibleBoundary(boundary, m_near));
         if (pixels.size() < 2) return;
         counts.push_back(static_cast<INT>(pixels.size()));
         all.insert(all.end(), pixels.begin(), pixels.end());
@@ -262,8 +274,8 @@ void ScenePainter::stroke(const ScenePath& path, const SceneExtents& bounds, COL
     const double size = std::max(bounds.high.x - bounds.low.x, bounds.high.y - bounds.low.y) * m_place.scale;
     eachPart(path, [&](std::span<const OdGePoint2d> line) {
         if (size < kSmallPath && line.size() > kSmallPathPoints) return draw(fewerPoints(line), 0);
-        if (m_seen.holds(bounds)) return draw(line, 0);
-        for (const VisibleLine& piece : VisibleLines(line, m_seen)) draw(piece.points, piece.skipped);
+        if (m_near.holds(bounds)) return draw(line, 0);
+        for (const VisibleLine& piece : VisibleLines(line, m_near)) draw(piece.points, piece.skipped);
     });
 }
 

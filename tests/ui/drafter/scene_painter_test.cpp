@@ -38,6 +38,16 @@ protected:
         PaintScene(m_dc, scene, place);
         ::GdiFlush();
     }
+    /// Paints a part of the window anew, which is spoiled before.
+    void paintIn(const CRect& part) {
+        const int saved = m_dc.SaveDC();
+        m_dc.IntersectClipRect(&part);
+        m_dc.FillSolidRect(&part, RGB(1, 2, 3));
+        m_dc.FillSolidRect(&part, kDrawingPaper);
+        PaintScene(m_dc, scene, place);
+        m_dc.RestoreDC(saved);
+        ::GdiFlush();
+    }
     COLORREF at(int x, int y) { return m_dc.GetPixel(x, y); }
     int count(COLORREF color) {
         int pixels = 0;
@@ -78,9 +88,15 @@ TEST_F(ScenePainting, AnAreaThatGoesFarBeyondTheWindowKeepsItsEdge) {
 }
 
 TEST_F(ScenePainting, AHoleOfAnAreaStaysAHoleWhereItIsCut) {
-    ScenePath& area = add(
-        {{-500, -500}, {500, -500}, {500, 500}, {-500, 500}, {-300, -10}, {20, -10}, {20, 10}, {-300, 10}},
-        kRed, true);
+    ScenePath& area = add({{-50000, -50000},
+                           {50000, -50000},
+                           {50000, 50000},
+                           {-50000, 50000},
+                           {-30000, -10},
+                           {20, -10},
+                           {20, 10},
+                           {-30000, 10}},
+                          kRed, true);
     area.breaks = {4};
     paint();
     EXPECT_EQ(at(0, kHeight / 2), kDrawingPaper);
@@ -179,9 +195,9 @@ TEST_F(ScenePainting, ThePieceOfADashedLineHasItsDashesWhereTheWholeLineHasThem)
     };
     // Twenty is the pattern's length, so these are the same dashes, the second of them outside at first.
     const std::string whole = dashesFrom(-100);
-    EXPECT_EQ(dashesFrom(-100 - 20 * 40.0), whole);
+    EXPECT_EQ(dashesFrom(-100 - 20 * 800.0), whole);
     for (const int off : {7, 15})
-        EXPECT_EQ(dashesFrom(-100 - 20 * 40.0 - off).substr(0, 100), whole.substr(off, 100)) << off;
+        EXPECT_EQ(dashesFrom(-100 - 20 * 800.0 - off).substr(0, 100), whole.substr(off, 100)) << off;
     EXPECT_NE(whole.find("############........"), std::string::npos) << whole;
 }
 
@@ -205,6 +221,28 @@ TEST_F(ScenePainting, ADashedLineLiesAboveTheLinesBeforeIt) {
     paint();
     EXPECT_EQ(at(kWidth / 2, kHeight / 2), kGreen);
     EXPECT_EQ(at(kWidth / 2, kHeight / 2 - 15), kDrawingPaper) << "the gap";
+}
+
+TEST_F(ScenePainting, APartThatIsPaintedAnewFitsTheRest) {
+    scene.showsLineWeights = true;
+    for (int i = 0; i < 40; ++i) {
+        ScenePath& path =
+            add({{-300.0 + 7 * i, -90.0 + i}, {500.0 - 3 * i, 130.0 - 5 * i}}, i % 2 != 0 ? kRed : kGreen);
+        if (i % 3 == 0) path.style.dashes = {12, -5, 0, -5};
+        if (i % 7 == 0) path.style.lineWeight = 100;
+    }
+    paint();
+    std::vector<COLORREF> whole;
+    for (int y = 0; y < kHeight; ++y)
+        for (int x = 0; x < kWidth; ++x) whole.push_back(at(x, y));
+    EXPECT_GT(count(kRed), 500);
+    paintIn(CRect(57, 13, 63, 90));
+    paintIn(CRect(0, 40, kWidth, 47));
+    int changed = 0;
+    for (int y = 0; y < kHeight; ++y)
+        for (int x = 0; x < kWidth; ++x)
+            changed += at(x, y) != whole[static_cast<std::size_t>(y * kWidth + x)];
+    EXPECT_EQ(changed, 0);
 }
 
 TEST_F(ScenePainting, LinesAreSeenThroughTheirOwnClipOnly) {
