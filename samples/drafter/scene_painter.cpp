@@ -41,7 +41,12 @@ constexpr std::size_t kSmallPathPoints = 12;
 class PaintTools {
 public:
     CPen& pen(int width, COLORREF color) {
-        CPen& pen = m_pens[{width, color}];
+        // Mostly it is the one before.
+        if (m_lastPen == nullptr || m_lastPenOf != std::pair(width, color)) {
+            m_lastPenOf = {width, color};
+            m_lastPen = &m_pens[m_lastPenOf];
+        }
+        CPen& pen = *m_lastPen;
         if (pen.m_hObject != nullptr) return pen;
         // What systems draw fastest by far, as most lines are thin.
         if (width == 1) {
@@ -86,6 +91,8 @@ public:
 
 private:
     std::map<std::pair<int, COLORREF>, CPen> m_pens;
+    std::pair<int, COLORREF> m_lastPenOf;
+    CPen* m_lastPen = nullptr;
     std::map<COLORREF, CPen> m_edges;
     std::map<COLORREF, CBrush> m_brushes;
     std::map<std::string, CFont> m_fonts;
@@ -125,7 +132,9 @@ private:
     void drawPath(std::size_t number);
     void drawText(std::size_t number);
     void seeThrough(int clip);
-    std::vector<CPoint> pixelsOf(std::span<const OdGePoint2d> points) const;
+    /// Stays until the next call.
+    const std::vector<CPoint>& pixelsOf(std::span<const OdGePoint2d> points);
+    std::span<const OdGePoint2d> fewerPoints(std::span<const OdGePoint2d> points);
     bool isSelected(const OdDbObjectId& entity) const { return m_selection.contains(entity); }
     COLORREF colorOf(const DisplayStyle& style, const OdDbObjectId& entity) const {
         return isSelected(entity) ? m_colors.selection : onPaper(style.color.color());
@@ -153,6 +162,8 @@ private:
     SceneExtents m_painted;  // with what reaches into it; empty for nothing
     SceneExtents m_near;     // all that can be drawn as it is
     PaintTools m_tools;
+    std::vector<CPoint> m_pixels;
+    std::vector<OdGePoint2d> m_fewPoints;
     CPen* m_linesPen = nullptr;  // of the lines that are kept
     std::vector<CPoint> m_linePixels;
     std::vector<DWORD> m_lineCounts;
@@ -172,25 +183,23 @@ void eachPart(const ScenePath& path, Part part) {
 }
 
 /// What a curve of many points keeps where it is only some pixels large, its ends among them.
-std::vector<OdGePoint2d> fewerPoints(std::span<const OdGePoint2d> points) {
-    std::vector<OdGePoint2d> few;
-    few.reserve(kSmallPathPoints + 1);
+std::span<const OdGePoint2d> ScenePainter::fewerPoints(std::span<const OdGePoint2d> points) {
+    m_fewPoints.clear();
     for (std::size_t i = 0; i < kSmallPathPoints; ++i)
-        few.push_back(points[i * points.size() / kSmallPathPoints]);
-    few.push_back(points.back());
-    return few;
+        m_fewPoints.push_back(points[i * points.size() / kSmallPathPoints]);
+    m_fewPoints.push_back(points.back());
+    return m_fewPoints;
 }
 
 /// A point for each pixel that differs from the one before; at least two of a line, which may be the same.
-std::vector<CPoint> ScenePainter::pixelsOf(std::span<const OdGePoint2d> points) const {
-    std::vector<CPoint> pixels;
-    pixels.reserve(points.size());
+const std::vector<CPoint>& ScenePainter::pixelsOf(std::span<const OdGePoint2d> points) {
+    m_pixels.clear();
     for (const OdGePoint2d& point : points) {
         const CPoint pixel = m_place.ToPixel(point);
-        if (pixels.empty() || pixels.back() != pixel) pixels.push_back(pixel);
+        if (m_pixels.empty() || m_pixels.back() != pixel) m_pixels.push_back(pixel);
     }
-    if (pixels.size() == 1 && points.size() > 1) pixels.push_back(pixels.front());
-    return pixels;
+    if (m_pixels.size() == 1 && points.size() > 1) m_pixels.push_back(m_pixels.front());
+    return m_pixels;
 }
 
 /// What follows is seen through a clip of the scene, and those around it.
@@ -203,7 +212,7 @@ void ScenePainter::seeThrough(int clip) {
     m_saved = m_dc.SaveDC();
     for (int at = clip; at >= 0;) {
         const SceneClip& each = m_scene.clips[static_cast<std::size_t>(at)];
-        const std::vector<CPoint> outline = pixelsOf(each.outline);
+        const std::vector<CPoint>& outline = pixelsOf(each.outline);
         CRgn region;
         if (region.CreatePolygonRgn(outline.data(), static_cast<int>(outline.size()), ALTERNATE))
             ::ExtSelectClipRgn(m_dc.m_hDC, region, RGN_AND);
@@ -235,7 +244,7 @@ void ScenePainter::fill(const ScenePath& path, const SceneExtents& bounds, COLOR
     std::vector<INT> counts;
     std::vector<CPoint> all;
     eachPart(path, [&](std::span<const OdGePoint2d> boundary) {
-        const std::vector<CPoint> pixels =
+        const std::vector<CPoint>& pixels =
             m_near.holds(bounds) ? pixelsOf(boundary) : pixelsOf(VisibleBoundary(boundary, m_near));
         if (pixels.size() < 2) return;
         counts.push_back(static_cast<INT>(pixels.size()));
@@ -367,8 +376,10 @@ void ScenePainter::write(const SceneText& text, int height, CPoint at) {
 }  // namespace
 
 CPoint ScenePlace::ToPixel(const OdGePoint2d& point) const {
+    // To the nearest, as lround does, which here takes longer than all the rest.
     const auto pixel = [](double value) {
-        return static_cast<int>(std::lround(std::clamp(value, -1e7, 1e7)));
+        const double within = std::clamp(value, -1e7, 1e7);
+        return static_cast<int>(within < 0 ? within - 0.5 : within + 0.5);
     };
     return CPoint(pixel(size.cx / 2.0 + (point.x - center.x) * scale),
                   pixel(size.cy / 2.0 - (point.y - center.y) * scale));
