@@ -8,6 +8,7 @@
 
 #include "core/look_colors.h"
 #include "core/sign_shapes.h"
+#include "picture_drawing.h"
 
 namespace {
 
@@ -59,34 +60,22 @@ auto& state_colors() {
     return colors;
 }
 
-/// A bitmap of the colour, each pixel as opaque as the sign covers it.
-void fill_pixels(DWORD* pixels, const std::vector<BYTE>& covered, COLORREF color) {
-    for (size_t i = 0; i < covered.size(); ++i) {
-        const DWORD part = covered[i];
+/// A picture in the colour, each pixel as opaque as the sign covers it.
+kmfc::PicturePixels in_color(const CSize& size, const std::vector<BYTE>& covered, COLORREF color) {
+    kmfc::PicturePixels picture;
+    picture.size = size;
+    picture.pixels.reserve(covered.size());
+    for (const DWORD part : covered) {
         const DWORD red = GetRValue(color) * part / 255, green = GetGValue(color) * part / 255,
                     blue = GetBValue(color) * part / 255;
-        pixels[i] = part << 24 | red << 16 | green << 8 | blue;
+        picture.pixels.push_back(part << 24 | red << 16 | green << 8 | blue);
     }
+    return picture;
 }
 
 void draw_sign(CDC& dc, Sign sign, CPoint at, const CSize& size, COLORREF color) {
     if (size.cx < 1 || size.cy < 1) return;
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy;  // from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* pixels = nullptr;
-    CBitmap picture;
-    if (!picture.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0))) return;
-    fill_pixels(static_cast<DWORD*>(pixels), coverage(sign, size), color);
-    CDC source;
-    if (!source.CreateCompatibleDC(&dc)) return;
-    CBitmap* const former = source.SelectObject(&picture);
-    constexpr BLENDFUNCTION over = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    ::AlphaBlend(dc, at.x, at.y, size.cx, size.cy, source, 0, 0, size.cx, size.cy, over);
-    source.SelectObject(former);
+    kmfc::draw_picture(dc, at, in_color(size, coverage(sign, size), color));
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 #include <kmfc/module_state.h>
 
-#include "core/picture_pixels.h"
 #include "look.h"
+#include "picture_drawing.h"
 
 namespace {
 
@@ -19,16 +19,6 @@ struct OwnBitmap {
     }
 };
 
-BITMAPINFO info_of(const CSize& size) {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy;  // from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    return info;
-}
-
 /// The pixels of a bitmap: by its alpha channel, or all but those of the transparent colour.
 PicturePixels pixels_of(HBITMAP bitmap, COLORREF transparent) {
     PicturePixels picture;
@@ -36,7 +26,7 @@ PicturePixels pixels_of(HBITMAP bitmap, COLORREF transparent) {
     if (::GetObjectW(bitmap, sizeof(about), &about) == 0) return picture;
     const CSize size(about.bmWidth, std::abs(about.bmHeight));
     std::vector<std::uint32_t> pixels(static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy));
-    BITMAPINFO info = info_of(size);
+    BITMAPINFO info = kmfc::rows_from_the_top(size);
     CDC screen;
     screen.CreateCompatibleDC(nullptr);
     if (::GetDIBits(screen, bitmap, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS) == 0)
@@ -65,21 +55,6 @@ PicturePixels joined(const PicturePixels& first, const PicturePixels& second) {
             both.pixels.insert(both.pixels.end(), row, row + one->size.cx);
         }
     return both;
-}
-
-void blend(CDC& dc, const CPoint& at, const PicturePixels& picture) {
-    const CSize size = picture.size;
-    const BITMAPINFO info = info_of(size);
-    void* bits = nullptr;
-    CBitmap bitmap;
-    if (!bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0))) return;
-    std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint32_t*>(bits));
-    CDC source;
-    if (!source.CreateCompatibleDC(&dc)) return;
-    CBitmap* const former = source.SelectObject(&bitmap);
-    constexpr BLENDFUNCTION over = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-    ::AlphaBlend(dc, at.x, at.y, size.cx, size.cy, source, 0, 0, size.cx, size.cy, over);
-    source.SelectObject(former);
 }
 
 }  // namespace
@@ -134,6 +109,6 @@ BOOL CMFCToolBarImages::Draw(CDC* pDC, int x, int y, int iImageIndex, BOOL bDisa
     if (m_bMapToDark && kmfc::is_dark(kmfc::present_look().bar))
         picture = kmfc::look_on_dark(std::move(picture));
     if (bDisabled) picture = kmfc::disabled_look(std::move(picture));
-    blend(*pDC, CPoint(x, y), picture);
+    kmfc::draw_picture(*pDC, CPoint(x, y), picture);
     return TRUE;
 }
