@@ -97,7 +97,9 @@ void odTakeDictionaryEntries(OdDbStore& store, OdDbDictionary& dictionary, OdGro
     while (groups.find(3, name, at) && name.begin < end) {
         at = name.end;
         if (!groups.read(name.end, handle) || handle.kind != OdGroupKind::kHandle) continue;
-        store.entriesOf(dictionary).push_back({name.wide(), handle.handle(), handle.code});
+        // A name of nothing is none.
+        if (handle.handle() != 0)
+            store.entriesOf(dictionary).push_back({name.wide(), handle.handle(), handle.code});
         at = name.begin;
         end -= handle.end - name.begin;
         groups.replace(name.begin, handle.end, OdGroupList());

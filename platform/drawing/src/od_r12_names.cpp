@@ -164,6 +164,8 @@ OdRecordNames odR12Names(const OdDbStore& store) {
         const auto kind = static_cast<OdTableKind>(table);
         TakenNames taken;
         if (kind == kRegAppTable) taken.take(odWide(kOdWholeNames).c_str());
+        if (kind == kBlockTable)
+            for (const wchar_t* space : {L"$MODEL_SPACE", L"$PAPER_SPACE"}) taken.take(space);
         std::vector<const OdDbSymbolTableRecord*> illegal;
         for (const OdDbSymbolTableRecord* record : store.records(kind)) {
             if (record->isErased()) continue;

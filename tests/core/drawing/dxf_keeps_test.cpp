@@ -95,6 +95,18 @@ TEST(DxfKeeps, TheDefaultOfADictionaryWhateverStandsBeforeIt) {
                     "3|Stray\n340|71\n0|ACDBPLACEHOLDER"));
 }
 
+TEST(DxfKeeps, NoEntryOfADictionaryThatMeansNothing) {
+    const std::string text = rewritten(
+        dxf(header("AC1018") + "0|SECTION\n2|OBJECTS\n0|DICTIONARY\n5|C\n330|0\n100|AcDbDictionary\n"
+                               "3|ACAD_PLOTSTYLENAME\n350|0\n3|MINE\n350|70\n"
+                               "0|DICTIONARY\n5|70\n330|C\n100|AcDbDictionary\n3|Lost\n350|0\n"
+                               "0|ENDSEC\n0|EOF"));
+    EXPECT_FALSE(has(text, "350|0"));
+    EXPECT_FALSE(has(text, "3|Lost"));
+    EXPECT_TRUE(has(text, "3|MINE\n350|70"));
+    EXPECT_EQ(rewritten(text), text);
+}
+
 TEST(DxfKeeps, TheEntriesOfADictionaryWhoseMarkersAreMissingOrSwapped) {
     const std::string before =
         "0|SECTION\n2|OBJECTS\n0|DICTIONARY\n5|C\n330|0\n100|AcDbDictionary\n3|MINE\n350|70\n"

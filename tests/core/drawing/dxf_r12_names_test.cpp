@@ -238,6 +238,19 @@ TEST(DxfR12Names, NoApplicationTakesTheNameOfThatOfWholeNames) {
     EXPECT_TRUE(has(rewritten(text, OdDb::kDHL_1032), own)) << "and it comes back";
 }
 
+TEST(DxfR12Names, NoBlockTakesTheNameOfASpace) {
+    for (const char* space : {"MODEL", "PAPER"}) {
+        const std::string own = std::string("$") + space + "/SPACE";
+        const std::string text =
+            rewritten(dxf(header("AC1015") + "0|SECTION\n2|BLOCKS\n0|BLOCK\n5|A0\n8|0\n2|" + own +
+                          "\n70|0\n10|0\n20|0\n30|0\n0|ENDBLK\n5|A1\n8|0\n0|ENDSEC\n0|EOF"),
+                      OdDb::kDHL_1009);
+        EXPECT_TRUE(has(text, std::string("2|$") + space + "_SPACE_2\n")) << space;
+        EXPECT_EQ(rewritten(text), text);
+        EXPECT_TRUE(has(rewritten(text, OdDb::kDHL_1032), "2|" + own + "\n")) << "and it comes back";
+    }
+}
+
 TEST(DxfR12Names, NoApplicationComesBackAsThatOfWholeNames) {
     const std::string text = rewritten(
         dxf(header("AC1009") + "0|SECTION\n2|TABLES\n0|TABLE\n2|APPID\n70|1\n"
