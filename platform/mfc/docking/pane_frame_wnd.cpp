@@ -39,7 +39,7 @@ BOOL CPaneFrameWnd::Create(LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& re
 
 BOOL CPaneFrameWnd::CreateEx(DWORD dwStyleEx, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                              CWnd* pParentWnd, CCreateContext* pContext) {
-    const DWORD style = (dwStyle & ~CBRS_ALL) | WS_POPUP | WS_THICKFRAME | WS_CLIPCHILDREN;
+    const DWORD style = (dwStyle & ~(CBRS_ALL & ~CBRS_GRIPPER)) | WS_POPUP | WS_THICKFRAME | WS_CLIPCHILDREN;
     m_rectRecentFloatingRect = rect;
     return CWnd::CreateEx(dwStyleEx, nullptr, lpszWindowName, style, rect.left, rect.top,
                           rect.right - rect.left, rect.bottom - rect.top, kmfc::safe_handle(pParentWnd),

@@ -23,7 +23,6 @@ namespace {
 // Pixels at 96 dots an inch.
 constexpr int kGripper = 8, kSeparator = 7;
 constexpr int kAroundImage = 7;  // that a button of a resource is larger than its picture
-constexpr DWORD kWindowStyles = ~static_cast<DWORD>(CBRS_ALL | CBRS_GRIPPER);
 
 }  // namespace
 
@@ -41,10 +40,8 @@ BOOL CMFCToolBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
 
 BOOL CMFCToolBar::CreateEx(CWnd* pParentWnd, DWORD, DWORD dwStyle, CRect rcBorders, UINT nID) {
     m_borders = rcBorders;
-    if (!CPane::CreateEx(0, nullptr, nullptr, dwStyle & (kWindowStyles | CBRS_ALL), CRect(0, 0, 0, 0),
-                         pParentWnd, nID, AFX_DEFAULT_PANE_STYLE))
-        return FALSE;
-    return TRUE;
+    return CPane::CreateEx(0, nullptr, nullptr, dwStyle, CRect(0, 0, 0, 0), pParentWnd, nID,
+                           AFX_DEFAULT_PANE_STYLE);
 }
 
 // Buttons.

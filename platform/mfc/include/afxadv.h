@@ -4,4 +4,5 @@
 
 #include <afxwin.h>
 
+#include <kmfc/dock_state.h>
 #include <kmfc/recent_file_list.h>

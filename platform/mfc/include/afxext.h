@@ -7,9 +7,11 @@
 #include <kmfc/bitmap_button.h>
 #include <kmfc/control_bar.h>
 #include <kmfc/dialog_bar.h>
+#include <kmfc/dock_bar.h>
 #include <kmfc/edit_view.h>
 #include <kmfc/form_view.h>
 #include <kmfc/mem_dc.h>
+#include <kmfc/mini_dock_frame.h>
 #include <kmfc/print_info.h>
 #include <kmfc/splitter_wnd.h>
 #include <kmfc/status_bar.h>

@@ -20,6 +20,7 @@
 #include <kmfc/frame.h>
 #include <kmfc/gdi.h>
 #include <kmfc/mdi_frame.h>
+#include <kmfc/mini_frame.h>
 #include <kmfc/menu.h>
 #include <kmfc/module_state.h>
 #include <kmfc/scroll_view.h>

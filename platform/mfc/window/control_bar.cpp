@@ -64,6 +64,10 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_NCPAINT()
     ON_WM_CTLCOLOR()
     ON_WM_MOUSELEAVE()
+    ON_WM_NCHITTEST()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_DESTROY()
     ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
 END_MESSAGE_MAP()
@@ -138,14 +142,21 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam) {
 }
 
 LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
-    CFrameWnd* frame = GetParentFrame();
+    CFrameWnd* frame = GetDockingFrame();
     if (frame != nullptr && IsVisible()) OnUpdateCmdUI(frame, static_cast<BOOL>(wParam));
     return 0;
 }
 
 void CControlBar::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp) {
     CWnd::OnNcCalcSize(bCalcValidRects, lpncsp);
-    take_borders(m_dwStyle, lpncsp->rgrc[0]);
+    CRect inside(lpncsp->rgrc[0]);
+    CalcInsideRect(inside, (m_dwStyle & CBRS_ORIENT_VERT) == 0);
+    lpncsp->rgrc[0] = inside;
+}
+
+void CControlBar::CalcInsideRect(CRect& rect, BOOL bHorz) const {
+    take_borders(m_dwStyle, rect);
+    (bHorz ? rect.left : rect.top) += gripper_extent();
 }
 
 void CControlBar::OnNcPaint() {
@@ -155,6 +166,13 @@ void CControlBar::OnNcPaint() {
     GetWindowRect(&rect);
     rect.OffsetRect(-rect.TopLeft());
     DrawBorders(dc, rect);
+    if (gripper_extent() != 0) {
+        CRect handle(rect);
+        const bool upright = (m_dwStyle & CBRS_ORIENT_VERT) != 0;
+        (upright ? handle.bottom : handle.right) = (upright ? rect.top : rect.left) + gripper_extent();
+        dc->FillSolidRect(&handle, ::GetSysColor(COLOR_BTNFACE));
+        DrawGripper(dc, rect);
+    }
     ReleaseDC(dc);
 }
 
@@ -185,8 +203,9 @@ LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 void CControlBar::tell_frame(INT_PTR tool) {
     if (tool == m_flyTool) return;
     m_flyTool = tool;
-    CFrameWnd* frame = GetTopLevelFrame();
+    CFrameWnd* frame = GetDockingFrame();
     if (frame == nullptr) return;
+    frame = frame->GetTopLevelFrame();
     const UINT message = tool != -1 ? WM_SETMESSAGESTRING : WM_POPMESSAGESTRING;
     frame->SendMessage(message, tool != -1 ? static_cast<WPARAM>(tool) : AFX_IDS_IDLEMESSAGE);
 }
@@ -210,8 +229,9 @@ BOOL CControlBar::PreTranslateMessage(MSG* pMsg) {
     if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
     follow_mouse(*pMsg);
     // The frame's accelerators come before the keys of the bar, or a dialog would swallow them.
-    for (CFrameWnd* frame = GetTopLevelFrame(); frame != nullptr; frame = frame->GetParentFrame())
-        if (frame->PreTranslateMessage(pMsg)) return TRUE;
+    CFrameWnd* const docking = GetDockingFrame();
+    CFrameWnd* const top = docking != nullptr ? docking->GetTopLevelFrame() : nullptr;
+    if (top != nullptr && top->PreTranslateMessage(pMsg)) return TRUE;
     return PreTranslateInput(pMsg);
 }
 

@@ -36,6 +36,7 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
 
 CSize CDialogBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     CSize size = m_sizeDefault;
+    (bHorz ? size.cx : size.cy) += gripper_extent();
     if (bStretch) {
         const CSize whole = CControlBar::CalcFixedLayout(bStretch, bHorz);
         if (bHorz)

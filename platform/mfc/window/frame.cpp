@@ -4,8 +4,10 @@
 #include <kmfc/document.h>
 #include <kmfc/frame.h>
 #include <kmfc/status_bar.h>
+#include <kmfc/mini_frame.h>
 #include <kmfc/view.h>
 
+#include "../bars/control_bar_desk.h"
 #include "thread_state.h"
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -155,8 +157,29 @@ void CFrameWnd::OnDestroy() {
 
 void CFrameWnd::PostNcDestroy() { delete this; }
 
+namespace {
+
+struct Activation {
+    HWND owner;
+    BOOL active;
+};
+
+/// Captions of mini frames follow that of their owner.
+BOOL CALLBACK follow_owner(HWND window, LPARAM activation) {
+    const auto& change = *reinterpret_cast<const Activation*>(activation);
+    const bool follows = ::GetWindow(window, GW_OWNER) == change.owner &&
+                         (::GetWindowLongPtrW(window, GWL_STYLE) & MFS_SYNCACTIVE) != 0 &&
+                         DYNAMIC_DOWNCAST(CMiniFrameWnd, CWnd::FromHandlePermanent(window)) != nullptr;
+    if (follows) ::SendMessageW(window, WM_NCACTIVATE, static_cast<WPARAM>(change.active), 0);
+    return TRUE;
+}
+
+}  // namespace
+
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
+    Activation change{m_hWnd, nState != WA_INACTIVE};
+    ::EnumThreadWindows(::GetCurrentThreadId(), follow_owner, reinterpret_cast<LPARAM>(&change));
     CFrameWnd* active = GetActiveFrame();
     CView* view = active != nullptr ? active->GetActiveView() : nullptr;
     if (view == nullptr) return;
@@ -184,11 +207,18 @@ void CFrameWnd::RecalcLayout(BOOL) {
 void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
     pBar->delay_show(bShow != FALSE);
     m_isLayoutPending = true;
+    if (pBar->IsFloating()) {
+        // Nobody's layout waits for it.
+        pBar->end_pending();
+        m_bars->show_floating(*pBar);
+    }
     if (!bDelay) RecalcLayout(FALSE);
 }
 
 CControlBar* CFrameWnd::GetControlBar(UINT nID) {
-    return nID != 0 ? DYNAMIC_DOWNCAST(CControlBar, GetDlgItem(static_cast<int>(nID))) : nullptr;
+    if (nID == 0) return nullptr;
+    CControlBar* const child = DYNAMIC_DOWNCAST(CControlBar, GetDlgItem(static_cast<int>(nID)));
+    return child == nullptr && m_bars != nullptr ? m_bars->bar(nID) : child;
 }
 
 void CFrameWnd::ActivateFrame(int nCmdShow) {
@@ -200,6 +230,7 @@ void CFrameWnd::ActivateFrame(int nCmdShow) {
 
 BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
     if (CWnd::PreTranslateMessage(pMsg)) return TRUE;
+    if (m_bars != nullptr && m_bars->takes(*pMsg)) return TRUE;
     const bool key = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
     return key && m_hAccelTable != nullptr && ::TranslateAcceleratorW(m_hWnd, m_hAccelTable, pMsg);
 }
@@ -278,7 +309,8 @@ LRESULT CFrameWnd::OnPopMessageString(WPARAM wParam, LPARAM lParam) {
     return m_isMenuUp ? 0 : SendMessage(WM_SETMESSAGESTRING, wParam, lParam);
 }
 
-LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
+LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
+    if (m_bars != nullptr) m_bars->update_floating(wParam);
     // Bars that are to be shown or hidden wait for this.
     if (m_isLayoutPending) RecalcLayout(FALSE);
     // The first time, or after what is tracked was set by a derived class.

@@ -12,7 +12,6 @@ IMPLEMENT_DYNAMIC(CToolBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CToolBar, CControlBar)
     ON_WM_NCCREATE()
-    ON_WM_NCCALCSIZE()
 END_MESSAGE_MAP()
 
 namespace {
@@ -49,14 +48,9 @@ BOOL CToolBar::OnNcCreate(LPCREATESTRUCT lpCreateStruct) {
     return TRUE;
 }
 
-void CToolBar::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp) {
-    CControlBar::OnNcCalcSize(bCalcValidRects, lpncsp);
-    RECT& inside = lpncsp->rgrc[0];
-    const CRect borders = GetBorders();
-    inside.left += borders.left;
-    inside.top += borders.top;
-    inside.right -= borders.right;
-    inside.bottom -= borders.bottom;
+void CToolBar::CalcInsideRect(CRect& rect, BOOL bHorz) const {
+    CControlBar::CalcInsideRect(rect, bHorz);
+    rect.DeflateRect(GetBorders());
 }
 
 CToolBarCtrl& CToolBar::GetToolBarCtrl() const {
@@ -285,27 +279,42 @@ CSize CToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     return CalcDynamicLayout(-1, (bStretch ? LM_STRETCH : 0) | (bHorz ? LM_HORZ : 0));
 }
 
+/// The least width whose rows are no higher than that.
+int CToolBar::width_for_height(int height) {
+    const int step = std::max<int>(m_sizeButton.cx, 1);
+    for (int width = step;; width += step) {
+        wrap(width);
+        const CSize size = extent();
+        if (size.cy <= height || size.cx < width - step) return width;
+    }
+}
+
 CSize CToolBar::CalcDynamicLayout(int nLength, DWORD dwMode) {
     const bool horizontal = (dwMode & LM_HORZ) != 0;
     const int former = m_wrapWidth;
-    CRect frame(0, 0, 0, 0);
-    const CRect borders = GetBorders();
-    const int line = (m_dwStyle & CBRS_BORDER_3D) ? 2 : 1;
-    const auto lines = [&](DWORD one, DWORD other) {
-        return line * (((m_dwStyle & one) != 0) + ((m_dwStyle & other) != 0));
-    };
-    const CSize around(borders.left + borders.right + lines(CBRS_BORDER_LEFT, CBRS_BORDER_RIGHT),
-                       borders.top + borders.bottom + lines(CBRS_BORDER_TOP, CBRS_BORDER_BOTTOM));
-    wrap(!horizontal ? 0 : nLength > 0 ? std::max<int>(nLength - around.cx, 1) : 32767);
+    CRect whole(0, 0, 1000, 1000), inside(whole);
+    CalcInsideRect(inside, horizontal);
+    const CSize around = whole.Size() - inside.Size();
+    const int room = std::max<int>(nLength - (dwMode & LM_LENGTHY ? around.cy : around.cx), 1);
+    const bool asked = nLength > 0 && !(dwMode & (LM_MRUWIDTH | LM_HORZDOCK | LM_VERTDOCK | LM_STRETCH));
+    int width = horizontal ? 32767 : 0;
+    if (dwMode & LM_MRUWIDTH)
+        width = static_cast<int>(m_nMRUWidth);
+    else if (asked && (dwMode & LM_LENGTHY))
+        width = width_for_height(room);
+    else if (asked && horizontal)
+        width = room;
+    wrap(width);
     CSize size = extent();
-    // Only asked: the bar itself stands otherwise.
-    const bool own = ((m_dwStyle & CBRS_ORIENT_VERT) != 0) != horizontal;
-    if (!own) wrap(former);
+    // A bar that doesn't dock takes the form of its own edge by itself.
+    const bool own = m_pDockBar == nullptr && ((m_dwStyle & CBRS_ORIENT_VERT) != 0) != horizontal;
+    if (!own && !(dwMode & LM_COMMIT)) wrap(former);
+    if ((dwMode & LM_COMMIT) && asked) m_nMRUWidth = static_cast<UINT>(width);
     if (size.cy == 0) size.cy = m_sizeButton.cy;
     if (m_height != 0 && horizontal) size.cy = m_height;
     size += around;
-    const CSize whole = CControlBar::CalcFixedLayout((dwMode & LM_STRETCH) != 0, horizontal);
-    return CSize(std::max(size.cx, whole.cx), std::max(size.cy, whole.cy));
+    const CSize least = CControlBar::CalcFixedLayout((dwMode & LM_STRETCH) != 0, horizontal);
+    return CSize(std::max(size.cx, least.cx), std::max(size.cy, least.cy));
 }
 
 INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {

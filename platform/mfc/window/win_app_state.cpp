@@ -8,6 +8,7 @@
 #include <kmfc/win_app_ex.h>
 
 #include "../docking/core/placement.h"
+#include "work_areas.h"
 
 namespace {
 
@@ -18,26 +19,11 @@ constexpr const wchar_t* kShow = L"ShowCmd";
 
 /// The work areas of all screens, in workspace coordinates as window placements use them: the primary
 /// screen's work area begins at the origin.
-std::vector<CRect> work_areas() {
-    struct Search {
-        std::vector<CRect> areas;
-        CPoint origin;
-    } search;
-    ::EnumDisplayMonitors(
-        nullptr, nullptr,
-        [](HMONITOR monitor, HDC, LPRECT, LPARAM parameter) -> BOOL {
-            auto& found = *reinterpret_cast<Search*>(parameter);
-            MONITORINFO info = {};
-            info.cbSize = sizeof(info);
-            if (!::GetMonitorInfoW(monitor, &info)) return TRUE;
-            found.areas.emplace_back(info.rcWork);
-            if ((info.dwFlags & MONITORINFOF_PRIMARY) != 0)
-                found.origin = CPoint(info.rcWork.left, info.rcWork.top);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    for (CRect& area : search.areas) area.OffsetRect(-search.origin.x, -search.origin.y);
-    return search.areas;
+std::vector<CRect> workspace_areas() {
+    std::vector<CRect> areas = kmfc::work_areas();
+    const CPoint origin = areas.empty() ? CPoint(0, 0) : areas.front().TopLeft();
+    for (CRect& area : areas) area.OffsetRect(-origin.x, -origin.y);
+    return areas;
 }
 
 }  // namespace
@@ -72,7 +58,7 @@ BOOL CWinAppEx::ReloadWindowPlacement(CFrameWnd* pFrame) {
     m_nCmdShow = show;
     placement.flags = static_cast<UINT>(flags);
     placement.showCmd = pFrame->IsWindowVisible() ? static_cast<UINT>(show) : SW_HIDE;
-    placement.rcNormalPosition = kmfc::brought_into_view(normal, work_areas());
+    placement.rcNormalPosition = kmfc::brought_into_view(normal, workspace_areas());
     return pFrame->SetWindowPlacement(&placement);
 }
 

@@ -1,11 +1,17 @@
 // CFrameWnd: a main window with menu, accelerators, status messages and command routing.
 #pragma once
 
+#include <memory>
+
 #include <afxcoll.h>
 #include <kmfc/app.h>
+#include <kmfc/control_bar.h>
 #include <kmfc/create_context.h>
 
-class CControlBar;
+class CDockState;
+namespace kmfc {
+class ControlBarDesk;
+}  // namespace kmfc
 
 // Styles of frames, beside those of windows.
 constexpr DWORD FWS_ADDTOTITLE = 0x8000;   ///< the title names the document
@@ -51,8 +57,27 @@ public:
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     /// Shows or hides a bar of the frame and lays out anew; with `bDelay` at the next layout that comes.
     void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
-    /// The bar with `nID`, or null.
+    /// The bar with `nID`, or null; docked and floating ones too.
     CControlBar* GetControlBar(UINT nID);
+
+    // Control bars that dock. Bars take part by CControlBar::EnableDocking.
+    /// Lets bars dock at the edges of CBRS_ALIGN_ styles.
+    void EnableDocking(DWORD dwDockStyle);
+    /// Docks a bar at an edge (AFX_IDW_DOCKBAR_TOP …), or for 0 at the first one of top, bottom, left and
+    /// right that bar and frame allow: in a row of its own inside of the others, or in the row that the
+    /// middle of `lpRect` (screen coordinates) is in, behind the bars that begin before it. A bar that may
+    /// not dock there floats where it is.
+    void DockControlBar(CControlBar* pBar, UINT nDockBarID = 0, LPCRECT lpRect = nullptr);
+    /// Floats a bar with its frame's corner at a point of the screen: along a row for CBRS_ALIGN_TOP and
+    /// CBRS_ALIGN_BOTTOM, upright for the left and the right only.
+    void FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle = CBRS_ALIGN_TOP);
+    void GetDockState(CDockState& state) const;
+    /// Puts the bars that the state knows where it says; the others keep their edge. A floating frame comes
+    /// back where its caption can be reached.
+    void SetDockState(const CDockState& state);
+    /// The same by the program's profile; a profile without the state changes nothing.
+    void LoadBarState(LPCTSTR lpszProfileName);
+    void SaveBarState(LPCTSTR lpszProfileName) const;
     virtual void ActivateFrame(int nCmdShow = -1);
 
     // The document and its views.
@@ -123,7 +148,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CString m_tipText;               ///< what the tip that is up shows
-    bool m_isMenuUp = false;         ///< a menu's message is shown
-    bool m_isLayoutPending = false;  ///< a bar waits to be shown or hidden
+    CString m_tipText;                             ///< what the tip that is up shows
+    bool m_isMenuUp = false;                       ///< a menu's message is shown
+    bool m_isLayoutPending = false;                ///< a bar waits to be shown or hidden
+    std::unique_ptr<kmfc::ControlBarDesk> m_bars;  ///< those that dock; made by the first call that needs it
+
+    kmfc::ControlBarDesk& bars();
+    friend class CControlBar;
 };

@@ -75,11 +75,12 @@ public:
 
     CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
     CSize CalcDynamicLayout(int nLength, DWORD dwMode) override;
+    /// The room around the buttons goes too.
+    void CalcInsideRect(CRect& rect, BOOL bHorz) const override;
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
 
 protected:
-    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
     DECLARE_MESSAGE_MAP()
 
@@ -89,6 +90,7 @@ private:
     void put_button(int index, const TBBUTTON& info);
     /// Starts new rows so that none is wider than `width` pixels; for 0 a row for each button.
     void wrap(int width);
+    int width_for_height(int height);
     CSize extent() const;
     BOOL take_bitmap(HBITMAP bitmap);
 

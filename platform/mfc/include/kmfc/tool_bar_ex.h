@@ -14,8 +14,7 @@ struct ToolLayout;
 enum class ToolShape;
 }  // namespace kmfc::docking
 
-/// The bar has a gripper; every pane of this kind has one while it is docked.
-constexpr DWORD CBRS_GRIPPER = 0x00400000;
+/// Every pane of this kind has a gripper while it is docked.
 constexpr DWORD AFX_DEFAULT_TOOLBAR_STYLE =
     WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_GRIPPER | CBRS_TOOLTIPS | CBRS_FLYBY | CBRS_SIZE_DYNAMIC;
 

@@ -1,0 +1,143 @@
+// CDockBar: where bars stand, and the mouse of a drag.
+#include <kmfc/dock_bar.h>
+
+#include <algorithm>
+
+#include "control_bar_desk.h"
+
+using kmfc::docking::BarExtent;
+using kmfc::docking::BarRows;
+using kmfc::docking::PaneKey;
+using kmfc::docking::PlacedBar;
+
+IMPLEMENT_DYNAMIC(CDockBar, CControlBar)
+
+BEGIN_MESSAGE_MAP(CDockBar, CControlBar)
+    ON_MESSAGE(WM_SIZEPARENT, &CDockBar::OnSizeParent)
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
+END_MESSAGE_MAP()
+
+namespace {
+
+CControlBar* bar_of(PaneKey key) { return reinterpret_cast<CControlBar*>(key); }
+
+}  // namespace
+
+CDockBar::CDockBar(BOOL bFloating) : m_bFloating(bFloating), m_rows(std::make_unique<BarRows>()) {}
+
+CDockBar::~CDockBar() {
+    m_bAutoDelete = FALSE;
+    DestroyWindow();
+}
+
+BOOL CDockBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) {
+    m_dwStyle = dwStyle & CBRS_ALL;
+    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
+                                                    reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    return CWnd::Create(windowClass, nullptr, dwStyle & ~CBRS_ALL, CRect(0, 0, 0, 0), pParentWnd, nID);
+}
+
+int CDockBar::GetDockedCount() const {
+    size_t count = 0;
+    for (const BarRows::Row& row : m_rows->rows()) count += row.size();
+    return static_cast<int>(count);
+}
+
+int CDockBar::GetDockedVisibleCount() const {
+    int count = 0;
+    for (const BarRows::Row& row : m_rows->rows())
+        for (const BarRows::Bar& bar : row) count += bar_of(bar.bar)->IsVisible() ? 1 : 0;
+    return count;
+}
+
+BarExtent CDockBar::extent_of(std::uintptr_t bar) const {
+    const DWORD mode = is_horizontal() ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK;
+    const CSize size = bar_of(bar)->CalcDynamicLayout(-1, mode);
+    const int length = is_horizontal() ? size.cx : size.cy;
+    const int thickness = is_horizontal() ? size.cy : size.cx;
+    // One that has no room keeps its handle and the first tool.
+    return {length, thickness, std::min(length, thickness)};
+}
+
+int CDockBar::length() const {
+    CRect client;
+    GetClientRect(&client);
+    return is_horizontal() ? client.Width() : client.Height();
+}
+
+int CDockBar::thickness() const {
+    return m_rows->thickness([this](PaneKey bar) { return extent_of(bar); });
+}
+
+CSize CDockBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
+    CSize size = CControlBar::CalcFixedLayout(bStretch, bHorz);
+    (bHorz ? size.cy : size.cx) = thickness();
+    return size;
+}
+
+CPoint CDockBar::along_and_across(CPoint screen) const {
+    ScreenToClient(&screen);
+    CRect client;
+    GetClientRect(&client);
+    switch (m_dwStyle & CBRS_ALIGN_ANY) {
+        case CBRS_ALIGN_BOTTOM: return CPoint(screen.x, client.bottom - 1 - screen.y);
+        case CBRS_ALIGN_LEFT: return CPoint(screen.y, screen.x);
+        case CBRS_ALIGN_RIGHT: return CPoint(screen.y, client.right - 1 - screen.x);
+        default: return screen;
+    }
+}
+
+void CDockBar::arrange(int length) {
+    for (const BarRows::Row& row : m_rows->rows())
+        for (const BarRows::Bar& one : row) {
+            CControlBar& bar = *bar_of(one.bar);
+            bar.end_pending();
+            m_rows->set_shown(one.bar, bar.IsVisible() != FALSE);
+        }
+    const int all = thickness();
+    for (const PlacedBar& one : m_rows->arrange(length, [this](PaneKey bar) { return extent_of(bar); })) {
+        CControlBar& bar = *bar_of(one.bar);
+        CRect place = one.rect;
+        if (m_dwStyle & (CBRS_ALIGN_BOTTOM | CBRS_ALIGN_RIGHT)) {
+            place.top = all - one.rect.bottom;
+            place.bottom = all - one.rect.top;
+        }
+        if (!is_horizontal()) place.SetRect(place.top, place.left, place.bottom, place.right);
+        bar.CalcDynamicLayout(-1, LM_COMMIT | (is_horizontal() ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK));
+        bar.SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+LRESULT CDockBar::OnSizeParent(WPARAM wParam, LPARAM lParam) {
+    const auto& layout = *reinterpret_cast<const AFX_SIZEPARENTPARAMS*>(lParam);
+    if (layout.hDWP != nullptr)
+        arrange(is_horizontal() ? layout.rect.right - layout.rect.left
+                                : layout.rect.bottom - layout.rect.top);
+    return CControlBar::OnSizeParent(wParam, lParam);
+}
+
+void CDockBar::OnMouseMove(UINT nFlags, CPoint point) {
+    Default();
+    ClientToScreen(&point);
+    if (m_desk != nullptr) m_desk->drag_to(point, (nFlags & MK_CONTROL) != 0);
+}
+
+void CDockBar::OnLButtonUp(UINT, CPoint) {
+    Default();
+    if (m_desk != nullptr) m_desk->end_drag(false);
+}
+
+void CDockBar::OnCaptureChanged(CWnd* pWnd) {
+    CControlBar::OnCaptureChanged(pWnd);
+    // Something else took the mouse: the drag is off.
+    if (m_desk != nullptr) m_desk->end_drag(true);
+}
+
+void CDockBar::OnCancelMode() {
+    if (m_desk != nullptr) m_desk->end_drag(true);
+    CControlBar::OnCancelMode();
+}
