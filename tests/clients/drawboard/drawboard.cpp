@@ -57,6 +57,11 @@ protected:
     afx_msg void OnClear();
     afx_msg void OnUpdateClear(CCmdUI* pCmdUI) { pCmdUI->Enable(m_board.m_shapes.GetSize() > 0); }
     afx_msg void OnUpdateShapes(CCmdUI* pCmdUI);
+    afx_msg void OnDockTop() { DockControlBar(&m_wndToolBar, AFX_IDW_DOCKBAR_TOP); }
+    afx_msg void OnDockLeft() { DockControlBar(&m_wndToolBar, AFX_IDW_DOCKBAR_LEFT); }
+    afx_msg void OnFloat();
+    afx_msg void OnWhere();
+    afx_msg void OnClose();
     DECLARE_MESSAGE_MAP()
 };
 
@@ -69,6 +74,11 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_DRAW_CLEAR, &CMainFrame::OnClear)
     ON_UPDATE_COMMAND_UI(ID_DRAW_CLEAR, &CMainFrame::OnUpdateClear)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_SHAPES, &CMainFrame::OnUpdateShapes)
+    ON_COMMAND(ID_VIEW_TOP, &CMainFrame::OnDockTop)
+    ON_COMMAND(ID_VIEW_LEFT, &CMainFrame::OnDockLeft)
+    ON_COMMAND(ID_VIEW_FLOAT, &CMainFrame::OnFloat)
+    ON_COMMAND(ID_VIEW_WHERE, &CMainFrame::OnWhere)
+    ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
 int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -77,9 +87,9 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (!m_board.Create(NULL, NULL, WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, AFX_IDW_PANE_FIRST, NULL))
         return -1;
 
-    if (!m_wndToolBar.CreateEx(
-            this, TBSTYLE_FLAT,
-            WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS | CBRS_FLYBY | CBRS_SIZE_DYNAMIC) ||
+    if (!m_wndToolBar.CreateEx(this, TBSTYLE_FLAT,
+                               WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_GRIPPER | CBRS_TOOLTIPS | CBRS_FLYBY |
+                                   CBRS_SIZE_DYNAMIC) ||
         !m_wndToolBar.LoadToolBar(IDR_MAINFRAME)) {
         TRACE0("Failed to create toolbar\n");
         return -1;  // fail to create
@@ -90,7 +100,30 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         TRACE0("Failed to create status bar\n");
         return -1;  // fail to create
     }
+
+    m_wndToolBar.EnableDocking(CBRS_ALIGN_ANY);
+    EnableDocking(CBRS_ALIGN_ANY);
+    DockControlBar(&m_wndToolBar);
+    LoadBarState(_T("BarState"));
     return 0;
+}
+
+void CMainFrame::OnClose() {
+    SaveBarState(_T("BarState"));
+    CFrameWnd::OnClose();
+}
+
+void CMainFrame::OnFloat() {
+    CRect rect;
+    GetWindowRect(&rect);
+    FloatControlBar(&m_wndToolBar, rect.CenterPoint());
+}
+
+void CMainFrame::OnWhere() {
+    CString str(m_wndToolBar.IsFloating() ? _T("floating") : _T("docked"));
+    if (m_wndToolBar.GetBarStyle() & CBRS_ALIGN_LEFT) str += _T(" at the left");
+    if (m_wndToolBar.GetBarStyle() & CBRS_ALIGN_TOP) str += _T(" along a row");
+    SetMessageText(str);
 }
 
 void CMainFrame::OnDraw(UINT nID) {
@@ -126,6 +159,7 @@ void CMainFrame::OnUpdateShapes(CCmdUI* pCmdUI) {
 class CDrawBoardApp : public CWinApp {
 public:
     BOOL InitInstance() override {
+        SetRegistryKey(_T("ktui clients"));
         CMainFrame* pFrame = new CMainFrame;
         m_pMainWnd = pFrame;
         if (!pFrame->LoadFrame(IDR_MAINFRAME)) return FALSE;

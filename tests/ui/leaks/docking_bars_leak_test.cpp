@@ -1,5 +1,7 @@
 // Toolbars that dock, float, hide and go, a thousand times.
+#include <afxadv.h>
 #include <afxcontrolbars.h>
+#include <afxext.h>
 
 #include "leak_growth.h"
 #include "ui_test.h"
@@ -68,4 +70,26 @@ TEST_F(BarsThatDock, AThousandTimesFilledAndEmptiedLeavesNothing) {
         first.SetButtons(kCommands, 4);
         first.SetButtonText(0, L"text");
     });
+}
+
+TEST(ControlBarsThatDock, AThousandTimesDockedFloatedAndBroughtBackLeavesNothing) {
+    auto* const frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW, CRect(20, 20, 620, 520)));
+    frame->EnableDocking(CBRS_ALIGN_ANY);
+    CToolBar bar;
+    ASSERT_TRUE(bar.CreateEx(frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_GRIPPER));
+    ASSERT_TRUE(bar.SetButtons(kCommands, 4));
+    bar.EnableDocking(CBRS_ALIGN_ANY);
+    int floated = 0;
+    expect_no_growth([&] {
+        frame->DockControlBar(&bar, AFX_IDW_DOCKBAR_LEFT);
+        CDockState state;
+        frame->GetDockState(state);
+        frame->FloatControlBar(&bar, CPoint(60, 60));
+        floated += bar.IsFloating() ? 1 : 0;
+        frame->SetDockState(state);
+        ui_test::pump();
+    });
+    EXPECT_EQ(floated, kTimes + kWarmUp);
+    frame->DestroyWindow();
 }
