@@ -17,7 +17,6 @@ BEGIN_MESSAGE_MAP(CDockBar, CControlBar)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
-    ON_WM_CANCELMODE()
 END_MESSAGE_MAP()
 
 namespace {
@@ -135,9 +134,4 @@ void CDockBar::OnCaptureChanged(CWnd* pWnd) {
     CControlBar::OnCaptureChanged(pWnd);
     // Something else took the mouse: the drag is off.
     if (m_desk != nullptr) m_desk->end_drag(true);
-}
-
-void CDockBar::OnCancelMode() {
-    if (m_desk != nullptr) m_desk->end_drag(true);
-    CControlBar::OnCancelMode();
 }
