@@ -83,7 +83,6 @@ BOOL CView::DoPrintPreview(UINT nIDResource, CView* pPrintView, CRuntimeClass* p
     frame->SetActiveView(view);
     view->begin(*pPrintView, std::move(info), std::unique_ptr<CPrintPreviewState>(pState), bar.release());
     frame->RecalcLayout();
-    view->SetFocus();
     return TRUE;
 }
 

@@ -77,6 +77,13 @@ protected:
         mouse(dock_bar(AFX_IDW_DOCKBAR_TOP), WM_LBUTTONUP, screen, 0);
         EXPECT_EQ(::GetCapture(), nullptr);
     }
+    static void click_first(CToolBar& bar) {
+        CRect button;
+        bar.GetItemRect(0, &button);
+        const LPARAM at = MAKELPARAM(button.CenterPoint().x, button.CenterPoint().y);
+        bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
+        bar.SendMessage(WM_LBUTTONUP, 0, at);
+    }
     bool escape() {
         MSG key = {view.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
         return CWnd::WalkPreTranslateTree(frame->m_hWnd, &key) != FALSE;
@@ -232,11 +239,7 @@ TEST_F(ControlBarDocking, ButtonsOfAFloatingBarAskAndTellTheFrame) {
     frame->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(bar.GetButtonStyle(1) & TBBS_DISABLED, 0U);
     EXPECT_EQ(bar.GetButtonStyle(0) & TBBS_DISABLED, 0U);
-    CRect button;
-    bar.GetItemRect(0, &button);
-    const LPARAM at = MAKELPARAM(button.CenterPoint().x, button.CenterPoint().y);
-    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
-    bar.SendMessage(WM_LBUTTONUP, 0, at);
+    click_first(bar);
     EXPECT_EQ(frame->news, 1);
     EXPECT_EQ(
         mini_frame(bar)->SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(mini_frame(bar)->m_hWnd),
@@ -249,11 +252,7 @@ TEST_F(ControlBarDocking, ButtonsOfADockedBarAskAndTellTheFrame) {
     frame->openEnabled = FALSE;
     idle();
     EXPECT_NE(bar.GetButtonStyle(1) & TBBS_DISABLED, 0U);
-    CRect button;
-    bar.GetItemRect(0, &button);
-    const LPARAM at = MAKELPARAM(button.CenterPoint().x, button.CenterPoint().y);
-    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
-    bar.SendMessage(WM_LBUTTONUP, 0, at);
+    click_first(bar);
     EXPECT_EQ(frame->news, 1);
 }
 
@@ -481,8 +480,10 @@ TEST_F(ControlBarDocking, APressOnAToolDragsNothing) {
 TEST_F(ControlBarDocking, ADoubleClickGoesBetweenTheLastPlaces) {
     CToolBar& first = docked_bar(AFX_IDW_DOCKBAR_BOTTOM);
     frame->FloatControlBar(&first, CPoint(320, 240));
-    mini_frame(first)->SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION, MAKELPARAM(340, 245));
+    HWND const mini = mini_frame(first)->m_hWnd;
+    ::SendMessageW(mini, WM_NCLBUTTONDBLCLK, HTCAPTION, MAKELPARAM(340, 245));
     EXPECT_EQ(first.GetParent(), &dock_bar(AFX_IDW_DOCKBAR_BOTTOM));
+    EXPECT_FALSE(::IsWindow(mini));
     EXPECT_EQ(first.GetBarStyle() & CBRS_FLOATING, 0U);
     mouse(first, WM_LBUTTONDBLCLK, handle_of(first));
     ASSERT_TRUE(first.IsFloating());
@@ -527,7 +528,7 @@ TEST_F(ControlBarDocking, EdgesOfAFrameWrapItsTools) {
     EXPECT_LT(low.cx, edges.cx + 2 * 15 + 15);
     pulled = on_screen(*mini_frame(bar));
     const int bottom = pulled.bottom;
-    pulled.top = bottom - edges.cy - 15;
+    pulled.top = bottom - edges.cy - 20;
     mini_frame(bar)->SendMessage(WM_SIZING, WMSZ_TOP, reinterpret_cast<LPARAM>(&pulled));
     EXPECT_EQ(pulled.bottom, bottom);
     EXPECT_EQ(pulled.Height(), edges.cy + 15);

@@ -43,12 +43,11 @@ class PagesView : public CView {
 public:
     static constexpr UINT kUnknown = 0xFFFF;
     UINT last = 4, endsBefore = 0, wanted = 0, first = 1;
-    bool prepares = true;
+    bool prepares = true, isMetric = false;
     BOOL wasPreview = FALSE, wasPrinting = FALSE;
     CRect usable{0, 0, 0, 0};
     POINT endedAt{-1, -1};
     UINT endedOn = 0;
-    bool isEndTaken = false;
 
     using CView::m_pDocument;
 
@@ -70,7 +69,8 @@ protected:
         CView::OnPrepareDC(dc, info);
         if (info == nullptr) return;
         heard.push_back("dc " + std::to_string(info->m_nCurPage));
-        if (endsBefore != 0) info->m_bContinuePrinting = info->m_nCurPage < endsBefore;
+        if (endsBefore != 0 && info->m_nCurPage >= endsBefore) info->m_bContinuePrinting = FALSE;
+        if (isMetric) dc->SetMapMode(MM_LOMETRIC);
     }
     void OnPrint(CDC* dc, CPrintInfo* info) override {
         heard.push_back("print " + std::to_string(info->m_nCurPage));
@@ -275,6 +275,9 @@ TEST_F(PrintPreview, TwoPagesStandBesideEachOther) {
     start();
     EXPECT_EQ(message(), L"Pages 1-2");
     expect_marks({1, 2});
+    press(AFX_ID_PREVIEW_CLOSE);
+    EXPECT_EQ(view->endedOn, 1U);
+    start();
     idle();
     EXPECT_EQ(ui_test::text_of(bar()->GetDlgItem(AFX_ID_PREVIEW_NUMPAGE)->m_hWnd), L"One Pa&ge");
     press(AFX_ID_PREVIEW_NEXT);
@@ -312,6 +315,26 @@ TEST_F(PrintPreview, ADocumentOfUnknownLengthEndsItself) {
     // The page that wasn't is asked for once.
     EXPECT_EQ(std::count(heard.begin(), heard.end(), "dc 3"), 1);
     EXPECT_EQ(std::count(heard.begin(), heard.end(), "print 3"), 0);
+}
+
+TEST_F(PrintPreview, BehindTheEndIsTheLastPage) {
+    view->last = PagesView::kUnknown;
+    view->endsBefore = 3;
+    start();
+    preview()->SendMessage(WM_KEYDOWN, VK_END);
+    EXPECT_EQ(preview()->GetCurrentPage(), 1U);
+    preview()->SetCurrentPage(5);
+    EXPECT_EQ(preview()->GetCurrentPage(), 2U);
+    expect_marks({2});
+}
+
+TEST_F(PrintPreview, WhatIsLeftOfThePageIsInTheViewsUnits) {
+    view->isMetric = true;
+    start();
+    EXPECT_GT(view->usable.Width(), 100);
+    EXPECT_LT(view->usable.bottom, -100);
+    EXPECT_NE(view->usable.Width(), ::GetSystemMetrics(SM_CXSCREEN));
+    expect_marks({1});
 }
 
 TEST_F(PrintPreview, ASingleSheetHasNothingBesideIt) {
@@ -367,8 +390,14 @@ TEST_F(PrintPreview, AClickComesNearerToItsPlace) {
     SCROLLINFO across = {};
     preview()->GetScrollInfo(SB_HORZ, &across, SIF_ALL);
     EXPECT_NEAR(across.nPos, (across.nMax + 1 - static_cast<int>(across.nPage)) / 2, 12);
+    const int place = across.nPos;
     press(AFX_ID_PREVIEW_CLOSE);
-    EXPECT_EQ(view->endedAt.x, across.nPos);
+    EXPECT_EQ(view->endedAt.x, place);
+    start();
+    for (const int zoom : {1, 2, 0}) {
+        click();
+        EXPECT_EQ(preview()->GetZoomState(), zoom);
+    }
 }
 
 TEST_F(PrintPreview, BarsScrollPlacesOrPages) {
@@ -469,6 +498,38 @@ TEST_F(PrintPreview, AFrameThatGoesEndsTheJob) {
     heard.clear();
     frame->DestroyWindow();
     EXPECT_EQ(heard, (Heard{"finish"}));
+}
+
+TEST_F(PrintPreview, AChildsPagesStandInTheWholeMainWindow) {
+    auto* const outer = new CMDIFrameWnd;  // deletes itself
+    ASSERT_TRUE(outer->Create(nullptr, L"outer", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(60, 60, 660, 500)));
+    AfxGetApp()->m_pMainWnd = outer;
+    auto* const child = new CMDIChildWnd;
+    CCreateContext made;
+    made.m_pNewViewClass = RUNTIME_CLASS(PagesView);
+    ASSERT_TRUE(child->Create(nullptr, L"child", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
+                              CRect(0, 0, 200, 200), outer, &made));
+    auto* const inner = static_cast<PagesView*>(child->GetDlgItem(AFX_IDW_PANE_FIRST));
+    child->SetActiveView(inner);
+    heard.clear();
+    outer->SendMessage(WM_COMMAND, ID_FILE_PRINT_PREVIEW);
+    auto* const shown = DYNAMIC_DOWNCAST(CPreviewView, outer->GetDlgItem(AFX_IDW_PANE_FIRST));
+    ASSERT_NE(shown, nullptr);
+    EXPECT_FALSE(::IsWindowVisible(outer->m_hWndMDIClient));
+    CRect client, place;
+    outer->GetClientRect(&client);
+    shown->GetWindowRect(&place);
+    EXPECT_EQ(place.Width(), client.Width());
+    outer->SendMessage(WM_COMMAND, AFX_ID_PREVIEW_NEXT);
+    EXPECT_EQ(shown->GetCurrentPage(), 2U);
+    outer->SendMessage(WM_CLOSE);
+    EXPECT_TRUE(::IsWindowVisible(outer->m_hWndMDIClient));
+    EXPECT_EQ(outer->GetDlgItem(AFX_IDW_PANE_FIRST)->m_hWnd, outer->m_hWndMDIClient);
+    EXPECT_EQ(child->GetActiveView(), inner);
+    EXPECT_EQ(::GetFocus(), inner->m_hWnd);
+    EXPECT_EQ(heard.back(), "finish");
+    AfxGetApp()->m_pMainWnd = frame;
+    outer->DestroyWindow();
 }
 
 }  // namespace
