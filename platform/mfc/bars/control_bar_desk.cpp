@@ -108,7 +108,6 @@ void ControlBarDesk::put(CControlBar& bar, const Place& where) {
     CDockBar& home = *m_dockBars[where.side];
     move_home(bar, home, kDockEdges[where.side].alignment);
     home.rows().dock(key_of(bar), where.place, home.length(), extents_at(where.side));
-    home.rows().set_shown(key_of(bar), bar.IsVisible() != FALSE);
     m_frame.RecalcLayout();
 }
 

@@ -148,7 +148,7 @@ void CFrameWnd::SetDockState(const CDockState& state) { bars().set_state(state);
 void CFrameWnd::LoadBarState(LPCTSTR lpszProfileName) {
     CDockState state;
     state.LoadState(lpszProfileName);
-    if (!state.m_arrBarInfo.IsEmpty()) SetDockState(state);
+    SetDockState(state);
 }
 
 void CFrameWnd::SaveBarState(LPCTSTR lpszProfileName) const {

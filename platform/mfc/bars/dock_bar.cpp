@@ -9,6 +9,7 @@ using kmfc::docking::BarExtent;
 using kmfc::docking::BarRows;
 using kmfc::docking::PaneKey;
 using kmfc::docking::PlacedBar;
+using kmfc::docking::Side;
 
 IMPLEMENT_DYNAMIC(CDockBar, CControlBar)
 
@@ -17,12 +18,17 @@ BEGIN_MESSAGE_MAP(CDockBar, CControlBar)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
-    ON_WM_CANCELMODE()
 END_MESSAGE_MAP()
 
 namespace {
 
 CControlBar* bar_of(PaneKey key) { return reinterpret_cast<CControlBar*>(key); }
+
+Side side_of(DWORD style) {
+    if (style & CBRS_ALIGN_BOTTOM) return Side::bottom;
+    if (style & CBRS_ALIGN_LEFT) return Side::left;
+    return (style & CBRS_ALIGN_RIGHT) ? Side::right : Side::top;
+}
 
 }  // namespace
 
@@ -82,12 +88,7 @@ CPoint CDockBar::along_and_across(CPoint screen) const {
     ScreenToClient(&screen);
     CRect client;
     GetClientRect(&client);
-    switch (m_dwStyle & CBRS_ALIGN_ANY) {
-        case CBRS_ALIGN_BOTTOM: return CPoint(screen.x, client.bottom - 1 - screen.y);
-        case CBRS_ALIGN_LEFT: return CPoint(screen.y, screen.x);
-        case CBRS_ALIGN_RIGHT: return CPoint(screen.y, client.right - 1 - screen.x);
-        default: return screen;
-    }
+    return kmfc::docking::along_and_across(side_of(m_dwStyle), client.Size(), screen);
 }
 
 void CDockBar::arrange(int length) {
@@ -97,15 +98,10 @@ void CDockBar::arrange(int length) {
             bar.end_pending();
             m_rows->set_shown(one.bar, bar.IsVisible() != FALSE);
         }
-    const int all = thickness();
+    const CSize strip = is_horizontal() ? CSize(length, thickness()) : CSize(thickness(), length);
     for (const PlacedBar& one : m_rows->arrange(length, [this](PaneKey bar) { return extent_of(bar); })) {
         CControlBar& bar = *bar_of(one.bar);
-        CRect place = one.rect;
-        if (m_dwStyle & (CBRS_ALIGN_BOTTOM | CBRS_ALIGN_RIGHT)) {
-            place.top = all - one.rect.bottom;
-            place.bottom = all - one.rect.top;
-        }
-        if (!is_horizontal()) place.SetRect(place.top, place.left, place.bottom, place.right);
+        const CRect place = kmfc::docking::in_strip(side_of(m_dwStyle), strip, one.rect);
         bar.CalcDynamicLayout(-1, LM_COMMIT | (is_horizontal() ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK));
         bar.SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
                          SWP_NOZORDER | SWP_NOACTIVATE);
@@ -135,9 +131,4 @@ void CDockBar::OnCaptureChanged(CWnd* pWnd) {
     CControlBar::OnCaptureChanged(pWnd);
     // Something else took the mouse: the drag is off.
     if (m_desk != nullptr) m_desk->end_drag(true);
-}
-
-void CDockBar::OnCancelMode() {
-    if (m_desk != nullptr) m_desk->end_drag(true);
-    CControlBar::OnCancelMode();
 }

@@ -7,7 +7,7 @@ BEGIN_MESSAGE_MAP(CMiniFrameWnd, CFrameWnd)
     ON_WM_NCHITTEST()
     ON_WM_GETMINMAXINFO()
     ON_WM_SYSCOMMAND()
-    ON_WM_NCRBUTTONUP()
+    ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
 BOOL CMiniFrameWnd::Create(LPCTSTR lpClassName, LPCTSTR lpWindowName, DWORD dwStyle, const RECT& rect,
@@ -50,7 +50,8 @@ void CMiniFrameWnd::OnSysCommand(UINT nID, LPARAM lParam) {
     CFrameWnd::OnSysCommand(nID, lParam);
 }
 
-void CMiniFrameWnd::OnNcRButtonUp(UINT nHitTest, CPoint point) {
-    if ((GetStyle() & MFS_BLOCKSYSMENU) && nHitTest == HTCAPTION) return;
-    CFrameWnd::OnNcRButtonUp(nHitTest, point);
+void CMiniFrameWnd::OnContextMenu(CWnd*, CPoint point) {
+    const bool onCaption = SendMessage(WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y)) == HTCAPTION;
+    if ((GetStyle() & MFS_BLOCKSYSMENU) && onCaption) return;
+    Default();
 }

@@ -93,25 +93,7 @@ CPoint CDockSite::along_and_across(CPoint screen) const {
     ScreenToClient(&screen);
     CRect client;
     GetClientRect(&client);
-    switch (side()) {
-        case Side::top: return screen;
-        case Side::bottom: return CPoint(screen.x, client.bottom - 1 - screen.y);
-        case Side::left: return CPoint(screen.y, screen.x);
-        default: return CPoint(screen.y, client.right - 1 - screen.x);
-    }
-}
-
-/// From along and across to client coordinates.
-CRect CDockSite::on_site(const CRect& rect) const {
-    CRect client;
-    GetClientRect(&client);
-    switch (side()) {
-        case Side::top: return rect;
-        case Side::bottom:
-            return CRect(rect.left, client.bottom - rect.bottom, rect.right, client.bottom - rect.top);
-        case Side::left: return CRect(rect.top, rect.left, rect.bottom, rect.right);
-        default: return CRect(client.right - rect.bottom, rect.left, client.right - rect.top, rect.right);
-    }
+    return kmfc::docking::along_and_across(side(), client.Size(), screen);
 }
 
 CSize CDockSite::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
@@ -143,8 +125,10 @@ void CDockSite::RecalcLayout() {
         for (const BarRows::Bar& bar : row)
             if (!bar.shown && bar_of(bar.bar)->IsPaneVisible()) bar_of(bar.bar)->ShowWindow(SW_HIDE);
     HDWP batch = ::BeginDeferWindowPos(static_cast<int>(placed.size()));
+    CRect client;
+    GetClientRect(&client);
     for (const PlacedBar& bar : placed) {
-        const CRect rect = on_site(bar.rect);
+        const CRect rect = in_strip(side(), client.Size(), bar.rect);
         if (batch != nullptr)
             batch =
                 ::DeferWindowPos(batch, bar_of(bar.bar)->m_hWnd, nullptr, rect.left, rect.top, rect.Width(),

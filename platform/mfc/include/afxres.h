@@ -158,6 +158,18 @@
 #define AFX_IDS_PREVIEW_CLOSE 0xF005
 #define AFX_IDS_UNNAMED_FILE 0xF006
 #define AFX_IDS_HIDE 0xF011
+#define AFX_IDS_ONEPAGE 0xF041
+#define AFX_IDS_TWOPAGE 0xF042
+
+// Commands of a print preview, and the template of its bar.
+#define AFX_ID_PREVIEW_CLOSE 0xE300
+#define AFX_ID_PREVIEW_NUMPAGE 0xE301
+#define AFX_ID_PREVIEW_NEXT 0xE302
+#define AFX_ID_PREVIEW_PREV 0xE303
+#define AFX_ID_PREVIEW_PRINT 0xE304
+#define AFX_ID_PREVIEW_ZOOMIN 0xE305
+#define AFX_ID_PREVIEW_ZOOMOUT 0xE306
+#define AFX_IDD_PREVIEW_TOOLBAR 30724
 
 // Help contexts: each kind of thing has a range of its own above its ids.
 #define HID_BASE_COMMAND 0x00010000

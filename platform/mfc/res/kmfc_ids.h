@@ -14,6 +14,7 @@
 #define IDS_PRINT_PAGE 30751
 #define IDS_PRINT_FILES 30752  // filter of files that are printed to
 #define IDS_PRINT_FAILED 30753
+#define IDS_PREVIEW_FAILED 30754
 
 // Tips of caption buttons.
 #define IDS_PANE_CLOSE 30740

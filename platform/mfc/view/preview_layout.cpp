@@ -25,7 +25,8 @@ PreviewLayout arrange_preview(CSize client, const PreviewSheet& sheet, int count
     count = std::max(count, 1);
     if (wide <= 0 || high <= 0) return {};
     const int acrossMargins = kMargin * (count + 1), downMargins = kMargin * 2;
-    const double fits = std::min((client.cx - acrossMargins) / (wide * count), (client.cy - downMargins) / high);
+    const double fits =
+        std::min((client.cx - acrossMargins) / (wide * count), (client.cy - downMargins) / high);
     const double whole = std::max(fits, 1.0);  // pixels an inch
     const auto scale_for = [&](int screen) {
         const double actual = std::max<double>(screen, 2 * whole);
@@ -38,8 +39,8 @@ PreviewLayout arrange_preview(CSize client, const PreviewSheet& sheet, int count
     const CPoint corner(begin_of(all.cx, client.cx, scrolled.x), begin_of(all.cy, client.cy, scrolled.y));
     PreviewLayout layout;
     for (int i = 0; i < count; ++i)
-        layout.sheets.emplace_back(
-            CPoint(corner.x + kMargin + i * (size.cx + kMargin), corner.y + kMargin), size);
+        layout.sheets.emplace_back(CPoint(corner.x + kMargin + i * (size.cx + kMargin), corner.y + kMargin),
+                                   size);
     layout.beyond = CSize(std::max<int>(all.cx - client.cx, 0), std::max<int>(all.cy - client.cy, 0));
     return layout;
 }

@@ -9,8 +9,8 @@ namespace kmfc {
 
 /// A sheet of paper as its printer tells of it, in the printer's pixels.
 struct PreviewSheet {
-    CSize paper{0, 0};              ///< all of it
-    CRect printable{0, 0, 0, 0};    ///< within it
+    CSize paper{0, 0};            ///< all of it
+    CRect printable{0, 0, 0, 0};  ///< within it
     CSize dotsPerInch{1, 1};
 };
 
@@ -21,10 +21,10 @@ struct PreviewLayout {
     CSize beyond{0, 0};         ///< pixels that can't be seen at once, across and down: how far to scroll
 };
 
-/// `count` sheets in a client area on a screen of so many dots an inch. Whole sheets are as large as fits with room
-/// around them; the actual size is that of the paper, but at least twice the whole, and between them is the
-/// middle. What doesn't fill the area is centred, what is larger stands `scrolled` pixels back, at most by what is
-/// beyond.
+/// `count` sheets in a client area on a screen of so many dots an inch. Whole sheets are as large as fits
+/// with room around them; the actual size is that of the paper, but at least twice the whole, and between
+/// them is the middle. What doesn't fill the area is centred, what is larger stands `scrolled` pixels back,
+/// at most by what is beyond.
 KMFC_API PreviewLayout arrange_preview(CSize client, const PreviewSheet& sheet, int count, PreviewZoom zoom,
                                        CPoint scrolled, CSize screenDotsPerInch);
 

@@ -134,6 +134,13 @@ void CView::OnPrint(CDC* pDC, CPrintInfo*) { OnDraw(pDC); }
 BOOL CView::DoPreparePrinting(CPrintInfo* pInfo) {
     CWinApp* app = AfxGetApp();
     PRINTDLGW& settings = pInfo->m_pPD->m_pd;
+    if (pInfo->m_bPreview) {
+        if (pInfo->m_nNumPreviewPages == 0) pInfo->m_nNumPreviewPages = app->m_nNumPreviewPages;
+        const bool known =
+            app->GetPrinterDeviceDefaults(&settings) && pInfo->m_pPD->CreatePrinterDC() != nullptr;
+        if (!known) AfxMessageBox(IDS_PREVIEW_FAILED);
+        return known;
+    }
     if (!pInfo->m_bDirect) {
         settings.nFromPage = static_cast<WORD>(pInfo->GetMinPage());
         settings.nToPage = static_cast<WORD>(pInfo->GetMaxPage());

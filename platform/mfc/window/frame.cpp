@@ -5,6 +5,7 @@
 #include <kmfc/frame.h>
 #include <kmfc/status_bar.h>
 #include <kmfc/mini_frame.h>
+#include <kmfc/preview_view.h>
 #include <kmfc/view.h>
 
 #include "../bars/control_bar_desk.h"
@@ -105,6 +106,7 @@ int CFrameWnd::OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext) {
 }
 
 void CFrameWnd::OnClose() {
+    if (m_pPreviewState != nullptr && !m_pPreviewState->lpfnCloseProc(this)) return;
     CDocument* document = GetActiveDocument();
     if (document != nullptr && !document->CanCloseFrame(this)) return;
     CWinApp* app = AfxGetApp();

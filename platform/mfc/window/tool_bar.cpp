@@ -306,8 +306,8 @@ CSize CToolBar::CalcDynamicLayout(int nLength, DWORD dwMode) {
         width = room;
     wrap(width);
     CSize size = extent();
-    // A bar that doesn't dock takes the form of its own edge by itself.
-    const bool own = m_pDockBar == nullptr && ((m_dwStyle & CBRS_ORIENT_VERT) != 0) != horizontal;
+    // A bar takes the form of its own edge by itself.
+    const bool own = ((m_dwStyle & CBRS_ORIENT_VERT) != 0) != horizontal;
     if (!own && !(dwMode & LM_COMMIT)) wrap(former);
     if ((dwMode & LM_COMMIT) && asked) m_nMRUWidth = static_cast<UINT>(width);
     if (size.cy == 0) size.cy = m_sizeButton.cy;

@@ -109,6 +109,8 @@ IMPLEMENT_DYNCREATE(CDrawView, CScrollView)
 
 BEGIN_MESSAGE_MAP(CDrawView, CScrollView)
     ON_COMMAND(ID_DRAW_STROKE, &CDrawView::OnStroke)
+    ON_COMMAND(ID_FILE_PRINT, &CView::OnFilePrint)
+    ON_COMMAND(ID_FILE_PRINT_PREVIEW, &CView::OnFilePrintPreview)
 END_MESSAGE_MAP()
 
 /////////////////////////////////////////////////////////////////////////////

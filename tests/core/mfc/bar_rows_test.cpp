@@ -200,4 +200,17 @@ TEST(BarRows, at_a_side_without_bars_a_drop_near_the_edge_begins_the_first_row) 
     EXPECT_EQ(rows.thickness(extents), 0);
 }
 
+TEST(BarRows, RowsAreCountedFromTheOutsideAtEachSide) {
+    const CSize strip(300, 40), upright(40, 300);
+    EXPECT_EQ(along_and_across(Side::top, strip, CPoint(70, 5)), CPoint(70, 5));
+    EXPECT_EQ(along_and_across(Side::bottom, strip, CPoint(70, 5)), CPoint(70, 34));
+    EXPECT_EQ(along_and_across(Side::left, upright, CPoint(5, 70)), CPoint(70, 5));
+    EXPECT_EQ(along_and_across(Side::right, upright, CPoint(5, 70)), CPoint(70, 34));
+    const CRect bar(70, 5, 170, 25);
+    EXPECT_EQ(in_strip(Side::top, strip, bar), bar);
+    EXPECT_EQ(in_strip(Side::bottom, strip, bar), CRect(70, 15, 170, 35));
+    EXPECT_EQ(in_strip(Side::left, upright, bar), CRect(5, 70, 25, 170));
+    EXPECT_EQ(in_strip(Side::right, upright, bar), CRect(15, 70, 35, 170));
+}
+
 }  // namespace

@@ -77,6 +77,13 @@ protected:
         mouse(dock_bar(AFX_IDW_DOCKBAR_TOP), WM_LBUTTONUP, screen, 0);
         EXPECT_EQ(::GetCapture(), nullptr);
     }
+    static void click_first(CToolBar& bar) {
+        CRect button;
+        bar.GetItemRect(0, &button);
+        const LPARAM at = MAKELPARAM(button.CenterPoint().x, button.CenterPoint().y);
+        bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
+        bar.SendMessage(WM_LBUTTONUP, 0, at);
+    }
     bool escape() {
         MSG key = {view.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
         return CWnd::WalkPreTranslateTree(frame->m_hWnd, &key) != FALSE;
@@ -202,6 +209,9 @@ TEST_F(ControlBarDocking, AFloatingFrameIsAsLargeAsItsBarAndBelongsToTheFrame) {
     EXPECT_EQ(bar.GetDockingFrame(), frame);
     EXPECT_EQ(frame->GetControlBar(kFirstBar + 1), &bar);
     EXPECT_EQ(rectOf(view), client);
+    // It stays that frame's when it is asked again.
+    bar.EnableDocking(CBRS_ALIGN_TOP);
+    EXPECT_EQ(bar.GetDockingFrame(), frame);
 }
 
 TEST_F(ControlBarDocking, AFixedBarsFrameIsNotSized) {
@@ -217,6 +227,8 @@ TEST_F(ControlBarDocking, FloatsUprightForTheSidesOnly) {
     EXPECT_EQ(on_screen(bar).Width(), 15);
     frame->FloatControlBar(&bar, CPoint(300, 200), CBRS_ALIGN_LEFT | CBRS_ALIGN_BOTTOM);
     EXPECT_EQ(on_screen(bar).Height(), 15);
+    frame->FloatControlBar(&bar, CPoint(300, 200), 0);
+    EXPECT_EQ(on_screen(bar).Height(), 15);
     frame->FloatControlBar(&bar, CPoint(300, 200), CBRS_ALIGN_RIGHT);
     EXPECT_EQ(on_screen(bar).Width(), 15);
 }
@@ -227,11 +239,7 @@ TEST_F(ControlBarDocking, ButtonsOfAFloatingBarAskAndTellTheFrame) {
     frame->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_NE(bar.GetButtonStyle(1) & TBBS_DISABLED, 0U);
     EXPECT_EQ(bar.GetButtonStyle(0) & TBBS_DISABLED, 0U);
-    CRect button;
-    bar.GetItemRect(0, &button);
-    const LPARAM at = MAKELPARAM(button.CenterPoint().x, button.CenterPoint().y);
-    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
-    bar.SendMessage(WM_LBUTTONUP, 0, at);
+    click_first(bar);
     EXPECT_EQ(frame->news, 1);
     EXPECT_EQ(
         mini_frame(bar)->SendMessage(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(mini_frame(bar)->m_hWnd),
@@ -244,11 +252,7 @@ TEST_F(ControlBarDocking, ButtonsOfADockedBarAskAndTellTheFrame) {
     frame->openEnabled = FALSE;
     idle();
     EXPECT_NE(bar.GetButtonStyle(1) & TBBS_DISABLED, 0U);
-    CRect button;
-    bar.GetItemRect(0, &button);
-    const LPARAM at = MAKELPARAM(button.CenterPoint().x, button.CenterPoint().y);
-    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
-    bar.SendMessage(WM_LBUTTONUP, 0, at);
+    click_first(bar);
     EXPECT_EQ(frame->news, 1);
 }
 
@@ -287,8 +291,9 @@ TEST_F(ControlBarDocking, ClosingAFloatingFrameHidesItsBar) {
 TEST_F(ControlBarDocking, ADragFloatsTheBarUnderTheMouseAndDocksItAgain) {
     CToolBar& bar = docked_bar();
     press(bar);
-    move(handle_of(bar) + CSize(1, 1));
-    EXPECT_FALSE(bar.IsFloating());
+    // A hand is not that steady.
+    move(handle_of(bar) + CSize(3, 1));
+    EXPECT_EQ(rectOf(bar).TopLeft(), CPoint(0, 0));
     move(on_frame(200, 150));
     ASSERT_TRUE(bar.IsFloating());
     const CRect mini = on_screen(*mini_frame(bar));
@@ -355,6 +360,95 @@ TEST_F(ControlBarDocking, EscapePutsADraggedBarBack) {
     EXPECT_EQ(on_screen(*mini_frame(second)).TopLeft(), CPoint(300, 200));
 }
 
+TEST_F(ControlBarDocking, AnotherKeyEndsNoDrag) {
+    CToolBar& bar = docked_bar();
+    press(bar);
+    MSG key = {view.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(frame->m_hWnd, &key));
+    move(on_frame(200, 150));
+    EXPECT_TRUE(bar.IsFloating());
+    EXPECT_TRUE(escape());
+}
+
+TEST_F(ControlBarDocking, EscapeKeepsTheOrderOfARowAndTheFormerPlaces) {
+    CToolBar& first = docked_bar();
+    CToolBar& second = make_bar();
+    const CRect start = on_screen(first);
+    frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &start);
+    ASSERT_EQ(rectOf(first).left, kLength);
+    frame->FloatControlBar(&first, CPoint(320, 240));
+    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP, &start);
+    frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &start);
+    press(first);
+    move(on_frame(200, 150));
+    ASSERT_TRUE(first.IsFloating());
+    escape();
+    EXPECT_EQ(rectOf(second).left, 0);
+    EXPECT_EQ(rectOf(first).left, kLength);
+    mouse(first, WM_LBUTTONDBLCLK, handle_of(first));
+    EXPECT_EQ(on_screen(*mini_frame(first)).TopLeft(), CPoint(320, 240));
+}
+
+TEST_F(ControlBarDocking, BesideTheFrameADragFloats) {
+    CToolBar& bar = docked_bar();
+    press(bar);
+    move(on_frame(client.right + 100, 5));
+    EXPECT_TRUE(bar.IsFloating());
+    move(on_frame(client.right + 5, 5));
+    EXPECT_FALSE(bar.IsFloating());
+    escape();
+}
+
+TEST_F(ControlBarDocking, AtTheBottomTheOuterRowIsTheLowerOne) {
+    CToolBar& outer = docked_bar(AFX_IDW_DOCKBAR_BOTTOM);
+    CToolBar& inner = make_bar();
+    frame->DockControlBar(&inner, AFX_IDW_DOCKBAR_BOTTOM);
+    CToolBar& third = make_bar();
+    frame->DockControlBar(&third, AFX_IDW_DOCKBAR_TOP);
+    press(third);
+    move(on_frame(200, client.bottom - 4));
+    EXPECT_EQ(rectOf(third).top, rectOf(outer).top);
+    EXPECT_EQ(rectOf(inner).bottom, rectOf(outer).top);
+    release(on_frame(200, client.bottom - 4));
+}
+
+TEST_F(ControlBarDocking, InANarrowFrameTheLastBarsOfARowAreShortened) {
+    CToolBar& first = docked_bar();
+    CToolBar& second = make_bar();
+    CRect beside = on_screen(first);
+    beside.OffsetRect(1, 0);
+    frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &beside);
+    CRect window;
+    frame->GetWindowRect(&window);
+    frame->SetWindowPos(nullptr, 0, 0, window.Width() - client.Width() + kLength + 30, window.Height(),
+                        SWP_NOMOVE | SWP_NOZORDER);
+    frame->GetClientRect(&client);
+    ASSERT_LT(client.Width(), 2 * kLength);
+    EXPECT_EQ(rectOf(first), CRect(0, 0, kLength, kThickness));
+    EXPECT_EQ(rectOf(second), CRect(kLength, 0, client.right, kThickness));
+}
+
+TEST_F(ControlBarDocking, ADialogBarDocksWithItsHandle) {
+    frame->EnableDocking(CBRS_ALIGN_ANY);
+    CDialogBar bar;
+    ASSERT_TRUE(bar.Create(frame, 450, CBRS_TOP | CBRS_GRIPPER, kFirstBar + 9));
+    const CSize size = bar.m_sizeDefault;
+    bar.EnableDocking(CBRS_ALIGN_ANY);
+    frame->DockControlBar(&bar);
+    EXPECT_EQ(rectOf(bar), CRect(CPoint(0, 0), size + CSize(kGripper, 0)));
+    CRect inside;
+    bar.GetClientRect(&inside);
+    EXPECT_EQ(inside.Size(), size);
+    frame->DockControlBar(&bar, AFX_IDW_DOCKBAR_LEFT);
+    EXPECT_EQ(rectOf(bar).Size(), size + CSize(0, kGripper));
+    frame->FloatControlBar(&bar, CPoint(300, 200));
+    EXPECT_EQ(on_screen(bar).Size(), size);
+    // What its controls tell reaches the frame.
+    bar.GetDlgItem(static_cast<int>(kNew))->SendMessage(BM_CLICK);
+    EXPECT_EQ(frame->news, 1);
+    bar.DestroyWindow();
+}
+
 TEST_F(ControlBarDocking, AFrameIsDraggedByItsCaption) {
     CToolBar& bar = floating_bar(CPoint(300, 200));
     mini_frame(bar)->SendMessage(WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(330, 205));
@@ -386,8 +480,11 @@ TEST_F(ControlBarDocking, APressOnAToolDragsNothing) {
 TEST_F(ControlBarDocking, ADoubleClickGoesBetweenTheLastPlaces) {
     CToolBar& first = docked_bar(AFX_IDW_DOCKBAR_BOTTOM);
     frame->FloatControlBar(&first, CPoint(320, 240));
-    mini_frame(first)->SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION, MAKELPARAM(340, 245));
+    HWND const mini = mini_frame(first)->m_hWnd;
+    ::SendMessageW(mini, WM_NCLBUTTONDBLCLK, HTCAPTION, MAKELPARAM(340, 245));
     EXPECT_EQ(first.GetParent(), &dock_bar(AFX_IDW_DOCKBAR_BOTTOM));
+    EXPECT_FALSE(::IsWindow(mini));
+    EXPECT_EQ(first.GetBarStyle() & CBRS_FLOATING, 0U);
     mouse(first, WM_LBUTTONDBLCLK, handle_of(first));
     ASSERT_TRUE(first.IsFloating());
     EXPECT_EQ(on_screen(*mini_frame(first)).TopLeft(), CPoint(320, 240));
@@ -396,6 +493,7 @@ TEST_F(ControlBarDocking, ADoubleClickGoesBetweenTheLastPlaces) {
     frame->FloatControlBar(&loose, CPoint(400, 240));
     mini_frame(loose)->SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION, MAKELPARAM(420, 245));
     EXPECT_TRUE(loose.IsFloating());
+    EXPECT_EQ(on_screen(*mini_frame(loose)).TopLeft(), CPoint(400, 240));
 }
 
 TEST_F(ControlBarDocking, EdgesOfAFrameWrapItsTools) {
@@ -423,8 +521,17 @@ TEST_F(ControlBarDocking, EdgesOfAFrameWrapItsTools) {
     EXPECT_EQ(pulled.Size(), edges + CSize(3 * 15 + 8, 15));
     pulled.bottom = pulled.top + edges.cy + 45;
     mini_frame(bar)->SendMessage(WM_SIZING, WMSZ_BOTTOM, reinterpret_cast<LPARAM>(&pulled));
-    EXPECT_GT(pulled.Height(), edges.cy + 15);
-    EXPECT_LE(pulled.Height(), edges.cy + 45);
+    const CSize low = pulled.Size();
+    EXPECT_GT(low.cy, edges.cy + 15);
+    EXPECT_LE(low.cy, edges.cy + 45);
+    // The narrowest of that height: one button less in a row would be too high.
+    EXPECT_LT(low.cx, edges.cx + 2 * 15 + 15);
+    pulled = on_screen(*mini_frame(bar));
+    const int bottom = pulled.bottom;
+    pulled.top = bottom - edges.cy - 20;
+    mini_frame(bar)->SendMessage(WM_SIZING, WMSZ_TOP, reinterpret_cast<LPARAM>(&pulled));
+    EXPECT_EQ(pulled.bottom, bottom);
+    EXPECT_EQ(pulled.Height(), edges.cy + 15);
 }
 
 TEST_F(ControlBarDocking, ADockedBarHasAHandleInTheSystemsColours) {
@@ -454,6 +561,7 @@ TEST_F(ControlBarDocking, ABarThatGoesLeavesItsRowAndItsFrame) {
     frame->RecalcLayout();
     EXPECT_EQ(rectOf(second).top, 0);
     EXPECT_EQ(frame->GetControlBar(kFirstBar + 1), nullptr);
+    EXPECT_EQ(static_cast<CDockBar&>(dock_bar(AFX_IDW_DOCKBAR_TOP)).GetDockedCount(), 1);
     frame->FloatControlBar(&second, CPoint(300, 200));
     HWND const mini = mini_frame(second)->m_hWnd;
     second.DestroyWindow();

@@ -124,6 +124,7 @@ TEST_F(DockState, KeepsThePlacesOfADoubleClick) {
     frame->FloatControlBar(bars[0].get(), CPoint(340, 260));
     frame->DockControlBar(bars[0].get(), AFX_IDW_DOCKBAR_TOP);
     frame->SaveBarState(kProfile);
+    frame->FloatControlBar(bars[0].get(), CPoint(400, 300));
     mix_up();
     frame->LoadBarState(kProfile);
     bars[3]->toggle_floating();
@@ -193,6 +194,16 @@ TEST_F(DockState, LeavesOutWhatNoBarHas) {
     state.LoadState(kProfile);
     ASSERT_EQ(state.m_arrBarInfo.GetSize(), 1);
     EXPECT_EQ(static_cast<CControlBarInfo*>(state.m_arrBarInfo[0])->m_nBarID, kFirstBar + 3);
+    app->WriteProfileInt(first, L"Row", 0);
+    for (const int wrong : {0, -1, 0x10000, 2'000'000}) {
+        app->WriteProfileInt(first, L"BarID", wrong);
+        state.LoadState(kProfile);
+        EXPECT_EQ(state.m_arrBarInfo.GetSize(), 1) << wrong;
+    }
+    app->WriteProfileInt(first, L"BarID", kFirstBar);
+    app->WriteProfileInt(first, L"XPos", 2'000'000);
+    state.LoadState(kProfile);
+    EXPECT_EQ(state.m_arrBarInfo.GetSize(), 1);
     app->WriteProfileInt(CString(kProfile) + L"-Summary", L"Bars", 0x7FFFFFFF);
     state.LoadState(kProfile);
     EXPECT_EQ(state.m_arrBarInfo.GetSize(), 1);
@@ -228,6 +239,37 @@ TEST_F(DockState, BarsThatItDoesntKnowAndBarsThatAreGoneDoNoHarm) {
             << kept;
     EXPECT_EQ(bars[2]->GetParent()->GetDlgCtrlID(), static_cast<int>(AFX_IDW_DOCKBAR_TOP));
     EXPECT_TRUE(bars[3]->IsFloating());
+}
+
+TEST_F(DockState, ABarKeepsOffAnEdgeThatItMayNoLongerDockAt) {
+    set_out();
+    CDockState state;
+    frame->GetDockState(state);
+    mix_up();
+    bars[0]->EnableDocking(CBRS_ALIGN_BOTTOM);
+    frame->SetDockState(state);
+    EXPECT_EQ(bars[0]->GetParent()->GetDlgCtrlID(), static_cast<int>(AFX_IDW_DOCKBAR_BOTTOM));
+    EXPECT_EQ(bars[1]->GetParent()->GetDlgCtrlID(), static_cast<int>(AFX_IDW_DOCKBAR_TOP));
+}
+
+TEST_F(DockState, AFloatingBarComesBackAsItWasWrapped) {
+    frame->FloatControlBar(bars[3].get(), CPoint(320, 240));
+    CWnd* const mini = bars[3]->GetParent()->GetParent();
+    const auto pull_to = [&](int width) {
+        CRect pulled = on_screen(*mini);
+        pulled.right = pulled.left + width;
+        mini->SendMessage(WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&pulled));
+    };
+    const CSize row = on_screen(*bars[3]).Size();
+    pull_to(45);
+    const CSize wrapped = on_screen(*bars[3]).Size();
+    ASSERT_NE(wrapped, row);
+    CDockState state;
+    frame->GetDockState(state);
+    pull_to(900);
+    ASSERT_EQ(on_screen(*bars[3]).Size(), row);
+    frame->SetDockState(state);
+    EXPECT_EQ(on_screen(*bars[3]).Size(), wrapped);
 }
 
 TEST_F(DockState, AFloatingFrameComesBackWithinReach) {

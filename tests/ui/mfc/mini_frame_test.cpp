@@ -72,6 +72,9 @@ TEST_F(MiniFrame, ABlockedSystemMenuDoesntOpen) {
     };
     EXPECT_TRUE(opens(open, WM_SYSCOMMAND, SC_KEYMENU, ' '));
     EXPECT_FALSE(opens(blocked, WM_SYSCOMMAND, SC_KEYMENU, ' '));
+    const LPARAM caption = MAKELPARAM(330, 210);
+    EXPECT_TRUE(opens(open, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(open.m_hWnd), caption));
+    EXPECT_FALSE(opens(blocked, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(blocked.m_hWnd), caption));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // ends early. The functions of the system are the test's own, as no printer is needed to tell their order.
 #include <afxdlgs.h>
 
+#include "printer_names.h"
 #include "replaced_import.h"
 #include "view_frame.h"
 
@@ -21,23 +22,6 @@ struct System {
     std::wstring output;
 } printer;
 
-HGLOBAL namesOf(const wchar_t* driver, const wchar_t* device, const wchar_t* port) {
-    const std::wstring all[] = {driver, device, port};
-    std::size_t size = sizeof(DEVNAMES) / sizeof(wchar_t);
-    WORD places[3] = {};
-    for (int i = 0; i < 3; ++i) {
-        places[i] = static_cast<WORD>(size);
-        size += all[i].size() + 1;
-    }
-    const HGLOBAL block = ::GlobalAlloc(GHND, size * sizeof(wchar_t));
-    auto* names = static_cast<DEVNAMES*>(::GlobalLock(block));
-    *names = {places[0], places[1], places[2], 0};
-    for (int i = 0; i < 3; ++i)
-        std::copy_n(all[i].c_str(), all[i].size() + 1, reinterpret_cast<wchar_t*>(names) + places[i]);
-    ::GlobalUnlock(block);
-    return block;
-}
-
 HGLOBAL modeOf(short copies) {
     const HGLOBAL block = ::GlobalAlloc(GHND, sizeof(DEVMODEW));
     static_cast<DEVMODEW*>(::GlobalLock(block))->dmCopies = copies;
@@ -56,11 +40,12 @@ BOOL WINAPI printDialog(PRINTDLGW* data) {
     if (!printer.hasPrinter || (isQuestion && !printer.accepts)) return FALSE;
     if (printer.exchanges) {
         // Made before the former one goes, so that it lies elsewhere.
-        const HGLOBAL another = namesOf(L"winspool", L"Another", L"LPT1:");
+        const HGLOBAL another = ui_test::printer_names(L"winspool", L"Another", L"LPT1:");
         ::GlobalFree(data->hDevNames);
         data->hDevNames = another;
     }
-    if (data->hDevNames == nullptr) data->hDevNames = namesOf(L"winspool", L"Plotter", L"LPT9:");
+    if (data->hDevNames == nullptr)
+        data->hDevNames = ui_test::printer_names(L"winspool", L"Plotter", L"LPT9:");
     if (data->hDevMode == nullptr) data->hDevMode = modeOf(3);
     data->Flags |= printer.chosenFlags;
     if (printer.chosenFlags & PD_PAGENUMS) {
@@ -445,7 +430,7 @@ TEST_F(Printing, TheApplicationKeepsItsPrinter) {
     EXPECT_EQ(take(), Heard{"context winspool Another LPT1: 3"}) << "the one chosen last";
     PRINTDLGW kept = {};
     ASSERT_TRUE(app.GetPrinterDeviceDefaults(&kept));
-    app.SelectPrinter(namesOf(L"other", L"Printer", L"X:"), modeOf(1));
+    app.SelectPrinter(ui_test::printer_names(L"other", L"Printer", L"X:"), modeOf(1));
     EXPECT_EQ(::GlobalFlags(kept.hDevNames), static_cast<UINT>(GMEM_INVALID_HANDLE));
     EXPECT_EQ(::GlobalFlags(kept.hDevMode), static_cast<UINT>(GMEM_INVALID_HANDLE));
     CDC dc;

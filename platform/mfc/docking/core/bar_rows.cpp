@@ -68,6 +68,24 @@ auto by_key(PaneKey key) {
 
 }  // namespace
 
+CPoint along_and_across(Side side, CSize strip, CPoint point) {
+    switch (side) {
+        case Side::top: return point;
+        case Side::bottom: return CPoint(point.x, strip.cy - 1 - point.y);
+        case Side::left: return CPoint(point.y, point.x);
+        default: return CPoint(point.y, strip.cx - 1 - point.x);
+    }
+}
+
+CRect in_strip(Side side, CSize strip, const CRect& rect) {
+    switch (side) {
+        case Side::top: return rect;
+        case Side::bottom: return CRect(rect.left, strip.cy - rect.bottom, rect.right, strip.cy - rect.top);
+        case Side::left: return CRect(rect.top, rect.left, rect.bottom, rect.right);
+        default: return CRect(strip.cx - rect.bottom, rect.left, strip.cx - rect.top, rect.right);
+    }
+}
+
 const BarRows::Bar* BarRows::find(PaneKey bar) const {
     for (const Row& row : m_rows) {
         const auto found = std::find_if(row.begin(), row.end(), by_key(bar));

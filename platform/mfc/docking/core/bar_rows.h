@@ -15,6 +15,11 @@ struct BarExtent {
     int thickness = 0;  ///< across it
     int least = 0;      ///< the least length, with its gripper
 };
+/// A point of the strip at a side of a frame, along its rows (x) and across them from the outside (y).
+KMFC_API CPoint along_and_across(Side side, CSize strip, CPoint point);
+/// The way back, for a rectangle.
+KMFC_API CRect in_strip(Side side, CSize strip, const CRect& rect);
+
 using BarExtents = std::function<BarExtent(PaneKey)>;
 
 /// Where a bar stands in its row, counted from the outside of the frame.

@@ -48,7 +48,6 @@ protected:
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
-    afx_msg void OnCancelMode();
     DECLARE_MESSAGE_MAP()
 
 private:

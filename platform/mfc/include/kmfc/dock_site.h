@@ -88,7 +88,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CRect on_site(const CRect& rect) const;
     void note_rows();
 
     kmfc::docking::DockedBars* m_bars;  ///< the frame's, which it is one of

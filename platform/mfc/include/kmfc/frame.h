@@ -9,6 +9,7 @@
 #include <kmfc/create_context.h>
 
 class CDockState;
+struct CPrintPreviewState;
 namespace kmfc {
 class ControlBarDesk;
 }  // namespace kmfc
@@ -79,6 +80,9 @@ public:
     void LoadBarState(LPCTSTR lpszProfileName);
     void SaveBarState(LPCTSTR lpszProfileName) const;
     virtual void ActivateFrame(int nCmdShow = -1);
+    /// Into a print preview and out of it: menu, accelerators and main pane go and come back, and the bars
+    /// that are shown change with those of `pState`. The caller lays out anew.
+    virtual void OnSetPreviewMode(BOOL bPreview, CPrintPreviewState* pState);
 
     // The document and its views.
     /// A view of the context's class as a child window; null when it can't be made.
@@ -153,6 +157,9 @@ private:
     bool m_isLayoutPending = false;                ///< a bar waits to be shown or hidden
     std::unique_ptr<kmfc::ControlBarDesk> m_bars;  ///< those that dock; made by the first call that needs it
 
+    CPrintPreviewState* m_pPreviewState = nullptr;  ///< the preview's, while there is one
+
     kmfc::ControlBarDesk& bars();
     friend class CControlBar;
+    friend class CView;
 };

@@ -25,6 +25,6 @@ protected:
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
-    afx_msg void OnNcRButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
     DECLARE_MESSAGE_MAP()
 };

@@ -14,12 +14,12 @@ struct PreviewLayout;
 struct PreviewSheet;
 }  // namespace kmfc
 
-/// What a frame keeps while a preview stands in it. It is the preview's once CView::DoPrintPreview has answered
-/// TRUE.
+/// What a frame keeps while a preview stands in it. It is the preview's once CView::DoPrintPreview has
+/// answered TRUE.
 struct KMFC_API CPrintPreviewState {
     UINT nIDMainPane = AFX_IDW_PANE_FIRST;  ///< the window that the preview takes the place of
     HMENU hMenu = nullptr;                  ///< the frame's
-    DWORD dwStates;                         ///< bars shown in the other state, bit i for AFX_IDW_CONTROLBAR_FIRST + i
+    DWORD dwStates;  ///< bars shown in the other state, bit i for AFX_IDW_CONTROLBAR_FIRST + i
     CView* pViewActiveOld = nullptr;
     HACCEL hAccelTable = nullptr;
     /// Called instead of closing the frame; FALSE leaves it open.
@@ -27,9 +27,10 @@ struct KMFC_API CPrintPreviewState {
     CPrintPreviewState();
 };
 
-/// Shows one page or two. Each page is recorded once with the printer as its reference, so that the view prints into
-/// a context with the printer's measures. Commands come from the bar above: next, previous, one or two pages, nearer,
-/// further, print, close; Page Up and Down, the wheel, Escape and a click that goes nearer work too.
+/// Shows one page or two. Each page is recorded once with the printer as its reference, so that the view
+/// prints into a context with the printer's measures. Commands come from the bar above: next, previous, one
+/// or two pages, nearer, further, print, close; Page Up and Down, the wheel, Escape and a click that goes
+/// nearer work too.
 class KMFC_API CPreviewView : public CView {
     DECLARE_DYNCREATE(CPreviewView)
 public:
@@ -90,7 +91,12 @@ private:
     std::unique_ptr<CPrintInfo> m_info;
     std::unique_ptr<CPrintPreviewState> m_state;
     CDialogBar* m_bar = nullptr;  ///< deletes itself
-    CDC m_printer;                ///< the job's context
+    /// One that says of itself that it prints.
+    class PrintingDC : public CDC {
+    public:
+        PrintingDC() { m_bPrinting = TRUE; }
+    };
+    PrintingDC m_printer;  ///< the job's context
     std::map<UINT, HENHMETAFILE> m_recorded;
     UINT m_page = 1, m_lastPage = 0xFFFF;
     int m_wanted = 1;  ///< pages side by side

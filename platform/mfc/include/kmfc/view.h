@@ -7,8 +7,10 @@
 #include <kmfc/scroll_bar.h>
 
 class CDocument;
+class CPreviewView;
 class CSplitterWnd;
 struct CPrintInfo;
+struct CPrintPreviewState;
 
 namespace kmfc {
 class PrintingDialog;
@@ -45,6 +47,9 @@ public:
     /// Prints the document. A window tells which page and lets the user give up; the main window is disabled
     /// meanwhile. The user is told of a failure.
     afx_msg void OnFilePrint();
+    /// Shows the pages in place of the program's main window's own. Nothing happens while one is shown
+    /// already.
+    afx_msg void OnFilePrintPreview();
 
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -62,7 +67,8 @@ protected:
     virtual void OnDraw(CDC* pDC) = 0;
 
     // Printing. A program that prints maps ID_FILE_PRINT and ID_FILE_PRINT_DIRECT to OnFilePrint, and
-    // overrides OnPreparePrinting to call DoPreparePrinting. There is no preview.
+    // overrides OnPreparePrinting to call DoPreparePrinting. One with a preview maps ID_FILE_PRINT_PREVIEW to
+    // OnFilePrintPreview; the job (m_bPreview) then asks for nothing and takes the program's printer.
     /// Called first; tells how many pages there are, as far as that is known. FALSE ends the job.
     virtual BOOL OnPreparePrinting(CPrintInfo* pInfo);
     /// Asks for printer and pages, nothing where the job is direct, and makes the printer's device context.
@@ -71,6 +77,13 @@ protected:
     /// Called once around all pages with the printer's context.
     virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
     virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    /// Ends a preview: calls OnEndPrinting and puts the frame back. `point` is how far the page was scrolled,
+    /// pixels of the preview; `pView` is destroyed.
+    virtual void OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT point, CPreviewView* pView);
+    /// A preview with a bar (a dialog template) and a class of your own. `pState` comes from the heap; it is
+    /// the preview's after TRUE, still the caller's after FALSE.
+    BOOL DoPrintPreview(UINT nIDResource, CView* pPrintView, CRuntimeClass* pPreviewViewClass,
+                        CPrintPreviewState* pState);
     /// Draws page m_nCurPage; this one calls OnDraw.
     virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
     void PostNcDestroy() override;
@@ -99,4 +112,5 @@ private:
     friend class CDocument;
     friend class CFrameWnd;
     friend class CMDIChildWnd;
+    friend class CPreviewView;
 };
