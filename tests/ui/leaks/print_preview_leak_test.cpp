@@ -64,7 +64,9 @@ TEST(PrintPreview, AThousandTimesOpenedAndClosedLeavesNothing) {
         ui_test::pump();
     });
     EXPECT_EQ(shown, kTimes + kWarmUp);
-    EXPECT_EQ(view->printed, 3 * (kTimes + kWarmUp));
+    // The hidden frame paints nothing, so only the pages that are looked for are recorded: the second and the
+    // third.
+    EXPECT_EQ(view->printed, 2 * (kTimes + kWarmUp));
     AfxGetApp()->m_pMainWnd = nullptr;
     AfxGetApp()->SelectPrinter(nullptr, nullptr);
     frame->DestroyWindow();
