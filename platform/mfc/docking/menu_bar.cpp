@@ -69,6 +69,8 @@ void CMFCMenuBar::frame_goes() {
 }
 
 void CMFCMenuBar::OnDestroy() {
+    // The open menu would wait for its owner.
+    if (m_open != -1) ::EndMenu();
     CDockingManager* const manager = GetDockingManager();
     const bool showsFrames = manager != nullptr && manager->menu_bar() == this;
     if (showsFrames) manager->set_menu_bar(nullptr);

@@ -95,7 +95,8 @@ BOOL CMFCMenuBar::PreTranslateMessage(MSG* pMsg) {
         return CMFCToolBar::PreTranslateMessage(pMsg);
     // The frame's accelerators wait, as they do while a menu is open. A letter with Alt means an item.
     if (pMsg->message == WM_SYSCHAR) return CMFCToolBar::PreTranslateMessage(pMsg);
-    ::TranslateMessage(pMsg);
+    // The letter of a key that opens a menu would go on into that.
+    if (pMsg->wParam > VK_SPACE) ::TranslateMessage(pMsg);
     ::DispatchMessageW(pMsg);
     return TRUE;
 }
@@ -153,7 +154,7 @@ void CMFCMenuBar::follow(int index, bool byKeys) {
     const HWND self = m_hWnd;
     if (frame->GetSafeHwnd() == nullptr) return;
     followed = this;
-    m_filter =
+    HHOOK const filter =
         ::SetWindowsHookExW(WH_MSGFILTER, &CMFCMenuBar::message_filter, nullptr, ::GetCurrentThreadId());
     ::GetCursorPos(&m_lastMove);
     frame->SendMessage(WM_ENTERMENULOOP, FALSE);
@@ -166,8 +167,8 @@ void CMFCMenuBar::follow(int index, bool byKeys) {
         byKeys = m_isNextByKeys;
     }
     followed = nullptr;
+    ::UnhookWindowsHookEx(filter);
     if (!::IsWindow(self)) return;
-    ::UnhookWindowsHookEx(std::exchange(m_filter, nullptr));
     const int last = std::exchange(m_open, -1);
     frame->SendMessage(WM_EXITMENULOOP, FALSE);
     if (m_isEscaped && command == 0) {

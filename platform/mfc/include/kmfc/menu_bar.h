@@ -108,5 +108,4 @@ private:
     CPoint m_lastMove{0, 0};       ///< where the pointer was seen last, screen coordinates
     std::vector<HMENU> m_popups;   ///< those that are open, the innermost last
     HWND m_focusBefore = nullptr;  ///< what had the focus before the bar
-    HHOOK m_filter = nullptr;
 };
