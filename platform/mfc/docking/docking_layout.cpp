@@ -98,8 +98,12 @@ void CDockingManager::layout_frame(CRect& border, const std::function<void()>& l
     hide_unplanned();
     border.SetRect(center.left - free.left, center.top - free.top, free.right - center.right,
                    free.bottom - center.bottom);
+    const CSize rowsBefore = m_state->bars != nullptr ? m_state->bars->outermost_size() : CSize(0, 0);
     layoutBars();
     m_bInLayout = FALSE;
+    // Classic bars have come to where rows were, which the frame is about to erase.
+    if (m_state->bars != nullptr && m_state->bars->outermost_size() != rowsBefore)
+        m_pParentWnd->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     if (m_state->bars != nullptr) m_state->bars->arrange();
     for (CMFCAutoHideBar* bar : CMFCAutoHideBar::of_frame(m_pParentWnd)) bar->follow_frame();
 }

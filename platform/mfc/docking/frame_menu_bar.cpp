@@ -45,6 +45,12 @@ bool DockedBars::is_outermost(const CDockSite& site) const {
     return m_manager.menu_bar() != nullptr && site.side() == Side::top;
 }
 
+CSize DockedBars::outermost_size() const {
+    CRect rect(0, 0, 0, 0);
+    if (site(Side::top) != nullptr && is_outermost(*site(Side::top))) site(Side::top)->GetWindowRect(&rect);
+    return rect.Size();
+}
+
 void DockedBars::menu_bar_changed() {
     if (m_manager.menu_bar() != nullptr && make_sites())
         // Bars take their room in the order of the windows.

@@ -188,6 +188,50 @@ TEST_F(MenuBar, the_rows_above_stand_outside_of_classic_bars_while_there_is_a_me
     above.DestroyWindow();
 }
 
+/// A classic bar that is red.
+class RedBar : public CControlBar {
+public:
+    CSize CalcFixedLayout(BOOL, BOOL) override { return CSize(32767, 30); }
+    void OnUpdateCmdUI(CFrameWnd*, BOOL) override {}
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message != WM_PAINT) return CControlBar::WindowProc(message, wParam, lParam);
+        CPaintDC dc(this);
+        CRect client;
+        GetClientRect(&client);
+        dc.FillSolidRect(client, RGB(255, 0, 0));
+        return 0;
+    }
+};
+
+TEST_F(MenuBar, classic_bars_are_drawn_anew_where_rows_were) {
+    RedBar red;
+    red.SetBarStyle(CBRS_TOP);
+    ASSERT_TRUE(red.CWnd::Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), frame,
+                                 0xE810));
+    dock();
+    idle();
+    const auto is_red = [&] {
+        CClientDC dc(&red);
+        CRect client;
+        red.GetClientRect(&client);
+        int points = 0;
+        for (int y = 0; y < client.bottom; ++y)
+            points += dc.GetPixel(CPoint(300, y)) == RGB(255, 0, 0) ? 1 : 0;
+        return points == client.bottom && points >= 28;
+    };
+    EXPECT_TRUE(ui_test::pump_until(is_red));
+    const int before = in_frame(red).top;
+    bar.DockToFrameWindow(CBRS_ALIGN_LEFT);
+    EXPECT_LT(in_frame(red).top, before);
+    EXPECT_TRUE(ui_test::pump_until(is_red));
+    bar.DockToFrameWindow(CBRS_ALIGN_TOP);
+    EXPECT_EQ(in_frame(red).top, before);
+    EXPECT_TRUE(ui_test::pump_until(is_red));
+    red.DestroyWindow();
+}
+
 TEST_F(MenuBar, tells_assistive_programs_of_itself_and_its_items) {
     ::CoInitialize(nullptr);
     {
