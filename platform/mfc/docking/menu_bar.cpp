@@ -126,6 +126,9 @@ bool CMFCMenuBar::is_outdated() const {
     return at != GetCount();
 }
 
+/// Where an item stands in the menu, in which it isn't alone with items.
+UINT CMFCMenuBar::position_of(int index) const { return item_of(GetButton(index)).position(); }
+
 HMENU CMFCMenuBar::popup_of(int index) const {
     const CMFCToolBarButton* const button = GetButton(index);
     if (button == nullptr) return index == GetCount() && has_more() ? m_overflow.m_hMenu : nullptr;

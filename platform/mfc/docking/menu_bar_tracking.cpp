@@ -242,7 +242,7 @@ LRESULT CMFCMenuBar::on_menu_message(UINT message, WPARAM wParam, LPARAM lParam)
     const auto menu = reinterpret_cast<HMENU>(wParam);
     if (message == WM_INITMENUPOPUP) {
         // The frame is told where in its menu the item stands.
-        if (m_popups.empty() && m_open < GetCount()) lParam = MAKELPARAM(m_open, FALSE);
+        if (m_popups.empty() && m_open < GetCount()) lParam = MAKELPARAM(position_of(m_open), FALSE);
         m_popups.push_back(menu);
         if (menu == m_overflow.m_hMenu) return 0;
     } else if (message == WM_UNINITMENUPOPUP) {

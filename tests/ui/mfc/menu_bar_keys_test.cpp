@@ -26,6 +26,7 @@ TEST_F(MenuBarKeys, letters_that_no_item_can_be_opened_by_go_on_to_the_program) 
     frame->EnableWindow(FALSE);
     EXPECT_FALSE(alt(L'f'));
     frame->EnableWindow(TRUE);
+    EXPECT_FALSE(handed_out(view.m_hWnd, WM_CHAR, L'f'));
     EXPECT_TRUE(told().empty());
     // A command of its own is done at once.
     EXPECT_TRUE(alt(L'G'));
@@ -63,6 +64,7 @@ TEST_F(MenuBarKeys, a_lone_alt_gives_the_bar_the_focus_and_another_takes_it_back
     frame->EnableWindow(FALSE);
     lone_alt();
     EXPECT_NE(::GetFocus(), bar.m_hWnd);
+    EXPECT_EQ(bar.GetHighlightedButton(), -1);
     frame->EnableWindow(TRUE);
 }
 
@@ -122,6 +124,38 @@ TEST_F(MenuBarKeys, arrows_open_and_close_a_menu_inside_before_they_go_on) {
     alt(L'f');
     EXPECT_EQ(told(), (Told{"enter", "menu", "open 0", "on 2001", "open 2", "on 2002", "rest", "exit"}));
     EXPECT_EQ(bar.GetHighlightedButton(), 0);
+}
+
+TEST_F(MenuBarKeys, alt_in_an_open_menu_leaves_altogether) {
+    dock();
+    then({VK_UP, VK_RIGHT});
+    then({VK_ESCAPE, VK_MENU});  // an Escape before it closed the menu inside only
+    alt(L'f');
+    told();
+    EXPECT_EQ(::GetFocus(), view.m_hWnd);
+    EXPECT_EQ(bar.GetHighlightedButton(), -1);
+}
+
+TEST_F(MenuBarKeys, nothing_else_opens_while_a_menu_is_open) {
+    dock();
+    then_do([this] {
+        bar.open_by_letter(L'h');
+        EXPECT_EQ(bar.open_item(), 0);
+        ::PostMessageW(bar.m_hWnd, WM_KEYDOWN, VK_RETURN, 0);
+    });
+    alt(L'f');
+    EXPECT_EQ(told(), (Told{"enter", "menu", "open 0", "on 2001", "rest", "exit", "do 2001"}));
+}
+
+TEST_F(MenuBarKeys, the_mouse_takes_the_mark_of_the_keyboard_only_to_another_item) {
+    dock();
+    lone_alt();
+    send_mouse(bar.m_hWnd, WM_MOUSEMOVE, button_of(bar, 2), 0);  // disabled
+    EXPECT_EQ(bar.GetHighlightedButton(), 0);
+    bar.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(bar.GetHighlightedButton(), 0);
+    send_mouse(bar.m_hWnd, WM_MOUSEMOVE, button_of(bar, 1), 0);
+    EXPECT_EQ(bar.GetHighlightedButton(), 1);
 }
 
 TEST_F(MenuBarKeys, commands_are_updated_when_their_menu_opens) {

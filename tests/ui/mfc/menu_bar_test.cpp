@@ -70,6 +70,10 @@ TEST_F(MenuBar, follows_what_the_program_does_to_the_menu) {
     ASSERT_EQ(bar.GetCount(), 5);
     EXPECT_EQ(bar.GetButtonText(0), L"&Zero");
     EXPECT_EQ(bar.GetButtonText(3), L"&Locked");
+    ::RemoveMenu(all, 4, MF_BYPOSITION);
+    bar.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_EQ(bar.GetCount(), 4) << "the last has gone";
+    ::DestroyMenu(help);
     // A menu that the frame is given later is the bar's as well.
     HMENU const later = ::CreateMenu();
     add(later, popup({{kNew, L"x"}}), L"&Later");
@@ -113,7 +117,34 @@ TEST_F(MenuBar, pictures_and_gaps_of_a_menu_are_no_items) {
     EXPECT_EQ(bar.GetButtonText(0), L"&File");
     then({VK_ESCAPE});
     EXPECT_TRUE(alt(L'e'));
-    EXPECT_EQ(told(), (Told{"enter", "menu", "open 1", "on 2003", "rest", "exit"}));
+    // The frame is told where in the menu it stands.
+    EXPECT_EQ(told(), (Told{"enter", "menu", "open 2", "on 2003", "rest", "exit"}));
+    ::InsertMenuW(all, 0, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+    bar.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    then({VK_ESCAPE});
+    EXPECT_TRUE(alt(L'e'));
+    EXPECT_EQ(told(), (Told{"enter", "menu", "open 3", "on 2003", "rest", "exit"}));
+}
+
+constexpr wchar_t kProfile[] = L"SOFTWARE\\ktui tests\\menu bar";
+
+TEST_F(MenuBar, stands_above_what_a_state_without_it_brings_back) {
+    CMFCToolBar &first = docked_bar(), &second = docked_bar();
+    second.DockToFrameWindow(CBRS_ALIGN_TOP);
+    ASSERT_TRUE(manager().SaveState(kProfile));
+    dock();
+    ASSERT_GT(in_frame(bar).top, in_frame(first).top);
+    EXPECT_TRUE(manager().LoadState(kProfile));
+    EXPECT_EQ(in_frame(bar).top, 0);
+    EXPECT_EQ(in_frame(first).top, in_frame(bar).bottom);
+    EXPECT_EQ(in_frame(second).top, in_frame(first).bottom);
+    // With it, it comes back where it was.
+    frame->DockPane(&bar, AFX_IDW_DOCKBAR_BOTTOM);
+    ASSERT_TRUE(manager().SaveState(kProfile));
+    frame->DockPane(&bar, AFX_IDW_DOCKBAR_TOP);
+    EXPECT_TRUE(manager().LoadState(kProfile));
+    EXPECT_EQ(in_frame(bar).bottom, 500);
+    EXPECT_TRUE(bar.IsWindowVisible());
 }
 
 TEST_F(MenuBar, the_original_comes_from_a_resource_that_is_there) {
@@ -174,6 +205,12 @@ TEST_F(MenuBar, the_rows_above_stand_outside_of_classic_bars_while_there_is_a_me
     frame->RecalcLayout();
     EXPECT_EQ(in_frame(above).top, 0);
     EXPECT_EQ(in_frame(tools).top, in_frame(above).bottom);
+    // It is enough that there is one.
+    CMFCMenuBar other;
+    ASSERT_TRUE(other.Create(frame));
+    idle();
+    EXPECT_EQ(in_frame(tools).top, 0);
+    other.DestroyWindow();
     dock();
     idle();
     EXPECT_EQ(in_frame(tools).top, 0);

@@ -81,6 +81,7 @@ private:
     void fill();
     bool is_outdated() const;
     HMENU popup_of(int index) const;
+    UINT position_of(int index) const;
     int item_of_letter(wchar_t letter) const;
     int neighbour_with_menu(int from, int step) const;
 
