@@ -205,12 +205,14 @@ TEST_F(MenuBar, the_rows_above_stand_outside_of_classic_bars_while_there_is_a_me
     frame->RecalcLayout();
     EXPECT_EQ(in_frame(above).top, 0);
     EXPECT_EQ(in_frame(tools).top, in_frame(above).bottom);
-    // It is enough that there is one.
+    // It is enough that there is one, though it be empty.
+    ::SetMenu(frame->m_hWnd, nullptr);
     CMFCMenuBar other;
     ASSERT_TRUE(other.Create(frame));
     idle();
     EXPECT_EQ(in_frame(tools).top, 0);
     other.DestroyWindow();
+    ::SetMenu(frame->m_hWnd, all);
     dock();
     idle();
     EXPECT_EQ(in_frame(tools).top, 0);
