@@ -1,5 +1,5 @@
-// workbench.cpp : a frame with a menu bar, a toolbar and five panes, two of them in tabs, whose layout comes back the
-// next time
+// workbench.cpp : a frame with a menu bar, a toolbar and five panes, two of them in tabs, whose layout comes
+// back the next time
 //
 #include "stdafx.h"
 
@@ -174,7 +174,8 @@ CString CMainFrame::Describe() {
     }
     strState += m_wndToolBar.IsFloating() ? _T(" F") : m_wndToolBar.IsHorizontal() ? _T(" T") : _T(" L");
     strState += m_wndMenuBar.IsFloating() ? _T(" F") : m_wndMenuBar.IsHorizontal() ? _T(" T") : _T(" L");
-    if (GetMenu() != NULL || GetMenuBar() != &m_wndMenuBar || m_wndMenuBar.GetCount() != 3) strState += _T("!");
+    if (GetMenu() != NULL || GetMenuBar() != &m_wndMenuBar || m_wndMenuBar.GetCount() != 3)
+        strState += _T("!");
     return strState;
 }
 
