@@ -6,7 +6,7 @@
 void CMainFrame::enablePalettes() {
     const bool enable = IsWindowEnabled() && !m_isInCommand;
     m_palettes.Enable(enable);
-    m_toolBars.Enable(enable);
+    m_toolBars.Enable(IsWindowEnabled() != FALSE, enable);
 }
 
 /// When a dialog has gone, the window may come to lie on palettes that float.

@@ -16,23 +16,30 @@ UINT picturesOf(UINT bar) {
     return bar + larger;
 }
 
-bool createBar(CMFCToolBar& bar, CMDIFrameWndEx& frame, UINT id, UINT name) {
-    if (!bar.Create(&frame, AFX_DEFAULT_TOOLBAR_STYLE, id) || !bar.LoadToolBar(id)) return false;
-    const UINT pictures = picturesOf(id);
-    if (pictures != id && !bar.LoadBitmap(pictures)) return false;
+void nameBar(CMFCToolBar& bar, UINT name) {
     CString text;
     text.LoadString(name);
     bar.SetWindowText(text);
     bar.EnableDocking(CBRS_ALIGN_ANY);
+}
+
+bool createBar(CMFCToolBar& bar, CMDIFrameWndEx& frame, UINT id, UINT name) {
+    if (!bar.Create(&frame, AFX_DEFAULT_TOOLBAR_STYLE, id) || !bar.LoadToolBar(id)) return false;
+    const UINT pictures = picturesOf(id);
+    if (pictures != id && !bar.LoadBitmap(pictures)) return false;
+    nameBar(bar, name);
     return true;
 }
 
 }  // namespace
 
 bool CToolBars::Create(CMDIFrameWndEx& frame) {
+    if (!m_menu.Create(&frame)) return false;
+    nameBar(m_menu, IDS_MENU_BAR);
     if (!createBar(m_file, frame, IDR_FILE_BAR, IDS_FILE_BAR) ||
         !createBar(m_view, frame, IDR_VIEW_BAR, IDS_VIEW_BAR))
         return false;
+    frame.DockPane(&m_menu, AFX_IDW_DOCKBAR_TOP);
     frame.DockPane(&m_view, AFX_IDW_DOCKBAR_TOP);
     frame.DockPaneLeftOf(&m_file, &m_view);
     return true;
@@ -43,7 +50,8 @@ void CToolBars::Toggle(UINT command) {
     bar.ShowPane(!bar.IsVisible(), FALSE, FALSE);
 }
 
-void CToolBars::Enable(bool enable) {
+void CToolBars::Enable(bool menu, bool tools) {
+    if (m_menu.m_hWnd != nullptr) m_menu.EnableWindow(menu);
     for (CMFCToolBar* const bar : {&m_file, &m_view})
-        if (bar->m_hWnd != nullptr) bar->EnableWindow(enable);
+        if (bar->m_hWnd != nullptr) bar->EnableWindow(tools);
 }

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int kTabs = 0xE8FE;
+constexpr int kBars = 0xE81B;    // the site of the bars at the top
 constexpr int kMiddle = 0xE900;  // what bars and palettes leave of a frame
 constexpr const wchar_t* kDialogs = L"Software\\Velmora\\ktui\\Default\\1.0\\Dialogs\\";
 
@@ -20,7 +21,8 @@ std::wstring commandOf(const std::wstring& drawing, const std::wstring& folder,
 
 bool isFrame(HWND window) {
     return ::GetWindow(window, GW_OWNER) == nullptr &&
-           journey::textOf(window).find(L"Drafter") != std::wstring::npos && ::GetMenu(window) != nullptr;
+           journey::textOf(window).find(L"Drafter") != std::wstring::npos &&
+           ::GetDlgItem(window, kBars) != nullptr;
 }
 
 }  // namespace

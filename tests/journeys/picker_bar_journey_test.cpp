@@ -95,8 +95,8 @@ TEST_F(PickerBarJourney, InANarrowWindowTheSearchBoxIsInReachOfKeysAndMouse) {
             << id;
     }
     const RECT tools = rectOf(item(drafter->frame(), kToolBars)), tabs = rectOf(drafter->tabs());
-    EXPECT_EQ(bar.bottom, tools.top) << "the toolbars stand below all rows";
-    EXPECT_EQ(tools.bottom, tabs.top) << "and the drawing below them";
+    EXPECT_EQ(tools.bottom, bar.top) << "menu and toolbars stand above all rows";
+    EXPECT_EQ(bar.bottom, tabs.top) << "and the drawing below them";
     EXPECT_EQ(tabs.bottom, view.top);
     selectAll();
     drafter->key('F', true);

@@ -29,6 +29,7 @@ public:
     std::wstring value(LONG child = 0) const { return text(&IAccessible::get_accValue, child); }
     std::wstring description(LONG child = 0) const { return text(&IAccessible::get_accDescription, child); }
     std::wstring action(LONG child = 0) const { return text(&IAccessible::get_accDefaultAction, child); }
+    std::wstring keys(LONG child = 0) const { return text(&IAccessible::get_accKeyboardShortcut, child); }
     LONG role(LONG child = 0) const { return number(&IAccessible::get_accRole, child); }
     LONG state(LONG child = 0) const { return number(&IAccessible::get_accState, child); }
     CRect place(LONG child = 0) const {

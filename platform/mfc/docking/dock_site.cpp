@@ -11,6 +11,7 @@ IMPLEMENT_DYNAMIC(CDockSite, CBasePane)
 IMPLEMENT_DYNAMIC(CDockingPanesRow, CObject)
 
 BEGIN_MESSAGE_MAP(CDockSite, CBasePane)
+    ON_MESSAGE(WM_SIZEPARENT, &CDockSite::OnSizeParent)
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
     ON_WM_CAPTURECHANGED()
@@ -101,6 +102,19 @@ CSize CDockSite::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     const int deep = m_rows->thickness([this](PaneKey bar) { return extent_of(bar); });
     (bHorz ? size.cy : size.cx) = deep;
     return size;
+}
+
+/// What stands outside of the classic bars takes its room as they do.
+LRESULT CDockSite::OnSizeParent(WPARAM wParam, LPARAM lParam) {
+    if (!m_bars->is_outermost(*this)) return CBasePane::OnSizeParent(wParam, lParam);
+    auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+    CRect strip(layout.rect);
+    strip.bottom = std::min<LONG>(strip.top + CalcFixedLayout(TRUE, TRUE).cy, strip.bottom);
+    layout.rect.top = strip.bottom;
+    if (layout.hDWP != nullptr)
+        layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, nullptr, strip.left, strip.top, strip.Width(),
+                                       strip.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+    return 0;
 }
 
 void CDockSite::note_rows() {

@@ -36,6 +36,13 @@ public:
 
     /// The site of a side; null before there is one.
     CDockSite* site(Side side) const { return m_sites[static_cast<size_t>(side)].get(); }
+    /// Whether a site takes its room before the frame's classic bars: the one above, where there is a menu
+    /// bar.
+    bool is_outermost(const CDockSite& site) const;
+    /// How large that one is; nothing where there is none.
+    CSize outermost_size() const;
+    /// The frame has got a menu bar, or none any more.
+    void menu_bar_changed();
     /// In the order in which they take their room from the frame.
     std::vector<CDockSite*> sites() const;
     /// Moves the bars to where they belong in their sites.

@@ -3,6 +3,7 @@
 
 #include <kmfc/bar_frame_wnd.h>
 #include <kmfc/docking_manager.h>
+#include <kmfc/menu_bar.h>
 
 #include "docked_bars.h"
 #include "frame_state.h"
@@ -91,6 +92,12 @@ void DockedBars::restore(const std::vector<BarRecord>& records) {
             bool begins = true;
             for (const BarRows::Bar& bar : row) {
                 if (is_found(bar.bar)) continue;
+                if (bar.bar == key_of(m_manager.menu_bar())) {
+                    // The menu stands where one looks for it.
+                    next[static_cast<size_t>(one->side())].dock(bar.bar, {0, true, bar.offset}, one->length(),
+                                                                extents_at(one->side()));
+                    continue;
+                }
                 next[static_cast<size_t>(one->side())].append(bar, begins);
                 begins = false;
             }

@@ -2,6 +2,7 @@
 #include <kmfc/auto_hide_bar.h>
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
+#include <kmfc/menu_bar.h>
 #include <kmfc/visual_manager.h>
 
 #include "docked_bars.h"
@@ -55,7 +56,8 @@ void CDockingManager::take_fixed(CRect& rest) {
         m_state->fixed[pane] = take_strip(*pane, rest);
     }
     if (m_state->bars == nullptr) return;
-    for (CDockSite* site : m_state->bars->sites()) m_state->fixed[site] = take_strip(*site, rest);
+    for (CDockSite* site : m_state->bars->sites())
+        if (!m_state->bars->is_outermost(*site)) m_state->fixed[site] = take_strip(*site, rest);
 }
 
 bool CDockingManager::planned_rect(const CBasePane* pane, CRect& rect) const {
@@ -96,8 +98,12 @@ void CDockingManager::layout_frame(CRect& border, const std::function<void()>& l
     hide_unplanned();
     border.SetRect(center.left - free.left, center.top - free.top, free.right - center.right,
                    free.bottom - center.bottom);
+    const CSize rowsBefore = m_state->bars != nullptr ? m_state->bars->outermost_size() : CSize(0, 0);
     layoutBars();
     m_bInLayout = FALSE;
+    // Classic bars have come to where rows were, which the frame is about to erase.
+    if (m_state->bars != nullptr && m_state->bars->outermost_size() != rowsBefore)
+        m_pParentWnd->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     if (m_state->bars != nullptr) m_state->bars->arrange();
     for (CMFCAutoHideBar* bar : CMFCAutoHideBar::of_frame(m_pParentWnd)) bar->follow_frame();
 }
@@ -152,6 +158,7 @@ void CDockingManager::OnActivateFrame(BOOL) {
 
 void CDockingManager::frame_goes() {
     m_state->drag.reset();
+    CMFCMenuBar* const menuBar = std::exchange(m_state->menuBar, nullptr);
     if (m_state->bars != nullptr) m_state->bars->frame_goes();
     m_state->dividers.clear();
     CObList panes;
@@ -165,4 +172,6 @@ void CDockingManager::frame_goes() {
     m_state->layout = FrameLayout();
     m_state->now = Arrangement();
     m_pParentWnd = nullptr;
+    // Nothing is laid out for the menu that comes back.
+    if (menuBar != nullptr) menuBar->frame_goes();
 }

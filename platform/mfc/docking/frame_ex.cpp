@@ -3,6 +3,7 @@
 #include <kmfc/pane_frame_wnd.h>
 #include <kmfc/win_app_ex.h>
 
+#include "../window/frame_menu.h"
 #include "frame_state.h"
 
 IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
@@ -13,7 +14,9 @@ BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_WM_CLOSE()
     ON_WM_ACTIVATE()
     ON_WM_NCACTIVATE()
+    ON_WM_SYSCOMMAND()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::OnIdleUpdateCmdUI)
+    ON_REGISTERED_MESSAGE(kmfc::frame_menu_message, &CFrameWndEx::OnFrameMenu)
 END_MESSAGE_MAP()
 
 CFrameWndEx::CFrameWndEx() = default;

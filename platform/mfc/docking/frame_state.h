@@ -54,6 +54,7 @@ struct FrameState {
     Dividers dividers;
     std::unique_ptr<Drag> drag;
     std::unique_ptr<DockedBars> bars;  ///< from the first question for them on
+    CMFCMenuBar* menuBar = nullptr;    ///< what shows the frame's menu, or null
     HWND active = nullptr;             ///< the pane that had the focus when captions were drawn last
 };
 

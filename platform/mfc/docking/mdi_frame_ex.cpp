@@ -1,4 +1,5 @@
 // CMDIFrameWndEx and CMDIChildWndEx.
+#include "../window/frame_menu.h"
 #include "document_tabs.h"
 #include "frame_state.h"
 
@@ -13,7 +14,9 @@ BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
     ON_WM_CLOSE()
     ON_WM_ACTIVATE()
     ON_WM_NCACTIVATE()
+    ON_WM_SYSCOMMAND()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::OnIdleUpdateCmdUI)
+    ON_REGISTERED_MESSAGE(kmfc::frame_menu_message, &CMDIFrameWndEx::OnFrameMenu)
     ON_REGISTERED_MESSAGE(AFX_WM_CHANGE_ACTIVE_TAB, &CMDIFrameWndEx::OnChangeActiveTab)
     ON_UPDATE_COMMAND_UI(ID_WINDOW_ARRANGE, &CMDIFrameWndEx::OnUpdateArranging)
     ON_UPDATE_COMMAND_UI(ID_WINDOW_CASCADE, &CMDIFrameWndEx::OnUpdateArranging)

@@ -13,6 +13,7 @@ BEGIN_MESSAGE_MAP(CPaneFrameWnd, CWnd)
     ON_WM_DESTROY()
     ON_WM_CLOSE()
     ON_WM_PAINT()
+    ON_WM_SYSCOMMAND()
     ON_WM_NCCALCSIZE()
     ON_WM_NCPAINT()
     ON_WM_NCHITTEST()
@@ -231,4 +232,10 @@ BOOL CPaneFrameWnd::PreTranslateMessage(MSG* pMsg) {
         return TRUE;
     }
     return CWnd::PreTranslateMessage(pMsg);
+}
+
+/// A lone Alt is for the menu bar of the main window.
+void CPaneFrameWnd::OnSysCommand(UINT nID, LPARAM lParam) {
+    if (m_pDockManager == nullptr || !m_pDockManager->enters_menu(nID, lParam))
+        CWnd::OnSysCommand(nID, lParam);
 }

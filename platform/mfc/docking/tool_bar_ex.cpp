@@ -3,6 +3,7 @@
 
 #include <kmfc/dock_site.h>
 #include <kmfc/global_data.h>
+#include <kmfc/menu_images.h>
 #include <kmfc/mem_dc.h>
 #include <kmfc/pane_frame_wnd.h>
 #include <kmfc/visual_manager.h>
@@ -21,7 +22,7 @@ CSize CMFCToolBar::m_sizeImage(16, 15);
 namespace {
 
 // Pixels at 96 dots an inch.
-constexpr int kGripper = 8, kSeparator = 7;
+constexpr int kGripper = 8, kSeparator = 7, kMore = 12;
 constexpr int kAroundImage = 7;  // that a button of a resource is larger than its picture
 
 }  // namespace
@@ -248,7 +249,8 @@ CSize CMFCToolBar::GetImageSize() const {
 
 BOOL CMFCToolBar::IsUpright() const { return !IsFloating() && !IsHorizontal(); }
 
-ToolLayout CMFCToolBar::layout_of(ToolShape shape, int width) {
+/// `room` is the width of a wrapped bar, and the length of another; 0 for what it needs.
+ToolLayout CMFCToolBar::layout_of(ToolShape shape, int room) {
     CClientDC dc(this);
     std::vector<ToolItem> items;
     const CSize size = GetButtonSize();
@@ -265,7 +267,10 @@ ToolLayout CMFCToolBar::layout_of(ToolShape shape, int width) {
     metrics.gripper = shape != ToolShape::wrapped && m_bHasGripper ? afxGlobalData.scaled(kGripper) : 0;
     metrics.margin = m_borders.left;
     metrics.separator = afxGlobalData.scaled(kSeparator);
-    return lay_tools(items, metrics, shape, width);
+    metrics.more = afxGlobalData.scaled(kMore);
+    ToolLayout layout = lay_tools(items, metrics, shape, room);
+    if (room > 0) shorten_tools(layout, items, metrics, shape, room);
+    return layout;
 }
 
 ToolLayout CMFCToolBar::layout_as_it_stands() {
@@ -275,7 +280,11 @@ ToolLayout CMFCToolBar::layout_as_it_stands() {
         GetClientRect(&client);
         return layout_of(ToolShape::wrapped, m_wide > 0 ? client.Width() : kUnlimited);
     }
-    return layout_of(IsUpright() ? ToolShape::column : ToolShape::row, 0);
+    // One that docks nowhere yet has no length of its own.
+    CRect room(0, 0, 0, 0);
+    if (GetParentDockSite() != nullptr) GetClientRect(&room);
+    return IsUpright() ? layout_of(ToolShape::column, room.Height())
+                       : layout_of(ToolShape::row, room.Width());
 }
 
 CSize CMFCToolBar::CalcSize(BOOL bVertDock) {
@@ -309,9 +318,10 @@ void CMFCToolBar::GetGripperRect(CRect& rect) const {
 }
 
 void CMFCToolBar::GetMinSize(CSize& size) const {
-    // The gripper and one button.
+    // The gripper, one button, and the one for more.
     const int gripper = m_bHasGripper ? afxGlobalData.scaled(kGripper) : 0;
-    size = GetButtonSize() + CSize(gripper + 2 * m_borders.left, gripper + 2 * m_borders.left);
+    const int around = gripper + afxGlobalData.scaled(kMore) + 2 * m_borders.left;
+    size = GetButtonSize() + CSize(around, around);
 }
 
 void CMFCToolBar::AdjustLayout() {
@@ -321,6 +331,8 @@ void CMFCToolBar::AdjustLayout() {
         GetButton(i)->SetRect(layout.items[static_cast<size_t>(i)]);
         GetButton(i)->m_bWrap = layout.endsRow[static_cast<size_t>(i)];
     }
+    m_more = layout.more;
+    if (m_iHighlighted != -1 && part_rect(m_iHighlighted).IsRectEmpty()) highlight(-1);
     Invalidate();
 }
 
@@ -337,8 +349,7 @@ void CMFCToolBar::buttons_changed() {
 // Painting.
 
 void CMFCToolBar::redraw_button(int index) {
-    const CMFCToolBarButton* const button = GetButton(index);
-    if (button != nullptr && m_hWnd != nullptr) InvalidateRect(button->Rect(), FALSE);
+    if (m_hWnd != nullptr && index >= 0) InvalidateRect(part_rect(index), FALSE);
 }
 
 void CMFCToolBar::DoPaint(CDC* pDC) {
@@ -360,6 +371,9 @@ void CMFCToolBar::DoPaint(CDC* pDC) {
         else
             DrawButton(dc, button, horizontal, i == m_iHighlighted && (m_iPressed == -1 || m_iPressed == i));
     }
+    if (has_more())
+        look->draw_flat_button(dc, m_more, CMenuImages::IdMoreButtons, m_iHighlighted == GetCount(), false,
+                               true);
 }
 
 void CMFCToolBar::DrawButton(CDC* pDC, CMFCToolBarButton* pButton, BOOL bHorz, BOOL bHighlight) {

@@ -6,6 +6,8 @@
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame.h>
 
+#include "../res/kmfc_ids.h"
+#include "bar_accessible.h"
 #include "docked_bars.h"
 #include "frame_state.h"
 
@@ -26,6 +28,8 @@ BEGIN_MESSAGE_MAP(CMFCToolBar, CPane)
     ON_WM_KEYDOWN()
     ON_WM_GETDLGCODE()
     ON_WM_SHOWWINDOW()
+    ON_MESSAGE(WM_GETOBJECT, &CMFCToolBar::OnGetObject)
+    ON_REGISTERED_MESSAGE(press_part_message, &CMFCToolBar::OnPressPart)
 END_MESSAGE_MAP()
 
 int CMFCToolBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -35,30 +39,27 @@ int CMFCToolBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return 0;
 }
 
-bool CMFCToolBar::is_pressable(int index) const {
-    const CMFCToolBarButton* const button = GetButton(index);
-    return button != nullptr && !button->IsSeparator() && !button->IsHidden() && button->IsEnabled();
-}
-
 // Hot buttons.
 
 CWnd* CMFCToolBar::frame_of_messages() const { return (m_dwStyle & CBRS_FLYBY) != 0 ? m_pDockSite : nullptr; }
 
 void CMFCToolBar::tell_frame(int index) {
     CWnd* const frame = frame_of_messages();
+    // What opens a menu has no command, and nothing to say.
+    if (index >= 0 && index < GetCount() && GetItemID(index) == 0) index = -1;
     if (index == m_told || frame->GetSafeHwnd() == nullptr) return;
     m_told = index;
     if (index != -1)
-        frame->SendMessage(WM_SETMESSAGESTRING, GetItemID(index));
+        frame->SendMessage(WM_SETMESSAGESTRING, index == GetCount() ? IDS_BAR_MORE : GetItemID(index));
     else
         frame->SendMessage(WM_POPMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
 }
 
 void CMFCToolBar::highlight(int index) {
     const CMFCToolBarButton* const button = GetButton(index);
-    if (button == nullptr || button->IsSeparator()) index = -1;
+    if (button != nullptr ? button->IsSeparator() != FALSE : !has_more()) index = -1;
     tell_frame(index);
-    if (index != -1 && !button->IsEnabled()) index = -1;
+    if (index != -1 && !is_enabled(index)) index = -1;
     if (index == m_iHighlighted) return;
     redraw_button(m_iHighlighted);
     m_iHighlighted = index;
@@ -86,7 +87,7 @@ void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point) {
         SetButtonStyle(m_iPressed, over ? button->m_nStyle | TBBS_PRESSED : button->m_nStyle & ~TBBS_PRESSED);
         return;
     }
-    highlight(HitTest(point));
+    highlight(part_at(point));
     TRACKMOUSEEVENT leave = {sizeof(leave), TME_LEAVE, m_hWnd, 0};
     ::TrackMouseEvent(&leave);
 }
@@ -108,9 +109,10 @@ void CMFCToolBar::OnLButtonDown(UINT, CPoint point) {
         SetCapture();
         return;
     }
-    const int index = HitTest(point);
+    const int index = part_at(point);
     if (!is_pressable(index)) return;
     highlight(index);
+    if (index == GetCount()) return open_more();
     m_iPressed = index;
     SetButtonStyle(index, GetButtonStyle(index) | TBBS_PRESSED);
     SetCapture();
@@ -190,11 +192,13 @@ UINT CMFCToolBar::OnGetDlgCode() { return DLGC_WANTARROWS | DLGC_WANTCHARS; }
 
 /// The next button in a direction that can be pressed, around the ends.
 void CMFCToolBar::mark_next(int from, int step) {
-    const int count = GetCount();
+    // The button for more comes behind the others.
+    const int count = GetCount() + 1;
     for (int i = 1; i <= count; ++i) {
         const int index = ((from + i * step) % count + count) % count;
         if (!is_pressable(index)) continue;
         highlight(index);
+        if (::GetFocus() == m_hWnd) tell_part_marked(*this, index + 1);
         return;
     }
 }
@@ -209,7 +213,7 @@ void CMFCToolBar::OnKeyDown(UINT nChar, UINT, UINT) {
         case VK_END: mark_next(0, -1); break;
         case VK_RETURN:
         case VK_SPACE:
-            if (is_pressable(m_iHighlighted)) SendCommand(GetButton(m_iHighlighted));
+            if (is_pressable(m_iHighlighted)) press(m_iHighlighted);
             break;
         case VK_ESCAPE:
             if (m_pDockSite->GetSafeHwnd() != nullptr) m_pDockSite->SetFocus();
@@ -219,16 +223,17 @@ void CMFCToolBar::OnKeyDown(UINT nChar, UINT, UINT) {
 }
 
 INT_PTR CMFCToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
-    const int index = HitTest(point);
+    const int index = part_at(point);
     const CMFCToolBarButton* const button = GetButton(index);
-    if (button == nullptr || button->IsSeparator() || button->m_nID == 0) return -1;
+    if (button != nullptr ? button->IsSeparator() || button->m_nID == 0 : index == -1) return -1;
+    const UINT command = button != nullptr ? button->m_nID : IDS_BAR_MORE;
     if (pTI != nullptr && pTI->cbSize >= TTTOOLINFOW_V1_SIZE) {
         pTI->hwnd = m_hWnd;
-        pTI->rect = button->Rect();
-        pTI->uId = static_cast<UINT_PTR>(button->m_nID);
+        pTI->rect = part_rect(index);
+        pTI->uId = static_cast<UINT_PTR>(command);
         pTI->lpszText = LPSTR_TEXTCALLBACKW;
     }
-    return static_cast<INT_PTR>(button->m_nID);
+    return static_cast<INT_PTR>(command);
 }
 
 // Docking.

@@ -13,6 +13,7 @@
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame_ex.h>
 #include <kmfc/mdi_frame_ex.h>
+#include <kmfc/menu_bar.h>
 #include <kmfc/global_data.h>
 #include <kmfc/pane.h>
 #include <kmfc/pane_divider.h>

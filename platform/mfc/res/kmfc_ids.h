@@ -24,5 +24,10 @@
 #define IDS_PANE_FLOAT 30743
 #define IDS_PANE_DOCK 30744
 #define IDS_PANE_HIDE 30745
+// Of toolbars: the button for what has no room, and what assistive programs call pressing a button and
+// opening a menu.
+#define IDS_BAR_MORE 30746
+#define IDS_BAR_PRESS 30747
+#define IDS_BAR_OPEN 30748
 
 #endif

@@ -3,6 +3,8 @@
 #include <kmfc/mdi_frame.h>
 #include <kmfc/view.h>
 
+#include "frame_menu.h"
+
 IMPLEMENT_DYNCREATE(CMDIChildWnd, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMDIChildWnd, CFrameWnd)
@@ -204,11 +206,7 @@ void CMDIChildWnd::OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeac
         menu = m_hMenuShared != nullptr ? m_hMenuShared : frame->m_hMenuDefault;
     else if (pActivateWnd == nullptr)
         menu = frame->m_hMenuDefault;  // the last child goes
-    if (menu != nullptr && menu != ::GetMenu(frame->m_hWnd)) {
-        HMENU windows = frame->GetWindowMenuPopup(menu);
-        ::SendMessageW(frame->m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(menu),
-                       reinterpret_cast<LPARAM>(windows));
-        ::DrawMenuBar(frame->m_hWnd);
-    }
+    if (menu != nullptr && menu != kmfc::menu_of_frame(frame->m_hWnd))
+        kmfc::set_frame_menu(frame->m_hWnd, frame->m_hWndMDIClient, menu, frame->GetWindowMenuPopup(menu));
     frame->OnUpdateFrameTitle(TRUE);
 }

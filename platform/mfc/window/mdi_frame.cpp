@@ -4,6 +4,8 @@
 #include <kmfc/mdi_frame.h>
 #include <kmfc/view.h>
 
+#include "frame_menu.h"
+
 IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMDIFrameWnd, CFrameWnd)
@@ -42,7 +44,7 @@ LRESULT CMDIFrameWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
 BOOL CMDIFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd,
                              CCreateContext* pContext) {
     if (!CFrameWnd::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext)) return FALSE;
-    m_hMenuDefault = ::GetMenu(m_hWnd);
+    m_hMenuDefault = kmfc::menu_of_frame(m_hWnd);
     return TRUE;
 }
 
@@ -130,8 +132,7 @@ void CMDIFrameWnd::MDICascade(int nType) {
 CMenu* CMDIFrameWnd::MDISetMenu(CMenu* pFrameMenu, CMenu* pWindowMenu) {
     HMENU bar = pFrameMenu != nullptr ? pFrameMenu->m_hMenu : nullptr;
     HMENU windows = pWindowMenu != nullptr ? pWindowMenu->m_hMenu : nullptr;
-    return CMenu::FromHandle(reinterpret_cast<HMENU>(::SendMessageW(
-        m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(bar), reinterpret_cast<LPARAM>(windows))));
+    return CMenu::FromHandle(kmfc::set_frame_menu(m_hWnd, m_hWndMDIClient, bar, windows));
 }
 
 CFrameWnd* CMDIFrameWnd::GetActiveFrame() {

@@ -6,6 +6,8 @@
 
 #include <kmfc/frame.h>
 
+#include "bar_item_request.h"
+
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CStatusBar, CControlBar)
@@ -221,9 +223,9 @@ CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
 namespace {
 
 /// A pane that is asked for its state and text.
-class PaneRequest : public CCmdUI {
+class PaneRequest : public kmfc::BarItemRequest {
 public:
-    explicit PaneRequest(CStatusBar& bar) : m_bar(bar) { m_pOther = &bar; }
+    explicit PaneRequest(CStatusBar& bar) : BarItemRequest(bar), m_bar(bar) {}
 
     void Enable(BOOL bOn) override {
         m_bEnableChanged = TRUE;
@@ -234,29 +236,21 @@ public:
         const UINT style = m_bar.GetPaneStyle(index());
         m_bar.SetPaneStyle(index(), nCheck != 0 ? style | SBPS_POPOUT : style & ~SBPS_POPOUT);
     }
-    void SetRadio(BOOL bOn) override { SetCheck(bOn ? 1 : 0); }
     void SetText(LPCTSTR lpszText) override { m_bar.SetPaneText(index(), lpszText); }
 
+protected:
+    UINT command_of(int index) override { return m_bar.GetItemID(index); }
+
 private:
-    int index() const { return static_cast<int>(m_nIndex); }
     CStatusBar& m_bar;
 };
 
 }  // namespace
 
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
-    PaneRequest request(*this);
-    request.m_nIndexMax = static_cast<UINT>(count());
-    for (request.m_nIndex = 0; request.m_nIndex < request.m_nIndexMax; ++request.m_nIndex) {
-        const int index = static_cast<int>(request.m_nIndex);
-        if (pane(index).isChanged) show_pane(index);
-        request.m_nID = pane(index).id;
-        request.m_bContinueRouting = FALSE;
-        if (request.m_nID != 0 && CWnd::OnCmdMsg(request.m_nID, CN_UPDATE_COMMAND_UI, &request, nullptr) &&
-            !request.m_bContinueRouting)
-            continue;
-        // A pane that nobody answers for stays as it is.
-        request.DoUpdate(pTarget, FALSE);
-    }
+    for (int i = 0; i < count(); ++i)
+        if (pane(i).isChanged) show_pane(i);
+    // A pane that nobody answers for stays as it is.
+    PaneRequest(*this).ask_all(count(), pTarget, FALSE);
     UpdateDialogControls(pTarget, bDisableIfNoHndler);
 }

@@ -6,6 +6,7 @@
 
 #include <kmfc/frame.h>
 
+#include "bar_item_request.h"
 #include "tool_bar_resource.h"
 
 IMPLEMENT_DYNAMIC(CToolBar, CControlBar)
@@ -336,45 +337,8 @@ INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
     return -1;
 }
 
-/// A button that is asked for its state.
-class CToolCmdUI : public CCmdUI {
-public:
-    explicit CToolCmdUI(CToolBar& bar) : m_bar(bar) { m_pOther = &bar; }
-
-    void Enable(BOOL bOn) override {
-        m_bEnableChanged = TRUE;
-        UINT style = m_bar.GetButtonStyle(index()) & ~TBBS_DISABLED;
-        // A button that is disabled is let go.
-        if (!bOn) style = (style | TBBS_DISABLED) & ~TBBS_PRESSED;
-        m_bar.SetButtonStyle(index(), style);
-    }
-    void SetCheck(int nCheck) override {
-        UINT style = m_bar.GetButtonStyle(index()) & ~(TBBS_CHECKED | TBBS_INDETERMINATE);
-        if (nCheck == 1) style |= TBBS_CHECKED;
-        if (nCheck == 2) style |= TBBS_INDETERMINATE;
-        m_bar.SetButtonStyle(index(), style | TBBS_CHECKBOX);
-    }
-    void SetRadio(BOOL bOn) override { SetCheck(bOn ? 1 : 0); }
-    void SetText(LPCTSTR) override {}
-
-private:
-    int index() const { return static_cast<int>(m_nIndex); }
-    CToolBar& m_bar;
-};
-
 void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
-    CToolCmdUI request(*this);
-    request.m_nIndexMax = static_cast<UINT>(m_nCount);
-    for (request.m_nIndex = 0; request.m_nIndex < request.m_nIndexMax; ++request.m_nIndex) {
-        TBBUTTON info;
-        if (!button(static_cast<int>(request.m_nIndex), info) || (info.fsStyle & TBSTYLE_SEP)) continue;
-        request.m_nID = static_cast<UINT>(info.idCommand);
-        request.m_bContinueRouting = FALSE;
-        if (CWnd::OnCmdMsg(request.m_nID, CN_UPDATE_COMMAND_UI, &request, nullptr) &&
-            !request.m_bContinueRouting)
-            continue;
-        request.DoUpdate(pTarget, bDisableIfNoHndler);
-    }
+    kmfc::ButtonRequest(*this).ask_all(m_nCount, pTarget, bDisableIfNoHndler);
     // Controls that stand in the bar.
     UpdateDialogControls(pTarget, bDisableIfNoHndler);
 }

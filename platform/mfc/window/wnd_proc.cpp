@@ -4,6 +4,7 @@
 #include <kmfc/app.h>
 #include <kmfc/frame.h>
 
+#include "frame_menu.h"
 #include "message_dispatch.h"
 #include "thread_state.h"
 
@@ -305,7 +306,8 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
 
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     if (lpMeasureItemStruct->CtlType == ODT_MENU) {
-        if (CMenu* menu = GetMenu()) menu->MeasureItem(lpMeasureItemStruct);
+        if (CMenu* menu = CMenu::FromHandle(kmfc::menu_of_frame(m_hWnd)))
+            menu->MeasureItem(lpMeasureItemStruct);
         return;
     }
     // While a control is being created it has no permanent object yet; its parent answers by default.

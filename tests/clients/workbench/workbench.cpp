@@ -1,5 +1,5 @@
-// workbench.cpp : a frame with a toolbar and five panes, two of them in tabs, whose layout comes back the
-// next time
+// workbench.cpp : a frame with a menu bar, a toolbar and five panes, two of them in tabs, whose layout comes
+// back the next time
 //
 #include "stdafx.h"
 
@@ -62,6 +62,7 @@ protected:
     DECLARE_DYNAMIC(CMainFrame)
 
     CStatusBar m_wndStatusBar;
+    CMFCMenuBar m_wndMenuBar;
     CMFCToolBar m_wndToolBar;
     CListPane m_wndLayers;
     CListPane m_wndBlocks;
@@ -104,6 +105,11 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         TRACE0("Failed to create status bar\n");
         return -1;
     }
+    if (!m_wndMenuBar.Create(this)) {
+        TRACE0("Failed to create menubar\n");
+        return -1;
+    }
+    m_wndMenuBar.SetPaneStyle(m_wndMenuBar.GetPaneStyle() | CBRS_SIZE_DYNAMIC | CBRS_TOOLTIPS | CBRS_FLYBY);
     if (!m_wndToolBar.Create(this, AFX_DEFAULT_TOOLBAR_STYLE, IDR_TOOLBAR)) {
         TRACE0("Failed to create toolbar\n");
         return -1;
@@ -125,7 +131,9 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     }
     EnableDocking(CBRS_ALIGN_ANY);
+    m_wndMenuBar.EnableDocking(CBRS_ALIGN_ANY);
     m_wndToolBar.EnableDocking(CBRS_ALIGN_ANY);
+    DockPane(&m_wndMenuBar);
     DockPane(&m_wndToolBar);
     m_wndLayers.EnableDocking(CBRS_ALIGN_ANY);
     DockPane(&m_wndLayers);
@@ -152,7 +160,7 @@ LPCTSTR CMainFrame::PaneName(UINT nID) {
 }
 
 // A letter for each pane: hidden, tabbed, docked or floating; then the toolbar: at the top, at the left or
-// floating
+// floating; then the menu bar, and whether it holds all of the menu
 CString CMainFrame::Describe() {
     CString strState;
     for (UINT nID = ID_VIEW_LAYERS; nID <= ID_VIEW_NOTES; nID++) {
@@ -165,6 +173,9 @@ CString CMainFrame::Describe() {
             strState += pPane->IsFloating() ? _T('f') : _T('d');
     }
     strState += m_wndToolBar.IsFloating() ? _T(" F") : m_wndToolBar.IsHorizontal() ? _T(" T") : _T(" L");
+    strState += m_wndMenuBar.IsFloating() ? _T(" F") : m_wndMenuBar.IsHorizontal() ? _T(" T") : _T(" L");
+    if (GetMenu() != NULL || GetMenuBar() != &m_wndMenuBar || m_wndMenuBar.GetCount() != 3)
+        strState += _T("!");
     return strState;
 }
 
@@ -195,11 +206,13 @@ void CMainFrame::OnWindowDock() {
 
 void CMainFrame::OnToolsFloat() {
     m_wndToolBar.FloatPane(CRect(450, 200, 560, 200));
+    m_wndMenuBar.FloatPane(CRect(450, 300, 450, 300));
     PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
 }
 
 void CMainFrame::OnToolsDock() {
     DockPane(&m_wndToolBar, AFX_IDW_DOCKBAR_LEFT);
+    DockPane(&m_wndMenuBar, AFX_IDW_DOCKBAR_TOP);
     PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
 }
 

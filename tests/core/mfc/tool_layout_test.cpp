@@ -78,4 +78,65 @@ TEST(ToolLayout, without_room_each_button_has_a_row_and_without_buttons_there_is
     EXPECT_EQ(lay_tools({gap()}, kMetrics, ToolShape::wrapped, 100).size, CSize(2, 4));
 }
 
+ToolLayout shortened(const std::vector<ToolItem>& items, ToolShape shape, int room,
+                     ToolMetrics metrics = {7, 2, 6, 10}) {
+    ToolLayout layout = lay_tools(items, metrics, shape, room);
+    shorten_tools(layout, items, metrics, shape, room);
+    return layout;
+}
+
+TEST(ToolLayout, what_fits_exactly_is_left_as_it_is) {
+    // The gripper, three buttons and the margins.
+    const ToolLayout fits = shortened({button(), button(), button()}, ToolShape::row, 71);
+    EXPECT_TRUE(fits.more.IsRectEmpty());
+    EXPECT_EQ(fits.items[2], CRect(49, 2, 69, 24));
+    const ToolLayout less = shortened({button(), button(), button()}, ToolShape::row, 70);
+    EXPECT_FALSE(less.more.IsRectEmpty());
+    EXPECT_TRUE(less.items[2].IsRectEmpty());
+    EXPECT_TRUE(shortened({button(), button()}, ToolShape::wrapped, 10).more.IsRectEmpty());
+}
+
+TEST(ToolLayout, the_button_for_more_ends_the_row_and_takes_what_has_no_room_before_it) {
+    const std::vector<ToolItem> four{button(), button(), button(), button()};
+    // Two buttons end at 49, and the one for more begins there.
+    const ToolLayout two = shortened(four, ToolShape::row, 61);
+    EXPECT_EQ(two.items[1], CRect(29, 2, 49, 24));
+    EXPECT_TRUE(two.items[2].IsRectEmpty());
+    EXPECT_TRUE(two.items[3].IsRectEmpty());
+    EXPECT_EQ(two.more, CRect(49, 2, 59, 24));
+    const ToolLayout one = shortened(four, ToolShape::row, 60);
+    EXPECT_FALSE(one.items[0].IsRectEmpty());
+    EXPECT_TRUE(one.items[1].IsRectEmpty());
+    EXPECT_EQ(one.more, CRect(48, 2, 58, 24));
+    // What is narrower doesn't overtake what is wider.
+    const ToolLayout order = shortened({button(), button(200), button(5)}, ToolShape::row, 61);
+    EXPECT_FALSE(order.items[0].IsRectEmpty());
+    EXPECT_TRUE(order.items[1].IsRectEmpty());
+    EXPECT_TRUE(order.items[2].IsRectEmpty());
+}
+
+TEST(ToolLayout, a_column_is_shortened_from_below) {
+    const ToolLayout column = shortened({button(), button(), button()}, ToolShape::column, 65);
+    EXPECT_EQ(column.items[1], CRect(2, 31, 22, 53));
+    EXPECT_TRUE(column.items[2].IsRectEmpty());
+    EXPECT_EQ(column.more, CRect(2, 53, 22, 63));
+    EXPECT_TRUE(shortened({button(), button(), button()}, ToolShape::column, 64).items[1].IsRectEmpty());
+}
+
+TEST(ToolLayout, no_gap_and_nothing_hidden_stands_before_the_button_for_more) {
+    const std::vector<ToolItem> items{button(), gap(), hidden(), gap(), button(), button()};
+    const ToolLayout layout = shortened(items, ToolShape::row, 58);
+    EXPECT_FALSE(layout.items[0].IsRectEmpty());
+    for (size_t i = 1; i < items.size(); ++i) EXPECT_TRUE(layout.items[i].IsRectEmpty()) << i;
+    EXPECT_FALSE(layout.more.IsRectEmpty());
+}
+
+TEST(ToolLayout, without_any_room_the_button_for_more_stands_behind_the_gripper) {
+    for (const int room : {12, 1, 0, -100}) {
+        const ToolLayout layout = shortened({button(), button()}, ToolShape::row, room);
+        EXPECT_TRUE(layout.items[0].IsRectEmpty());
+        EXPECT_EQ(layout.more, CRect(9, 2, 19, 24)) << room;
+    }
+}
+
 }  // namespace

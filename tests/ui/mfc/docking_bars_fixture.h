@@ -30,7 +30,7 @@ protected:
 
 class DockingBars : public Docking {
 protected:
-    DockingBars() : Docking(WS_VISIBLE, new BarsFrame) {}
+    explicit DockingBars(BarsFrame* made = new BarsFrame) : Docking(WS_VISIBLE, made) {}
     ~DockingBars() override {
         for (auto& bar : bars) bar->DestroyWindow();
     }

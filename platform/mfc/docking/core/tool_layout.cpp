@@ -118,4 +118,22 @@ ToolLayout lay_tools(const std::vector<ToolItem>& items, const ToolMetrics& metr
     }
 }
 
+void shorten_tools(ToolLayout& layout, const std::vector<ToolItem>& items, const ToolMetrics& metrics,
+                   ToolShape shape, int room) {
+    const bool upright = shape == ToolShape::column;
+    const int whole = upright ? layout.size.cy : layout.size.cx;
+    if (shape == ToolShape::wrapped || whole <= room) return;
+    // A bar that is shorter still than its gripper and the button keeps both.
+    const int end = std::max(room - metrics.margin - metrics.more, metrics.margin + metrics.gripper);
+    size_t kept = 0;
+    while (kept < items.size() && (upright ? layout.items[kept].bottom : layout.items[kept].right) <= end)
+        ++kept;
+    while (kept > 0 && (items[kept - 1].separator || items[kept - 1].hidden)) --kept;
+    for (size_t i = kept; i < items.size(); ++i) layout.items[i].SetRectEmpty();
+    if (upright)
+        layout.more.SetRect(metrics.margin, end, layout.size.cx - metrics.margin, end + metrics.more);
+    else
+        layout.more.SetRect(end, metrics.margin, end + metrics.more, layout.size.cy - metrics.margin);
+}
+
 }  // namespace kmfc::docking

@@ -1,4 +1,5 @@
-// Where the buttons of a toolbar stand: in a row, in a column, or in several rows. No windows here.
+// Where the buttons of a toolbar stand: in a row, in a column, or in several rows, and which of them a bar
+// that was shortened has room for. No windows here.
 #pragma once
 
 #include <vector>
@@ -18,6 +19,7 @@ struct ToolMetrics {
     int gripper = 0;    ///< extent of the gripper along the bar; 0 for none
     int margin = 0;     ///< around all buttons
     int separator = 0;  ///< extent of a gap along the bar
+    int more = 0;       ///< extent along the bar of the button for what has no room
 };
 
 enum class ToolShape {
@@ -31,11 +33,18 @@ struct ToolLayout {
     CRect gripper{0, 0, 0, 0};  ///< empty for none
     std::vector<CRect> items;   ///< empty for what takes no room
     std::vector<bool> endsRow;  ///< a row ends behind the item
+    CRect more{0, 0, 0, 0};     ///< the button for what has no room; empty while all have
 };
 
 /// `width` is what a wrapped bar may take at most, margins included; its widest button always gets its room.
 /// A separator at which a row ends takes no room.
 KMFC_API ToolLayout lay_tools(const std::vector<ToolItem>& items, const ToolMetrics& metrics, ToolShape shape,
                               int width = 0);
+
+/// Makes do with `room` pixels along a row or column, margins included: the first item that doesn't fit
+/// before the button for more, and all behind it, take no room, nor does a separator that would be the last.
+/// A layout that fits stays as it is, and so do wrapped ones.
+KMFC_API void shorten_tools(ToolLayout& layout, const std::vector<ToolItem>& items,
+                            const ToolMetrics& metrics, ToolShape shape, int room);
 
 }  // namespace kmfc::docking

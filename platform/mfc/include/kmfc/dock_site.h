@@ -81,6 +81,7 @@ public:
     CPoint along_and_across(CPoint screen) const;
 
 protected:
+    afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* pWnd);

@@ -47,8 +47,11 @@ public:
     void RecalcLayout(BOOL bNotify = TRUE) override {
         m_dockManager.layout_frame(this->m_rectBorder, [&] { Frame::RecalcLayout(bNotify); });
     }
+    /// The bar that shows the frame's menu; null without one.
+    const CMFCMenuBar* GetMenuBar() const { return m_dockManager.menu_bar(); }
     BOOL PreTranslateMessage(MSG* pMsg) override {
-        return m_dockManager.ends_drag(*pMsg) || Frame::PreTranslateMessage(pMsg);
+        return m_dockManager.ends_drag(*pMsg) || m_dockManager.opens_menu(*pMsg) ||
+               Frame::PreTranslateMessage(pMsg);
     }
     /// Called after panes were shown or hidden together.
     virtual BOOL OnShowPanes(BOOL bShow) {
@@ -75,6 +78,12 @@ protected:
     }
     afx_msg BOOL OnNcActivate(BOOL bActive) {
         return Frame::OnNcActivate(bActive || m_dockManager.stays_active());
+    }
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam) {
+        if (!m_dockManager.enters_menu(nID, lParam)) Frame::OnSysCommand(nID, lParam);
+    }
+    afx_msg LRESULT OnFrameMenu(WPARAM wParam, LPARAM) {
+        return m_dockManager.show_menu(reinterpret_cast<HMENU>(wParam));
     }
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam) {
         m_dockManager.on_idle();

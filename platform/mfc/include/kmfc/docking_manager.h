@@ -146,6 +146,16 @@ public:
     /// frames: then the frame still looks active.
     bool stays_active() const;
 
+    // The bar that shows the frame's menu.
+    CMFCMenuBar* menu_bar() const;
+    void set_menu_bar(CMFCMenuBar* bar);
+    /// Whether the message is a letter with Alt that opened an item.
+    bool opens_menu(const MSG& message);
+    /// Whether a system command was a lone Alt or F10, for the bar.
+    bool enters_menu(UINT command, LPARAM parameter);
+    /// Shows a menu in the bar, null for the one that it shows; the answer is that, 0 without a bar.
+    LRESULT show_menu(HMENU menu);
+
     static CSmartDockingInfo m_SDParams;
 
 protected:

@@ -11,6 +11,7 @@ class CDockingManager;
 class CMFCAutoHideBar;
 class CMFCBaseTabCtrl;
 class CMFCCaptionButton;
+class CMFCMenuBar;
 class CMultiPaneFrameWnd;
 class CPane;
 class CPaneDivider;

@@ -129,6 +129,7 @@ protected:
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
     afx_msg void OnPaint();
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CObArray m_arrButtons;  ///< CMFCCaptionButton objects, owned

@@ -10,6 +10,7 @@
 class CDockSite;
 
 namespace kmfc::docking {
+struct AccessiblePart;
 struct ToolLayout;
 enum class ToolShape;
 }  // namespace kmfc::docking
@@ -28,6 +29,9 @@ constexpr DWORD AFX_DEFAULT_TOOLBAR_STYLE =
 /// floats. Held Ctrl keeps it from docking, Escape puts it back where it was. A double click on the gripper
 /// or on the floating bar's caption changes between docked and floating. By keyboard, where the bar has the
 /// focus, the arrow keys, Home and End go from button to button, Enter and Space press, Escape leaves.
+///
+/// A docked bar that is too short for its buttons ends in one for more, which opens a menu of those that have
+/// no room. Assistive programs learn of the bar, its buttons and that one.
 class KMFC_API CMFCToolBar : public CPane {
     DECLARE_DYNCREATE(CMFCToolBar)
 public:
@@ -131,6 +135,15 @@ public:
     int GetHighlightedButton() const { return m_iHighlighted; }
     /// The button that is held down, or -1.
     int GetPressedButton() const { return m_iPressed; }
+    /// The button for what has no room, client coordinates; empty while all buttons have. Where a place of a
+    /// button is marked, it counts as the one behind all.
+    CRect more_rect() const { return m_more; }
+    /// What an assistive program learns of the bar (0), a button (from 1 on), or the one for more (the last).
+    virtual void describe(int part, kmfc::docking::AccessiblePart& about) const;
+    /// How many of the latter two there are.
+    int parts() const { return GetCount() + (has_more() ? 1 : 0); }
+    /// Does what a press of a part does, without waiting for it; false when it can't be pressed.
+    bool press_part(int part);
 
 protected:
     void DoPaint(CDC* pDC) override;
@@ -138,6 +151,28 @@ protected:
     virtual void DrawSeparator(CDC* pDC, const CRect& rect, BOOL bHorz);
     /// Sends the command of a button to the owner.
     virtual void SendCommand(const CMFCToolBarButton* pButton);
+    /// Opens the menu of what has no room, and does what is chosen.
+    virtual void open_more();
+    /// Fills that menu.
+    virtual void fill_more(HMENU menu) const;
+    /// A press by keyboard or by an assistive program, of a button or of the one for more, which is enabled.
+    virtual void press(int index);
+
+    bool has_more() const { return !m_more.IsRectEmpty(); }
+    bool has_room(const CMFCToolBarButton& button) const;
+    /// The same as HitTest, and the button for more.
+    int part_at(CPoint point) const;
+    CRect part_rect(int index) const;
+    void buttons_changed();
+    void redraw_button(int index);
+    void highlight(int index);
+    bool is_enabled(int index) const;
+    /// Enabled, and with room in the bar.
+    bool is_pressable(int index) const;
+    /// Marks the next button that can be pressed, `step` places at a time from `from`, around the ends.
+    void mark_next(int from, int step);
+    void let_go();
+    CWnd* frame_of_messages() const;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
@@ -153,6 +188,8 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPressPart(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CObList m_Buttons;  ///< CMFCToolBarButton, the bar's own
@@ -162,19 +199,13 @@ protected:
     static CSize m_sizeButton, m_sizeImage;
 
 private:
-    kmfc::docking::ToolLayout layout_of(kmfc::docking::ToolShape shape, int width);
+    kmfc::docking::ToolLayout layout_of(kmfc::docking::ToolShape shape, int room);
     kmfc::docking::ToolLayout layout_as_it_stands();
-    void buttons_changed();
-    void redraw_button(int index);
-    void highlight(int index);
     void tell_frame(int index);
-    void let_go();
-    bool is_pressable(int index) const;
-    void mark_next(int from, int step);
-    CWnd* frame_of_messages() const;
 
     CSize m_ownButton{0, 0}, m_ownImage{0, 0};  ///< locked sizes; 0 for none
     CRect m_borders{1, 1, 1, 1};
+    CRect m_more{0, 0, 0, 0};    ///< the button for what has no room
     int m_told = -1;             ///< the button whose text the frame shows
     int m_wide = 0;              ///< the width that a floating bar was wrapped in last; 0 for one row
     bool m_isDraggable = false;  ///< the gripper is held, and no drag has begun

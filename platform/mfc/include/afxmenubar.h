@@ -1,0 +1,6 @@
+// CMFCMenuBar, and what it derives from.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kmfc/menu_bar.h>
