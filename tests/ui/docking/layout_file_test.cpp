@@ -55,6 +55,12 @@ struct LayoutFile : LayoutsTest {
         ::FindClose(search);
         return count;
     }
+    static std::string nested(int levels) {
+        std::string text;
+        for (int i = 0; i < levels; ++i) text += "<KtUiPaletteLayouts Version='1'>";
+        for (int i = 0; i < levels; ++i) text += "</KtUiPaletteLayouts>";
+        return text;
+    }
     INT_PTR count() {
         CStringArray names;
         layouts.GetNames(names);
@@ -172,12 +178,12 @@ TEST_F(LayoutFile, WhatIsNoFileOfLayoutsIsRefused) {
     expectRefused("<KtUiPaletteLayouts Version='1'/>", L"Layout");
     expectRefused("<!DOCTYPE KtUiPaletteLayouts [<!ENTITY a 'b'>]><KtUiPaletteLayouts Version='1'/>",
                   L"DOCTYPE");
-    std::string deep;
-    for (int i = 0; i < 200; ++i) deep += "<KtUiPaletteLayouts Version='1'>";
-    for (int i = 0; i < 200; ++i) deep += "</KtUiPaletteLayouts>";
-    expectRefused(deep, L"KtUiPaletteLayouts");
-    EXPECT_EQ(std::wstring(layouts.GetProblem()).find(L"[1]"), std::wstring::npos)
-        << "nothing in it is looked at";
+    for (const int levels : {130, 200}) {
+        expectRefused(nested(levels), L"lies too deep");
+        EXPECT_EQ(std::wstring(layouts.GetProblem()).find(L"[1]"), std::wstring::npos)
+            << "nothing in it is looked at";
+    }
+    expectRefused(nested(129), L"KtUiPaletteLayouts[1]");
     expectRefused(std::string(4 * 1024 * 1024 + 1, ' '), L"written.xml");
     // One of two is damaged: none is taken.
     const std::string sound = "<Docked/><Floating/><Tabs/><Panes/></Layout>";
