@@ -3,6 +3,7 @@
 
 #include "in_language.h"
 #include "layouts_fixture.h"
+#include "parser_error.h"
 #include "without_strings.h"
 
 using namespace docking_test;
@@ -193,6 +194,18 @@ TEST_F(LayoutFile, WhatIsNoFileOfLayoutsIsRefused) {
     EXPECT_TRUE(layouts.Import(
         write("<KtUiPaletteLayouts Version='1'><Layout Name='empty'>" + sound + "</KtUiPaletteLayouts>")));
     EXPECT_TRUE(layouts.Apply(L"empty"));
+}
+
+TEST_F(LayoutFile, WhatIsNoXmlIsRefusedWithTheLineAndTheColumnOfTheParser) {
+    fillFrame(1);
+    ToldPlace place(7, 3);
+    {
+        const ParserTells tells(&place);
+        expectRefused("<a>", L"line 7, column 3");
+    }
+    EXPECT_EQ(place.references, 0u);
+    const ParserTells nothing(nullptr);
+    expectRefused("<a>", L"line 0, column 0");
 }
 
 /// A file that has to be refused, and what has to be said then.
