@@ -16,8 +16,9 @@ BUILDS = ("core", "windows")
 OVERLAID = ("ktui", "platform", *(f"build/{kind}" for kind in BUILDS))
 
 
-def enter(root, work):
-    """Goes on in a namespace with the overlays; answers only there, with the folder of the overlaid tree."""
+def enter(root, work, room):
+    """Goes on in a namespace with the overlays; answers only there, with the folder of the overlaid tree. Each room has overlays
+    of its own, since a header that isn't woven any more is as good as a changed one."""
     if INSIDE in os.environ:
         return Path(os.environ[INSIDE])
     for kind in BUILDS:
@@ -26,7 +27,7 @@ def enter(root, work):
     plain = work / "plain"
     mounts = [f"mkdir -p '{plain}'", f"mount --bind '{root}' '{plain}'"]
     for folder in OVERLAID:
-        own = work / "warm" / folder
+        own = work / "warm" / room.replace("/", "_") / folder
         mounts += [f"mkdir -p '{own}/upper' '{own}/work'",
                    f"mount -t overlay overlay -o 'lowerdir={root}/{folder},upperdir={own}/upper,workdir={own}/work' '{root}/{folder}'"]
     script = "\n".join(["set -e", *mounts, f"cd '{plain}'", 'exec "$@"'])
