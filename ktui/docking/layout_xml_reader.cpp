@@ -35,8 +35,8 @@ public:
     bool readRoot(const Element& root, std::vector<NamedRecord>& layouts);
 
 private:
-    bool fail(FaultKind kind, const wchar_t* attribute = L"", const CString& value = CString());
-    bool failAt(FaultKind kind, const wchar_t* child);
+    void fail(FaultKind kind, const wchar_t* attribute = L"", const CString& value = CString());
+    void failAt(FaultKind kind, const wchar_t* child);
     const CString* text(const Element& element, const wchar_t* attribute);
     long number(const Element& element, const wchar_t* attribute, long low, long high);
     bool flag(const Element& element, const wchar_t* attribute) {
@@ -52,7 +52,7 @@ private:
     }
     CRect place(const Element& element);
     /// Calls `read` for each child; each must have one of the names.
-    bool eachChild(const Element& element, std::initializer_list<const wchar_t*> names,
+    void eachChild(const Element& element, std::initializer_list<const wchar_t*> names,
                    const std::function<void(const Element&)>& read);
     void checkVersion(const Element& root);
     void readLayout(const Element& element, NamedRecord& layout);
@@ -71,17 +71,15 @@ private:
     std::set<unsigned> m_docked, m_dockedShown, m_floating, m_groups, m_tabs, m_states;
 };
 
-bool Reader::fail(FaultKind kind, const wchar_t* attribute, const CString& value) {
+void Reader::fail(FaultKind kind, const wchar_t* attribute, const CString& value) {
     if (good()) m_fault = {kind, m_path, attribute, value};
-    return false;
 }
 
-bool Reader::failAt(FaultKind kind, const wchar_t* child) {
+void Reader::failAt(FaultKind kind, const wchar_t* child) {
     const CString former = m_path;
     m_path += (m_path.IsEmpty() ? L"" : L"/") + CString(child);
     fail(kind);
     m_path = former;
-    return false;
 }
 
 const CString* Reader::text(const Element& element, const wchar_t* attribute) {
@@ -120,7 +118,7 @@ CRect Reader::place(const Element& element) {
                  CSize(static_cast<int>(width), static_cast<int>(height)));
 }
 
-bool Reader::eachChild(const Element& element, std::initializer_list<const wchar_t*> names,
+void Reader::eachChild(const Element& element, std::initializer_list<const wchar_t*> names,
                        const std::function<void(const Element&)>& read) {
     if (good() && element.children.size() > kMostOf) return fail(FaultKind::tooMany);
     const CString here = m_path;
@@ -135,11 +133,10 @@ bool Reader::eachChild(const Element& element, std::initializer_list<const wchar
             read(child);
     }
     m_path = here;
-    return good();
 }
 
 void Reader::checkVersion(const Element& root) {
-    if (root.name != kRoot) return static_cast<void>(failAt(FaultKind::foreign, root.name));
+    if (root.name != kRoot) return failAt(FaultKind::foreign, root.name);
     const CString here = m_path;
     m_path = kRoot;
     const CString* version = text(root, kVersion);
@@ -239,7 +236,7 @@ void Reader::readFrame(const Element& element, Record& record) {
 void Reader::readOnlyTree(const Element& parent, Tree& tree, bool docked) {
     bool isThere = false;
     eachChild(parent, {kSplit, kPane, kTabGroup}, [&](const Element& child) {
-        if (isThere) return static_cast<void>(fail(FaultKind::unknownElement));
+        if (isThere) return fail(FaultKind::unknownElement);
         isThere = true;
         readTree(child, tree, docked, 0);
     });
@@ -248,11 +245,11 @@ void Reader::readOnlyTree(const Element& parent, Tree& tree, bool docked) {
 
 void Reader::readTree(const Element& element, Tree& tree, bool docked, int depth) {
     if (element.name != kSplit) return readLeaf(element, tree, docked);
-    if (depth >= kDeepest) return static_cast<void>(fail(FaultKind::tooDeep));
+    if (depth >= kDeepest) return fail(FaultKind::tooDeep);
     tree.upright = choice(element, kDirection, {kBeside, kBelow}) == 0;
     tree.share = static_cast<int>(number(element, kShare, 0, kWhole));
     eachChild(element, {kSplit, kPane, kTabGroup}, [&](const Element& child) {
-        if (tree.halves.size() == 2) return static_cast<void>(fail(FaultKind::unknownElement));
+        if (tree.halves.size() == 2) return fail(FaultKind::unknownElement);
         Tree half;
         readTree(child, half, docked, depth + 1);
         tree.halves.push_back(std::move(half));
@@ -276,8 +273,7 @@ void Reader::readLeaf(const Element& element, Tree& tree, bool docked) {
     if (!element.children.empty()) failAt(FaultKind::unknownElement, element.children.front().name);
     if (!good()) return;
     const CString& id = *element.find(kId);
-    if (isGroup && m_groups.count(tree.id) == 0)
-        return static_cast<void>(fail(FaultKind::unknownId, kId, id));
+    if (isGroup && m_groups.count(tree.id) == 0) return fail(FaultKind::unknownId, kId, id);
     const bool stands = tree.shown || !docked;
     const bool isElsewhere =
         (stands && m_tabs.count(tree.id) != 0) || (!docked && m_dockedShown.count(tree.id) != 0);

@@ -7,7 +7,7 @@ from pathlib import Path
 
 from .weaving import mutants_at, weave
 
-FLAGS = "-O1 -g0 -w -Wno-error -Wno-narrowing -ftemplate-depth=2000"
+FLAGS = "-w -Wno-error -Wno-narrowing -ftemplate-depth=2000"
 ERROR = re.compile(r"^([^\s:][^:\n]*):(\d+):(\d+): (?:fatal )?error: (.*)$", re.M)
 MENTION = re.compile(r"^([^\s:][^:\n]*):(\d+):(\d+):", re.M)
 
@@ -43,11 +43,8 @@ class Tree:
 
     def _put(self, name, data, mode):
         target = self.folder / name
-        if target.is_file() and target.read_bytes() == data:
-            return
-        target.parent.mkdir(parents=True, exist_ok=True)
-        target.write_bytes(data)
-        os.chmod(target, mode & 0o777)
+        if put(target, data):
+            os.chmod(target, mode & 0o777)
 
     def _remove_others(self, names):
         """A file that is gone from the tree may not stay in the copy: folders are read by pattern."""
@@ -56,16 +53,24 @@ class Tree:
             if path.is_file() and not name.startswith("build/") and name not in names:
                 path.unlink()
 
+    def configure(self, kind):
+        """Configures the `core` or the `windows` build of the copy; answers its folder."""
+        build = self.folder / "build" / kind
+        if not (build / "build.ninja").is_file():
+            settings = ["-DCMAKE_BUILD_TYPE=", f"-DCMAKE_CXX_FLAGS=-O1 -g0 {FLAGS} -I{self.folder}/tools/mutation"]
+            subprocess.run(["cmake", "--preset", kind, *settings], cwd=self.folder, check=True, capture_output=True)
+        else:
+            subprocess.run(["cmake", build], check=True, capture_output=True)  # for files that have come or gone
+        return build
 
-def configure(tree, kind):
-    """Configures the `core` or the `windows` build of the copy; answers its folder."""
-    build = tree.folder / "build" / kind
-    if not (build / "build.ninja").is_file():
-        settings = ["-DCMAKE_BUILD_TYPE=", f"-DCMAKE_CXX_FLAGS={FLAGS} -I{tree.folder}/tools/mutation"]
-        subprocess.run(["cmake", "--preset", kind, *settings], cwd=tree.folder, check=True, capture_output=True)
-    else:
-        subprocess.run(["cmake", build], check=True, capture_output=True)  # for files that have come or gone
-    return build
+
+def put(target, data):
+    """Writes a file unless it holds just that; answers whether it wrote."""
+    if target.is_file() and target.read_bytes() == data:
+        return False
+    target.parent.mkdir(parents=True, exist_ok=True)
+    target.write_bytes(data)
+    return True
 
 
 def compile_all(build, targets, jobs):

@@ -10,6 +10,8 @@ from dataclasses import dataclass
 from pathlib import Path
 
 NOTE_REACHED = "-1"
+TIMED_OUT, FELL_SILENT = -1, -2  # in place of an exit code
+ENDED = {TIMED_OUT: "time limit", FELL_SILENT: "silence"}
 
 
 @dataclass(frozen=True)
@@ -21,26 +23,29 @@ class Test:
 
 @dataclass
 class Outcome:
-    code: int  # -1 after a time-out
+    code: int  # or TIMED_OUT or FELL_SILENT
     output: str
     seconds: float
 
 
 class NativeLane:
-    """Runs native programs."""
+    """Runs native programs, with a folder of its own for temporary files: tests in two lanes may use the same names."""
 
     def __init__(self, cpu):
         self.cpu = cpu
+        self.folder = tempfile.TemporaryDirectory(prefix=f"mutants{cpu}")
 
-    def run(self, program, arguments, mutant, reached=None, limit=60):
-        env = dict(os.environ, KTUI_MUTANT=str(mutant), **({"KTUI_MUTANT_REACHED": reached} if reached else {}))
-        return _run(["taskset", "-c", str(self.cpu), program, *arguments], env, limit)
+    def run(self, program, arguments, mutant, reached=None, limit=60, silence=60):
+        env = dict(os.environ, TMPDIR=self.folder.name, KTUI_MUTANT=str(mutant),
+                   **({"KTUI_MUTANT_REACHED": reached} if reached else {}))
+        return _run(["taskset", "-c", str(self.cpu), program, *arguments], env, limit, silence)
 
     def restore(self):
-        pass
+        for left in Path(self.folder.name).iterdir():
+            shutil.rmtree(left) if left.is_dir() else left.unlink()
 
     def close(self):
-        pass
+        self.folder.cleanup()
 
 
 class WineLane:
@@ -76,9 +81,9 @@ class WineLane:
             subprocess.run(["taskset", "-c", str(self.cpu), *command], env=self.env, stdin=subprocess.DEVNULL,
                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=120)
 
-    def run(self, program, arguments, mutant, reached=None, limit=120):
+    def run(self, program, arguments, mutant, reached=None, limit=120, silence=120):
         env = dict(self.env, KTUI_MUTANT=str(mutant), **({"KTUI_MUTANT_REACHED": "Z:" + reached} if reached else {}))
-        return _run(["taskset", "-c", str(self.cpu), "wine", program, *arguments], env, limit)
+        return _run(["taskset", "-c", str(self.cpu), "wine", program, *arguments], env, limit, silence)
 
     def restore(self):
         subprocess.run(["wineserver", "-k"], env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -97,19 +102,31 @@ class WineLane:
         shutil.rmtree(self.prefix, ignore_errors=True)
 
 
-def _run(command, env, limit):
+def _run(command, env, limit, silence):
+    """Runs a command for at most `limit` seconds, and ends it when it has said nothing for `silence` seconds."""
     began = time.monotonic()
     with tempfile.TemporaryFile() as output:
         process = subprocess.Popen(command, env=env, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
                                    start_new_session=True)
-        try:
-            code = process.wait(timeout=limit)
-        except subprocess.TimeoutExpired:
-            code = -1
-            os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
+        code = _wait(process, output, began + limit, silence)
         output.seek(0)
         return Outcome(code, output.read().decode("utf-8", "replace").replace("\r", ""), time.monotonic() - began)
+
+
+def _wait(process, output, deadline, silence):
+    said, spoke = 0, time.monotonic()
+    while True:
+        try:
+            return process.wait(timeout=1)
+        except subprocess.TimeoutExpired:
+            now, size = time.monotonic(), os.fstat(output.fileno()).st_size
+        if size != said:
+            said, spoke = size, now
+        if now < deadline and now - spoke < silence:
+            continue
+        os.killpg(process.pid, signal.SIGKILL)
+        process.wait()
+        return TIMED_OUT if now >= deadline else FELL_SILENT
 
 
 def list_tests(lane, program, native):
@@ -140,13 +157,14 @@ def noticed(lane, tests, seconds, mutant):
         mine = [t for t in tests if t.program == program]
         for chunk in _chunks(mine):
             limit = 8 + 5 * sum(seconds[t] for t in chunk)
+            silence = 20 + 5 * max(seconds[t] for t in chunk)
             arguments = ["--gtest_fail_fast", "--gtest_filter=" + ":".join(t.name for t in chunk)]
-            outcome = lane.run(program, arguments, mutant, limit=limit)
+            outcome = lane.run(program, arguments, mutant, limit=limit, silence=silence)
             if outcome.code == 0:
                 continue
             lane.restore()
-            if outcome.code == -1:
-                return "time limit"
+            if outcome.code in ENDED:
+                return ENDED[outcome.code]
             failed = [line for line in outcome.output.splitlines() if line.startswith("[  FAILED  ]")]
             return failed[0][13:].split(" (")[0] if failed else f"ended with {outcome.code}"
     return None

@@ -19,7 +19,7 @@ struct FontScanPlan {
 };
 
 /// What tells cheaply whether to look again: the times of folders and of the registry's lists.
-struct FontScanStamps {
+struct STANDIN_API FontScanStamps {
     std::vector<std::wstring> folders;
     bool usesSystem = false;
     std::vector<std::int64_t> times;

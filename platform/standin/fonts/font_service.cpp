@@ -80,7 +80,7 @@ void FontService::setFolders(std::vector<std::wstring> folders) {
 
 void FontService::setSupportFolders(std::vector<std::wstring> folders) {
     m_supportFolders = std::move(folders);
-    if (m_usesSystem) restart();
+    restart();
 }
 
 void FontService::setCacheFile(std::wstring path) {

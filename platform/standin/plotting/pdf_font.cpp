@@ -42,7 +42,7 @@ std::vector<PdfRun> PdfFonts::encode(const std::string& name, std::wstring_view 
     std::vector<PdfRun> runs;
     for (const char32_t character : CharactersOf(text)) {
         const Place at = place(face, character, source);
-        if (runs.empty() || runs.back().font != at.font) runs.push_back({at.font, {}, 0});
+        if (runs.empty() || runs.back().font != at.font) runs.emplace_back().font = at.font;
         runs.back().codes += static_cast<char>(at.code);
         runs.back().width += m_fonts[static_cast<std::size_t>(at.font)][at.code].glyph.advance / kEm;
     }

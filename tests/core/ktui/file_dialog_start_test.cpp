@@ -85,6 +85,8 @@ TEST(FileDialogFilter, TheStoredOneComesNextWhateverItIs) {
     EXPECT_EQ(StartFilterIndex({-1, 0xFFFFFFFF, 2, 0, 3}), 0ul);
 }
 
+TEST(FileDialogFilter, WithoutFiltersThereIsNone) { EXPECT_EQ(StartFilterIndex(FilterChoice()), 0ul); }
+
 TEST(FileDialogFilter, TheDefaultOneComesLastIfItIsThere) {
     EXPECT_EQ(StartFilterIndex({-1, {}, 2, 0, 3}), 3ul);
     EXPECT_EQ(StartFilterIndex({-1, {}, 0, 0, 3}), 1ul);

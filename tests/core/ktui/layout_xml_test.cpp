@@ -105,6 +105,24 @@ TEST(LayoutXml, IsWrittenInTheseWords) {
     EXPECT_EQ(child(root, {0, kStates, 1}).find(L"Palette"), nullptr);
 }
 
+TEST(LayoutXml, AttributesStandInTheirOrder) {
+    Element root = file();
+    const auto order = [&](std::initializer_list<int> way) {
+        CString names;
+        for (const auto& [name, value] : child(root, way).attributes)
+            names += (names.IsEmpty() ? L"" : L" ") + name;
+        return names;
+    };
+    EXPECT_EQ(order({0, kRows, 0}), L"Side Extent");
+    EXPECT_EQ(order({0, kRows, 0, 0}), L"Direction Share");
+    EXPECT_EQ(order({0, kRows, 0, 0, 0}), L"Id Shown");
+    EXPECT_EQ(order({0, kRows, 1, 0}), L"Id Shown Hides Width Height");
+    EXPECT_EQ(order({0, kFrames, 0}), L"Left Top Width Height");
+    EXPECT_EQ(order({0, kGroups, 0}), L"Id Active");
+    EXPECT_EQ(order({0, kGroups, 0, 1}), L"Pane Shown");
+    EXPECT_EQ(order({0, kStates, 2}), L"Id Name Left Top Width Height Palette");
+}
+
 TEST(LayoutXml, WhatIsWrittenComesBack) {
     std::vector<NamedRecord> layouts;
     Fault fault;

@@ -51,6 +51,36 @@ TEST(ReachablePlace, TheScreenThatShowsMostIsTheNearest) {
     EXPECT_EQ(NearestArea(CRect(0, 0, 10, 10), {}), nullptr);
 }
 
+TEST(ReachablePlace, TheAreaThatIsSharedCountsNotTheLengthOfItsSides) {
+    // 100 by 100 on one, 300 by 20 on the other.
+    const std::vector<CRect> areas = {CRect(0, 0, 1000, 100), CRect(1000, 80, 2000, 200)};
+    EXPECT_EQ(NearestArea(CRect(900, 0, 1300, 100), areas), &areas[0]);
+}
+
+TEST(ReachablePlace, OfScreensThatShowNothingTheNearestInBothDirectionsCounts) {
+    // To the left and the right by 100, above and below by 100: what is nearer in one direction decides.
+    const CRect place(2000, 2000, 2100, 2100);
+    const auto nearest = [&](const CRect& one, const CRect& other) {
+        const std::vector<CRect> areas = {one, other};
+        const CRect* found = NearestArea(place, areas);
+        return static_cast<int>(found - areas.data());
+    };
+    const CRect left(1000, 2000, 1800, 2100), right(2190, 2000, 3000, 2100);
+    const CRect above(2000, 1000, 2100, 1790), below(2000, 2280, 2100, 3000);
+    EXPECT_EQ(nearest(left, right), 1) << "90 to the right, 200 to the left";
+    EXPECT_EQ(nearest(right, left), 0);
+    EXPECT_EQ(nearest(above, below), 1) << "180 below, 210 above";
+    EXPECT_EQ(nearest(left, above), 0);
+    EXPECT_EQ(nearest(right, below), 0);
+    // Both ways count: 60 and 60 are farther than 0 and 100.
+    EXPECT_EQ(nearest(CRect(2160, 2160, 3000, 3000), CRect(2200, 2000, 3000, 2100)), 1);
+    EXPECT_EQ(nearest(CRect(1000, 1000, 1940, 1940), CRect(1000, 2000, 1900, 2100)), 1);
+    EXPECT_EQ(nearest(CRect(2100, 2000, 3000, 2100), CRect(1000, 1000, 2001, 2001)), 1)
+        << "one pixel is shared";
+    // A screen that touches is nearer than any gap, though it shows nothing.
+    EXPECT_EQ(nearest(CRect(2101, 2000, 3000, 2100), CRect(2100, 2000, 3000, 2100)), 1);
+}
+
 TEST(ReachablePlace, WhatWasBroughtInsideCanBeGrabbed) {
     constexpr unsigned kSeed = 20261123;
     std::mt19937 random(kSeed);

@@ -58,6 +58,13 @@ protected:
     static bool has(const std::string& text, const char* part) {
         return text.find(part) != std::string::npos;
     }
+    /// How many lines of a page are just this.
+    static int linesOf(const std::string& content, const std::string& wanted) {
+        int found = 0;
+        std::istringstream lines(content);
+        for (std::string line; std::getline(lines, line);) found += line == wanted;
+        return found;
+    }
     /// The curves of a page: six numbers each.
     static std::vector<std::array<double, 6>> curvesOf(const std::string& content) {
         std::vector<std::array<double, 6>> curves;
@@ -244,6 +251,7 @@ TEST_F(Plotted, APieceIsSeenThroughItsClipAndThoseAroundIt) {
     const std::size_t stroke = content.find("S\n", inner), end = content.find("Q\n", inner);
     EXPECT_LT(stroke, end);
     EXPECT_EQ(content.find("W*", end), std::string::npos) << "the last line is seen whole again";
+    EXPECT_EQ(linesOf(content, "q"), linesOf(content, "Q")) << "each state that is kept is put back";
 }
 
 TEST_F(Plotted, AFittedTextTakesUpItsWidthAndABackwardOneRunsToTheLeft) {
@@ -308,6 +316,13 @@ TEST_F(Plotted, TextsStandWhereTheirAlignmentSays) {
     text.vertical = 3;
     EXPECT_TRUE(has(content(), "10 0 0 10 88 42.8 Tm"));
     text.vertical = 0;
+    for (const int beyond : {3, 9}) {
+        text.horizontal = beyond;
+        EXPECT_TRUE(has(content(), "10 0 0 10 88 50 Tm")) << beyond;
+    }
+    text.horizontal = -1;
+    EXPECT_TRUE(has(content(), "10 0 0 10 100 50 Tm"));
+    text.horizontal = 2;
     text.widthFactor = 0.5;
     EXPECT_TRUE(has(content(), "5 0 0 10 94 50 Tm"));
     text.widthFactor = 1;
@@ -368,4 +383,22 @@ TEST(PaperPlaces, WithoutAPaperThePageHasTheShapeOfItsContent) {
     EXPECT_NEAR(place.height, 210 * 72 / 25.4, 1e-6);
     EXPECT_NEAR(PlaceLayout(*settings, area).width, place.width, 1e-6);
     EXPECT_GT(PlaceArea(*settings, {}, false).width, 0);
+    for (const auto& [width, height] :
+         {std::pair{200.0, 0.0}, std::pair{0.0, 200.0}, std::pair{-1.0, 200.0}}) {
+        settings->setPlotPaperSize(width, height);
+        EXPECT_NEAR(PlaceArea(*settings, area, false).width, 420 * 72 / 25.4, 1e-6) << "half a size is none";
+        EXPECT_NEAR(PlaceArea(*settings, area, false).height, 210 * 72 / 25.4, 1e-6);
+    }
+}
+
+TEST(PaperPlaces, APageWithoutAPaperIsNeverNarrowerThanFourMargins) {
+    OdDbPlotSettingsPtr settings(new OdDbPlotSettings);
+    SceneExtents flat, steep;
+    flat.add({0, 0});
+    flat.add({1000, 1});
+    steep.add({0, 0});
+    steep.add({1, 1000});
+    EXPECT_NEAR(PlaceArea(*settings, flat, false).height, 20 * 72 / 25.4, 1e-6);
+    EXPECT_NEAR(PlaceArea(*settings, steep, false).width, 20 * 72 / 25.4, 1e-6);
+    EXPECT_NEAR(PlaceArea(*settings, steep, false).height, 420 * 72 / 25.4, 1e-6);
 }

@@ -84,6 +84,33 @@ TEST_F(OrdinaryCaption, StandsOnABarAtTheLeft) {
     expectOrdinary();
 }
 
+/// Notes the commands that the system makes of double clicks, and lets none through.
+class CommandedBar : public OpenBar {
+public:
+    std::vector<UINT> commands;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message != WM_SYSCOMMAND) return OpenBar::WindowProc(message, wParam, lParam);
+        commands.push_back(static_cast<UINT>(wParam & 0xFFF0));
+        return 0;
+    }
+};
+
+TEST_F(OrdinaryCaption, ADoubleClickOutsideOfTheButtonsIsTheSystems) {
+    CommandedBar other;
+    dock(other, CBRS_ALIGN_LEFT, 4003);
+    CRect window;
+    other.GetWindowRect(&window);
+    other.SendMessage(WM_NCLBUTTONDBLCLK, HTVSCROLL, MAKELPARAM(window.right - 2, window.bottom - 2));
+    EXPECT_EQ(other.commands, std::vector<UINT>{SC_VSCROLL});
+    CommandedBar upright;
+    dock(upright, CBRS_ALIGN_BOTTOM, 4004);
+    upright.GetWindowRect(&window);
+    upright.SendMessage(WM_NCLBUTTONDBLCLK, HTVSCROLL, MAKELPARAM(window.right - 2, window.bottom - 2));
+    EXPECT_EQ(upright.commands, std::vector<UINT>{SC_VSCROLL});
+}
+
 TEST_F(OrdinaryCaption, StandsOnAFloatingBarThatWouldDockAtTheBottom) {
     OpenBar second;
     floatBar(bar);

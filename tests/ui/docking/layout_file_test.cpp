@@ -3,6 +3,7 @@
 
 #include "in_language.h"
 #include "layouts_fixture.h"
+#include "parser_error.h"
 #include "without_strings.h"
 
 using namespace docking_test;
@@ -54,6 +55,12 @@ struct LayoutFile : LayoutsTest {
         while (::FindNextFileW(search, &found));
         ::FindClose(search);
         return count;
+    }
+    static std::string nested(int levels) {
+        std::string text;
+        for (int i = 0; i < levels; ++i) text += "<KtUiPaletteLayouts Version='1'>";
+        for (int i = 0; i < levels; ++i) text += "</KtUiPaletteLayouts>";
+        return text;
     }
     INT_PTR count() {
         CStringArray names;
@@ -172,12 +179,12 @@ TEST_F(LayoutFile, WhatIsNoFileOfLayoutsIsRefused) {
     expectRefused("<KtUiPaletteLayouts Version='1'/>", L"Layout");
     expectRefused("<!DOCTYPE KtUiPaletteLayouts [<!ENTITY a 'b'>]><KtUiPaletteLayouts Version='1'/>",
                   L"DOCTYPE");
-    std::string deep;
-    for (int i = 0; i < 200; ++i) deep += "<KtUiPaletteLayouts Version='1'>";
-    for (int i = 0; i < 200; ++i) deep += "</KtUiPaletteLayouts>";
-    expectRefused(deep, L"KtUiPaletteLayouts");
-    EXPECT_EQ(std::wstring(layouts.GetProblem()).find(L"[1]"), std::wstring::npos)
-        << "nothing in it is looked at";
+    for (const int levels : {130, 200}) {
+        expectRefused(nested(levels), L"lies too deep");
+        EXPECT_EQ(std::wstring(layouts.GetProblem()).find(L"[1]"), std::wstring::npos)
+            << "nothing in it is looked at";
+    }
+    expectRefused(nested(129), L"KtUiPaletteLayouts[1]");
     expectRefused(std::string(4 * 1024 * 1024 + 1, ' '), L"written.xml");
     // One of two is damaged: none is taken.
     const std::string sound = "<Docked/><Floating/><Tabs/><Panes/></Layout>";
@@ -187,6 +194,18 @@ TEST_F(LayoutFile, WhatIsNoFileOfLayoutsIsRefused) {
     EXPECT_TRUE(layouts.Import(
         write("<KtUiPaletteLayouts Version='1'><Layout Name='empty'>" + sound + "</KtUiPaletteLayouts>")));
     EXPECT_TRUE(layouts.Apply(L"empty"));
+}
+
+TEST_F(LayoutFile, WhatIsNoXmlIsRefusedWithTheLineAndTheColumnOfTheParser) {
+    fillFrame(1);
+    ToldPlace place(7, 3);
+    {
+        const ParserTells tells(&place);
+        expectRefused("<a>", L"line 7, column 3");
+    }
+    EXPECT_EQ(place.references, 0u);
+    const ParserTells nothing(nullptr);
+    expectRefused("<a>", L"line 0, column 0");
 }
 
 /// A file that has to be refused, and what has to be said then.

@@ -226,9 +226,14 @@ TEST_F(PaletteLayouts, AreDetachedWhenTheWindowGoes) {
     ASSERT_TRUE(other->Create(nullptr, L"other"));
     ASSERT_TRUE(layouts.Attach(*other));
     EXPECT_TRUE(layouts.IsAttached());
+    EXPECT_TRUE(layouts.Save(L"kept"));
     other->DestroyWindow();
     EXPECT_FALSE(layouts.IsAttached());
     EXPECT_FALSE(layouts.Save(L"x"));
+    CStringArray names;
+    names.Add(L"former");
+    layouts.GetNames(names);
+    EXPECT_EQ(names.GetSize(), 0) << "those that are stored are another window's";
 }
 
 TEST_F(PaletteLayouts, TheFocusStaysWhereItCanBeSeen) {

@@ -484,6 +484,19 @@ TEST_F(TabLock, APressOnTheLockedCaptionBeginsNoDrag) {
     release(*tabbed, place);
 }
 
+TEST_F(TabLock, AMoveOfAButtonThatWasPressedElsewhereLeavesTheCursor) {
+    // Neither pane was pressed on before.
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONUP}) {
+        CTabbedPaneEx fresh;
+        ASSERT_TRUE(fresh.Create(L"fresh", frame, CRect(0, 0, 100, 100), TRUE, 4777, WS_CHILD | WS_VISIBLE));
+        const HCURSOR cross = ::LoadCursorW(nullptr, IDC_CROSS);
+        ::SetCursor(cross);
+        sendMouse(fresh, message, CPoint(40, 40), MK_LBUTTON);
+        EXPECT_EQ(::GetCursor(), cross) << message;
+        fresh.DestroyWindow();
+    }
+}
+
 TEST_F(TabLock, TheCloseButtonClearsTheVisibleFlagOfTheActiveBar) {
     bar.setVisible(true);
     second.setVisible(true);

@@ -73,6 +73,21 @@ TEST_F(ToolTabPaint, TheBaseLineRunsFromTheFirstVisibleTabToTheOrigin) {
     EXPECT_EQ(spanOf(picture, kShadow, strip.m_tabHeight, 0, 400), std::make_pair(1, 280));
 }
 
+TEST_F(ToolTabPaint, DrawingLeavesPenAndFontOfTheContextAsTheyWere) {
+    OpenStrip strip;
+    make(strip, kFlat, 150, 30);
+    strip.fill(4);
+    ui_test::pump();
+    CClientDC dc(&strip);
+    const HGDIOBJ pen = ::GetCurrentObject(dc, OBJ_PEN), font = ::GetCurrentObject(dc, OBJ_FONT);
+    strip.DrawTab(&dc, strip.m_firstVisible);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_PEN), pen);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), font);
+    strip.DrawScrollArea(&dc);
+    strip.DrawBaseLine(&dc);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_PEN), pen);
+}
+
 TEST_F(ToolTabPaint, TheActiveTabsTextIsBold) {
     OpenStrip strip;
     make(strip, kFlat, 400, 30);

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "replaced_import.h"
 #include "ui_test.h"
 
 namespace {
@@ -120,6 +121,28 @@ TEST_F(BackgroundReader, ReadsOneAfterTheOtherOnThreadsOfTheirOwnAndTellsInOrder
     EXPECT_EQ(seen, 6);
     EXPECT_EQ(mostReading, 1);
     EXPECT_TRUE(ui_test::pump_until([] { return alive == 0; })) << "who was told lets go";
+}
+
+std::atomic<int> apartmentsLeft = 0;
+
+void WINAPI leavesApartment() {
+    ++apartmentsLeft;
+    // By its name: this module's own calls come here.
+    static const auto leaves = reinterpret_cast<decltype(&::CoUninitialize)>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"ole32.dll"), "CoUninitialize")));
+    leaves();
+}
+
+TEST_F(BackgroundReader, EachThreadLeavesTheApartmentThatItEntered) {
+    const ui_test::ReplacedImport leaving(::GetModuleHandleW(nullptr), "CoUninitialize", &leavesApartment);
+    ASSERT_TRUE(leaving.isThere());
+    apartmentsLeft = 0;
+    ask("one");
+    EXPECT_TRUE(comes({"one answered"}));
+    EXPECT_EQ(apartmentsLeft, 1);
+    ask("two");
+    EXPECT_TRUE(comes({"one answered", "two answered"}));
+    EXPECT_EQ(apartmentsLeft, 2);
 }
 
 TEST_F(BackgroundReader, TellsOnceThatAReadingIsSlow) {

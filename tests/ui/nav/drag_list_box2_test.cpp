@@ -180,6 +180,29 @@ TEST_F(DragList2, AMoveWithTheButtonBeginsADrag) {
     EXPECT_EQ(list.m_pressItem, -1);
 }
 
+int movesBeneath = 0;
+WNDPROC systemsList = nullptr;
+
+LRESULT CALLBACK countsMoves(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    movesBeneath += message == WM_MOUSEMOVE;
+    return ::CallWindowProcW(systemsList, window, message, wParam, lParam);
+}
+
+TEST_F(DragList2, MovesWithoutTheButtonGoOnToTheSystemsList) {
+    const HWND plain =
+        ::CreateWindowW(L"LISTBOX", L"", WS_CHILD, 0, 0, 50, 50, parent.m_hWnd, nullptr, nullptr, nullptr);
+    systemsList = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrW(plain, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countsMoves)));
+    List over;
+    ASSERT_TRUE(over.SubclassWindow(plain));
+    movesBeneath = 0;
+    over.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(movesBeneath, 1);
+    over.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_EQ(movesBeneath, 1) << "a drag is the list's own";
+    over.DestroyWindow();
+}
+
 TEST_F(DragList2, OneDragIsBegunForOnePress) {
     down(in(1));
     move(in(1));
@@ -330,6 +353,25 @@ TEST_F(DragList2, TheMarkIsABarAcrossTheRowThatGoesAgain) {
     EXPECT_EQ(Picture(list).difference(before), CRect(row.left, 0, row.right, 2)) << "cut by the list's edge";
     list.DrawInsert(-1);
     EXPECT_TRUE(Picture(list) == before);
+}
+
+TEST_F(DragList2, TheMarkTurnsOverEveryOtherPixel) {
+    const Picture before(list);
+    list.DrawInsert(2);
+    const Picture marked(list);
+    const CRect row = rectOf(2);
+    for (int y = row.top - 2; y < row.top + 2; ++y)
+        for (int x = row.left + 1; x < row.right; ++x)
+            ASSERT_NE(marked.at(x, y) == before.at(x, y), marked.at(x - 1, y) == before.at(x - 1, y))
+                << x << " " << y;
+}
+
+TEST_F(DragList2, ARowThatIsNotThereHasNoMark) {
+    const Picture before(list);
+    for (const int row : {5, 6, 100, -2}) {
+        list.DrawInsert(row);
+        EXPECT_TRUE(Picture(list) == before) << row;
+    }
 }
 
 int barsDrawn = 0;

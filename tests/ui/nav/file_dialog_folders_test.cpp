@@ -102,6 +102,31 @@ TEST_F(FileDialogFolders, TheWordsForItHaveADefault) {
     EXPECT_EQ(messages, std::vector<std::wstring>{L"Cannot use the location specified."});
 }
 
+/// The buttons of a message.
+std::vector<std::wstring> buttonsOf(HWND box) {
+    std::vector<std::wstring> texts;
+    for (HWND child = ::GetWindow(box, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        wchar_t name[16] = {};
+        ::GetClassNameW(child, name, 16);
+        if (::lstrcmpiW(name, L"button") == 0 && ::IsWindowVisible(child))
+            texts.push_back(text_of(child).GetString());
+    }
+    return texts;
+}
+
+TEST_F(FileDialogFolders, ItIsSaidInABoxWithNothingButOk) {
+    std::vector<std::wstring> buttons;
+    look([&](HWND window) {
+        when_dialog(L"Test Caption", [&](HWND box) {
+            buttons = buttonsOf(box);
+            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+        });
+        ::SetDlgItemTextW(window, kNameBox, L"missing");
+        ::SendMessageW(window, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(buttons.size(), 1u);
+}
+
 TEST_F(FileDialogFolders, OnlyThePressOfOkCounts) {
     look([&](HWND window) {
         ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDOK, BN_SETFOCUS), 0);

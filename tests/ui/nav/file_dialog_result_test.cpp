@@ -200,6 +200,18 @@ TEST_F(RecentFiles, AShortcutIsFollowedUntilItNamesAFile) {
     EXPECT_EQ(shortcut.folder.CompareNoCase(folder), 0);
 }
 
+HRESULT WINAPI makesNoLink(REFCLSID, LPUNKNOWN, DWORD, REFIID, LPVOID* made) {
+    *made = nullptr;
+    return E_FAIL;
+}
+
+TEST_F(RecentFiles, WithoutTheShellsLinksNothingIsKept) {
+    const ui_test::ReplacedImport none(toolkit(), "CoCreateInstance", &makesNoLink);
+    ASSERT_TRUE(none.isThere());
+    EXPECT_EQ(add(folder + L"one.dwg"), 0);
+    EXPECT_EQ(::GetFileAttributesW(in(L"one.dwg.lnk")), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST_F(RecentFiles, WhatLeadsNowhereIsNotKept) {
     EXPECT_EQ(add(L""), 0);
     EXPECT_EQ(KtUiTestDoor().addToRecentFolder(nullptr, dialog.recent), 0);

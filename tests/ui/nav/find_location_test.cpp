@@ -60,6 +60,36 @@ TEST_F(FindLocationTest, WithoutFixedDrivesThereIsNoSuchEntry) {
     });
 }
 
+/// How often the shell was asked about a file, and how often with room for less than its whole answer.
+int askedOfShell = 0, askedTooSmall = 0;
+
+DWORD_PTR WINAPI tellsOfFile(LPCWSTR path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
+    ++askedOfShell;
+    askedTooSmall += size != sizeof *info;
+    return ::SHGetFileInfoW(path, attributes, info, sizeof *info, flags);
+}
+
+TEST_F(FindLocationTest, TheShellTellsEachIcon) {
+    const ui_test::ReplacedImport shell(::GetModuleHandleW(L"ktui.dll"), "SHGetFileInfoW", &tellsOfFile);
+    ASSERT_TRUE(shell.isThere());
+    askedOfShell = askedTooSmall = 0;
+    run([&] {
+        SHFILEINFOW folder = {};
+        const auto images =
+            ::SHGetFileInfoW(root, 0, &folder, sizeof folder, SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
+        const HWND box = item(IDC_FIND_LOCATION);
+        EXPECT_EQ(static_cast<DWORD_PTR>(::SendMessageW(box, CBEM_GETIMAGELIST, 0, 0)), images);
+        COMBOBOXEXITEMW entry = {};
+        entry.mask = CBEIF_IMAGE;
+        entry.iItem = static_cast<INT_PTR>(locations().size()) - 1;
+        ::SendMessageW(box, CBEM_GETITEMW, 0, reinterpret_cast<LPARAM>(&entry));
+        EXPECT_EQ(entry.iImage, folder.iIcon) << "of the folder that is last";
+        cancel();
+    });
+    EXPECT_GT(askedOfShell, 3);
+    EXPECT_EQ(askedTooSmall, 0);
+}
+
 TEST_F(FindLocationTest, EachEntryHasAnIcon) {
     run([&] {
         for (size_t i = 0; i < locations().size(); ++i) {

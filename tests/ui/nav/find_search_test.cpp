@@ -1,4 +1,6 @@
 // A search of the find dialog: what is searched for, what is told, what is shown of it.
+#include <atomic>
+
 #include "find_fixture.h"
 #include "replaced_import.h"
 
@@ -332,6 +334,21 @@ TEST_F(FindSearchTest, WhileItRunsOnlyStopAndItsLikeAreEnabled) {
     });
 }
 
+TEST_F(FindSearchTest, StopIsTheDefaultBeforeItHasTheFocus) {
+    smallTree();
+    std::vector<LONG_PTR> kinds;
+    run([&] {
+        const HWND stop = item(IDC_FIND_STOP);
+        ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+            if (message.hwnd == stop && message.message == WM_SETFOCUS)
+                kinds.push_back(::GetWindowLongW(stop, GWL_STYLE) & BS_TYPEMASK);
+        });
+        search();
+        cancel();
+    });
+    EXPECT_EQ(kinds, std::vector<LONG_PTR>{BS_DEFPUSHBUTTON});
+}
+
 TEST_F(FindSearchTest, ASecondSearchBeginsWithAnEmptyList) {
     smallTree();
     run([&] {
@@ -532,6 +549,27 @@ TEST_F(FindSearchTest, WithoutAThreadTheDialogIsIdleAgain) {
         EXPECT_FALSE(isEnabled(IDC_FIND_STOP));
         cancel();
     });
+}
+
+std::atomic<HMODULE> givenBack = nullptr;
+
+void WINAPI givesBack(HMODULE module, DWORD code) {
+    givenBack = module;
+    ::FreeLibraryAndExitThread(module, code);
+}
+
+TEST_F(FindSearchTest, TheThreadHoldsTheLibraryAndGivesItBackAtItsEnd) {
+    const HMODULE toolkit = ::GetModuleHandleW(L"ktui.dll");
+    smallTree();
+    givenBack = ::GetModuleHandleW(nullptr);
+    run([&] {
+        const ui_test::ReplacedImport ends(toolkit, "FreeLibraryAndExitThread", &givesBack);
+        EXPECT_TRUE(ends.isThere());
+        search();
+        EXPECT_TRUE(ui_test::pump_until([] { return givenBack != ::GetModuleHandleW(nullptr); }));
+        cancel();
+    });
+    EXPECT_EQ(givenBack.load(), toolkit);
 }
 
 TEST_F(FindSearchTest, EnterInTheNameBoxSearches) {

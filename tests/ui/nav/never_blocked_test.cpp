@@ -71,21 +71,36 @@ public:
     bool isEmpty = false;
 };
 
+/// A window that has a font, as dialogs do and plain windows don't.
+class FontedParent : public ui_test::ParentWindow {
+public:
+    HFONT font = nullptr;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(font);
+        return ui_test::ParentWindow::WindowProc(message, wParam, lParam);
+    }
+};
+
 class NeverBlockedPreviews : public ::testing::Test {
 protected:
     NeverBlockedPreviews() {
         fs::create_directories(folder);
         for (const wchar_t* name : {L"quick.dwg", L"other.dwg", L"slow.dwg", L"slow2.dwg"})
             std::ofstream(folder / name) << "x";
-        // A font whose strokes are the colour of the text and nothing between.
-        LOGFONT look = {};
-        look.lfHeight = -11;
-        look.lfQuality = NONANTIALIASED_QUALITY;
-        ::lstrcpynW(look.lfFaceName, L"Tahoma", LF_FACESIZE);
-        font.CreateFontIndirect(&look);
-        parent.SetFont(&font);
     }
     ~NeverBlockedPreviews() override { fs::remove_all(folder); }
+    /// The parent's font: one whose strokes are the colour of the text and nothing between.
+    void useFont(int height) {
+        LOGFONT look = {};
+        look.lfHeight = height;
+        look.lfQuality = NONANTIALIASED_QUALITY;
+        ::lstrcpynW(look.lfFaceName, L"Tahoma", LF_FACESIZE);
+        font.DeleteObject();
+        font.CreateFontIndirect(&look);
+        parent.font = font;
+    }
     /// Lets some time go by in which a wrong answer would have come.
     static void wait(unsigned milliseconds) {
         ui_test::pump_until([] { return false; }, milliseconds);
@@ -93,7 +108,7 @@ protected:
 
     fs::path folder = fs::temp_directory_path() / "ktui never blocked";
     ui_test::TestHost host;
-    ui_test::ParentWindow parent;
+    FontedParent parent;
     CFont font;
     SlowPreviews previews;
 };
@@ -115,6 +130,21 @@ TEST_F(NeverBlockedPreviews, WithoutALimitEachPaintingWaitsForTheFile) {
     EXPECT_EQ(previews.thread(), ::GetCurrentThreadId());
     pane.Show(folder / "quick.dwg");
     EXPECT_EQ(previews.calls(), 2);
+}
+
+TEST_F(NeverBlockedPreviews, ItsWordsHaveTheFontOfItsParent) {
+    const NeverBlocked limit(kLong);
+    const auto heightOfWords = [&](int height) {
+        useFont(height);
+        Pane pane(parent);
+        pane.Show(folder / "slow.dwg");
+        EXPECT_TRUE(pane.ComesToShowWords());
+        return pane.inked.Height();
+    };
+    const int small = heightOfWords(-9), larger = heightOfWords(-18);
+    EXPECT_LT(small, 14);
+    EXPECT_GT(larger, small + 4);
+    previews.Open(L"slow.dwg");
 }
 
 TEST_F(NeverBlockedPreviews, ThePaneIsEmptyAMomentThenSaysThatItReadsThenShowsThePreview) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "canvas.h"
+#include "leak_count.h"
 #include "preview_bytes.h"
 #include "replaced_import.h"
 #include "ui_test.h"
@@ -290,6 +291,16 @@ TEST_F(Thumbnail, IsMadeSmallerToFitAndCentred) {
             ktuiDisplayThumbnail(drawing(L"a.dwg", one.width, one.height).c_str(), canvas.dc.m_hDC, 50, 50));
         EXPECT_EQ(painted(canvas, 60, 60), one.shown) << one.width << " by " << one.height;
     }
+}
+
+TEST_F(Thumbnail, PaintingLeavesNoContextBehind) {
+    ui_test::Canvas canvas(60, 60);
+    const std::wstring path = drawing(L"a.dwg", 100, 50);
+    const auto paint = [&] { EXPECT_TRUE(ktuiDisplayThumbnail(path.c_str(), canvas.dc.m_hDC, 50, 50)); };
+    paint();
+    const int before = count_held_objects().gdiObjects;
+    for (int i = 0; i < 20; ++i) paint();
+    EXPECT_EQ(count_held_objects().gdiObjects, before);
 }
 
 TEST_F(Thumbnail, IsNeverMadeLarger) {

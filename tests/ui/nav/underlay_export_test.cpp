@@ -70,6 +70,19 @@ TEST_F(UnderlayExport, OnlyASaveDialogHasItsTemplate) {
     EXPECT_STREQ(className(), "CNavUnderlayExportFileDlg");
 }
 
+TEST_F(UnderlayExport, ItsSettingsHaveTheirFlags) {
+    const auto flags = [&] { return dialog.GetImpObject()->m_fileDialog->GetOFN().Flags; };
+    look([&](HWND) {
+        EXPECT_TRUE(flags() & OFN_NOCHANGEDIR);
+        EXPECT_FALSE(flags() & OFN_OVERWRITEPROMPT);
+    });
+    dialog.SetConfirmReplace(1);
+    look([&](HWND) {
+        EXPECT_TRUE(flags() & OFN_NOCHANGEDIR);
+        EXPECT_TRUE(flags() & OFN_OVERWRITEPROMPT);
+    });
+}
+
 TEST_F(UnderlayExport, WithoutTheFlagItIsTheUsualDialog) {
     dialog.ConvertFlagsToState(0);
     look([&](HWND window) { EXPECT_EQ(own(window, 57212), nullptr); });

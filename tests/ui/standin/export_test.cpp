@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sstream>
 
 #include "../../../platform/standin/resource.h"
@@ -225,6 +226,7 @@ TEST_F(Exports, TheSecondSwitchStampsThePage) {
     EXPECT_EQ(letters(), 0) << "a line has no letters";
     plot().setSecondSwitch(true);
     EXPECT_EQ(letters(), 1);
+    EXPECT_EQ(count(exported(), "/FontBBox [0 0 0 0 ]"), 0) << "the letters have outlines";
     inDialog(
         L"Plot Stamp", [&] { plot().plotStampDialog(); },
         [](HWND dialog) {
@@ -239,6 +241,33 @@ TEST_F(Exports, TheSecondSwitchStampsThePage) {
         EXPECT_EQ(stored(L"Export", each), 0);
     host.profileStore()->setProfileInt(L"Export", L"StampLayout", 1, 0);
     EXPECT_EQ(letters(), 1);
+}
+
+TEST_F(Exports, TheStampTellsTheTimeToTheMinute) {
+    // The font of the page has a place for each letter of the line.
+    const auto lettersOfNow = [] {
+        wchar_t date[80] = {}, time[80] = {};
+        ::GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, date, 80);
+        ::GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, nullptr, nullptr, time, 80);
+        const std::wstring line = std::wstring(date) + L" " + time;
+        return "/LastChar " + std::to_string(std::set<wchar_t>(line.begin(), line.end()).size() - 1) + " ";
+    };
+    plot().setSecondSwitch(true);
+    for (const wchar_t* other : {L"StampDrawing", L"StampLayout"})
+        host.profileStore()->setProfileInt(L"Export", other, 0, 0);
+    const std::string before = lettersOfNow(), file = exported(), after = lettersOfNow();
+    EXPECT_EQ(count(file, "/Subtype /Type3"), 1);
+    EXPECT_TRUE(count(file, before) == 1 || count(file, after) == 1) << before << file;
+}
+
+TEST_F(Exports, WithoutAPaperThePageHasTheShapeOfTheArea) {
+    layout()->setPlotPaperSize(0, 0);
+    plot().setPlotArea(0, true);
+    EXPECT_EQ(count(exported(), "/MediaBox [0 0 1190.5512 595.2756]"), 1) << "the display is twice as wide";
+    plot().setPlotArea(2, true);
+    view.to = {60, 100};
+    plot().pickWindow();
+    EXPECT_EQ(count(exported(), "/MediaBox [0 0 595.2756 1190.5512]"), 1) << "the window is 30 by 60";
 }
 
 TEST_F(Exports, TheOverrideOfThePageSetupIsEdited) {
@@ -320,4 +349,9 @@ TEST_F(Exports, AnOverrideCountsOnceItIsSwitchedOn) {
     EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 0);
     plot().setOverride(true);
     EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 1);
+    layout()->setModelType(false);
+    plot().setPlotArea(3, false);
+    EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 1);
+    plot().setOverride(false);
+    EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 0);
 }

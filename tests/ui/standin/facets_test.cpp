@@ -25,18 +25,21 @@ struct OtherProduct final : CKhProductInfo {
 };
 
 struct OtherProfile final : CKhProfileStore {
-    bool getProfileInt(const wchar_t*, const wchar_t* key, int& value, int) override {
+    bool getProfileInt(const wchar_t*, const wchar_t* key, int& value, int flags) override {
+        hadFlags |= flags != 0;
         const auto found = numbers.find(key);
         if (found == numbers.end()) return false;
         value = found->second;
         return true;
     }
     bool getProfileString(const wchar_t*, const wchar_t*, OdString&, int) override { return false; }
-    bool setProfileInt(const wchar_t*, const wchar_t* key, int value, int) override {
+    bool setProfileInt(const wchar_t*, const wchar_t* key, int value, int flags) override {
+        hadFlags |= flags != 0;
         numbers[key] = value;
         return true;
     }
     std::map<std::wstring, int> numbers;
+    bool hadFlags = false;
 };
 
 struct OtherDocuments final : CKhDocumentServices {
@@ -137,6 +140,7 @@ TEST_F(Facets, AReplacedProfileServesTheSettingsOfTheDrawingRuntimeAndThePlotSer
     EXPECT_EQ(profile.numbers.at(L"LineweightMillimeters"), 0);
     EXPECT_EQ(profile.numbers.at(L"FirstSwitch"), 1);
     EXPECT_EQ(stored(L"General", L"LineweightMillimeters"), -1);
+    EXPECT_FALSE(profile.hadFlags);
 }
 
 TEST_F(Facets, AHostThatGoesPutsTheFormerOneAndItsServicesBack) {

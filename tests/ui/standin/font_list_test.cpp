@@ -4,6 +4,7 @@
 
 #include "font_folder.h"
 #include "leak_count.h"
+#include "registered_font.h"
 
 using ui_test::FontFolder;
 using ui_test::FontHost;
@@ -314,31 +315,6 @@ TEST(StandinFonts, WindowsStayAliveThroughALongWait) {
     EXPECT_EQ(::GetCursor(), arrow) << "as it was before";
 }
 
-namespace {
-
-/// A font that the user's list in the registry names.
-class RegisteredFont {
-public:
-    explicit RegisteredFont(const CString& path) {
-        ::RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_WRITE, nullptr, &m_key, nullptr);
-        ::RegSetValueExW(m_key, kValue, 0, REG_SZ, reinterpret_cast<const BYTE*>(path.GetString()),
-                         static_cast<DWORD>((path.GetLength() + 1) * static_cast<int>(sizeof(wchar_t))));
-    }
-    ~RegisteredFont() {
-        ::RegDeleteValueW(m_key, kValue);
-        ::RegCloseKey(m_key);
-    }
-    RegisteredFont(const RegisteredFont&) = delete;
-    RegisteredFont& operator=(const RegisteredFont&) = delete;
-
-private:
-    static constexpr const wchar_t* kKey = L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Fonts";
-    static constexpr const wchar_t* kValue = L"ktui test font (TrueType)";
-    HKEY m_key = nullptr;
-};
-
-}  // namespace
-
 TEST(StandinFonts, SystemAndRegisteredFontsAreListed) {
     const FontFolder folder(L"registered"), support(L"support");
     folder.writeOutline(L"reg.ttf", "Ktui Registered", "Regular");
@@ -351,7 +327,7 @@ TEST(StandinFonts, SystemAndRegisteredFontsAreListed) {
     EXPECT_NE(find(L"tahoma.ttf"), nullptr) << "of the system's folder";
     EXPECT_EQ(find(L"reg.ttf"), nullptr);
     {
-        const RegisteredFont registered(folder.file(L"reg.ttf"));
+        const ui_test::RegisteredFont registered(folder.file(L"reg.ttf"));
         EXPECT_TRUE(ui_test::pump_until([&] { return find(L"reg.ttf") != nullptr; }));
     }
     EXPECT_TRUE(ui_test::pump_until([&] { return find(L"reg.ttf") == nullptr; }));

@@ -143,7 +143,8 @@ TEST_F(LoadLinetypes, MistakesAreToldWithFileAndLine) {
             const CString text = messageOf([&] { listFile(load, path); });
             EXPECT_TRUE(has(text, path.c_str()));
             EXPECT_TRUE(has(text, L"bad.lin, line 2: \"oops\" is no length")) << text.GetString();
-            EXPECT_TRUE(has(text, L"bad.lin, line 5: the line belongs to no linetype"));
+            const CString last = L"bad.lin, line 5: the line belongs to no linetype";
+            EXPECT_EQ(text.Right(last.GetLength()), last) << text.GetString();
             EXPECT_EQ(namesIn(load), Texts{L"B1"});
         });
     });
@@ -158,6 +159,32 @@ TEST_F(LoadLinetypes, OfManyMistakesTheFirstFewAreTold) {
             const CString text = messageOf([&] { listFile(load, path); });
             EXPECT_TRUE(has(text, L"line 8:") && has(text, L"and 92 more"));
             EXPECT_FALSE(has(text, L"line 9:"));
+        });
+    });
+}
+
+TEST_F(LoadLinetypes, ARowThatIsNotThereHasNoSample) {
+    inManager([&](HWND manager) {
+        inLoad(manager, [&](HWND load) {
+            CClientDC screen(nullptr);
+            CDC dc;
+            dc.CreateCompatibleDC(&screen);
+            CBitmap bitmap;
+            bitmap.CreateCompatibleBitmap(&screen, 400, 100);
+            CBitmap* const former = dc.SelectObject(&bitmap);
+            dc.PatBlt(0, 0, 400, 100, WHITENESS);
+            NMLVCUSTOMDRAW draw = {};
+            draw.nmcd.hdr = {listOf(load), static_cast<UINT_PTR>(::GetDlgCtrlID(listOf(load))),
+                             NM_CUSTOMDRAW};
+            draw.nmcd.dwDrawStage = CDDS_ITEMPOSTPAINT;
+            draw.nmcd.hdc = dc;
+            for (const int row : {-1, 0, 1}) {
+                draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
+                ::SendMessageW(load, WM_NOTIFY, draw.nmcd.hdr.idFrom, reinterpret_cast<LPARAM>(&draw));
+            }
+            for (int x = 0; x < 400; ++x)
+                for (int y = 0; y < 100; ++y) ASSERT_EQ(dc.GetPixel(x, y), RGB(255, 255, 255));
+            dc.SelectObject(former);
         });
     });
 }
