@@ -1,0 +1,70 @@
+// What another thread builds scenes with is what this one does, and asks the host for nothing there.
+#include "screen_scene.h"
+
+#include <thread>
+
+#include "standin_fixture.h"
+
+namespace {
+
+class ScreenScene : public ui_test::StandinTest {
+protected:
+    /// A text style with a font file.
+    void addStyle(const wchar_t* name, const wchar_t* file) {
+        OdDbTextStyleTablePtr styles;
+        drawing->getTextStyleTable(styles, OdDb::kForWrite);
+        const OdSmartPtr<OdDbTextStyleTableRecord> style(new OdDbTextStyleTableRecord);
+        style->setName(name);
+        ASSERT_EQ(styles->add(OdDbSymbolTableRecordPtr(style.get())), kOdOk);
+        style->setFileName(file);
+    }
+    static SceneFont fontOf(const wchar_t* family, const wchar_t* file) {
+        SceneFont font;
+        font.family = family;
+        font.file = file;
+        return font;
+    }
+};
+
+TEST_F(ScreenScene, OnAnotherThreadTextsAreAsWideAsHere) {
+    addStyle(L"SIGNS", L"wingding.ttf");
+    addStyle(L"SHAPES", L"txt.shx");
+    const SceneOptions here = ScreenSceneOptions();
+    const std::vector<SceneFont> fonts = {fontOf(L"", L"txt.shx"), fontOf(L"", L"wingding.ttf"),
+                                          fontOf(L"Wingdings", L""), fontOf(L"Tahoma", L"txt.shx")};
+    std::vector<double> expected, measured;
+    for (const SceneFont& font : fonts) expected.push_back(here.textWidth(font, L"measured"));
+    ASSERT_EQ(expected[1], expected[2]) << "the file's family is known";
+    ASSERT_NE(expected[0], expected[1]);
+    SceneOptions there = BackgroundSceneOptions(*drawing);
+    std::thread([&, own = std::exchange(there, {})] {
+        for (const SceneFont& font : fonts) measured.push_back(own.textWidth(font, L"measured"));
+    }).join();
+    EXPECT_EQ(measured, expected);
+}
+
+TEST_F(ScreenScene, AFontFileThatNoStyleNamesIsMeasuredAsTheStandIn) {
+    const SceneOptions there = BackgroundSceneOptions(*drawing);
+    EXPECT_EQ(there.textWidth(fontOf(L"", L"wingding.ttf"), L"measured"),
+              there.textWidth(fontOf(L"", L"txt.shx"), L"measured"));
+}
+
+TEST_F(ScreenScene, OnAnotherThreadShapesComeFromTheFilesOfTheStyles) {
+    ui_test::TemporaryFolder files;
+    files.write(L"signs.shx", "shapes");
+    host.SetSupportDirectories({CString(files.path().c_str())});
+    addStyle(L"SIGNS", L"signs.shx");
+    addStyle(L"GONE", L"gone.shx");
+    const SceneOptions there = BackgroundSceneOptions(*drawing);
+    std::string found, gone = "?", unnamed = "?";
+    std::thread([&] {
+        found = there.shapeFile(L"signs.shx");
+        gone = there.shapeFile(L"gone.shx");
+        unnamed = there.shapeFile(L"other.shx");
+    }).join();
+    EXPECT_EQ(found, "shapes");
+    EXPECT_EQ(gone, "");
+    EXPECT_EQ(unnamed, "");
+}
+
+}  // namespace
