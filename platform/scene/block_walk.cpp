@@ -53,11 +53,14 @@ void DrawBlock(SceneWork& work, const OdDbObjectId& block, const SceneLevel& lev
     const auto record = block.open<OdDbBlockTableRecord>();
     if (!record || level.depth > kMaximumDepth || work.isOver() || !work.enter(block)) return;
     const auto draw = [&](const std::vector<OdDbEntity*>& entities) {
+        std::size_t drawn = 0;
         for (const OdDbEntity* entity : entities) {
             if (!work.spend(kEntityCost)) return;
+            const bool isOutermost = level.entity.isNull();
             SceneLevel inner = level;
-            if (level.entity.isNull()) inner.entity = entity->objectId();
+            if (isOutermost) inner.entity = entity->objectId();
             DrawEntity(work, *entity, inner);
+            if (isOutermost) work.noteDrawn(++drawn, entities.size());
         }
     };
     const auto order = orderOf(*record);

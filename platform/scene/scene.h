@@ -112,7 +112,9 @@ struct KTSCENE_API Scene {
     bool showsLineWeights = true;  ///< whether lines are drawn with their weights, or all thin
     /// How many entities of which kind (names as in a file) have no look here.
     std::map<std::string, int> notDrawn;
-    bool isCut = false;  ///< whether the work limit ended the building before everything was drawn
+    /// Whether the building ended before everything was drawn: at the work limit, or because it was stopped.
+    bool isCut = false;
+    bool isStopped = false;  ///< whether it was stopped; what was drawn until then is whole
 
     /// The area that everything takes up, text boxes estimated; lines without end don't count.
     SceneExtents extents() const;

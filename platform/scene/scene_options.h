@@ -1,8 +1,10 @@
 // What a scene is for, how fine it is, and what the builder takes from whoever knows fonts and files.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <functional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 
@@ -34,4 +36,9 @@ struct SceneOptions {
     /// When this much work is done (about one for each point, 40 for each path, text and entity), building
     /// ends and says so.
     std::size_t workLimit = 40'000'000;
+    /// Asked at each piece; once it is stopped, building ends as it does at the limit.
+    std::stop_token stop = {};
+    /// If not null, how far the building has come, in per cent: of the entities of the block, or of the limit
+    /// where that is nearer. Outlives the builder.
+    std::atomic<int>* percent = nullptr;
 };

@@ -22,10 +22,25 @@ SceneWork::SceneWork(OdDbDatabase& drawing, const SceneOptions& options)
     m_scene.showsLineWeights = options.use == SceneUse::kPaper || drawing.getLWDISPLAY() != 0;
 }
 
+bool SceneWork::isStopped() {
+    if (m_options.stop.stop_requested()) m_scene.isStopped = m_scene.isCut = true;
+    return m_scene.isStopped;
+}
+
 bool SceneWork::spend(std::size_t amount) {
     m_spent += amount;
     if (m_spent > m_options.workLimit) m_scene.isCut = true;
-    return !m_scene.isCut;
+    if (m_options.percent != nullptr) showPercent();
+    return !isStopped() && !m_scene.isCut;
+}
+
+void SceneWork::noteDrawn(std::size_t count, std::size_t ofAll) {
+    m_percentDrawn = static_cast<int>(count * 100 / ofAll);
+}
+
+void SceneWork::showPercent() const {
+    const auto ofLimit = static_cast<int>(m_spent / (m_options.workLimit / 100 + 1));
+    m_options.percent->store(std::clamp(ofLimit, m_percentDrawn, 100), std::memory_order_relaxed);
 }
 
 void SceneWork::add(ScenePath path) {
@@ -57,7 +72,9 @@ void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePo
         m_endless.push_back({before, base, direction * (1 / length), bothWays});
 }
 
-double SceneWork::textWidth(const SceneFont& font, std::wstring_view text) const {
+double SceneWork::textWidth(const SceneFont& font, std::wstring_view text) {
+    // A long paragraph measures many words before it draws the first.
+    if (isStopped()) return 0;
     return m_options.textWidth ? m_options.textWidth(font, text) : EstimatedTextWidth(font, text);
 }
 

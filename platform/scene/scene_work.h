@@ -22,8 +22,10 @@ public:
     int clip() const { return m_clip; }
     void setClip(int clip) { m_clip = clip; }
 
-    /// Does some work; false when the limit is reached, and the scene says so then.
+    /// Does some work; false when the limit is reached or building was stopped, and the scene says so then.
     bool spend(std::size_t amount);
+    /// Notes how many entities of the outermost block are drawn.
+    void noteDrawn(std::size_t count, std::size_t ofAll);
     bool isOver() const { return m_scene.isCut; }
 
     void add(ScenePath path);
@@ -33,7 +35,7 @@ public:
     void noteNotDrawn(const char* kind) { ++m_scene.notDrawn[kind]; }
 
     /// Width of a text whose capitals are 1 high.
-    double textWidth(const SceneFont& font, std::wstring_view text) const;
+    double textWidth(const SceneFont& font, std::wstring_view text);
     /// Size of point marks in drawing units that a setting asks for: 0 and below are shares of the view.
     double markSize(double setting) const;
 
@@ -45,6 +47,9 @@ public:
     Scene take();
 
 private:
+    bool isStopped();
+    void showPercent() const;
+
     struct Endless {
         std::size_t path;
         OdGePoint2d base, direction;
@@ -59,5 +64,6 @@ private:
     std::vector<Endless> m_endless;
     std::set<OdDbHandle> m_open;
     std::size_t m_spent = 0;
+    int m_percentDrawn = 0;  ///< of the entities of the outermost block
     int m_clip = kNoClip;
 };

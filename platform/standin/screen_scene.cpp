@@ -1,5 +1,6 @@
 #include "screen_scene.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -14,55 +15,105 @@ namespace {
 
 constexpr int kEm = 1000;  // pixels that texts are measured at
 
-/// Measures texts in the screen's fonts, each of which is made once.
+struct DeleteMemoryDc {
+    using pointer = HDC;
+    void operator()(HDC dc) const { ::DeleteDC(dc); }
+};
+struct DeleteFace {
+    using pointer = HFONT;
+    void operator()(HFONT font) const { ::DeleteObject(font); }
+};
+
+using Family = std::function<OdString(const SceneFont& font)>;
+
+/// Measures texts in the screen's fonts, each of which is made once. Everything is made on the thread that
+/// measures.
 class ScreenTextWidths {
 public:
-    ScreenTextWidths() { m_dc.CreateCompatibleDC(nullptr); }
+    explicit ScreenTextWidths(Family family) : m_family(std::move(family)) {}
 
     double operator()(const SceneFont& font, std::wstring_view text) {
-        CFont* const former = m_dc.SelectObject(&face(font));
+        if (!m_dc) m_dc.reset(::CreateCompatibleDC(nullptr));
+        const HGDIOBJ former = ::SelectObject(m_dc.get(), face(font));
         SIZE size = {};
-        ::GetTextExtentPoint32W(m_dc.m_hDC, text.data(), static_cast<int>(text.size()), &size);
-        m_dc.SelectObject(former);
+        ::GetTextExtentPoint32W(m_dc.get(), text.data(), static_cast<int>(text.size()), &size);
+        ::SelectObject(m_dc.get(), former);
         return size.cx / (kEm * kCapitalShare);
     }
 
 private:
-    CFont& face(const SceneFont& font) {
+    HFONT face(const SceneFont& font) {
         const Key key = {std::wstring(font.family.view()), std::wstring(font.file.view()), font.bold,
                          font.italic};
-        std::unique_ptr<CFont>& made = m_fonts[key];
-        if (made) return *made;
-        LOGFONT look = TextFace(font);
+        std::unique_ptr<HFONT, DeleteFace>& made = m_fonts[key];
+        if (made) return made.get();
+        LOGFONT look = TextFaceOf(font, m_family(font));
         look.lfHeight = -kEm;
-        made = std::make_unique<CFont>();
-        made->CreateFontIndirect(&look);
-        return *made;
+        made.reset(::CreateFontIndirectW(&look));
+        return made.get();
     }
 
     using Key = std::tuple<std::wstring, std::wstring, bool, bool>;
-    CDC m_dc;
-    std::map<Key, std::unique_ptr<CFont>> m_fonts;
+    Family m_family;
+    std::map<Key, std::unique_ptr<HFONT, DeleteFace>> m_fonts;
+    std::unique_ptr<HDC, DeleteMemoryDc> m_dc;
 };
 
-std::string shapeFileBytes(const OdString& name) {
-    constexpr std::size_t kMost = 16 << 20;
+SceneTextWidth textWidths(Family family) {
+    // Copies of the options share the fonts.
+    return [widths = std::make_shared<ScreenTextWidths>(std::move(family))](
+               const SceneFont& font, std::wstring_view text) { return (*widths)(font, text); };
+}
+
+OdString pathOfShapes(const OdString& name) {
     OdString path;
     CKhSystem::instance()->runtimeHost()->findFile(path, name, nullptr, 0);
+    return path;
+}
+
+std::string bytesAt(const OdString& path) {
+    constexpr std::size_t kMost = 16 << 20;
     std::string bytes;
     if (!path.isEmpty() && !ReadFileBytes(path, kMost, bytes)) bytes.clear();
     return bytes;
+}
+
+/// What the host answered for the names in a drawing's text styles.
+using Answers = std::map<OdString, OdString>;
+
+OdString answerFor(const Answers& answers, const OdString& name) {
+    const auto found = answers.find(name);
+    return found != answers.end() ? found->second : OdString();
 }
 
 }  // namespace
 
 SceneOptions ScreenSceneOptions() {
     SceneOptions options;
-    // Copies of the options share the fonts.
-    const auto widths = std::make_shared<ScreenTextWidths>();
-    options.shapeFile = &shapeFileBytes;
-    options.textWidth = [widths](const SceneFont& font, std::wstring_view text) {
-        return (*widths)(font, text);
+    options.shapeFile = [](const OdString& name) { return bytesAt(pathOfShapes(name)); };
+    options.textWidth = textWidths(&FamilyOf);
+    return options;
+}
+
+SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
+    Answers families, paths;
+    OdDbTextStyleTablePtr styles;
+    drawing.getTextStyleTable(styles);
+    for (auto each = styles->newIterator(); !each->done(); each->step()) {
+        OdDbSymbolTableRecordPtr record;
+        each->getRecord(record);
+        const OdString file = static_cast<OdDbTextStyleTableRecord&>(*record).fileName();
+        SceneFont font;
+        font.file = file;
+        families[file] = FamilyOf(font);
+        paths[file] = pathOfShapes(file);
+    }
+    SceneOptions options;
+    options.shapeFile = [paths = std::move(paths)](const OdString& name) {
+        return bytesAt(answerFor(paths, name));
     };
+    options.textWidth = textWidths([families = std::move(families)](const SceneFont& font) {
+        return font.family.isEmpty() ? answerFor(families, font.file) : font.family;
+    });
     return options;
 }

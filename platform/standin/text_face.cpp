@@ -26,14 +26,19 @@ OdString familyOfFile(const OdString& file) {
 
 }  // namespace
 
-LOGFONT TextFace(const SceneFont& font) {
+OdString FamilyOf(const SceneFont& font) {
+    return font.family.isEmpty() ? familyOfFile(font.file) : font.family;
+}
+
+LOGFONT TextFace(const SceneFont& font) { return TextFaceOf(font, FamilyOf(font)); }
+
+LOGFONT TextFaceOf(const SceneFont& font, const OdString& family) {
     LOGFONT look = {};
     look.lfCharSet = DEFAULT_CHARSET;
     look.lfQuality = ANTIALIASED_QUALITY;
     look.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
     look.lfItalic = font.italic ? 1 : 0;
-    OdString family = font.family.isEmpty() ? familyOfFile(font.file) : font.family;
-    if (family.isEmpty() || family.length() >= LF_FACESIZE) family = kStandIn;
-    wcscpy(look.lfFaceName, family);
+    const bool isFace = !family.isEmpty() && family.length() < LF_FACESIZE;
+    wcscpy(look.lfFaceName, isFace ? family.c_str() : kStandIn);
     return look;
 }

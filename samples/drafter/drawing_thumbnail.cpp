@@ -9,6 +9,8 @@ namespace {
 
 constexpr int kSteps = 6;  // of red, green and blue in the colour table
 constexpr int kColors = 256;
+// Of a larger drawing the picture shows the beginning, so that saving doesn't wait for it.
+constexpr std::size_t kMostWork = 10'000'000;
 
 struct Image {
     BITMAPINFOHEADER header;
@@ -48,7 +50,9 @@ struct DeleteBitmap {
 static_assert(kThumbnailWidth % 4 == 0, "the rows have no bytes to fill them up");
 
 std::string DrawingThumbnail(OdDbDatabase& drawing) {
-    const Scene scene = BuildScene(drawing, drawing.modelSpaceId(), ScreenSceneOptions());
+    SceneOptions options = ScreenSceneOptions();
+    options.workLimit = kMostWork;
+    const Scene scene = BuildScene(drawing, drawing.modelSpaceId(), options);
     if (scene.extents().isEmpty()) return {};
     const Image image = emptyImage();
     void* bits = nullptr;

@@ -42,10 +42,15 @@ BOOL CDrawingView::CreateView(CWnd* parent, UINT id) {
 }
 
 void CDrawingView::SetScene(Scene scene, bool keepPlace) {
+    SceneBounds bounds(scene);
+    SetScene(std::move(scene), std::move(bounds), keepPlace);
+}
+
+void CDrawingView::SetScene(Scene scene, SceneBounds bounds, bool keepPlace) {
     HideTip();
     if (m_windowFrom) stopWindow();
     m_scene = std::move(scene);
-    m_bounds = SceneBounds(m_scene);
+    m_bounds = std::move(bounds);
     std::erase_if(m_selection, [](const OdDbObjectId& each) { return !each.isValid(); });
     if (!keepPlace) {
         m_selection.clear();
@@ -65,9 +70,18 @@ void CDrawingView::ZoomExtents() {
     GetClientRect(&client);
     m_fitPending = client.IsRectEmpty();
     ScenePlace shown = place();
-    shown.Fit(m_scene.extents());
+    shown.Fit(shownExtents());
     m_center = shown.center;
     m_scale = shown.scale;
+    m_showsExtents = true;
+    Invalidate();
+}
+
+void CDrawingView::GoTo(const ViewPlace& place) {
+    if (place.showsExtents) return ZoomExtents();
+    m_center = place.center;
+    m_scale = place.scale;
+    m_showsExtents = m_fitPending = false;
     Invalidate();
 }
 
@@ -92,8 +106,8 @@ void CDrawingView::OnPaint() {
     dc.GetClipBox(&outdated);
     if (outdated.IsRectEmpty()) return;
     CMemDC memory(dc, outdated);
-    memory.GetDC().FillSolidRect(&outdated, m_colors.paper);
-    PaintScene(memory.GetDC(), m_scene, m_bounds, place(), m_selection, m_colors);
+    paintSheet(memory.GetDC(), outdated);
+    PaintScene(memory.GetDC(), m_scene, m_bounds, place(), m_selection, sceneColors());
     paintBand(memory.GetDC());
     paintWindow(memory.GetDC());
     invertCrosshair(memory.GetDC());
@@ -223,7 +237,9 @@ void CDrawingView::OnKeyDown(UINT key, UINT repeat, UINT flags) {
     if (key == VK_ESCAPE && m_windowFrom) return stopWindow();
     if (IsPicking() && pickByKey(key)) return;
     switch (key) {
-        case VK_ESCAPE: SetSelection({}); break;
+        case VK_ESCAPE:
+            if (!m_escape || !m_escape()) SetSelection({});
+            break;
         case VK_LEFT: panBy(CSize(kPanStep, 0)); break;
         case VK_RIGHT: panBy(CSize(-kPanStep, 0)); break;
         case VK_UP: panBy(CSize(0, kPanStep)); break;
@@ -237,6 +253,7 @@ void CDrawingView::OnKeyDown(UINT key, UINT repeat, UINT flags) {
 }
 
 void CDrawingView::zoomAt(CPoint pixel, double factor) {
+    m_showsExtents = false;
     const OdGePoint2d fixed = FromPixel(pixel);
     m_scale = std::clamp(m_scale * factor, 1e-9, 1e9);
     const OdGePoint2d moved = FromPixel(pixel);
@@ -250,6 +267,7 @@ void CDrawingView::panBy(CSize pixels) {
     // is.
     const std::optional<CPoint> crosshair = m_crosshairAt;
     moveCrosshair({});
+    m_showsExtents = false;
     m_center.x -= pixels.cx / m_scale;
     m_center.y += pixels.cy / m_scale;
     // A band or a window goes from a place of the drawing to the pointer.
@@ -261,5 +279,7 @@ void CDrawingView::panBy(CSize pixels) {
 }
 
 OdDbObjectId CDrawingView::entityAt(CPoint pixel) const {
-    return EntityAt(m_scene, m_bounds, FromPixel(pixel), kPickDistance / m_scale);
+    // While another scene is being built this one may show what is gone already.
+    const OdDbObjectId found = EntityAt(m_scene, m_bounds, FromPixel(pixel), kPickDistance / m_scale);
+    return found.isValid() ? found : OdDbObjectId();
 }

@@ -12,11 +12,24 @@
 
 #include <ktui/tips/kh_tip_ctrl.h>
 
+#include <plotting/paper_place.h>
+
 #include "scene_painter.h"
 
 /// Posted to the parent when the selection changed, and when the pointer moved (its place is pointer()).
 constexpr UINT WM_DRAFTER_SELECTION = WM_APP + 1;
 constexpr UINT WM_DRAFTER_POINTER = WM_APP + 2;
+// WM_APP + 3 is the main window's, WM_APP + 4 and 5 the drawing window's own.
+
+/// The color of a sheet's paper, whatever that of model space is.
+constexpr COLORREF kSheetPaper = RGB(255, 255, 255);
+
+/// Which part of a drawing a view shows.
+struct ViewPlace {
+    OdGePoint2d center;
+    double scale = 1;           ///< pixels for one drawing unit
+    bool showsExtents = false;  ///< all of it, however large the window is
+};
 
 class CDrawingView : public CWnd {
     DECLARE_DYNAMIC(CDrawingView)
@@ -27,7 +40,18 @@ public:
 
     /// Shows another scene; `keepPlace` leaves zoom and centre as they are.
     void SetScene(Scene scene, bool keepPlace);
+    /// The same where the scene's bounds are known.
+    void SetScene(Scene scene, SceneBounds bounds, bool keepPlace);
     void ZoomExtents();
+    /// Whether the zoom is still that of ZoomExtents.
+    bool ShowsExtents() const { return m_showsExtents; }
+    /// Where the view is, and going there again.
+    ViewPlace Place() const { return {m_center, m_scale, m_showsExtents}; }
+    void GoTo(const ViewPlace& place);
+    /// What lies below the scene if it is that of a sheet.
+    void SetSheet(const std::optional<SheetPlace>& sheet);
+    /// What Escape does first when nothing is picked or drawn: true if it did something.
+    void SetEscape(std::function<bool()> escape) { m_escape = std::move(escape); }
     /// Enlarges by `factor` about the middle of the window.
     void Zoom(double factor);
 
@@ -105,12 +129,18 @@ private:
     void select(const std::set<OdDbObjectId>& objects, bool toSelection);
     void paintWindow(CDC& dc) const;
 
+    /// What ZoomExtents shows: the scene, and the paper below it.
+    SceneExtents shownExtents() const;
+    SceneColors sceneColors() const;
+    void paintSheet(CDC& dc, const CRect& outdated) const;
+
     enum class Picking { kNothing, kPlaces, kObjects };
     /// Starts, keeps or takes away the tip of the object under the pointer.
     void updateTip(CPoint pixel);
 
     Scene m_scene;
     SceneBounds m_bounds;  ///< of the scene
+    std::optional<SheetPlace> m_sheet;
     std::set<OdDbObjectId> m_selection;
     OdGePoint2d m_center;
     double m_scale = 1;  ///< pixels for one drawing unit
@@ -130,5 +160,7 @@ private:
     SceneColors m_colors;
     int m_crosshair = 5;
     std::optional<CPoint> m_crosshairAt;  ///< client pixels; nothing while the pointer is elsewhere
-    bool m_fitPending = true;             ///< nothing was shown yet, so the next size decides the zoom
+    std::function<bool()> m_escape;
+    bool m_showsExtents = true;
+    bool m_fitPending = true;  ///< nothing was shown yet, so the next size decides the zoom
 };

@@ -64,7 +64,10 @@ void CDrawingView::selectByWindow(const OdGePoint2d& from, const OdGePoint2d& to
     window.add(from);
     window.add(to);
     const bool touched = takesTouched(from, to);
-    select(touched ? EntitiesTouching(m_scene, window) : EntitiesInside(m_scene, window), toSelection);
+    std::set<OdDbObjectId> found =
+        touched ? EntitiesTouching(m_scene, window) : EntitiesInside(m_scene, window);
+    std::erase_if(found, [](const OdDbObjectId& each) { return !each.isValid(); });
+    select(found, toSelection);
 }
 
 void CDrawingView::PickCorners(PickEnded ended) {

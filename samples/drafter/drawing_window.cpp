@@ -1,7 +1,6 @@
 #include "drawing_window.h"
 
 #include <kh_font_list.h>
-#include <screen_scene.h>
 #include <standin_host.h>
 
 #include "dimension_style_dialog.h"
@@ -9,12 +8,12 @@
 #include "options.h"
 #include "properties_dialog.h"
 #include "resource.h"
-#include "scene_notice.h"
 #include "text_style_dialog.h"
 
 namespace {
 
 constexpr double kZoomStep = 1.25;
+constexpr UINT kLayoutTabs = 1;  // the id of the tabs
 
 CString textOf(UINT id) {
     CString text;
@@ -34,6 +33,9 @@ BEGIN_MESSAGE_MAP(CDrawingWindow, CMDIChildWndEx)
     ON_WM_SYSCOMMAND()
     ON_MESSAGE(WM_DRAFTER_SELECTION, &CDrawingWindow::OnSelection)
     ON_MESSAGE(WM_DRAFTER_POINTER, &CDrawingWindow::OnPointer)
+    ON_MESSAGE(WM_DRAFTER_SCENE, &CDrawingWindow::OnScene)
+    ON_MESSAGE(WM_DRAFTER_BEHIND, &CDrawingWindow::OnBehind)
+    ON_WM_TIMER()
     ON_COMMAND(ID_FILE_CLOSE, &CDrawingWindow::OnFileClose)
     ON_COMMAND(ID_FILE_SAVE, &CDrawingWindow::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &CDrawingWindow::OnFileSaveAs)
@@ -46,6 +48,15 @@ BEGIN_MESSAGE_MAP(CDrawingWindow, CMDIChildWndEx)
     ON_COMMAND(ID_VIEW_EXTENTS, &CDrawingWindow::OnZoomExtents)
     ON_COMMAND(ID_VIEW_ZOOM_IN, &CDrawingWindow::OnZoomIn)
     ON_COMMAND(ID_VIEW_ZOOM_OUT, &CDrawingWindow::OnZoomOut)
+    ON_COMMAND(ID_VIEW_REDRAW, &CDrawingWindow::OnRedraw)
+    ON_NOTIFY(TCN_SELCHANGE, kLayoutTabs, &CDrawingWindow::OnLayoutTab)
+    ON_NOTIFY(TCN_SELCHANGING, kLayoutTabs, &CDrawingWindow::OnLayoutTabChanging)
+    ON_COMMAND(ID_VIEW_NEXT_SHEET, &CDrawingWindow::OnNextLayout)
+    ON_COMMAND(ID_VIEW_PREVIOUS_SHEET, &CDrawingWindow::OnPreviousLayout)
+    ON_COMMAND_RANGE(ID_VIEW_SHEET_FIRST, ID_VIEW_SHEET_LAST, &CDrawingWindow::OnLayout)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_SHEET_FIRST, ID_VIEW_SHEET_LAST, &CDrawingWindow::OnUpdateLayout)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_NEXT_SHEET, &CDrawingWindow::OnUpdateNextLayout)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_PREVIOUS_SHEET, &CDrawingWindow::OnUpdatePreviousLayout)
     ON_COMMAND(ID_FORMAT_PROPERTIES, &CDrawingWindow::OnProperties)
     ON_COMMAND(ID_FORMAT_DIMENSION_STYLE, &CDrawingWindow::OnDimensionStyle)
     ON_COMMAND(ID_FORMAT_TEXT_STYLE, &CDrawingWindow::OnTextStyle)
@@ -70,7 +81,11 @@ bool CDrawingWindow::Open(CMDIFrameWnd& frame) {
 int CDrawingWindow::OnCreate(LPCREATESTRUCT create) {
     if (CMDIChildWndEx::OnCreate(create) == -1) return -1;
     if (!m_view.CreateView(this, AFX_IDW_PANE_FIRST)) return -1;
+    if (!m_tabs.CreateTabs(this, kLayoutTabs)) return -1;
+    m_view.SetEscape([this] { return StopBuilding(); });
     UseLook();
+    // A tab in the main window may have brought this one to the front already.
+    if (m_wasShown) showTabs();
     return 0;
 }
 
@@ -118,22 +133,6 @@ LRESULT CDrawingWindow::OnPointer(WPARAM, LPARAM) {
     return 0;
 }
 
-void CDrawingWindow::Refresh(bool keepPlace) {
-    m_isOutdated = false;
-    m_wasShown = true;
-    Scene scene = BuildScene(drawing(), drawing().currentSpaceId(), ScreenSceneOptions());
-    m_notice = UndrawnText(scene);
-    m_view.SetScene(std::move(scene), keepPlace);
-    showTitle();
-    m_desk.DrawingChanged(*this);
-}
-
-bool CDrawingWindow::RefreshIfOutdated() {
-    if (m_wasShown && !m_isOutdated) return false;
-    Refresh(m_wasShown);
-    return true;
-}
-
 void CDrawingWindow::UseLook() {
     const DrafterOptions& options = m_desk.Options();
     m_view.SetLook({options.background, options.selection}, options.crosshair);
@@ -149,11 +148,6 @@ CString CDrawingWindow::ShownName() const {
     CString untitled = textOf(IDS_UNTITLED);
     if (m_number > 1) untitled.Format(IDS_UNTITLED_NUMBER, m_number);
     return untitled;
-}
-
-CString CDrawingWindow::Notice() const {
-    const CString mended = MendedText(m_document->Reading());
-    return mended.IsEmpty() || m_notice.IsEmpty() ? mended + m_notice : mended + L" " + m_notice;
 }
 
 CString CDrawingWindow::Title() const {

@@ -3,6 +3,7 @@
 // them.
 #pragma once
 
+#include <map>
 #include <memory>
 
 #include <afxwin.h>
@@ -12,11 +13,18 @@
 #include "drawing_desk.h"
 #include "drawing_picker.h"
 #include "drawing_view.h"
+#include "layout_tabs.h"
 #include "messages.h"
+#include "scene_build.h"
 
+#include <od_db_shared_reading.h>
 #include <standin_plot_view.h>
 
 class CKhFontStyle;
+
+/// Posted to the window of a drawing when its scene was built, and when a change ended the building.
+constexpr UINT WM_DRAFTER_SCENE = WM_APP + 4;
+constexpr UINT WM_DRAFTER_BEHIND = WM_APP + 5;
 
 class CDrawingWindow : public CMDIChildWndEx, private CDrawingPicker, private StandinPlotView {
     DECLARE_DYNAMIC(CDrawingWindow)
@@ -43,8 +51,13 @@ public:
     /// What was mended in the drawing and what of it isn't shown, for the status line; empty for nothing.
     CString Notice() const;
 
-    /// Shows the drawing as it is now. `keepPlace` leaves the view's place and the selection.
+    /// Shows the drawing as it is now, at once or, where that would take long, when a thread has built its
+    /// scene: until then the view shows what it did, or the beginning if that was nothing. `keepPlace` leaves
+    /// the view's place and the selection.
     void Refresh(bool keepPlace);
+    bool IsBuilding() const { return m_build != nullptr; }
+    /// Ends building where it is, as Escape does; what is there is shown. False if nothing was being built.
+    bool StopBuilding();
     /// The drawing may look otherwise, as after other options: it is shown anew when it comes to the front.
     void Outdate() { m_isOutdated = true; }
     /// False if the drawing was shown as it is already.
@@ -53,6 +66,9 @@ public:
     /// Makes one step of Undo of what was changed, under the string `name`, and shows the drawing.
     void FinishChange(UINT name);
     void FinishChange(const CString& name);
+    /// Shows the layout of tab `index`, 0 for model space; nothing happens for none, or while something is
+    /// picked. The layout is the drawing's current one then: new objects go there.
+    void ShowLayout(int index);
     /// Inserts a block, and selects the new reference.
     void InsertBlockAt(const OdDbObjectId& block, const OdGePoint2d& place);
     /// Has the user pick a place for the block.
@@ -73,6 +89,9 @@ protected:
     afx_msg void OnSysCommand(UINT command, LPARAM lParam);
     afx_msg LRESULT OnSelection(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnScene(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnBehind(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnFileClose();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
@@ -85,6 +104,15 @@ protected:
     afx_msg void OnZoomExtents();
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
+    afx_msg void OnRedraw();
+    afx_msg void OnLayoutTab(NMHDR* header, LRESULT* result);
+    afx_msg void OnLayoutTabChanging(NMHDR* header, LRESULT* result);
+    afx_msg void OnNextLayout();
+    afx_msg void OnPreviousLayout();
+    afx_msg void OnLayout(UINT command);
+    afx_msg void OnUpdateLayout(CCmdUI* item);
+    afx_msg void OnUpdateNextLayout(CCmdUI* item);
+    afx_msg void OnUpdatePreviousLayout(CCmdUI* item);
     afx_msg void OnProperties();
     afx_msg void OnDimensionStyle();
     afx_msg void OnTextStyle();
@@ -99,6 +127,22 @@ private:
     void PickObjects(unsigned prompt, ObjectsPicked picked) override;
     bool displayedArea(OdGePoint2d& low, OdGePoint2d& high) override;
     bool pickArea(OdGePoint2d& first, OdGePoint2d& second) override;
+    /// Shows a scene of the current layout, with the paper below it.
+    void showScene(Scene scene, SceneBounds bounds, bool keepPlace);
+    /// If another layout is current than the one that shows: keeps where the view is in that one. True then.
+    bool leaveSpace();
+    /// Where the user was in the layout that shows now.
+    void returnToPlace();
+    void showTabs();
+    std::vector<CString> layoutNames() const;
+    /// The tab of the current layout; -1 for none.
+    int currentLayout() const;
+    std::optional<SheetPlace> sheetUnder(const Scene& scene) const;
+    void startBuild();
+    /// Shows what was built.
+    void finishBuild();
+    /// Before a change: nobody reads the drawing any more.
+    void dropBuild();
     void sayPrompt();
     void showTitle();
     /// Shows a dialog that edits the drawing, and the drawing as it is afterwards. What it changed is undone
@@ -121,8 +165,17 @@ private:
     std::unique_ptr<CDraftDocument> m_document;
     int m_number;
     CDrawingView m_view;
+    CLayoutTabs m_tabs;
+    std::vector<OdDbObjectId> m_layouts;       ///< one for each tab
+    OdDbObjectId m_space;                      ///< the block that is shown
+    std::map<OdDbHandle, ViewPlace> m_places;  ///< where the user was in blocks that were shown before
     unsigned m_firstPrompt = 0;
     CString m_notice;  ///< what isn't shown
     bool m_isOutdated = false;
     bool m_wasShown = false;
+    bool m_refits = false;    ///< what is built is to be seen whole, unless the user has zoomed since
+    bool m_isBehind = false;  ///< a change ended the building, and nobody has asked for the scene since
+    int m_shownPercent = 0;
+    std::unique_ptr<CSceneBuild> m_build;  ///< null while nothing is being built
+    OdDbSharedReading m_reading{drawing(), [this] { dropBuild(); }};
 };

@@ -1,8 +1,20 @@
 // A drawing's Edit menu: undo, redo, the selection, and blocks that are inserted.
+#include <od_db_viewport.h>
+
 #include "block_list.h"
 #include "drawing_window.h"
 #include "resource.h"
 #include "undo_menu.h"
+
+namespace {
+
+/// Whether it is the viewport that stands for a sheet as a whole.
+bool isSheet(const OdDbEntity& entity) {
+    const auto* const viewport = dynamic_cast<const OdDbViewport*>(&entity);
+    return viewport != nullptr && viewport->isSheet();
+}
+
+}  // namespace
 
 void CDrawingWindow::FinishChange(UINT name) {
     CString text;
@@ -31,7 +43,7 @@ void CDrawingWindow::OnSelectAll() {
     std::set<OdDbObjectId> all;
     const auto space = drawing().currentSpaceId().open<OdDbBlockTableRecord>();
     for (const OdDbEntity* entity : space->entities())
-        if (!entity->isErased()) all.insert(entity->objectId());
+        if (!entity->isErased() && !isSheet(*entity)) all.insert(entity->objectId());
     m_view.SetSelection(std::move(all));
 }
 

@@ -4,14 +4,8 @@
 
 #include "choice_dialog.h"
 #include "name_dialog.h"
+#include "name_menu.h"
 #include "resource.h"
-
-namespace {
-
-constexpr std::size_t kListed = ID_VIEW_LAYOUT_LAST - ID_VIEW_LAYOUT_FIRST + 1;
-constexpr unsigned kLastDigit = 9;  // entries with a key of their own
-
-}  // namespace
 
 void CLayoutsMenu::Attach(CMDIFrameWndEx& frame) {
     m_frame = &frame;
@@ -30,36 +24,13 @@ std::vector<OdString> CLayoutsMenu::names() const {
 }
 
 void CLayoutsMenu::Update(CCmdUI* item) {
-    if (item->m_nID == ID_VIEW_LAYOUT_FIRST)
-        list(item);
-    else
+    if (item->m_nID != ID_VIEW_LAYOUT_FIRST) {
         item->Enable(item->m_nID != ID_VIEW_LAYOUT_DELETE || !names().empty());
-}
-
-void CLayoutsMenu::list(CCmdUI* item) const {
-    CMenu* const menu = item->m_pMenu;
-    // The menu that this one hangs from asks as well.
-    if (menu == nullptr || item->m_pSubMenu != nullptr) return;
-    for (UINT id = ID_VIEW_LAYOUT_FIRST; id <= ID_VIEW_LAYOUT_LAST; ++id) menu->DeleteMenu(id, MF_BYCOMMAND);
-    const std::vector<OdString> all = names();
-    if (all.empty()) {
-        CString none;
-        none.LoadString(IDS_NO_LAYOUTS);
-        menu->InsertMenu(item->m_nIndex, MF_BYPOSITION | MF_GRAYED, ID_VIEW_LAYOUT_FIRST, none);
-        item->m_bEnableChanged = TRUE;
         return;
     }
-    for (std::size_t i = 0; i < all.size() && i < kListed; ++i) {
-        CString name(all[i].c_str()), text;
-        name.Replace(L"&", L"&&");
-        const auto number = static_cast<unsigned>(i + 1);
-        text.Format(number <= kLastDigit ? L"&%u %s" : L"%u %s", number, name.GetString());
-        menu->InsertMenu(item->m_nIndex++, MF_BYPOSITION, item->m_nID++, text);
-    }
-    // The caller goes on behind what was put in.
-    --item->m_nIndex;
-    item->m_nIndexMax = static_cast<UINT>(menu->GetMenuItemCount());
-    item->m_bEnableChanged = TRUE;
+    std::vector<CString> all;
+    for (const OdString& name : names()) all.emplace_back(name.c_str());
+    ListNamesInMenu(*item, all, ID_VIEW_LAYOUT_LAST, IDS_NO_LAYOUTS);
 }
 
 void CLayoutsMenu::Do(UINT command) {

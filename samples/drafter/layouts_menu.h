@@ -15,7 +15,6 @@ public:
 
 private:
     std::vector<OdString> names() const;
-    void list(CCmdUI* item) const;
     void save();
     void remove();
     /// Says why the last call failed.

@@ -101,11 +101,13 @@ private:
     CStandinHost& Host() override { return m_host; }
     const DrafterOptions& Options() const override { return m_options; }
     CWnd& DialogOwner() override { return *this; }
+    SceneOptions ViewSceneOptions(OdDbDatabase& drawing, bool inBackground) override;
     void DrawingActivated(CDrawingWindow* window) override;
     void DrawingChanged(const CDrawingWindow& window) override;
     void SelectionChanged(const CDrawingWindow& window) override;
     void PointerMoved(const CDrawingWindow& window) override;
     void NameChanged(const CDrawingWindow& window) override;
+    void NoticeChanged(const CDrawingWindow& window) override;
     void Say(const CString& prompt) override { m_status.Say(prompt); }
     void SayIdle() override;
     void TakeTyped() override { m_palettes.TakeTyped(); }

@@ -6,6 +6,7 @@
 
 #include <ktdb.h>
 #include <ktut.h>
+#include <screen_scene.h>
 #include <standin_host.h>
 
 #include "messages.h"
@@ -100,6 +101,15 @@ void CMainFrame::PointerMoved(const CDrawingWindow& window) {
 
 void CMainFrame::NameChanged(const CDrawingWindow& window) {
     if (&window == m_active) OnUpdateFrameTitle(TRUE);
+}
+
+/// While the user goes through the menu the line speaks of its items.
+void CMainFrame::NoticeChanged(const CDrawingWindow& window) {
+    if (&window == m_active && !isPicking() && m_nIDTracking == AFX_IDS_IDLEMESSAGE) SayIdle();
+}
+
+SceneOptions CMainFrame::ViewSceneOptions(OdDbDatabase& drawing, bool inBackground) {
+    return inBackground ? BackgroundSceneOptions(drawing) : ScreenSceneOptions();
 }
 
 /// The drawing comes first, so that the task bar tells one drafter from the other.

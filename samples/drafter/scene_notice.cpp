@@ -12,6 +12,6 @@ CString UndrawnText(const Scene& scene) {
     if (count > 0) text.Format(IDS_UNDRAWN_STATUS, count, kinds.GetString());
     if (!scene.isCut) return text;
     CString cut;
-    static_cast<void>(cut.LoadString(IDS_SCENE_CUT_STATUS));
+    static_cast<void>(cut.LoadString(scene.isStopped ? IDS_SCENE_STOPPED_STATUS : IDS_SCENE_CUT_STATUS));
     return text.IsEmpty() ? cut : cut + L" " + text;
 }

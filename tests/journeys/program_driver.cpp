@@ -100,6 +100,13 @@ bool Program::isRunning() const {
     return m_process.hProcess != nullptr && ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT;
 }
 
+DWORD Program::exitCode() const {
+    waitUntil([this] { return !isRunning(); });
+    DWORD code = STILL_ACTIVE;
+    ::GetExitCodeProcess(m_process.hProcess, &code);
+    return code;
+}
+
 HWND Program::findWindow(const std::function<bool(HWND)>& wanted) const {
     struct Search {
         DWORD process;

@@ -20,6 +20,8 @@ public:
     HWND frame() const { return m_frame; }
     /// Whether the program still runs.
     bool isRunning() const;
+    /// What it ended with, as soon as it has ended; STILL_ACTIVE if it doesn't.
+    DWORD exitCode() const;
 
     /// The visible dialog whose title begins with `title`, as soon as there is one.
     HWND waitForDialog(const std::wstring& title, unsigned milliseconds = 8000);

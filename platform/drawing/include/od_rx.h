@@ -2,7 +2,8 @@
 // objects through which the runtime sees an extension library.
 //
 // A counted object starts with a count of 0; the first OdSmartPtr that takes it makes the count 1, and the
-// last one to let go deletes it. Counts aren't atomic: the runtime lives on the user-interface thread.
+// last one to let go deletes it. Any thread may count; what else other threads may do, od_db_shared_reading.h
+// says.
 #pragma once
 
 #include <cstddef>

@@ -12,14 +12,16 @@ template <class State, class Field>
 void forEachField(const OdDbStore& store, OdDbObject& object, State& state, Field field) {
     field(store.groupsOf(object), state.groups);
     field(store.isErasedOf(object), state.isErased);
-    if (auto* record = dynamic_cast<OdDbSymbolTableRecord*>(&object))
+    auto* block = dynamic_cast<OdDbBlockTableRecord*>(&object);
+    // The names of blocks change with the layout that is shown, and with nothing else.
+    if (auto* record = dynamic_cast<OdDbSymbolTableRecord*>(&object); record && !block)
         field(store.nameOf(*record), state.name);
     if (auto* entity = dynamic_cast<OdDbEntity*>(&object)) {
         field(store.layerOf(*entity), state.layer);
         field(store.linetypeOf(*entity), state.linetype);
         if (auto* parts = store.partsOf(*entity)) field(*parts, state.parts);
     }
-    if (auto* block = dynamic_cast<OdDbBlockTableRecord*>(&object)) {
+    if (block) {
         field(store.blockBegin(*block), state.blockBegin);
         field(store.blockEnd(*block), state.blockEnd);
     }
@@ -77,6 +79,7 @@ void OdDbChangeNotes::tidy() {
 
 void OdDbChangeNotes::exchange() {
     if (store != &OdDbStore::of(*drawing)) return;
+    store->endSharedReading();
     for (auto& entry : before)
         forEachField(*store, *store->object(entry.first), entry.second,
                      [](auto& field, auto& kept) { std::swap(field, kept); });
@@ -84,7 +87,11 @@ void OdDbChangeNotes::exchange() {
         bool& isErased = store->isErasedOf(*store->object(handle));
         isErased = !isErased;
     }
-    if (header) std::swap(*header, store->header);
+    if (header) {
+        const auto shown = static_cast<int>(store->header.integer("TILEMODE"));
+        std::swap(*header, store->header);
+        store->setTileMode(shown);
+    }
     store->refreshNames();
     drawing->setModified(true);
 }

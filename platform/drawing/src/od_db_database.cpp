@@ -36,6 +36,7 @@ OdResult OdDbDatabase::readDxf(const wchar_t* path, OdDbDxfError* error, OdDxfRe
 }
 
 OdResult OdDbDatabase::readDxfBytes(std::string_view bytes, OdDbDxfError* error, OdDxfReading* reading) {
+    m_store->endSharedReading();
     auto fresh = std::make_unique<OdDbStore>(this);
     const bool wasModified = m_modified;
     OdDbDxfError reason;
@@ -49,6 +50,7 @@ OdResult OdDbDatabase::readDxfBytes(std::string_view bytes, OdDbDxfError* error,
         m_modified = wasModified;
         return fail(error, reason);
     }
+    m_store->sharedReadings = std::move(fresh->sharedReadings);
     m_store->complete();
     if (!m_store->versionIsKnown) m_store->version = odVersionThatHolds(*m_store);
     m_modified = false;

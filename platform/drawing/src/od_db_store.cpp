@@ -51,12 +51,23 @@ bool OdDbStore::isGone(const OdDbObject& gone) const {
     return false;
 }
 
+void OdDbStore::endSharedReading() const {
+    for (const std::function<void()>* each : sharedReadings) (*each)();
+}
+
 void OdDbStore::willChange(const OdDbObject& object) const {
+    endSharedReading();
     if (notes) notes->willChange(object);
 }
 
 void OdDbStore::willChangeHeader() const {
+    endSharedReading();
     if (notes) notes->willChangeHeader();
+}
+
+void OdDbStore::setTileMode(int mode) {
+    header.setInteger("TILEMODE", mode);
+    if (notes && notes->header) notes->header->setInteger("TILEMODE", mode);
 }
 
 void OdDbStore::made(const OdDbObject& object) const {
@@ -80,6 +91,7 @@ OdDbObject* OdDbStore::object(OdDbHandle handle) const {
 }
 
 void OdDbStore::adopt(const OdDbObjectPtr& object, OdDbHandle handle, OdDbHandle owner) {
+    endSharedReading();
     if (handle == 0 || objects.count(handle)) handle = newHandle();
     if (handle >= nextHandle) nextHandle = handle + 1;
     object->m_handle = handle;

@@ -2,6 +2,7 @@
 // class stands for. A read builds a new store and puts it in the place of the old one when it has succeeded.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <unordered_map>
@@ -55,6 +56,10 @@ struct OdDbStore {
     void willChange(const OdDbObject& object) const;
     void willChangeHeader() const;
     void made(const OdDbObject& object) const;
+    /// To be called before anything at all changes: whoever reads on another thread ends that.
+    void endSharedReading() const;
+    /// Sets TILEMODE as no change of the drawing.
+    void setTileMode(int mode);
     /// Finds records by their names again after names or erased records have changed without the tables.
     void refreshNames();
     /// Gives a layer another name, which is free, also where the drawing names it in words.
@@ -145,6 +150,7 @@ struct OdDbStore {
     std::map<std::string, OdGroupList> comments;  // beside records: by the section or table, with / behind it
     std::unordered_set<std::wstring> namesOfR12File[kTableCount];  // folded, if that file was of R12
     OdDbChangeNotes* notes = nullptr;  // what is told of changes; null while nobody notes them
+    std::vector<std::function<void()>*> sharedReadings;  // to be called before a change
 
 private:
     OdDbDictionary* needDictionary(const wchar_t* name, bool withDefault = false);

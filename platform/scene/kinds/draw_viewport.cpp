@@ -29,7 +29,9 @@ std::vector<OdGePoint2d> outlineOf(const OdDbObjectId& entity, const EntityPen& 
     std::vector<OdGePoint2d> outline;
     const auto shape = entity.open<OdDbEntity>();
     if (!shape) return outline;
-    SceneWork scratch(pen.work().drawing(), pen.work().options());
+    SceneOptions options = pen.work().options();
+    options.percent = nullptr;
+    SceneWork scratch(pen.work().drawing(), options);
     EntityPen own(scratch, pen.level(), pen.look());
     if (const DrawFunction draw = DrawFunctionFor(shape->dxfName()); draw != nullptr && draw != DrawViewport)
         draw(*shape, own);

@@ -1,6 +1,5 @@
 #include "plotting/drawing_plot.h"
 
-#include <algorithm>
 #include <map>
 
 #include "scene_options.h"
@@ -59,19 +58,6 @@ OdDbPlotSettingsPtr PlotSettingsOf(const OdDbLayout& layout, bool overrides) {
             if (auto settings = dictionary->getAt(kPlotOverrideName).open<OdDbPlotSettings>())
                 return settings;
     return OdDbPlotSettingsPtr(const_cast<OdDbLayout*>(&layout));
-}
-
-std::vector<OdDbLayoutPtr> LayoutsOnPaper(OdDbDatabase& drawing) {
-    std::vector<OdDbLayoutPtr> layouts;
-    OdDbDictionaryPtr dictionary;
-    if (drawing.getLayoutDictionary(dictionary) != kOdOk) return layouts;
-    for (auto each = dictionary->newIterator(); !each->done(); each->next())
-        if (auto layout = each->objectId().open<OdDbLayout>(); layout && !layout->modelType())
-            layouts.push_back(layout);
-    std::stable_sort(layouts.begin(), layouts.end(), [](const OdDbLayoutPtr& a, const OdDbLayoutPtr& b) {
-        return a->getTabOrder() < b->getTabOrder();
-    });
-    return layouts;
 }
 
 SceneExtents ModelExtents(OdDbDatabase& drawing) {

@@ -5,6 +5,7 @@
 //     std::string file = plot.write(L"Bracket");
 #pragma once
 
+#include "plotting/layouts_on_paper.h"
 #include "plotting/scene_plotter.h"
 
 /// The name in a layout's extension dictionary under which the settings that override its own are kept.
@@ -12,9 +13,6 @@ constexpr const wchar_t* kPlotOverrideName = L"AcPublish_PlotSettingsOverride";
 
 /// The settings that `layout` is plotted by: those that override its own for `overrides`, if it has some.
 OdDbPlotSettingsPtr PlotSettingsOf(const OdDbLayout& layout, bool overrides);
-
-/// The layouts on paper in the order of their tabs.
-std::vector<OdDbLayoutPtr> LayoutsOnPaper(OdDbDatabase& drawing);
 
 /// The area that everything that is plotted in model space takes up.
 SceneExtents ModelExtents(OdDbDatabase& drawing);

@@ -1,6 +1,7 @@
 #include "plotting/paper_place.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -72,6 +73,26 @@ PaperPlace PlaceLayout(const OdDbPlotSettings& settings, const SceneExtents& con
     place.origin = {(sheet.margins.left + moved.x) * kPointsPerMillimetre,
                     (sheet.margins.bottom + moved.y) * kPointsPerMillimetre};
     return place;
+}
+
+SheetPlace PlaceSheet(const OdDbPlotSettings& settings, const SceneExtents& content) {
+    const PaperPlace place = PlaceLayout(settings, content);
+    const OdDbPlotMargins margins = sheetOf(settings, content).margins;
+    const auto inUnits = [&place](double left, double bottom, double right, double top) {
+        const auto unitsOf = [&place](double x, double y) {
+            return OdGePoint2d{(x - place.origin.x) / place.scale, (y - place.origin.y) / place.scale};
+        };
+        return SceneExtents{
+            unitsOf(left * kPointsPerMillimetre, bottom * kPointsPerMillimetre),
+            unitsOf(place.width - right * kPointsPerMillimetre, place.height - top * kPointsPerMillimetre)};
+    };
+    const SheetPlace sheet = {inUnits(0, 0, 0, 0),
+                              inUnits(margins.left, margins.bottom, margins.right, margins.top)};
+    const auto isFinite = [](const SceneExtents& each) {
+        return std::isfinite(each.low.x) && std::isfinite(each.low.y) && std::isfinite(each.high.x) &&
+               std::isfinite(each.high.y);
+    };
+    return isFinite(sheet.paper) && isFinite(sheet.printable) ? sheet : SheetPlace();
 }
 
 PaperPlace PlaceArea(const OdDbPlotSettings& settings, const SceneExtents& area, bool keepsScale) {

@@ -1,41 +1,13 @@
 // The windows of the sample's drawings, each with a tab, a thousand times opened and closed.
-#include "../../../samples/drafter/drawing_window.h"
-#include "../../../samples/drafter/options.h"
+#include "../drafter/measuring_gate.h"
+#include "../drafter/test_desk.h"
+#include "heavy_drawing.h"
 #include "leak_fixture.h"
+#include "sheets.h"
 
 namespace {
 
 using namespace leaks;
-
-/// A main window that shows nothing of its drawings.
-class Desk : public CDrawingDesk {
-public:
-    Desk(CStandinHost& host, CWnd& owner) : m_host(host), m_owner(owner) {}
-    int activated = 0, left = 0;
-
-private:
-    CStandinHost& Host() override { return m_host; }
-    const DrafterOptions& Options() const override { return m_options; }
-    CWnd& DialogOwner() override { return m_owner; }
-    void DrawingActivated(CDrawingWindow* window) override {
-        ++(window != nullptr ? activated : left);
-        m_host.SetCurrentDocument(window != nullptr ? &window->document() : nullptr);
-        if (window != nullptr) window->RefreshIfOutdated();
-    }
-    void DrawingChanged(const CDrawingWindow&) override {}
-    void SelectionChanged(const CDrawingWindow&) override {}
-    void PointerMoved(const CDrawingWindow&) override {}
-    void NameChanged(const CDrawingWindow&) override {}
-    void Say(const CString&) override {}
-    void SayIdle() override {}
-    void TakeTyped() override {}
-    bool GiveUpCommand() override { return false; }
-    CDrawingWindow* WindowOf(const CString&) override { return nullptr; }
-
-    CStandinHost& m_host;
-    CWnd& m_owner;
-    DrafterOptions m_options;
-};
 
 class DrawingLeaks : public leaks::Leaks {
 protected:
@@ -83,7 +55,7 @@ protected:
     }
 
     CMDIFrameWndEx* frame;
-    Desk desk;
+    ui_test::TestDesk desk;
 };
 
 TEST_F(DrawingLeaks, AThousandDrawingsLeaveNothing) {
@@ -120,6 +92,54 @@ TEST_F(DrawingLeaks, DrawingsBesideOthersLeaveNothing) {
     EXPECT_EQ(frame->MDIGetActive(), first);
     EXPECT_EQ(frame->GetMDITabs().GetTabsNum(), 1);
     EXPECT_EQ(desk.left, 0);
+}
+
+TEST_F(DrawingLeaks, BuildsThatAreStoppedAThousandTimesLeaveNothing) {
+    ui_test::MeasuringGate gate;
+    desk.sceneOptions = [&](bool) { return gate.options(); };
+    auto made = std::make_unique<CDraftDocument>();
+    ui_test::fillWithoutEnd(*made->database());
+    made->history().MarkSaved();
+    auto* const window = new CDrawingWindow(desk, std::move(made), 1);
+    ASSERT_TRUE(window->Open(*frame));
+    int stopped = 0, dropped = 0;
+    // By Escape, by a change, and by another build.
+    expect_no_growth(
+        [&] {
+            window->Refresh(true);
+            stopped += window->StopBuilding();
+            window->Refresh(true);
+            window->drawing().setLTSCALE(window->drawing().getLTSCALE() + 1);
+            dropped += !window->IsBuilding();
+            window->document().history().Rollback();
+            // The change has begun another one. How far each came is chance, and so is the size of its scene.
+            ui_test::pump();
+            stopped += window->StopBuilding();
+            window->view().SetScene(Scene(), true);
+        },
+        0);
+    EXPECT_EQ(stopped, 2 * (kTimes + kWarmUp));
+    EXPECT_EQ(dropped, kTimes + kWarmUp);
+}
+
+TEST_F(DrawingLeaks, TabsOfLayoutsSwitchedAThousandTimesLeaveNothing) {
+    auto made = std::make_unique<CDraftDocument>();
+    ASSERT_EQ(made->database()->readDxfBytes(ui_test::sheetsFile()), kOdOk);
+    made->history().MarkSaved();
+    auto* const window = new CDrawingWindow(desk, std::move(made), 1);
+    ASSERT_TRUE(window->Open(*frame));
+    int shown = 0;
+    expect_no_growth(
+        [&] {
+            for (const int tab : {1, 2, 0}) {
+                window->ShowLayout(tab);
+                window->view().UpdateWindow();
+                const auto layout = window->drawing().currentLayoutId().open<OdDbLayout>();
+                shown += layout->getTabOrder() == tab;
+            }
+        },
+        0);
+    EXPECT_EQ(shown, 3 * (kTimes + kWarmUp));
 }
 
 }  // namespace

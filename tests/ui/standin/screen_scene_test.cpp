@@ -1,49 +1,70 @@
-// How wide the texts of scenes are in the fonts of the screen.
-#include <screen_scene.h>
+// What another thread builds scenes with is what this one does, and asks the host for nothing there.
+#include "screen_scene.h"
 
-#include "host_fixture.h"
+#include <thread>
+
+#include "standin_fixture.h"
 
 namespace {
 
-class ScreenScene : public ui_test::HostTest {
+class ScreenScene : public ui_test::StandinTest {
 protected:
-    /// The width of a text in pixels in a font whose em has 1000 of them.
-    static int pixels(const LOGFONT& look, const wchar_t* text) {
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
-        CFont font;
-        font.CreateFontIndirect(&look);
-        CFont* const former = dc.SelectObject(&font);
-        const int width = dc.GetTextExtent(text).cx;
-        dc.SelectObject(former);
-        return width;
+    /// A text style with a font file.
+    void addStyle(const wchar_t* name, const wchar_t* file) {
+        OdDbTextStyleTablePtr styles;
+        drawing->getTextStyleTable(styles, OdDb::kForWrite);
+        const OdSmartPtr<OdDbTextStyleTableRecord> style(new OdDbTextStyleTableRecord);
+        style->setName(name);
+        ASSERT_EQ(styles->add(OdDbSymbolTableRecordPtr(style.get())), kOdOk);
+        style->setFileName(file);
     }
-    static LOGFONT tahoma(LONG weight) {
-        LOGFONT look = {};
-        look.lfHeight = -1000;
-        look.lfWeight = weight;
-        wcscpy(look.lfFaceName, L"Tahoma");
-        return look;
+    static SceneFont fontOf(const wchar_t* family, const wchar_t* file) {
+        SceneFont font;
+        font.family = family;
+        font.file = file;
+        return font;
     }
 };
 
-}  // namespace
-
-TEST_F(ScreenScene, TextsAreAsWideAsTheScreensFontShowsThem) {
-    const SceneOptions options = ScreenSceneOptions();
-    SceneFont font;
-    font.family = L"Tahoma";
-    const double one = options.textWidth(font, L"M"), four = options.textWidth(font, L"MMMM");
-    EXPECT_GT(one, 0);
-    EXPECT_NEAR(four / one, 4, 0.01);
-    EXPECT_EQ(options.textWidth(font, L""), 0);
-    EXPECT_NEAR(options.textWidth(font, L"iiii") / four,
-                static_cast<double>(pixels(tahoma(FW_NORMAL), L"iiii")) / pixels(tahoma(FW_NORMAL), L"MMMM"),
-                0.01);
-    EXPECT_EQ(options.textWidth(font, std::wstring_view(L"MMMM").substr(0, 1)), one)
-        << "no further than it goes";
-    font.bold = true;
-    EXPECT_NEAR(options.textWidth(font, L"MMMM") / four,
-                static_cast<double>(pixels(tahoma(FW_BOLD), L"MMMM")) / pixels(tahoma(FW_NORMAL), L"MMMM"),
-                0.01);
+TEST_F(ScreenScene, OnAnotherThreadTextsAreAsWideAsHere) {
+    addStyle(L"SIGNS", L"wingding.ttf");
+    addStyle(L"SHAPES", L"txt.shx");
+    const SceneOptions here = ScreenSceneOptions();
+    const std::vector<SceneFont> fonts = {fontOf(L"", L"txt.shx"), fontOf(L"", L"wingding.ttf"),
+                                          fontOf(L"Wingdings", L""), fontOf(L"Tahoma", L"txt.shx")};
+    std::vector<double> expected, measured;
+    for (const SceneFont& font : fonts) expected.push_back(here.textWidth(font, L"measured"));
+    ASSERT_EQ(expected[1], expected[2]) << "the file's family is known";
+    ASSERT_NE(expected[0], expected[1]);
+    SceneOptions there = BackgroundSceneOptions(*drawing);
+    std::thread([&, own = std::exchange(there, {})] {
+        for (const SceneFont& font : fonts) measured.push_back(own.textWidth(font, L"measured"));
+    }).join();
+    EXPECT_EQ(measured, expected);
 }
+
+TEST_F(ScreenScene, AFontFileThatNoStyleNamesIsMeasuredAsTheStandIn) {
+    const SceneOptions there = BackgroundSceneOptions(*drawing);
+    EXPECT_EQ(there.textWidth(fontOf(L"", L"wingding.ttf"), L"measured"),
+              there.textWidth(fontOf(L"", L"txt.shx"), L"measured"));
+}
+
+TEST_F(ScreenScene, OnAnotherThreadShapesComeFromTheFilesOfTheStyles) {
+    ui_test::TemporaryFolder files;
+    files.write(L"signs.shx", "shapes");
+    host.SetSupportDirectories({CString(files.path().c_str())});
+    addStyle(L"SIGNS", L"signs.shx");
+    addStyle(L"GONE", L"gone.shx");
+    const SceneOptions there = BackgroundSceneOptions(*drawing);
+    std::string found, gone = "?", unnamed = "?";
+    std::thread([&] {
+        found = there.shapeFile(L"signs.shx");
+        gone = there.shapeFile(L"gone.shx");
+        unnamed = there.shapeFile(L"other.shx");
+    }).join();
+    EXPECT_EQ(found, "shapes");
+    EXPECT_EQ(gone, "");
+    EXPECT_EQ(unnamed, "");
+}
+
+}  // namespace
