@@ -106,7 +106,6 @@ protected:
     afx_msg void OnZoomOut();
     afx_msg void OnRedraw();
     afx_msg void OnLayoutTab(NMHDR* header, LRESULT* result);
-    afx_msg void OnLayoutTabChanging(NMHDR* header, LRESULT* result);
     afx_msg void OnNextLayout();
     afx_msg void OnPreviousLayout();
     afx_msg void OnLayout(UINT command);

@@ -65,8 +65,6 @@ void CDrawingWindow::OnLayoutTab(NMHDR*, LRESULT* result) {
     *result = 0;
 }
 
-void CDrawingWindow::OnLayoutTabChanging(NMHDR*, LRESULT* result) { *result = m_view.IsPicking(); }
-
 void CDrawingWindow::OnNextLayout() { ShowLayout(currentLayout() + 1); }
 
 void CDrawingWindow::OnPreviousLayout() { ShowLayout(currentLayout() - 1); }

@@ -9,7 +9,8 @@
 namespace {
 
 constexpr int kLongestLabel = 40;  // characters
-constexpr int kSpace = 2;          // pixels at 96 dots an inch, below the tabs
+// Pixels at 96 dots an inch: above and below the letters and below the tabs, and beside the letters.
+constexpr int kSpace = 2, kPadding = 8;
 
 /// What stands on a tab: long names end in an ellipsis, and no letter is underlined.
 CString labelOf(const CString& name) {
@@ -40,6 +41,7 @@ BOOL CLayoutTabs::CreateTabs(CWnd* parent, UINT id) {
     ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     m_font.CreateFontIndirect(&metrics.lfMenuFont);
     SetFont(&m_font);
+    SetPadding(CSize(KtUiAppearancePixels(m_hWnd, kPadding), KtUiAppearancePixels(m_hWnd, kSpace)));
     return TRUE;
 }
 

@@ -1,6 +1,6 @@
 // CLayoutTabs: the row of tabs below a drawing's view, one for model space and one for each sheet. It is the
 // system's tab control, so assistive programs know it, but paints itself, since themes know no tabs at the
-// bottom; the parent hears its TCN_SELCHANGING and TCN_SELCHANGE. It takes no focus: Ctrl+Page Up and
+// bottom; the parent hears its TCN_SELCHANGE. It takes no focus: Ctrl+Page Up and
 // Ctrl+Page Down go through the tabs.
 #pragma once
 

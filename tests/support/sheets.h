@@ -47,6 +47,13 @@ inline std::string lineOf(const std::string& handle, const std::string& more, do
            std::to_string(y1) + "|11 " + std::to_string(x2) + "|21 " + std::to_string(y2) + "|";
 }
 
+/// The window that stands for the sheet itself.
+inline std::string wholeSheetOf(const std::string& handle, const std::string& block) {
+    return "0 VIEWPORT|5 " + handle + "|330 " + block +
+           "|67 1|8 0|100 AcDbViewport|10 90|20 40|40 400|41 200|" +
+           "68 1|69 1|12 90|22 40|16 0|26 0|36 1|17 0|27 0|37 0|45 200|51 0|";
+}
+
 /// A window of the sheet in its middle, 80 by 40, that shows model space from above, ten times smaller.
 inline std::string viewportOf(const std::string& handle, const std::string& block) {
     return "0 VIEWPORT|5 " + handle + "|330 " + block +
@@ -77,7 +84,7 @@ inline std::string sheetsFile(const std::vector<std::string>& further = {}) {
         "0 SECTION|2 HEADER|9 $ACADVER|1 AC1032|9 $TILEMODE|70 1|0 ENDSEC|0 SECTION|2 TABLES|0 TABLE|" +
         std::string("2 BLOCK_RECORD|70 3|") + records + "0 ENDTAB|0 ENDSEC|0 SECTION|2 BLOCKS|" + blocks +
         "0 ENDSEC|0 SECTION|2 ENTITIES|" + lineOf("C1", "330 1A|8 0|62 1", 300, 100, 700, 300) +
-        lineOf("C2", "330 2A|67 1|8 0|62 3", 0, 0, 100, 50) +
+        wholeSheetOf("C4", "2A") + lineOf("C2", "330 2A|67 1|8 0|62 3", 0, 0, 100, 50) +
         "0 ENDSEC|0 SECTION|2 OBJECTS|0 DICTIONARY|5 AA|100 AcDbDictionary|3 ACAD_LAYOUT|350 B0|" +
         "0 DICTIONARY|5 B0|330 AA|100 AcDbDictionary|" + names + layouts + "0 ENDSEC|0 EOF");
 }

@@ -146,6 +146,8 @@ TEST_F(CurrentLayout, UndoAndRedoStayInTheLayoutThatIsShown) {
     block->setOrigin({1, 2, 3});
     drawing->setLTSCALE(4);
     show(L"Plan");
+    const auto other = drawing->currentSpaceId().open<OdDbBlockTableRecord>();
+    other->setOrigin({4, 5, 6});
     const auto change = recorder.take();
     EXPECT_FALSE(change->isEmpty());
     for (const wchar_t* name : {L"Plan", L"Detail", L"Model"}) {
@@ -154,11 +156,13 @@ TEST_F(CurrentLayout, UndoAndRedoStayInTheLayoutThatIsShown) {
         EXPECT_EQ(current(), name);
         EXPECT_EQ(drawing->getLTSCALE(), 1);
         EXPECT_EQ(block->origin().x, 0);
+        EXPECT_EQ(other->origin().x, 0);
         EXPECT_EQ(length(), std::wstring(name) == L"Model" ? 1 : *name == L'P' ? 2 : 3);
         change->exchange();
         EXPECT_EQ(current(), name);
         EXPECT_EQ(drawing->getLTSCALE(), 4);
         EXPECT_EQ(block->origin().x, 1);
+        EXPECT_EQ(other->origin().x, 4);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <od_db.h>
 #include <od_db_change.h>
+#include <od_db_current_layout.h>
 #include <od_db_layer_use.h>
 #include <od_db_shared_reading.h>
 
@@ -70,6 +71,10 @@ TEST_F(SharedReading, EveryKindOfChangeIsToldBeforeItHappens) {
                      [&] { named->setAt(L"KTUI_TEST", OdDbObjectPtr(new OdDbDictionary)); });
     expectToldBefore("an entry that goes", [&] { named->remove(L"KTUI_TEST"); });
     expectToldBefore("an erased entity", [&] { line.open<OdDbLine>(OdDb::kForWrite)->erase(); });
+    OdDbDictionaryPtr layouts;
+    drawing->getLayoutDictionary(layouts);
+    expectToldBefore("another layout",
+                     [&] { EXPECT_EQ(oddbSetCurrentLayout(layouts->getAt(L"Layout1")), kOdOk); });
     const auto change = recorder->take();
     expectToldBefore("what is taken back", [&] { change->exchange(); });
     expectToldBefore("what is done again", [&] { change->exchange(); });

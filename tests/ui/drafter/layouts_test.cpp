@@ -7,6 +7,7 @@
 
 #include "drafter_fixture.h"
 #include "heavy_drawing.h"
+#include "in_language.h"
 #include "measuring_gate.h"
 #include "sheets.h"
 #include "test_desk.h"
@@ -168,6 +169,7 @@ TEST_F(Layouts, AViewportShowsModelSpaceWithinItsFrame) {
     EXPECT_TRUE(isNear(kRed, 70, 30));
     EXPECT_TRUE(isNear(kRed, 110, 50));
     EXPECT_FALSE(isNear(kRed, 66, 28)) << "where the line has ended";
+    EXPECT_TRUE(isNear(RGB(0, 0, 0), 50, 40)) << "its frame, in the color that stands out from paper";
     // Its objects are those of the sheet.
     const CPoint place = window->view().ToPixel({90, 40});
     window->view().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.x, place.y));
@@ -193,7 +195,9 @@ TEST_F(Layouts, EachRemembersWhereTheUserWas) {
     EXPECT_EQ(window->view().FromPixel({10, 10}).x, enlarged.x);
     command(ID_VIEW_EXTENTS);
     click(1);
-    frame->MoveWindow(20, 20, 600, 500);
+    CRect former;
+    window->GetWindowRect(&former);
+    window->MoveWindow(0, 0, former.Width() * 2 / 3, former.Height() * 2 / 3);
     pump();
     click(2);
     CRect client;
@@ -303,12 +307,30 @@ TEST_F(Layouts, ADrawingWithoutSheetsShowsModelAlone) {
     EXPECT_EQ(labels().size(), 3u);
 }
 
+TEST_F(Layouts, ALayoutWithoutABlockHasNoTab) {
+    OdDbDictionaryPtr layouts;
+    window->drawing().getLayoutDictionary(layouts);
+    const auto plan = layouts->getAt(L"Plan").open<OdDbLayout>();
+    plan->getBlockTableRecordId().openObject(OdDb::kForWrite)->erase();
+    window->FinishChange(L"Block");
+    EXPECT_EQ(labels(), (std::vector<std::wstring>{L"Model", L"Detail"}));
+    command(ID_VIEW_NEXT_SHEET);
+    EXPECT_EQ(current(), L"Detail");
+}
+
 TEST_F(Layouts, NamesAreShownAsTheyAre) {
     const std::string longName(60, 'N');
     open(sheetsFile({"Top & Bottom", longName}));
     ASSERT_EQ(labels().size(), 5u);
     EXPECT_EQ(labels()[3], L"Top && Bottom") << "no letter is underlined";
     EXPECT_EQ(labels()[4], std::wstring(39, L'N') + L"\u2026");
+}
+
+TEST_F(Layouts, ModelAndTheRowAreNamedInTheLanguageOfTheUser) {
+    const InLanguage user(kChinese);
+    open(sheetsFile());
+    EXPECT_EQ(labels(), (std::vector<std::wstring>{L"\u6A21\u578B", L"Plan", L"Detail"}));
+    EXPECT_EQ(text_of(tabs()), L"\u56FE\u5F62\u7684\u5E03\u5C40");
 }
 
 TEST_F(Layouts, AHundredSheetsAreAllReached) {
