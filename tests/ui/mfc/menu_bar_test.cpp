@@ -129,6 +129,7 @@ TEST_F(MenuBar, pictures_and_gaps_of_a_menu_are_no_items) {
 constexpr wchar_t kProfile[] = L"SOFTWARE\\ktui tests\\menu bar";
 
 TEST_F(MenuBar, stands_above_what_a_state_without_it_brings_back) {
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, kProfile);
     CMFCToolBar &first = docked_bar(), &second = docked_bar();
     second.DockToFrameWindow(CBRS_ALIGN_TOP);
     ASSERT_TRUE(manager().SaveState(kProfile));
@@ -145,6 +146,7 @@ TEST_F(MenuBar, stands_above_what_a_state_without_it_brings_back) {
     EXPECT_TRUE(manager().LoadState(kProfile));
     EXPECT_EQ(in_frame(bar).bottom, 500);
     EXPECT_TRUE(bar.IsWindowVisible());
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, kProfile);
 }
 
 TEST_F(MenuBar, the_original_comes_from_a_resource_that_is_there) {
