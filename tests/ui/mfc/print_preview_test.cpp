@@ -275,8 +275,9 @@ TEST_F(PrintPreview, TwoPagesStandBesideEachOther) {
     start();
     EXPECT_EQ(message(), L"Pages 1-2");
     expect_marks({1, 2});
+    press(AFX_ID_PREVIEW_NEXT);
     press(AFX_ID_PREVIEW_CLOSE);
-    EXPECT_EQ(view->endedOn, 1U);
+    EXPECT_EQ(view->endedOn, 2U) << "not the page that was recorded last";
     start();
     idle();
     EXPECT_EQ(ui_test::text_of(bar()->GetDlgItem(AFX_ID_PREVIEW_NUMPAGE)->m_hWnd), L"One Pa&ge");
