@@ -101,7 +101,8 @@ TEST_F(SharedReading, WhatOnlyReadsIsNotTold) {
     told = 0;
     drawing->writeDxfBytes();
     drawing->lossesIn(OdDb::kDHL_1009);
-    EXPECT_EQ(line.open<OdDbLine>()->colorIndex(), OdCmColor::kByLayerIndex);
+    constexpr int kByLayer = OdCmColor::kByLayerIndex;
+    EXPECT_EQ(line.open<OdDbLine>()->colorIndex(), kByLayer);
     EXPECT_TRUE(layers()->has(L"0"));
     EXPECT_EQ(told, 0);
 }
