@@ -36,6 +36,23 @@ protected:
         ASSERT_EQ(drawing.writeDxf(scratch.c_str(), OdDb::kDHL_1032), kOdOk);
         open(scratch);
     }
+    /// The same with a drawing of nothing but a line.
+    void openLine(const wchar_t* name) {
+        OdDbDatabasePtr drawing(new OdDbDatabase);
+        const OdSmartPtr<OdDbLine> line(new OdDbLine);
+        line->setEndPoint({100, 50, 0});
+        drawing->modelSpaceId()
+            .open<OdDbBlockTableRecord>(OdDb::kForWrite)
+            ->appendOdDbEntity(OdDbEntityPtr(line.get()));
+        open(*drawing, name);
+    }
+    /// Closes the drafter, and starts it again on the same drawing.
+    void restart(const std::wstring& arguments = {}) {
+        ::PostMessageW(drafter->frame(), WM_CLOSE, 0, 0);
+        ASSERT_TRUE(journey::waitUntil([&] { return !drafter->isRunning(); }));
+        drafter = std::make_unique<journey::Drafter>(path, std::wstring(), arguments);
+        ASSERT_NE(drafter->frame(), nullptr);
+    }
     /// Opens Properties on everything in the drawing.
     HWND openOnAll() {
         drafter->activate(drafter->frame());

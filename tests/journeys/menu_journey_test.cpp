@@ -16,13 +16,7 @@ constexpr POINT kGripper = {4, 12}, kFile = {24, 12};
 class MenuJourney : public Journey {
 protected:
     MenuJourney() {
-        OdDbDatabasePtr drawing(new OdDbDatabase);
-        const OdSmartPtr<OdDbLine> line(new OdDbLine);
-        line->setEndPoint({100, 50, 0});
-        drawing->modelSpaceId()
-            .open<OdDbBlockTableRecord>(OdDb::kForWrite)
-            ->appendOdDbEntity(OdDbEntityPtr(line.get()));
-        open(*drawing, L"menu.dxf");
+        openLine(L"menu.dxf");
         drafter->activate(drafter->frame());
     }
     HWND bar(int site = kTopSite) { return item(item(drafter->frame(), site), kMenuBar); }
@@ -44,13 +38,6 @@ protected:
         drafter->activate(dialog);
         drafter->key(VK_ESCAPE);
         return drafter->waitUntilGone(dialog);
-    }
-    void restart(const std::wstring& arguments = {}) {
-        ::PostMessageW(drafter->frame(), WM_CLOSE, 0, 0);
-        ASSERT_TRUE(waitUntil([&] { return !drafter->isRunning(); }));
-        drafter = std::make_unique<Drafter>(path, std::wstring(), arguments);
-        ASSERT_NE(drafter->frame(), nullptr);
-        drafter->activate(drafter->frame());
     }
 };
 
@@ -137,8 +124,10 @@ TEST_F(MenuJourney, DraggedToTheLeftItStandsThereTheNextTimeUntilACleanStart) {
     drafter->key('O');
     EXPECT_TRUE(opensDialog());
     restart();
+    drafter->activate(drafter->frame());
     EXPECT_NE(bar(kLeftSite), nullptr);
     restart(L"--clean");
+    drafter->activate(drafter->frame());
     EXPECT_NE(bar(), nullptr);
 }
 

@@ -58,12 +58,6 @@ protected:
         drafter->key(letter);
     }
     /// Closes the program, which keeps its state, and starts it anew.
-    void restart(const std::wstring& arguments = {}) {
-        ::PostMessageW(drafter->frame(), WM_CLOSE, 0, 0);
-        ASSERT_TRUE(waitUntil([&] { return !drafter->isRunning(); }));
-        drafter = std::make_unique<Drafter>(path, std::wstring(), arguments);
-        ASSERT_NE(drafter->frame(), nullptr);
-    }
     /// Drags the caption of a panel's set by so many pixels.
     void dragSet(HWND panel, POINT by) {
         drafter->drag(setOf(panel), kCaption, {kCaption.x + by.x, kCaption.y + by.y});

@@ -16,15 +16,7 @@ constexpr int kFirstButton = 1 + 8 + 11, kButton = 23, kGap = 7;
 
 class ToolBarsJourney : public Journey {
 protected:
-    ToolBarsJourney() {
-        OdDbDatabasePtr drawing(new OdDbDatabase);
-        const OdSmartPtr<OdDbLine> line(new OdDbLine);
-        line->setEndPoint({100, 50, 0});
-        drawing->modelSpaceId()
-            .open<OdDbBlockTableRecord>(OdDb::kForWrite)
-            ->appendOdDbEntity(OdDbEntityPtr(line.get()));
-        open(*drawing, L"tool_bars.dxf");
-    }
+    ToolBarsJourney() { openLine(L"tool_bars.dxf"); }
     HWND site(int id) { return item(drafter->frame(), id); }
     HWND fileBar(int at = kTopSite) { return item(site(at), IDR_FILE_BAR); }
     HWND viewBar(int at = kTopSite) { return item(site(at), IDR_VIEW_BAR); }
@@ -32,12 +24,6 @@ protected:
         return {kFirstButton + index * kButton + gaps * kGap, 12};
     }
     bool isModified() const { return textOf(drafter->frame()).find(L'*') != std::wstring::npos; }
-    void restart(const std::wstring& arguments = {}) {
-        ::PostMessageW(drafter->frame(), WM_CLOSE, 0, 0);
-        ASSERT_TRUE(waitUntil([&] { return !drafter->isRunning(); }));
-        drafter = std::make_unique<Drafter>(path, std::wstring(), arguments);
-        ASSERT_NE(drafter->frame(), nullptr);
-    }
     void viewMenu(WORD menu, WORD letter) {
         drafter->activate(drafter->frame());
         drafter->key('V', false, true);

@@ -1,26 +1,12 @@
 // A drawing with sheets, as its file says it.
 #pragma once
 
-#include <algorithm>
 #include <string>
-#include <string_view>
 #include <vector>
 
-namespace ui_test {
+#include "file_groups.h"
 
-/// Groups of a file from a short form: "0 LINE|8 0" are two groups.
-inline std::string fileGroups(std::string_view brief) {
-    std::string text;
-    while (!brief.empty()) {
-        const std::size_t end = std::min(brief.find('|'), brief.size());
-        const std::string_view one = brief.substr(0, end);
-        const std::size_t gap = std::min(one.find(' '), one.size());
-        text.append(one.substr(0, gap)).append("\n");
-        text.append(gap < one.size() ? one.substr(gap + 1) : std::string_view()).append("\n");
-        brief.remove_prefix(std::min(end + 1, brief.size()));
-    }
-    return text;
-}
+namespace ui_test {
 
 inline std::string blockRecord(const std::string& name, const std::string& handle,
                                const std::string& layout) {

@@ -10,29 +10,15 @@
 #include <string_view>
 #include <vector>
 
+#include "file_groups.h"
 #include "scene_options.h"
 
 namespace scene_test {
 
 constexpr double kPi = std::numbers::pi;
 
-/// Groups of a file from a short form: "0 LINE|8 0|10 1.5" are three groups. A sign of paragraph (\x14) in a
-/// value stands for a bar.
-inline std::string groups(std::string_view brief) {
-    std::string text;
-    while (!brief.empty()) {
-        const std::size_t end = std::min(brief.find('|'), brief.size());
-        const std::string_view one = brief.substr(0, end);
-        const std::size_t gap = std::min(one.find(' '), one.size());
-        text.append(one.substr(0, gap)).append("\n");
-        std::string value(gap < one.size() ? one.substr(gap + 1) : std::string_view());
-        std::replace(value.begin(), value.end(), '\x14', '|');
-        text.append(value);
-        text.append("\n");
-        brief.remove_prefix(std::min(end + 1, brief.size()));
-    }
-    return text;
-}
+/// Groups of a file from their short form.
+inline std::string groups(std::string_view brief) { return ui_test::fileGroups(brief); }
 
 /// What a drawing is made of, each part in the short form.
 struct Parts {

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "without_dispatch.h"
+
 namespace docking_test {
 
 /// What the nodes of one document share.
@@ -23,7 +25,7 @@ struct DomNotes {
 
 /// A node of a kind; what bars don't ask of nodes isn't there.
 template <class Kind>
-class FakeNode : public Kind {
+class FakeNode : public WithoutDispatch<Kind> {
 public:
     FakeNode(DomNotes& shared, const wchar_t* name, const IID& kind)
         : m_notes(shared), m_name(name), m_kind(kind) {
@@ -59,17 +61,6 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE get_ownerDocument(IXMLDOMDocument** document) override;
-
-    // IDispatch.
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                                     UINT*) override {
-        return E_NOTIMPL;
-    }
 
     // Not asked.
     HRESULT STDMETHODCALLTYPE get_nodeValue(VARIANT*) override { return E_NOTIMPL; }

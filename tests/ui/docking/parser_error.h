@@ -6,11 +6,12 @@
 #include <msxml.h>
 
 #include "slot_of.h"
+#include "without_dispatch.h"
 
 namespace docking_test {
 
 /// What a parser tells of its error: a place and nothing else. Lives as long as the test.
-class ToldPlace final : public IXMLDOMParseError {
+class ToldPlace final : public WithoutDispatch<IXMLDOMParseError> {
 public:
     ToldPlace(long line, long column) : m_line(line), m_column(column) {}
     virtual ~ToldPlace() = default;
@@ -24,15 +25,6 @@ public:
     }
     ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
     ULONG STDMETHODCALLTYPE Release() override { return --references; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                                     UINT*) override {
-        return E_NOTIMPL;
-    }
     HRESULT STDMETHODCALLTYPE get_errorCode(LONG*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE get_url(BSTR*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE get_reason(BSTR*) override { return E_NOTIMPL; }
