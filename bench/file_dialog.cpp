@@ -4,7 +4,12 @@
 
 #include <afxdlgs.h>
 
+#include <shlobj.h>
+#include <shlwapi.h>
+
 #include <ktdb.h>
+#include <ktdsres/nav_file_dialog_ids.h>
+#include <ktdsres/places_ids.h>
 #include <ktui/nav/ktui_nav_dialog.h>
 #include <ktui/nav/never_blocked.h>
 #include <od_db.h>
@@ -43,7 +48,9 @@ double openOurs(const CString& folder) {
     });
 }
 
-double openPeer(const CString& folder) {
+/// Opens the system's dialog, with what `dress` puts into the record.
+template <class Dress>
+double openPlatform(const CString& folder, Dress&& dress) {
     return bench::seconds_of([&] {
         ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &end);
         wchar_t file[MAX_PATH] = {};
@@ -57,7 +64,53 @@ double openPeer(const CString& folder) {
         // The same dialog as ours, not the newer one.
         ofn.lpfnHook = &noHook;
         ofn.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_HIDEREADONLY;
+        dress(ofn);
         ::GetOpenFileNameW(&ofn);
+    });
+}
+
+double openPeer(const CString& folder) {
+    return openPlatform(folder, [](OPENFILENAMEW&) {});
+}
+
+/// A standard folder of the Places list, by the calls that its row takes.
+void addPlace(HWND list, int folder) {
+    IShellFolder* desktop = nullptr;
+    LPITEMIDLIST item = nullptr;
+    STRRET returned = {};
+    wchar_t path[MAX_PATH] = {};
+    SHFILEINFOW info = {};
+    if (FAILED(::SHGetDesktopFolder(&desktop))) return;
+    if (SUCCEEDED(::SHGetSpecialFolderLocation(nullptr, folder, &item))) {
+        if (SUCCEEDED(desktop->GetDisplayNameOf(item, SHGDN_FORPARSING, &returned)))
+            ::StrRetToBufW(&returned, item, path, MAX_PATH);
+        ::ILFree(item);
+    }
+    desktop->Release();
+    ::SHGetFileInfoW(path, 0, &info, sizeof info, SHGFI_DISPLAYNAME);
+    ::SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(info.szDisplayName));
+    if (::SHGetFileInfoW(path, 0, &info, sizeof info, SHGFI_ICON)) ::DestroyIcon(info.hIcon);
+}
+
+/// Fills the list of the toolkit's template and gives it its tip window; that is all.
+UINT_PTR CALLBACK fillPlaces(HWND dialog, UINT message, WPARAM, LPARAM) {
+    if (message != WM_INITDIALOG) return 0;
+    const HWND list = ::GetDlgItem(dialog, IDC_NAV_PLACES);
+    for (const int folder : {CSIDL_RECENT, CSIDL_PERSONAL, CSIDL_FAVORITES, CSIDL_DESKTOP, CSIDL_NETWORK})
+        addPlace(list, folder);
+    ::ShowWindow(list, SW_SHOWNA);
+    ::CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0, 0, 0, list, nullptr,
+                      nullptr, nullptr);
+    return 0;
+}
+
+/// The system's dialog with the template and the places of ours.
+double openDressed(const CString& folder) {
+    return openPlatform(folder, [](OPENFILENAMEW& ofn) {
+        ofn.hInstance = ::GetModuleHandleW(L"ktdsres.dll");
+        ofn.lpTemplateName = MAKEINTRESOURCEW(IDD_NAV_FILE_PREVIEW);
+        ofn.lpfnHook = &fillPlaces;
+        ofn.Flags |= OFN_ENABLETEMPLATE;
     });
 }
 
@@ -145,6 +198,11 @@ void bench::measure_file_dialog() {
         return openPeer(folder);
     };
     report("opening and closing the file dialog", compare(kRounds, 1, ours, peer), 1.3);
+    const auto dressed = [&] {
+        drain_queue();
+        return openDressed(folder);
+    };
+    report("its template and places by bare calls", compare(kRounds, 1, dressed, peer), 0);
     KtUiSetNeverBlocked(3000);
     report("the same, never blocked", compare(kRounds, 1, ours, peer), 1.3);
     KtUiSetNeverBlocked(0);
