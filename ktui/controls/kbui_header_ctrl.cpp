@@ -1,11 +1,10 @@
 #include <ktui/controls/kbui_header_ctrl.h>
 
 #include <ktui/controls/tip_geometry.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/text_extent.h>
 
 namespace {
-
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 
 constexpr int kItemTextSize = 255;  // characters, terminator included
 

@@ -3,12 +3,11 @@
 #include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
 #include <ktui/host/appearance.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/tip_painting.h>
 #include <ktui/input/kbui_combo_box.h>
 
 namespace {
-
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 
 constexpr UINT kNoItem = 65535;  // what the platform answers when it can't say
 constexpr COLORREF kDrawnTipFill = 0xF9F9F9;

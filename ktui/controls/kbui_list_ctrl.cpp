@@ -1,13 +1,8 @@
 #include <ktui/controls/kbui_list_ctrl.h>
 
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/text_extent.h>
 #include <ktui/controls/tip_geometry.h>
-
-namespace {
-
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
-
-}  // namespace
 
 IMPLEMENT_DYNAMIC(CKbUiListCtrl, CListCtrl)
 

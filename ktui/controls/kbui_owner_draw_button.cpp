@@ -2,13 +2,11 @@
 
 #include <ktdsres/resource_ids.h>
 #include <ktui/host/accessible.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/host/theme_api.h>
 
 namespace {
-
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
-const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
 
 constexpr DWORD kKeptStyles = 0xFFF4;  // of the style that a button had before
 

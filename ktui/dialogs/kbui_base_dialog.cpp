@@ -5,11 +5,11 @@
 #include <ktui/host/help_path.h>
 #include <ktui/host/host_calls.h>
 #include <ktui/host/loaded_module.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/text/dialog_root.h>
 
 namespace {
 
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 constexpr UINT kDialogIcon = 1017;     // of the library's own file
 constexpr int kToolTipMaxWidth = 256;  // pixels before a text breaks
 

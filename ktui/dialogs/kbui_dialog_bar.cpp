@@ -2,10 +2,10 @@
 
 #include <ktui/dialogs/tip_holder.h>
 #include <ktui/host/host_calls.h>
+#include <ktui/host/registered_messages.h>
 
 namespace {
 
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 constexpr int kTipDelay = 100;  // milliseconds
 
 constexpr TipHolderRules kTipRules = {false, TTM_SETDELAYTIME, TTDT_AUTOMATIC, kTipDelay};

@@ -7,10 +7,10 @@
 #include <ktui/host/host_calls.h>
 #include <ktui/host/loaded_module.h>
 #include <ktui/host/module.h>
+#include <ktui/host/registered_messages.h>
 
 namespace {
 
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 constexpr UINT kDialogIcon = 1017;  // of the library's own file
 
 }  // namespace

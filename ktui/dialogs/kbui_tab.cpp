@@ -6,13 +6,8 @@
 #include <ktui/dialogs/tab_item_text.h>
 #include <ktui/dialogs/tab_pages.h>
 #include <ktui/host/accessible.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/string_resources.h>
-
-namespace {
-
-const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
-
-}  // namespace
 
 IMPLEMENT_DYNAMIC(CKbUiTab, CTabCtrl)
 

@@ -1,10 +1,9 @@
 #include <ktui/host/accessible.h>
+#include <ktui/host/registered_messages.h>
 
 #include <utility>
 
 namespace {
-
-const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
 
 /// Answers for one control: from what the control says, and otherwise from the system's own object.
 class ControlAccessible final : public IAccessible {

@@ -3,14 +3,13 @@
 #include <utility>
 
 #include <ktui/controls/kbui_list_box.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/text_extent.h>
 #include <ktui/host/theme_api.h>
 #include <ktui/input/kbui_edit.h>
 #include <ktui/input/combo_face.h>
 
 namespace {
-
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 
 constexpr unsigned kEditOwned = 1;
 constexpr unsigned kListOwned = 2;

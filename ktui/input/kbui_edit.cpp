@@ -1,13 +1,8 @@
 #include <ktui/input/kbui_edit.h>
 
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/text_extent.h>
 #include <ktui/host/tip_painting.h>
-
-namespace {
-
-const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
-
-}  // namespace
 
 IMPLEMENT_DYNAMIC(CKbUiEdit, CEdit)
 

@@ -2,11 +2,10 @@
 
 #include <ktdsres/resource_ids.h>
 #include <ktui/host/accessible.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/string_resources.h>
 
 namespace {
-
-const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
 
 // Ids of the controls inside.
 constexpr UINT kClearButton = 1125;

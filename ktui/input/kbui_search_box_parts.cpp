@@ -4,18 +4,13 @@
 #include <ktui/controls/scaled_picture.h>
 #include <ktui/host/accessible.h>
 #include <ktui/host/loaded_module.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/resource_scope.h>
 #include <ktui/host/string_resources.h>
 
 IMPLEMENT_DYNAMIC(CKbUiSearchBoxEditor, CKbUiEdit)
 IMPLEMENT_DYNAMIC(CKbUiSearchBoxSearchButton, CBitmapButton)
 IMPLEMENT_DYNAMIC(CKbUiSearchBoxClearButton, CBitmapButton)
-
-namespace {
-
-const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
-
-}  // namespace
 
 BEGIN_MESSAGE_MAP(CKbUiSearchBoxEditor, CKbUiEdit)
     ON_MESSAGE(WM_GETOBJECT, &CKbUiSearchBoxEditor::OnGetObject)

@@ -105,10 +105,6 @@ bool addAngle(StackText& out, double radians, int mode, int precision) {
 
 bool takeDegreeMark(WideCursor& in) { return in.take(L'd') || in.take(L'\x00B0'); }
 
-bool isWhole(std::wstring_view number) {
-    return number.find_first_not_of(L"0123456789") == std::wstring_view::npos;
-}
-
 /// Reads degrees, minutes and seconds with their marks. Only the last may have decimals, and minutes and
 /// seconds behind a larger unit stay below 60. Without any mark it is `bare` that says whether the number
 /// counts as degrees.
@@ -135,7 +131,7 @@ bool takeDegrees(WideCursor& in, bool bare, double& degrees) {
         if (found < unit || (count > 0 && value >= 60)) return false;
         degrees += value / kUnits[found];
         unit = found + 1;
-        if (unit > 2 || !isWhole(number)) return true;
+        if (unit > 2 || !WideCursor::isWhole(number)) return true;
     }
 }
 

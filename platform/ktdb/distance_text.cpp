@@ -170,12 +170,6 @@ struct Mixed {
     bool hasFraction = false;
 };
 
-bool isWhole(std::wstring_view number) {
-    for (const wchar_t c : number)
-        if (!WideCursor::isDigit(c)) return false;
-    return true;
-}
-
 bool takeMixed(WideCursor& in, Mixed& mixed) {
     if (takeFraction(in, mixed.fraction)) {
         mixed.hasFraction = true;
@@ -183,7 +177,7 @@ bool takeMixed(WideCursor& in, Mixed& mixed) {
     }
     mixed.number = in.takeNumber();
     if (mixed.number.empty()) return false;
-    if (!isWhole(mixed.number)) return true;
+    if (!WideCursor::isWhole(mixed.number)) return true;
     const std::wstring_view before = in.rest();
     if (!in.take(L'-')) {
         in.skipBlanks();
@@ -207,8 +201,8 @@ bool mixedValue(const Mixed& mixed, double& value) {
 /// digits.
 bool feetValue(std::wstring_view feet, const Mixed& inches, double& value) {
     const std::size_t point = std::min(inches.number.find(L'.'), inches.number.size());
-    const bool plain =
-        isWhole(feet) && point <= 2 && inches.number.find_first_of(L"eE") == std::wstring_view::npos;
+    const bool plain = WideCursor::isWhole(feet) && point <= 2 &&
+                       inches.number.find_first_of(L"eE") == std::wstring_view::npos;
     if (!plain) {
         double f = 0, i = 0;
         if (!ktdbNumberValue(feet, f) || !mixedValue(inches, i)) return false;

@@ -55,6 +55,10 @@ public:
     /// is here.
     std::wstring_view takeNumber(bool exponent = true);
     static bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+    /// Whether a number that was taken has neither a point nor an exponent.
+    static bool isWhole(std::wstring_view number) {
+        return number.find_first_not_of(L"0123456789") == std::wstring_view::npos;
+    }
     /// Goes back to an earlier state.
     std::wstring_view rest() const { return m_rest; }
     void restore(std::wstring_view rest) { m_rest = rest; }

@@ -11,15 +11,10 @@
 
 #include "draft_document.h"
 #include "resource.h"
+#include "resource_text.h"
 #include "save_drawing_dialog.h"
 
 namespace {
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 /// A version that drawings can be saved in; each has a text and a binary form.
 struct SavedVersion {

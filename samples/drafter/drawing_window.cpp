@@ -8,18 +8,13 @@
 #include "options.h"
 #include "properties_dialog.h"
 #include "resource.h"
+#include "resource_text.h"
 #include "text_style_dialog.h"
 
 namespace {
 
 constexpr double kZoomStep = 1.25;
 constexpr UINT kLayoutTabs = 1;  // the id of the tabs
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 }  // namespace
 

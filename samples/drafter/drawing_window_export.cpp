@@ -10,14 +10,9 @@
 #include "drawing_chooser.h"
 #include "recent_drawings.h"
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 /// The name of a PDF file beside the drawing.
 CString exportedName(const CString& drawing) {

@@ -7,18 +7,13 @@
 
 #include "panel_keys.h"
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
 
 constexpr UINT WM_RENAME_LAYER = WM_APP + 1;
 
 enum Column { kName, kOn, kColor, kLinetype, kLineWeight };
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 CString formatted(UINT id, const OdString& name, int count = 0, const OdString& other = OdString()) {
     CString text;

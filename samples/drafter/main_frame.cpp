@@ -7,18 +7,13 @@
 
 #include "options_dialog.h"
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
 
 const UINT kbUiMessage = ::RegisterWindowMessageW(kKbUiMessageName);
 
 constexpr int kPointerWidth = 200, kSelectionWidth = 120;  // pixels at 96 dots an inch
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 }  // namespace
 

@@ -11,16 +11,11 @@
 
 #include "messages.h"
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
 
 constexpr int kPointerPane = 1, kSelectionPane = 2;
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 
 #include "loss_texts.h"
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
 
@@ -19,12 +20,6 @@ constexpr int kFirstCommand = 101;
 constexpr std::size_t kListedMends = 5;  // of those of a drawing
 const wchar_t* const kSettings = L"Messages";
 const wchar_t* const kOverwriteNewer = L"OverwriteNewer";
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 CString formatted(UINT id, const CString& argument) {
     CString text;

@@ -7,17 +7,12 @@
 
 #include "messages.h"
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
 
 constexpr int kLinearUnits = 5, kAngularUnits = 5, kPrecisions = 9;
 constexpr double kSampleDistance = 15.5, kSampleAngle = 0.7853981633974483;
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 void showColor(CKtUiTrueColorComboBox& picker, COLORREF color) {
     OdCmColor shown;

@@ -5,6 +5,7 @@
 #include <afxwinappex.h>
 
 #include "resource.h"
+#include "resource_text.h"
 
 namespace {
 
@@ -17,12 +18,6 @@ constexpr int kHiddenAtFirst = 4;              // the blocks
 constexpr const wchar_t* kActive = L"Active";  // command of the palette in front
 constexpr const wchar_t* kLocks = L"Locks";    // the two bits below
 constexpr int kDockedBit = 1, kFloatingBit = 2;
-
-CString textOf(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
 
 }  // namespace
 

@@ -6,13 +6,12 @@
 #include <ktui/host/accessible.h>
 #include <ktui/host/appearance.h>
 #include <ktui/host/loaded_module.h>
+#include <ktui/host/registered_messages.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/res/resource_ids.h>
 #include <ktui/tips/messages/message_colors.h>
 
 namespace {
-
-const UINT accessibleMessage = ::RegisterWindowMessageW(kAccessibleMessageName);
 
 constexpr int kGlyphWidth = 40;  // what the arrow takes, in pixels at 96 dots an inch
 constexpr int kExtendedGap = 5;  // between title and second text

@@ -1,13 +1,12 @@
 #include "font_cache.h"
 
-#include <od_string.h>
-
 #include <algorithm>
 #include <cstring>
 #include <set>
 
 #include "byte_source.h"
 #include "cache_bytes.h"
+#include "folded_name.h"
 #include "font_storage.h"
 
 namespace {
@@ -70,12 +69,6 @@ bool readFile(CacheReader& in, FontFile& file) {
     return isSound(file);
 }
 
-std::wstring folded(std::wstring_view text) {
-    std::wstring result(text);
-    for (wchar_t& c : result) c = odFoldCase(c);
-    return result;
-}
-
 /// The folder of a path, without the separator.
 std::wstring_view folderOf(std::wstring_view path) {
     const std::size_t name = fileNameOf(path).size();
@@ -108,14 +101,14 @@ void FontCache::forgetMissing(const std::vector<std::wstring>& folders,
     for (const std::wstring& folder : folders) {
         std::wstring_view plain(folder);
         while (!plain.empty() && (plain.back() == L'\\' || plain.back() == L'/')) plain.remove_suffix(1);
-        scanned.insert(folded(plain));
+        scanned.insert(FoldedName(plain));
     }
     std::set<std::wstring> present;
     for (const FontFileStamp& stamp : listed) present.insert(stamp.path);
     const bool isTooMuch = m_files.size() > kMostFiles;
     const std::size_t removed = std::erase_if(m_files, [&](const auto& file) {
         if (present.contains(file.first)) return false;
-        return isTooMuch || scanned.contains(folded(folderOf(file.first)));
+        return isTooMuch || scanned.contains(FoldedName(folderOf(file.first)));
     });
     m_hasChanged = m_hasChanged || removed > 0;
 }

@@ -1,6 +1,5 @@
 #include "font_catalogue.h"
 
-#include <od_string.h>
 #include <ktut.h>
 
 #include <algorithm>
@@ -9,13 +8,9 @@
 #include <set>
 #include <tuple>
 
-namespace {
+#include "folded_name.h"
 
-std::wstring folded(std::wstring_view text) {
-    std::wstring result(text);
-    for (wchar_t& c : result) c = odFoldCase(c);
-    return result;
-}
+namespace {
 
 /// A style with what decides its place in its family.
 struct Entry {
@@ -36,7 +31,7 @@ struct Family {
 using Families = std::map<std::pair<std::wstring, FontKind>, Family>;
 
 void add(Families& families, const std::wstring& name, FontKind kind, Entry entry) {
-    Family& family = families[{folded(name), kind}];
+    Family& family = families[{FoldedName(name), kind}];
     if (family.entries.empty()) {
         family.name = name;
         family.kind = kind;
@@ -67,7 +62,7 @@ std::vector<CatalogueStyle> stylesOf(Family& family) {
     // Which file wins is settled by the order of the files, before the styles are sorted.
     std::set<std::wstring> names;
     for (Entry& entry : family.entries)
-        entry.style.isFlagged = !names.insert(folded(entry.style.name)).second;
+        entry.style.isFlagged = !names.insert(FoldedName(entry.style.name)).second;
     const auto key = [](const Entry& e) {
         return std::tuple(e.style.isFlagged, e.widthDistance, e.weightDistance, e.weight, e.isItalic);
     };
@@ -105,7 +100,7 @@ std::vector<CatalogueFont> makeFontCatalogue(const std::vector<FoundFont>& found
     Families families;
     std::set<std::wstring> paths;
     for (const FoundFont& font : found)
-        if (font.file.kind != FontKind::kNone && paths.insert(folded(font.path)).second)
+        if (font.file.kind != FontKind::kNone && paths.insert(FoldedName(font.path)).second)
             addFile(families, font);
     std::vector<CatalogueFont> fonts;
     fonts.reserve(families.size());

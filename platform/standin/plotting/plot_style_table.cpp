@@ -9,8 +9,7 @@
 
 namespace {
 
-constexpr std::int64_t kFromObject = -1;  // colour
-constexpr int kObjectLinetype = 31;
+constexpr std::int64_t kFromObject = -1;       // colour
 constexpr std::uint32_t kIndexedColor = 0xC3;  // in the high byte; 0xC2 is a true colour
 constexpr std::size_t kDeepest = 8;
 

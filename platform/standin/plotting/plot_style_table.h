@@ -24,6 +24,9 @@
 /// Longest text in bytes that is unpacked; a table of colours takes about 60,000.
 constexpr std::size_t kMostPlotStyleText = 4u << 20;
 
+/// Where a file has the number of a pattern: the object's own linetype.
+constexpr int kObjectLinetype = 31;
+
 /// One style. What is not given is taken from the object that is plotted.
 struct PlotStyle {
     OdString name;

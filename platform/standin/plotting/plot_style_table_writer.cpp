@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int kObjectLinetype = 31;
 constexpr int kObjectFill = 73, kObjectEnd = 4, kObjectJoin = 5;
 
 /// A value in the form that every locale reads.
