@@ -111,11 +111,14 @@ TEST_F(Alert, DefaultButtonIsTheOneNamed) {
     const std::pair<unsigned, int> defaults[] = {{0, kFirst}, {1, kSecond}, {7, IDCANCEL}};
     for (const auto& [index, id] : defaults) {
         DWORD style = 0;
+        int focus = 0;
         Ask(index, [&, id = id](HWND box) {
             style = child_of(box, id).style;
+            focus = ::GetDlgCtrlID(::GetFocus());
             press(box, IDCANCEL);
         });
         EXPECT_EQ(style & BS_TYPEMASK, static_cast<DWORD>(BS_DEFPUSHBUTTON)) << index;
+        EXPECT_EQ(focus, id) << index;
     }
 }
 

@@ -168,3 +168,17 @@ TEST_F(OwnTaskDialog, ACommandThatIsNobodysIsNotTaken) {
     EXPECT_EQ(clicked, 0);
     EXPECT_EQ(other, 0);
 }
+
+TEST_F(OwnTaskDialog, OnlyAClickOfAButtonEndsIt) {
+    dialog.SetCommonButtons(8 | 1);
+    bool stays = false;
+    Run([&](HWND box) {
+        for (const UINT code : {BN_DOUBLECLICKED, BN_SETFOCUS, BN_KILLFOCUS})
+            ::SendMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, code), 0);
+        later([&stays, box] {
+            stays = ::IsWindow(box) && ::IsWindowVisible(box);
+            if (stays) press(box, IDCANCEL);
+        });
+    });
+    EXPECT_TRUE(stays);
+}

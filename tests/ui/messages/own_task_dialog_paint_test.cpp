@@ -8,6 +8,7 @@
 #include "focus_borders.h"
 #include "picture.h"
 #include "scheme_color.h"
+#include "scheme_in_force.h"
 
 using namespace ui_test;
 
@@ -199,6 +200,17 @@ TEST_F(OwnTaskDialogPaint, TextsAreDrawnInTheirColoursOnTheDialogsPaper) {
         EXPECT_GT(body.count(RGB(70, 0, 90)), 0);
         EXPECT_EQ(body.count(kHeadingColor), 0);
         EXPECT_EQ(Shown(box).at(0, 0), RGB(250, 250, 210));
+    });
+}
+
+TEST_F(OwnTaskDialogPaint, AHeadingThatTheSystemsGroundSwallowsHasItsTextColour) {
+    dialog.SetMainInstruction(L"heading");
+    const SchemeInForce dark(TRUE);
+    Look([&](HWND box) {
+        const Picture heading = Shown(children_of(box)[0].window);
+        EXPECT_EQ(heading.commonest(), scheme::kWindow);
+        EXPECT_GT(heading.count(scheme::kWindowText), 0);
+        EXPECT_EQ(heading.count(kHeadingColor), 0);
     });
 }
 

@@ -51,6 +51,11 @@ TEST_F(TallTaskDialog, StaysOnTheScreenWithItsTopInView) {
         EXPECT_GE(window.top, work.top);
         EXPECT_LE(window.bottom, work.bottom);
         EXPECT_TRUE(::GetWindowLongW(box, GWL_STYLE) & WS_VSCROLL);
+        SCROLLINFO info = {sizeof info, SIF_RANGE | SIF_PAGE, 0, 0, 0, 0, 0};
+        ASSERT_TRUE(::GetScrollInfo(box, SB_VERT, &info));
+        EXPECT_EQ(info.nMin, 0);
+        EXPECT_EQ(info.nPage, static_cast<UINT>(client.Height()));
+        EXPECT_GT(info.nMax, client.Height());
         EXPECT_EQ(client.Width(), 420) << "the bar stands beside what was laid out";
         EXPECT_EQ(Position(box), 0);
         EXPECT_EQ(HeadingTop(box), font_height(box));
@@ -63,13 +68,15 @@ TEST_F(TallTaskDialog, OneThatFitsHasNoBar) {
     CKtUiTaskDialog small;
     small.SetWindowTitle(L"task");
     small.SetContent(L"body");
-    DWORD style = WS_VSCROLL;
+    DWORD style = WS_VSCROLL, tall = 0;
     when_dialog(L"task", [&](HWND box) {
         style = static_cast<DWORD>(::GetWindowLongW(box, GWL_STYLE));
         press(box, IDOK);
     });
     small.DoModal(parent.m_hWnd);
     EXPECT_EQ(style & WS_VSCROLL, 0u);
+    Look([&](HWND box) { tall = static_cast<DWORD>(::GetWindowLongW(box, GWL_STYLE)); });
+    EXPECT_EQ(tall & 0xFFFF, style & 0xFFFF) << "the bar is all that is added";
 }
 
 TEST_F(TallTaskDialog, KeysBringTheCommandThatGetsTheFocusIntoView) {

@@ -252,3 +252,13 @@ TEST_F(RichTip, ATextIsBlackOnBlackWithoutAScheme) {
     const Picture picture(tip);
     EXPECT_EQ(picture.count(RGB(0, 0, 0)), picture.width() * picture.height());
 }
+
+TEST_F(RichTip, ATextComesBackAfterLinesAtTheSamePoint) {
+    tip.Activate(CPoint(200, 150), L"Line", false);
+    const CRect asText = Place();
+    tip.Activate(CPoint(200, 150), lines);
+    EndDelay();
+    ASSERT_NE(Place(), asText);
+    tip.Activate(CPoint(200, 150), L"Line", false);
+    EXPECT_EQ(Place(), asText);
+}

@@ -32,7 +32,9 @@ struct Call {
     std::wstring text = {};
 };
 std::vector<Call> calls;
-int partlyTransparent = 0;  ///< the state whose background is
+int partlyTransparent = 0;       ///< the state whose background is
+HDC paintedOn = nullptr;         ///< what the button is asked to paint on
+HWND parentOfPainted = nullptr;  ///< the button's parent
 HTHEME const kTheme = reinterpret_cast<HTHEME>(static_cast<ULONG_PTR>(0x77));
 
 const Call* Find(const char* name, std::size_t nth = 0) {
@@ -55,7 +57,11 @@ ThemeApi WatchedTheme() {
         EXPECT_EQ(part, 1);
         return state == partlyTransparent;
     };
-    api.drawThemeParentBackground = [](HWND, HDC, RECT* rect) -> HRESULT {
+    api.drawThemeParentBackground = [](HWND window, HDC dc, RECT* rect) -> HRESULT {
+        if (paintedOn != nullptr) {
+            EXPECT_EQ(dc, paintedOn);
+            EXPECT_EQ(::GetParent(window), parentOfPainted);
+        }
         calls.push_back({"parent", 0, 0, CRect(*rect)});
         return S_OK;
     };
@@ -163,9 +169,12 @@ protected:
     }
     void Paint(Canvas& canvas) {
         calls.clear();
+        paintedOn = canvas.dc.m_hDC;
+        parentOfPainted = parent.m_hWnd;
         EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PRINTCLIENT,
                                                     reinterpret_cast<WPARAM>(canvas.dc.m_hDC), 0),
                   0);
+        paintedOn = nullptr;
     }
     void Paint() {
         Canvas canvas(kWidth, kHeight, kGround);
@@ -229,6 +238,8 @@ TEST_F(SplitButtonPaint, ThemePaintsEachPartInItsPlaceAndASunkenLineBetween) {
     EXPECT_EQ(Find("background", 1)->clip, kZone);
     ASSERT_NE(Find("edge"), nullptr);
     EXPECT_EQ(Find("edge")->flags, 10u);
+    EXPECT_EQ(Find("edge")->part, 1);
+    EXPECT_EQ(Find("edge")->state, 3);
     EXPECT_EQ(Find("edge")->rect.left, 84);
     EXPECT_EQ(Count("frame"), 0);
     ASSERT_NE(Find("theme text"), nullptr);

@@ -162,6 +162,13 @@ TEST_F(SplitButton, CreationTakesTheStateOfTheCues) {
     EXPECT_EQ(Word() & (kSplitAccelHidden | kSplitFocusHidden), kSplitAccelHidden);
 }
 
+TEST_F(SplitButton, CreationTakesEachCueByItself) {
+    cueState = UISF_HIDEFOCUS;
+    Make(12);
+    cueState = 0;
+    EXPECT_EQ(Word() & (kSplitAccelHidden | kSplitFocusHidden), kSplitFocusHidden);
+}
+
 TEST_F(SplitButton, RedrawingIsSuspendedAndResumed) {
     Make(12);
     Send(WM_SETREDRAW, FALSE);

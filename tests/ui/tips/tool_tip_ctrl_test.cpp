@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "sent_messages.h"
+#include "system_colors.h"
 #include "test_host.h"
 #include "ui_test.h"
 
@@ -164,6 +165,13 @@ TEST_F(TrackingTip, IsAddedToItselfWithAnEmptyText) {
     }
     EXPECT_EQ(added, 1);
     EXPECT_EQ(text, L"");
+}
+
+TEST_F(TrackingTip, HasTheColoursOfWindows) {
+    const SystemColors colors({{COLOR_WINDOW, RGB(250, 250, 210)}, {COLOR_WINDOWTEXT, RGB(70, 0, 90)}});
+    OpenToolTip another(list);
+    EXPECT_EQ(another.SendMessage(TTM_GETTIPBKCOLOR), RGB(250, 250, 210));
+    EXPECT_EQ(another.SendMessage(TTM_GETTIPTEXTCOLOR), RGB(70, 0, 90));
 }
 
 TEST_F(TrackingTip, HidingForgetsTheText) {
