@@ -7,6 +7,7 @@
 
 #include <ktdsres/places_ids.h>
 
+#include <ktui/host/appearance.h>
 #include <ktui/host/message_box.h>
 #include <ktui/host/string_resources.h>
 #include <ktui/nav/current_folder.h>
@@ -43,10 +44,11 @@ namespace {
 constexpr int kIconRoom = 52;  // pixels of a row beside its line of text
 
 /// The height of a row: that of a line in the font that a device context comes with, and the icon's room.
-UINT rowHeight() {
+UINT rowHeight(HWND list) {
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
-    return static_cast<UINT>(dc.GetTextExtent(L"|", 1).cy + kIconRoom);
+    const int height = static_cast<int>(dc.GetTextExtent(L"|", 1).cy) + kIconRoom;
+    return static_cast<UINT>(KtUiAppearancePixels(list, height));
 }
 
 /// Gives a standard folder its path and caption; answers the path that its icon is asked for.
@@ -125,7 +127,7 @@ int CPlaceList::AddPlace(const CString& path, const CString& display, int type, 
     const int row = InsertString(index, item->m_display);
     if (row < 0) return -1;
     SetItemData(row, reinterpret_cast<DWORD_PTR>(item.release()));
-    SetItemHeight(row, rowHeight());
+    SetItemHeight(row, rowHeight(m_hWnd));
     return row;
 }
 

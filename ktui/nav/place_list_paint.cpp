@@ -17,7 +17,7 @@ constexpr COLORREF kDarkEdge = 0x10;  // Kept: a very dark red.
 constexpr int kMarginX = 2;
 constexpr int kMarginY = 5;
 constexpr int kBoxSize = 42;
-constexpr int kHalfIcon = 16;
+constexpr int kIconSize = 32;
 constexpr int kIconTop = 5;
 constexpr int kTextMargin = 5;
 
@@ -53,15 +53,21 @@ void CPlaceList::DrawItem(LPDRAWITEMSTRUCT drawn) {
     const PlaceItem* const item = itemAt(row);
     if (item == nullptr) return;
     CDC& dc = *CDC::FromHandle(drawn->hDC);
+    const auto pixels = [this](int agreed) { return KtUiAppearancePixels(m_hWnd, agreed); };
     CRect place(drawn->rcItem);
-    place.DeflateRect(kMarginX, kMarginY);
+    place.DeflateRect(pixels(kMarginX), pixels(kMarginY));
     const int middle = (place.left + place.right) / 2;
-    const int left = middle - kBoxSize / 2;
-    const CRect box(left, place.top, left + kBoxSize, place.top + kBoxSize);
+    const int left = middle - pixels(kBoxSize) / 2;
+    const CRect box(left, place.top, left + pixels(kBoxSize), place.top + pixels(kBoxSize));
     const bool isSelected = (drawn->itemState & ODS_SELECTED) != 0;
     if (isSelected || row == m_hotItem) drawFrame(dc, box, isSelected);
-    if (item->m_icon != nullptr) dc.DrawIcon(middle - kHalfIcon, place.top + kIconTop, item->m_icon);
-    place.DeflateRect(kTextMargin, 0);
+    if (item->m_icon != nullptr) {
+        // The system's large icons have its size for them, which is that of no other screen.
+        const int side = KtUiFollowsSystemAppearance() ? pixels(kIconSize) : 0;
+        ::DrawIconEx(dc, middle - pixels(kIconSize) / 2, place.top + pixels(kIconTop), item->m_icon, side,
+                     side, 0, nullptr, side != 0 ? DI_NORMAL : DI_NORMAL | DI_DEFAULTSIZE);
+    }
+    place.DeflateRect(pixels(kTextMargin), 0);
     drawCaption(dc, GetParent(), item->m_display, place);
 }
 

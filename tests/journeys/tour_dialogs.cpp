@@ -250,10 +250,13 @@ void showExport(Drafter& drafter) {
     ::SendMessageW(area, CB_GETLBTEXT, kWindowArea, reinterpret_cast<LPARAM>(window));
     drafter.pickByMouse(area, window);
     waitUntil([&] { return !::IsWindowVisible(dialog) && ::IsWindowEnabled(drafter.frame()); });
-    drafter.click(drafter.view(), {200, 150});
-    drafter.hover(drafter.view(), {520, 380});
+    // Of a view of any size.
+    const RECT view = rectOf(drafter.view());
+    const LONG wide = view.right - view.left, high = view.bottom - view.top;
+    drafter.click(drafter.view(), {wide / 4, high / 4});
+    drafter.hover(drafter.view(), {wide * 2 / 3, high * 2 / 3});
     tell("export-window", L"Picked the first corner of the window to export");
-    drafter.click(drafter.view(), {520, 380});
+    drafter.click(drafter.view(), {wide * 2 / 3, high * 2 / 3});
     waitUntil([&] { return ::IsWindowVisible(dialog) && !::IsWindowEnabled(drafter.frame()); });
     close(drafter, dialog);
 }

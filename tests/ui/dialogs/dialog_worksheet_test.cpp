@@ -1,6 +1,10 @@
 // The worksheet's fixed answers.
 #include <ktui/dialogs/kbui_dialog_worksheet.h>
 
+#include <ktui/host/module.h>
+
+#include <utility>
+
 #include "dialog_fixture.h"
 
 namespace {
@@ -13,6 +17,8 @@ public:
     using CKbUiDialogWorksheet::OnNcCreate;
     using CKbUiDialogWorksheet::OnPaint;
     using CKbUiDialogWorksheet::PreCreateWindow;
+    using CKtUiDialogWorksheet::AppMainWindow;
+    using CKtUiDialogWorksheet::AppResourceInstance;
 };
 
 class Worksheet : public DialogTest {
@@ -28,6 +34,16 @@ TEST_F(Worksheet, HasNoTheme) {
     sheet.SetDraw(CKbUiWorksheetDraw());
     EXPECT_EQ(sheet.SetDefaultDraw(), 0);
     EXPECT_EQ(sheet.GetTheme(), nullptr);
+}
+
+TEST_F(Worksheet, TheMainWindowIsTheHostsAndTheResourcesAreTheApplications) {
+    CWnd* const former = std::exchange(AfxGetApp()->m_pMainWnd, &parent);
+    EXPECT_EQ(sheet.AppMainWindow(), &parent);
+    host.hasUiHost = false;
+    EXPECT_EQ(sheet.AppMainWindow(), nullptr);
+    host.hasUiHost = true;
+    AfxGetApp()->m_pMainWnd = former;
+    EXPECT_EQ(sheet.AppResourceInstance(), KtUiAppResourceInstance());
 }
 
 TEST_F(Worksheet, ItsOwnOperationsAnswerZero) {

@@ -90,6 +90,30 @@ TEST_F(PlaceListPaint, ARowIsAnIconOverItsWhiteCaption) {
     EXPECT_LT(drawn.count(kGround), 130 * 110);
 }
 
+TEST_F(PlaceListPaint, AtOneAndAHalfTheSizeAHostThatFollowsItGetsAllOfItLarger) {
+    const ui_test::FakeResolution larger(144);
+    openWith({L"one"});
+    ASSERT_NE(item(0).m_icon, nullptr);
+    const CRect row(10, 20, 161, 130);
+    Canvas drawn(180, 150, kGround), expected(180, 150, kGround);
+    draw(drawn, 0, ODS_SELECTED, row);
+    const HDC dc = expected.dc.m_hDC;
+    const int middle = (row.left + row.right) / 2, top = row.top + 8, left = middle - 31;
+    const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+    fill(dc, {left, top, left + 62, top + 1}, kDarkEdge);
+    fill(dc, {left, top, left + 1, top + 62}, kDarkEdge);
+    fill(dc, {left + 62, top, left + 63, top + 63}, light);
+    fill(dc, {left, top + 62, left + 63, top + 63}, light);
+    ::DrawIconEx(dc, middle - 24, top + 8, item(0).m_icon, 48, 48, 0, nullptr, DI_NORMAL);
+    RECT text = {row.left + 3 + 8, top, row.right - 3 - 8, row.bottom - 8};
+    const HGDIOBJ former = ::SelectObject(dc, font.m_hObject);
+    ::SetTextColor(dc, kWhite);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::DrawTextW(dc, item(0).m_display, -1, &text, DT_CENTER | DT_BOTTOM | DT_SINGLELINE | DT_END_ELLIPSIS);
+    ::SelectObject(dc, former);
+    EXPECT_TRUE(drawn == expected);
+}
+
 TEST_F(PlaceListPaint, InDarkColorsAHostThatFollowsThemGetsThem) {
     const ui_test::SchemeInForce dark(TRUE);
     openWith({L"one"});

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "fake_resolution.h"
 #include "in_language.h"
 #include "slot_of.h"
 
@@ -148,6 +149,19 @@ TEST_F(PlaceListTest, ARowIsALineOfTextAndTheIconHigh) {
     ::ReleaseDC(nullptr, screen);
     EXPECT_EQ(list->GetItemHeight(0), line.cy + 52);
     EXPECT_EQ(list->GetItemHeight(1), line.cy + 52);
+    const ui_test::FakeResolution larger(144);
+    list->AddPlace(L"C:\\windows", L"three", 0, -1);
+    EXPECT_EQ(list->GetItemHeight(2), (line.cy + 52) * 3 / 2);
+}
+
+TEST_F(PlaceListTest, ARowOfAHostThatKeepsTheAgreedPixelsIsNoHigherElsewhere) {
+    const ui_test::FakeResolution larger(144, FALSE);
+    openWith({L"one"});
+    const HDC screen = ::GetDC(nullptr);
+    SIZE line = {};
+    ::GetTextExtentPoint32W(screen, L"|", 1, &line);
+    ::ReleaseDC(nullptr, screen);
+    EXPECT_EQ(list->GetItemHeight(0), line.cy + 52);
 }
 
 TEST_F(PlaceListTest, StoresEachRowByThreeTextsAndAnEmptyEnd) {

@@ -65,9 +65,10 @@ ThemeApi WatchedTheme() {
         calls.push_back({"parent", 0, 0, CRect(*rect)});
         return S_OK;
     };
-    api.drawThemeBackground = [](HTHEME theme, HDC, int part, int state, const RECT* rect,
+    api.drawThemeBackground = [](HTHEME theme, HDC dc, int part, int state, const RECT* rect,
                                  const RECT* clip) -> HRESULT {
         EXPECT_EQ(theme, kTheme);
+        EXPECT_TRUE(paintedOn == nullptr || dc == paintedOn);
         calls.push_back(
             {"background", part, state, CRect(*rect), clip != nullptr ? CRect(*clip) : CRect(*rect)});
         return S_OK;

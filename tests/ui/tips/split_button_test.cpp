@@ -2,6 +2,7 @@
 #include <ktui/host/test_door.h>
 #include <ktui/tips/split_button.h>
 
+#include <utility>
 #include <vector>
 
 #include "picture.h"
@@ -329,6 +330,17 @@ TEST_F(SplitButton, WithoutARecordOldControlsMakeItSplit) {
     ASSERT_LT(KtUiTestDoor().loadedToolkit().commonControlsVersion, 0x00060000u);
     Make(12);
     EXPECT_EQ(KtUiTestDoor().splitButtonMessage(nullptr, window, WM_GETDLGCODE, 0, 0), 0x2020);
+}
+
+TEST_F(SplitButton, WithoutARecordControlsOfVersion6AreAskedThemselves) {
+    Make(BS_PUSHBUTTON);
+    DWORD& version = const_cast<DWORD&>(KtUiTestDoor().loadedToolkit().commonControlsVersion);
+    const DWORD former = std::exchange(version, 0x00060000);
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(nullptr, window, WM_GETDLGCODE, 0, 0),
+              ::CallWindowProcW(KtUiTestDoor().loadedToolkit().buttonWndProc, window, WM_GETDLGCODE, 0, 0));
+    version = 0x0005FFFF;
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(nullptr, window, WM_GETDLGCODE, 0, 0), 0x2020);
+    version = former;
 }
 
 TEST_F(SplitButton, ThemeGoesWithTheWindowAndItsChanges) {
