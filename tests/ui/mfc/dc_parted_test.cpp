@@ -1,6 +1,7 @@
 // A CDC whose output and attributes lie in two contexts: what is set reaches both, what is asked comes from
 // the second, what is drawn goes to the first.
 #include "drawn_beside.h"
+#include "ui_test.h"
 
 namespace {
 
