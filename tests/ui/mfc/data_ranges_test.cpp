@@ -213,3 +213,18 @@ TEST_F(DataRanges, ChecksAndRadioButtonsByNumber) {
     exchanges(TRUE, [&](CDataExchange* dx) { DDX_Radio(dx, kRadio, radio); });
     EXPECT_EQ(radio, -1);
 }
+
+TEST_F(DataRanges, AListIsAskedForExactlyTheText) {
+    constexpr int kList = 1008;
+    dialog.SendDlgItemMessage(kList, LB_RESETCONTENT);
+    for (const wchar_t* text : {L"layers", L"layer", L"line"})
+        dialog.SendDlgItemMessage(kList, LB_INSERTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+    CString value(L"layer");
+    const auto exchange = [&](CDataExchange* dx) { DDX_LBStringExact(dx, kList, value); };
+    EXPECT_TRUE(exchanges(FALSE, exchange));
+    EXPECT_EQ(dialog.SendDlgItemMessage(kList, LB_GETCURSEL), 1) << "not the first that begins so";
+    EXPECT_EQ(value, L"layer");
+    dialog.SendDlgItemMessage(kList, LB_SETCURSEL, 2);
+    EXPECT_TRUE(exchanges(TRUE, exchange));
+    EXPECT_EQ(value, L"line");
+}

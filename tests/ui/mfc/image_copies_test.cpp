@@ -328,3 +328,35 @@ TEST(ImageLists, HandlesComeAndGo) {
     EXPECT_EQ(list.GetSafeHandle(), nullptr);
     EXPECT_TRUE(::ImageList_Destroy(first));
 }
+
+TEST(ImageLists, AnOverlayIsAnImageByItsNumber) {
+    CImageList list;
+    ASSERT_TRUE(list.Create(8, 8, ILC_COLOR32 | ILC_MASK, 3, 0));
+    for (const COLORREF color : {kGreen, kYellow, RGB(90, 0, 0)}) {
+        CImage image;
+        image.Create(8, 8, 32);
+        CDC* dc = CDC::FromHandle(image.GetDC());
+        dc->FillSolidRect(0, 0, 8, 8, color);
+        image.ReleaseDC();
+        list.Add(CBitmap::FromHandle(image), RGB(1, 2, 3));
+    }
+    ASSERT_EQ(list.GetImageCount(), 3);
+    ASSERT_TRUE(list.SetOverlayImage(2, 1));
+    CImage drawn;
+    drawn.Create(8, 8, 32);
+    ::ImageList_Draw(list.m_hImageList, 0, drawn.GetDC(), 0, 0, ILD_NORMAL | INDEXTOOVERLAYMASK(1));
+    drawn.ReleaseDC();
+    EXPECT_EQ(drawn.GetPixel(4, 4), RGB(90, 0, 0));
+}
+
+TEST(SimpleArrays, AValueIsRemovedWhereverItStands) {
+    CSimpleArray<int> numbers;
+    for (const int number : {5, 6, 7}) numbers.Add(number);
+    EXPECT_FALSE(numbers.Remove(8));
+    EXPECT_TRUE(numbers.Remove(5)) << "the first";
+    EXPECT_TRUE(numbers.Remove(7)) << "the last";
+    ASSERT_EQ(numbers.GetSize(), 1);
+    EXPECT_EQ(numbers[0], 6);
+    EXPECT_FALSE(numbers.RemoveAt(1));
+    EXPECT_EQ(numbers.Find(7), -1);
+}
