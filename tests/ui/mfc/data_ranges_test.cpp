@@ -218,7 +218,8 @@ TEST_F(DataRanges, AListIsAskedForExactlyTheText) {
     constexpr int kList = 1008;
     dialog.SendDlgItemMessage(kList, LB_RESETCONTENT);
     for (const wchar_t* text : {L"layers", L"layer", L"line"})
-        dialog.SendDlgItemMessage(kList, LB_INSERTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+        dialog.SendDlgItemMessage(kList, LB_INSERTSTRING, static_cast<WPARAM>(-1),
+                                  reinterpret_cast<LPARAM>(text));
     CString value(L"layer");
     const auto exchange = [&](CDataExchange* dx) { DDX_LBStringExact(dx, kList, value); };
     EXPECT_TRUE(exchanges(FALSE, exchange));
