@@ -410,6 +410,8 @@ TEST_F(Controls, ABitmapButtonShowsThePictureOfItsState) {
     CBitmapButton loaded;
     EXPECT_TRUE(loaded.AutoLoad(kId + 1, &parent));
     EXPECT_EQ(loaded.m_hWnd, handle);
+    CBitmapButton incomplete;
+    EXPECT_FALSE(incomplete.LoadBitmaps(300, 999)) << "no such picture";
 }
 
 TEST_F(Controls, TheColourDialogAnswersTheInitialColourAndReachesItsObject) {

@@ -91,14 +91,12 @@ TEST_F(ModuleState, AnExtensionModuleTakesItsOwnClassesAndLeavesTheOthers) {
 }
 
 TEST_F(ModuleState, AModuleWithoutClassesTakesNobodyElses) {
-    HMODULE copy = ::LoadLibraryExW(ui_test::program_path(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
     AFX_EXTENSION_MODULE resources = {};
-    ASSERT_TRUE(AfxInitExtensionModule(resources, copy));
+    ASSERT_TRUE(AfxInitExtensionModule(resources, ::GetModuleHandleW(L"comctl32.dll")));
     EXPECT_EQ(resources.pFirstSharedClass, nullptr);
     new CDynLinkLibrary(resources);
     AfxTermExtensionModule(resources);
     EXPECT_NE(CRuntimeClass::FromName("CDialog"), nullptr);
-    ::FreeLibrary(copy);
 }
 
 TEST_F(ModuleState, TheClassLayersOwnTextsAreTheLastResort) {

@@ -266,6 +266,12 @@ TEST_F(Ole, ADragBeginsOutsideTheRectangleOrAfterAWhile) {
     EXPECT_FALSE(source.OnBeginDrag(nullptr));
 }
 
+TEST_F(Ole, AnObjectWithoutDataHasNone) {
+    COleDataObject empty;
+    EXPECT_FALSE(empty.IsDataAvailable(CF_UNICODETEXT));
+    EXPECT_EQ(empty.GetGlobalData(CF_UNICODETEXT), nullptr);
+}
+
 TEST_F(Ole, IsReadyOnce) {
     EXPECT_TRUE(AfxOleInit());
     AfxOleTerm(TRUE);

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "message_listener.h"
 #include "replaced_import.h"
 #include "ui_test.h"
 
@@ -23,6 +24,8 @@ struct Request {
 };
 Request request;
 bool answersAtOnce = false;
+/// Runs in place of the system's dialog, where there is one.
+std::function<void(const TASKDIALOGCONFIG&)> standIn;
 
 std::wstring Text(const wchar_t* text) { return text != nullptr ? text : L""; }
 
@@ -44,6 +47,7 @@ HRESULT WINAPI SeenDialog(const TASKDIALOGCONFIG* config, int* button, int* radi
     for (UINT i = 0; i < config->cRadioButtons; ++i)
         request.radios.emplace_back(+config->pRadioButtons[i].nButtonID,
                                     Text(config->pRadioButtons[i].pszButtonText));
+    if (standIn) return standIn(*config), S_OK;
     if (!answersAtOnce) return systemDialog(config, button, radio, verified);
     *button = 77;
     *radio = 88;
@@ -73,6 +77,13 @@ protected:
     HRESULT OnInit() override { return Hear("init"); }
     HRESULT OnCreate() override { return Hear("create"); }
     HRESULT OnDestroy() override { return Hear("destroy"); }
+    HRESULT OnHelp() override { return Hear("help"); }
+    HRESULT OnNavigatePage() override { return Hear("page"); }
+    HRESULT OnTimer(long time) override { return Hear("timer " + std::to_string(time)); }
+    HRESULT OnExpandButtonClick(BOOL out) override { return Hear("expand " + std::to_string(out)); }
+    HRESULT OnHyperlinkClick(const CString& link) override {
+        return Hear("link " + std::string(CStringA(link)));
+    }
     HRESULT OnRadioButtonClick(int id) override { return Hear("radio " + std::to_string(id)); }
     HRESULT OnVerificationCheckboxClick(BOOL checked) override {
         return Hear("box " + std::to_string(checked));
@@ -285,4 +296,167 @@ TEST_F(TaskDialogClass, EscapeCancelsItWhereItMayBeCancelled) {
 TEST_F(TaskDialogClass, ACommandIsClickedFromTheProgram) {
     dialog.AddCommandControl(101, L"command");
     EXPECT_EQ(Run([&](HWND) { later([&] { dialog.ClickCommandControl(101); }); }), 101);
+}
+
+namespace {
+
+/// Tells the class what a dialog would, from a window that notes what the class says to it.
+class StagedTaskDialog : public TaskDialogClass {
+protected:
+    ~StagedTaskDialog() override { standIn = nullptr; }
+    void Stage(const std::function<void()>& act) {
+        standIn = [this, act](const TASKDIALOGCONFIG& given) {
+            config = &given;
+            Tell(TDN_DIALOG_CONSTRUCTED);
+            act();
+            Tell(TDN_DESTROYED);
+        };
+        dialog.DoModal();
+        standIn = nullptr;
+    }
+    HRESULT Tell(UINT notification, WPARAM wParam = 0, LPARAM lParam = 0) {
+        return config->pfCallback(box.window(), notification, wParam, lParam, config->lpCallbackData);
+    }
+    /// Whether the dialog was sent just these since the last call.
+    void ExpectSaid(const std::vector<HeardMessage>& wanted) {
+        const auto said = box.take();
+        ASSERT_EQ(said.size(), wanted.size());
+        for (std::size_t i = 0; i < said.size(); ++i) {
+            EXPECT_EQ(said[i].message, wanted[i].message) << i;
+            EXPECT_EQ(said[i].wParam, wanted[i].wParam) << i;
+            EXPECT_EQ(said[i].lParam, wanted[i].lParam) << i;
+        }
+    }
+    MessageListener box;
+    const TASKDIALOGCONFIG* config = nullptr;
+};
+
+}  // namespace
+
+TEST_F(StagedTaskDialog, EveryNotificationHasItsHandler) {
+    dialog.SetCommonButtons(0);
+    dialog.keptOpen = 5;
+    Stage([&] {
+        Tell(TDN_CREATED);
+        Tell(TDN_NAVIGATED);
+        Tell(TDN_TIMER, 250);
+        Tell(TDN_RADIO_BUTTON_CLICKED, 9);
+        EXPECT_EQ(Tell(TDN_BUTTON_CLICKED, 5), S_FALSE);
+        EXPECT_EQ(Tell(TDN_BUTTON_CLICKED, 5), S_OK);
+        Tell(TDN_VERIFICATION_CLICKED, TRUE);
+        EXPECT_TRUE(dialog.GetVerificationCheckboxState());
+        Tell(TDN_HYPERLINK_CLICKED, 0, reinterpret_cast<LPARAM>(L"a link"));
+        Tell(TDN_HELP);
+        Tell(TDN_EXPANDO_BUTTON_CLICKED, TRUE);
+        EXPECT_EQ(Tell(4711), S_OK);
+    });
+    const std::vector<std::string> wanted = {"init",        "create",  "page",     "timer 250",
+                                             "radio 9",     "click 5", "click 5",  "box 1",
+                                             "link a link", "help",    "expand 1", "destroy"};
+    EXPECT_EQ(dialog.heard, wanted);
+}
+
+TEST_F(StagedTaskDialog, StatesAreSaidAtTheStart) {
+    dialog.SetCommonButtons(TDCBF_OK_BUTTON | TDCBF_RETRY_BUTTON, TDCBF_RETRY_BUTTON, TDCBF_OK_BUTTON);
+    dialog.AddCommandControl(101, L"command", FALSE, TRUE);
+    dialog.AddRadioButton(201, L"on");
+    dialog.AddRadioButton(202, L"off", FALSE);
+    Stage([&] {
+        ExpectSaid({{TDM_ENABLE_BUTTON, IDOK, 1},
+                    {TDM_SET_BUTTON_ELEVATION_REQUIRED_STATE, IDOK, 1},
+                    {TDM_ENABLE_BUTTON, IDRETRY, 0},
+                    {TDM_SET_BUTTON_ELEVATION_REQUIRED_STATE, IDRETRY, 0},
+                    {TDM_ENABLE_BUTTON, 101, 0},
+                    {TDM_SET_BUTTON_ELEVATION_REQUIRED_STATE, 101, 1},
+                    {TDM_ENABLE_RADIO_BUTTON, 202, 0}});
+    });
+    EXPECT_TRUE(dialog.IsRadioButtonEnabled(201));
+    EXPECT_FALSE(dialog.IsRadioButtonEnabled(202));
+    EXPECT_FALSE(dialog.IsRadioButtonEnabled(4711));
+}
+
+TEST_F(StagedTaskDialog, AProgressBarIsSetUpAtTheStartWhereThereIsOne) {
+    dialog.SetCommonButtons(0);
+    dialog.SetProgressBarRange(10, 50);
+    dialog.SetProgressBarPosition(20);
+    dialog.SetProgressBarState(PBST_PAUSED);
+    dialog.SetProgressBarMarquee(TRUE, 30);
+    Stage([&] { ExpectSaid({}); });
+    box.take();
+    const std::vector<HeardMessage> plain = {{TDM_SET_PROGRESS_BAR_RANGE, 0, MAKELPARAM(10, 50)},
+                                             {TDM_SET_PROGRESS_BAR_POS, 20, 0},
+                                             {TDM_SET_PROGRESS_BAR_STATE, PBST_PAUSED, 0}};
+    dialog.SetOptions(TDF_SHOW_PROGRESS_BAR);
+    Stage([&] { ExpectSaid(plain); });
+    auto running = plain;
+    running.push_back({TDM_SET_PROGRESS_BAR_MARQUEE, TRUE, 30});
+    dialog.SetOptions(TDF_SHOW_MARQUEE_PROGRESS_BAR);
+    Stage([&] { ExpectSaid(running); });
+}
+
+TEST_F(StagedTaskDialog, ChangesReachTheDialogThatRuns) {
+    dialog.SetCommonButtons(TDCBF_OK_BUTTON);
+    dialog.AddCommandControl(101, L"command");
+    dialog.AddRadioButton(201, L"radio");
+    const HICON icon = ::LoadIconW(nullptr, IDI_HAND);
+    const auto text = [this](int element, const wchar_t* wanted) {
+        const auto said = box.take();
+        ASSERT_EQ(said.size(), 1U);
+        EXPECT_EQ(said[0].message, static_cast<UINT>(TDM_SET_ELEMENT_TEXT));
+        EXPECT_EQ(said[0].wParam, static_cast<WPARAM>(element));
+        EXPECT_STREQ(reinterpret_cast<LPCWSTR>(said[0].lParam), wanted);
+    };
+    Stage([&] {
+        box.take();
+        dialog.SetContent(L"c");
+        text(TDE_CONTENT, L"c");
+        dialog.SetMainInstruction(L"m");
+        text(TDE_MAIN_INSTRUCTION, L"m");
+        dialog.SetFooterText(L"f");
+        text(TDE_FOOTER, L"f");
+        dialog.SetExpansionArea(L"e");
+        text(TDE_EXPANDED_INFORMATION, L"e");
+        dialog.SetMainIcon(icon);
+        dialog.SetMainIcon(TD_WARNING_ICON);
+        dialog.SetFooterIcon(icon);
+        dialog.SetFooterIcon(TD_ERROR_ICON);
+        ExpectSaid({{TDM_UPDATE_ICON, TDIE_ICON_MAIN, reinterpret_cast<LPARAM>(icon)},
+                    {TDM_UPDATE_ICON, TDIE_ICON_MAIN, reinterpret_cast<LPARAM>(TD_WARNING_ICON)},
+                    {TDM_UPDATE_ICON, TDIE_ICON_FOOTER, reinterpret_cast<LPARAM>(icon)},
+                    {TDM_UPDATE_ICON, TDIE_ICON_FOOTER, reinterpret_cast<LPARAM>(TD_ERROR_ICON)}});
+        dialog.SetCommandControlOptions(4711, FALSE);
+        dialog.SetRadioButtonOptions(4711, FALSE);
+        ExpectSaid({});
+        dialog.SetCommandControlOptions(101, FALSE, TRUE);
+        dialog.SetRadioButtonOptions(201, FALSE);
+        ExpectSaid({{TDM_ENABLE_BUTTON, 101, 0},
+                    {TDM_SET_BUTTON_ELEVATION_REQUIRED_STATE, 101, 1},
+                    {TDM_ENABLE_RADIO_BUTTON, 201, 0}});
+        dialog.SetVerificationCheckbox(TRUE);
+        dialog.ClickCommandControl(101);
+        dialog.ClickRadioButton(201);
+        dialog.SetProgressBarRange(1, 9);
+        dialog.SetProgressBarPosition(4);
+        dialog.SetProgressBarState(PBST_ERROR);
+        dialog.SetProgressBarMarquee(TRUE, 7);
+        ExpectSaid({{TDM_CLICK_VERIFICATION, TRUE, FALSE},
+                    {TDM_CLICK_BUTTON, 101, 0},
+                    {TDM_CLICK_RADIO_BUTTON, 201, 0},
+                    {TDM_SET_PROGRESS_BAR_RANGE, 0, MAKELPARAM(1, 9)},
+                    {TDM_SET_PROGRESS_BAR_POS, 4, 0},
+                    {TDM_SET_PROGRESS_BAR_STATE, PBST_ERROR, 0},
+                    {TDM_SET_PROGRESS_BAR_MARQUEE, TRUE, 7}});
+    });
+    box.take();
+    dialog.SetContent(L"after it");
+    ExpectSaid({});
+}
+
+TEST_F(StagedTaskDialog, AWidthIsInDialogUnits) {
+    dialog.SetDialogWidth(300);
+    Stage([&] {
+        EXPECT_EQ(+config->cxWidth, static_cast<UINT>(::MulDiv(300, 4, LOWORD(::GetDialogBaseUnits()))));
+    });
+    dialog.SetDialogWidth();
+    Stage([&] { EXPECT_EQ(+config->cxWidth, 0U); });
 }

@@ -32,6 +32,21 @@ protected:
 };
 IMPLEMENT_DYNCREATE(Painted, CScrollView)
 
+/// A view that only notes by how much it is to scroll.
+class Asked : public CScrollView {
+    DECLARE_DYNCREATE(Asked)
+public:
+    CSize asked;
+
+protected:
+    void OnDraw(CDC*) override {}
+    BOOL OnScrollBy(CSize by, BOOL) override {
+        asked = by;
+        return TRUE;
+    }
+};
+IMPLEMENT_DYNCREATE(Asked, CScrollView)
+
 }  // namespace
 
 TEST_F(DocumentsTest, AFormGivesTheFocusBackToItsControl) {
@@ -104,6 +119,15 @@ TEST_F(DocumentsTest, WhatIsScaledToTheWindowNeverScrolls) {
     EXPECT_FALSE(frame.view->OnScroll(MAKEWORD(SB_LINERIGHT, SB_LINEDOWN), 0));
     EXPECT_FALSE(frame.view->OnScrollBy(CSize(10, 10)));
     EXPECT_FALSE(frame.view->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-120)), 0));
+    EXPECT_THROW(frame.view->ResizeParentToFit(), CInvalidArgException*) << "it has no size of its own";
+}
+
+TEST_F(DocumentsTest, TheWheelAsksTheViewToScroll) {
+    ViewFrame<Asked> frame;
+    frame.view->SetScrollSizes(MM_TEXT, CSize(2000, 2000), CSize(200, 300), CSize(20, 10));
+    EXPECT_TRUE(frame.view->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-120)), 0));
+    EXPECT_EQ(frame.view->asked, CSize(0, 30));
+    EXPECT_EQ(frame.view->GetScrollPosition(), CPoint(0, 0)) << "the view decides";
 }
 
 TEST_F(DocumentsTest, TheWheelScrollsSidewaysWhereThereIsNoOtherWay) {
