@@ -51,11 +51,11 @@ CMFCTabCtrl& CMDIFrameWndEx::GetMDITabs() { return *m_tabs; }
 
 void CMDIFrameWndEx::RecalcLayout(BOOL bNotify) {
     m_dockManager.layout_frame(m_rectBorder, [&] {
-        m_tabs->take_room(m_rectBorder);
+        if (!IsPrintPreview()) m_tabs->take_room(m_rectBorder);
         CMDIFrameWnd::RecalcLayout(bNotify);
         m_tabs->place();
     });
-    if (m_hWndMDIClient == nullptr) return;
+    if (m_hWndMDIClient == nullptr || IsPrintPreview()) return;
     CRect now;
     ::GetWindowRect(m_hWndMDIClient, &now);
     ScreenToClient(&now);

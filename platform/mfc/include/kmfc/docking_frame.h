@@ -53,6 +53,12 @@ public:
         return m_dockManager.ends_drag(*pMsg) || m_dockManager.opens_menu(*pMsg) ||
                Frame::PreTranslateMessage(pMsg);
     }
+    void OnSetPreviewMode(BOOL bPreview, CPrintPreviewState* pState) override {
+        Frame::OnSetPreviewMode(bPreview, pState);
+        m_dockManager.SetPrintPreviewMode(bPreview, pState);
+    }
+    /// Whether a print preview stands in the frame.
+    BOOL IsPrintPreview() { return m_dockManager.IsPrintPreviewValid(); }
     /// Called after panes were shown or hidden together.
     virtual BOOL OnShowPanes(BOOL bShow) {
         m_dockManager.ShowPanes(bShow);
