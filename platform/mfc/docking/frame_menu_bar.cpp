@@ -16,8 +16,7 @@ void CDockingManager::set_menu_bar(CMFCMenuBar* bar) {
 }
 
 bool CDockingManager::opens_menu(const MSG& message) {
-    if (message.message != WM_SYSCHAR || m_state->menuBar == nullptr || IsPrintPreviewValid() ||
-        !m_pParentWnd->IsWindowEnabled())
+    if (message.message != WM_SYSCHAR || m_state->menuBar == nullptr || !m_pParentWnd->IsWindowEnabled())
         return false;
     // Other windows beside the frame have their own letters.
     const HWND root = ::GetAncestor(message.hwnd, GA_ROOT);
@@ -30,7 +29,7 @@ bool CDockingManager::opens_menu(const MSG& message) {
 bool CDockingManager::enters_menu(UINT command, LPARAM parameter) {
     constexpr UINT kCommandBits = 0xFFF0;
     return (command & kCommandBits) == SC_KEYMENU && parameter == 0 && m_state->menuBar != nullptr &&
-           !IsPrintPreviewValid() && m_pParentWnd->IsWindowEnabled() && m_state->menuBar->toggle_focus();
+           m_pParentWnd->IsWindowEnabled() && m_state->menuBar->toggle_focus();
 }
 
 LRESULT CDockingManager::show_menu(HMENU menu) {

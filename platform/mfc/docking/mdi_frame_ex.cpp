@@ -17,6 +17,10 @@ BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
     ON_WM_SYSCOMMAND()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CMDIFrameWndEx::OnIdleUpdateCmdUI)
     ON_REGISTERED_MESSAGE(kmfc::frame_menu_message, &CMDIFrameWndEx::OnFrameMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CMDIFrameWndEx::OnUpdatePaneMenu)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CMDIFrameWndEx::OnPaneCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CMDIFrameWndEx::OnUpdatePaneMenu)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CMDIFrameWndEx::OnPaneCheck)
     ON_REGISTERED_MESSAGE(AFX_WM_CHANGE_ACTIVE_TAB, &CMDIFrameWndEx::OnChangeActiveTab)
     ON_UPDATE_COMMAND_UI(ID_WINDOW_ARRANGE, &CMDIFrameWndEx::OnUpdateArranging)
     ON_UPDATE_COMMAND_UI(ID_WINDOW_CASCADE, &CMDIFrameWndEx::OnUpdateArranging)
@@ -55,7 +59,7 @@ void CMDIFrameWndEx::RecalcLayout(BOOL bNotify) {
         CMDIFrameWnd::RecalcLayout(bNotify);
         m_tabs->place();
     });
-    if (m_hWndMDIClient == nullptr || IsPrintPreview()) return;
+    if (m_hWndMDIClient == nullptr) return;
     CRect now;
     ::GetWindowRect(m_hWndMDIClient, &now);
     ScreenToClient(&now);

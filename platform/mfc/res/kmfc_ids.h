@@ -29,5 +29,6 @@
 #define IDS_BAR_MORE 30746
 #define IDS_BAR_PRESS 30747
 #define IDS_BAR_OPEN 30748
+#define IDS_STATUS_BAR 30749  // the name of a status bar for them
 
 #endif

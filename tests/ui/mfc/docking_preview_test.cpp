@@ -340,6 +340,28 @@ TEST_F(DockingPreview, ADragIsGivenUp) {
     expect_same(before, shown());
 }
 
+TEST_F(DockingPreview, ADraggedToolbarIsLetGoBeforeTheFrameIsLaidOut) {
+    drag(*bars[0], on_frame(300, 300));
+    ASSERT_NE(::GetCapture(), nullptr);
+    manager().SetPrintPreviewMode(TRUE, nullptr);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    manager().SetPrintPreviewMode(FALSE, nullptr);
+    EXPECT_TRUE(bars[0]->IsDocked());
+}
+
+TEST_F(DockingPreview, WhatFloatsOverAnotherFrameStays) {
+    auto* const second = new Frame;
+    second->Create(nullptr, L"second", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 100, 400, 300));
+    second->EnableDocking(CBRS_ALIGN_ANY);
+    Pane theirs;
+    theirs.Create(L"theirs", second, CSize(100, 100), TRUE, 77, WS_CHILD | WS_VISIBLE | CBRS_LEFT);
+    theirs.EnableDocking(CBRS_ALIGN_ANY);
+    theirs.FloatPane(CRect(500, 400, 600, 500));
+    start();
+    EXPECT_TRUE(theirs.IsWindowVisible());
+    second->DestroyWindow();
+}
+
 TEST_F(DockingPreview, APreviewThatCantBeMadeLeavesEverything) {
     const Shown before = shown();
     CPrintPreviewState state;

@@ -91,6 +91,20 @@ protected:
     afx_msg LRESULT OnFrameMenu(WPARAM wParam, LPARAM) {
         return m_dockManager.show_menu(reinterpret_cast<HMENU>(wParam));
     }
+    /// Checks the menu item of the pane with the item's id when the pane is to be seen; shows or hides it.
+    /// Classic bars are the frame's.
+    afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI) {
+        if (CBasePane* const pane = GetPane(pCmdUI->m_nID))
+            pCmdUI->SetCheck(pane->IsVisible() ? 1 : 0);
+        else
+            Frame::OnUpdateControlBarMenu(pCmdUI);
+    }
+    afx_msg BOOL OnPaneCheck(UINT nID) {
+        CBasePane* const pane = GetPane(nID);
+        if (pane == nullptr) return Frame::OnBarCheck(nID);
+        pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
+        return TRUE;
+    }
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam) {
         m_dockManager.on_idle();
         return Frame::OnIdleUpdateCmdUI(wParam, lParam);
