@@ -4,6 +4,7 @@
 #include <kmfc/auto_hide_bar.h>
 #include <kmfc/docking_manager.h>
 #include <kmfc/pane_frame_wnd.h>
+#include <kmfc/registered_messages.h>
 
 #include "docked_bars.h"
 #include "frame_state.h"
@@ -18,6 +19,7 @@ void CDockingManager::SetPrintPreviewMode(BOOL bPreview, CPrintPreviewState*) {
         begin_preview();
     else
         end_preview();
+    m_pParentWnd->PostMessage(AFX_WM_POSTSETPREVIEWFRAME, static_cast<WPARAM>(bPreview != FALSE));
 }
 
 void CDockingManager::begin_preview() {

@@ -349,6 +349,20 @@ TEST_F(DockingPreview, ADraggedToolbarIsLetGoBeforeTheFrameIsLaidOut) {
     EXPECT_TRUE(bars[0]->IsDocked());
 }
 
+TEST_F(DockingPreview, TheFrameIsToldOfBeginAndEnd) {
+    std::vector<WPARAM> told;
+    start();
+    send_close();
+    MSG message;
+    manager().SetPrintPreviewMode(TRUE, nullptr);
+    manager().SetPrintPreviewMode(TRUE, nullptr);
+    manager().SetPrintPreviewMode(FALSE, nullptr);
+    while (::PeekMessageW(&message, frame->m_hWnd, AFX_WM_POSTSETPREVIEWFRAME, AFX_WM_POSTSETPREVIEWFRAME,
+                          PM_REMOVE))
+        told.push_back(message.wParam);
+    EXPECT_EQ(told, (std::vector<WPARAM>{TRUE, FALSE}));
+}
+
 TEST_F(DockingPreview, WhatFloatsOverAnotherFrameStays) {
     auto* const second = new Frame;
     second->Create(nullptr, L"second", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 100, 400, 300));
@@ -467,6 +481,18 @@ TEST(DocumentsPreview, TabsOfDocumentsGoAndComeBack) {
     EXPECT_EQ(now, tabs);
     ::GetWindowRect(outer->m_hWndMDIClient, &now);
     EXPECT_EQ(now, before);
+    // Groups of documents as well.
+    outer->EnableMDITabbedGroups(TRUE, CMDITabInfo());
+    ui_test::pump();
+    CWnd* const strip = static_cast<CWnd*>(outer->GetMDITabGroups().GetHead());
+    strip->GetWindowRect(&tabs);
+    ASSERT_TRUE(strip->IsWindowVisible());
+    outer->SendMessage(WM_COMMAND, ID_FILE_PRINT_PREVIEW);
+    EXPECT_FALSE(strip->IsWindowVisible());
+    outer->SendMessage(WM_CLOSE);
+    EXPECT_TRUE(strip->IsWindowVisible());
+    strip->GetWindowRect(&now);
+    EXPECT_EQ(now, tabs);
     AfxGetApp()->m_pMainWnd = nullptr;
     AfxGetApp()->SelectPrinter(nullptr, nullptr);
     outer->DestroyWindow();
