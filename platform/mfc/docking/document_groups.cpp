@@ -61,7 +61,7 @@ GroupTabs* DocumentGroups::make_strip() {
     auto* const strip = new GroupTabs(*this);  // deletes itself
     strip->HideNoTabs(TRUE);
     if (!strip->Create(m_params.m_style, CRect(0, 0, 0, 0), &m_frame, kStripId, m_params.m_tabLocation,
-                       m_params.m_bTabCloseButton && !m_params.m_bActiveTabCloseButton))
+                       m_params.m_bTabCloseButton))
         return nullptr;
     apply_params(*strip);
     // Strips stand over the documents' window.
@@ -85,6 +85,7 @@ void DocumentGroups::start(const CMDITabInfo& params) {
     m_params = params;
     m_isFollowing = true;
     if (is_on()) {
+        m_active = nullptr;
         for (GroupTabs*& group : m_groups) {
             GroupTabs* const made = make_strip();
             if (made == nullptr) continue;
@@ -92,13 +93,11 @@ void DocumentGroups::start(const CMDITabInfo& params) {
             for (int i = 0; i < group->GetTabsNum(); ++i)
                 if (CMDIChildWndEx* const child = document_at(*group, i)) insert(*made, *child);
             made->SetActiveTab(group->GetActiveTab());
-            if (m_active == group) m_active = made;
             std::exchange(group, made)->go_later();
         }
     } else if (GroupTabs* const first = make_strip()) {
         m_groups.push_back(first);
         m_tree = SplitTree(key_of(*first));
-        if (CMDIChildWnd* const active = m_frame.MDIGetActive()) m_frame.MDIRestore(active);
         for (HWND child = ::GetWindow(::GetTopWindow(m_frame.m_hWndMDIClient), GW_HWNDLAST); child != nullptr;
              child = ::GetWindow(child, GW_HWNDPREV))
             if (auto* const document = DYNAMIC_DOWNCAST(CMDIChildWndEx, CWnd::FromHandlePermanent(child)))

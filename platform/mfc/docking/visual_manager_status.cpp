@@ -36,7 +36,6 @@ void fill_running(CDC& dc, const CRect& rect, COLORREF from, COLORREF to) {
 void CMFCVisualManager::OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar*, CRect rectPane, UINT,
                                                   UINT nStyle) {
     const kmfc::LookColors look = present_look();
-    if ((nStyle & SBPS_NOBORDERS) != 0) return;
     if ((nStyle & SBPS_POPOUT) != 0) {
         pDC->FillSolidRect(rectPane, look.hotFill);
         pDC->Draw3dRect(rectPane, look.activeFill, look.activeFill);

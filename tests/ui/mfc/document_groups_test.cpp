@@ -38,10 +38,19 @@ BEGIN_MESSAGE_MAP(GroupsFrame, CMDIFrameWndEx)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
+class GroupsChild : public CMDIChildWndEx {
+    DECLARE_DYNCREATE(GroupsChild)
+public:
+    static inline bool hasTab = true;
+    BOOL CanShowOnMDITabs() override { return hasTab; }
+};
+IMPLEMENT_DYNCREATE(GroupsChild, CMDIChildWndEx)
+
 struct DocumentGroupsTest : DocumentsTest {
     DocumentGroupsTest() {
-        kind = new CMultiDocTemplate(IDR_PLAN, RUNTIME_CLASS(Plan), RUNTIME_CLASS(CMDIChildWndEx),
+        kind = new CMultiDocTemplate(IDR_PLAN, RUNTIME_CLASS(Plan), RUNTIME_CLASS(GroupsChild),
                                      RUNTIME_CLASS(PlanView));
+        GroupsChild::hasTab = true;
         app.AddDocTemplate(kind);
         frame = new GroupsFrame;
         EXPECT_TRUE(frame->LoadFrame(IDR_MAIN));
@@ -163,7 +172,9 @@ TEST_F(DocumentGroupsTest, AllDocumentsBeginInOneGroup) {
         EXPECT_FALSE(child->IsZoomed());
     }
     EXPECT_EQ(group(0).GetActiveTab(), 1);
+    EXPECT_TRUE(group(0).IsTabSwapEnabled());
     EXPECT_EQ(document_at(below.CenterPoint()), second);
+    EXPECT_EQ(::WindowFromPoint(on_screen(strip.CenterPoint())), group(0).m_hWnd);
     CMDIChildWndEx* const third = open();
     EXPECT_EQ(documents(), (Documents{{first, second, third}}));
     EXPECT_EQ(at(third->m_hWnd), below);
@@ -225,11 +236,11 @@ TEST_F(DocumentGroupsTest, ANewGroupStandsBesideOrBelow) {
         EXPECT_EQ(document_at(at(second->m_hWnd).CenterPoint()), second);
         EXPECT_EQ(frame->MDIGetActive(), second);
         EXPECT_EQ(frame->moves, (std::vector<std::pair<HWND, HWND>>{{left, group(1).m_hWnd}}));
-        first->SendMessage(WM_CLOSE);
-        second->SendMessage(WM_CLOSE);
         frame->EnableMDITabbedGroups(FALSE, CMDITabInfo());
         ui_test::pump();
         EXPECT_TRUE(dividers(frame->m_hWnd).empty());
+        first->SendMessage(WM_CLOSE);
+        second->SendMessage(WM_CLOSE);
     }
 }
 
@@ -310,6 +321,51 @@ TEST_F(DocumentGroupsTest, AClosedDocumentIsFollowedByAnotherOfItsGroup) {
     EXPECT_EQ(at(fourth->m_hWnd).right, room().right);
 }
 
+TEST_F(DocumentGroupsTest, WhatItsTabSaysIsInFrontInEachGroup) {
+    enable();
+    CMDIChildWndEx* const first = open();
+    CMDIChildWndEx* const second = open();
+    CMDIChildWndEx* const third = open();
+    CMDIChildWndEx* const fourth = open();
+    frame->MDITabNewGroup();
+    ASSERT_EQ(documents(), (Documents{{first, second, third}, {fourth}}));
+    // The third one was in front last, but its neighbour is what comes.
+    for (CMDIChildWndEx* const child : {second, third, first, fourth}) frame->MDIActivate(child);
+    const CPoint middle = at(first->m_hWnd).CenterPoint();
+    first->SendMessage(WM_CLOSE);
+    ui_test::pump();
+    EXPECT_EQ(group(0).GetActiveWnd(), second);
+    EXPECT_EQ(document_at(middle), second);
+    EXPECT_EQ(frame->MDIGetActive(), fourth);
+    CMDIChildWndEx* const fifth = open();
+    ASSERT_EQ(documents(), (Documents{{second, third}, {fourth, fifth}}));
+    frame->MDIActivate(second);
+    frame->MDITabMoveToNextGroup();
+    EXPECT_EQ(document_at(middle), third);
+    for (CMDIChildWndEx* const child : {fifth, second, fourth}) frame->MDIActivate(child);
+    frame->MDITabMoveToNextGroup(FALSE);
+    ASSERT_EQ(documents(), (Documents{{third, fourth}, {fifth, second}}));
+    EXPECT_EQ(document_at(at(fifth->m_hWnd).CenterPoint()), group(1).GetActiveWnd());
+    EXPECT_EQ(group(1).GetActiveWnd(), fifth);
+    EXPECT_EQ(document_at(middle), fourth);
+}
+
+TEST_F(DocumentGroupsTest, AWindowWithoutATabStandsByItself) {
+    enable();
+    CMDIChildWndEx* const first = open();
+    CMDIChildWndEx* const second = open();
+    frame->MDITabNewGroup();
+    frame->MDIActivate(first);
+    GroupsChild::hasTab = false;
+    CMDIChildWndEx* const free = open();
+    EXPECT_EQ(documents(), (Documents{{first}, {second}}));
+    EXPECT_NE(free->GetStyle() & WS_CAPTION, 0u);
+    EXPECT_EQ(frame->MDIGetActive(), free);
+    frame->MDITabMoveToNextGroup();
+    EXPECT_EQ(documents(), (Documents{{second, first}}));
+    EXPECT_EQ(frame->MDIGetActive(), first);
+}
+
 TEST_F(DocumentGroupsTest, TheLastActiveOneFollowsIfWanted) {
     frame->EnableMDITabsLastActiveActivation();
     enable();
@@ -381,11 +437,17 @@ TEST_F(DocumentGroupsTest, ATabDraggedToAnEdgeBeginsAGroupThere) {
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_LT(at(first->m_hWnd).right, at(second->m_hWnd).left);
     // Its own group has no other document, so there is nothing to part.
+    frame->moves.clear();
     drag(group(0), 0, CPoint(at(first->m_hWnd).left + 5, all.CenterPoint().y));
     drop(group(0), CPoint(at(first->m_hWnd).left + 5, all.CenterPoint().y));
     EXPECT_EQ(documents(), (Documents{{first}, {second}}));
-    // Groups stand, so none comes below.
+    EXPECT_TRUE(frame->moves.empty());
+    // Groups stand, so none comes below, and in the middle of its own nothing changes.
     open();
+    drag(group(0), 0, at(first->m_hWnd).CenterPoint());
+    drop(group(0), at(first->m_hWnd).CenterPoint());
+    EXPECT_TRUE(frame->moves.empty());
+    EXPECT_EQ(group(0).GetTabWnd(0), first);
     drag(group(0), 0, CPoint(at(first->m_hWnd).CenterPoint().x, all.bottom - 5));
     drop(group(0), CPoint(at(first->m_hWnd).CenterPoint().x, all.bottom - 5));
     EXPECT_EQ(groups().size(), 2u);
@@ -487,13 +549,14 @@ TEST_F(DocumentGroupsTest, ParametersApplyToAllGroupsAlsoLater) {
     CMDIChildWndEx* const third = open();
     frame->MDITabNewGroup();
     frame->MDIActivate(second);
+    frame->MDIActivate(third);
     const std::vector<CMFCTabCtrl*> before = groups();
     EXPECT_FALSE(before[0]->button_rect(CMFCTabCtrl::Button::close).IsRectEmpty());
     enable(params);
     ui_test::pump();
     EXPECT_EQ(documents(), (Documents{{first, second}, {third}}));
     EXPECT_EQ(group(0).GetActiveWnd(), second);
-    EXPECT_EQ(frame->MDIGetActive(), second);
+    EXPECT_EQ(frame->MDIGetActive(), third);
     for (CMFCTabCtrl* const each : groups()) {
         EXPECT_EQ(each->GetLocation(), CMFCTabCtrl::LOCATION_BOTTOM);
         EXPECT_TRUE(each->IsTabDocumentsMenu());

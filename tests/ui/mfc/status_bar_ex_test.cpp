@@ -257,6 +257,7 @@ TEST_F(StatusBarEx, TheFirstPaneIsTheWindowsTextAndShowsTheFramesMessages) {
     EXPECT_STREQ(cut, L"a m");
     EXPECT_EQ(bar.SendMessage(WM_GETTEXTLENGTH), 9);
     EXPECT_EQ(bar.SendMessage(WM_GETTEXT, 0, 0), 0);
+    EXPECT_EQ(bar.SendMessage(WM_GETTEXT, 0, reinterpret_cast<LPARAM>(cut)), 0);
     CMFCStatusBar bare;
     bare.Create(frame, WS_CHILD | CBRS_BOTTOM, 900);
     bare.SetWindowText(L"own");
@@ -305,6 +306,13 @@ TEST_F(StatusBarEx, ATextShowsAtOnceOrWhenTheBarIsBroughtUpToDate) {
     bar.drawn.clear();
     bar.SetPaneText(1, L"MMMM");
     EXPECT_TRUE(bar.drawn.empty());
+    // A pane that nobody answers for too.
+    bar.SetPaneText(0, L"");
+    const ui_test::Picture none = shown(0);
+    bar.SetPaneText(0, L"MMMM", FALSE);
+    update();
+    ui_test::pump();
+    EXPECT_FALSE(shown(0) == none);
 }
 
 TEST_F(StatusBarEx, ColoursAreThePanesOwn) {
@@ -378,8 +386,33 @@ TEST_F(StatusBarEx, APictureStandsBeforeTheText) {
     HICON const green = icon(RGB(0, 230, 0), 6);
     bar.SetPaneIcon(1, green);
     ::DestroyIcon(green);
+    const ui_test::Picture small = shown(1);
+    EXPECT_EQ(small.at(18, small.height() / 2), RGB(0, 230, 0)) << "in the middle of its height";
+    EXPECT_NE(small.at(18, 1), RGB(0, 230, 0));
+    EXPECT_NE(small.at(18, small.height() - 2), RGB(0, 230, 0));
     EXPECT_EQ(shown(1).count(RGB(0, 230, 0)), 144);
     afxGlobalData.m_nDpi = dpi;
+}
+
+TEST_F(StatusBarEx, APictureOfADisabledPaneIsGrey) {
+    HICON const red = icon(RGB(230, 0, 0), 8);
+    bar.SetPaneIcon(1, red);
+    ::DestroyIcon(red);
+    EXPECT_EQ(shown(1).count(RGB(230, 0, 0)), 64);
+    bar.SetPaneStyle(1, SBPS_DISABLED);
+    ui_test::pump();
+    EXPECT_EQ(shown(1).count(RGB(230, 0, 0)), 0);
+}
+
+TEST_F(StatusBarEx, AnIconWithoutColoursIsAsHighAsItIs) {
+    std::vector<BYTE> masks(16, 0), colours(16, 0);
+    for (size_t row = 0; row < 8; ++row) colours[row * 2] = 0xFF;
+    HICON const plain = ::CreateIcon(nullptr, 8, 8, 1, 1, masks.data(), colours.data());
+    bar.SetPaneBackgroundColor(1, RGB(10, 20, 30));
+    bar.SetPaneText(1, L"");
+    bar.SetPaneIcon(1, plain);
+    ::DestroyIcon(plain);
+    EXPECT_EQ(shown(1).count(RGB(255, 255, 255)), 64);
 }
 
 TEST_F(StatusBarEx, PicturesComeInTurn) {
@@ -397,6 +430,21 @@ TEST_F(StatusBarEx, PicturesComeInTurn) {
     EXPECT_TRUE(red());
     EXPECT_TRUE(ui_test::pump_until(green));
     EXPECT_TRUE(ui_test::pump_until(red));
+    EXPECT_TRUE(ui_test::pump_until(green));
+    ::KillTimer(bar.m_hWnd, 2);
+    CImageList blue;
+    blue.Create(8, 8, ILC_COLOR32 | ILC_MASK, 2, 1);
+    for (const COLORREF color : {RGB(0, 0, 230), RGB(0, 230, 230)}) {
+        CBitmap bitmap;
+        fill(bitmap, color, 8);
+        blue.Add(&bitmap, RGB(1, 2, 3));
+    }
+    bar.SetPaneAnimation(1, blue.m_hImageList, 60000);
+    EXPECT_EQ(shown(1).count(RGB(0, 0, 230)), 64) << "another begins with its first picture";
+    const UINT again[] = {ID_SEPARATOR, kPane};
+    bar.SetIndicators(again, 2);
+    EXPECT_FALSE(::KillTimer(bar.m_hWnd, 2)) << "other panes have none";
+    ui_test::pump();
     bar.SetPaneAnimation(1, nullptr);
     EXPECT_EQ(shown(1).count(RGB(230, 0, 0)) + shown(1).count(RGB(0, 230, 0)), 0);
     // A picture of its own ends it.
@@ -432,6 +480,9 @@ TEST_F(StatusBarEx, ProgressFillsItsPartOfThePane) {
     EXPECT_EQ(shown(1).count(RGB(0, 200, 0)), 98 * high);
     bar.InvalidatePaneContent(1);
     EXPECT_EQ(shown(1).count(RGB(0, 200, 0)), 0);
+    bar.SetPaneProgress(1, 25);
+    bar.EnablePaneProgressBar(1, 60);
+    EXPECT_EQ(bar.GetPaneProgress(1), 0) << "another begins anew";
     bar.EnablePaneProgressBar(1, -1);
     EXPECT_EQ(bar.GetPaneProgress(1), -1);
     bar.SetPaneText(1, L"");
@@ -453,6 +504,9 @@ TEST_F(StatusBarEx, ProgressHasTwoColoursAndATextIfWanted) {
     EXPECT_GT(hundred, 10);
     bar.SetPaneProgress(1, 1);
     EXPECT_LT(shown(1).count(RGB(0, 255, 0)), hundred);
+    EXPECT_GT(shown(1).count(RGB(0, 255, 0)), 2) << "on what isn't done too";
+    bar.EnablePaneProgressBar(1, 100, FALSE, RGB(255, 0, 0), static_cast<COLORREF>(-1), RGB(0, 255, 0));
+    EXPECT_EQ(shown(1).count(RGB(0, 255, 0)), 0);
     // Without a colour of its own the text is legible on both parts.
     bar.EnablePaneProgressBar(1, 100, TRUE, RGB(0, 0, 90));
     bar.SetPaneProgress(1, 100);
@@ -517,6 +571,11 @@ TEST_F(StatusBarEx, ItsCornerSizesTheFrame) {
     EXPECT_EQ(pane(2).right, client().right - 2);
     frame->ShowWindow(SW_RESTORE);
     EXPECT_EQ(pane(2).right, client().right - 16);
+    frame->ModifyStyle(WS_THICKFRAME, 0);
+    bar.RecalcLayout();
+    EXPECT_EQ(pane(2).right, client().right - 2) << "a frame of a fixed size isn't sized";
+    frame->ModifyStyle(0, WS_THICKFRAME);
+    bar.RecalcLayout();
     // One that isn't at the bottom has none.
     CMFCStatusBar second;
     second.Create(frame, WS_CHILD | WS_VISIBLE | CBRS_BOTTOM, 900);
@@ -678,6 +737,9 @@ TEST_F(StatusBarEx, ADarkLookHasLightTexts) {
     bar.SetPaneIcon(1, black);
     ::DestroyIcon(black);
     EXPECT_EQ(shown(1).count(RGB(0, 0, 0)), 0) << "greys are turned round";
+    EXPECT_GT(shown(1).count(RGB(255, 255, 255)), 100);
+    bar.SetPaneBackgroundColor(1, RGB(200, 210, 220));
+    EXPECT_GT(shown(1).count(RGB(0, 0, 0)), 100) << "but not on a colour of the pane's own";
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ public:
 
     // Status bars.
 
-    /// A line before a pane, around one that is raised (SBPS_POPOUT), which is filled too; nothing for
+    /// A line before a pane, around one that is raised (SBPS_POPOUT), which is filled too. It isn't called for
     /// SBPS_NOBORDERS.
     virtual void OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar* pBar, CRect rectPane, UINT uiID,
                                            UINT nStyle);
