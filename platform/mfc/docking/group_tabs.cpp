@@ -8,7 +8,6 @@ BEGIN_MESSAGE_MAP(GroupTabs, CMFCTabCtrl)
     ON_WM_DESTROY()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
-    ON_WM_CANCELMODE()
     ON_WM_CAPTURECHANGED()
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
@@ -40,11 +39,6 @@ void GroupTabs::OnLButtonUp(UINT nFlags, CPoint point) {
     ClientToScreen(&point);
     m_groups.drag_to(point);
     m_groups.end_drag(true);
-}
-
-void GroupTabs::OnCancelMode() {
-    m_groups.end_drag(false);
-    CMFCTabCtrl::OnCancelMode();
 }
 
 void GroupTabs::OnCaptureChanged(CWnd* pWnd) {

@@ -27,7 +27,6 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnCancelMode();
     afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
     DECLARE_MESSAGE_MAP()

@@ -109,7 +109,8 @@ void CMFCStatusBar::RecalcLayout() {
     std::vector<kmfc::StatusPane> wanted;
     for (const CMFCStatusBarPaneInfo& each : m_panes) {
         int width = each.cxWidth + 2 * beside;
-        if (!each.pictures.empty()) width += kmfc::shown_size(*each.pictures.front()).cx + gap;
+        if (!each.pictures.empty())
+            width += kmfc::shown_size(*each.pictures.front(), client.Height()).cx + gap;
         wanted.push_back({width, (each.nStyle & SBPS_STRETCH) != 0});
     }
     const std::vector<int> edges =

@@ -35,7 +35,7 @@ void CMFCStatusBar::OnDrawPane(CDC* pDC, CMFCStatusBarPaneInfo* pPane) {
         pDC->FillSolidRect(inside, pPane->clrBackground);
     }
     CRect rest(pPane->rect);
-    rest.DeflateRect(afxGlobalData.scaled(kmfc::kStatusMargin), afxGlobalData.scaled(2));
+    rest.DeflateRect(afxGlobalData.scaled(kmfc::kStatusMargin), afxGlobalData.scaled(kmfc::kStatusInside));
     draw_pictures(*pDC, *pPane, rest);
     if (pPane->nProgressTotal > 0) {
         look.OnDrawStatusBarProgress(pDC, this, rest, static_cast<int>(pPane->nProgressTotal),
@@ -51,7 +51,7 @@ void CMFCStatusBar::OnDrawPane(CDC* pDC, CMFCStatusBarPaneInfo* pPane) {
 void CMFCStatusBar::draw_pictures(CDC& dc, const CMFCStatusBarPaneInfo& shown, CRect& rest) const {
     if (shown.pictures.empty()) return;
     const kmfc::PicturePixels& source = *shown.pictures[shown.picture];
-    const CSize size = kmfc::shown_size(source);
+    const CSize size = kmfc::shown_size(source, shown.rect.Height());
     kmfc::PicturePixels picture = kmfc::resized(source, size);
     if (kmfc::is_dark(kmfc::present_look().bar) && shown.clrBackground == CMFCStatusBarPaneInfo::kUsual)
         picture = kmfc::look_on_dark(std::move(picture));

@@ -13,9 +13,15 @@ constexpr int kStatusEnd = 2;           ///< before the first pane and behind th
 constexpr int kStatusPictureGap = 4;    ///< between a picture and the text
 constexpr int kStatusGrip = 14;         ///< the corner that sizes the frame
 
-/// How large a picture is drawn, pixels of the screen.
-inline CSize shown_size(const PicturePixels& picture) {
-    return CSize(afxGlobalData.scaled(picture.size.cx), afxGlobalData.scaled(picture.size.cy));
+constexpr int kStatusInside = 2;  ///< above and below pictures and progress bars
+
+/// How large a picture is drawn in a pane of that height: smaller where it is higher than what is inside.
+/// Pixels of the screen.
+inline CSize shown_size(const PicturePixels& picture, int paneHeight) {
+    const CSize size(afxGlobalData.scaled(picture.size.cx), afxGlobalData.scaled(picture.size.cy));
+    const int room = paneHeight - 2 * afxGlobalData.scaled(kStatusInside);
+    if (size.cy <= room || room < 1) return size;
+    return CSize(std::max(1, ::MulDiv(size.cx, room, size.cy)), room);
 }
 
 }  // namespace kmfc

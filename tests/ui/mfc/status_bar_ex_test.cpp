@@ -368,7 +368,7 @@ TEST_F(StatusBarEx, APictureStandsBeforeTheText) {
     bar.SetPaneIcon(1, red);
     ::DestroyIcon(red);
     EXPECT_EQ(pane(1).Width(), before + 16 + 4);
-    EXPECT_EQ(shown(1).count(RGB(230, 0, 0)), std::min<int>(16, shown(1).height()) * 16);
+    EXPECT_EQ(shown(1).count(RGB(230, 0, 0)), 16 * 16);
     EXPECT_EQ(shown(1).at(3, shown(1).height() / 2), RGB(230, 0, 0));
     CBitmap bitmap;
     fill(bitmap, RGB(0, 0, 240), 10);
@@ -402,6 +402,16 @@ TEST_F(StatusBarEx, APictureOfADisabledPaneIsGrey) {
     bar.SetPaneStyle(1, SBPS_DISABLED);
     ui_test::pump();
     EXPECT_EQ(shown(1).count(RGB(230, 0, 0)), 0);
+}
+
+TEST_F(StatusBarEx, ALargePictureIsMadeSmallerAndNotCutOff) {
+    const int before = pane(1).Width(), inside = at(bar).Height() - 4;
+    ASSERT_LT(inside, 32);
+    HICON const red = icon(RGB(230, 0, 0), 32);
+    bar.SetPaneIcon(1, red);
+    ::DestroyIcon(red);
+    EXPECT_EQ(pane(1).Width(), before + inside + 4);
+    EXPECT_EQ(shown(1).count(RGB(230, 0, 0)), inside * inside);
 }
 
 TEST_F(StatusBarEx, AnIconWithoutColoursIsAsHighAsItIs) {

@@ -92,8 +92,8 @@ public:
     void SetPaneBackgroundColor(int nIndex, COLORREF clrBackground = static_cast<COLORREF>(-1),
                                 BOOL bUpdate = TRUE);
     /// A picture before the text, and the end of pictures shown in turn; null for none. The icon or bitmap
-    /// stays the caller's and isn't needed any longer. It is scaled to the screen's resolution, and greys are
-    /// turned round on a dark bar.
+    /// stays the caller's and isn't needed any longer. It is scaled to the screen's resolution, made smaller
+    /// where it is higher than the bar, and greys are turned round on a dark bar.
     void SetPaneIcon(int nIndex, HICON hIcon, BOOL bUpdate = TRUE);
     /// By the bitmap's alpha channel, or without pixels of the transparent colour.
     void SetPaneIcon(int nIndex, HBITMAP hBmp, COLORREF clrTransparent = RGB(255, 0, 255),

@@ -76,8 +76,8 @@ public:
 
     // Status bars.
 
-    /// A line before a pane, around one that is raised (SBPS_POPOUT), which is filled too. It isn't called for
-    /// SBPS_NOBORDERS.
+    /// A line before a pane, around one that is raised (SBPS_POPOUT), which is filled too. It isn't called
+    /// for SBPS_NOBORDERS.
     virtual void OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar* pBar, CRect rectPane, UINT uiID,
                                            UINT nStyle);
     /// -1 for a colour is the usual one.
