@@ -130,7 +130,7 @@ int CMFCAutoHideBar::GetVisibleCount() const {
 void CMFCAutoHideBar::UpdateVisibleState() {
     RecalcLayout();
     const bool shows = GetVisibleCount() > 0;
-    if (shows != (IsPaneVisible() != FALSE)) ShowPane(shows, FALSE, FALSE);
+    if (shows != (IsVisible() != FALSE)) ShowPane(shows, FALSE, FALSE);
     if (m_hWnd != nullptr) Invalidate();
 }
 
@@ -189,6 +189,7 @@ CRect CMFCAutoHideBar::slid_out_rect(const CDockablePane& pane) const {
 BOOL CMFCAutoHideBar::ShowAutoHideWindow(CDockablePane* pAutoHideWnd, BOOL bShow, BOOL bDelay) {
     CDockablePane* const pane = sliding_pane(pAutoHideWnd);
     if (!pane->IsAutoHideMode() || pane->m_pAutoHideBar != this) return FALSE;
+    if (GetDockingManager()->slides_after_preview(*pane, bShow != FALSE)) return TRUE;
     if (!bShow) {
         if (m_slidOut == pane) slide_in();
         return TRUE;

@@ -1,5 +1,6 @@
 #include "bar_accessible.h"
 
+#include <kmfc/status_bar_ex.h>
 #include <kmfc/tool_bar_ex.h>
 
 namespace kmfc::docking {
@@ -8,7 +9,14 @@ UINT press_part_message = ::RegisterWindowMessageW(L"kmfc: a part of a bar is to
 
 namespace {
 
+/// The part with the keyboard's mark; panes of status bars never have it.
+LONG marked_part(const CMFCToolBar& bar) { return bar.GetHighlightedButton() + 1; }
+LONG marked_part(const CMFCStatusBar&) { return CHILDID_SELF; }
+bool press_part(CMFCToolBar& bar, LONG part) { return bar.press_part(static_cast<int>(part)); }
+bool press_part(CMFCStatusBar&, LONG) { return false; }
+
 /// Asks the bar for its parts, and the system's object of the window for all else.
+template <class Bar>
 class BarAccessible final : public IAccessible {
 public:
     BarAccessible(HWND window, IAccessible* standard) : m_window(window), m_standard(standard) {}
@@ -54,7 +62,7 @@ public:
         return m_standard->get_accParent(parent);
     }
     HRESULT STDMETHODCALLTYPE get_accChildCount(LONG* count) override {
-        const CMFCToolBar* const shown = bar();
+        const Bar* const shown = bar();
         if (shown == nullptr) return CO_E_OBJNOTCONNECTED;
         *count = shown->parts();
         return S_OK;
@@ -75,7 +83,9 @@ public:
     HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR* action) override {
         return text(child, &AccessiblePart::action, action);
     }
-    HRESULT STDMETHODCALLTYPE get_accValue(VARIANT, BSTR* value) override { return none(value); }
+    HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR* value) override {
+        return text(child, &AccessiblePart::value, value);
+    }
     HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT, BSTR* words) override { return none(words); }
     HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT, BSTR* help) override { return none(help); }
     HRESULT STDMETHODCALLTYPE get_accHelpTopic(BSTR* file, VARIANT, LONG*) override { return none(file); }
@@ -95,10 +105,10 @@ public:
         return number(part.states, state);
     }
     HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT* focus) override {
-        const CMFCToolBar* const shown = bar();
+        const Bar* const shown = bar();
         if (shown == nullptr) return empty(focus, CO_E_OBJNOTCONNECTED);
         if (::GetFocus() != m_window) return empty(focus, S_FALSE);
-        return number(shown->GetHighlightedButton() + 1, focus);
+        return number(marked_part(*shown), focus);
     }
     HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT* selection) override {
         return empty(selection, S_FALSE);
@@ -123,7 +133,7 @@ public:
         return m_standard->accNavigate(direction, from, to);
     }
     HRESULT STDMETHODCALLTYPE accHitTest(LONG left, LONG top, VARIANT* child) override {
-        const CMFCToolBar* const shown = bar();
+        const Bar* const shown = bar();
         if (shown == nullptr) return empty(child, CO_E_OBJNOTCONNECTED);
         CPoint point(left, top);
         ::ScreenToClient(m_window, &point);
@@ -138,7 +148,7 @@ public:
         AccessiblePart part;
         const HRESULT found = ask(child, part);
         if (found != S_OK) return found;
-        return bar()->press_part(static_cast<int>(child.lVal)) ? S_OK : DISP_E_MEMBERNOTFOUND;
+        return press_part(*bar(), child.lVal) ? S_OK : DISP_E_MEMBERNOTFOUND;
     }
     HRESULT STDMETHODCALLTYPE put_accName(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
     HRESULT STDMETHODCALLTYPE put_accValue(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
@@ -146,9 +156,9 @@ public:
 private:
     ~BarAccessible() { m_standard->Release(); }
 
-    CMFCToolBar* bar() const { return DYNAMIC_DOWNCAST(CMFCToolBar, CWnd::FromHandlePermanent(m_window)); }
+    Bar* bar() const { return dynamic_cast<Bar*>(CWnd::FromHandlePermanent(m_window)); }
     HRESULT ask(const VARIANT& child, AccessiblePart& part) const {
-        const CMFCToolBar* const shown = bar();
+        const Bar* const shown = bar();
         if (shown == nullptr) return CO_E_OBJNOTCONNECTED;
         if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > shown->parts()) return E_INVALIDARG;
         shown->describe(static_cast<int>(child.lVal), part);
@@ -182,18 +192,26 @@ private:
     IAccessible* m_standard;
 };
 
-}  // namespace
-
-LRESULT answer_get_object(CMFCToolBar& bar, WPARAM wParam, LPARAM lParam) {
+template <class Bar>
+LRESULT answer_for(Bar& bar, WPARAM wParam, LPARAM lParam) {
     if (static_cast<LONG>(lParam) != static_cast<LONG>(OBJID_CLIENT)) return 0;
     IAccessible* standard = nullptr;
     if (FAILED(::CreateStdAccessibleObject(bar.m_hWnd, OBJID_CLIENT, __uuidof(IAccessible),
                                            reinterpret_cast<void**>(&standard))))
         return 0;
-    auto* const answer = new BarAccessible(bar.m_hWnd, standard);
+    auto* const answer = new BarAccessible<Bar>(bar.m_hWnd, standard);
     const LRESULT result = ::LresultFromObject(__uuidof(IAccessible), wParam, answer);
     answer->Release();
     return result;
+}
+
+}  // namespace
+
+LRESULT answer_get_object(CMFCToolBar& bar, WPARAM wParam, LPARAM lParam) {
+    return answer_for(bar, wParam, lParam);
+}
+LRESULT answer_get_object(CMFCStatusBar& bar, WPARAM wParam, LPARAM lParam) {
+    return answer_for(bar, wParam, lParam);
 }
 
 void tell_part_marked(const CMFCToolBar& bar, int part) {

@@ -1,17 +1,19 @@
-// What assistive programs learn of toolbars and menu bars, by CMFCToolBar::describe.
+// What assistive programs learn of toolbars, menu bars and status bars, by their functions `describe`.
 #pragma once
 
 #include <afxwin.h>
 #include <oleacc.h>
 
+class CMFCStatusBar;
 class CMFCToolBar;
 
 namespace kmfc::docking {
 
-/// A bar, or one of its buttons.
+/// A bar, or one of its buttons or panes.
 struct AccessiblePart {
     CString name;
     CString keys;    ///< that press it; empty for none
+    CString value;   ///< how far a progress bar has come; empty for none
     CString action;  ///< what pressing it is called; empty for what can't be pressed
     LONG role = ROLE_SYSTEM_CLIENT;
     LONG states = 0;          ///< STATE_SYSTEM_ bits; of the bar those besides its window's
@@ -21,6 +23,7 @@ struct AccessiblePart {
 /// The bar's answer to WM_GETOBJECT for its client area; 0 for other objects, which are the system's. The
 /// object may be kept for longer than the bar; it then says that it is gone.
 LRESULT answer_get_object(CMFCToolBar& bar, WPARAM wParam, LPARAM lParam);
+LRESULT answer_get_object(CMFCStatusBar& bar, WPARAM wParam, LPARAM lParam);
 
 /// Tells assistive programs that a part of the bar has the keyboard's mark.
 void tell_part_marked(const CMFCToolBar& bar, int part);

@@ -107,13 +107,15 @@ CSize CDockSite::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
 /// What stands outside of the classic bars takes its room as they do.
 LRESULT CDockSite::OnSizeParent(WPARAM wParam, LPARAM lParam) {
     if (!m_bars->is_outermost(*this)) return CBasePane::OnSizeParent(wParam, lParam);
+    if (GetDockingManager()->IsPrintPreviewValid()) return 0;
     auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
     CRect strip(layout.rect);
     strip.bottom = std::min<LONG>(strip.top + CalcFixedLayout(TRUE, TRUE).cy, strip.bottom);
     layout.rect.top = strip.bottom;
     if (layout.hDWP != nullptr)
-        layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, nullptr, strip.left, strip.top, strip.Width(),
-                                       strip.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+        layout.hDWP = ::DeferWindowPos(
+            layout.hDWP, m_hWnd, nullptr, strip.left, strip.top, strip.Width(), strip.Height(),
+            SWP_NOZORDER | SWP_NOACTIVATE | (IsPaneVisible() ? 0u : SWP_SHOWWINDOW));
     return 0;
 }
 

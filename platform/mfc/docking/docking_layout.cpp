@@ -23,7 +23,10 @@ CRect CDockingManager::plan(const CRect& free) {
     CRect rest(free);
     take_fixed(rest);
     m_state->outer = rest;
-    m_state->now = m_state->layout.arrange(rest, rules_for_panes());
+    if (IsPrintPreviewValid())
+        m_state->now = FrameLayout().arrange(rest, rules_for_panes());
+    else
+        m_state->now = m_state->layout.arrange(rest, rules_for_panes());
     place_dividers(m_state->dividers, m_state->now, m_pParentWnd, true, nullptr);
     return m_state->now.center;
 }
@@ -52,10 +55,10 @@ void CDockingManager::take_fixed(CRect& rest) {
     for (POSITION at = m_lstControlBars.GetHeadPosition(); at != nullptr;) {
         auto* pane = static_cast<CBasePane*>(m_lstControlBars.GetNext(at));
         if (pane->IsKindOf(RUNTIME_CLASS(CDockablePane)) || !pane->IsVisible()) continue;
-        if (::GetParent(pane->m_hWnd) != m_pParentWnd->m_hWnd) continue;
+        if (::GetParent(pane->m_hWnd) != m_pParentWnd->m_hWnd || hides_for_preview(*pane)) continue;
         m_state->fixed[pane] = take_strip(*pane, rest);
     }
-    if (m_state->bars == nullptr) return;
+    if (m_state->bars == nullptr || IsPrintPreviewValid()) return;
     for (CDockSite* site : m_state->bars->sites())
         if (!m_state->bars->is_outermost(*site)) m_state->fixed[site] = take_strip(*site, rest);
 }
@@ -96,6 +99,7 @@ void CDockingManager::layout_frame(CRect& border, const std::function<void()>& l
     m_pParentWnd->RepositionBars(0, 0xFFFF, 0, CWnd::reposQuery, &free);
     const CRect center = plan(free);
     hide_unplanned();
+    hide_for_preview();
     border.SetRect(center.left - free.left, center.top - free.top, free.right - center.right,
                    free.bottom - center.bottom);
     const CSize rowsBefore = m_state->bars != nullptr ? m_state->bars->outermost_size() : CSize(0, 0);

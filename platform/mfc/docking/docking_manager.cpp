@@ -125,6 +125,7 @@ void CDockingManager::forget(CBasePane* pane) {
     m_state->layout.remove(key_of(pane));
     if (m_state->bars != nullptr) m_state->bars->remove(pane);
     if (m_state->drag != nullptr && m_state->drag->torn == pane) m_state->drag->torn = nullptr;
+    if (m_state->preview && m_state->preview->slidOut == pane) m_state->preview->slidOut = nullptr;
     if (CPaneFrameWnd* frame = pane->GetParentMiniFrame()) frame->RemovePane(pane);
     if (hadRoom && m_pParentWnd != nullptr) layout_later();
 }
@@ -195,6 +196,7 @@ BOOL CDockingManager::RemoveMiniFrame(CPaneFrameWnd* pWnd) {
     if (at == nullptr) return FALSE;
     m_lstMiniFrames.RemoveAt(at);
     if (m_state->drag != nullptr && m_state->drag->frame == pWnd) m_state->drag.reset();
+    if (m_state->preview) std::erase(m_state->preview->frames, pWnd);
     return TRUE;
 }
 

@@ -48,7 +48,8 @@ void DocumentTabs::place() {
     CRect room;
     ::GetWindowRect(m_frame.m_hWndMDIClient, &room);
     m_frame.ScreenToClient(&room);
-    const int height = GetTabsHeight();
+    // A print preview stands in the place of the documents.
+    const int height = m_frame.IsPrintPreview() ? 0 : GetTabsHeight();
     const int top = GetLocation() == LOCATION_TOP ? room.top - height : room.bottom;
     SetWindowPos(nullptr, room.left, top, room.Width(), height,
                  SWP_NOZORDER | SWP_NOACTIVATE | (height > 0 ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));

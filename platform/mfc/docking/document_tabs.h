@@ -3,10 +3,12 @@
 
 #include <kmfc/mdi_frame_ex.h>
 
+#include "document_holder.h"
+
 namespace kmfc::docking {
 
 /// One for each frame. Without a window of its own, which EnableMDITabs makes, it does nothing.
-class DocumentTabs : public CMFCTabCtrl {
+class DocumentTabs : public CMFCTabCtrl, public DocumentHolder {
 public:
     explicit DocumentTabs(CMDIFrameWndEx& frame);
 
@@ -20,13 +22,12 @@ public:
     /// Puts the strip beside the documents, after they were laid out.
     void place();
 
-    // What happens to a document window.
-    void add(CMDIChildWndEx& child);
-    void remove(CMDIChildWndEx& child);
-    void rename(CMDIChildWndEx& child);
-    void activate(CMDIChildWndEx& child);
-    /// It is about to be destroyed: its neighbour becomes the active document.
-    void make_way(CMDIChildWndEx& child);
+    void add(CMDIChildWndEx& child) override;
+    void remove(CMDIChildWndEx& child) override;
+    void rename(CMDIChildWndEx& child) override;
+    void activate(CMDIChildWndEx& child) override;
+    void make_way(CMDIChildWndEx& child) override;
+    bool maximizes() const override { return true; }
     /// The user chose the tab.
     void chosen(int tab);
 

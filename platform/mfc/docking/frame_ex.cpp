@@ -17,6 +17,10 @@ BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
     ON_WM_SYSCOMMAND()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWndEx::OnIdleUpdateCmdUI)
     ON_REGISTERED_MESSAGE(kmfc::frame_menu_message, &CFrameWndEx::OnFrameMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWndEx::OnUpdatePaneMenu)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWndEx::OnPaneCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWndEx::OnUpdatePaneMenu)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWndEx::OnPaneCheck)
 END_MESSAGE_MAP()
 
 CFrameWndEx::CFrameWndEx() = default;

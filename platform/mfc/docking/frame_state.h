@@ -3,6 +3,8 @@
 
 #include <map>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include <kmfc/dockable_pane.h>
 #include <kmfc/pane_divider.h>
@@ -43,6 +45,13 @@ struct Drag {
     ~Drag();
 };
 
+/// What a print preview has taken away that a layout doesn't bring back.
+struct Preview {
+    /// Floating frames that are to be seen when it is over, from the back to the front.
+    std::vector<CPaneFrameWnd*> frames;
+    CDockablePane* slidOut = nullptr;
+};
+
 struct FrameState {
     FrameState();
     ~FrameState();
@@ -53,6 +62,7 @@ struct FrameState {
     std::map<const CBasePane*, CRect> fixed;  ///< where fixed panes stand
     Dividers dividers;
     std::unique_ptr<Drag> drag;
+    std::optional<Preview> preview;    ///< while one stands in the frame
     std::unique_ptr<DockedBars> bars;  ///< from the first question for them on
     CMFCMenuBar* menuBar = nullptr;    ///< what shows the frame's menu, or null
     HWND active = nullptr;             ///< the pane that had the focus when captions were drawn last

@@ -3,9 +3,11 @@
 
 #include <kmfc/docking_manager.h>
 #include <kmfc/frame.h>
+#include <kmfc/mdi_frame_ex.h>
 
 #include "../res/kmfc_ids.h"
 #include "bar_accessible.h"
+#include "document_button.h"
 #include "menu_bar_button.h"
 
 using namespace kmfc::docking;
@@ -103,6 +105,15 @@ BOOL CMFCMenuBar::RestoreOriginalstate() {
 
 void CMFCMenuBar::fill() {
     RemoveAllButtons();
+    const auto add = [this](UINT command, UINT text) {
+        CString name;
+        name.LoadString(text);
+        InsertButton(new DocumentButton(m_maximized, command, name));
+        const UINT state = ::GetMenuState(::GetSystemMenu(m_maximized, FALSE), command, MF_BYCOMMAND);
+        if (command == SC_CLOSE && (state & (MF_GRAYED | MF_DISABLED)) != 0)
+            SetButtonStyle(GetCount() - 1, TBBS_DISABLED);
+    };
+    if (m_maximized != nullptr) add(0, IDS_DOCUMENT_MENU);
     const int count = ::GetMenuItemCount(m_hMenu);
     for (UINT i = 0; static_cast<int>(i) < count; ++i) {
         const CString text = text_of_item(m_hMenu, i);
@@ -111,11 +122,20 @@ void CMFCMenuBar::fill() {
         const UINT command = opens ? 0 : ::GetMenuItemID(m_hMenu, static_cast<int>(i));
         InsertButton(new MenuBarButton(i, command, text));
     }
+    if (m_maximized == nullptr) return;
+    if ((::GetWindowLongPtrW(m_maximized, GWL_STYLE) & WS_MINIMIZEBOX) != 0)
+        add(SC_MINIMIZE, IDS_DOCUMENT_MINIMIZE);
+    add(SC_RESTORE, IDS_DOCUMENT_RESTORE);
+    add(SC_CLOSE, IDS_DOCUMENT_CLOSE);
 }
 
 /// Whether the program has changed the menu's items since they were read.
 bool CMFCMenuBar::is_outdated() const {
     int at = 0;
+    const auto skip_document = [&] {
+        while (as_document_button(GetButton(at)) != nullptr) ++at;
+    };
+    skip_document();
     const int count = ::GetMenuItemCount(m_hMenu);
     for (UINT i = 0; static_cast<int>(i) < count; ++i) {
         const CString text = text_of_item(m_hMenu, i);
@@ -123,7 +143,32 @@ bool CMFCMenuBar::is_outdated() const {
         const CMFCToolBarButton* const button = GetButton(at++);
         if (button == nullptr || item_of(button).position() != i || button->m_strText != text) return true;
     }
+    skip_document();
     return at != GetCount();
+}
+
+// A maximised document.
+
+void CMFCMenuBar::SetMaximizeMode(BOOL bMax, CWnd* pWnd, BOOL bRecalcLayout) {
+    const HWND document = bMax ? pWnd->GetSafeHwnd() : nullptr;
+    if (document == m_maximized) return;
+    m_maximized = document;
+    fill();
+    if (bRecalcLayout) AdjustDockingLayout();
+}
+
+void CMFCMenuBar::follow_documents() {
+    auto* const frame = DYNAMIC_DOWNCAST(CMDIFrameWndEx, m_pDockSite);
+    BOOL isMaximized = FALSE;
+    CWnd* document = nullptr;
+    if (frame != nullptr && frame->m_hWndMDIClient != nullptr && frame->document_holder() == nullptr)
+        document = frame->MDIGetActive(&isMaximized);
+    SetMaximizeMode(isMaximized, document);
+}
+
+bool CMFCMenuBar::is_icon(int index) const {
+    const DocumentButton* const button = as_document_button(GetButton(index));
+    return button != nullptr && button->is_icon();
 }
 
 /// Where an item stands in the menu, in which it isn't alone with items.
@@ -132,6 +177,8 @@ UINT CMFCMenuBar::position_of(int index) const { return item_of(GetButton(index)
 HMENU CMFCMenuBar::popup_of(int index) const {
     const CMFCToolBarButton* const button = GetButton(index);
     if (button == nullptr) return index == GetCount() && has_more() ? m_overflow.m_hMenu : nullptr;
+    if (const DocumentButton* const own = as_document_button(button))
+        return own->is_icon() ? own->system_menu() : nullptr;
     return ::GetSubMenu(m_hMenu, static_cast<int>(item_of(button).position()));
 }
 
@@ -151,8 +198,10 @@ int CMFCMenuBar::item_of_letter(wchar_t letter) const {
 void CMFCMenuBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     if (m_open != -1) return;
     take_from_frame();
+    follow_documents();
     if (is_outdated()) fill();
     for (int i = 0; i < GetCount(); ++i) {
+        if (as_document_button(GetButton(i)) != nullptr) continue;
         const UINT state = ::GetMenuState(m_hMenu, item_of(GetButton(i)).position(), MF_BYPOSITION);
         const bool off = (state & (MF_GRAYED | MF_DISABLED)) != 0;
         // Items that open menus have no command that could be asked.
@@ -168,8 +217,11 @@ void CMFCMenuBar::fill_more(HMENU menu) const {
         const CMFCToolBarButton& button = *GetButton(i);
         if (has_room(button)) continue;
         const HMENU popup = popup_of(i);
+        const DocumentButton* const own = as_document_button(&button);
+        if (is_icon(i)) own->read_system_menu();
+        const UINT command = own != nullptr ? own->command() : button.m_nID;
         const UINT flags = (button.IsEnabled() ? 0u : MF_GRAYED) | (popup != nullptr ? MF_POPUP : MF_STRING);
-        ::AppendMenuW(menu, flags, popup != nullptr ? reinterpret_cast<UINT_PTR>(popup) : button.m_nID,
+        ::AppendMenuW(menu, flags, popup != nullptr ? reinterpret_cast<UINT_PTR>(popup) : command,
                       button.m_strText);
     }
 }
@@ -188,6 +240,8 @@ void CMFCMenuBar::describe(int part, AccessiblePart& about) const {
     if (part == 0) about.role = ROLE_SYSTEM_MENUBAR;
     const CMFCToolBarButton* const button = GetButton(part - 1);
     if (button == nullptr) return;
+    const DocumentButton* const own = as_document_button(button);
+    if (own != nullptr && !own->is_icon()) return;
     about.role = ROLE_SYSTEM_MENUITEM;
     if (const wchar_t letter = marked_letter(button->m_strText)) about.keys.Format(L"Alt+%c", letter);
     if (popup_of(part - 1) == nullptr) return;

@@ -5,6 +5,7 @@
 #include <windowsx.h>
 
 #include "bar_accessible.h"
+#include "document_button.h"
 
 using namespace kmfc::docking;
 
@@ -143,6 +144,14 @@ void CMFCMenuBar::press(int index) {
     SendCommand(GetButton(index));
 }
 
+/// A button of a maximised document is a command of the system's, which the frame hands to it.
+void CMFCMenuBar::SendCommand(const CMFCToolBarButton* pButton) {
+    if (const DocumentButton* const own = as_document_button(pButton))
+        do_command(own->command());
+    else
+        CMFCToolBar::SendCommand(pButton);
+}
+
 void CMFCMenuBar::open_more() { follow(GetCount(), false); }
 
 // Open menus.
@@ -179,6 +188,7 @@ void CMFCMenuBar::follow(int index, bool byKeys) {
     }
     highlight(-1);
     give_focus_back();
+    if (std::exchange(m_isDoubleClicked, false)) command = SC_CLOSE;
     if (command != 0) do_command(command);
 }
 
@@ -190,9 +200,10 @@ void CMFCMenuBar::do_command(UINT command) {
 UINT CMFCMenuBar::track(int index, bool byKeys) {
     m_open = index;
     m_next = -1;
-    m_isEscaped = false;
+    m_isEscaped = m_isDoubleClicked = false;
     m_popups.clear();
     if (index == GetCount() && m_overflow.CreatePopupMenu()) fill_more(m_overflow.m_hMenu);
+    if (is_icon(index)) as_document_button(GetButton(index))->read_system_menu();
     highlight(index);
     if (GetButton(index) != nullptr) SetButtonStyle(index, GetButtonStyle(index) | TBBS_PRESSED);
     UpdateWindow();
@@ -242,7 +253,10 @@ LRESULT CMFCMenuBar::on_menu_message(UINT message, WPARAM wParam, LPARAM lParam)
     const auto menu = reinterpret_cast<HMENU>(wParam);
     if (message == WM_INITMENUPOPUP) {
         // The frame is told where in its menu the item stands.
-        if (m_popups.empty() && m_open < GetCount()) lParam = MAKELPARAM(position_of(m_open), FALSE);
+        if (m_popups.empty() && is_icon(m_open))
+            lParam = MAKELPARAM(0, TRUE);
+        else if (m_popups.empty() && m_open < GetCount())
+            lParam = MAKELPARAM(position_of(m_open), FALSE);
         m_popups.push_back(menu);
         if (menu == m_overflow.m_hMenu) return 0;
     } else if (message == WM_UNINITMENUPOPUP) {
@@ -309,11 +323,13 @@ bool CMFCMenuBar::filters_mouse(UINT message, CPoint screen) {
         return false;
     }
     if (!opens) return false;
-    // A press on the item that is open closes it.
-    if (index == m_open)
+    // A press on the item that is open closes it, and a double click on a document's icon the document.
+    if (index == m_open) {
+        m_isDoubleClicked = message == WM_LBUTTONDBLCLK && is_icon(index);
         ::EndMenu();
-    else
+    } else {
         go_on_with(index, false);
+    }
     return true;
 }
 

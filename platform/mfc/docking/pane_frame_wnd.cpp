@@ -294,6 +294,14 @@ void CPaneFrameWnd::OnMove(int x, int y) {
     note_place();
 }
 
+/// Nothing floats over a print preview.
+void CPaneFrameWnd::OnWindowPosChanging(WINDOWPOS* lpwndpos) {
+    CWnd::OnWindowPosChanging(lpwndpos);
+    if ((lpwndpos->flags & SWP_SHOWWINDOW) != 0 && m_pDockManager != nullptr &&
+        m_pDockManager->waits_for_preview(*this))
+        lpwndpos->flags &= ~static_cast<UINT>(SWP_SHOWWINDOW);
+}
+
 void CPaneFrameWnd::note_place() {
     if (m_isGoing || m_hWnd == nullptr) return;
     GetWindowRect(&m_rectRecentFloatingRect);

@@ -19,32 +19,6 @@ struct OwnBitmap {
     }
 };
 
-/// The pixels of a bitmap: by its alpha channel, or all but those of the transparent colour.
-PicturePixels pixels_of(HBITMAP bitmap, COLORREF transparent) {
-    PicturePixels picture;
-    BITMAP about = {};
-    if (::GetObjectW(bitmap, sizeof(about), &about) == 0) return picture;
-    const CSize size(about.bmWidth, std::abs(about.bmHeight));
-    std::vector<std::uint32_t> pixels(static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy));
-    BITMAPINFO info = kmfc::rows_from_the_top(size);
-    CDC screen;
-    screen.CreateCompatibleDC(nullptr);
-    if (::GetDIBits(screen, bitmap, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS) == 0)
-        return picture;
-    const bool hasAlpha = about.bmBitsPixel == 32 && std::any_of(pixels.begin(), pixels.end(),
-                                                                 [](auto pixel) { return pixel >> 24 != 0; });
-    const std::uint32_t key = static_cast<std::uint32_t>(GetRValue(transparent)) << 16 |
-                              static_cast<std::uint32_t>(GetGValue(transparent)) << 8 |
-                              GetBValue(transparent);
-    for (std::uint32_t& pixel : pixels) {
-        if (!hasAlpha) pixel = (pixel & 0xFFFFFF) == key ? 0 : pixel | 0xFF000000;
-        pixel = kmfc::premultiplied(pixel);
-    }
-    picture.size = size;
-    picture.pixels = std::move(pixels);
-    return picture;
-}
-
 /// Two pictures of the same height, one beside the other.
 PicturePixels joined(const PicturePixels& first, const PicturePixels& second) {
     PicturePixels both;
@@ -74,7 +48,7 @@ BOOL CMFCToolBarImages::Load(UINT uiResID, HINSTANCE hinstRes, BOOL bAdd) {
     const OwnBitmap bitmap(
         static_cast<HBITMAP>(::LoadImageW(hinstRes, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
     if (bitmap.handle == nullptr || m_sizeImage.cx <= 0) return FALSE;
-    PicturePixels loaded = pixels_of(bitmap.handle, m_clrTransparent);
+    PicturePixels loaded = kmfc::pixels_of(bitmap.handle, m_clrTransparent);
     if (loaded.pixels.empty() || loaded.size.cy < m_sizeImage.cy) return FALSE;
     const bool behind = bAdd && m_iCount > 0;
     if (behind && loaded.size.cy != m_all->size.cy) return FALSE;

@@ -19,6 +19,7 @@
 #include <kmfc/pane_divider.h>
 #include <kmfc/pane_frame_wnd.h>
 #include <kmfc/settings_store.h>
+#include <kmfc/status_bar_ex.h>
 #include <kmfc/tabbed_pane.h>
 #include <kmfc/tool_bar_ex.h>
 #include <kmfc/visual_manager.h>

@@ -29,5 +29,11 @@
 #define IDS_BAR_MORE 30746
 #define IDS_BAR_PRESS 30747
 #define IDS_BAR_OPEN 30748
+#define IDS_STATUS_BAR 30749  // the name of a status bar for them
+// Of a maximised document in a menu bar.
+#define IDS_DOCUMENT_MENU 30755
+#define IDS_DOCUMENT_MINIMIZE 30756
+#define IDS_DOCUMENT_RESTORE 30757
+#define IDS_DOCUMENT_CLOSE 30758
 
 #endif

@@ -1,9 +1,12 @@
 // CView and CFrameWnd: into a print preview and out of it.
+#include <utility>
+
 #include <kmfc/app.h>
 #include <kmfc/dialog_bar.h>
 #include <kmfc/preview_view.h>
 
 #include "../res/kmfc_ids.h"
+#include "../window/thread_state.h"
 
 namespace {
 
@@ -13,6 +16,17 @@ constexpr DWORD bit_of(UINT bar) { return 1U << (bar - AFX_IDW_CONTROLBAR_FIRST)
 BOOL CALLBACK close_preview(CFrameWnd* frame) {
     frame->SendMessage(WM_COMMAND, AFX_ID_PREVIEW_CLOSE);
     return FALSE;
+}
+
+/// The focus goes back to where it was, or else to the view of the active document.
+void give_focus_back(CFrameWnd& frame) {
+    const HWND before = std::exchange(kmfc::thread_state().m_focusBeforePreview, nullptr);
+    const HWND root = ::GetAncestor(before, GA_ROOT);
+    const bool isOfFrame = root == frame.m_hWnd || ::GetWindow(root, GW_OWNER) == frame.m_hWnd;
+    if (before != nullptr && isOfFrame && ::IsWindowVisible(before) && ::IsWindowEnabled(before))
+        ::SetFocus(before);
+    else if (CView* const active = frame.GetActiveFrame()->GetActiveView())
+        active->SetFocus();
 }
 
 }  // namespace
@@ -68,6 +82,7 @@ BOOL CView::DoPrintPreview(UINT nIDResource, CView* pPrintView, CRuntimeClass* p
     context.m_pCurrentFrame = frame;
     auto bar = std::make_unique<CDialogBar>();
     if (!bar->Create(frame, nIDResource, CBRS_TOP, AFX_IDW_PREVIEW_BAR)) return FALSE;
+    kmfc::thread_state().m_focusBeforePreview = ::GetFocus();
     frame->OnSetPreviewMode(TRUE, pState);
     auto* const view = STATIC_DOWNCAST(CPreviewView, pPreviewViewClass->CreateObject());
     if (view == nullptr || !view->Create(nullptr, nullptr, AFX_WS_DEFAULT_VIEW | WS_HSCROLL | WS_VSCROLL,
@@ -76,6 +91,7 @@ BOOL CView::DoPrintPreview(UINT nIDResource, CView* pPrintView, CRuntimeClass* p
         frame->OnSetPreviewMode(FALSE, pState);
         bar->DestroyWindow();
         frame->RecalcLayout();
+        give_focus_back(*frame);
         return FALSE;
     }
     bar->m_bAutoDelete = TRUE;
@@ -97,5 +113,5 @@ void CView::OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT, CPreviewView* 
     frame->SetActiveView(former);
     frame->RecalcLayout();
     frame->SetMessageText(AFX_IDS_IDLEMESSAGE);
-    if (CView* const active = frame->GetActiveFrame()->GetActiveView()) active->SetFocus();
+    give_focus_back(*frame);
 }

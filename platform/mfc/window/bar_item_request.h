@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kmfc/control_bar.h>
+#include <kmfc/status_bar.h>
 
 namespace kmfc {
 
@@ -21,6 +22,30 @@ protected:
     /// The command of an item; 0 for one that has none and isn't asked for.
     virtual UINT command_of(int index) = 0;
     int index() const { return static_cast<int>(m_nIndex); }
+};
+
+/// Of the panes of a status bar that knows them by SBPS_ styles.
+template <class Bar>
+class PaneRequest : public BarItemRequest {
+public:
+    explicit PaneRequest(Bar& bar) : BarItemRequest(bar), m_bar(bar) {}
+
+    void Enable(BOOL bOn) override {
+        m_bEnableChanged = TRUE;
+        const UINT style = m_bar.GetPaneStyle(index());
+        m_bar.SetPaneStyle(index(), bOn ? style & ~SBPS_DISABLED : style | SBPS_DISABLED);
+    }
+    void SetCheck(int nCheck) override {
+        const UINT style = m_bar.GetPaneStyle(index());
+        m_bar.SetPaneStyle(index(), nCheck != 0 ? style | SBPS_POPOUT : style & ~SBPS_POPOUT);
+    }
+    void SetText(LPCTSTR lpszText) override { m_bar.SetPaneText(index(), lpszText); }
+
+protected:
+    UINT command_of(int index) override { return m_bar.GetItemID(index); }
+
+private:
+    Bar& m_bar;
 };
 
 /// Of the buttons of a bar that knows them by TBBS_ styles.

@@ -6,6 +6,7 @@
 
 #include <kmfc/frame.h>
 
+#include "../docking/core/status_panes.h"
 #include "bar_item_request.h"
 
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
@@ -87,23 +88,12 @@ void CStatusBar::arrange() {
     GetClientRect(&client);
     int horizontal = 0, vertical = 0, spacing = 0;
     GetStatusBarCtrl().GetBorders(horizontal, vertical, spacing);
-    int room = client.Width() - spacing * static_cast<int>(count() - 1) - 2 * horizontal;
+    int room = client.Width() - 2 * horizontal;
     if (GetStyle() & SBARS_SIZEGRIP) room -= ::GetSystemMetrics(SM_CXVSCROLL);
-    const auto wanted = [](const Pane& each) { return each.width + 2 * kTextMargin; };
-    int stretching = -1;
-    for (int i = 0; i < count(); ++i) {
-        if ((pane(i).style & SBPS_STRETCH) && stretching < 0)
-            stretching = i;
-        else
-            room -= wanted(pane(i));
-    }
-    std::vector<int> edges;
-    int right = horizontal;
-    for (int i = 0; i < count(); ++i) {
-        right += i == stretching ? std::max(room, 0) : wanted(pane(i));
-        edges.push_back(right);
-        right += spacing;
-    }
+    std::vector<kmfc::StatusPane> wanted;
+    for (const Pane& each : m_panes)
+        wanted.push_back({each.width + 2 * kTextMargin, (each.style & SBPS_STRETCH) != 0});
+    std::vector<int> edges = kmfc::pane_edges(wanted, horizontal, room, spacing);
     GetStatusBarCtrl().SetParts(static_cast<int>(edges.size()), edges.data());
 }
 
@@ -220,37 +210,10 @@ CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     return CSize(std::max<LONG>(whole.cx, 0), std::max<LONG>(whole.cy, height));
 }
 
-namespace {
-
-/// A pane that is asked for its state and text.
-class PaneRequest : public kmfc::BarItemRequest {
-public:
-    explicit PaneRequest(CStatusBar& bar) : BarItemRequest(bar), m_bar(bar) {}
-
-    void Enable(BOOL bOn) override {
-        m_bEnableChanged = TRUE;
-        const UINT style = m_bar.GetPaneStyle(index());
-        m_bar.SetPaneStyle(index(), bOn ? style & ~SBPS_DISABLED : style | SBPS_DISABLED);
-    }
-    void SetCheck(int nCheck) override {
-        const UINT style = m_bar.GetPaneStyle(index());
-        m_bar.SetPaneStyle(index(), nCheck != 0 ? style | SBPS_POPOUT : style & ~SBPS_POPOUT);
-    }
-    void SetText(LPCTSTR lpszText) override { m_bar.SetPaneText(index(), lpszText); }
-
-protected:
-    UINT command_of(int index) override { return m_bar.GetItemID(index); }
-
-private:
-    CStatusBar& m_bar;
-};
-
-}  // namespace
-
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     for (int i = 0; i < count(); ++i)
         if (pane(i).isChanged) show_pane(i);
     // A pane that nobody answers for stays as it is.
-    PaneRequest(*this).ask_all(count(), pTarget, FALSE);
+    kmfc::PaneRequest(*this).ask_all(count(), pTarget, FALSE);
     UpdateDialogControls(pTarget, bDisableIfNoHndler);
 }

@@ -53,6 +53,8 @@ struct ThreadState {
     INT_PTR m_nToolTipHit = -1;      ///< id of the tool under the pointer, -1 without one
     TOOLINFO m_toolTipInfo = {};     ///< that tool as registered with the control
 
+    HWND m_focusBeforePreview = nullptr;  ///< what had the focus when the last print preview began
+
     UINT m_cModalLoops = 0;                ///< modal loops on the stack
     HHOOK m_hHookMessageFilter = nullptr;  ///< see install_message_filter
     std::exception_ptr m_carried;          ///< see carry_exception

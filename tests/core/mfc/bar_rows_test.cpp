@@ -172,13 +172,48 @@ TEST(BarRows, a_drop_over_a_row_joins_it_and_beyond_all_begins_a_new_one) {
     EXPECT_EQ(at(-15, 1)->row, 0);
     EXPECT_FALSE(at(0, 1)->isOwnRow);
     EXPECT_EQ(at(0, 1)->row, 0);
-    EXPECT_EQ(at(25, 1)->row, 0);
-    EXPECT_EQ(at(26, 1)->row, 1);
+    EXPECT_EQ(at(21, 1)->row, 0);
+    EXPECT_FALSE(at(21, 1)->isOwnRow);
+    EXPECT_EQ(at(32, 1)->row, 1);
+    EXPECT_FALSE(at(32, 1)->isOwnRow);
     EXPECT_EQ(at(65, 1)->row, 1);
+    EXPECT_FALSE(at(65, 1)->isOwnRow);
     EXPECT_TRUE(at(66, 1)->isOwnRow);
     EXPECT_EQ(at(66, 1)->row, 2);
     EXPECT_TRUE(at(80, 1).has_value());
     EXPECT_FALSE(at(81, 1).has_value());
+}
+
+TEST(BarRows, the_edge_between_two_rows_stands_for_a_new_one_there) {
+    BarRows rows = three_in_a_row();
+    rows.append({7, 0, true}, true);
+    rows.append({8, 0, false}, true);
+    for (const int across : {22, 25, 26, 31}) {
+        const std::optional<BarPlace> place = rows.row_at(across, 1, kReach, extents);
+        ASSERT_TRUE(place.has_value());
+        EXPECT_TRUE(place->isOwnRow) << across;
+        EXPECT_EQ(place->row, 1) << across;
+        // A place that the program gives is in a row.
+        EXPECT_FALSE(rows.row_at(across, 1, 0, extents)->isOwnRow);
+    }
+    EXPECT_EQ(rows.row_at(25, 1, 0, extents)->row, 0);
+    EXPECT_EQ(rows.row_at(26, 1, 0, extents)->row, 1);
+    // What is alone beside the edge stays as it is.
+    EXPECT_FALSE(rows.row_at(25, 7, kReach, extents)->isOwnRow);
+    EXPECT_EQ(rows.row_at(25, 7, kReach, extents)->row, 1);
+}
+
+TEST(BarRows, a_bar_in_its_new_row_stays_there_while_the_mouse_rests) {
+    BarRows rows = three_in_a_row();
+    rows.append({7, 0, true}, true);
+    for (int turn = 0; turn < 3; ++turn) {
+        const std::optional<BarPlace> place = rows.row_at(27, 1, kReach, extents);
+        ASSERT_TRUE(place.has_value());
+        rows.dock(1, *place, 500, extents);
+        ASSERT_EQ(rows.rows().size(), 3u);
+        EXPECT_EQ(rows.place_of(1)->row, 1);
+        EXPECT_TRUE(rows.place_of(1)->isOwnRow);
+    }
 }
 
 TEST(BarRows, a_bar_alone_in_the_first_or_last_row_stays_in_it_beyond_its_edge) {

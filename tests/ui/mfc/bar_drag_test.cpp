@@ -55,6 +55,25 @@ TEST_F(BarDrag, over_another_row_it_joins_and_pushes_its_neighbours) {
     check_frame();
 }
 
+TEST_F(BarDrag, on_the_edge_between_two_rows_it_begins_one_there) {
+    CMFCToolBar &one = docked_bar(), &two = docked_bar(), &three = docked_bar();
+    drag(three, on_frame(70, kThick));
+    EXPECT_EQ(in_frame(three).top, kThick);
+    EXPECT_EQ(in_frame(two).top, 2 * kThick);
+    EXPECT_EQ(in_frame(one).top, 0);
+    // It stays there while the mouse rests.
+    move(on_frame(70, kThick));
+    move(on_frame(71, kThick + 1));
+    EXPECT_EQ(in_frame(one).top, 0);
+    EXPECT_EQ(in_frame(three).top, kThick);
+    EXPECT_EQ(in_frame(two).top, 2 * kThick);
+    move(on_frame(70, 8));
+    EXPECT_EQ(in_frame(three).top, 0);
+    EXPECT_EQ(in_frame(two).top, kThick);
+    release(on_frame(70, 8));
+    check_frame();
+}
+
 TEST_F(BarDrag, below_the_last_row_it_begins_a_new_one) {
     CMFCToolBar &one = docked_bar(), &two = make_bar();
     frame->DockPaneLeftOf(&two, &one);

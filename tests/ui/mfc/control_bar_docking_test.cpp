@@ -316,6 +316,24 @@ TEST_F(ControlBarDocking, ADragFloatsTheBarUnderTheMouseAndDocksItAgain) {
     EXPECT_FALSE(bar.IsFloating());
 }
 
+TEST_F(ControlBarDocking, ADragToTheEdgeBetweenTwoRowsBeginsOneThere) {
+    CToolBar& first = docked_bar();
+    CToolBar& second = make_bar();
+    frame->DockControlBar(&second);
+    CToolBar& third = make_bar();
+    frame->FloatControlBar(&third, CPoint(300, 300));
+    third.GetParent()->GetParent()->SendMessage(WM_NCLBUTTONDOWN, HTCAPTION,
+                                                MAKELPARAM(on_screen(*mini_frame(third)).left + 9, 305));
+    for (const int across : {kThickness - 1, kThickness, kThickness + 1}) {
+        move(on_frame(60, across));
+        EXPECT_EQ(rectOf(first).top, 0) << across;
+        EXPECT_EQ(rectOf(third).top, kThickness) << across;
+        EXPECT_EQ(rectOf(second).top, 2 * kThickness) << across;
+    }
+    release(on_frame(60, kThickness));
+    EXPECT_EQ(rectOf(view).top, 3 * kThickness);
+}
+
 TEST_F(ControlBarDocking, WithCtrlADragFloatsAtAnEdgeToo) {
     CToolBar& bar = docked_bar();
     press(bar);

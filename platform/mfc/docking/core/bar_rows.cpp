@@ -6,6 +6,8 @@ namespace kmfc::docking {
 
 namespace {
 
+constexpr int kEdgePart = 6;  // of a row's thickness stands for a new row beside it
+
 struct Span {
     PaneKey bar = 0;
     int begin = 0, length = 0;
@@ -194,17 +196,31 @@ std::vector<PlacedBar> BarRows::arrange(int length, const BarExtents& extents) c
     return placed;
 }
 
+/// Between two neighbouring rows; one that is alone in either of them stays there.
+BarPlace BarRows::between(int outer, int inner, PaneKey bar) const {
+    if (is_alone(bar, outer)) return BarPlace{outer, false, 0};
+    return BarPlace{inner, !is_alone(bar, inner), 0};
+}
+
 std::optional<BarPlace> BarRows::row_at(int across, PaneKey bar, int reach, const BarExtents& extents) const {
     if (across < -reach) return std::nullopt;
-    int first = -1, last = -1, end = 0;
+    int first = -1, last = -1, end = 0, under = -1, edge = 0;
     for (int i = 0; i < static_cast<int>(m_rows.size()); ++i) {
         const int thickness = thickness_of(m_rows[static_cast<size_t>(i)], extents);
         if (thickness == 0) continue;
+        // The row outside of this one was left over its inner edge.
+        if (under >= 0) return between(under, i, bar);
         if (first < 0) first = i;
+        edge = reach > 0 ? thickness / kEdgePart : 0;
+        if (across >= end && across < end + thickness) {
+            if (last >= 0 && across < end + edge) return between(last, i, bar);
+            if (across < end + thickness - edge) return BarPlace{i, false, 0};
+            under = i;
+        }
         last = i;
-        if (across >= end && across < end + thickness) return BarPlace{i, false, 0};
         end += thickness;
     }
+    if (under >= 0) return BarPlace{under, false, 0};
     if (across < 0) return is_alone(bar, first) ? BarPlace{first, false, 0} : BarPlace{0, true, 0};
     if (across >= end + reach) return std::nullopt;
     return is_alone(bar, last) ? BarPlace{last, false, 0}

@@ -69,8 +69,9 @@ public:
     /// Where the shown bars stand in rows of that length. Each is as thick as its row.
     std::vector<PlacedBar> arrange(int length, const BarExtents& extents) const;
     /// The row that a bar is dropped in at `across` pixels from the outside: one that it is over, or a new
-    /// one within `reach` pixels outside or inside of all; nothing further away. One that is alone in the
-    /// outermost or innermost row stays in it there.
+    /// one within `reach` pixels outside or inside of all; nothing further away. With a reach, the edge
+    /// between two rows (a sixth of either) stands for a new one between them. A bar that is alone in the row
+    /// beside a new one stays in it.
     std::optional<BarPlace> row_at(int across, PaneKey bar, int reach, const BarExtents& extents) const;
 
 private:
@@ -78,6 +79,7 @@ private:
     int row_of(PaneKey bar) const;
     void drop_empty_rows();
     bool is_alone(PaneKey bar, int row) const;
+    BarPlace between(int outer, int inner, PaneKey bar) const;
 
     std::vector<Row> m_rows;
 };

@@ -53,6 +53,12 @@ public:
         return m_dockManager.ends_drag(*pMsg) || m_dockManager.opens_menu(*pMsg) ||
                Frame::PreTranslateMessage(pMsg);
     }
+    void OnSetPreviewMode(BOOL bPreview, CPrintPreviewState* pState) override {
+        Frame::OnSetPreviewMode(bPreview, pState);
+        m_dockManager.SetPrintPreviewMode(bPreview, pState);
+    }
+    /// Whether a print preview stands in the frame.
+    BOOL IsPrintPreview() { return m_dockManager.IsPrintPreviewValid(); }
     /// Called after panes were shown or hidden together.
     virtual BOOL OnShowPanes(BOOL bShow) {
         m_dockManager.ShowPanes(bShow);
@@ -84,6 +90,20 @@ protected:
     }
     afx_msg LRESULT OnFrameMenu(WPARAM wParam, LPARAM) {
         return m_dockManager.show_menu(reinterpret_cast<HMENU>(wParam));
+    }
+    /// Checks the menu item of the pane with the item's id when the pane is to be seen; shows or hides it.
+    /// Classic bars are the frame's.
+    afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI) {
+        if (CBasePane* const pane = GetPane(pCmdUI->m_nID))
+            pCmdUI->SetCheck(pane->IsVisible() ? 1 : 0);
+        else
+            Frame::OnUpdateControlBarMenu(pCmdUI);
+    }
+    afx_msg BOOL OnPaneCheck(UINT nID) {
+        CBasePane* const pane = GetPane(nID);
+        if (pane == nullptr) return Frame::OnBarCheck(nID);
+        pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
+        return TRUE;
     }
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam) {
         m_dockManager.on_idle();

@@ -146,6 +146,18 @@ public:
     /// frames: then the frame still looks active.
     bool stays_active() const;
 
+    // A print preview.
+    /// Into a print preview and out of it: panes, toolbars, the menu bar, strips of hidden panes and floating
+    /// frames go while it lasts, but for panes whose HideInPrintPreviewMode says otherwise. What is shown or
+    /// hidden meanwhile shows when it is over. The caller lays the frame out anew.
+    void SetPrintPreviewMode(BOOL bPreview, CPrintPreviewState* pState);
+    /// Whether a preview stands in the frame.
+    BOOL IsPrintPreviewValid() const;
+    /// Of a floating frame that is about to be shown: whether it has to wait for the end of a preview.
+    bool waits_for_preview(CPaneFrameWnd& frame);
+    /// The same of a pane that is about to slide out from an edge, or in.
+    bool slides_after_preview(CDockablePane& pane, bool out);
+
     // The bar that shows the frame's menu.
     CMFCMenuBar* menu_bar() const;
     void set_menu_bar(CMFCMenuBar* bar);
@@ -174,6 +186,10 @@ private:
     void settle(CDockablePane* pane);
     void take_fixed(CRect& rest);
     void hide_unplanned();
+    void begin_preview();
+    void end_preview();
+    bool hides_for_preview(const CBasePane& pane) const;
+    void hide_for_preview();
     std::vector<std::int32_t> stored_layout() const;
     void apply(const kmfc::docking::LayoutRecord& record);
     void leave_tabs(const kmfc::docking::LayoutRecord& record,

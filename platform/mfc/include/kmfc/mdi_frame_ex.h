@@ -6,11 +6,14 @@
 
 #include <kmfc/docking_frame.h>
 #include <kmfc/mdi_frame.h>
+#include <kmfc/mdi_tab_info.h>
 #include <kmfc/tab_window.h>
 
 namespace kmfc::docking {
+class DocumentGroups;
+class DocumentHolder;
 class DocumentTabs;
-}
+}  // namespace kmfc::docking
 
 /// The main window of a program with several documents, with a docking manager.
 class KMFC_API CMDIFrameWndEx : public DockingFrame<CMDIFrameWnd> {
@@ -30,14 +33,41 @@ public:
     /// After the active document has gone, the one that was active before it becomes active, and not its
     /// neighbour.
     void EnableMDITabsLastActiveActivation(BOOL bLastActiveTab = TRUE);
-    /// `pnMDITabsType` gets 1 with tabs and 0 without.
+    /// Shows documents in groups side by side or one below the other, each with a strip of tabs and a divider
+    /// between them; all are in one group at first. The user drags tabs from group to group, or to the edge
+    /// of one as a new group; a group that empties goes. Documents have no frame of their own meanwhile. TRUE
+    /// again applies other parameters; FALSE, for which they don't matter, gives the frames back. Tabs of
+    /// EnableMDITabs and groups take each other's place. AFX_WM_ON_MOVETOTABGROUP tells the frame of each
+    /// document that changes its group.
+    void EnableMDITabbedGroups(BOOL bEnable, const CMDITabInfo& params);
+    BOOL IsMDITabbedGroup() const;
+    /// Moves the active document into a new group behind its own: beside it, or below it for FALSE. Nothing
+    /// where GetMDITabsContextMenuAllowedItems doesn't allow it.
+    void MDITabNewGroup(BOOL bVert = TRUE);
+    /// Moves the active document into the next group or the one before; nothing without one.
+    void MDITabMoveToNextGroup(BOOL bNext = TRUE);
+    /// The strips of the groups (CMFCTabCtrl), from left to right or from top to bottom; none without groups.
+    const CObList& GetMDITabGroups() const;
+    BOOL IsMemberOfMDITabGroup(CWnd* pWnd);
+    /// What the user may do with the active document, AFX_MDI_ bits: nothing with the only one of a group.
+    /// All groups stand, or all lie.
+    DWORD GetMDITabsContextMenuAllowedItems();
+    /// A menu for the active document of a group at a point of the screen: asked for by a right click, or
+    /// (`bTabDrop`) after a tab was dropped on the documents of another group. FALSE, as here, for no menu:
+    /// then the click is a WM_CONTEXTMENU of the frame, and the tab goes where it was dropped.
+    virtual BOOL OnShowMDITabContextMenu(CPoint /*point*/, DWORD /*dwAllowedItems*/, BOOL /*bTabDrop*/) {
+        return FALSE;
+    }
+    /// `pnMDITabsType` gets 1 with tabs, 2 with groups and 0 without.
     BOOL AreMDITabs(int* pnMDITabsType = nullptr) const;
     /// It has no window while there are no tabs.
     CMFCTabCtrl& GetMDITabs();
 
     void RecalcLayout(BOOL bNotify = TRUE) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
 
-    kmfc::docking::DocumentTabs& document_tabs() { return *m_tabs; }
+    /// What shows the documents; null without tabs.
+    kmfc::docking::DocumentHolder* document_holder();
 
 protected:
     /// The documents' room changed; client coordinates of the frame.
@@ -49,6 +79,7 @@ protected:
 
 private:
     std::unique_ptr<kmfc::docking::DocumentTabs> m_tabs;
+    std::unique_ptr<kmfc::docking::DocumentGroups> m_groups;
     CRect m_clientRect{0, 0, 0, 0};
 };
 
@@ -81,5 +112,5 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    kmfc::docking::DocumentTabs* tabs() const;
+    kmfc::docking::DocumentHolder* tabs() const;
 };

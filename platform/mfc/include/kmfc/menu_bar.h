@@ -40,7 +40,12 @@ public:
     UINT GetDefaultMenuResId() const { return m_uiDefMenuResId; }
     /// Shows the menu of that resource, anew. FALSE, and nothing changed, without one.
     virtual BOOL RestoreOriginalstate();
-    /// The button of an item, from 0; null for a place without one.
+    /// Shows the icon of a maximised document before the items, and its buttons behind them; FALSE takes them
+    /// away. The bar does so by itself when the program is idle. While documents have tabs or stand in groups
+    /// it shows none.
+    virtual void SetMaximizeMode(BOOL bMax, CWnd* pWnd = nullptr, BOOL bRecalcLayout = TRUE);
+    /// The button of an item, from 0 (of a maximised document's icon, where that shows); null for a place
+    /// without one.
     CMFCToolBarButton* GetMenuItem(int iItem) const { return GetButton(iItem); }
     /// The menu of the frame was taken over, in Create or later.
     virtual void OnDefaultMenuLoaded(HMENU /*hMenu*/) {}
@@ -67,6 +72,7 @@ protected:
     void open_more() override;
     void fill_more(HMENU menu) const override;
     void press(int index) override;
+    void SendCommand(const CMFCToolBarButton* pButton) override;
 
     afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
@@ -79,6 +85,8 @@ protected:
 private:
     void take_from_frame();
     void fill();
+    void follow_documents();
+    bool is_icon(int index) const;
     bool is_outdated() const;
     HMENU popup_of(int index) const;
     UINT position_of(int index) const;
@@ -100,13 +108,15 @@ private:
     HMENU m_hMenu = nullptr;
     HMENU m_hDefaultMenu = nullptr;
     UINT m_uiDefMenuResId = 0;
-    CMenu m_original;  ///< what RestoreOriginalstate loaded
-    CMenu m_overflow;  ///< items without room, while their menu is open
-    int m_open = -1;   ///< the item whose menu is open
-    int m_next = -1;   ///< the item that comes when that is closed
+    HWND m_maximized = nullptr;  ///< the document whose icon and buttons show, or null
+    CMenu m_original;            ///< what RestoreOriginalstate loaded
+    CMenu m_overflow;            ///< items without room, while their menu is open
+    int m_open = -1;             ///< the item whose menu is open
+    int m_next = -1;             ///< the item that comes when that is closed
     bool m_isNextByKeys = false;
-    bool m_isEscaped = false;      ///< the menu was closed by Escape
-    CPoint m_lastMove{0, 0};       ///< where the pointer was seen last, screen coordinates
-    std::vector<HMENU> m_popups;   ///< those that are open, the innermost last
-    HWND m_focusBefore = nullptr;  ///< what had the focus before the bar
+    bool m_isEscaped = false;        ///< the menu was closed by Escape
+    bool m_isDoubleClicked = false;  ///< it was closed by a double click on a document's icon
+    CPoint m_lastMove{0, 0};         ///< where the pointer was seen last, screen coordinates
+    std::vector<HMENU> m_popups;     ///< those that are open, the innermost last
+    HWND m_focusBefore = nullptr;    ///< what had the focus before the bar
 };

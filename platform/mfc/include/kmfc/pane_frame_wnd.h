@@ -125,6 +125,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnMove(int x, int y);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);

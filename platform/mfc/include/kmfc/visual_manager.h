@@ -10,11 +10,13 @@ class CDockablePane;
 class CMFCAutoHideButton;
 class CMFCBaseTabCtrl;
 class CMFCCaptionButton;
+class CMFCStatusBar;
 class CMFCTabCtrl;
 class CMFCToolBarButton;
 class CPaneDivider;
 class CPaneFrameWnd;
 class CWnd;
+struct CMFCStatusBarPaneInfo;
 
 class KMFC_API CMFCVisualManager : public CObject {
     DECLARE_DYNCREATE(CMFCVisualManager)
@@ -71,6 +73,22 @@ public:
     /// A line around the same buttons.
     virtual void OnDrawButtonBorder(CDC* pDC, CMFCToolBarButton* pButton, CRect rect, AFX_BUTTON_STATE state);
     virtual COLORREF GetToolbarButtonTextColor(CMFCToolBarButton* pButton, AFX_BUTTON_STATE state);
+
+    // Status bars.
+
+    /// A line before a pane, around one that is raised (SBPS_POPOUT), which is filled too. It isn't called
+    /// for SBPS_NOBORDERS.
+    virtual void OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar* pBar, CRect rectPane, UINT uiID,
+                                           UINT nStyle);
+    /// -1 for a colour is the usual one.
+    virtual void OnDrawStatusBarProgress(CDC* pDC, CMFCStatusBar* pStatusBar, CRect rectProgress,
+                                         int nProgressTotal, int nProgressCurr, COLORREF clrBar,
+                                         COLORREF clrProgressBarDest, COLORREF clrProgressText,
+                                         BOOL bProgressText);
+    /// The corner by which the frame is sized.
+    virtual void OnDrawStatusBarSizeBox(CDC* pDC, CMFCStatusBar* pStatBar, CRect rectSizeBox);
+    /// The pane's own colour if it has one.
+    virtual COLORREF GetStatusBarPaneTextColor(CMFCStatusBar* pStatusBar, CMFCStatusBarPaneInfo* pPane);
 
     // Floating frames.
 
