@@ -1,5 +1,6 @@
 // Any bytes as a drawing: where they are read, the scenes of model space, of the sheet and of each block end
 // within the work limit, hold only finite places, and what they say of themselves fits together.
+#include <pictures/scene_picture.h>
 #include <scene_options.h>
 
 #include <cmath>
@@ -43,6 +44,17 @@ void look(const Scene& scene, const SceneText& text) {
     require(text.clip < static_cast<int>(scene.clips.size()), "a clip that isn't there");
 }
 
+void look(const Scene& scene, const SceneImage& image) {
+    require(image.picture != nullptr, "an image without a picture");
+    for (const OdGePoint2d& corner : CornersOf(image)) require(isFinite(corner), "a corner that is nowhere");
+    require(image.pathsBelow <= scene.paths.size() && image.textsBelow <= scene.texts.size(),
+            "an image above more than there is");
+    require(image.clip < static_cast<int>(scene.clips.size()), "a clip that isn't there");
+    const std::vector<PicturePixel> pixels =
+        PicturePixels(image, {0, 0, 2, 2, image.origin, image.across, image.up}, {});
+    require(pixels.size() == 4, "pixels that aren't four");
+}
+
 void look(OdDbDatabase& drawing, const OdDbObjectId& block, SceneUse use, double tolerance) {
     SceneOptions options;
     options.use = use;
@@ -54,11 +66,14 @@ void look(OdDbDatabase& drawing, const OdDbObjectId& block, SceneUse use, double
             "A\x00\x10\x24\x00",
             40);
     };
+    const auto picture = std::make_shared<ScenePicture>(1, 1, std::vector<PicturePixel>{0});
+    options.picture = [&picture](const OdString&) { return FoundPicture{picture, false}; };
     const Scene scene = BuildScene(drawing, block, options);
     require(scene.paths.size() + scene.texts.size() <= kWorkLimit / kPieceCost + 1,
             "more work than the limit");
     for (const ScenePath& path : scene.paths) look(scene, path);
     for (const SceneText& text : scene.texts) look(scene, text);
+    for (const SceneImage& image : scene.images) look(scene, image);
     for (std::size_t i = 0; i < scene.clips.size(); ++i)
         require(scene.clips[i].within < static_cast<int>(i), "a clip within a later one");
     scene.extents();

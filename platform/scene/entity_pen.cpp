@@ -103,6 +103,16 @@ void EntityPen::endless(const OdGePoint3d& base, const SpaceVector& direction, b
     m_work.addEndless(newPath(), onPlane(base), Flat(m_level.place.turned(direction)), bothWays);
 }
 
+void EntityPen::image(SceneImage image, const OdGePoint3d& origin, const SpaceVector& across,
+                      const SpaceVector& up) const {
+    image.origin = onPlane(origin);
+    image.across = Flat(m_level.place.turned(across));
+    image.up = Flat(m_level.place.turned(up));
+    image.style = m_look.style;
+    image.entity = m_level.entity;
+    m_work.add(std::move(image));
+}
+
 /// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
 void EntityPen::text(const PlacedText& text) const {
     const OdGePoint2d along = Flat(m_level.place.turned(text.along)) * text.widthFactor;

@@ -73,6 +73,9 @@ public:
     void wipe(const std::vector<OdGePoint3d>& points) const;
     void endless(const OdGePoint3d& base, const SpaceVector& direction, bool bothWays) const;
     void text(const PlacedText& text) const;
+    /// A picture; `image` says which and how it looks. Its corner and sides are given here.
+    void image(SceneImage image, const OdGePoint3d& origin, const SpaceVector& across,
+               const SpaceVector& up) const;
 
 private:
     ScenePath newPath() const;

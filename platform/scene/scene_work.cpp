@@ -18,7 +18,7 @@ bool isDrawable(const OdGePoint2d& point) {
 }  // namespace
 
 SceneWork::SceneWork(OdDbDatabase& drawing, const SceneOptions& options)
-    : m_drawing(drawing), m_options(options), m_shapes(options.shapeFile) {
+    : m_drawing(drawing), m_options(options), m_shapes(options.shapeFile), m_pictures(options.picture) {
     m_scene.showsLineWeights = options.use == SceneUse::kPaper || drawing.getLWDISPLAY() != 0;
 }
 
@@ -43,6 +43,11 @@ void SceneWork::showPercent() const {
     m_options.percent->store(std::clamp(ofLimit, m_percentDrawn, 100), std::memory_order_relaxed);
 }
 
+int SceneWork::addClip(std::vector<OdGePoint2d> outline) {
+    m_scene.clips.push_back({std::move(outline), m_clip});
+    return static_cast<int>(m_scene.clips.size()) - 1;
+}
+
 void SceneWork::add(ScenePath path) {
     if (path.points.empty() || !std::all_of(path.points.begin(), path.points.end(), isDrawable)) return;
     if (!spend(kPieceCost + path.points.size())) return;
@@ -58,6 +63,15 @@ void SceneWork::add(SceneText text) {
     text.clip = m_clip;
     text.pathsBelow = m_scene.paths.size();
     m_scene.texts.push_back(std::move(text));
+}
+
+void SceneWork::add(SceneImage image) {
+    const bool isWhole = isDrawable(image.origin) && isDrawable(image.across) && isDrawable(image.up);
+    if (!isWhole || !(std::abs(Cross(image.across, image.up)) > 0) || !spend(kPieceCost)) return;
+    image.clip = m_clip;
+    image.pathsBelow = m_scene.paths.size();
+    image.textsBelow = m_scene.texts.size();
+    m_scene.images.push_back(std::move(image));
 }
 
 void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePoint2d& direction,

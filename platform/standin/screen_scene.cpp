@@ -9,6 +9,7 @@
 #include <kh_system.h>
 
 #include "file_bytes.h"
+#include "pictures/picture_store.h"
 #include "text_face.h"
 
 namespace {
@@ -78,6 +79,13 @@ std::string bytesAt(const OdString& path) {
     return bytes;
 }
 
+ScenePictureFile picturesOf(const OdDbDatabase& drawing, PictureReading reading) {
+    const std::wstring_view path = drawing.getFilename().view();
+    const std::size_t end = path.find_last_of(L"\\/");
+    const std::wstring folder(path.substr(0, end == std::wstring_view::npos ? 0 : end + 1));
+    return PictureStore::Shared().source(folder, reading);
+}
+
 /// What the host answered for the names in a drawing's text styles.
 using Answers = std::map<OdString, OdString>;
 
@@ -92,6 +100,13 @@ SceneOptions ScreenSceneOptions() {
     SceneOptions options;
     options.shapeFile = [](const OdString& name) { return bytesAt(pathOfShapes(name)); };
     options.textWidth = textWidths(&FamilyOf);
+    return options;
+}
+
+SceneOptions ScreenSceneOptions(OdDbDatabase& drawing, bool waitsForPictures) {
+    SceneOptions options = ScreenSceneOptions();
+    options.picture =
+        picturesOf(drawing, waitsForPictures ? PictureReading::kAll : PictureReading::kUnpacked);
     return options;
 }
 
@@ -112,6 +127,7 @@ SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
     options.shapeFile = [paths = std::move(paths)](const OdString& name) {
         return bytesAt(answerFor(paths, name));
     };
+    options.picture = picturesOf(drawing, PictureReading::kAll);
     options.textWidth = textWidths([families = std::move(families)](const SceneFont& font) {
         return font.family.isEmpty() ? answerFor(families, font.file) : font.family;
     });

@@ -50,7 +50,7 @@ struct DeleteBitmap {
 static_assert(kThumbnailWidth % 4 == 0, "the rows have no bytes to fill them up");
 
 std::string DrawingThumbnail(OdDbDatabase& drawing) {
-    SceneOptions options = ScreenSceneOptions();
+    SceneOptions options = ScreenSceneOptions(drawing);
     options.workLimit = kMostWork;
     const Scene scene = BuildScene(drawing, drawing.modelSpaceId(), options);
     if (scene.extents().isEmpty()) return {};

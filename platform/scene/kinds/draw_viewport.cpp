@@ -79,8 +79,7 @@ void DrawViewport(const OdDbEntity& entity, EntityPen& pen) {
         inner.place = pen.level().place.after(ontoSheet(*viewport));
         ++inner.depth;
         const int before = work.clip();
-        work.scene().clips.push_back({outline, before});
-        work.setClip(static_cast<int>(work.scene().clips.size()) - 1);
+        work.setClip(work.addClip(outline));
         DrawBlock(work, work.drawing().modelSpaceId(), inner);
         work.setClip(before);
     }
