@@ -61,10 +61,14 @@ void look(OdDbDatabase& drawing, const OdDbObjectId& block, SceneUse use, double
     options.tolerance = tolerance;
     options.workLimit = kWorkLimit;
     options.shapeFile = [](const OdString&) {
+        // A font whose letters are a dash, of which there are A and the blank.
         return std::string(
-            "AutoCAD-86 shapes V1.0\r\n\x1A\x01\x00\x01\x00\x01\x00\x01\x00\x05\x00"
+            "AutoCAD-86 shapes "
+            "V1.0\r\n\x1A\x00\x00\x41\x00\x03\x00\x00\x00\x06\x00\x20\x00\x05\x00\x41\x00\x05\x00"
+            "F\x00\x06\x02\x00\x00"
+            "B\x00\x10\x24\x00"
             "A\x00\x10\x24\x00",
-            40);
+            59);
     };
     const auto picture = std::make_shared<ScenePicture>(1, 1, std::vector<PicturePixel>{0});
     options.picture = [&picture](const OdString&) { return FoundPicture{picture, false}; };

@@ -1,5 +1,6 @@
 #include "entity_pen.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "geometry/curve_points.h"
@@ -113,8 +114,38 @@ void EntityPen::image(SceneImage image, const OdGePoint3d& origin, const SpaceVe
     m_work.add(std::move(image));
 }
 
+/// Writes a text in the strokes of its font; false where that is no shape font that has its letters.
+bool EntityPen::writeStrokes(const PlacedText& text) const {
+    StrokeText written;
+    const auto spend = [this](std::size_t amount) { return m_work.spend(amount); };
+    if (text.text.isEmpty() || !(text.height > 0)) return false;
+    if (!m_work.strokes().write(text.font, text.text.view(), written, spend)) return false;
+    const bool isFitted = text.fitWidth > 0 && written.width > 0;
+    const double across = isFitted ? std::copysign(text.fitWidth / written.width, text.widthFactor)
+                                   : text.height * text.widthFactor;
+    SceneText rows;
+    rows.height = 1;
+    rows.vertical = text.vertical;
+    const double left = written.width * std::clamp(text.horizontal, 0, 2) / 2, drop = BaseLineDrop(rows);
+    const SpaceVector up = (text.up + text.along * std::tan(text.font.oblique)) * text.height;
+    const SpaceVector along = text.along * across;
+    std::vector<OdGePoint3d> points;
+    ScenePath path = newPath();
+    for (const std::vector<OdGePoint2d>& line : written.lines) {
+        if (!points.empty()) path.breaks.push_back(points.size());
+        for (const OdGePoint2d& point : line)
+            points.push_back(text.position + along * (point.x - left) + up * (point.y - drop));
+    }
+    path.points = flattened(points);
+    path.style.dashes.clear();
+    path.isLetters = true;
+    m_work.add(std::move(path));
+    return true;
+}
+
 /// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
 void EntityPen::text(const PlacedText& text) const {
+    if (writeStrokes(text)) return;
     const OdGePoint2d along = Flat(m_level.place.turned(text.along)) * text.widthFactor;
     const OdGePoint2d up = Flat(m_level.place.turned(text.up + text.along * std::tan(text.font.oblique)));
     const double width = Length(along);

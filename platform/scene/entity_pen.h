@@ -78,6 +78,7 @@ public:
                const SpaceVector& up) const;
 
 private:
+    bool writeStrokes(const PlacedText& text) const;
     ScenePath newPath() const;
     std::vector<OdGePoint2d> flattened(const std::vector<OdGePoint3d>& points) const;
     void addStroke(ScenePath path) const;

@@ -8,6 +8,7 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,7 @@ struct ScenePath {
     /// The points at which a further line begins, or a further boundary of the area; ascending, never 0. What
     /// an odd count of boundaries surrounds is filled.
     std::vector<std::size_t> breaks = {};
+    bool isLetters = false;  ///< the lines are the strokes of a text
     bool wipes = false;      ///< the area hides what lies below, in the colour of the paper
     bool isEndless = false;  ///< a piece of a line without end, which no extent counts
     int clip = kNoClip;      ///< which of the scene's clips it is seen through
@@ -134,6 +136,8 @@ struct KTSCENE_API Scene {
     bool showsLineWeights = true;  ///< whether lines are drawn with their weights, or all thin
     /// How many entities of which kind (names as in a file) have no look here.
     std::map<std::string, int> notDrawn;
+    /// Shape fonts that no file gives, whose texts a screen font stands for.
+    std::set<std::wstring> missingFonts;
     /// Whether the building ended before everything was drawn: at the work limit, or because it was stopped.
     bool isCut = false;
     /// Whether a picture isn't in it that would be there when it is built anew later.

@@ -89,6 +89,8 @@ void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePo
 double SceneWork::textWidth(const SceneFont& font, std::wstring_view text) {
     // A long paragraph measures many words before it draws the first.
     if (isStopped()) return 0;
+    double width = 0;
+    if (m_strokes.measure(font, text, width)) return width;
     return m_options.textWidth ? m_options.textWidth(font, text) : EstimatedTextWidth(font, text);
 }
 
@@ -115,6 +117,7 @@ Scene SceneWork::take() {
         points[1] = line.base + line.direction * reach;
     }
     m_endless.clear();
+    m_scene.missingFonts = m_strokes.missing();
     m_spent = 0;
     return std::exchange(m_scene, {});
 }

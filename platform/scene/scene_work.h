@@ -9,6 +9,7 @@
 #include "rules/line_pattern.h"
 #include "scene_options.h"
 #include "shapes/shape_files.h"
+#include "shapes/stroke_fonts.h"
 
 class SceneWork {
 public:
@@ -18,6 +19,7 @@ public:
     const SceneOptions& options() const { return m_options; }
     LinePatterns& patterns() { return m_patterns; }
     ShapeFiles& shapes() { return m_shapes; }
+    StrokeFonts& strokes() { return m_strokes; }
     PictureFiles& pictures() { return m_pictures; }
     Scene& scene() { return m_scene; }
     /// The clip of what is added from now on.
@@ -65,6 +67,7 @@ private:
     SceneOptions m_options;
     LinePatterns m_patterns;
     ShapeFiles m_shapes;
+    StrokeFonts m_strokes{m_shapes};
     PictureFiles m_pictures;
     Scene m_scene;
     std::vector<Endless> m_endless;

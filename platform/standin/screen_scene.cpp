@@ -122,6 +122,11 @@ SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
         font.file = file;
         families[file] = FamilyOf(font);
         paths[file] = pathOfShapes(file);
+        // Styles may leave the extension of a shape font out.
+        if (file.view().find(L'.') == std::wstring_view::npos && !file.isEmpty()) {
+            const OdString whole = file + L".shx";
+            paths[whole] = pathOfShapes(whole);
+        }
     }
     SceneOptions options;
     options.shapeFile = [paths = std::move(paths)](const OdString& name) {

@@ -184,7 +184,8 @@ TEST(Pictures, FramesAreLeftOutWhereTheDrawingSaysSo) {
 
 TEST(Pictures, LieAboveWhatComesBeforeAndBelowTheRest) {
     const Parts parts{.entities = std::string("0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0|") +
-                                  "0 TEXT|8 0|10 0|20 0|30 0|40 1|1 below|" + kImage +
+                                  "0 TEXT|8 0|10 0|20 0|30 0|40 1|1 below|" +
+                                  "0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0|" + kImage +
                                   "70 7|0 TEXT|8 0|10 0|20 0|30 0|40 1|1 above",
                       .objects = kDefinition};
     const OdDbDatabasePtr drawing = drawingOf(parts);
@@ -196,7 +197,7 @@ TEST(Pictures, LieAboveWhatComesBeforeAndBelowTheRest) {
         scene, [&](std::size_t i) { order += "p" + std::to_string(i); },
         [&](std::size_t i) { order += "t" + std::to_string(i); },
         [&](std::size_t i) { order += "i" + std::to_string(i); });
-    EXPECT_EQ(order, "p0t0i0p1t1");
+    EXPECT_EQ(order, "p0t0p1i0p2t1");
 }
 
 TEST(Pictures, OneThatHasNoAreaIsLeftOut) {
