@@ -405,3 +405,26 @@ TEST_F(DrawingPlots, APictureThatIsThereTwiceIsWrittenOnce) {
     EXPECT_NEAR(mixed[1], 127, 2);
     EXPECT_NEAR(mixed[2], 127, 2);
 }
+
+TEST_F(DrawingPlots, WhatIsClearInAPictureIsClearOnThePage) {
+    Scene scene;
+    SceneImage& image = scene.images.emplace_back();
+    image.picture = std::make_shared<ScenePicture>(2, 1, std::vector<PicturePixel>{0xFFFF0000, 0x000000FF});
+    image.across = {40, 0};
+    image.up = {0, 20};
+    image.isTransparent = true;
+    PdfWriter file;
+    PdfPage& page = file.addPage(40, 20);
+    page.setFillColor({0, 255, 0});
+    page.moveTo({0, 0});
+    page.lineTo({40, 0});
+    page.lineTo({40, 20});
+    page.lineTo({0, 20});
+    page.fill();
+    PlotScene(file, page, scene, {}, plot_test::face, {});
+    const std::string path = (folder / "clear.pdf").string();
+    std::ofstream(path, std::ios::binary) << file.write();
+    const Picture shown = pictureOf(path);
+    EXPECT_EQ(shown.at(10, 10), (std::array<int, 3>{255, 0, 0}));
+    EXPECT_EQ(shown.at(30, 10), (std::array<int, 3>{0, 255, 0}));
+}

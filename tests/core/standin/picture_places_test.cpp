@@ -28,8 +28,9 @@ TEST(PicturePlacesTest, AnotherOneFromTheDrawingsFolder) {
 TEST(PicturePlacesTest, NowhereForWhatIsNoFile) {
     EXPECT_EQ(PicturePlaces(L"", L"C:\\work"), Places{});
     EXPECT_EQ(PicturePlaces(L"plans\\", L"C:\\work"), Places{L"C:\\work\\plans\\"});
-    for (const wchar_t* name : {L"\\\\.\\PhysicalDrive0", L"//./COM1", L"\\\\?\\C:\\x.png", L"http://x/y.png",
-                                L"site.png:stream", L"C:site.png", L"C:\\a\\b.png:c"})
+    for (const wchar_t* name :
+         {L"\\\\.\\PhysicalDrive0", L"//./COM1", L"\\\\?\\C:\\x.png", L"\\\\?\\UNC\\server\\x.png",
+          L"http://x/y.png", L"site.png:stream", L"C:site.png", L"C:\\a\\b.png:c"})
         EXPECT_EQ(PicturePlaces(name, L"C:\\work"), Places{}) << name;
 }
 
