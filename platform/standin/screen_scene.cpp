@@ -110,6 +110,18 @@ SceneOptions ScreenSceneOptions(OdDbDatabase& drawing, bool waitsForPictures) {
     return options;
 }
 
+SceneOptions UnaskedSceneOptions(OdDbDatabase& drawing) {
+    SceneOptions options;
+    options.picture = picturesOf(drawing, PictureReading::kAll);
+    options.textWidth = textWidths([](const SceneFont& font) { return font.family; });
+    return options;
+}
+
+void NameFamilies(Scene& scene) {
+    for (SceneText& text : scene.texts)
+        if (text.font.family.isEmpty()) text.font.family = TextFaceOf(text.font, {}).lfFaceName;
+}
+
 SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
     Answers families, paths;
     OdDbTextStyleTablePtr styles;

@@ -131,7 +131,7 @@ double rounded(double value, double step) { return step > 0 ? std::round(value /
 /// A pattern's parts before and behind the number, which is "<>"; all of one without that stands behind.
 std::pair<std::wstring, std::wstring> around(const std::wstring& pattern, const wchar_t* number) {
     const std::size_t at = pattern.find(number);
-    if (at == std::wstring::npos) return {L"", pattern};
+    if (at == std::wstring::npos) return {std::wstring(), pattern};
     return {pattern.substr(0, at), pattern.substr(at + 2)};
 }
 
@@ -234,12 +234,12 @@ DimensionMeasure AngleMeasure(double angle, const DimensionStyle& style) {
         if (units == kDegreesMinutesSeconds) std::replace(text.begin(), text.end(), L'd', L'\u00B0');
         return text;
     };
-    return {withTolerance(angle * 180 / std::numbers::pi, L"", style, write), L""};
+    return {withTolerance(angle * 180 / std::numbers::pi, {}, style, write), {}};
 }
 
 OdString DimensionWords(const OdString& own, const DimensionMeasure& measure) {
     if (own == L" ") return {};
-    const std::wstring between = measure.alternate.empty() ? L"" : L" ";
+    const std::wstring between(measure.alternate.empty() ? 0 : 1, L' ');
     if (own.isEmpty()) return OdString(measure.main + between + measure.alternate);
     std::wstring words(own.view());
     const std::size_t other = words.find(L"[]");
