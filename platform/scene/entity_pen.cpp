@@ -143,9 +143,32 @@ bool EntityPen::writeStrokes(const PlacedText& text) const {
     return true;
 }
 
-/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
 void EntityPen::text(const PlacedText& text) const {
-    if (writeStrokes(text)) return;
+    const std::vector<StrokeFonts::Run> runs = m_work.strokes().runs(text.font, text.text.view());
+    if (runs.size() < 2) {
+        if (!writeStrokes(text)) writeLetters(text);
+        return;
+    }
+    const double whole = m_work.textWidth(text.font, text.text.view());
+    if (!(whole > 0)) return;
+    const double across = text.fitWidth > 0 ? std::copysign(text.fitWidth / whole, text.widthFactor)
+                                            : text.height * text.widthFactor;
+    double left = -whole * std::clamp(text.horizontal, 0, 2) / 2;
+    for (const StrokeFonts::Run& run : runs) {
+        if (m_work.isOver()) return;
+        const double width = m_work.textWidth(text.font, run.text);
+        PlacedText part = text;
+        part.text = OdString(std::wstring(run.text));
+        part.position = text.position + text.along * (across * left);
+        part.horizontal = 0;
+        part.fitWidth = text.fitWidth * width / whole;
+        if (!run.isWritten || !writeStrokes(part)) writeLetters(part);
+        left += width;
+    }
+}
+
+/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
+void EntityPen::writeLetters(const PlacedText& text) const {
     const OdGePoint2d along = Flat(m_level.place.turned(text.along)) * text.widthFactor;
     const OdGePoint2d up = Flat(m_level.place.turned(text.up + text.along * std::tan(text.font.oblique)));
     const double width = Length(along);

@@ -79,6 +79,7 @@ public:
 
 private:
     bool writeStrokes(const PlacedText& text) const;
+    void writeLetters(const PlacedText& text) const;
     ScenePath newPath() const;
     std::vector<OdGePoint2d> flattened(const std::vector<OdGePoint3d>& points) const;
     void addStroke(ScenePath path) const;

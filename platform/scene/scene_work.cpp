@@ -89,9 +89,15 @@ void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePo
 double SceneWork::textWidth(const SceneFont& font, std::wstring_view text) {
     // A long paragraph measures many words before it draws the first.
     if (isStopped()) return 0;
-    double width = 0;
-    if (m_strokes.measure(font, text, width)) return width;
-    return m_options.textWidth ? m_options.textWidth(font, text) : EstimatedTextWidth(font, text);
+    double sum = 0;
+    for (const StrokeFonts::Run& run : m_strokes.runs(font, text)) {
+        double width = 0;
+        if (!run.isWritten || !m_strokes.measure(font, run.text, width))
+            width = m_options.textWidth ? m_options.textWidth(font, run.text)
+                                        : EstimatedTextWidth(font, run.text);
+        sum += width;
+    }
+    return sum;
 }
 
 double SceneWork::markSize(double setting) const {

@@ -75,6 +75,18 @@ bool StrokeFonts::eachLetter(const SceneFont& font, std::wstring_view text, Use 
     return true;
 }
 
+std::vector<StrokeFonts::Run> StrokeFonts::runs(const SceneFont& font, std::wstring_view text) {
+    const ShapeFile* const file = fileOf(font);
+    if (file == nullptr) return {{text, false}};
+    std::vector<Run> found;
+    for (std::size_t begin = 0, end = 0; begin < text.size(); begin = end) {
+        const bool isWritten = numberOf(*file, text[begin]) != 0;
+        while (end < text.size() && (numberOf(*file, text[end]) != 0) == isWritten) ++end;
+        found.push_back({text.substr(begin, end - begin), isWritten});
+    }
+    return found;
+}
+
 bool StrokeFonts::write(const SceneFont& font, std::wstring_view text, StrokeText& written,
                         const std::function<bool(std::size_t)>& spend) {
     written = {};

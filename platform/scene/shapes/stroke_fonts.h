@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "shapes/shape_files.h"
 
@@ -25,6 +26,12 @@ public:
                const std::function<bool(std::size_t)>& spend);
     /// The same for its width alone.
     bool measure(const SceneFont& font, std::wstring_view text, double& width);
+    /// The parts of a text that the font has, and those for which another font has to stand.
+    struct Run {
+        std::wstring_view text;
+        bool isWritten;
+    };
+    std::vector<Run> runs(const SceneFont& font, std::wstring_view text);
     /// The files of shape fonts that weren't there or are none.
     const std::set<std::wstring>& missing() const { return m_missing; }
 

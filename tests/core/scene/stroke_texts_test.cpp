@@ -151,8 +151,18 @@ TEST(StrokeTexts, AScreenFontStandsForWhatIsMissing) {
     EXPECT_EQ(gone.texts[0].font.file, L"plain.shx");
     EXPECT_EQ(gone.missingFonts, std::set<std::wstring>{L"plain.shx"});
     const Scene lacking = sceneOf(text("I\\U+4E2D"));
-    EXPECT_EQ(lacking.texts.size(), 1u) << "a letter that the font lacks";
-    EXPECT_TRUE(lacking.paths.empty());
+    EXPECT_TRUE(hasStrokes(lacking, {{100, 200}, {100, 220}}));
+    ASSERT_EQ(lacking.texts.size(), 1u) << "a letter that the font lacks";
+    EXPECT_EQ(lacking.texts[0].text, L"\u4E2D");
+    EXPECT_TRUE(isAt(lacking.texts[0].position, 108, 200));
+    // The letter is 2000 wide.
+    const Scene centred = sceneOf(text("I\\U+4E2DI%%u-", "72 1|11 5000|21 200|31 0"));
+    ASSERT_EQ(centred.texts.size(), 1u);
+    EXPECT_NEAR(centred.texts[0].position.x, 5000 - (8 + 2000 + 8 + 12) / 2.0 + 8, 1e-6);
+    ASSERT_EQ(centred.paths.size(), 3u);
+    EXPECT_TRUE(goesThrough(centred.paths[0], {{3986, 200}, {3986, 220}}));
+    EXPECT_TRUE(isAt(centred.paths[1].points[0], 5994, 200));
+    EXPECT_TRUE(goesThrough(centred.paths[2], {{6002, 196}, {6014, 196}})) << "the line below the dash";
     EXPECT_TRUE(lacking.missingFonts.empty());
     const Scene shapes = sceneOf(text("I"), indexedFont(letters(), "FONT\0\0\x02\0"s));
     EXPECT_EQ(shapes.texts.size(), 1u) << "a file of shapes is no font";
