@@ -1,86 +1,65 @@
 #include "pictures/picture_decoder.h"
 
-#include <afxwin.h>
-#include <atlimage.h>
+#include <windows.h>
+
 #include <shlwapi.h>
+#include <wincodec.h>
 
 #include <algorithm>
-#include <cmath>
 #include <new>
 
 #include "pictures/picture_header.h"
 
 namespace {
 
-struct ReleaseStream {
-    void operator()(IStream* stream) const { stream->Release(); }
+struct ReleaseIt {
+    void operator()(IUnknown* object) const { object->Release(); }
 };
+template <class Object>
+using Reference = std::unique_ptr<Object, ReleaseIt>;
 
-/// Rows of a picture that the system unpacked, as pixels.
-class Rows {
+/// What `make` puts into the pointer that it is given; null if it fails.
+template <class Object, class Make>
+Reference<Object> made(Make make) {
+    Object* object = nullptr;
+    if (FAILED(make(&object))) object = nullptr;
+    return Reference<Object>(object);
+}
+
+/// COM for its lifetime, whether or not the caller has it.
+class ComInUse {
 public:
-    Rows(const CImage& image, bool ignoresOpacity)
-        : m_image(image), m_bits(image.GetBPP()), m_ignoresOpacity(ignoresOpacity) {
-        if (m_bits > 8) return;
-        RGBQUAD colors[256] = {};
-        image.GetColorTable(0, static_cast<UINT>(image.GetMaxColorTableEntries()), colors);
-        for (int i = 0; i < 256; ++i)
-            m_colors[i] = i == image.GetTransparentColor()
-                              ? 0
-                              : opaque(colors[i].rgbRed, colors[i].rgbGreen, colors[i].rgbBlue);
+    ComInUse() : m_result(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+    ~ComInUse() {
+        if (SUCCEEDED(m_result)) ::CoUninitialize();
     }
-    PicturePixel pixel(const BYTE* row, int x) const {
-        switch (m_bits) {
-            case 1: return m_colors[row[x / 8] >> (7 - x % 8) & 1];
-            case 4: return m_colors[x % 2 == 0 ? row[x / 2] >> 4 : row[x / 2] & 15];
-            case 8: return m_colors[row[x]];
-            case 24: return opaque(row[3 * x + 2], row[3 * x + 1], row[3 * x]);
-            default: return wide(row + 4 * x);
-        }
-    }
-    const BYTE* row(int y) const {
-        return static_cast<const BYTE*>(m_image.GetBits()) + static_cast<ptrdiff_t>(m_image.GetPitch()) * y;
-    }
+    ComInUse(const ComInUse&) = delete;
+    ComInUse& operator=(const ComInUse&) = delete;
 
 private:
-    static PicturePixel opaque(unsigned red, unsigned green, unsigned blue) {
-        return 0xFF000000 | red << 16 | green << 8 | blue;
-    }
-    /// Colours come multiplied by the opacity.
-    PicturePixel wide(const BYTE* at) const {
-        const unsigned alpha = at[3];
-        if (m_ignoresOpacity || alpha == 255) return opaque(at[2], at[1], at[0]);
-        if (alpha == 0) return 0;
-        const auto whole = [alpha](unsigned value) {
-            return std::min((value * 255 + alpha / 2) / alpha, 255u);
-        };
-        return alpha << 24 | whole(at[2]) << 16 | whole(at[1]) << 8 | whole(at[0]);
-    }
-
-    const CImage& m_image;
-    int m_bits;
-    bool m_ignoresOpacity;
-    PicturePixel m_colors[256] = {};
+    HRESULT m_result;
 };
 
-/// The mean of a square of pixels.
-PicturePixel meanOf(const Rows& rows, int left, int top, int size) {
-    std::uint64_t alpha = 0, red = 0, green = 0, blue = 0;
-    for (int y = top; y < top + size; ++y) {
-        const BYTE* const row = rows.row(y);
-        for (int x = left; x < left + size; ++x) {
-            const PicturePixel pixel = rows.pixel(row, x);
-            const std::uint64_t weight = pixel >> 24;
-            alpha += weight;
-            red += weight * (pixel >> 16 & 0xFF);
-            green += weight * (pixel >> 8 & 0xFF);
-            blue += weight * (pixel & 0xFF);
-        }
+/// The mean of squares of `part` pixels in `part` rows of `width`, added to `pixels`.
+void addMeans(const std::vector<PicturePixel>& rows, int width, int part, std::vector<PicturePixel>& pixels) {
+    for (int left = 0; left + part <= width; left += part) {
+        std::uint64_t alpha = 0, red = 0, green = 0, blue = 0;
+        for (int y = 0; y < part; ++y)
+            for (int x = left; x < left + part; ++x) {
+                const PicturePixel pixel =
+                    rows[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                         static_cast<std::size_t>(x)];
+                const std::uint64_t weight = pixel >> 24;
+                alpha += weight;
+                red += weight * (pixel >> 16 & 0xFF);
+                green += weight * (pixel >> 8 & 0xFF);
+                blue += weight * (pixel & 0xFF);
+            }
+        const auto count = static_cast<std::uint64_t>(part) * static_cast<std::uint64_t>(part);
+        pixels.push_back(alpha == 0 ? 0
+                                    : static_cast<PicturePixel>((alpha / count) << 24 | (red / alpha) << 16 |
+                                                                (green / alpha) << 8 | blue / alpha));
     }
-    if (alpha == 0) return 0;
-    const auto count = static_cast<std::uint64_t>(size) * static_cast<std::uint64_t>(size);
-    return static_cast<PicturePixel>((alpha / count) << 24 | (red / alpha) << 16 | (green / alpha) << 8 |
-                                     blue / alpha);
 }
 
 bool isInkOnPaper(const std::vector<PicturePixel>& pixels) {
@@ -88,24 +67,61 @@ bool isInkOnPaper(const std::vector<PicturePixel>& pixels) {
                        [](PicturePixel each) { return each == 0xFF000000 || each == 0xFFFFFFFF; });
 }
 
-std::shared_ptr<const ScenePicture> pictureFrom(const CImage& image, const PictureHeader& header) {
-    const int width = image.GetWidth(), height = image.GetHeight();
-    const auto count = static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height);
-    if (width < 1 || height < 1 || count > kMostPicturePixels) return nullptr;
-    int part = 1;
-    while (count / static_cast<unsigned>(part * part) > kMostKeptPixels) ++part;
+/// The source's pixels, some rows at a time.
+std::shared_ptr<const ScenePicture> pictureFrom(IWICBitmapSource& source, const PictureHeader& header) {
+    constexpr PicturePixel kOpaque = 0xFF000000;
+    UINT width = 0, height = 0;
+    if (FAILED(source.GetSize(&width, &height)) || width < 1 || height < 1) return nullptr;
+    const std::uint64_t count = std::uint64_t{width} * height;
+    if (count > kMostPicturePixels) return nullptr;
+    UINT part = 1;
+    while (count / (part * part) > kMostKeptPixels) ++part;
     part = std::min({part, width, height});
-    const Rows rows(image, header.kind == PictureKind::kBmp);
-    const int across = width / part, down = height / part;
-    std::vector<PicturePixel> pixels;
-    pixels.reserve(static_cast<std::size_t>(across) * static_cast<std::size_t>(down));
-    for (int y = 0; y < down; ++y) {
-        const BYTE* const row = rows.row(y);
-        for (int x = 0; x < across; ++x)
-            pixels.push_back(part == 1 ? rows.pixel(row, x) : meanOf(rows, x * part, y * part, part));
+    std::vector<PicturePixel> pixels, rows(std::size_t{width} * part);
+    pixels.reserve(static_cast<std::size_t>(count / (part * part)));
+    for (UINT top = 0; top + part <= height; top += part) {
+        const WICRect band = {0, static_cast<INT>(top), static_cast<INT>(width), static_cast<INT>(part)};
+        const auto size = static_cast<UINT>(rows.size() * sizeof(PicturePixel));
+        if (FAILED(source.CopyPixels(&band, width * sizeof(PicturePixel), size,
+                                     reinterpret_cast<BYTE*>(rows.data()))))
+            return nullptr;
+        // Bitmaps have no opacity: their fourth byte means nothing.
+        if (header.kind == PictureKind::kBmp)
+            for (PicturePixel& pixel : rows) pixel |= kOpaque;
+        if (part == 1)
+            pixels.insert(pixels.end(), rows.begin(), rows.end());
+        else
+            addMeans(rows, static_cast<int>(width), static_cast<int>(part), pixels);
     }
     const bool isBitonal = header.isBitonal && part == 1 && isInkOnPaper(pixels);
-    return std::make_shared<ScenePicture>(across, down, std::move(pixels), isBitonal);
+    return std::make_shared<ScenePicture>(static_cast<int>(width / part), static_cast<int>(height / part),
+                                          std::move(pixels), isBitonal);
+}
+
+std::shared_ptr<const ScenePicture> decode(const std::string& bytes, const PictureHeader& header) {
+    const ComInUse com;
+    const Reference<IStream> stream(
+        ::SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size())));
+    const auto factory = made<IWICImagingFactory>([](IWICImagingFactory** object) {
+        return ::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                  IID_IWICImagingFactory, reinterpret_cast<void**>(object));
+    });
+    if (!stream || !factory) return nullptr;
+    const auto decoder = made<IWICBitmapDecoder>([&](IWICBitmapDecoder** object) {
+        return factory->CreateDecoderFromStream(stream.get(), nullptr, WICDecodeMetadataCacheOnDemand,
+                                                object);
+    });
+    if (!decoder) return nullptr;
+    const auto frame = made<IWICBitmapFrameDecode>(
+        [&](IWICBitmapFrameDecode** object) { return decoder->GetFrame(0, object); });
+    const auto converter = made<IWICFormatConverter>(
+        [&](IWICFormatConverter** object) { return factory->CreateFormatConverter(object); });
+    if (!frame || !converter) return nullptr;
+    // In memory its bytes are blue, green, red and opacity, as those of a pixel are.
+    if (FAILED(converter->Initialize(frame.get(), GUID_WICPixelFormat32bppBGRA, WICBitmapDitherTypeNone,
+                                     nullptr, 0, WICBitmapPaletteTypeCustom)))
+        return nullptr;
+    return pictureFrom(*converter, header);
 }
 
 }  // namespace
@@ -114,11 +130,7 @@ std::shared_ptr<const ScenePicture> DecodePicture(const std::string& bytes) {
     const PictureHeader header = ReadPictureHeader(bytes);
     if (header.kind == PictureKind::kNone || header.pixels > kMostPicturePixels) return nullptr;
     try {
-        const std::unique_ptr<IStream, ReleaseStream> stream(::SHCreateMemStream(
-            reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size())));
-        CImage image;
-        if (!stream || FAILED(image.Load(stream.get()))) return nullptr;
-        return pictureFrom(image, header);
+        return decode(bytes, header);
     } catch (const std::bad_alloc&) {
         return nullptr;
     }

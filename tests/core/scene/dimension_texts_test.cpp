@@ -82,7 +82,10 @@ TEST(DimensionTexts, FractionsAreStacked) {
     const Drawn level = dimension("|277 4|276 0|144 .78125|271 4");
     EXPECT_EQ(said(level), L"1'-3(21:5)(21:8)\"");
     EXPECT_EQ(level.paths().size(), 6u) << "with a bar";
-    EXPECT_EQ(said("|277 5|276 1|144 .78125|271 4"), L"15(21:5)(21:8)");
+    const Drawn slanted = dimension("|277 5|276 1|144 .78125|271 4");
+    EXPECT_EQ(said(slanted), L"15(21:5)(21:8)");
+    EXPECT_NE(slanted.paths().back().points.front().y, slanted.paths().back().points.back().y);
+    EXPECT_EQ(level.paths().back().points.front().y, level.paths().back().points.back().y);
 }
 
 TEST(DimensionTexts, TolerancesAreEqualOrStacked) {
