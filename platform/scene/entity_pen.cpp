@@ -1,5 +1,6 @@
 #include "entity_pen.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "geometry/curve_points.h"
@@ -103,8 +104,71 @@ void EntityPen::endless(const OdGePoint3d& base, const SpaceVector& direction, b
     m_work.addEndless(newPath(), onPlane(base), Flat(m_level.place.turned(direction)), bothWays);
 }
 
-/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
+void EntityPen::image(SceneImage image, const OdGePoint3d& origin, const SpaceVector& across,
+                      const SpaceVector& up) const {
+    image.origin = onPlane(origin);
+    image.across = Flat(m_level.place.turned(across));
+    image.up = Flat(m_level.place.turned(up));
+    image.style = m_look.style;
+    image.entity = m_level.entity;
+    m_work.add(std::move(image));
+}
+
+/// Writes a text in the strokes of its font; false where that is no shape font that has its letters.
+bool EntityPen::writeStrokes(const PlacedText& text) const {
+    StrokeText written;
+    const auto spend = [this](std::size_t amount) { return m_work.spend(amount); };
+    if (text.text.isEmpty() || !(text.height > 0)) return false;
+    if (!m_work.strokes().write(text.font, text.text.view(), written, spend)) return false;
+    const bool isFitted = text.fitWidth > 0 && written.width > 0;
+    const double across = isFitted ? std::copysign(text.fitWidth / written.width, text.widthFactor)
+                                   : text.height * text.widthFactor;
+    SceneText rows;
+    rows.height = 1;
+    rows.vertical = text.vertical;
+    const double left = written.width * std::clamp(text.horizontal, 0, 2) / 2, drop = BaseLineDrop(rows);
+    const SpaceVector up = (text.up + text.along * std::tan(text.font.oblique)) * text.height;
+    const SpaceVector along = text.along * across;
+    std::vector<OdGePoint3d> points;
+    ScenePath path = newPath();
+    for (const std::vector<OdGePoint2d>& line : written.lines) {
+        if (!points.empty()) path.breaks.push_back(points.size());
+        for (const OdGePoint2d& point : line)
+            points.push_back(text.position + along * (point.x - left) + up * (point.y - drop));
+    }
+    path.points = flattened(points);
+    path.style.dashes.clear();
+    path.isLetters = true;
+    m_work.add(std::move(path));
+    return true;
+}
+
 void EntityPen::text(const PlacedText& text) const {
+    const std::vector<StrokeFonts::Run> runs = m_work.strokes().runs(text.font, text.text.view());
+    if (runs.size() < 2) {
+        if (!writeStrokes(text)) writeLetters(text);
+        return;
+    }
+    const double whole = m_work.textWidth(text.font, text.text.view());
+    if (!(whole > 0)) return;
+    const double across = text.fitWidth > 0 ? std::copysign(text.fitWidth / whole, text.widthFactor)
+                                            : text.height * text.widthFactor;
+    double left = -whole * std::clamp(text.horizontal, 0, 2) / 2;
+    for (const StrokeFonts::Run& run : runs) {
+        if (m_work.isOver()) return;
+        const double width = m_work.textWidth(text.font, run.text);
+        PlacedText part = text;
+        part.text = OdString(std::wstring(run.text));
+        part.position = text.position + text.along * (across * left);
+        part.horizontal = 0;
+        part.fitWidth = text.fitWidth * width / whole;
+        if (!run.isWritten || !writeStrokes(part)) writeLetters(part);
+        left += width;
+    }
+}
+
+/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
+void EntityPen::writeLetters(const PlacedText& text) const {
     const OdGePoint2d along = Flat(m_level.place.turned(text.along)) * text.widthFactor;
     const OdGePoint2d up = Flat(m_level.place.turned(text.up + text.along * std::tan(text.font.oblique)));
     const double width = Length(along);

@@ -73,8 +73,13 @@ public:
     void wipe(const std::vector<OdGePoint3d>& points) const;
     void endless(const OdGePoint3d& base, const SpaceVector& direction, bool bothWays) const;
     void text(const PlacedText& text) const;
+    /// A picture; `image` says which and how it looks. Its corner and sides are given here.
+    void image(SceneImage image, const OdGePoint3d& origin, const SpaceVector& across,
+               const SpaceVector& up) const;
 
 private:
+    bool writeStrokes(const PlacedText& text) const;
+    void writeLetters(const PlacedText& text) const;
     ScenePath newPath() const;
     std::vector<OdGePoint2d> flattened(const std::vector<OdGePoint3d>& points) const;
     void addStroke(ScenePath path) const;

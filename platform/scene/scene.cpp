@@ -14,6 +14,12 @@ SceneExtents extentsOf(const ScenePath& path) {
     return result;
 }
 
+SceneExtents extentsOf(const SceneImage& image) {
+    SceneExtents result;
+    for (const OdGePoint2d& corner : CornersOf(image)) result.add(corner);
+    return result;
+}
+
 SceneExtents extentsOf(const SceneText& text) {
     SceneExtents result;
     const double width = TextExtent(text), left = -width * text.horizontal / 2;
@@ -47,6 +53,12 @@ void SceneExtents::cut(const SceneExtents& other) {
     low = {std::max(low.x, other.low.x), std::max(low.y, other.low.y)};
     high = {std::min(high.x, other.high.x), std::min(high.y, other.high.y)};
     if (low.x > high.x || low.y > high.y) *this = {};
+}
+
+std::array<OdGePoint2d, 4> CornersOf(const SceneImage& image) {
+    const OdGePoint2d right = {image.origin.x + image.across.x, image.origin.y + image.across.y};
+    return {image.origin, right, OdGePoint2d{right.x + image.up.x, right.y + image.up.y},
+            OdGePoint2d{image.origin.x + image.up.x, image.origin.y + image.up.y}};
 }
 
 double BaseLineDrop(const SceneText& text) {
@@ -85,6 +97,7 @@ SceneExtents Scene::extents() const {
     for (const ScenePath& path : paths)
         if (!path.isEndless) take(extentsOf(path), path.clip);
     for (const SceneText& text : texts) take(extentsOf(text), text.clip);
+    for (const SceneImage& image : images) take(extentsOf(image), image.clip);
     return result;
 }
 

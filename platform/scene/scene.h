@@ -5,7 +5,10 @@
 //     for (const ScenePath& path : scene.paths) ...
 #pragma once
 
+#include <array>
 #include <map>
+#include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,6 +17,7 @@
 #include "scene_api.h"
 
 struct SceneOptions;
+class ScenePicture;
 
 /// How a piece of the scene is drawn. "By layer" and "by block" are resolved already.
 struct DisplayStyle {
@@ -45,6 +49,7 @@ struct ScenePath {
     /// The points at which a further line begins, or a further boundary of the area; ascending, never 0. What
     /// an odd count of boundaries surrounds is filled.
     std::vector<std::size_t> breaks = {};
+    bool isLetters = false;  ///< the lines are the strokes of a text
     bool wipes = false;      ///< the area hides what lies below, in the colour of the paper
     bool isEndless = false;  ///< a piece of a line without end, which no extent counts
     int clip = kNoClip;      ///< which of the scene's clips it is seen through
@@ -86,6 +91,24 @@ KTSCENE_API double BaseLineDrop(const SceneText& text);
 /// About how wide a text is, in drawing units; below 0 if it runs backwards.
 KTSCENE_API double TextExtent(const SceneText& text);
 
+/// A picture, laid over what is below it.
+struct SceneImage {
+    std::shared_ptr<const ScenePicture> picture;  ///< never null in a scene
+    OdGePoint2d origin;                           ///< of the whole picture's lower left corner
+    OdGePoint2d across, up;                       ///< from there to the lower right and the upper left corner
+    int brightness = 50, contrast = 50;           ///< 0 to 100; as in the file at 50
+    int fade = 0;                                 ///< 0 to 100: how far it goes over into the paper
+    bool isTransparent = false;                   ///< whether what is clear in the file is clear here
+    DisplayStyle style;
+    OdDbObjectId entity;         ///< the entity of the space that it belongs to
+    std::size_t pathsBelow = 0;  ///< how many of the scene's paths are drawn before it
+    std::size_t textsBelow = 0;  ///< how many of the scene's texts are drawn before it
+    int clip = kNoClip;          ///< which of the scene's clips it is seen through
+};
+
+/// The corners of a whole image: lower left, lower right, upper right, upper left.
+KTSCENE_API std::array<OdGePoint2d, 4> CornersOf(const SceneImage& image);
+
 /// An outline through which pieces are seen.
 struct SceneClip {
     std::vector<OdGePoint2d> outline;  ///< closed by itself
@@ -108,12 +131,17 @@ struct KTSCENE_API SceneExtents {
 struct KTSCENE_API Scene {
     std::vector<ScenePath> paths;
     std::vector<SceneText> texts;
+    std::vector<SceneImage> images;
     std::vector<SceneClip> clips;
     bool showsLineWeights = true;  ///< whether lines are drawn with their weights, or all thin
     /// How many entities of which kind (names as in a file) have no look here.
     std::map<std::string, int> notDrawn;
+    /// Shape fonts that no file gives, whose texts a screen font stands for.
+    std::set<std::wstring> missingFonts;
     /// Whether the building ended before everything was drawn: at the work limit, or because it was stopped.
     bool isCut = false;
+    /// Whether a picture isn't in it that would be there when it is built anew later.
+    bool awaitsPictures = false;
     bool isStopped = false;  ///< whether it was stopped; what was drawn until then is whole
 
     /// The area that everything takes up, text boxes estimated; lines without end don't count.

@@ -24,4 +24,9 @@ SceneBounds::SceneBounds(const Scene& scene) {
     }
     m_texts.reserve(scene.texts.size());
     for (const SceneText& text : scene.texts) m_texts.push_back(boundsOf(text));
+    m_images.reserve(scene.images.size());
+    for (const SceneImage& image : scene.images) {
+        SceneExtents& bounds = m_images.emplace_back();
+        for (const OdGePoint2d& corner : CornersOf(image)) bounds.add(corner);
+    }
 }

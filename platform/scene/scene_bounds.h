@@ -17,7 +17,9 @@ public:
     const SceneExtents& path(std::size_t number) const { return m_paths[number]; }
     /// What the scene's text `number` may take up in any font: more than is estimated for it.
     const SceneExtents& text(std::size_t number) const { return m_texts[number]; }
+    /// What the whole of the scene's image `number` takes up, whatever clips hide of it.
+    const SceneExtents& image(std::size_t number) const { return m_images[number]; }
 
 private:
-    std::vector<SceneExtents> m_paths, m_texts;
+    std::vector<SceneExtents> m_paths, m_texts, m_images;
 };

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -21,6 +22,14 @@ using SceneTextWidth = std::function<double(const SceneFont& font, std::wstring_
 /// The bytes of a file of shapes that a drawing names; empty if there is none.
 using SceneShapeFile = std::function<std::string(const OdString& fileName)>;
 
+/// What there is of a picture file.
+struct FoundPicture {
+    std::shared_ptr<const ScenePicture> picture;  ///< null for a file that is missing or no picture
+    bool isLater = false;                         ///< no picture yet: reading it here would take too long
+};
+/// The picture in a file that a drawing names.
+using ScenePictureFile = std::function<FoundPicture(const OdString& fileName)>;
+
 struct SceneOptions {
     SceneUse use = SceneUse::kScreen;
     /// How far a curve's points may leave it, in drawing units; 0 for arcs in steps of five degrees and other
@@ -33,6 +42,8 @@ struct SceneOptions {
     SceneTextWidth textWidth = {};
     /// Without one, shapes aren't drawn.
     SceneShapeFile shapeFile = {};
+    /// Without one, pictures are frames with the names of their files.
+    ScenePictureFile picture = {};
     /// When this much work is done (about one for each point, 40 for each path, text and entity), building
     /// ends and says so.
     std::size_t workLimit = 40'000'000;

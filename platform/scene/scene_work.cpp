@@ -18,7 +18,7 @@ bool isDrawable(const OdGePoint2d& point) {
 }  // namespace
 
 SceneWork::SceneWork(OdDbDatabase& drawing, const SceneOptions& options)
-    : m_drawing(drawing), m_options(options), m_shapes(options.shapeFile) {
+    : m_drawing(drawing), m_options(options), m_shapes(options.shapeFile), m_pictures(options.picture) {
     m_scene.showsLineWeights = options.use == SceneUse::kPaper || drawing.getLWDISPLAY() != 0;
 }
 
@@ -43,6 +43,11 @@ void SceneWork::showPercent() const {
     m_options.percent->store(std::clamp(ofLimit, m_percentDrawn, 100), std::memory_order_relaxed);
 }
 
+int SceneWork::addClip(std::vector<OdGePoint2d> outline) {
+    m_scene.clips.push_back({std::move(outline), m_clip});
+    return static_cast<int>(m_scene.clips.size()) - 1;
+}
+
 void SceneWork::add(ScenePath path) {
     if (path.points.empty() || !std::all_of(path.points.begin(), path.points.end(), isDrawable)) return;
     if (!spend(kPieceCost + path.points.size())) return;
@@ -60,6 +65,15 @@ void SceneWork::add(SceneText text) {
     m_scene.texts.push_back(std::move(text));
 }
 
+void SceneWork::add(SceneImage image) {
+    const bool isWhole = isDrawable(image.origin) && isDrawable(image.across) && isDrawable(image.up);
+    if (!isWhole || !(std::abs(Cross(image.across, image.up)) > 0) || !spend(kPieceCost)) return;
+    image.clip = m_clip;
+    image.pathsBelow = m_scene.paths.size();
+    image.textsBelow = m_scene.texts.size();
+    m_scene.images.push_back(std::move(image));
+}
+
 void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePoint2d& direction,
                            bool bothWays) {
     const double length = Length(direction);
@@ -75,7 +89,15 @@ void SceneWork::addEndless(ScenePath path, const OdGePoint2d& base, const OdGePo
 double SceneWork::textWidth(const SceneFont& font, std::wstring_view text) {
     // A long paragraph measures many words before it draws the first.
     if (isStopped()) return 0;
-    return m_options.textWidth ? m_options.textWidth(font, text) : EstimatedTextWidth(font, text);
+    double sum = 0;
+    for (const StrokeFonts::Run& run : m_strokes.runs(font, text)) {
+        double width = 0;
+        if (!run.isWritten || !m_strokes.measure(font, run.text, width))
+            width = m_options.textWidth ? m_options.textWidth(font, run.text)
+                                        : EstimatedTextWidth(font, run.text);
+        sum += width;
+    }
+    return sum;
 }
 
 double SceneWork::markSize(double setting) const {
@@ -101,6 +123,7 @@ Scene SceneWork::take() {
         points[1] = line.base + line.direction * reach;
     }
     m_endless.clear();
+    m_scene.missingFonts = m_strokes.missing();
     m_spent = 0;
     return std::exchange(m_scene, {});
 }

@@ -5,9 +5,11 @@
 #include <set>
 #include <vector>
 
+#include "pictures/picture_files.h"
 #include "rules/line_pattern.h"
 #include "scene_options.h"
 #include "shapes/shape_files.h"
+#include "shapes/stroke_fonts.h"
 
 class SceneWork {
 public:
@@ -17,10 +19,14 @@ public:
     const SceneOptions& options() const { return m_options; }
     LinePatterns& patterns() { return m_patterns; }
     ShapeFiles& shapes() { return m_shapes; }
+    StrokeFonts& strokes() { return m_strokes; }
+    PictureFiles& pictures() { return m_pictures; }
     Scene& scene() { return m_scene; }
     /// The clip of what is added from now on.
     int clip() const { return m_clip; }
     void setClip(int clip) { m_clip = clip; }
+    /// Adds a clip within the present one; answers which it is.
+    int addClip(std::vector<OdGePoint2d> outline);
 
     /// Does some work; false when the limit is reached or building was stopped, and the scene says so then.
     bool spend(std::size_t amount);
@@ -30,6 +36,7 @@ public:
 
     void add(ScenePath path);
     void add(SceneText text);
+    void add(SceneImage image);
     /// A line without end: from `base` along `direction`, and backwards too for `bothWays`.
     void addEndless(ScenePath path, const OdGePoint2d& base, const OdGePoint2d& direction, bool bothWays);
     void noteNotDrawn(const char* kind) { ++m_scene.notDrawn[kind]; }
@@ -60,6 +67,8 @@ private:
     SceneOptions m_options;
     LinePatterns m_patterns;
     ShapeFiles m_shapes;
+    StrokeFonts m_strokes{m_shapes};
+    PictureFiles m_pictures;
     Scene m_scene;
     std::vector<Endless> m_endless;
     std::set<OdDbHandle> m_open;

@@ -9,6 +9,7 @@
 #include <kh_system.h>
 
 #include "file_bytes.h"
+#include "pictures/picture_store.h"
 #include "text_face.h"
 
 namespace {
@@ -78,6 +79,13 @@ std::string bytesAt(const OdString& path) {
     return bytes;
 }
 
+ScenePictureFile picturesOf(const OdDbDatabase& drawing, PictureReading reading) {
+    const std::wstring_view path = drawing.getFilename().view();
+    const std::size_t end = path.find_last_of(L"\\/");
+    const std::wstring folder(path.substr(0, end == std::wstring_view::npos ? 0 : end + 1));
+    return PictureStore::Shared().source(folder, reading);
+}
+
 /// What the host answered for the names in a drawing's text styles.
 using Answers = std::map<OdString, OdString>;
 
@@ -95,6 +103,25 @@ SceneOptions ScreenSceneOptions() {
     return options;
 }
 
+SceneOptions ScreenSceneOptions(OdDbDatabase& drawing, bool waitsForPictures) {
+    SceneOptions options = ScreenSceneOptions();
+    options.picture =
+        picturesOf(drawing, waitsForPictures ? PictureReading::kAll : PictureReading::kUnpacked);
+    return options;
+}
+
+SceneOptions UnaskedSceneOptions(OdDbDatabase& drawing) {
+    SceneOptions options;
+    options.picture = picturesOf(drawing, PictureReading::kAll);
+    options.textWidth = textWidths([](const SceneFont& font) { return font.family; });
+    return options;
+}
+
+void NameFamilies(Scene& scene) {
+    for (SceneText& text : scene.texts)
+        if (text.font.family.isEmpty()) text.font.family = TextFaceOf(text.font, {}).lfFaceName;
+}
+
 SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
     Answers families, paths;
     OdDbTextStyleTablePtr styles;
@@ -107,11 +134,17 @@ SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
         font.file = file;
         families[file] = FamilyOf(font);
         paths[file] = pathOfShapes(file);
+        // Styles may leave the extension of a shape font out.
+        if (file.view().find(L'.') == std::wstring_view::npos && !file.isEmpty()) {
+            const OdString whole = file + L".shx";
+            paths[whole] = pathOfShapes(whole);
+        }
     }
     SceneOptions options;
     options.shapeFile = [paths = std::move(paths)](const OdString& name) {
         return bytesAt(answerFor(paths, name));
     };
+    options.picture = picturesOf(drawing, PictureReading::kAll);
     options.textWidth = textWidths([families = std::move(families)](const SceneFont& font) {
         return font.family.isEmpty() ? answerFor(families, font.file) : font.family;
     });

@@ -18,7 +18,7 @@ void DrawBlockPictures(CImageList& pictures, OdDbDatabase& drawing, const std::v
     pictures.DeleteImageList();
     pictures.Create(size, size, ILC_COLOR24, static_cast<int>(blocks.size()), 1);
     CWindowDC screen(nullptr);
-    SceneOptions options = ScreenSceneOptions();
+    SceneOptions options = ScreenSceneOptions(drawing);
     options.workLimit = std::max(kMostWork / std::max(blocks.size(), std::size_t{1}), kLeastWork);
     for (const BlockRow& block : blocks) {
         CDC memory;

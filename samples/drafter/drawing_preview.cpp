@@ -109,7 +109,7 @@ HBITMAP drawnPreview(const wchar_t* path) {
     if (const HBITMAP kept = bitmapIn(picture)) return kept;
     const OdDbDatabasePtr drawing(new OdDbDatabase);
     if (drawing->readDxf(path) != kOdOk) return nullptr;
-    const std::string dib = DrawingThumbnail(*drawing);
+    const std::string dib = DrawingThumbnail(*drawing, false);
     if (dib.empty()) return nullptr;
     keep(folder, picture, dib);
     return bitmapIn(picture);

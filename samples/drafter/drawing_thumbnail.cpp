@@ -49,10 +49,11 @@ struct DeleteBitmap {
 
 static_assert(kThumbnailWidth % 4 == 0, "the rows have no bytes to fill them up");
 
-std::string DrawingThumbnail(OdDbDatabase& drawing) {
-    SceneOptions options = ScreenSceneOptions();
+std::string DrawingThumbnail(OdDbDatabase& drawing, bool asksHost) {
+    SceneOptions options = asksHost ? ScreenSceneOptions(drawing) : UnaskedSceneOptions(drawing);
     options.workLimit = kMostWork;
-    const Scene scene = BuildScene(drawing, drawing.modelSpaceId(), options);
+    Scene scene = BuildScene(drawing, drawing.modelSpaceId(), options);
+    if (!asksHost) NameFamilies(scene);
     if (scene.extents().isEmpty()) return {};
     const Image image = emptyImage();
     void* bits = nullptr;

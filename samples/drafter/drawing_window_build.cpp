@@ -25,7 +25,7 @@ void CDrawingWindow::Refresh(bool keepPlace) {
     SceneOptions options = m_desk.ViewSceneOptions(drawing(), false);
     const std::size_t limit = std::exchange(options.workLimit, std::min(kWorkAtOnce, options.workLimit));
     Scene scene = BuildScene(drawing(), m_space, options);
-    const bool isWhole = !scene.isCut || limit <= kWorkAtOnce;
+    const bool isWhole = (!scene.isCut || limit <= kWorkAtOnce) && !scene.awaitsPictures;
     m_notice = UndrawnText(scene);
     if (isWhole || !m_wasShown || !keepPlace) {
         SceneBounds bounds(scene);

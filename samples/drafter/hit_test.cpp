@@ -169,6 +169,14 @@ OdDbObjectId EntityAt(const Scene& scene, const SceneBounds& bounds, const OdGeP
     }
     for (const ScenePath* path : candidates)
         if (path->filled && isInArea(*path, at)) found = path->entity;
+    if (!found.isNull()) return found;
+    // A picture is hit at its edge, so that a window can be drawn over it.
+    for (std::size_t i = 0; i < scene.images.size(); ++i) {
+        const SceneImage& image = scene.images[i];
+        if (bounds.image(i).meets(around) && isSeen(scene, image.clip, at) &&
+            linesCross(around, CornersOf(image), true))
+            found = image.entity;
+    }
     return found;
 }
 
@@ -182,6 +190,8 @@ std::set<OdDbObjectId> EntitiesInside(const Scene& scene, const SceneExtents& wi
         note(path.entity, isSeenIn(window, scene, path.clip, path.points));
     for (const SceneText& text : scene.texts)
         note(text.entity, isSeenIn(window, scene, text.clip, TextBox(text)));
+    for (const SceneImage& image : scene.images)
+        note(image.entity, isSeenIn(window, scene, image.clip, CornersOf(image)));
     std::set<OdDbObjectId> found;
     for (const auto& [entity, inside] : isInside)
         if (inside && !entity.isNull()) found.insert(entity);
@@ -198,6 +208,10 @@ std::set<OdDbObjectId> EntitiesTouching(const Scene& scene, const SceneExtents& 
         if (const SceneExtents seen = seenPart(scene, text.clip, window);
             !seen.isEmpty() && areaTouches(seen, TextBox(text)))
             found.insert(text.entity);
+    for (const SceneImage& image : scene.images)
+        if (const SceneExtents seen = seenPart(scene, image.clip, window);
+            !seen.isEmpty() && linesCross(seen, CornersOf(image), true))
+            found.insert(image.entity);
     found.erase(OdDbObjectId());
     return found;
 }

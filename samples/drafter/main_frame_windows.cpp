@@ -104,7 +104,7 @@ void CMainFrame::NoticeChanged(const CDrawingWindow& window) {
 }
 
 SceneOptions CMainFrame::ViewSceneOptions(OdDbDatabase& drawing, bool inBackground) {
-    return inBackground ? BackgroundSceneOptions(drawing) : ScreenSceneOptions();
+    return inBackground ? BackgroundSceneOptions(drawing) : ScreenSceneOptions(drawing, false);
 }
 
 /// The drawing comes first, so that the task bar tells one drafter from the other.

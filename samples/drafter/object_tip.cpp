@@ -32,7 +32,7 @@ void addMeasure(OdArray<OdString>& lines, const Scene& scene, const OdDbObjectId
     int paths = 0;
     bool encloses = false;
     for (const ScenePath& path : scene.paths) {
-        if (path.entity != entity) continue;
+        if (path.entity != entity || path.isLetters) continue;
         ++paths;
         length += LengthOf(path.points);
         encloses = path.filled || isClosed(path.points);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 #include <map>
 #include <numbers>
 #include <span>
@@ -12,6 +13,8 @@
 #include <ktui/host/contrast.h>
 
 #include "dash_pattern.h"
+#include "pictures/scene_picture.h"
+#include "scene_order.h"
 #include "text_face.h"
 #include "visible_parts.h"
 
@@ -120,7 +123,7 @@ public:
         m_near = around(window, kFarthest);
     }
 
-    /// Paths and texts in the order in which they lie.
+    /// Paths, texts and images in the order in which they lie.
     void draw();
 
 private:
@@ -131,6 +134,7 @@ private:
     }
     void drawPath(std::size_t number);
     void drawText(std::size_t number);
+    void drawImage(std::size_t number);
     void seeThrough(int clip);
     /// Stays until the next call.
     const std::vector<CPoint>& pixelsOf(std::span<const OdGePoint2d> points);
@@ -221,21 +225,22 @@ void ScenePainter::seeThrough(int clip) {
 }
 
 void ScenePainter::draw() {
-    std::size_t path = 0;
-    const auto drawPaths = [&](std::size_t end) {
-        for (; path < std::min(end, m_scene.paths.size()); ++path) {
-            if (!m_bounds.path(path).meets(m_painted)) continue;
-            seeThrough(m_scene.paths[path].clip);
-            drawPath(path);
-        }
+    const auto path = [this](std::size_t number) {
+        if (!m_bounds.path(number).meets(m_painted)) return;
+        seeThrough(m_scene.paths[number].clip);
+        drawPath(number);
     };
-    for (std::size_t text = 0; text < m_scene.texts.size(); ++text) {
-        drawPaths(m_scene.texts[text].pathsBelow);
-        if (!m_bounds.text(text).meets(m_painted)) continue;
-        seeThrough(m_scene.texts[text].clip);
-        drawText(text);
-    }
-    drawPaths(m_scene.paths.size());
+    const auto text = [this](std::size_t number) {
+        if (!m_bounds.text(number).meets(m_painted)) return;
+        seeThrough(m_scene.texts[number].clip);
+        drawText(number);
+    };
+    const auto image = [this](std::size_t number) {
+        if (!m_bounds.image(number).meets(m_painted)) return;
+        seeThrough(m_scene.images[number].clip);
+        drawImage(number);
+    };
+    InOrder(m_scene, path, text, image);
     seeThrough(kNoClip);
     drawLines();
 }
@@ -346,6 +351,51 @@ void ScenePainter::drawText(std::size_t number) {
     upright.rotation = 0;
     write(upright, height, CPoint(0, 0));
     m_dc.RestoreDC(saved);
+}
+
+/// The part of it that is painted, pixel by pixel.
+void ScenePainter::drawImage(std::size_t number) {
+    const SceneImage& image = m_scene.images[number];
+    drawLines();
+    CRect painted;
+    m_dc.GetClipBox(&painted);
+    SceneExtents seen = m_bounds.image(number);
+    seen.cut(m_near);
+    if (seen.isEmpty()) return;
+    CRect covered(m_place.ToPixel({seen.low.x, seen.high.y}), m_place.ToPixel({seen.high.x, seen.low.y}));
+    covered.InflateRect(1, 1);
+    if (!painted.IntersectRect(painted, CRect(CPoint(0, 0), m_place.size)) ||
+        !painted.IntersectRect(painted, covered))
+        return;
+    const auto inWindow = [this](const OdGePoint2d& p) {
+        return OdGePoint2d{m_place.size.cx / 2.0 + (p.x - m_place.center.x) * m_place.scale,
+                           m_place.size.cy / 2.0 - (p.y - m_place.center.y) * m_place.scale};
+    };
+    const auto step = [this](const OdGePoint2d& v) {
+        return OdGePoint2d{v.x * m_place.scale, -v.y * m_place.scale};
+    };
+    const PictureArea area = {painted.left,           painted.top,        painted.Width(), painted.Height(),
+                              inWindow(image.origin), step(image.across), step(image.up)};
+    const auto pixelOf = [](COLORREF color) {
+        return 0xFF000000u |
+               static_cast<PicturePixel>(GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color));
+    };
+    const std::vector<PicturePixel> pixels =
+        PicturePixels(image, area, {pixelOf(m_colors.paper), pixelOf(colorOf(image.style, image.entity))});
+    CDC memory;
+    CBitmap bitmap;
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), area.width, -area.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    if (!memory.CreateCompatibleDC(&m_dc) ||
+        !bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)))
+        return;
+    std::memcpy(bits, pixels.data(), pixels.size() * sizeof(PicturePixel));
+    CBitmap* const former = memory.SelectObject(&bitmap);
+    const BLENDFUNCTION blend = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    m_dc.AlphaBlend(painted.left, painted.top, area.width, area.height, &memory, 0, 0, area.width,
+                    area.height, blend);
+    memory.SelectObject(former);
 }
 
 /// The text's own factor, or that by which it takes up the width it is to fit.

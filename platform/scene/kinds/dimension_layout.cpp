@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <functional>
 #include <numbers>
 
 #include "geometry/curve_points.h"
@@ -18,8 +20,6 @@ enum Kind { kRotated, kAligned, kAngular, kDiameter, kRadius, kAngularByPoints, 
 
 constexpr double kUsualTextHeight = 0.18, kUsualArrowSize = 0.18, kUsualGap = 0.09, kUsualOffset = 0.0625,
                  kUsualBeyond = 0.18;
-
-double degrees(double radians) { return radians * 180 / std::numbers::pi; }
 
 OdGePoint2d unit(const OdGePoint2d& v, const OdGePoint2d& otherwise) {
     const double length = Length(v);
@@ -43,17 +43,25 @@ private:
     void arrow(const OdGePoint2d& tip, const OdGePoint2d& direction, bool isSecond) const;
     void extension(const OdGePoint2d& from, const OdGePoint2d& to, int offCode) const;
     void lineWithArrows(const OdGePoint2d& from, const OdGePoint2d& to) const;
-    void text(const OdString& measure, const OdGePoint2d& usual, double angle) const;
+    void text(const DimensionMeasure& measure, const OdGePoint2d& usual, double angle) const;
     bool textPlace(OdGePoint2d& place) const;
+
+    /// What an arc of so many radians measures.
+    using MeasureOfSweep = std::function<DimensionMeasure(double sweep)>;
 
     void linear(const OdGePoint2d& direction);
     void diameter();
     void radius();
     void angular(const OdGePoint2d& center, const OdGePoint2d& first, const OdGePoint2d& second,
-                 const OdGePoint2d& onArc);
+                 const OdGePoint2d& onArc, const MeasureOfSweep& measureOf);
+    DimensionMeasure angleOf(double sweep) const { return AngleMeasure(sweep, m_style); }
     void angularBetweenLines();
     void ordinate();
-    OdString measured(double value) const;
+    void arcLength();
+    void joggedRadius();
+    DimensionMeasure measured(double value, std::wstring_view sign = {}) const {
+        return LengthMeasure(value, sign, m_style);
+    }
 
     const OdDbDimension& m_dimension;
     EntityPen m_pen;
@@ -80,13 +88,6 @@ EntityPen Layout::penFor(int colorCode, int weightCode) const {
         m_pen.rules().setLineWeight(own.look(), m_style.integer(weightCode, OdDb::kLnWtByBlock),
                                     m_pen.look());
     return own;
-}
-
-OdString Layout::measured(double value) const {
-    const double rounding = m_style.real(kRounding, 0);
-    value *= std::abs(m_style.real(kMeasureFactor, 1));
-    if (rounding > 0) value = std::round(value / rounding) * rounding;
-    return MeasureText(value, m_style.integer(kDecimals, 4), m_style);
 }
 
 void Layout::arrow(const OdGePoint2d& tip, const OdGePoint2d& direction, bool isSecond) const {
@@ -137,8 +138,8 @@ bool Layout::textPlace(OdGePoint2d& place) const {
     return !(place == OdGePoint2d{});
 }
 
-void Layout::text(const OdString& measure, const OdGePoint2d& usual, double angle) const {
-    const OdString words = DimensionWords(m_dimension.dimensionText(), measure, m_style);
+void Layout::text(const DimensionMeasure& measure, const OdGePoint2d& usual, double angle) const {
+    const OdString words = DimensionWords(m_dimension.dimensionText(), measure);
     if (words.isEmpty()) return;
     // Letters never stand on their heads.
     double turn = std::remainder(angle, 2 * std::numbers::pi);
@@ -177,7 +178,7 @@ void Layout::linear(const OdGePoint2d& direction) {
 void Layout::diameter() {
     const OdGePoint2d from = pointAt(10), to = pointAt(15), way = to - from;
     lineWithArrows(from, to);
-    text(OdString(L"\u00D8") + measured(Length(way)), (from + to) * 0.5, std::atan2(way.y, way.x));
+    text(measured(Length(way), L"\u00D8"), (from + to) * 0.5, std::atan2(way.y, way.x));
 }
 
 void Layout::radius() {
@@ -187,11 +188,11 @@ void Layout::radius() {
     const OdGePoint2d direction = unit(onArc - from, {1, 0});
     line(penFor(kLineColor, kLineWeight), from, onArc);
     arrow(onArc, direction, false);
-    text(OdString(L"R") + measured(Length(way)), (center + onArc) * 0.5, std::atan2(way.y, way.x));
+    text(measured(Length(way), L"R"), (center + onArc) * 0.5, std::atan2(way.y, way.x));
 }
 
 void Layout::angular(const OdGePoint2d& center, const OdGePoint2d& first, const OdGePoint2d& second,
-                     const OdGePoint2d& onArc) {
+                     const OdGePoint2d& onArc, const MeasureOfSweep& measureOf) {
     constexpr double kTurn = 2 * std::numbers::pi;
     const double size = Length(onArc - center);
     const auto angleOf = [&](const OdGePoint2d& p) { return std::atan2(p.y - center.y, p.x - center.x); };
@@ -212,9 +213,38 @@ void Layout::angular(const OdGePoint2d& center, const OdGePoint2d& first, const 
     penFor(kLineColor, kLineWeight).arc(raised(center), {size, 0, 0}, {0, size, 0}, start, sweep);
     arrow(at(start), along(start) * -1, false);
     arrow(at(end), along(end), true);
-    const OdString value = MeasureText(degrees(sweep), m_style.integer(kAngleDecimals, 0), m_style);
     const double middle = start + sweep / 2;
-    text(value + OdString(L"\u00B0"), at(middle), middle - std::numbers::pi / 2);
+    text(measureOf(sweep), at(middle), middle - std::numbers::pi / 2);
+}
+
+/// As the angle of three points, with the length of the arc through the measured ones.
+void Layout::arcLength() {
+    enum { kInFront, kAbove, kNoSign };
+    const OdGePoint2d center = pointAt(15), first = pointAt(13);
+    if (!(Length(first - center) > 0)) return m_pen.work().noteNotDrawn(m_dimension.dxfName());
+    const bool hasSign = m_style.integer(kArcSymbol, kInFront) != kNoSign;
+    angular(center, first, pointAt(14), pointAt(10), [&](double sweep) {
+        return measured(Length(first - center) * sweep, hasSign ? L"\u2312" : L"");
+    });
+}
+
+/// From a place that stands for the centre to the arc, with a jog in between.
+void Layout::joggedRadius() {
+    const OdGePoint2d center = pointAt(10), onArc = pointAt(15), from = pointAt(13), jog = pointAt(14);
+    const OdGePoint2d way = onArc - center, direction = unit(way, {1, 0});
+    if (!(Length(way) > 0)) return m_pen.work().noteNotDrawn(m_dimension.dxfName());
+    const double angle = m_dimension.groups().real(40, std::numbers::pi / 4);
+    const double c = std::cos(angle), s = std::sin(angle);
+    const OdGePoint2d across = {direction.x * c - direction.y * s, direction.x * s + direction.y * c};
+    const auto onJog = [&](const OdGePoint2d& base) {
+        const double area = Cross(across, direction);
+        return std::abs(area) > 1e-9 ? jog + across * (Cross(base - jog, direction) / area) : jog;
+    };
+    penFor(kLineColor, kLineWeight)
+        .stroke(
+            std::vector<OdGePoint3d>{raised(from), raised(onJog(from)), raised(onJog(onArc)), raised(onArc)});
+    arrow(onArc, direction, false);
+    text(measured(Length(way), L"R"), (onJog(onArc) + onArc) * 0.5, std::atan2(way.y, way.x));
 }
 
 void Layout::angularBetweenLines() {
@@ -232,7 +262,8 @@ void Layout::angularBetweenLines() {
     const auto nearest = [&](const OdGePoint2d& p, const OdGePoint2d& q, const OdGePoint2d& direction) {
         return Dot(p - center, direction) > Dot(q - center, direction) ? p : q;
     };
-    angular(center, nearest(a, b, side(u, v)), nearest(c, d, side(v, u)), onArc);
+    angular(center, nearest(a, b, side(u, v)), nearest(c, d, side(v, u)), onArc,
+            [this](double sweep) { return angleOf(sweep); });
 }
 
 void Layout::ordinate() {
@@ -252,6 +283,8 @@ void Layout::ordinate() {
 }
 
 void Layout::draw() {
+    if (std::strcmp(m_dimension.dxfName(), "ARC_DIMENSION") == 0) return arcLength();
+    if (std::strcmp(m_dimension.dxfName(), "LARGE_RADIAL_DIMENSION") == 0) return joggedRadius();
     const double angle = m_dimension.groups().real(50) * std::numbers::pi / 180;
     switch (m_dimension.dimensionType()) {
         case kRotated: linear({std::cos(angle), std::sin(angle)}); break;
@@ -259,7 +292,10 @@ void Layout::draw() {
         case kAngular: angularBetweenLines(); break;
         case kDiameter: diameter(); break;
         case kRadius: radius(); break;
-        case kAngularByPoints: angular(pointAt(15), pointAt(13), pointAt(14), pointAt(10)); break;
+        case kAngularByPoints:
+            angular(pointAt(15), pointAt(13), pointAt(14), pointAt(10),
+                    [this](double sweep) { return angleOf(sweep); });
+            break;
         case kOrdinate: ordinate(); break;
         default: m_pen.work().noteNotDrawn(m_dimension.dxfName()); break;
     }

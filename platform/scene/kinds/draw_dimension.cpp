@@ -1,6 +1,4 @@
 // Dimensions by their blocks; without one from their style and points.
-#include <cstring>
-
 #include "block_walk.h"
 #include "kinds/dimension_layout.h"
 #include "kinds/draw_functions.h"
@@ -10,14 +8,7 @@ void DrawDimension(const OdDbEntity& entity, EntityPen& pen) {
     const auto* dimension = As<OdDbDimension>(entity);
     if (dimension == nullptr) return;
     const OdDbObjectId block = dimension->dimBlockId();
-    if (block.isNull()) {
-        // The points of the other kinds mean something else.
-        if (std::strcmp(entity.dxfName(), "DIMENSION") == 0)
-            LayOutDimension(*dimension, pen);
-        else
-            pen.work().noteNotDrawn(entity.dxfName());
-        return;
-    }
+    if (block.isNull()) return LayOutDimension(*dimension, pen);
     // A copy of a dimension may share its block, moved.
     const EntityPen inPlane = pen.inPlaneOf(entity).withDots();
     OdGroup group;

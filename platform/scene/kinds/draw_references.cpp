@@ -9,6 +9,7 @@
 #include "kinds/draw_functions.h"
 #include "kinds/draw_single_line.h"
 #include "kinds/entity_cast.h"
+#include "rules/reference_clip.h"
 
 namespace {
 
@@ -31,6 +32,19 @@ void drawAttributes(const OdDbBlockReference& reference, const EntityPen& pen) {
     }
 }
 
+/// The block within `pen`, as far as the reference's boundary lets it be seen.
+void drawClipped(const std::vector<OdGePoint3d>& boundary, const OdDbObjectId& block, const EntityPen& pen) {
+    if (boundary.empty()) return DrawBlockWithin(pen, block);
+    SceneWork& work = pen.work();
+    if (!work.spend(boundary.size())) return;
+    std::vector<OdGePoint2d> outline;
+    for (const OdGePoint3d& point : boundary) outline.push_back(pen.onPlane(point));
+    const int before = work.clip();
+    work.setClip(work.addClip(std::move(outline)));
+    DrawBlockWithin(pen, block);
+    work.setClip(before);
+}
+
 }  // namespace
 
 void DrawReference(const OdDbEntity& entity, EntityPen& pen) {
@@ -48,11 +62,12 @@ void DrawReference(const OdDbEntity& entity, EntityPen& pen) {
                                  .within(SpaceTransform::Turned(reference->rotation()));
     const SpaceTransform inner =
         SpaceTransform::Scaled(reference->scaleFactors()).after(SpaceTransform::Moved(block->origin() * -1));
+    const std::vector<OdGePoint3d> boundary = ReferenceClip(entity);
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column) {
             if (!pen.work().spend(kCellCost)) return;
             const OdGePoint3d cell{column * reference->columnSpacing(), row * reference->rowSpacing(), 0};
-            DrawBlockWithin(placed.within(SpaceTransform::Moved(cell).after(inner)), block->objectId());
+            drawClipped(boundary, block->objectId(), placed.within(SpaceTransform::Moved(cell).after(inner)));
         }
     drawAttributes(*reference, pen);
 }

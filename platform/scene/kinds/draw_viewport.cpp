@@ -8,20 +8,21 @@
 #include "geometry/curve_points.h"
 #include "kinds/draw_functions.h"
 #include "kinds/entity_cast.h"
+#include "rules/viewport_view.h"
 
 namespace {
 
 /// From model space to the sheet.
-SpaceTransform ontoSheet(const OdDbViewport& viewport) {
-    const double scale = viewport.height() / viewport.viewHeight();
-    const OdGePoint2d seen = viewport.viewCenter();
+SpaceTransform ontoSheet(const OdDbViewport& viewport, const ViewportView& view) {
+    const double scale = viewport.height() / view.height;
+    const OdGePoint2d seen = view.center;
     // The centre of the view is counted in its plane, turned with it.
     return SpaceTransform::Moved(viewport.centerPoint())
         .after(SpaceTransform::Scaled({scale, scale, scale}))
         .after(SpaceTransform::Moved({-seen.x, -seen.y, 0}))
-        .after(SpaceTransform::Turned(viewport.twistAngle()))
-        .after(SpaceTransform::SeenAlong(viewport.viewDirection()))
-        .after(SpaceTransform::Moved(viewport.viewTarget() * -1));
+        .after(SpaceTransform::Turned(view.twist))
+        .after(SpaceTransform::SeenAlong(view.direction))
+        .after(SpaceTransform::Moved(view.target * -1));
 }
 
 /// The outline that an entity of the sheet gives: a polyline or circle, flattened.
@@ -67,20 +68,20 @@ void DrawViewport(const OdDbEntity& entity, EntityPen& pen) {
     if (!(viewport->width() > 0) || !(viewport->height() > 0)) return;
     SceneWork& work = pen.work();
     const std::vector<OdGePoint2d> outline = outlineOf(*viewport, pen);
-    if (viewport->isOn() && viewport->viewHeight() > 0) {
+    const ViewportView view = ViewOf(*viewport);
+    if (viewport->isOn() && view.height > 0) {
         StyleRules rules(work.drawing(), work.options().use, work.patterns(), entity.objectId());
         // Dashes keep their lengths on the sheet, unless the drawing scales them with what is seen.
         const bool scalesDashes = work.drawing().getPSLTSCALE() == 0;
         if (scalesDashes)
-            rules.setPatternScale(work.drawing().getLTSCALE() * viewport->height() / viewport->viewHeight());
+            rules.setPatternScale(work.drawing().getLTSCALE() * viewport->height() / view.height);
         SceneLevel inner = pen.level();
         inner.rules = &rules;
         inner.surrounding = {};
-        inner.place = pen.level().place.after(ontoSheet(*viewport));
+        inner.place = pen.level().place.after(ontoSheet(*viewport, view));
         ++inner.depth;
         const int before = work.clip();
-        work.scene().clips.push_back({outline, before});
-        work.setClip(static_cast<int>(work.scene().clips.size()) - 1);
+        work.setClip(work.addClip(outline));
         DrawBlock(work, work.drawing().modelSpaceId(), inner);
         work.setClip(before);
     }

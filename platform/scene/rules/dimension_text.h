@@ -3,9 +3,18 @@
 
 #include "rules/dimension_style.h"
 
-/// A measure with the style's decimals, separator and suppressed zeros.
-OdString MeasureText(double value, int decimals, const DimensionStyle& style);
+/// The parts of what a dimension says of its measure, with the codes of a paragraph.
+struct DimensionMeasure {
+    std::wstring main;       ///< with what the style puts around it and its tolerance, or its limits
+    std::wstring alternate;  ///< in the style's other units; empty for none
+};
 
-/// The whole text of a dimension: `measure` with what the style puts around it, in place of "<>" in the
-/// entity's own words; empty for words that are a blank.
-OdString DimensionWords(const OdString& own, const OdString& measure, const DimensionStyle& style);
+/// A length in drawing units. `sign` stands in front of the number.
+DimensionMeasure LengthMeasure(double length, std::wstring_view sign, const DimensionStyle& style);
+
+/// An angle in radians.
+DimensionMeasure AngleMeasure(double angle, const DimensionStyle& style);
+
+/// The whole text of a dimension: its measure in place of "<>" in the entity's own words, and its alternate
+/// one in place of "[]"; empty for words that are a blank.
+OdString DimensionWords(const OdString& own, const DimensionMeasure& measure);

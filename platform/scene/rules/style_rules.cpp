@@ -1,8 +1,7 @@
 #include "rules/style_rules.h"
 
-#include <od_db_viewport.h>
-
 #include "rules/layer_overrides.h"
+#include "rules/viewport_view.h"
 
 StyleRules::StyleRules(OdDbDatabase& drawing, SceneUse use, LinePatterns& patterns,
                        const OdDbObjectId& viewport)
@@ -13,7 +12,7 @@ StyleRules::StyleRules(OdDbDatabase& drawing, SceneUse use, LinePatterns& patter
         m_byBlock = linetypes->getLinetypeByBlockId();
     }
     if (const auto window = viewport.open<OdDbViewport>())
-        for (const OdDbHandle layer : window->frozenLayers()) m_frozen.insert(layer);
+        for (const OdDbHandle layer : ViewOf(*window).frozen) m_frozen.insert(layer);
 }
 
 const Look& StyleRules::outermost() {

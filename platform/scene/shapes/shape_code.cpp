@@ -29,6 +29,8 @@ public:
     explicit Tracer(const std::map<int, std::string>& codes) : m_codes(codes) {}
     void run(const std::string& code, int depth);
     ShapeLines take();
+    /// Where the pen stands.
+    OdGePoint2d place() const { return m_at; }
 
 private:
     void moveBy(double x, double y);
@@ -209,27 +211,52 @@ ShapeLines Tracer::take() {
 
 ShapeFile::ShapeFile(const std::string& bytes) {
     const std::size_t end = bytes.find('\x1A');
-    if (end == std::string::npos || lowered(bytes.substr(0, end)).rfind("autocad-86 shapes", 0) != 0) return;
-    // First and last number, the count, then an index of numbers and lengths.
-    const int count = little16(bytes, end + 5);
-    std::size_t at = end + 7;
+    if (end == std::string::npos) return;
+    const std::string kind = lowered(bytes.substr(0, end));
+    m_isUnicode = kind.rfind("autocad-86 unifont", 0) == 0;
+    if (m_isUnicode)
+        readUnicode(bytes, end + 1);
+    else if (kind.rfind("autocad-86 shapes", 0) == 0)
+        readIndexed(bytes, end + 1);
+}
+
+/// First and last number, the count, then an index of numbers and lengths.
+void ShapeFile::readIndexed(const std::string& bytes, std::size_t at) {
+    const int count = little16(bytes, at + 4);
+    at += 6;
     std::size_t place = at + static_cast<std::size_t>(std::max(count, 0)) * 4;
     for (int i = 0; i < count; ++i, at += 4) {
         const int number = little16(bytes, at), length = little16(bytes, at + 2);
         if (number < 0 || length < 0 || place + static_cast<std::size_t>(length) > bytes.size()) return;
-        const std::string whole = bytes.substr(place, static_cast<std::size_t>(length));
+        take(number, bytes.substr(place, static_cast<std::size_t>(length)));
         place += static_cast<std::size_t>(length);
-        const std::size_t nameEnd = whole.find('\0');
-        if (nameEnd == std::string::npos) continue;
-        if (number == 0) {
-            // A font is described in place of a shape: its height stands behind the name.
-            if (nameEnd + 1 < whole.size() && whole[nameEnd + 1] != 0)
-                m_capitalHeight = static_cast<unsigned char>(whole[nameEnd + 1]);
-            continue;
-        }
-        m_numbers.emplace(lowered(whole.substr(0, nameEnd)), number);
-        m_codes.emplace(number, whole.substr(nameEnd + 1));
     }
+}
+
+/// The count, then number, length and shape each.
+void ShapeFile::readUnicode(const std::string& bytes, std::size_t at) {
+    const int count = little16(bytes, at);
+    at += 2;
+    for (int i = 0; i < count; ++i) {
+        const int number = little16(bytes, at), length = little16(bytes, at + 2);
+        at += 4;
+        if (number < 0 || length < 0 || at + static_cast<std::size_t>(length) > bytes.size()) return;
+        take(number, bytes.substr(at, static_cast<std::size_t>(length)));
+        at += static_cast<std::size_t>(length);
+    }
+}
+
+void ShapeFile::take(int number, const std::string& whole) {
+    const std::size_t nameEnd = whole.find('\0');
+    if (nameEnd == std::string::npos) return;
+    if (number == 0) {
+        // A font is described in place of a shape: its height stands behind the name.
+        m_isFont = nameEnd + 1 < whole.size() && whole[nameEnd + 1] != 0;
+        if (m_isFont) m_capitalHeight = static_cast<unsigned char>(whole[nameEnd + 1]);
+        return;
+    }
+    m_numbers.emplace(lowered(whole.substr(0, nameEnd)), number);
+    m_codes.emplace(number, whole.substr(nameEnd + 1));
 }
 
 int ShapeFile::numberOf(const std::string& name) const {
@@ -243,4 +270,12 @@ ShapeLines ShapeFile::lines(int number) const {
     Tracer tracer(m_codes);
     tracer.run(code->second, 0);
     return tracer.take();
+}
+
+OdGePoint2d ShapeFile::end(int number) const {
+    const auto code = m_codes.find(number);
+    if (code == m_codes.end()) return {};
+    Tracer tracer(m_codes);
+    tracer.run(code->second, 0);
+    return tracer.place();
 }

@@ -2,8 +2,6 @@
 
 #include <map>
 
-#include "scene_options.h"
-
 namespace {
 
 constexpr double kStampHeight = 2.5;  // millimetres, of capitals
@@ -33,17 +31,6 @@ private:
     std::map<std::string, std::map<wchar_t, double>> m_advances;
 };
 
-Scene plottedScene(OdDbDatabase& drawing, const OdDbObjectId& block, const PlotFaces& faces = {}) {
-    SceneOptions options;
-    options.use = SceneUse::kPaper;
-    PlotTextWidths widths(faces);
-    if (faces)
-        options.textWidth = [&widths](const SceneFont& font, std::wstring_view text) {
-            return widths.of(font, text);
-        };
-    return BuildScene(drawing, block, options);
-}
-
 OdDbObjectId modelSpace(OdDbDatabase& drawing) {
     OdDbBlockTablePtr blocks;
     drawing.getBlockTable(blocks);
@@ -61,7 +48,21 @@ OdDbPlotSettingsPtr PlotSettingsOf(const OdDbLayout& layout, bool overrides) {
 }
 
 SceneExtents ModelExtents(OdDbDatabase& drawing) {
-    return plottedScene(drawing, modelSpace(drawing)).extents();
+    SceneOptions options;
+    options.use = SceneUse::kPaper;
+    return BuildScene(drawing, modelSpace(drawing), options).extents();
+}
+
+Scene DrawingPlot::scene(const OdDbObjectId& block) const {
+    SceneOptions options;
+    options.use = SceneUse::kPaper;
+    options.shapeFile = m_shapes;
+    options.picture = m_pictures;
+    PlotTextWidths widths(m_faces);
+    options.textWidth = [&widths](const SceneFont& font, std::wstring_view text) {
+        return widths.of(font, text);
+    };
+    return BuildScene(m_drawing, block, options);
 }
 
 void DrawingPlot::addModel(const SceneExtents& area, const OdDbPlotSettings& settings, bool keepsScale) {
@@ -74,17 +75,17 @@ void DrawingPlot::addModel(const SceneExtents& area, const OdDbPlotSettings& set
     // A line on the edge keeps its whole width.
     constexpr double kEdge = 1.5;  // points
     page.clip({low.x - kEdge, low.y - kEdge}, {high.x + kEdge, high.y + kEdge});
-    PlotScene(m_file, page, plottedScene(m_drawing, modelSpace(m_drawing), m_faces), place, m_faces, m_look);
+    PlotScene(m_file, page, scene(modelSpace(m_drawing)), place, m_faces, m_look);
     page.restoreState();
 }
 
 void DrawingPlot::addLayout(const OdDbLayout& layout, const OdDbPlotSettings& settings) {
     const OdDbObjectId block = layout.getBlockTableRecordId();
-    const Scene scene = plottedScene(m_drawing, block, m_faces);
-    const PaperPlace place = PlaceLayout(settings, scene.extents());
+    const Scene sheet = scene(block);
+    const PaperPlace place = PlaceLayout(settings, sheet.extents());
     PdfPage& page = m_file.addPage(place.width, place.height);
     m_last = &page;
-    PlotScene(m_file, page, scene, place, m_faces, m_look);
+    PlotScene(m_file, page, sheet, place, m_faces, m_look);
 }
 
 void DrawingPlot::stamp(std::wstring_view text) {

@@ -7,6 +7,7 @@
 
 #include "plotting/layouts_on_paper.h"
 #include "plotting/scene_plotter.h"
+#include "scene_options.h"
 
 /// The name in a layout's extension dictionary under which the settings that override its own are kept.
 constexpr const wchar_t* kPlotOverrideName = L"AcPublish_PlotSettingsOverride";
@@ -22,6 +23,13 @@ public:
     DrawingPlot(OdDbDatabase& drawing, PlotFaces faces, const PlotLook& look)
         : m_drawing(drawing), m_faces(std::move(faces)), m_look(look) {}
 
+    /// Where pages take shapes and pictures from; without it shapes are missing, and of pictures the frames
+    /// are drawn.
+    void setFiles(SceneShapeFile shapes, ScenePictureFile pictures) {
+        m_shapes = std::move(shapes);
+        m_pictures = std::move(pictures);
+    }
+
     /// A page that shows `area` of model space and nothing beside it; `keepsScale` as for PlaceArea.
     void addModel(const SceneExtents& area, const OdDbPlotSettings& settings, bool keepsScale);
     /// A page that shows the sheet of `layout` with what its viewports show of model space.
@@ -34,8 +42,12 @@ public:
     std::string write(std::wstring_view title);
 
 private:
+    Scene scene(const OdDbObjectId& block) const;
+
     OdDbDatabase& m_drawing;
     PlotFaces m_faces;
+    SceneShapeFile m_shapes;
+    ScenePictureFile m_pictures;
     PlotLook m_look;
     PdfWriter m_file;
     PdfPage* m_last = nullptr;

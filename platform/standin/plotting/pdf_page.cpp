@@ -84,3 +84,10 @@ void PdfPage::showText(int font, std::string_view codes, const double (&matrix)[
     put("> Tj");
     put("ET");
 }
+
+void PdfPage::showPicture(int picture, const double (&matrix)[6]) {
+    saveState();
+    put({matrix[0], matrix[1], matrix[2], matrix[3], matrix[4], matrix[5]}, "cm");
+    put("/P" + std::to_string(picture) + " Do");
+    restoreState();
+}

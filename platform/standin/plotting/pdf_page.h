@@ -68,6 +68,10 @@ public:
     /// Shows the codes `codes` of font number `font`; the matrix (a b c d e f) maps one unit of the em.
     void showText(int font, std::string_view codes, const double (&matrix)[6]);
 
+    /// Shows picture number `picture` of the file; the matrix maps a square of 1 to its place, its lower left
+    /// corner at 0, 0.
+    void showPicture(int picture, const double (&matrix)[6]);
+
 private:
     void put(std::string_view what);
     void put(std::initializer_list<double> numbers, std::string_view what);

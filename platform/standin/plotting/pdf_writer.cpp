@@ -7,6 +7,17 @@
 
 namespace {
 
+std::string referTo(int number) { return std::to_string(number) + " 0 R"; }
+
+std::string packed(std::string_view data) {
+    uLongf size = compressBound(static_cast<uLong>(data.size()));
+    std::string result(size, '\0');
+    compress(reinterpret_cast<Bytef*>(result.data()), &size, reinterpret_cast<const Bytef*>(data.data()),
+             static_cast<uLong>(data.size()));
+    result.resize(size);
+    return result;
+}
+
 /// The objects of a file, numbered from 1, and the file that they make.
 class Objects {
 public:
@@ -23,28 +34,30 @@ public:
         set(number, std::move(object));
         return number;
     }
-    int addStream(std::string_view data, const std::string& entries = {});
+    int addStream(std::string_view data, const std::string& entries = {}) {
+        return addPacked(packed(data), entries);
+    }
+    int addPacked(std::string_view body, const std::string& entries);
     std::string file(int catalog, int information) const;
 
 private:
     std::vector<std::string> m_objects;
 };
 
-std::string referTo(int number) { return std::to_string(number) + " 0 R"; }
-
-std::string packed(std::string_view data) {
-    uLongf size = compressBound(static_cast<uLong>(data.size()));
-    std::string result(size, '\0');
-    compress(reinterpret_cast<Bytef*>(result.data()), &size, reinterpret_cast<const Bytef*>(data.data()),
-             static_cast<uLong>(data.size()));
-    result.resize(size);
-    return result;
+int Objects::addPacked(std::string_view body, const std::string& entries) {
+    return add("<< " + entries + "/Filter /FlateDecode /Length " + std::to_string(body.size()) +
+               " >>\nstream\n" + std::string(body) + "\nendstream");
 }
 
-int Objects::addStream(std::string_view data, const std::string& entries) {
-    const std::string body = packed(data);
-    return add("<< " + entries + "/Filter /FlateDecode /Length " + std::to_string(body.size()) +
-               " >>\nstream\n" + body + "\nendstream");
+int addPicture(Objects& objects, const PdfPicture& picture) {
+    const auto entries = [&picture](const char* space) {
+        return "/Type /XObject /Subtype /Image /Width " + std::to_string(picture.width) + " /Height " +
+               std::to_string(picture.height) + " /ColorSpace /" + space + " /BitsPerComponent 8 ";
+    };
+    std::string mask;
+    if (!picture.opacity.empty())
+        mask = "/SMask " + referTo(objects.addPacked(picture.opacity, entries("DeviceGray"))) + " ";
+    return objects.addPacked(picture.colors, entries("DeviceRGB") + mask);
 }
 
 std::string Objects::file(int catalog, int information) const {
@@ -198,16 +211,30 @@ int PdfWriter::layer(std::wstring_view name) {
     return static_cast<int>(std::find(m_layers.begin(), m_layers.end(), name) - m_layers.begin());
 }
 
+int PdfWriter::picture(const PdfPicture& picture) {
+    PdfPicture small = {picture.width, picture.height, packed(picture.colors), {}};
+    if (!picture.opacity.empty()) small.opacity = packed(picture.opacity);
+    const auto found = std::find_if(m_pictures.begin(), m_pictures.end(), [&small](const PdfPicture& each) {
+        return each.width == small.width && each.height == small.height && each.colors == small.colors &&
+               each.opacity == small.opacity;
+    });
+    const auto number = static_cast<int>(found - m_pictures.begin());
+    if (found == m_pictures.end()) m_pictures.push_back(std::move(small));
+    return number;
+}
+
 std::string PdfWriter::write() const {
     Objects objects;
-    std::vector<int> fonts, layers, pages;
+    std::vector<int> fonts, layers, pages, pictures;
+    for (const PdfPicture& picture : m_pictures) pictures.push_back(addPicture(objects, picture));
     for (const PdfFonts::Font& font : m_fonts.fonts()) fonts.push_back(addFont(objects, font));
     for (const std::wstring& name : m_layers)
         layers.push_back(objects.add("<< /Type /OCG /Name " + pdfText(name) + " >>"));
     const int tree = objects.reserve();
     const int resources =
         objects.add("<< /ExtGState << /" + std::string(kMergeState) + " << /BM /Multiply >> >> " +
-                    numbered("/Font", 'F', fonts) + numbered("/Properties", 'L', layers) + ">>");
+                    numbered("/Font", 'F', fonts) + numbered("/Properties", 'L', layers) +
+                    numbered("/XObject", 'P', pictures) + ">>");
     for (const PdfPage& page : m_pages) {
         const int content = objects.addStream(page.content());
         std::string box;

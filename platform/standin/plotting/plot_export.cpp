@@ -5,6 +5,7 @@
 
 #include "own_resources.h"
 #include "plotting/drawing_plot.h"
+#include "screen_scene.h"
 #include "plotting/glyph_outlines.h"
 #include "plotting/plot_options.h"
 #include "resource.h"
@@ -104,8 +105,11 @@ public:
 
 private:
     DrawingPlot start() {
-        return DrawingPlot(
+        DrawingPlot plot(
             m_drawing, [this](const SceneFont& font) { return m_outlines.face(font); }, m_look);
+        SceneOptions screen = ScreenSceneOptions(m_drawing);
+        plot.setFiles(std::move(screen.shapeFile), std::move(screen.picture));
+        return plot;
     }
     UINT finish(DrawingPlot& plot, const CString& path);
 

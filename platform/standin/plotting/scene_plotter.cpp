@@ -4,6 +4,9 @@
 #include <cmath>
 #include <numbers>
 
+#include "pictures/scene_picture.h"
+#include "scene_order.h"
+
 namespace {
 
 constexpr double kHundredthsOfMillimetre = 100;
@@ -34,6 +37,7 @@ public:
 private:
     void draw(const ScenePath& path);
     void draw(const SceneText& text);
+    void draw(const SceneImage& image);
     void seeThrough(const Scene& scene, int clip);
     PdfPoint at(const OdGePoint2d& p) const { return pointOf(m_place.apply(p)); }
     bool beginLayer(const DisplayStyle& style);
@@ -67,21 +71,15 @@ void Plotter::seeThrough(const Scene& scene, int clip) {
     }
 }
 
-/// Paths and texts in the order in which they lie.
+/// All pieces in the order in which they lie.
 void Plotter::draw(const Scene& scene) {
-    std::size_t path = 0;
-    const auto drawPaths = [&](std::size_t end) {
-        for (; path < std::min(end, scene.paths.size()); ++path) {
-            seeThrough(scene, scene.paths[path].clip);
-            draw(scene.paths[path]);
-        }
+    const auto drawEach = [&](const auto& pieces) {
+        return [&](std::size_t number) {
+            seeThrough(scene, pieces[number].clip);
+            draw(pieces[number]);
+        };
     };
-    for (const SceneText& text : scene.texts) {
-        drawPaths(text.pathsBelow);
-        seeThrough(scene, text.clip);
-        draw(text);
-    }
-    drawPaths(scene.paths.size());
+    InOrder(scene, drawEach(scene.paths), drawEach(scene.texts), drawEach(scene.images));
     seeThrough(scene, kNoClip);
 }
 
@@ -200,6 +198,35 @@ void Plotter::draw(const SceneText& text) {
         m_page.showText(run.font, run.codes, matrix);
         along += run.width * stretch;
     }
+    if (isInLayer) m_page.endLayer();
+}
+
+void Plotter::draw(const SceneImage& image) {
+    constexpr PicturePixel kOpaque = 0xFF000000;
+    const PdfColor color = InkOf(image.style.color);
+    const auto ink = static_cast<PicturePixel>(color.red << 16 | color.green << 8 | color.blue);
+    const PictureLook look(image, {0xFFFFFFFF, kOpaque | ink});
+    const ScenePicture::Level& pixels = image.picture->levels().front();
+    PdfPicture picture = {pixels.width, pixels.height, {}, {}};
+    picture.colors.reserve(pixels.pixels.size() * 3);
+    bool isWhole = true;
+    for (const PicturePixel each : pixels.pixels) {
+        const PicturePixel pixel = look(each);
+        for (const int shift : {16, 8, 0}) picture.colors += static_cast<char>(pixel >> shift & 0xFF);
+        picture.opacity += static_cast<char>(pixel >> 24);
+        isWhole = isWhole && pixel >= kOpaque;
+    }
+    if (isWhole) picture.opacity.clear();
+    const PdfPoint corner = at(image.origin);
+    const double scale = m_place.scale;
+    const double matrix[6] = {image.across.x * scale,
+                              image.across.y * scale,
+                              image.up.x * scale,
+                              image.up.y * scale,
+                              corner.x,
+                              corner.y};
+    const bool isInLayer = beginLayer(image.style);
+    m_page.showPicture(m_file.picture(picture), matrix);
     if (isInLayer) m_page.endLayer();
 }
 

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "hit_test.h"
+#include "pictures/scene_picture.h"
 
 namespace {
 
@@ -53,6 +54,28 @@ TEST_F(HitTest, ALineIsHitWithinTheReachAndNotBeyondItsEnds) {
     EXPECT_EQ(at(10.4, 0), line);
     EXPECT_TRUE(at(10.4, 0.4).isNull()) << "the end is round";
     EXPECT_TRUE(at(-0.6, 0).isNull());
+}
+
+TEST_F(HitTest, APictureIsHitAtItsEdgeAndSelectedByAWindow) {
+    const OdDbObjectId line = addLine(100, 100, 101, 100);
+    Scene shown = scene();
+    SceneImage& image = shown.images.emplace_back();
+    image.picture = std::make_shared<ScenePicture>(1, 1, std::vector<PicturePixel>{0});
+    image.origin = {0, 0};
+    image.across = {20, 0};
+    image.up = {0, 10};
+    image.entity = line;
+    EXPECT_EQ(entityAt(shown, {20.4, 5}, kReach), line);
+    EXPECT_TRUE(entityAt(shown, {10, 5}, kReach).isNull()) << "a window can be drawn over it";
+    EXPECT_TRUE(EntitiesInside(shown, window(-1, -1, 200, 200)).contains(line));
+    EXPECT_FALSE(EntitiesInside(shown, window(5, -1, 200, 200)).contains(line));
+    shown.paths.clear();
+    EXPECT_TRUE(EntitiesTouching(shown, window(15, 5, 25, 6)).contains(line));
+    EXPECT_FALSE(EntitiesTouching(shown, window(5, 5, 6, 6)).contains(line));
+    EXPECT_FALSE(EntitiesTouching(shown, window(25, 5, 26, 6)).contains(line));
+    shown.clips.push_back({{{0, 0}, {10, 0}, {10, 10}, {0, 10}}});
+    image.clip = 0;
+    EXPECT_TRUE(entityAt(shown, {20.4, 5}, kReach).isNull()) << "an edge that isn't seen";
 }
 
 TEST_F(HitTest, TheNearerOfTwoLinesIsHitAndOfTwoAlikeTheLaterOne) {

@@ -164,7 +164,7 @@ TEST(SceneDimensions, ArrowheadsAreBlocksOrUsualFigures) {
     EXPECT_EQ(own.paths().size(), 5u) << "the block in place of the usual figure";
 }
 
-TEST(SceneDimensions, OtherKindsWithoutABlockAreCounted) {
+TEST(SceneDimensions, OtherKindsWithoutABlockOrPointsAreCounted) {
     EXPECT_EQ(Drawn("0 ARC_DIMENSION|8 0|70 8").scene.notDrawn.at("ARC_DIMENSION"), 1);
     EXPECT_EQ(Drawn("0 LARGE_RADIAL_DIMENSION|8 0").scene.notDrawn.at("LARGE_RADIAL_DIMENSION"), 1);
 }

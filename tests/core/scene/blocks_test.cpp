@@ -242,4 +242,68 @@ TEST(SceneBlocks, TheOrderOfATableIsTheDrawingOrder) {
     EXPECT_EQ(BuildScene(*drawing, blocks->getAt(L"B")).paths.front().style.color.colorIndex(), 2);
 }
 
+/// A block with a line from 0 to 10 that is referred to at 100, 50, twice as large and turned to the left,
+/// with a boundary that was made when it was where `toBlock` says.
+Scene clipped(
+    const std::string& boundary, const std::string& settings = "71 1|72 0|73 0",
+    const std::string& toBlock = "40 0|40 .5|40 0|40 -25|40 -.5|40 0|40 0|40 50|40 0|40 0|40 .5|40 0",
+    const std::string& toBoundary = "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0") {
+    return Drawn(
+               Parts{.blocks = block("B", "0 LINE|8 0|10 0|20 0|30 0|11 10|21 0|31 0"),
+                     .entities =
+                         "0 INSERT|5 A0|102 {ACAD_XDICTIONARY|360 A1|102 }|8 0|2 B|10 100|20 50|30 0|41 2|42 "
+                         "2|43 2|50 90|0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0",
+                     .objects =
+                         "0 DICTIONARY|5 A1|330 A0|100 AcDbDictionary|3 ACAD_FILTER|360 A2|0 DICTIONARY|5 "
+                         "A2|330 A1|100 AcDbDictionary|3 SPATIAL|360 A3|0 SPATIAL_FILTER|5 A3|330 A2|100 "
+                         "AcDbFilter|100 AcDbSpatialFilter|70 2|" +
+                         boundary + "|210 0|220 0|230 1|11 0|21 0|31 0|" + settings + "|" + toBlock + "|" +
+                         toBoundary})
+        .scene;
+}
+
+TEST(SceneReferences, AreSeenThroughTheirBoundary) {
+    // In the drawing the corners were 90, 54 and 110, 60; nothing has moved since.
+    const Scene scene = clipped("10 90|20 54|10 110|20 60");
+    ASSERT_EQ(scene.paths.size(), 2u);
+    EXPECT_TRUE(goesThrough(scene.paths[0], {{100, 50}, {100, 70}}));
+    ASSERT_EQ(scene.clips.size(), 1u);
+    EXPECT_EQ(scene.paths[0].clip, 0);
+    EXPECT_EQ(scene.paths[1].clip, kNoClip) << "what comes behind it is whole";
+    ASSERT_EQ(scene.clips[0].outline.size(), 4u);
+    EXPECT_TRUE(isAt(scene.clips[0].outline[0], 90, 54));
+    EXPECT_TRUE(isAt(scene.clips[0].outline[1], 110, 54));
+    EXPECT_TRUE(isAt(scene.clips[0].outline[2], 110, 60));
+    EXPECT_TRUE(isAt(scene.clips[0].outline[3], 90, 60));
+}
+
+TEST(SceneReferences, TheirBoundaryMovesWithThem) {
+    // It was made when the reference was at 0, 0, as large as its block and not turned.
+    const Scene scene = clipped("10 1|20 -1|10 3|20 -1|10 3|20 1", "71 1|72 1|40 99|73 1|41 5",
+                                "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0");
+    ASSERT_EQ(scene.clips.size(), 1u);
+    ASSERT_EQ(scene.clips[0].outline.size(), 3u);
+    EXPECT_TRUE(isAt(scene.clips[0].outline[0], 102, 52));
+    EXPECT_TRUE(isAt(scene.clips[0].outline[1], 102, 56));
+    EXPECT_TRUE(isAt(scene.clips[0].outline[2], 98, 56));
+}
+
+TEST(SceneReferences, ABoundaryHasAPlaneOfItsOwn) {
+    // The plane's origin is at 90, 54 of the drawing.
+    const Scene scene = clipped("10 0|20 0|10 20|20 6", "71 1|72 0|73 0",
+                                "40 0|40 .5|40 0|40 -25|40 -.5|40 0|40 0|40 50|40 0|40 0|40 .5|40 0",
+                                "40 1|40 0|40 0|40 -90|40 0|40 1|40 0|40 -54|40 0|40 0|40 1|40 0");
+    ASSERT_EQ(scene.clips.size(), 1u);
+    EXPECT_TRUE(isAt(scene.clips[0].outline.at(0), 90, 54));
+    EXPECT_TRUE(isAt(scene.clips[0].outline.at(2), 110, 60));
+}
+
+TEST(SceneReferences, ABoundaryThatIsOffOrBrokenClipsNothing) {
+    EXPECT_TRUE(clipped("10 90|20 54|10 110|20 60", "71 0|72 0|73 0").clips.empty());
+    EXPECT_TRUE(clipped("10 90|20 54").clips.empty()) << "one corner";
+    EXPECT_TRUE(clipped("10 90|20 54|10 110|20 60", "71 1", "40 1|40 2", "40 3").clips.empty());
+    const std::string flat = "40 0|40 0|40 0|40 0|40 0|40 0|40 0|40 0|40 0|40 0|40 0|40 0";
+    EXPECT_TRUE(clipped("10 90|20 54|10 110|20 60", "71 1", flat, flat).clips.empty()) << "no way back";
+}
+
 }  // namespace

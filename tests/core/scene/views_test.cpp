@@ -167,6 +167,38 @@ TEST(SceneUse, OnPaperLayersThatAreNotPlottedAreMissing) {
     EXPECT_TRUE(BuildScene(*drawing, drawing->modelSpaceId()).showsLineWeights);
 }
 
+/// The data of a view as files before 2000 have it.
+std::string formerView(const std::string& rest = "", const std::string& twist = "0") {
+    return "|1001 ACAD|1000 MVIEW|1002 {|1070 16|1010 1000|1020 900|1030 0|1010 0|1020 0|1030 1|1040 " +
+           twist +
+           "|1040 10|1040 5|1040 100|1040 50|1040 0|1040 0|1070 0|1070 100|1070 1|1070 0|1070 0|1070 0|1070 "
+           "0|1070 "
+           "0|1040 0|1040 7|1040 8|1040 1|1040 1|1040 1|1040 1|1070 0|1002 {" +
+           rest + "|1002 }|1002 }";
+}
+
+const char* const kFormerViewport = "0 VIEWPORT|67 1|8 V|10 100|20 50|30 0|40 40|41 20|68 2|69 2";
+
+TEST(SceneViewports, ThoseOfFilesBefore2000SeeByTheirExtendedData) {
+    const auto sheet = [](const std::string& more) {
+        const OdDbDatabasePtr drawing =
+            drawingOf(Parts{.tables = table("LAYER", kViewLayers),
+                            .entities = std::string(kModelLine) + "|" + kFormerViewport + more,
+                            .version = "AC1009"});
+        return BuildScene(*drawing, drawing->paperSpaceId());
+    };
+    const Scene scene = sheet(formerView());
+    ASSERT_EQ(scene.paths.size(), 2u);
+    EXPECT_TRUE(goesThrough(scene.paths[0], {{90, 50}, {110, 50}})) << "target and centre together";
+    EXPECT_EQ(scene.paths[0].clip, 0);
+    const Scene turned = sheet(formerView("", "1.5707963267948966"));
+    EXPECT_TRUE(goesThrough(turned.paths.at(0), {{-110, -150}, {-110, -130}})) << "turned about the target";
+    EXPECT_EQ(sheet(formerView("|1003 M")).paths.size(), 1u) << "its frozen layer";
+    EXPECT_EQ(sheet(formerView("|1003 GONE")).paths.size(), 2u);
+    EXPECT_EQ(sheet("").paths.size(), 1u) << "nothing is known of its view";
+    EXPECT_EQ(sheet("|1001 ACAD|1000 MVIEW|1002 {|1070 16|1010 0|1020 0|1030 0|1002 }").paths.size(), 1u);
+}
+
 /// A file of shapes: the numbers with their names and codes.
 std::string shapeFile(const std::vector<std::pair<std::string, std::string>>& shapes, int firstNumber = 1) {
     std::string file = "AutoCAD-86 shapes V1.0\r\n\x1A";

@@ -12,6 +12,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "file_groups.h"
+#include "pictures/scene_picture.h"
 #include "plot_faces.h"
 #include "scene_builder.h"
 
@@ -341,4 +343,88 @@ TEST_F(DrawingPlots, AnEmptyDrawingIsAnEmptyPage) {
     DrawingPlot plot = plotOf(drawing);
     plot.addModel({}, *layoutOf(*drawing, L"*Model_Space"), false);
     EXPECT_NE(outputOf("qpdf --check " + save(plot)).find("No syntax"), std::string::npos);
+}
+
+TEST_F(DrawingPlots, PicturesLieInTheFileWhereTheDrawingHasThem) {
+    // Red over blue, turned by a quarter turn so that red is on the left, seen through its right boundary.
+    constexpr PicturePixel kRed = 0xFFFF0000, kBlue = 0xFF0000FF;
+    const auto shown = std::make_shared<ScenePicture>(1, 2, std::vector<PicturePixel>{kRed, kBlue});
+    const std::string file = ui_test::fileGroups(
+        "0 SECTION|2 HEADER|9 $ACADVER|1 AC1032|0 ENDSEC|0 SECTION|2 ENTITIES|"
+        "0 IMAGE|8 0|100 AcDbRasterImage|10 100|20 0|30 0|11 0|21 40|31 0|12 -20|22 0|32 "
+        "0|13 1|23 2|340 D0|70 7|280 0|"
+        "0 IMAGE|8 0|100 AcDbRasterImage|10 0|20 100|30 0|11 80|21 0|31 0|12 0|22 20|32 0|13 "
+        "1|23 2|340 D0|70 7|280 1|71 1|91 2|14 0|24 -.5|14 .5|24 1.5|"
+        "0 ENDSEC|0 SECTION|2 OBJECTS|0 IMAGEDEF|5 D0|330 0|100 AcDbRasterImageDef|1 a.png|"
+        "0 RASTERVARIABLES|5 E0|330 C|70 0|0 ENDSEC|0 EOF");
+    const OdDbDatabasePtr drawing(new OdDbDatabase);
+    ASSERT_EQ(drawing->readDxfBytes(file), kOdOk);
+    layoutOf(*drawing, L"*Model_Space")->setPlotPaperSize(220, 220);
+    DrawingPlot plot = plotOf(drawing);
+    plot.setFiles({}, [&](const OdString& name) {
+        return FoundPicture{name == L"a.png" ? shown : nullptr, false};
+    });
+    SceneExtents area;
+    area.add({0, 0});
+    area.add({200, 200});
+    const OdDbLayoutPtr layout = layoutOf(*drawing, L"*Model_Space");
+    plot.addModel(area, *layout, false);
+    const std::string path = save(plot);
+    EXPECT_NE(outputOf("pdfimages -list " + path).find("\n   1"), std::string::npos);
+    outputOf("qpdf --check " + path);
+    const Picture page = pictureOf(path);
+    const PaperPlace place = PlaceArea(*layout, area, false);
+    const auto color = [&](double x, double y) {
+        const OdGePoint2d at = place.apply({x, y});
+        return page.at(at.x, at.y);
+    };
+    EXPECT_EQ(color(70, 20), (std::array<int, 3>{255, 0, 0}));
+    EXPECT_EQ(color(90, 20), (std::array<int, 3>{0, 0, 255}));
+    EXPECT_TRUE(isWhite(color(70, 60))) << "above it";
+    EXPECT_TRUE(isWhite(color(20, 130))) << "left of the boundary";
+    EXPECT_EQ(color(60, 130), (std::array<int, 3>{255, 0, 0}));
+    EXPECT_EQ(color(60, 110), (std::array<int, 3>{0, 0, 255}));
+}
+
+TEST_F(DrawingPlots, APictureThatIsThereTwiceIsWrittenOnce) {
+    PdfWriter file;
+    const PdfPicture red = {1, 1, std::string("\xFF\0\0", 3), {}}, half = {1, 1, red.colors, "\x80"};
+    EXPECT_EQ(file.picture(red), 0);
+    EXPECT_EQ(file.picture(half), 1);
+    EXPECT_EQ(file.picture(red), 0);
+    PdfPage& page = file.addPage(40, 20);
+    page.showPicture(0, {20, 0, 0, 20, 0, 0});
+    page.showPicture(1, {20, 0, 0, 20, 20, 0});
+    const std::string path = (folder / "two.pdf").string();
+    std::ofstream(path, std::ios::binary) << file.write();
+    outputOf("qpdf --check " + path);
+    const Picture shown = pictureOf(path);
+    EXPECT_EQ(shown.at(10, 10), (std::array<int, 3>{255, 0, 0}));
+    const std::array<int, 3> mixed = shown.at(30, 10);
+    EXPECT_EQ(mixed[0], 255);
+    EXPECT_NEAR(mixed[1], 127, 2);
+    EXPECT_NEAR(mixed[2], 127, 2);
+}
+
+TEST_F(DrawingPlots, WhatIsClearInAPictureIsClearOnThePage) {
+    Scene scene;
+    SceneImage& image = scene.images.emplace_back();
+    image.picture = std::make_shared<ScenePicture>(2, 1, std::vector<PicturePixel>{0xFFFF0000, 0x000000FF});
+    image.across = {40, 0};
+    image.up = {0, 20};
+    image.isTransparent = true;
+    PdfWriter file;
+    PdfPage& page = file.addPage(40, 20);
+    page.setFillColor({0, 255, 0});
+    page.moveTo({0, 0});
+    page.lineTo({40, 0});
+    page.lineTo({40, 20});
+    page.lineTo({0, 20});
+    page.fill();
+    PlotScene(file, page, scene, {}, plot_test::face, {});
+    const std::string path = (folder / "clear.pdf").string();
+    std::ofstream(path, std::ios::binary) << file.write();
+    const Picture shown = pictureOf(path);
+    EXPECT_EQ(shown.at(10, 10), (std::array<int, 3>{255, 0, 0}));
+    EXPECT_EQ(shown.at(30, 10), (std::array<int, 3>{0, 255, 0}));
 }

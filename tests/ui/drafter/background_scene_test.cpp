@@ -1,8 +1,10 @@
 // A heavy drawing is drawn by a thread: the window answers meanwhile, Escape and changes end it, and so does
 // closing.
 #include "drafter_fixture.h"
+#include "file_groups.h"
 #include "heavy_drawing.h"
 #include "measuring_gate.h"
+#include "pictures/scene_picture.h"
 #include "test_desk.h"
 
 namespace {
@@ -80,6 +82,37 @@ TEST_F(BackgroundScene, ASmallDrawingIsShownAtOnceAndByNoThread) {
     EXPECT_EQ(inBackgroundAsked, 0);
     EXPECT_EQ(desk.notice, L"");
     EXPECT_GT(lit(window), 50);
+}
+
+TEST_F(BackgroundScene, APictureThatHasToBeReadComesFromTheThread) {
+    const auto blue = std::make_shared<ScenePicture>(1, 1, std::vector<PicturePixel>{0xFF0000FF});
+    bool isUnpacked = false;
+    desk.sceneOptions = [&](bool inBackground) {
+        inBackgroundAsked += inBackground;
+        SceneOptions options;
+        options.picture = [&, inBackground](const OdString&) {
+            isUnpacked = isUnpacked || inBackground;
+            return FoundPicture{isUnpacked ? blue : nullptr, !isUnpacked};
+        };
+        return options;
+    };
+    auto document = std::make_unique<CDraftDocument>();
+    ASSERT_EQ(
+        document->database()->readDxfBytes(fileGroups(
+            "0 SECTION|2 ENTITIES|0 IMAGE|8 0|100 AcDbRasterImage|10 0|20 0|30 0|11 1|21 0|31 0|12 0|22 1|32 "
+            "0|13 40|23 30|340 D0|70 7|280 0|0 ENDSEC|0 SECTION|2 OBJECTS|0 IMAGEDEF|5 D0|330 0|100 "
+            "AcDbRasterImageDef|1 a.png|0 ENDSEC|0 EOF")),
+        kOdOk);
+    auto* const window = new CDrawingWindow(desk, std::move(document), 1);
+    ASSERT_TRUE(window->Open(*frame));
+    EXPECT_TRUE(window->IsBuilding());
+    ASSERT_TRUE(finish(*window));
+    EXPECT_EQ(inBackgroundAsked, 1);
+    const std::vector<COLORREF> shown = pixels(*window);
+    EXPECT_GT(std::count(shown.begin(), shown.end(), RGB(0, 0, 255)), static_cast<long>(shown.size()) / 4);
+    window->Refresh(true);
+    EXPECT_FALSE(window->IsBuilding()) << "now it is there at once";
+    EXPECT_EQ(inBackgroundAsked, 1);
 }
 
 TEST_F(BackgroundScene, WhileTheGateIsShutTheBeginningIsShownAndTheWindowAnswers) {

@@ -8,6 +8,7 @@
 
 #include "../../../samples/drafter/drawing_chooser.h"
 #include "drafter_fixture.h"
+#include "file_groups.h"
 
 namespace {
 
@@ -80,6 +81,22 @@ TEST_F(DrawingPreview, AFileWithoutAPictureIsDrawnOnceForEachState) {
     EXPECT_GT(count(path, kGreen, CSize(300, 300), size), 150);
     EXPECT_EQ(count(path, kRed, CSize(300, 300), size), 0);
     EXPECT_EQ(added(), 2u);
+}
+
+TEST_F(DrawingPreview, PicturesInADrawingAreSeen) {
+    // A bitmap of one pixel in pure blue beside the drawing.
+    std::string bitmap("BM\x3A\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0", 30);
+    bitmap += std::string(24, '\0') + std::string("\xFF\0\0\0", 4);
+    std::ofstream(folder / "blue.bmp", std::ios::binary) << bitmap;
+    std::ofstream(folder / "picture.dxf", std::ios::binary) << ui_test::fileGroups(
+        "0 SECTION|2 ENTITIES|0 IMAGE|8 0|100 AcDbRasterImage|10 0|20 0|30 0|11 40|21 0|31 0|12 0|22 30|32 "
+        "0|13 "
+        "1|23 1|340 D0|70 7|280 0|0 ENDSEC|0 SECTION|2 OBJECTS|0 IMAGEDEF|5 D0|330 0|100 "
+        "AcDbRasterImageDef|1 "
+        "blue.bmp|0 ENDSEC|0 EOF");
+    CSize size;
+    const int blue = count((folder / "picture.dxf").wstring(), RGB(0, 0, 255), CSize(200, 150), size);
+    EXPECT_GT(blue, size.cx * size.cy * 3 / 4);
 }
 
 TEST_F(DrawingPreview, AKeptPictureIsShownAgain) {

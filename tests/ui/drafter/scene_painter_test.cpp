@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "../../../samples/drafter/scene_painter.h"
+#include "pictures/scene_picture.h"
 
 namespace {
 
@@ -256,6 +257,87 @@ TEST_F(ScenePainting, LinesAreSeenThroughTheirOwnClipOnly) {
     EXPECT_EQ(at(x - 30, y - 5), kDrawingPaper);
     EXPECT_EQ(at(x + 10, y + 5), kRed);
     EXPECT_EQ(at(x - 30, y + 5), kRed);
+}
+
+TEST_F(ScenePainting, APictureLiesWhereItBelongsAboveWhatComesBefore) {
+    add({{-90, 0}, {90, 0}}, kRed);
+    SceneImage& image = scene.images.emplace_back();
+    image.picture = std::make_shared<ScenePicture>(
+        2, 2, std::vector<PicturePixel>{0xFF0000FF, 0xFFFFFFFF, 0xFF00FF00, 0xFFFFFF00});
+    image.origin = {-20, -10};
+    image.across = {40, 0};
+    image.up = {0, 20};
+    image.pathsBelow = 1;
+    add({{0, -50}, {0, 50}}, kGreen);
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_EQ(at(x - 10, y - 5), RGB(0, 0, 255));
+    EXPECT_EQ(at(x + 10, y - 5), RGB(255, 255, 255));
+    EXPECT_EQ(at(x - 10, y + 5), RGB(0, 255, 0));
+    EXPECT_EQ(at(x + 10, y + 5), RGB(255, 255, 0));
+    EXPECT_EQ(at(x - 20, y - 10), RGB(0, 0, 255)) << "its corner";
+    EXPECT_EQ(at(x - 21, y - 5), kDrawingPaper);
+    EXPECT_EQ(at(x - 10, y - 11), kDrawingPaper);
+    EXPECT_EQ(at(x - 30, y), kRed);
+    EXPECT_EQ(at(x - 10, y), RGB(0, 255, 0)) << "above the line before it";
+    EXPECT_EQ(at(x, y - 5), kGreen) << "below the line behind it";
+    paintIn(CRect(x - 5, y - 20, x + 3, y + 3));
+    EXPECT_EQ(at(x - 3, y - 3), RGB(0, 0, 255));
+    EXPECT_EQ(at(x + 1, y + 1), RGB(255, 255, 0));
+}
+
+TEST_F(ScenePainting, APictureIsTurnedClippedAndClearAsItSays) {
+    add({{-90, 0}, {90, 0}}, kRed);
+    scene.clips.push_back({{{-40, -40}, {5, -40}, {5, 40}, {-40, 40}}});
+    SceneImage& image = scene.images.emplace_back();
+    image.picture = std::make_shared<ScenePicture>(1, 2, std::vector<PicturePixel>{0xFF0000FF, 0});
+    // A quarter turn: its top is on the left.
+    image.origin = {20, -10};
+    image.across = {0, 20};
+    image.up = {-40, 0};
+    image.clip = 0;
+    image.isTransparent = true;
+    image.pathsBelow = 1;
+    paint();
+    const int x = kWidth / 2, y = kHeight / 2;
+    EXPECT_EQ(at(x - 10, y), RGB(0, 0, 255));
+    EXPECT_EQ(at(x + 2, y), kRed) << "through what is clear";
+    EXPECT_EQ(at(x + 2, y + 3), kDrawingPaper);
+    image.isTransparent = false;
+    paint();
+    EXPECT_EQ(at(x + 2, y + 3), RGB(255, 255, 255));
+    EXPECT_EQ(at(x + 7, y + 3), kDrawingPaper) << "beyond the clip";
+    EXPECT_EQ(at(x + 7, y), kRed);
+    image.fade = 100;
+    paint();
+    EXPECT_EQ(at(x - 10, y), kDrawingPaper) << "faded to the paper";
+}
+
+TEST_F(ScenePainting, InkIsOfTheEntitysColor) {
+    SceneImage& image = scene.images.emplace_back();
+    image.picture =
+        std::make_shared<ScenePicture>(2, 1, std::vector<PicturePixel>{0xFF000000, 0xFFFFFFFF}, true);
+    image.origin = {-20, -10};
+    image.across = {40, 0};
+    image.up = {0, 20};
+    image.isTransparent = true;
+    image.style.color.setRGB(255, 0, 0);
+    paint();
+    EXPECT_EQ(at(kWidth / 2 - 10, kHeight / 2), kRed);
+    EXPECT_EQ(at(kWidth / 2 + 10, kHeight / 2), kDrawingPaper);
+}
+
+TEST_F(ScenePainting, APictureAMillionWindowsLargeShowsWhatIsSeenOfIt) {
+    place.scale = 1e6;
+    SceneImage& image = scene.images.emplace_back();
+    image.picture = std::make_shared<ScenePicture>(2, 1, std::vector<PicturePixel>{0xFF0000FF, 0xFFFFFF00});
+    image.origin = {-100, -100};
+    image.across = {200, 0};
+    image.up = {0, 200};
+    paint();
+    EXPECT_EQ(at(kWidth / 2 - 3, 0), RGB(0, 0, 255));
+    EXPECT_EQ(at(kWidth / 2 + 3, kHeight - 1), RGB(255, 255, 0));
+    EXPECT_EQ(count(RGB(0, 0, 255)), kWidth / 2 * kHeight);
 }
 
 TEST_F(ScenePainting, ATextLiesAboveTheLinesBeforeIt) {

@@ -49,6 +49,25 @@ TEST_F(ScreenScene, AFontFileThatNoStyleNamesIsMeasuredAsTheStandIn) {
               there.textWidth(fontOf(L"", L"txt.shx"), L"measured"));
 }
 
+TEST_F(ScreenScene, WhereNobodyMayAskTheHostFontsAreThoseOfTheirFamilies) {
+    addStyle(L"SIGNS", L"wingding.ttf");
+    const SceneOptions asked = ScreenSceneOptions(), unasked = UnaskedSceneOptions(*drawing);
+    const auto width = [](const SceneOptions& options, const SceneFont& font) {
+        return options.textWidth(font, L"measured");
+    };
+    EXPECT_EQ(width(unasked, fontOf(L"Wingdings", L"")), width(asked, fontOf(L"Wingdings", L"")));
+    EXPECT_NE(width(unasked, fontOf(L"", L"wingding.ttf")), width(asked, fontOf(L"", L"wingding.ttf")));
+    EXPECT_EQ(width(unasked, fontOf(L"", L"wingding.ttf")), width(asked, fontOf(L"", L"txt.shx")));
+    EXPECT_FALSE(unasked.shapeFile);
+    Scene scene;
+    scene.texts.resize(2);
+    scene.texts[0].font = fontOf(L"", L"wingding.ttf");
+    scene.texts[1].font = fontOf(L"Wingdings", L"wingding.ttf");
+    NameFamilies(scene);
+    EXPECT_EQ(scene.texts[0].font.family, L"Tahoma") << "so that painting doesn't ask either";
+    EXPECT_EQ(scene.texts[1].font.family, L"Wingdings");
+}
+
 TEST_F(ScreenScene, OnAnotherThreadShapesComeFromTheFilesOfTheStyles) {
     ui_test::TemporaryFolder files;
     files.write(L"signs.shx", "shapes");

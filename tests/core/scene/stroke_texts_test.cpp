@@ -1,0 +1,203 @@
+// Texts in the strokes of shape fonts: where each stroke lies, how wide texts are, and what stands for a font
+// that isn't there.
+#include "drawn.h"
+
+namespace {
+
+using namespace scene_test;
+using namespace std::string_literals;
+
+std::string little16(std::size_t value) {
+    return {static_cast<char>(value & 255), static_cast<char>(value >> 8)};
+}
+
+using Shapes = std::vector<std::pair<int, std::string>>;
+
+/// Capitals are 10 high. I is a line upwards and 4 wide, the dash a line of 4 at half the height and 6 wide,
+/// the blank 5 wide, the signs 127 to 129 lines upwards of 1, 2 and 3 and 2 wide.
+Shapes letters() {
+    return {{32, "\x02\x08\x05\0"s},        {45, "\x02\x08\0\x05\x01\x40\x02\x08\x02\xFB"s},
+            {73, "\xA4\x02\x08\x04\xF6"s},  {127, "\x14\x02\x08\x02\xFF"s},
+            {128, "\x24\x02\x08\x02\xFE"s}, {129, "\x34\x02\x08\x02\xFD"s}};
+}
+
+const std::string kDescription = "FONT\0\x0A\x02\0"s;
+
+std::string indexedFont(const Shapes& shapes = letters(), const std::string& description = kDescription) {
+    std::string file =
+        "AutoCAD-86 shapes 1.0\r\n\x1A"s + little16(0) + little16(129) + little16(shapes.size() + 1);
+    file += little16(0) + little16(description.size() + 1);
+    for (const auto& [number, code] : shapes)
+        file += little16(static_cast<std::size_t>(number)) + little16(code.size() + 2);
+    file += description + '\0';
+    for (const auto& [number, code] : shapes) file += '\0' + code + '\0';
+    return file;
+}
+
+std::string unicodeFont(const Shapes& shapes) {
+    const std::string description = "FONT\0\x0A\x02\0\0\0"s;
+    std::string file = "AutoCAD-86 unifont 1.0\r\n\x1A"s + little16(shapes.size() + 1);
+    file += little16(0) + little16(description.size() + 1) + description + '\0';
+    for (const auto& [number, code] : shapes)
+        file += little16(static_cast<std::size_t>(number)) + little16(code.size() + 2) + '\0' + code + '\0';
+    return file;
+}
+
+Scene sceneOf(const std::string& entities, const std::string& font = indexedFont(),
+              const std::string& fileName = "plain.shx") {
+    const OdDbDatabasePtr drawing = drawingOf(
+        {.tables = table("STYLE", "0 STYLE|2 S|70 0|40 0|41 1|50 0|71 0|42 1|3 " + fileName + "|4 "),
+         .entities = entities});
+    SceneOptions options;
+    options.shapeFile = [&font](const OdString& name) { return name == L"plain.shx" ? font : std::string(); };
+    options.textWidth = [](const SceneFont&, std::wstring_view words) { return 100.0 * words.size(); };
+    return BuildScene(*drawing, drawing->modelSpaceId(), options);
+}
+
+/// A text 20 high at 100, 200.
+std::string text(const std::string& words, const std::string& more = "50 0") {
+    return "0 TEXT|8 0|10 100|20 200|30 0|40 20|7 S|1 " + words + "|" + more;
+}
+
+/// Whether the strokes of the scene's only path go through these points, two for each stroke.
+::testing::AssertionResult hasStrokes(const Scene& scene, const std::vector<OdGePoint2d>& points) {
+    if (scene.paths.size() != 1)
+        return ::testing::AssertionFailure()
+               << scene.paths.size() << " paths, " << scene.texts.size() << " texts";
+    const ScenePath& path = scene.paths[0];
+    for (std::size_t i = 0; i < path.breaks.size(); ++i)
+        if (path.breaks[i] != 2 * (i + 1)) return ::testing::AssertionFailure() << "other strokes";
+    return goesThrough(path, points);
+}
+
+TEST(StrokeTexts, LettersAreDrawnOneBehindTheOther) {
+    const Scene scene = sceneOf(text("I- I"));
+    // Twice as large as in the file: 8, 12 and 10 wide.
+    EXPECT_TRUE(hasStrokes(scene, {{100, 200}, {100, 220}, {108, 210}, {116, 210}, {130, 200}, {130, 220}}));
+    EXPECT_TRUE(scene.texts.empty());
+    EXPECT_TRUE(scene.paths[0].isLetters);
+    EXPECT_FALSE(scene.paths[0].filled);
+    EXPECT_TRUE(scene.missingFonts.empty());
+}
+
+TEST(StrokeTexts, ANameMayComeWithoutItsExtensionOrInCapitals) {
+    EXPECT_EQ(sceneOf(text("I"), indexedFont(), "plain").paths.size(), 1u);
+    const OdDbDatabasePtr drawing =
+        drawingOf({.tables = table("STYLE", "0 STYLE|2 S|70 0|40 0|41 1|50 0|71 0|42 1|3 PLAIN.SHX|4 "),
+                   .entities = text("I")});
+    SceneOptions options;
+    options.shapeFile = [](const OdString& name) {
+        return name == L"PLAIN.SHX" ? indexedFont() : std::string();
+    };
+    EXPECT_EQ(BuildScene(*drawing, drawing->modelSpaceId(), options).paths.size(), 1u);
+}
+
+TEST(StrokeTexts, StandByTheirJustification) {
+    // "II" is 16 wide.
+    EXPECT_TRUE(
+        hasStrokes(sceneOf(text("II", "72 1|11 50|21 60|31 0")), {{42, 60}, {42, 80}, {50, 60}, {50, 80}}));
+    EXPECT_TRUE(
+        hasStrokes(sceneOf(text("II", "72 2|11 50|21 60|31 0")), {{34, 60}, {34, 80}, {42, 60}, {42, 80}}));
+    EXPECT_TRUE(hasStrokes(sceneOf(text("I", "72 0|73 3|11 50|21 60|31 0")), {{50, 40}, {50, 60}})) << "top";
+    EXPECT_TRUE(hasStrokes(sceneOf(text("I", "72 0|73 2|11 50|21 60|31 0")), {{50, 50}, {50, 70}}))
+        << "middle";
+    EXPECT_TRUE(hasStrokes(sceneOf(text("II", "72 5|11 132|21 200|31 0")),
+                           {{100, 200}, {100, 220}, {116, 200}, {116, 220}}))
+        << "fit: twice as wide, as high as before";
+}
+
+TEST(StrokeTexts, AreTurnedSlantedStretchedAndRunBackwards) {
+    EXPECT_TRUE(hasStrokes(sceneOf(text("-", "50 90")), {{90, 200}, {90, 208}}));
+    EXPECT_TRUE(hasStrokes(sceneOf(text("I", "51 45")), {{100, 200}, {120, 220}}));
+    EXPECT_TRUE(hasStrokes(sceneOf(text("I-", "41 .5")), {{100, 200}, {100, 220}, {104, 210}, {108, 210}}));
+    EXPECT_TRUE(hasStrokes(sceneOf(text("I-", "71 2")), {{100, 200}, {100, 220}, {92, 210}, {84, 210}}));
+    EXPECT_TRUE(hasStrokes(sceneOf(text("I", "71 4")), {{100, 200}, {100, 180}}));
+}
+
+TEST(StrokeTexts, SignsHaveNumbersOfTheirOwnAndMarksTheirWidth) {
+    EXPECT_TRUE(hasStrokes(sceneOf(text("%%d%%p%%c")),
+                           {{100, 200}, {100, 202}, {104, 200}, {104, 204}, {108, 200}, {108, 206}}));
+    const Scene marked = sceneOf(text("I%%u-%%u"));
+    ASSERT_EQ(marked.paths.size(), 2u);
+    EXPECT_TRUE(goesThrough(marked.paths[1], {{108, 196}, {120, 196}})) << "as long as the dash is wide";
+}
+
+TEST(StrokeTexts, FontsOfUnicodeHaveTheNumbersOfTheCharacters) {
+    const std::string font = unicodeFont({{73, "\xA4\x02\x08\x04\xF6"s},
+                                          {0xB0, "\x14\x02\x08\x02\xFF"s},
+                                          {0x2205, "\x34\x02\x08\x02\xFD"s},
+                                          {0x4E2D, "\x24\x02\x08\x02\xFE"s}});
+    EXPECT_TRUE(hasStrokes(
+        sceneOf(text("I%%d%%c\\U+4E2D"), font),
+        {{100, 200}, {100, 220}, {108, 200}, {108, 202}, {112, 200}, {112, 206}, {116, 200}, {116, 204}}));
+}
+
+TEST(StrokeTexts, ParagraphsBreakByTheirWidth) {
+    // "I I" is 26 wide, "I" 8.
+    const std::string words = "0 MTEXT|8 0|10 100|20 200|30 0|40 20|71 1|7 S|1 I I|41 ";
+    EXPECT_EQ(sceneOf(words + "27").paths.size(), 1u);
+    const Scene broken = sceneOf(words + "25");
+    ASSERT_EQ(broken.paths.size(), 2u);
+    EXPECT_TRUE(goesThrough(broken.paths[0], {{100, 180}, {100, 200}}));
+    EXPECT_TRUE(goesThrough(broken.paths[1], {{100, 180 - 100.0 / 3}, {100, 200 - 100.0 / 3}}));
+    const Scene mixed = sceneOf("0 MTEXT|8 0|10 100|20 200|30 0|40 20|71 1|7 S|1 I{\\fArial;I}I|41 0");
+    EXPECT_EQ(mixed.paths.size(), 2u);
+    EXPECT_EQ(mixed.texts.size(), 1u) << "in a font of outlines";
+}
+
+TEST(StrokeTexts, AScreenFontStandsForWhatIsMissing) {
+    const Scene gone = sceneOf(text("I"), "");
+    ASSERT_EQ(gone.texts.size(), 1u);
+    EXPECT_EQ(gone.texts[0].font.file, L"plain.shx");
+    EXPECT_EQ(gone.missingFonts, std::set<std::wstring>{L"plain.shx"});
+    const Scene lacking = sceneOf(text("I\\U+4E2D"));
+    EXPECT_TRUE(hasStrokes(lacking, {{100, 200}, {100, 220}}));
+    ASSERT_EQ(lacking.texts.size(), 1u) << "a letter that the font lacks";
+    EXPECT_EQ(lacking.texts[0].text, L"\u4E2D");
+    EXPECT_TRUE(isAt(lacking.texts[0].position, 108, 200));
+    // The letter is 2000 wide.
+    const Scene centred = sceneOf(text("I\\U+4E2DI%%u-", "72 1|11 5000|21 200|31 0"));
+    ASSERT_EQ(centred.texts.size(), 1u);
+    EXPECT_NEAR(centred.texts[0].position.x, 5000 - (8 + 2000 + 8 + 12) / 2.0 + 8, 1e-6);
+    ASSERT_EQ(centred.paths.size(), 3u);
+    EXPECT_TRUE(goesThrough(centred.paths[0], {{3986, 200}, {3986, 220}}));
+    EXPECT_TRUE(isAt(centred.paths[1].points[0], 5994, 200));
+    EXPECT_TRUE(goesThrough(centred.paths[2], {{6002, 196}, {6014, 196}})) << "the line below the dash";
+    EXPECT_TRUE(lacking.missingFonts.empty());
+    const Scene shapes = sceneOf(text("I"), indexedFont(letters(), "FONT\0\0\x02\0"s));
+    EXPECT_EQ(shapes.texts.size(), 1u) << "a file of shapes is no font";
+    EXPECT_EQ(shapes.missingFonts.size(), 1u);
+    const Scene outlines = sceneOf(text("I"), indexedFont(), "plain.ttf");
+    EXPECT_EQ(outlines.texts.size(), 1u);
+    EXPECT_TRUE(outlines.missingFonts.empty());
+}
+
+TEST(StrokeTexts, TextsOfALinetypeAreWrittenToo) {
+    const OdDbDatabasePtr drawing =
+        drawingOf({.tables = table("STYLE", "0 STYLE|5 A7|2 S|70 0|40 0|41 1|50 0|71 0|42 1|3 plain.shx|4 ") +
+                             table("LTYPE",
+                                   "0 LTYPE|2 MARKED|70 0|3 m|72 65|73 1|40 40|49 40|74 2|75 0|340 A7|46 "
+                                   "10|50 0|44 0|45 0|9 I"),
+                   .entities = "0 LINE|8 0|6 MARKED|10 0|20 0|30 0|11 100|21 0|31 0"});
+    SceneOptions options;
+    options.shapeFile = [](const OdString&) { return indexedFont(); };
+    const Scene scene = BuildScene(*drawing, drawing->modelSpaceId(), options);
+    ASSERT_EQ(scene.paths.size(), 3u);
+    EXPECT_TRUE(goesThrough(scene.paths[0], {{40, 0}, {40, 10}}));
+    EXPECT_TRUE(goesThrough(scene.paths[1], {{80, 0}, {80, 10}}));
+}
+
+TEST(StrokeTexts, ALongTextOfHeavyLettersEndsAtTheLimit) {
+    std::string strokes;
+    for (int i = 0; i < 20000; ++i) strokes += "\x14\x1C";
+    const std::string font = indexedFont({{73, strokes}});
+    const OdDbDatabasePtr drawing =
+        drawingOf({.tables = table("STYLE", "0 STYLE|2 S|70 0|40 0|41 1|50 0|71 0|42 1|3 plain.shx|4 "),
+                   .entities = text(std::string(5000, 'I'))});
+    SceneOptions options;
+    options.workLimit = 1'000'000;
+    options.shapeFile = [&font](const OdString&) { return font; };
+    EXPECT_TRUE(BuildScene(*drawing, drawing->modelSpaceId(), options).isCut);
+}
+
+}  // namespace
