@@ -108,6 +108,7 @@ BOOL CDockingManager::InsertPane(CBasePane* pControlBar, CBasePane* pTarget, BOO
 
 void CDockingManager::RemovePaneFromDockManager(CBasePane* pWnd, BOOL bDestroy, BOOL bAdjustLayout, BOOL,
                                                 CBasePane* pBarReplacement) {
+    if (pWnd == nullptr) return;
     auto* pane = DYNAMIC_DOWNCAST(CDockablePane, pWnd);
     auto* replacement = DYNAMIC_DOWNCAST(CDockablePane, pBarReplacement);
     if (pane != nullptr && replacement != nullptr)

@@ -95,6 +95,7 @@ TEST_F(PaneDetails, panes_leave_by_the_manager_of_any_of_them) {
     Pane& three = docked(L"three", AFX_IDW_DOCKBAR_TOP);
     one.RemovePaneFromDockManager(&three, TRUE, TRUE);
     EXPECT_EQ(three.m_hWnd, nullptr) << "destroyed as well";
+    frame->GetDockingManager()->RemovePaneFromDockManager(nullptr, TRUE, TRUE, FALSE, nullptr);
     EXPECT_TRUE(has(listed(), one));
 }
 
