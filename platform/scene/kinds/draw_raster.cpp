@@ -56,6 +56,7 @@ std::vector<OdGePoint2d> clipOf(const OdDbRasterImage& image, const Sides& sides
         outline.insert(outline.end(), boundary.begin(), boundary.end());
     }
     std::vector<OdGePoint2d> flat;
+    flat.reserve(outline.size());
     for (const OdGePoint3d& point : outline) flat.push_back(pen.onPlane(point));
     return flat;
 }

@@ -38,6 +38,7 @@ void drawClipped(const std::vector<OdGePoint3d>& boundary, const OdDbObjectId& b
     SceneWork& work = pen.work();
     if (!work.spend(boundary.size())) return;
     std::vector<OdGePoint2d> outline;
+    outline.reserve(boundary.size());
     for (const OdGePoint3d& point : boundary) outline.push_back(pen.onPlane(point));
     const int before = work.clip();
     work.setClip(work.addClip(std::move(outline)));

@@ -173,8 +173,8 @@ std::wstring withTolerance(double value, std::wstring_view sign, const Dimension
     const std::wstring main = start + write(value, false) + behind;
     if (style.integer(kTolerance, 0) == 0 || (plus == 0 && minus == 0)) return main;
     if (plus == minus) return main + inHeight(share, L"\u00B1" + write(plus, true) + behind);
-    const auto signedText = [&](double size) {
-        const std::wstring text = write(std::abs(size), true) + behind;
+    const auto signedText = [&write, &end = behind](double size) {
+        const std::wstring text = write(std::abs(size), true) + end;
         return size == 0 ? text : (size < 0 ? L"-" : L"+") + text;
     };
     return main + stack(signedText(plus), signedText(-minus));
