@@ -52,8 +52,11 @@ bool showBlocks(Drafter& drafter) {
     const HWND list = item(panel, IDC_BLOCK_LIST);
     const LRESULT count = ::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0);
     tell("palette-blocks", L"The blocks palette shows " + std::to_wstring(count) + L" blocks");
-    drafter.press(list, {150, 40});
-    drafter.hover(list, {170, 60});
+    // The second one's picture, at any resolution.
+    const LRESULT spacing = ::SendMessageW(list, LVM_GETITEMSPACING, FALSE, 0);
+    const LONG wide = LOWORD(spacing), high = HIWORD(spacing);
+    drafter.press(list, {wide * 3 / 2, high / 3});
+    drafter.hover(list, {wide * 3 / 2 + 20, high / 3 + 20});
     RECT room = {};
     ::GetClientRect(drafter.view(), &room);
     drafter.hover(drafter.view(), {room.right / 3, room.bottom / 5});
