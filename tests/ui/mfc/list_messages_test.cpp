@@ -27,6 +27,38 @@ struct ToldTree : ui_test::ToldControl<CTreeCtrl> {
     const LPARAM l_some = 0x77;
 };
 
+/// Tips, the edit of a label and image lists come back as the objects that stand for them. `edit` is what
+/// editing `item` sends, `set` what a list for states does, but for its handle.
+template <class Told, class Item>
+void gives_the_objects_of_handles(Told& told, Item item, const HeardMessage& edit, UINT getEdit, int normal,
+                                  const HeardMessage& set) {
+    const auto last = [&told] { return told.listener.take().back(); };
+    ui_test::ParentWindow parent;
+    CToolTipCtrl tip;
+    tip.Create(&parent);
+    told.listener.answer = reinterpret_cast<LRESULT>(tip.m_hWnd);
+    EXPECT_EQ(told.control.GetToolTips(), &tip);
+    EXPECT_EQ(told.control.SetToolTips(&tip), &tip);
+    EXPECT_EQ(last().wParam, reinterpret_cast<WPARAM>(tip.m_hWnd));
+    EXPECT_EQ(static_cast<CWnd*>(told.control.EditLabel(item)), &tip);
+    HeardMessage heard = last();
+    EXPECT_EQ(heard.message, edit.message);
+    EXPECT_EQ(heard.wParam, edit.wParam);
+    EXPECT_EQ(heard.lParam, edit.lParam);
+    EXPECT_EQ(static_cast<CWnd*>(told.control.GetEditControl()), &tip);
+    EXPECT_EQ(last().message, getEdit);
+    CImageList images;
+    images.Create(4, 4, ILC_COLOR, 1, 1);
+    told.listener.answer = reinterpret_cast<LRESULT>(images.m_hImageList);
+    EXPECT_EQ(told.control.GetImageList(static_cast<UINT>(normal)), &images);
+    EXPECT_EQ(last().wParam, static_cast<WPARAM>(normal));
+    EXPECT_EQ(told.control.SetImageList(&images, static_cast<int>(set.wParam)), &images);
+    heard = last();
+    EXPECT_EQ(heard.message, set.message);
+    EXPECT_EQ(heard.wParam, set.wParam);
+    EXPECT_EQ(heard.lParam, told.listener.answer);
+}
+
 int CALLBACK compare(LPARAM, LPARAM, LPARAM) { return 0; }
 const LPARAM kCompare = reinterpret_cast<LPARAM>(&compare);
 
@@ -289,38 +321,19 @@ TEST_F(ToldList, TheOrderOfAllColumnsNeedsAHeader) {
 }
 
 TEST_F(ToldList, OfWindowsAndImageLists) {
-    ui_test::ParentWindow parent;
-    CToolTipCtrl tip;
-    tip.Create(&parent);
-    listener.answer = reinterpret_cast<LRESULT>(tip.m_hWnd);
-    EXPECT_EQ(control.GetToolTips(), &tip);
-    EXPECT_EQ(control.SetToolTips(&tip), &tip);
-    EXPECT_EQ(listener.take().back().wParam, reinterpret_cast<WPARAM>(tip.m_hWnd));
+    gives_the_objects_of_handles(*this, 3, {LVM_EDITLABELW, 3, 0}, LVM_GETEDITCONTROL, LVSIL_SMALL,
+                                 {LVM_SETIMAGELIST, LVSIL_STATE, 0});
     control.SetToolTips(nullptr);
     EXPECT_EQ(listener.take().back().wParam, 0U);
-    EXPECT_EQ(static_cast<CWnd*>(control.EditLabel(3)), &tip);
-    auto heard = listener.take().back();
-    EXPECT_EQ(heard.message, static_cast<UINT>(LVM_EDITLABELW));
-    EXPECT_EQ(heard.wParam, 3U);
-    EXPECT_EQ(static_cast<CWnd*>(control.GetEditControl()), &tip);
-    EXPECT_EQ(listener.take().back().message, static_cast<UINT>(LVM_GETEDITCONTROL));
-    CImageList images;
-    images.Create(4, 4, ILC_COLOR, 1, 1);
-    listener.answer = reinterpret_cast<LRESULT>(images.m_hImageList);
-    EXPECT_EQ(control.GetImageList(LVSIL_SMALL), &images);
-    EXPECT_EQ(listener.take().back().wParam, static_cast<WPARAM>(LVSIL_SMALL));
-    EXPECT_EQ(control.SetImageList(&images, LVSIL_STATE), &images);
-    heard = listener.take().back();
-    EXPECT_EQ(heard.message, static_cast<UINT>(LVM_SETIMAGELIST));
-    EXPECT_EQ(heard.wParam, static_cast<WPARAM>(LVSIL_STATE));
-    EXPECT_EQ(heard.lParam, listener.answer);
     control.SetImageList(nullptr, LVSIL_STATE);
     EXPECT_EQ(listener.take().back().lParam, 0);
+    CImageList images;
+    images.Create(4, 4, ILC_COLOR, 1, 1);
     CPoint corner;
     listener.answer = reinterpret_cast<LRESULT>(::ImageList_Duplicate(images));
     CImageList* const dragged = control.CreateDragImage(6, &corner);
     ASSERT_NE(dragged, nullptr);
-    heard = listener.take().back();
+    const HeardMessage heard = listener.take().back();
     EXPECT_EQ(heard.message, static_cast<UINT>(LVM_CREATEDRAGIMAGE));
     EXPECT_EQ(heard.wParam, 6U);
     EXPECT_EQ(heard.lParam, at(corner));
@@ -546,30 +559,13 @@ TEST_F(ToldTree, OfAPointThatIsHit) {
 }
 
 TEST_F(ToldTree, OfWindowsAndImageLists) {
-    ui_test::ParentWindow parent;
-    CToolTipCtrl tip;
-    tip.Create(&parent);
-    listener.answer = reinterpret_cast<LRESULT>(tip.m_hWnd);
-    EXPECT_EQ(control.GetToolTips(), &tip);
-    EXPECT_EQ(control.SetToolTips(&tip), &tip);
-    EXPECT_EQ(listener.take().back().wParam, reinterpret_cast<WPARAM>(tip.m_hWnd));
-    EXPECT_EQ(static_cast<CWnd*>(control.EditLabel(some)), &tip);
-    auto heard = listener.take().back();
-    EXPECT_EQ(heard.message, static_cast<UINT>(TVM_EDITLABELW));
-    EXPECT_EQ(heard.lParam, l_some);
-    EXPECT_EQ(static_cast<CWnd*>(control.GetEditControl()), &tip);
-    EXPECT_EQ(listener.take().back().message, static_cast<UINT>(TVM_GETEDITCONTROL));
+    gives_the_objects_of_handles(*this, some, {TVM_EDITLABELW, 0, l_some}, TVM_GETEDITCONTROL, TVSIL_NORMAL,
+                                 {TVM_SETIMAGELIST, TVSIL_STATE, 0});
     CImageList images;
     images.Create(4, 4, ILC_COLOR, 1, 1);
     listener.answer = reinterpret_cast<LRESULT>(images.m_hImageList);
-    EXPECT_EQ(control.GetImageList(TVSIL_STATE), &images);
-    EXPECT_EQ(listener.take().back().wParam, static_cast<WPARAM>(TVSIL_STATE));
-    EXPECT_EQ(control.SetImageList(&images, TVSIL_STATE), &images);
-    heard = listener.take().back();
-    EXPECT_EQ(heard.wParam, static_cast<WPARAM>(TVSIL_STATE));
-    EXPECT_EQ(heard.lParam, listener.answer);
     EXPECT_EQ(control.CreateDragImage(some), &images);
-    heard = listener.take().back();
+    const HeardMessage heard = listener.take().back();
     EXPECT_EQ(heard.message, static_cast<UINT>(TVM_CREATEDRAGIMAGE));
     EXPECT_EQ(heard.lParam, l_some);
 }

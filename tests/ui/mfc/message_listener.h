@@ -55,6 +55,12 @@ private:
     std::vector<HeardMessage> m_heard;
 };
 
+/// A handle that is none, but is carried around as one.
+template <class Handle>
+Handle handle_of(UINT_PTR value) {
+    return reinterpret_cast<Handle>(value);
+}
+
 /// A control object on a listener. TELLS(call, message, wParam, lParam) has the call send just that message,
 /// and answer what the control answers.
 template <class Control>

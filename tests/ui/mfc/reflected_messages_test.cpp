@@ -76,6 +76,18 @@ struct ReflectedMessages : ::testing::Test {
         parent.defaulted = false;
         return parent.SendMessage(message, wParam, reinterpret_cast<LPARAM>(data));
     }
+    /// The control that `data` names says what is expected, and one without handlers leaves it to the parent.
+    template <typename Data>
+    LRESULT goes_to_its_control(UINT message, Data data, const char* expected) {
+        data.hwndItem = mirror;
+        const LRESULT answer = tell(message, 7, &data);
+        EXPECT_EQ(take(), expected);
+        EXPECT_FALSE(parent.defaulted);
+        data.hwndItem = plain;
+        tell(message, 8, &data);
+        EXPECT_TRUE(parent.defaulted);
+        return answer;
+    }
 
     Base parent;
     Mirror mirror;
@@ -112,13 +124,7 @@ TEST_F(ReflectedMessages, OfOwnerDrawing) {
     DRAWITEMSTRUCT draw = {};
     draw.CtlType = ODT_LISTBOX;
     draw.itemID = 5;
-    draw.hwndItem = mirror;
-    tell(WM_DRAWITEM, 7, &draw);
-    EXPECT_EQ(take(), "draw 5;");
-    EXPECT_FALSE(parent.defaulted);
-    draw.hwndItem = plain;
-    tell(WM_DRAWITEM, 8, &draw);
-    EXPECT_TRUE(parent.defaulted);
+    goes_to_its_control(WM_DRAWITEM, draw, "draw 5;");
     MEASUREITEMSTRUCT measure = {};
     measure.CtlType = ODT_LISTBOX;
     measure.itemID = 6;
@@ -131,21 +137,10 @@ TEST_F(ReflectedMessages, OfOwnerDrawing) {
     EXPECT_TRUE(parent.defaulted) << "there is no such control yet";
     DELETEITEMSTRUCT gone = {};
     gone.itemID = 8;
-    gone.hwndItem = mirror;
-    tell(WM_DELETEITEM, 7, &gone);
-    EXPECT_EQ(take(), "delete 8;");
-    EXPECT_FALSE(parent.defaulted);
-    gone.hwndItem = plain;
-    tell(WM_DELETEITEM, 8, &gone);
-    EXPECT_TRUE(parent.defaulted);
+    goes_to_its_control(WM_DELETEITEM, gone, "delete 8;");
     COMPAREITEMSTRUCT pair = {};
     pair.itemID1 = 9;
-    pair.hwndItem = mirror;
-    EXPECT_EQ(tell(WM_COMPAREITEM, 7, &pair), -1);
-    EXPECT_EQ(take(), "compare 9;");
-    pair.hwndItem = plain;
-    tell(WM_COMPAREITEM, 8, &pair);
-    EXPECT_TRUE(parent.defaulted);
+    EXPECT_EQ(goes_to_its_control(WM_COMPAREITEM, pair, "compare 9;"), -1);
 }
 
 TEST_F(ReflectedMessages, OfNotices) {
