@@ -54,9 +54,12 @@ void DrawBlock(SceneWork& work, const OdDbObjectId& block, const SceneLevel& lev
     if (!record || level.depth > kMaximumDepth || work.isOver() || !work.enter(block)) return;
     const auto draw = [&](const std::vector<OdDbEntity*>& entities) {
         std::size_t drawn = 0;
+        const bool isOutermost = level.entity.isNull();
+        const auto* const only = isOutermost ? work.options().only.get() : nullptr;
         for (const OdDbEntity* entity : entities) {
-            if (!work.spend(kEntityCost)) return;
-            const bool isOutermost = level.entity.isNull();
+            const bool isLeftOut = only != nullptr && !only->contains(entity->objectId());
+            if (!work.spend(isLeftOut ? 1 : kEntityCost)) return;
+            if (isLeftOut) continue;
             SceneLevel inner = level;
             if (isOutermost) inner.entity = entity->objectId();
             DrawEntity(work, *entity, inner);

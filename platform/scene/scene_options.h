@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <set>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -47,6 +48,10 @@ struct SceneOptions {
     /// When this much work is done (about one for each point, 40 for each path, text and entity), building
     /// ends and says so.
     std::size_t workLimit = 40'000'000;
+    /// Whether polylines have their widths; without them they are lines.
+    bool polylineWidths = true;
+    /// Entities of the outermost block that alone are drawn; null for all.
+    std::shared_ptr<const std::set<OdDbObjectId>> only = {};
     /// Asked at each piece; once it is stopped, building ends as it does at the limit.
     std::stop_token stop = {};
     /// If not null, how far the building has come, in per cent: of the entities of the block, or of the limit

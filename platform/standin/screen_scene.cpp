@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <tuple>
+#include <vector>
 
 #include <kh_runtime_host.h>
 #include <kh_system.h>
@@ -25,13 +26,11 @@ struct DeleteFace {
     void operator()(HFONT font) const { ::DeleteObject(font); }
 };
 
-using Family = std::function<OdString(const SceneFont& font)>;
-
 /// Measures texts in the screen's fonts, each of which is made once. Everything is made on the thread that
 /// measures.
 class ScreenTextWidths {
 public:
-    explicit ScreenTextWidths(Family family) : m_family(std::move(family)) {}
+    explicit ScreenTextWidths(SceneFamily family) : m_family(std::move(family)) {}
 
     double operator()(const SceneFont& font, std::wstring_view text) {
         if (!m_dc) m_dc.reset(::CreateCompatibleDC(nullptr));
@@ -55,12 +54,12 @@ private:
     }
 
     using Key = std::tuple<std::wstring, std::wstring, bool, bool>;
-    Family m_family;
+    SceneFamily m_family;
     std::map<Key, std::unique_ptr<HFONT, DeleteFace>> m_fonts;
     std::unique_ptr<HDC, DeleteMemoryDc> m_dc;
 };
 
-SceneTextWidth textWidths(Family family) {
+SceneTextWidth textWidths(SceneFamily family) {
     // Copies of the options share the fonts.
     return [widths = std::make_shared<ScreenTextWidths>(std::move(family))](
                const SceneFont& font, std::wstring_view text) { return (*widths)(font, text); };
@@ -94,6 +93,19 @@ OdString answerFor(const Answers& answers, const OdString& name) {
     return found != answers.end() ? found->second : OdString();
 }
 
+/// The names of font files in a drawing's text styles.
+std::vector<OdString> fontFilesOf(OdDbDatabase& drawing) {
+    std::vector<OdString> files;
+    OdDbTextStyleTablePtr styles;
+    drawing.getTextStyleTable(styles);
+    for (auto each = styles->newIterator(); !each->done(); each->step()) {
+        OdDbSymbolTableRecordPtr record;
+        each->getRecord(record);
+        files.push_back(static_cast<OdDbTextStyleTableRecord&>(*record).fileName());
+    }
+    return files;
+}
+
 }  // namespace
 
 SceneOptions ScreenSceneOptions() {
@@ -122,17 +134,21 @@ void NameFamilies(Scene& scene) {
         if (text.font.family.isEmpty()) text.font.family = TextFaceOf(text.font, {}).lfFaceName;
 }
 
-SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
-    Answers families, paths;
-    OdDbTextStyleTablePtr styles;
-    drawing.getTextStyleTable(styles);
-    for (auto each = styles->newIterator(); !each->done(); each->step()) {
-        OdDbSymbolTableRecordPtr record;
-        each->getRecord(record);
-        const OdString file = static_cast<OdDbTextStyleTableRecord&>(*record).fileName();
+SceneFamily BackgroundFamilies(OdDbDatabase& drawing) {
+    Answers families;
+    for (const OdString& file : fontFilesOf(drawing)) {
         SceneFont font;
         font.file = file;
         families[file] = FamilyOf(font);
+    }
+    return [families = std::move(families)](const SceneFont& font) {
+        return font.family.isEmpty() ? answerFor(families, font.file) : font.family;
+    };
+}
+
+SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
+    Answers paths;
+    for (const OdString& file : fontFilesOf(drawing)) {
         paths[file] = pathOfShapes(file);
         // Styles may leave the extension of a shape font out.
         if (file.view().find(L'.') == std::wstring_view::npos && !file.isEmpty()) {
@@ -145,8 +161,6 @@ SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
         return bytesAt(answerFor(paths, name));
     };
     options.picture = picturesOf(drawing, PictureReading::kAll);
-    options.textWidth = textWidths([families = std::move(families)](const SceneFont& font) {
-        return font.family.isEmpty() ? answerFor(families, font.file) : font.family;
-    });
+    options.textWidth = textWidths(BackgroundFamilies(drawing));
     return options;
 }

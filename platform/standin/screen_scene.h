@@ -5,6 +5,9 @@
 #include "scene_options.h"
 #include "standin_api.h"
 
+/// The family of the screen that a font's letters come from.
+using SceneFamily = std::function<OdString(const SceneFont& font)>;
+
 /// Options by which texts are as wide as TextFace shows them, and shapes come from the files that the host
 /// finds.
 STANDIN_API SceneOptions ScreenSceneOptions();
@@ -21,3 +24,5 @@ STANDIN_API void NameFamilies(Scene& scene);
 /// styles. A font file that nothing but a text itself names is measured as the stand-in. The options must go
 /// on the thread that uses them.
 STANDIN_API SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing);
+/// The families of a drawing's fonts for another thread, under the same rule.
+STANDIN_API SceneFamily BackgroundFamilies(OdDbDatabase& drawing);

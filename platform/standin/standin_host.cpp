@@ -68,6 +68,8 @@ bool CStandinHost::ExportDrawing(const wchar_t* path, CString& message) {
     return m_facets->plotting.exportDrawing(path, message);
 }
 
+void CStandinHost::SetExportPatience(unsigned milliseconds) { m_facets->plotting.m_patience = milliseconds; }
+
 void CStandinHost::SetExportOpener(std::function<bool(const CString& path)> opener) {
     m_facets->plotting.m_opener = std::move(opener);
 }

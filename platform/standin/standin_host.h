@@ -89,9 +89,14 @@ public:
     /// owned.
     void SetPlotView(StandinPlotView* view);
     /// Writes the current drawing to the PDF file `path` as the plot service's options say, with a file for
-    /// each layout beside it where they ask for that. False with the reason in `message`, in the user's
-    /// language: nothing but whole files is left then. Other kinds of files aren't written.
+    /// each layout beside it where they ask for that. The pages are made on another thread; when that takes
+    /// long, a window over the active one shows how far they are, and the user may stop. False with the
+    /// reason in `message`, in the user's language, empty if the user stopped: nothing but whole files is
+    /// left then. True with a text in `message` if the file lacks a part of the drawing. Other kinds of files
+    /// aren't written.
     bool ExportDrawing(const wchar_t* path, CString& message);
+    /// How long an export may take before that window comes, in milliseconds; half a second unless told.
+    void SetExportPatience(unsigned milliseconds);
     /// What opens a file that was exported, where the options ask for it; false if it can't. Null for the
     /// system's program.
     void SetExportOpener(std::function<bool(const CString& path)> opener);

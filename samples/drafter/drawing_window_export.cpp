@@ -32,8 +32,8 @@ void CDrawingWindow::OnFileExport() {
     change.Keep(textOf(IDS_CHANGE_PAGE_SETUP).GetString());
     Refresh(true);
     CString message;
-    if (!chosen.IsEmpty() && !m_desk.Host().ExportDrawing(chosen, message))
-        KtUiMessageBox(nullptr, message, MB_ICONEXCLAMATION);
+    if (!chosen.IsEmpty()) m_desk.Host().ExportDrawing(chosen, message);
+    if (!message.IsEmpty()) KtUiMessageBox(nullptr, message, MB_ICONEXCLAMATION);
     m_view.SetFocus();
 }
 

@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+#include "path_measure.h"
+
 namespace {
 
 /// Calls `part` with each line of a path, or each boundary of an area, until one answers true.
@@ -39,24 +41,11 @@ double distanceTo(const ScenePath& path, const OdGePoint2d& at) {
     return nearest;
 }
 
-/// Whether a point lies within the closed line through `points`, by the count of crossings to its right.
-template <class Points>
-bool isWithin(const Points& points, const OdGePoint2d& at) {
-    bool within = false;
-    for (std::size_t i = 0, last = points.size() - 1; i < points.size(); last = i++) {
-        const OdGePoint2d& a = points[i];
-        const OdGePoint2d& b = points[last];
-        if ((a.y > at.y) != (b.y > at.y) && at.x < (b.x - a.x) * (at.y - a.y) / (b.y - a.y) + a.x)
-            within = !within;
-    }
-    return within;
-}
-
 /// Whether an odd count of an area's boundaries surrounds a point.
 bool isInArea(const ScenePath& path, const OdGePoint2d& at) {
     bool within = false;
     anyPart(path, [&](std::span<const OdGePoint2d> points) {
-        if (points.size() > 2 && isWithin(points, at)) within = !within;
+        if (points.size() > 2 && IsWithin(points, at)) within = !within;
         return false;
     });
     return within;
@@ -66,7 +55,7 @@ bool isInArea(const ScenePath& path, const OdGePoint2d& at) {
 bool isSeen(const Scene& scene, int clip, const OdGePoint2d& at) {
     while (clip >= 0) {
         const SceneClip& each = scene.clips[static_cast<std::size_t>(clip)];
-        if (each.outline.size() < 3 || !isWithin(each.outline, at)) return false;
+        if (each.outline.size() < 3 || !IsWithin(each.outline, at)) return false;
         clip = each.within < clip ? each.within : kNoClip;
     }
     return true;
@@ -104,7 +93,7 @@ bool linesCross(const SceneExtents& window, const Points& points, bool isClosed)
 /// The same for an area, which may also hold all of the window.
 template <class Points>
 bool areaTouches(const SceneExtents& window, const Points& points) {
-    return linesCross(window, points, true) || (points.size() > 2 && isWithin(points, window.low));
+    return linesCross(window, points, true) || (points.size() > 2 && IsWithin(points, window.low));
 }
 
 bool touches(const SceneExtents& window, const ScenePath& path) {
@@ -164,7 +153,7 @@ OdDbObjectId EntityAt(const Scene& scene, const SceneBounds& bounds, const OdGeP
     if (!found.isNull()) return found;
     for (std::size_t i = 0; i < scene.texts.size(); ++i) {
         const SceneText& text = scene.texts[i];
-        if (bounds.text(i).meets(around) && isSeen(scene, text.clip, at) && isWithin(TextBox(text), at))
+        if (bounds.text(i).meets(around) && isSeen(scene, text.clip, at) && IsWithin(TextBox(text), at))
             return text.entity;
     }
     for (const ScenePath* path : candidates)

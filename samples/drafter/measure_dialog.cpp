@@ -1,8 +1,35 @@
 #include "measure_dialog.h"
 
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
 #include "measurement.h"
+#include "path_measure.h"
 #include "resource.h"
+#include "resource_text.h"
 #include "unit_texts.h"
+
+namespace {
+
+constexpr UINT kSceneMessage = WM_APP + 1;
+// What is drawn at once to be measured, in the measure of SceneOptions::workLimit.
+constexpr std::size_t kWorkAtOnce = 400'000;
+
+// What is drawn for these is no length that anybody means.
+constexpr std::string_view kWithoutLength[] = {"HATCH", "TEXT", "MTEXT", "ATTDEF", "TOLERANCE", "DIMENSION"};
+
+std::shared_ptr<const std::set<OdDbObjectId>> measurable(const std::set<OdDbObjectId>& objects) {
+    auto found = std::make_shared<std::set<OdDbObjectId>>();
+    for (const OdDbObjectId& id : objects) {
+        const auto entity = id.open<OdDbEntity>();
+        if (entity && std::ranges::find(kWithoutLength, entity->dxfName()) == std::end(kWithoutLength))
+            found->insert(id);
+    }
+    return found;
+}
+
+}  // namespace
 
 IMPLEMENT_DYNAMIC(CMeasureDialog, CKtUiDialog)
 
@@ -10,6 +37,7 @@ BEGIN_MESSAGE_MAP(CMeasureDialog, CKtUiDialog)
     ON_BN_CLICKED(IDC_PICK_DISTANCE, &CMeasureDialog::OnPickDistance)
     ON_BN_CLICKED(IDC_PICK_ANGLE, &CMeasureDialog::OnPickAngle)
     ON_BN_CLICKED(IDC_SELECT_OBJECTS, &CMeasureDialog::OnSelectObjects)
+    ON_MESSAGE(kSceneMessage, &CMeasureDialog::OnScene)
 END_MESSAGE_MAP()
 
 CMeasureDialog::CMeasureDialog(OdDbDatabase& drawing, CDrawingPicker& picker, CWnd* parent)
@@ -61,6 +89,39 @@ void CMeasureDialog::OnSelectObjects() {
 
 void CMeasureDialog::showObjects(const std::set<OdDbObjectId>& objects) {
     SetDlgItemInt(IDC_MEASURED_COUNT, static_cast<UINT>(objects.size()));
-    const Scene scene = BuildScene(m_drawing, m_drawing.currentSpaceId());
-    SetDlgItemText(IDC_MEASURED_LENGTH, FormatDistance(TotalLength(scene, objects)));
+    dropBuild();
+    m_measured = measurable(objects);
+    SceneOptions options;
+    options.only = m_measured;
+    options.polylineWidths = false;
+    const std::size_t limit = std::exchange(options.workLimit, kWorkAtOnce);
+    const OdDbObjectId space = m_drawing.currentSpaceId();
+    const Scene scene = BuildScene(m_drawing, space, options);
+    if (!scene.isCut) return showLength(scene);
+    options.workLimit = limit;
+    SetDlgItemText(IDC_MEASURED_LENGTH, L"\x2026");
+    m_build = std::make_unique<CSceneBuild>(m_drawing, space, std::move(options), m_hWnd, kSceneMessage);
+}
+
+/// Of more than is ever drawn nobody could tell the length.
+void CMeasureDialog::showLength(const Scene& scene) {
+    const CString length =
+        scene.isCut ? textOf(IDS_MEASURED_TOO_MUCH) : FormatDistance(TotalLength(scene, *m_measured));
+    SetDlgItemText(IDC_MEASURED_LENGTH, length);
+}
+
+void CMeasureDialog::dropBuild() {
+    if (!m_build) return;
+    m_build.reset();
+    SetDlgItemText(IDC_MEASURED_LENGTH, L"");
+}
+
+LRESULT CMeasureDialog::OnScene(WPARAM wParam, LPARAM) {
+    if (!m_build || m_build->number() != wParam) return 0;
+    Scene scene;
+    SceneBounds bounds;
+    m_build->Take(scene, bounds);
+    m_build.reset();
+    showLength(scene);
+    return 0;
 }

@@ -25,13 +25,3 @@ double MeasureAngle(const OdGePoint2d& vertex, const OdGePoint2d& one, const OdG
     const double between = std::abs(first.direction - second.direction);
     return between > std::numbers::pi ? kTurn - between : between;
 }
-
-double TotalLength(const Scene& scene, const std::set<OdDbObjectId>& objects) {
-    double total = 0;
-    for (const ScenePath& path : scene.paths) {
-        if (path.filled || !objects.contains(path.entity)) continue;
-        for (std::size_t i = 1; i < path.points.size(); ++i)
-            total += MeasureLine(path.points[i - 1], path.points[i]).distance;
-    }
-    return total;
-}

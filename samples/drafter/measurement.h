@@ -1,9 +1,7 @@
 // What the measure dialog tells of picked places and objects. Knows no window.
 #pragma once
 
-#include <set>
-
-#include "scene.h"
+#include <od_ge.h>
 
 /// From one place to another, in drawing units and radians.
 struct LineMeasure {
@@ -19,6 +17,3 @@ LineMeasure MeasureLine(const OdGePoint2d& from, const OdGePoint2d& to);
 /// The angle at `vertex` between the directions to `one` and `other`, 0 to pi; 0 if one of them is the
 /// vertex.
 double MeasureAngle(const OdGePoint2d& vertex, const OdGePoint2d& one, const OdGePoint2d& other);
-
-/// Length of all lines of `objects` as `scene` draws them, in drawing units. Filled areas have none.
-double TotalLength(const Scene& scene, const std::set<OdDbObjectId>& objects);

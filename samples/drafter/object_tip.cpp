@@ -9,6 +9,7 @@
 #include <od_tool_tip_setting.h>
 
 #include "object_kinds.h"
+#include "path_measure.h"
 #include "resource.h"
 #include "unit_texts.h"
 
@@ -34,9 +35,9 @@ void addMeasure(OdArray<OdString>& lines, const Scene& scene, const OdDbObjectId
     for (const ScenePath& path : scene.paths) {
         if (path.entity != entity || path.isLetters) continue;
         ++paths;
-        length += LengthOf(path.points);
+        length += LengthOf(path);
         encloses = path.filled || isClosed(path.points);
-        area += AreaOf(path.points);
+        area += AreaOf(path);
     }
     if (paths == 0) return;
     if (paths == 1 && encloses)
@@ -50,23 +51,6 @@ void addMeasure(OdArray<OdString>& lines, const Scene& scene, const OdDbObjectId
 bool AreTipsOn() {
     const auto* const setting = dynamic_cast<const OdDbToolTipSetting*>(oddbHostApplicationServices());
     return setting == nullptr || setting->toolTips() != 0;
-}
-
-double LengthOf(const std::vector<OdGePoint2d>& points) {
-    double length = 0;
-    for (std::size_t i = 1; i < points.size(); ++i)
-        length += std::hypot(points[i].x - points[i - 1].x, points[i].y - points[i - 1].y);
-    return length;
-}
-
-double AreaOf(const std::vector<OdGePoint2d>& points) {
-    double twice = 0;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const OdGePoint2d& from = points[i];
-        const OdGePoint2d& to = points[(i + 1) % points.size()];
-        twice += from.x * to.y - to.x * from.y;
-    }
-    return std::fabs(twice) / 2;
 }
 
 OdArray<OdString> DescribeObject(const Scene& scene, const OdDbObjectId& entity) {

@@ -10,9 +10,3 @@ bool AreTipsOn();
 
 /// Kind, layer, colour, linetype, and the length or the area of `entity` as `scene` shows it, a line each.
 OdArray<OdString> DescribeObject(const Scene& scene, const OdDbObjectId& entity);
-
-/// Length of a line through points, in drawing units.
-double LengthOf(const std::vector<OdGePoint2d>& points);
-
-/// Area within points, whichever way round they go.
-double AreaOf(const std::vector<OdGePoint2d>& points);

@@ -35,26 +35,31 @@ inline void fillWithLines(OdDbDatabase& drawing) {
     addEntity(drawing, newMeasuredText());
 }
 
-/// A block within blocks that nobody sees drawn to its end, and whose texts are measured.
-inline void fillWithoutEnd(OdDbDatabase& drawing, const wchar_t* contents) {
-    constexpr int kDepth = 10, kReferences = 9;
+/// Blocks within blocks, nine references in each and `depth` of them within each other. The innermost has a
+/// line and a text, or without `contents` a line that isn't seen.
+inline void fillWithReferences(OdDbDatabase& drawing, const wchar_t* contents, int depth) {
+    constexpr int kReferences = 9;
     OdDbBlockTablePtr blocks;
     drawing.getBlockTable(blocks, OdDb::kForWrite);
     OdDbObjectId inner;
-    for (int depth = 0; depth <= kDepth; ++depth) {
+    for (int at = 0; at <= depth; ++at) {
         OdDbBlockTableRecordPtr block;
-        if (depth < kDepth) {
+        if (at < depth) {
             block = new OdDbBlockTableRecord;
-            block->setName((L"HEAVY" + std::to_wstring(depth)).c_str());
+            block->setName((L"HEAVY" + std::to_wstring(at)).c_str());
             blocks->add(OdDbSymbolTableRecordPtr(block.get()));
         } else {
             block = drawing.modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite);
         }
-        if (depth == 0) {
-            block->appendOdDbEntity(OdDbEntityPtr(newMeasuredText(contents)));
-            block->appendOdDbEntity(OdDbEntityPtr(newLine(0, 0, 100, 50)));
+        if (at == 0) {
+            OdDbLine* const line = newLine(0, 0, 100, 50);
+            block->appendOdDbEntity(OdDbEntityPtr(line));
+            if (contents != nullptr)
+                block->appendOdDbEntity(OdDbEntityPtr(newMeasuredText(contents)));
+            else
+                line->setVisibility(OdDb::kInvisible);
         }
-        for (int i = 0; depth > 0 && i < kReferences; ++i) {
+        for (int i = 0; at > 0 && i < kReferences; ++i) {
             const OdSmartPtr<OdDbBlockReference> reference(new OdDbBlockReference);
             block->appendOdDbEntity(OdDbEntityPtr(reference.get()));
             reference->setBlockTableRecord(inner);
@@ -64,13 +69,14 @@ inline void fillWithoutEnd(OdDbDatabase& drawing, const wchar_t* contents) {
     }
 }
 
-inline void fillWithoutEnd(OdDbDatabase& drawing) { fillWithoutEnd(drawing, L"%%umeasured"); }
+/// Of such depth that nobody sees it drawn to its end, and whose texts are measured.
+inline void fillWithoutEnd(OdDbDatabase& drawing) { fillWithReferences(drawing, L"%%umeasured", 10); }
 
 /// The same where each text takes some milliseconds to measure, so that even its limit is far.
 inline void fillWithoutEndSlowly(OdDbDatabase& drawing) {
     std::wstring marks;
     for (int i = 0; i < 100; ++i) marks += L"%%ua%%u ";
-    fillWithoutEnd(drawing, marks.c_str());
+    fillWithReferences(drawing, marks.c_str(), 10);
 }
 
 }  // namespace ui_test

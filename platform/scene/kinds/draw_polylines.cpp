@@ -27,7 +27,7 @@ void drawThin(const std::vector<WideCorner>& corners, bool closed, double elevat
 
 void drawFlat(const std::vector<WideCorner>& corners, bool closed, double elevation, const EntityPen& pen) {
     if (corners.empty() || !pen.work().spend(corners.size())) return;
-    if (!hasWidth(corners)) {
+    if (!pen.work().options().polylineWidths || !hasWidth(corners)) {
         drawThin(corners, closed, elevation, pen);
         return;
     }

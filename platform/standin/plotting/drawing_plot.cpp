@@ -47,13 +47,14 @@ OdDbPlotSettingsPtr PlotSettingsOf(const OdDbLayout& layout, bool overrides) {
     return OdDbPlotSettingsPtr(const_cast<OdDbLayout*>(&layout));
 }
 
-SceneExtents ModelExtents(OdDbDatabase& drawing) {
+SceneExtents ModelExtents(OdDbDatabase& drawing, std::stop_token stop) {
     SceneOptions options;
     options.use = SceneUse::kPaper;
+    options.stop = std::move(stop);
     return BuildScene(drawing, modelSpace(drawing), options).extents();
 }
 
-Scene DrawingPlot::scene(const OdDbObjectId& block) const {
+Scene DrawingPlot::scene(const OdDbObjectId& block) {
     SceneOptions options;
     options.use = SceneUse::kPaper;
     options.shapeFile = m_shapes;
@@ -62,7 +63,11 @@ Scene DrawingPlot::scene(const OdDbObjectId& block) const {
     options.textWidth = [&widths](const SceneFont& font, std::wstring_view text) {
         return widths.of(font, text);
     };
-    return BuildScene(m_drawing, block, options);
+    options.stop = m_stop;
+    options.percent = m_percent;
+    Scene scene = BuildScene(m_drawing, block, options);
+    m_isCut = m_isCut || scene.isCut;
+    return scene;
 }
 
 void DrawingPlot::addModel(const SceneExtents& area, const OdDbPlotSettings& settings, bool keepsScale) {

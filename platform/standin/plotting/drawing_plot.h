@@ -5,6 +5,9 @@
 //     std::string file = plot.write(L"Bracket");
 #pragma once
 
+#include <atomic>
+#include <stop_token>
+
 #include "plotting/layouts_on_paper.h"
 #include "plotting/scene_plotter.h"
 #include "scene_options.h"
@@ -15,8 +18,8 @@ constexpr const wchar_t* kPlotOverrideName = L"AcPublish_PlotSettingsOverride";
 /// The settings that `layout` is plotted by: those that override its own for `overrides`, if it has some.
 OdDbPlotSettingsPtr PlotSettingsOf(const OdDbLayout& layout, bool overrides);
 
-/// The area that everything that is plotted in model space takes up.
-SceneExtents ModelExtents(OdDbDatabase& drawing);
+/// The area that everything that is plotted in model space takes up, as far as it is found until `stop`.
+SceneExtents ModelExtents(OdDbDatabase& drawing, std::stop_token stop = {});
 
 class DrawingPlot {
 public:
@@ -30,6 +33,13 @@ public:
         m_pictures = std::move(pictures);
     }
 
+    /// Once `stop` is asked for, pages end where they are. `percent`, if not null, is how far the page at
+    /// hand has come; it outlives the pages.
+    void setProgress(std::stop_token stop, std::atomic<int>* percent) {
+        m_stop = std::move(stop);
+        m_percent = percent;
+    }
+
     /// A page that shows `area` of model space and nothing beside it; `keepsScale` as for PlaceArea.
     void addModel(const SceneExtents& area, const OdDbPlotSettings& settings, bool keepsScale);
     /// A page that shows the sheet of `layout` with what its viewports show of model space.
@@ -38,11 +48,13 @@ public:
     void stamp(std::wstring_view text);
 
     int pageCount() const { return static_cast<int>(m_file.pages().size()); }
+    /// Whether a page lacks something, as there is more than scenes hold, or it was stopped.
+    bool isCut() const { return m_isCut; }
     /// The whole file.
     std::string write(std::wstring_view title);
 
 private:
-    Scene scene(const OdDbObjectId& block) const;
+    Scene scene(const OdDbObjectId& block);
 
     OdDbDatabase& m_drawing;
     PlotFaces m_faces;
@@ -51,4 +63,7 @@ private:
     PlotLook m_look;
     PdfWriter m_file;
     PdfPage* m_last = nullptr;
+    std::stop_token m_stop;
+    std::atomic<int>* m_percent = nullptr;
+    bool m_isCut = false;
 };

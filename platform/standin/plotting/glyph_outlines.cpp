@@ -38,14 +38,14 @@ std::vector<GlyphPiece> piecesOf(const std::vector<POINT>& points, const std::ve
 
 }  // namespace
 
-GlyphOutlines::GlyphOutlines() {
+GlyphOutlines::GlyphOutlines(SceneFamily family) : m_family(std::move(family)) {
     m_dc.CreateCompatibleDC(nullptr);
     m_dc.SetBkMode(TRANSPARENT);
     m_dc.SetTextAlign(TA_LEFT | TA_BASELINE);
 }
 
 PlotFace GlyphOutlines::face(const SceneFont& font) {
-    LOGFONT look = TextFace(font);
+    LOGFONT look = TextFaceOf(font, m_family(font));
     look.lfHeight = -kEm;
     look.lfQuality = NONANTIALIASED_QUALITY;
     const std::string name =

@@ -8,16 +8,19 @@
 #include <afxwin.h>
 
 #include "plotting/scene_plotter.h"
+#include "screen_scene.h"
 
-/// Gives the letters of the faces that texts are shown in. Faces live as long as it does.
+/// Gives the letters of the faces that texts are shown in. Faces live as long as it does. Made, used and
+/// destroyed on one thread.
 class GlyphOutlines {
 public:
-    GlyphOutlines();
+    explicit GlyphOutlines(SceneFamily family);
     PlotFace face(const SceneFont& font);
 
 private:
     Glyph glyph(CFont& font, char32_t character);
 
+    SceneFamily m_family;
     CDC m_dc;
     std::map<std::string, std::unique_ptr<CFont>> m_fonts;
 };

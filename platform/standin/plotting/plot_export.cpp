@@ -4,14 +4,13 @@
 #include <ktut.h>
 
 #include "own_resources.h"
-#include "plotting/drawing_plot.h"
-#include "screen_scene.h"
 #include "plotting/glyph_outlines.h"
 #include "plotting/plot_options.h"
 #include "resource.h"
 
 namespace {
 
+constexpr UINT kWasStopped = 1;  // the number of no text
 constexpr int kExtentsArea = 1, kCurrentLayoutArea = 3, kAllLayoutsArea = 4;
 
 CString textOf(UINT id, const CString& first = {}) {
@@ -54,19 +53,11 @@ CString dateAndTime() {
     return CString(date) + L" " + time;
 }
 
-/// The line at the foot of a page; empty if none is wanted.
-CString stampOf(const OdDbDatabase& drawing, const OdDbLayout& layout) {
-    CString text;
-    const auto add = [&](const ExportOption& option, const CString& part) {
-        if (!getExportOption(option) || part.IsEmpty()) return;
-        if (!text.IsEmpty()) text += L"  |  ";
-        text += part;
-    };
-    if (!getExportOption(kExportStamp)) return text;
-    add(kStampDrawing, drawingName(drawing));
-    add(kStampLayout, layout.getLayoutName().c_str());
-    add(kStampDate, dateAndTime());
-    return text;
+/// What the profile says of the line at the foot of pages.
+PlotStamp stampOfProfile() {
+    if (!getExportOption(kExportStamp)) return {};
+    return {getExportOption(kStampDrawing) != 0, getExportOption(kStampLayout) != 0,
+            getExportOption(kStampDate) != 0};
 }
 
 bool writeAll(const CString& path, const std::string& bytes) {
@@ -89,94 +80,129 @@ bool replaceFile(const CString& path, const std::string& bytes) {
     return false;
 }
 
-/// Exports one drawing; each file is a plot of its own.
-class Export {
-public:
-    Export(OdDbDatabase& drawing, std::vector<CString>& written)
-        : m_drawing(drawing), m_written(written), m_overrides(getExportOption(kExportOverride) != 0) {
-        m_look.layers = getExportOption(kExportLayers) != 0;
-        m_look.merges = getExportOption(kExportMerge) != 0;
-    }
-
-    UINT model(const std::optional<SceneExtents>& area, const CString& path);
-    UINT layouts(const std::vector<OdDbLayoutPtr>& layouts, const CString& path, bool overrides);
-    const CString& failed() const { return m_failed; }
-    OdDbLayoutPtr currentLayout() const { return m_drawing.currentLayoutId().open<OdDbLayout>(); }
-
-private:
-    DrawingPlot start() {
-        DrawingPlot plot(
-            m_drawing, [this](const SceneFont& font) { return m_outlines.face(font); }, m_look);
-        SceneOptions screen = ScreenSceneOptions(m_drawing);
-        plot.setFiles(std::move(screen.shapeFile), std::move(screen.picture));
-        return plot;
-    }
-    UINT finish(DrawingPlot& plot, const CString& path);
-
-    OdDbDatabase& m_drawing;
-    std::vector<CString>& m_written;
-    bool m_overrides;
-    PlotLook m_look;
-    GlyphOutlines m_outlines;
-    CString m_failed;
-};
-
-UINT Export::finish(DrawingPlot& plot, const CString& path) {
-    const CString title = drawingName(m_drawing);
-    if (replaceFile(path, plot.write(title.GetString()))) {
-        m_written.push_back(path);
-        return 0;
-    }
-    m_failed = path;
-    return IDS_EXPORT_NOT_WRITTEN;
-}
-
-UINT Export::model(const std::optional<SceneExtents>& area, const CString& path) {
-    const OdDbLayoutPtr layout = currentLayout();
-    if (!layout) return IDS_EXPORT_NO_DRAWING;
-    const SceneExtents shown = area ? *area : ModelExtents(m_drawing);
-    if (shown.isEmpty()) return IDS_EXPORT_NOTHING;
-    DrawingPlot plot = start();
-    plot.addModel(shown, *PlotSettingsOf(*layout, m_overrides), m_overrides);
-    plot.stamp(stampOf(m_drawing, *layout).GetString());
-    return finish(plot, path);
-}
-
-UINT Export::layouts(const std::vector<OdDbLayoutPtr>& layouts, const CString& path, bool overrides) {
-    if (layouts.empty()) return IDS_EXPORT_NOTHING;
-    const bool isOneFile = layouts.size() == 1 || getExportOption(kExportMultiSheet) != 0;
-    std::optional<DrawingPlot> plot;
-    for (const OdDbLayoutPtr& layout : layouts) {
-        if (!plot || !isOneFile) plot.emplace(start());
-        plot->addLayout(*layout, *PlotSettingsOf(*layout, overrides));
-        plot->stamp(stampOf(m_drawing, *layout).GetString());
-        if (isOneFile) continue;
-        if (const UINT problem = finish(*plot, besides(path, layout->getLayoutName().c_str())))
-            return problem;
-    }
-    return isOneFile ? finish(*plot, path) : 0;
+/// The format that a file of this name would have and that nobody writes; null if there is none.
+const wchar_t* unwrittenFormat(const CString& path) {
+    const CString extension = extensionOf(path);
+    if (extension.CompareNoCase(L".dwf") == 0) return L"DWF";
+    return extension.CompareNoCase(L".dwfx") == 0 ? L"DWFx" : nullptr;
 }
 
 }  // namespace
 
-bool ExportDrawingTo(OdDbDatabase& drawing, const ExportRequest& request, const CString& path,
-                     std::vector<CString>& written, CString& message) {
-    const CString extension = extensionOf(path);
-    for (const wchar_t* each : {L".dwf", L".dwfx"})
-        if (extension.CompareNoCase(each) == 0) {
-            message = textOf(IDS_EXPORT_NO_DWF, each == CString(L".dwf") ? L"DWF" : L"DWFx");
-            return false;
-        }
-    Export run(drawing, written);
-    UINT problem = 0;
-    if (request.area == kAllLayoutsArea)
-        problem = run.layouts(LayoutsOnPaper(drawing), path, false);
-    else if (request.area == kCurrentLayoutArea)
-        problem = run.layouts({run.currentLayout()}, path, getExportOption(kExportOverride) != 0);
-    else if (request.area == kExtentsArea)
-        problem = run.model({}, path);
-    else
-        problem = request.picked ? run.model(request.picked, path) : IDS_EXPORT_NO_AREA;
-    if (problem != 0) message = textOf(problem, run.failed());
-    return problem == 0;
+DrawingExport::DrawingExport(OdDbDatabase& drawing, const ExportRequest& request, const CString& path)
+    : m_drawing(drawing),
+      m_request(request),
+      m_path(path),
+      m_family(BackgroundFamilies(drawing)),
+      m_stamp(stampOfProfile()),
+      m_overrides(getExportOption(kExportOverride) != 0),
+      m_isOneFile(getExportOption(kExportMultiSheet) != 0) {
+    m_look.layers = getExportOption(kExportLayers) != 0;
+    m_look.merges = getExportOption(kExportMerge) != 0;
+    SceneOptions found = BackgroundSceneOptions(drawing);
+    m_shapes = std::move(found.shapeFile);
+    m_pictures = std::move(found.picture);
+}
+
+void DrawingExport::write(std::stop_token stop) {
+    // Fonts that are traced are made on this thread, and go with it.
+    GlyphOutlines outlines(m_family);
+    m_faces = [&outlines](const SceneFont& font) { return outlines.face(font); };
+    try {
+        m_problem = writeFiles(stop);
+    } catch (const std::bad_alloc&) {
+        m_problem = IDS_EXPORT_NO_MEMORY;
+    }
+    m_faces = {};
+}
+
+int DrawingExport::percent() const {
+    const int pages = m_pages, page = m_page;
+    return (page * 100 + m_percent) / pages;
+}
+
+CString DrawingExport::message() const {
+    if (m_problem == kWasStopped) return {};
+    if (m_problem != 0) return textOf(m_problem, m_told);
+    return m_isCut ? textOf(IDS_EXPORT_CUT) : CString();
+}
+
+bool DrawingExport::wasStopped() const { return m_problem == kWasStopped; }
+
+UINT DrawingExport::writeFiles(const std::stop_token& stop) {
+    if (const wchar_t* const format = unwrittenFormat(m_path)) {
+        m_told = format;
+        return IDS_EXPORT_NO_DWF;
+    }
+    if (m_request.area == kAllLayoutsArea) return writeLayouts(LayoutsOnPaper(m_drawing), false, stop);
+    if (m_request.area == kCurrentLayoutArea) return writeLayouts({currentLayout()}, m_overrides, stop);
+    if (m_request.area != kExtentsArea && !m_request.picked) return IDS_EXPORT_NO_AREA;
+    return writeModel(stop);
+}
+
+UINT DrawingExport::writeModel(const std::stop_token& stop) {
+    const OdDbLayoutPtr layout = currentLayout();
+    if (!layout) return IDS_EXPORT_NO_DRAWING;
+    const SceneExtents shown =
+        m_request.area == kExtentsArea ? ModelExtents(m_drawing, stop) : *m_request.picked;
+    if (stop.stop_requested()) return kWasStopped;
+    if (shown.isEmpty()) return IDS_EXPORT_NOTHING;
+    DrawingPlot plot = start(stop);
+    plot.addModel(shown, *PlotSettingsOf(*layout, m_overrides), m_overrides);
+    plot.stamp(stampOf(*layout).GetString());
+    return finish(plot, m_path, stop);
+}
+
+UINT DrawingExport::writeLayouts(const std::vector<OdDbLayoutPtr>& layouts, bool overrides,
+                                 const std::stop_token& stop) {
+    if (layouts.empty()) return IDS_EXPORT_NOTHING;
+    const bool isOneFile = layouts.size() == 1 || m_isOneFile;
+    m_pages = static_cast<int>(layouts.size());
+    std::optional<DrawingPlot> plot;
+    for (const OdDbLayoutPtr& layout : layouts) {
+        if (!plot || !isOneFile) plot.emplace(start(stop));
+        plot->addLayout(*layout, *PlotSettingsOf(*layout, overrides));
+        plot->stamp(stampOf(*layout).GetString());
+        if (stop.stop_requested()) return kWasStopped;
+        m_percent = 0;
+        ++m_page;
+        if (isOneFile) continue;
+        if (const UINT problem = finish(*plot, besides(m_path, layout->getLayoutName().c_str()), stop))
+            return problem;
+    }
+    return isOneFile ? finish(*plot, m_path, stop) : 0;
+}
+
+DrawingPlot DrawingExport::start(const std::stop_token& stop) {
+    DrawingPlot plot(m_drawing, m_faces, m_look);
+    plot.setFiles(m_shapes, m_pictures);
+    plot.setProgress(stop, &m_percent);
+    return plot;
+}
+
+UINT DrawingExport::finish(DrawingPlot& plot, const CString& path, const std::stop_token& stop) {
+    const CString title = drawingName(m_drawing);
+    const std::string bytes = plot.write(title.GetString());
+    if (stop.stop_requested()) return kWasStopped;
+    if (!replaceFile(path, bytes)) {
+        m_told = path;
+        return IDS_EXPORT_NOT_WRITTEN;
+    }
+    m_isCut = m_isCut || plot.isCut();
+    m_written.push_back(path);
+    return 0;
+}
+
+/// The line at the foot of a page; empty if none is wanted.
+CString DrawingExport::stampOf(const OdDbLayout& layout) const {
+    CString text;
+    const auto add = [&](bool isWanted, const CString& part) {
+        if (!isWanted || part.IsEmpty()) return;
+        if (!text.IsEmpty()) text += L"  |  ";
+        text += part;
+    };
+    add(m_stamp.drawing, drawingName(m_drawing));
+    add(m_stamp.layout, layout.getLayoutName().c_str());
+    add(m_stamp.date, dateAndTime());
+    return text;
 }

@@ -7,6 +7,7 @@
 
 #include "own_resources.h"
 #include "plotting/export_options_dialog.h"
+#include "plotting/export_wait.h"
 #include "plotting/page_setup_dialog.h"
 #include "plotting/plot_export.h"
 #include "plotting/plot_options.h"
@@ -126,10 +127,11 @@ bool StandinPlotService::exportDrawing(const CString& path, CString& message) {
     request.area = getPlotArea(layout->modelType());
     if (request.area == kDisplayArea) request.picked = displayedArea();
     if (request.area == kWindowArea) request.picked = m_window;
-    std::vector<CString> written;
-    const bool isDone = ExportDrawingTo(*drawing, request, path, written, message);
-    if (isDone && getFirstSwitch() && !written.empty()) openFile(written.front());
-    return isDone;
+    DrawingExport run(*drawing, request, path);
+    const ExportEnd end = WriteExport(run, *drawing, path, m_patience);
+    message = end == ExportEnd::kChanged ? textOf(IDS_EXPORT_CHANGED) : run.message();
+    if (run.isDone() && getFirstSwitch() && !run.written().empty()) openFile(run.written().front());
+    return run.isDone();
 }
 
 void StandinPlotService::openFile(const CString& path) const {

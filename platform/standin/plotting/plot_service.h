@@ -35,13 +35,14 @@ public:
     void setOverride(bool on) override;
     bool getOverride() override;
 
-    /// Writes the working drawing as the options say; false with the reason in `message`.
+    /// As CStandinHost::ExportDrawing.
     bool exportDrawing(const CString& path, CString& message);
     /// The window was picked in a drawing that is no longer the current one.
     void forgetWindow() { m_window.reset(); }
 
     StandinPlotView* m_view = nullptr;             ///< of the application; null for none
     std::function<bool(const CString&)> m_opener;  ///< opens a file that was written; empty for the system's
+    DWORD m_patience = 500;                        ///< milliseconds of an export before its window comes
 
 private:
     std::optional<SceneExtents> displayedArea() const;

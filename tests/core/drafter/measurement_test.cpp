@@ -29,15 +29,3 @@ TEST(MeasureAngle, IsTheSmallerOneBetweenTheLegs) {
     EXPECT_DOUBLE_EQ(MeasureAngle({0, 0}, {0, 0}, {1, 1}), 0);
     EXPECT_DOUBLE_EQ(MeasureAngle({0, 0}, {1, 1}, {0, 0}), 0);
 }
-
-TEST(TotalLength, CountsTheLinesOfTheObjectsOnly) {
-    OdDbDatabasePtr drawing(new OdDbDatabase);
-    const OdDbObjectId one = drawing->paperSpaceId(), other = drawing->modelSpaceId();
-    Scene scene;
-    scene.paths.push_back({{{0, 0}, {3, 4}, {3, 5}}, false, {}, one});
-    scene.paths.push_back({{{0, 0}, {0, 7}}, true, {}, one});
-    scene.paths.push_back({{{0, 0}, {10, 0}}, false, {}, other});
-    EXPECT_DOUBLE_EQ(TotalLength(scene, {one}), 6);
-    EXPECT_DOUBLE_EQ(TotalLength(scene, {one, other}), 16);
-    EXPECT_DOUBLE_EQ(TotalLength(scene, {}), 0);
-}
