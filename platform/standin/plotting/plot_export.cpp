@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr UINT kWasStopped = 1;  // the number of no text
+constexpr UINT kWasStopped = 1;  // the number of an empty text
 constexpr int kExtentsArea = 1, kCurrentLayoutArea = 3, kAllLayoutsArea = 4;
 
 CString textOf(UINT id, const CString& first = {}) {
@@ -122,7 +122,6 @@ int DrawingExport::percent() const {
 }
 
 CString DrawingExport::message() const {
-    if (m_problem == kWasStopped) return {};
     if (m_problem != 0) return textOf(m_problem, m_told);
     return m_isCut ? textOf(IDS_EXPORT_CUT) : CString();
 }

@@ -1,7 +1,6 @@
 // What the measure dialog tells of objects: at once of a few, and of many when they were drawn beside it.
-#include <od_db_hatch.h>
-
 #include "drafter_fixture.h"
+#include "file_groups.h"
 #include "heavy_drawing.h"
 #include "../../../samples/drafter/measure_dialog.h"
 
@@ -59,11 +58,19 @@ TEST_F(MeasuredObjects, AFewAreToldAtOnceAndOnlyThose) {
 }
 
 TEST_F(MeasuredObjects, LinesOfHatchesAndTextsAndWidthsOfPolylinesAreNone) {
+    // A square of ten with lines one unit apart.
+    ASSERT_EQ(
+        drawing->readDxfBytes(fileGroups(
+            "0 SECTION|2 ENTITIES|0 HATCH|8 0|100 AcDbHatch|10 0|20 0|30 0|210 0|220 0|230 1|2 ANSI31|70 "
+            "0|71 0|91 1|92 2|72 0|73 1|93 4|10 0|20 0|10 10|20 0|10 10|20 10|10 0|20 10|97 0|75 0|76 1|52 "
+            "0|41 1|77 0|78 1|53 0|43 0|44 0|45 0|46 1|79 0|98 0|0 ENDSEC|0 EOF")),
+        kOdOk);
+    const Scene lines = BuildScene(*drawing, drawing->modelSpaceId());
+    ASSERT_EQ(lines.paths.size(), 1u);
+    EXPECT_FALSE(lines.paths[0].filled);
     auto* const wide = new OdDbPolyline;
     wide->setVertices(OdArray<OdDbPolylineVertex>{{{0, 0}, 0, 4, 4}, {{25, 0}, 0, 4, 4}});
     addEntity(*drawing, wide);
-    auto* const hatch = new OdDbHatch;
-    addEntity(*drawing, hatch);
     addEntity(*drawing, newMeasuredText());
     selectAll();
     show(dialog, [this] {

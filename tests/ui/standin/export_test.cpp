@@ -4,6 +4,7 @@
 
 #include "../../../platform/standin/resource.h"
 #include "export_fixture.h"
+#include "file_groups.h"
 
 using ui_test::Exports;
 
@@ -247,4 +248,30 @@ TEST_F(Exports, AnOverrideCountsOnceItIsSwitchedOn) {
     EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 1);
     plot().setOverride(false);
     EXPECT_EQ(count(exported(), "/MediaBox [0 0 720 360]"), 0);
+}
+
+TEST_F(Exports, LettersOfShapeFontsAndPicturesComeFromTheirFiles) {
+    ui_test::TemporaryFolder files;
+    std::string bitmap("BM\x3A\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0", 30);
+    bitmap += std::string(24, '\0') + std::string("\xFF\0\0\0", 4);
+    files.write(L"blue.bmp", bitmap);
+    wchar_t program[MAX_PATH] = {};
+    ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+    host.SetSupportDirectories({(std::filesystem::path(program).parent_path() / L"fonts").c_str()});
+    const std::string drawn = ui_test::fileGroups(
+        "0 SECTION|2 TABLES|0 TABLE|2 STYLE|0 STYLE|2 STROKES|70 0|40 0|41 1|50 0|71 0|42 1|3 drafter.shx|0 "
+        "ENDTAB|0 ENDSEC|0 SECTION|2 ENTITIES|0 TEXT|8 0|10 0|20 0|40 5|1 AB|7 STROKES|0 IMAGE|8 0|100 "
+        "AcDbRasterImage|10 0|20 0|30 0|11 40|21 0|31 0|12 0|22 30|32 0|13 1|23 1|340 D0|70 7|280 0|0 "
+        "ENDSEC|0 SECTION|2 OBJECTS|0 IMAGEDEF|5 D0|330 0|100 AcDbRasterImageDef|1 blue.bmp|0 ENDSEC|0 EOF");
+    const std::wstring path = files.write(L"drawn.dxf", drawn);
+    ASSERT_EQ(document.drawing->readDxf(path.c_str()), kOdOk);
+    plot().setPlotArea(1, true);
+    std::string file = exported();
+    EXPECT_EQ(count(file, "/Subtype /Type3"), 0) << "strokes are lines";
+    EXPECT_EQ(count(file, "/Subtype /Image"), 1);
+    host.SetSupportDirectories({});
+    ASSERT_TRUE(::DeleteFileW((files.path() + L"\\blue.bmp").c_str()));
+    file = exported();
+    EXPECT_GT(count(file, "/Subtype /Type3"), 0) << "a font of the screen's stands for it";
+    EXPECT_EQ(count(file, "/Subtype /Image"), 0);
 }
