@@ -1,4 +1,5 @@
-// What an application does by itself: start, run and end, cursors and icons, help, the modal state of a frame.
+// What an application does by itself: start, run and end, cursors and icons, help, the modal state of a
+// frame.
 #include <afxext.h>
 
 #include <vector>

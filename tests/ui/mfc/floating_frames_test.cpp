@@ -1,5 +1,5 @@
-// The floating frame of a single pane: what it says of its pane, what its look is asked to draw, what the mouse
-// does on its buttons.
+// The floating frame of a single pane: what it says of its pane, what its look is asked to draw, what the
+// mouse does on its buttons.
 #include <afxvisualmanager.h>
 
 #include "docking_fixture.h"
@@ -70,7 +70,9 @@ protected:
     }
     CMFCCaptionButton& button(LRESULT hit) const { return *floating->FindButtonByHit(hit); }
     /// The middle of a button on the screen.
-    CPoint on(LRESULT hit) const { return on_screen(*floating).TopLeft() + button(hit).GetRect().CenterPoint(); }
+    CPoint on(LRESULT hit) const {
+        return on_screen(*floating).TopLeft() + button(hit).GetRect().CenterPoint();
+    }
     /// The lower left corner of one.
     template <class Window>
     static CPoint below(const Window& window, const CMFCCaptionButton& one) {
@@ -234,8 +236,7 @@ TEST_F(FloatingFrames, draws_border_caption_and_buttons) {
     EXPECT_EQ(NotingLook::borders[0].frame, CRect(CPoint(0, 0), place.Size()));
     EXPECT_EQ(NotingLook::borders[0].sizes, CRect(4, 4, 4, 4));
     ASSERT_FALSE(NotingLook::captions.empty());
-    EXPECT_EQ(NotingLook::captions[0].rect,
-              CRect(4, 4, place.Width() - 4, 4 + floating->GetCaptionHeight()));
+    EXPECT_EQ(NotingLook::captions[0].rect, CRect(4, 4, place.Width() - 4, 4 + floating->GetCaptionHeight()));
     ASSERT_GE(NotingLook::buttons.size(), 2U);
     EXPECT_EQ(NotingLook::buttons[0].hit, static_cast<UINT>(AFX_HTCLOSE));
     EXPECT_EQ(NotingLook::buttons[1].hit, static_cast<UINT>(AFX_HTMENU));

@@ -28,7 +28,9 @@ protected:
 class Idler : public CDialog {
 public:
     explicit Idler(CWnd* parent, UINT id = 401) : CDialog(id, parent) {}
-    Idler(CWnd* parent, LPCDLGTEMPLATE bytes, void* init = nullptr) { InitModalIndirect(bytes, parent, init); }
+    Idler(CWnd* parent, LPCDLGTEMPLATE bytes, void* init = nullptr) {
+        InitModalIndirect(bytes, parent, init);
+    }
     using CDialog::m_lpszTemplateName;
 
     std::vector<std::pair<WPARAM, LPARAM>> steps;

@@ -23,7 +23,8 @@ public:
     }
     CSize CalcFixedLayout(BOOL, BOOL) override { return CSize(60, 30); }
     void make(CWnd* frame, UINT id) {
-        ASSERT_TRUE(CreateEx(0, nullptr, L"strip", WS_CHILD | WS_VISIBLE | CBRS_TOP, CRect(0, 0, 60, 30), frame, id));
+        ASSERT_TRUE(
+            CreateEx(0, nullptr, L"strip", WS_CHILD | WS_VISIBLE | CBRS_TOP, CRect(0, 0, 60, 30), frame, id));
     }
 };
 
@@ -205,10 +206,11 @@ TEST_F(PaneCalls, floating_frames_are_told_together) {
     EXPECT_EQ(told.size(), 2U);
     EXPECT_EQ(std::count(told.begin(), told.end(), first), 1);
     EXPECT_EQ(std::count(told.begin(), told.end(), second), 1);
-    constexpr UINT kFrame =
-        SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
+    constexpr UINT kFrame = SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
     for (const HWND window : {one.m_hWnd, two.m_hWnd, first, second}) {
-        const auto is = [&](const auto& each) { return each.first == window && (each.second & kFrame) == kFrame; };
+        const auto is = [&](const auto& each) {
+            return each.first == window && (each.second & kFrame) == kFrame;
+        };
         EXPECT_TRUE(std::any_of(framed.begin(), framed.end(), is));
     }
 }
@@ -226,8 +228,8 @@ TEST_F(PaneCalls, a_change_of_the_systems_settings_measures_the_caption_again) {
 TEST_F(PaneCalls, a_pane_is_made_like_any_window_too) {
     CDockablePane pane;
     CWnd& window = pane;
-    ASSERT_TRUE(window.Create(nullptr, L"plain", WS_CHILD | WS_VISIBLE | CBRS_RIGHT, CRect(0, 0, 120, 80), frame,
-                              kFirstId + 90));
+    ASSERT_TRUE(window.Create(nullptr, L"plain", WS_CHILD | WS_VISIBLE | CBRS_RIGHT, CRect(0, 0, 120, 80),
+                              frame, kFirstId + 90));
     EXPECT_EQ(ui_test::text_of(pane.m_hWnd), L"plain");
     EXPECT_EQ(pane.GetDlgCtrlID(), static_cast<int>(kFirstId + 90));
     EXPECT_EQ(pane.GetControlBarStyle(), static_cast<DWORD>(AFX_DEFAULT_DOCKING_PANE_STYLE));
@@ -332,7 +334,8 @@ TEST_F(PaneCalls, panes_are_found_by_kind_and_by_what_is_ignored) {
     EXPECT_EQ(manager().PaneFromPoint(beside, 5), &one);
     EXPECT_EQ(manager().PaneFromPoint(middle, 0, false, RUNTIME_CLASS(CDockablePane)), &one);
     EXPECT_EQ(manager().PaneFromPoint(middle, 0, false, RUNTIME_CLASS(CMFCToolBar)), nullptr);
-    EXPECT_EQ(manager().PaneFromPoint(middle, 0, true, RUNTIME_CLASS(CBasePane)), nullptr) << "not just that class";
+    EXPECT_EQ(manager().PaneFromPoint(middle, 0, true, RUNTIME_CLASS(CBasePane)), nullptr)
+        << "not just that class";
     EXPECT_EQ(manager().PaneFromPoint(middle, 0, false, RUNTIME_CLASS(CBasePane)), &one);
     EXPECT_EQ(manager().PaneFromPoint(middle, 0, false, nullptr, TRUE, &one), nullptr);
     one.FloatPane(CRect(300, 300, 500, 500));

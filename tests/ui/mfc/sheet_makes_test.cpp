@@ -74,8 +74,8 @@ TEST(SheetMakes, SheetsByNumberOrNameWithPictures) {
         EXPECT_EQ(sheet.m_pParentWnd, &parent);
         EXPECT_EQ(sheet.m_psh.nStartPage, 1U);
         EXPECT_NE(sheet.m_psh.dwFlags & PSH_PROPSHEETPAGE, 0U);
-        constexpr DWORD kMarks = PSH_WATERMARK | PSH_USEHBMWATERMARK | PSH_USEHPLWATERMARK | PSH_HEADER |
-                                 PSH_USEHBMHEADER;
+        constexpr DWORD kMarks =
+            PSH_WATERMARK | PSH_USEHBMWATERMARK | PSH_USEHPLWATERMARK | PSH_HEADER | PSH_USEHBMHEADER;
         EXPECT_EQ(sheet.m_psh.dwFlags & kMarks, pictures ? kMarks : 0U);
         if (!pictures) return;
         EXPECT_EQ(sheet.m_psh.hbmWatermark, watermark);

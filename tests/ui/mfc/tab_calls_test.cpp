@@ -43,7 +43,8 @@ Pixels across(const Pixels& from) {
 }
 /// The dark pixels of a sign.
 int ink(const Pixels& pixels) {
-    return static_cast<int>(std::count_if(pixels.begin(), pixels.end(), [](COLORREF c) { return c != kGround; }));
+    return static_cast<int>(
+        std::count_if(pixels.begin(), pixels.end(), [](COLORREF c) { return c != kGround; }));
 }
 /// Where they begin and end from the left and from above.
 CRect bounds(const Pixels& pixels) {
@@ -51,8 +52,8 @@ CRect bounds(const Pixels& pixels) {
     for (int y = 0; y < kSide; ++y)
         for (int x = 0; x < kSide; ++x)
             if (pixels[static_cast<size_t>(y * kSide + x)] != kGround)
-                box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y), std::max<int>(box.right, x + 1),
-                            std::max<int>(box.bottom, y + 1));
+                box = CRect(std::min<int>(box.left, x), std::min<int>(box.top, y),
+                            std::max<int>(box.right, x + 1), std::max<int>(box.bottom, y + 1));
     return box;
 }
 
@@ -332,18 +333,30 @@ TEST(GlobalDataCalls, ObjectsGoAndComeBack) {
 TEST(GlobalDataCalls, EveryColourIsTheSystemsOwn) {
     afxGlobalData.UpdateSysColors();
     const std::pair<COLORREF, int> colors[] = {
-        {afxGlobalData.clrBtnFace, COLOR_BTNFACE}, {afxGlobalData.clrBarFace, COLOR_BTNFACE},
-        {afxGlobalData.clrBtnShadow, COLOR_BTNSHADOW}, {afxGlobalData.clrBarShadow, COLOR_BTNSHADOW},
-        {afxGlobalData.clrBtnHilite, COLOR_BTNHIGHLIGHT}, {afxGlobalData.clrBarHilite, COLOR_BTNHIGHLIGHT},
-        {afxGlobalData.clrBtnText, COLOR_BTNTEXT}, {afxGlobalData.clrBarText, COLOR_BTNTEXT},
-        {afxGlobalData.clrBtnDkShadow, COLOR_3DDKSHADOW}, {afxGlobalData.clrBarDkShadow, COLOR_3DDKSHADOW},
-        {afxGlobalData.clrBtnLight, COLOR_3DLIGHT}, {afxGlobalData.clrBarLight, COLOR_3DLIGHT},
-        {afxGlobalData.clrWindow, COLOR_WINDOW}, {afxGlobalData.clrBarWindow, COLOR_WINDOW},
-        {afxGlobalData.clrWindowText, COLOR_WINDOWTEXT}, {afxGlobalData.clrWindowFrame, COLOR_WINDOWFRAME},
-        {afxGlobalData.clrGrayedText, COLOR_GRAYTEXT}, {afxGlobalData.clrMenuText, COLOR_MENUTEXT},
-        {afxGlobalData.clrHilite, COLOR_HIGHLIGHT}, {afxGlobalData.clrTextHilite, COLOR_HIGHLIGHTTEXT},
-        {afxGlobalData.clrHotText, COLOR_HOTLIGHT}, {afxGlobalData.clrActiveCaption, COLOR_ACTIVECAPTION},
-        {afxGlobalData.clrInactiveCaption, COLOR_INACTIVECAPTION}, {afxGlobalData.clrCaptionText, COLOR_CAPTIONTEXT},
+        {afxGlobalData.clrBtnFace, COLOR_BTNFACE},
+        {afxGlobalData.clrBarFace, COLOR_BTNFACE},
+        {afxGlobalData.clrBtnShadow, COLOR_BTNSHADOW},
+        {afxGlobalData.clrBarShadow, COLOR_BTNSHADOW},
+        {afxGlobalData.clrBtnHilite, COLOR_BTNHIGHLIGHT},
+        {afxGlobalData.clrBarHilite, COLOR_BTNHIGHLIGHT},
+        {afxGlobalData.clrBtnText, COLOR_BTNTEXT},
+        {afxGlobalData.clrBarText, COLOR_BTNTEXT},
+        {afxGlobalData.clrBtnDkShadow, COLOR_3DDKSHADOW},
+        {afxGlobalData.clrBarDkShadow, COLOR_3DDKSHADOW},
+        {afxGlobalData.clrBtnLight, COLOR_3DLIGHT},
+        {afxGlobalData.clrBarLight, COLOR_3DLIGHT},
+        {afxGlobalData.clrWindow, COLOR_WINDOW},
+        {afxGlobalData.clrBarWindow, COLOR_WINDOW},
+        {afxGlobalData.clrWindowText, COLOR_WINDOWTEXT},
+        {afxGlobalData.clrWindowFrame, COLOR_WINDOWFRAME},
+        {afxGlobalData.clrGrayedText, COLOR_GRAYTEXT},
+        {afxGlobalData.clrMenuText, COLOR_MENUTEXT},
+        {afxGlobalData.clrHilite, COLOR_HIGHLIGHT},
+        {afxGlobalData.clrTextHilite, COLOR_HIGHLIGHTTEXT},
+        {afxGlobalData.clrHotText, COLOR_HOTLIGHT},
+        {afxGlobalData.clrActiveCaption, COLOR_ACTIVECAPTION},
+        {afxGlobalData.clrInactiveCaption, COLOR_INACTIVECAPTION},
+        {afxGlobalData.clrCaptionText, COLOR_CAPTIONTEXT},
         {afxGlobalData.clrInactiveCaptionText, COLOR_INACTIVECAPTIONTEXT},
         {afxGlobalData.clrActiveCaptionGradient, COLOR_GRADIENTACTIVECAPTION},
         {afxGlobalData.clrInactiveCaptionGradient, COLOR_GRADIENTINACTIVECAPTION}};

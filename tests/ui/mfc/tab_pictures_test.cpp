@@ -1,4 +1,5 @@
-// What single tabs look like, pixel by pixel: outlines, the line of the active one, icons, the sign that closes.
+// What single tabs look like, pixel by pixel: outlines, the line of the active one, icons, the sign that
+// closes.
 #include <afxmenuimages.h>
 #include <afxvisualmanager.h>
 
@@ -12,7 +13,8 @@ namespace {
 constexpr COLORREF kGround = RGB(255, 0, 255);
 constexpr COLORREF kFace = RGB(200, 200, 200), kText = RGB(0, 0, 0), kWindow = RGB(255, 255, 255),
                    kHighlight = RGB(0, 0, 100), kHighlightText = RGB(255, 255, 0);
-// Three tenths of the text in the bar's colour; a quarter and half of the highlight; a fifth less of the text.
+// Three tenths of the text in the bar's colour; a quarter and half of the highlight; a fifth less of the
+// text.
 constexpr COLORREF kBorder = RGB(140, 140, 140), kHot = RGB(150, 150, 175), kPressed = RGB(100, 100, 150),
                    kTabText = RGB(40, 40, 40);
 
@@ -54,9 +56,10 @@ struct TabPictures : ::testing::Test {
         return ui_test::letters(canvas, CRect(0, 0, rect.right + 1, rect.bottom + 1), names);
     }
 
-    const std::map<COLORREF, char> names{{kGround, ' '},  {kFace, '.'},   {kWindow, 'o'},  {kHighlight, 'H'},
-                                         {kBorder, '#'},  {kHot, 'h'},    {kPressed, 'P'}, {kText, 'T'},
-                                         {kTabText, 't'}, {RGB(255, 0, 0), 'r'}, {RGB(0, 128, 0), 'g'}};
+    const std::map<COLORREF, char> names{{kGround, ' '},        {kFace, '.'},         {kWindow, 'o'},
+                                         {kHighlight, 'H'},     {kBorder, '#'},       {kHot, 'h'},
+                                         {kPressed, 'P'},       {kText, 'T'},         {kTabText, 't'},
+                                         {RGB(255, 0, 0), 'r'}, {RGB(0, 128, 0), 'g'}};
     const int former = afxGlobalData.m_nDpi;
     Owner owner;
     std::vector<std::unique_ptr<Page>> pages;
@@ -333,7 +336,8 @@ TEST_F(TabPictures, ShowTheirIconsInTheMiddleOfTheirHeight) {
               " ............ \n"
               " ............ \n"
               " ............ \n"
-              "              \n") << "cut off at the end of its tab";
+              "              \n")
+        << "cut off at the end of its tab";
 }
 
 }  // namespace tab_test

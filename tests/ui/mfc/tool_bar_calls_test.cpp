@@ -17,7 +17,8 @@ constexpr COLORREF kGround = RGB(255, 0, 255);
 class ToolBarCalls : public DockingBars {
 protected:
     /// What picture `index` looks like in its middle; the ground when nothing is drawn.
-    static COLORREF drawn(CMFCToolBarImages& images, int index, BOOL disabled = FALSE, CSize size = CSize(0, 0)) {
+    static COLORREF drawn(CMFCToolBarImages& images, int index, BOOL disabled = FALSE,
+                          CSize size = CSize(0, 0)) {
         ui_test::Canvas canvas(40, 40, kGround);
         CAfxDrawState state;
         if (!images.PrepareDrawImage(state, size)) return CLR_INVALID;
@@ -174,7 +175,8 @@ TEST_F(ToolBarCalls, the_mouse_shows_where_a_bar_is_held) {
     const auto cursor_at = [&](CPoint screen) {
         mouse.place = screen;
         ::SetCursor(::LoadCursorW(nullptr, IDC_NO));
-        bar.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(bar.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        bar.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(bar.m_hWnd),
+                        MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
         return ::GetCursor();
     };
     EXPECT_EQ(cursor_at(gripper_of(bar)), ::LoadCursorW(nullptr, IDC_SIZEALL));
@@ -217,15 +219,16 @@ TEST_F(ToolBarCalls, assistive_programs_get_what_the_interface_offers) {
         DISPID id = 0;
         wchar_t name[] = L"accName";
         LPOLESTR names[] = {name};
-        EXPECT_EQ(object->GetIDsOfNames(IID_NULL, names, 1, 0, &id), bare->GetIDsOfNames(IID_NULL, names, 1, 0, &id));
+        EXPECT_EQ(object->GetIDsOfNames(IID_NULL, names, 1, 0, &id),
+                  bare->GetIDsOfNames(IID_NULL, names, 1, 0, &id));
         ITypeInfo* type = nullptr;
         const HRESULT typed = bare->GetTypeInfo(0, 0, &type);
         if (type != nullptr) type->Release();
         EXPECT_EQ(object->GetTypeInfo(0, 0, &type), typed);
         VARIANT argument = part(1), result = {};
         DISPPARAMS arguments = {&argument, nullptr, 1, 0};
-        EXPECT_EQ(object->Invoke(DISPID_ACC_NAME, IID_NULL, 0, DISPATCH_PROPERTYGET, &arguments, &result, nullptr,
-                                 nullptr),
+        EXPECT_EQ(object->Invoke(DISPID_ACC_NAME, IID_NULL, 0, DISPATCH_PROPERTYGET, &arguments, &result,
+                                 nullptr, nullptr),
                   typed);
         ::VariantClear(&result);
         bare->Release();

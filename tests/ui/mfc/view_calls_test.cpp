@@ -43,11 +43,12 @@ std::wstring content(CWnd& window) { return std::wstring(ui_test::text_of(window
 
 /// A dialog of the system by its first visible window.
 void answer_file_dialog(std::function<void(HWND)> look) {
-    ui_test::when_window([](HWND window) { return ::GetDlgItem(window, 1148) != nullptr || ::GetDlgItem(window, 1152); },
-                         [look = std::move(look)](HWND window) {
-                             look(window);
-                             ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-                         });
+    ui_test::when_window(
+        [](HWND window) { return ::GetDlgItem(window, 1148) != nullptr || ::GetDlgItem(window, 1152); },
+        [look = std::move(look)](HWND window) {
+            look(window);
+            ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+        });
 }
 
 }  // namespace
