@@ -352,3 +352,80 @@ TEST(FrameKeys, IndicatorsFollowTheirKeys) {
     ::SetKeyboardState(before);
     frame->DestroyWindow();
 }
+
+TEST_F(AppDefaults, EachCommandOfHelpHasItsOwnInTheOtherViewer) {
+    class Html : public App {
+    public:
+        std::vector<std::pair<DWORD_PTR, UINT>> asked;
+        void HtmlHelp(DWORD_PTR data, UINT command) override { asked.emplace_back(data, command); }
+    };
+    Html html;
+    html.EnableHtmlHelp();
+    html.WinHelp(5, HELP_CONTEXT);
+    html.WinHelp(0, HELP_INDEX);
+    constexpr UINT kHelpContext = 0x000F;  // the command of the viewer of compiled help
+    using Asked = std::vector<std::pair<DWORD_PTR, UINT>>;
+    EXPECT_EQ(html.asked, (Asked{{5, kHelpContext}, {0, 0}}));
+    state.m_pCurrentWinApp = &app;
+}
+
+TEST_F(AppDefaults, TheHelpKeyWithShiftOrControlIsNotForHelp) {
+    class Main : public CFrameWnd {
+    public:
+        int helps = 0;
+        BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+            if (id != ID_HELP || code != CN_COMMAND) return CFrameWnd::OnCmdMsg(id, code, extra, info);
+            if (info == nullptr) ++helps;
+            return TRUE;
+        }
+    };
+    auto* const main = new Main;
+    main->Create(nullptr, L"main");
+    app.m_pMainWnd = main;
+    MSG key = {main->m_hWnd, WM_KEYDOWN, VK_F1, 1, 0, {}};
+    BYTE before[256] = {};
+    ::GetKeyboardState(before);
+    for (const int held : {VK_SHIFT, VK_CONTROL}) {
+        BYTE now[256] = {};
+        now[held] = 0x80;
+        ::SetKeyboardState(now);
+        EXPECT_FALSE(app.ProcessMessageFilter(MSGF_DIALOGBOX, &key)) << held;
+    }
+    BYTE none[256] = {};
+    none[VK_MENU] = 0x80;
+    ::SetKeyboardState(none);
+    EXPECT_EQ(main->helps, 0);
+    EXPECT_TRUE(app.ProcessMessageFilter(MSGF_DIALOGBOX, &key));
+    EXPECT_EQ(main->helps, 1);
+    ::SetKeyboardState(before);
+    app.m_pMainWnd = nullptr;
+    main->DestroyWindow();
+}
+
+TEST(FrameTitles, HaveTheDocumentAndTheNumberOfItsWindow) {
+    class Titled : public CFrameWnd {
+    public:
+        using CFrameWnd::m_nWindow;
+        using CFrameWnd::m_strTitle;
+        using CFrameWnd::OnUpdateFrameTitle;
+        using CFrameWnd::UpdateFrameTitleForDocument;
+    };
+    auto* const frame = new Titled;
+    frame->Create(nullptr, L"before", WS_OVERLAPPEDWINDOW);
+    frame->m_strTitle = L"Pad";
+    const auto text = [&] { return ui_test::text_of(frame->m_hWnd); };
+    EXPECT_EQ(frame->GetStyle() & FWS_ADDTOTITLE, 0U);
+    frame->OnUpdateFrameTitle(TRUE);
+    EXPECT_EQ(text(), L"before") << "without the style the title is the program's";
+    frame->UpdateFrameTitleForDocument(L"plan");
+    EXPECT_EQ(text(), L"Pad - plan");
+    frame->m_nWindow = 2;
+    frame->UpdateFrameTitleForDocument(L"plan");
+    EXPECT_EQ(text(), L"Pad - plan:2");
+    frame->UpdateFrameTitleForDocument(nullptr);
+    EXPECT_EQ(text(), L"Pad");
+    frame->ModifyStyle(0, FWS_PREFIXTITLE);
+    frame->UpdateFrameTitleForDocument(L"plan");
+    EXPECT_EQ(text(), L"plan:2 - Pad");
+    frame->DestroyWindow();
+}

@@ -274,3 +274,27 @@ TEST_F(ExchangeControls, CalendarsTellTheirSelectionsRangesAndToday) {
     EXPECT_TRUE(month.GetMinReqRect(&wanted));
     EXPECT_EQ(least.Size(), wanted.Size());
 }
+
+TEST_F(ExchangeControls, ARangeMayBeOpenAtEitherEnd) {
+    const COleDateTime first(2000, 2, 3, 0, 0, 0), unset(1990, 1, 1, 0, 0, 0);
+    COleDateTime begin = unset, end = unset;
+    CTime from, to;
+    EXPECT_TRUE(date.SetRange(&first, nullptr));
+    EXPECT_EQ(date.GetRange(&begin, &end), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_EQ(begin, first);
+    EXPECT_NE(end.GetStatus(), COleDateTime::valid);
+    EXPECT_EQ(date.GetRange(&from, &to), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_EQ(from, CTime(2000, 2, 3, 0, 0, 0));
+    EXPECT_EQ(to, CTime());
+    EXPECT_TRUE(date.SetRange(nullptr, &first));
+    EXPECT_EQ(date.GetRange(&begin, &end), static_cast<DWORD>(GDTR_MAX));
+    EXPECT_NE(begin.GetStatus(), COleDateTime::valid);
+    EXPECT_EQ(end, first);
+}
+
+TEST(DateDistances, AreMadeOfDaysHoursMinutesAndSeconds) {
+    EXPECT_DOUBLE_EQ(COleDateTimeSpan(2, 6, 0, 0).m_span, 2.25);
+    EXPECT_DOUBLE_EQ(COleDateTimeSpan(0, 0, 36, 0).m_span, 0.025);
+    EXPECT_DOUBLE_EQ(COleDateTimeSpan(0, 0, 0, 864).m_span, 0.01);
+    EXPECT_DOUBLE_EQ(COleDateTimeSpan(1, 2, 3, 4).m_span, 1 + (2 * 3600 + 3 * 60 + 4) / 86400.0);
+}

@@ -355,3 +355,34 @@ TEST_F(PaneCalls, panes_are_found_by_kind_and_by_what_is_ignored) {
     EXPECT_EQ(at(one).bottom, at(two).bottom);
     EXPECT_LT(at(one).right, at(two).left);
 }
+
+TEST_F(PaneCalls, a_bar_that_leaves_gives_its_room_back_at_once_when_that_is_wanted) {
+    Strip bars[2];
+    for (UINT i = 0; i < 2; ++i) {
+        bars[i].make(frame, 940 + i);
+        manager().AddPane(&bars[i]);
+    }
+    frame->RecalcLayout();
+    ASSERT_EQ(at(view), CRect(0, 60, 700, 500));
+    manager().RemovePaneFromDockManager(&bars[0], TRUE, FALSE, FALSE, nullptr);
+    EXPECT_EQ(at(view), CRect(0, 60, 700, 500)) << "later";
+    manager().RemovePaneFromDockManager(&bars[1], TRUE, TRUE, FALSE, nullptr);
+    EXPECT_EQ(at(view), CRect(0, 0, 700, 500));
+}
+
+TEST_F(PaneCalls, a_pane_of_a_frame_that_does_not_dock_docks_nowhere) {
+    ui_test::ParentWindow plain;
+    CDockablePane pane;
+    ASSERT_TRUE(pane.Create(L"alone", &plain, CSize(50, 50), TRUE, 960, WS_CHILD | WS_VISIBLE | CBRS_LEFT));
+    EXPECT_EQ(pane.GetDockingManager(), nullptr);
+    EXPECT_FALSE(pane.DockToRecentPos());
+    EXPECT_FALSE(pane.DockToFrameWindow(CBRS_ALIGN_LEFT));
+    EXPECT_FALSE(pane.IsDocked());
+    EXPECT_FALSE(pane.CanAutoHide());
+    EXPECT_FALSE(pane.OnShowControlBarMenu(CPoint(0, 0)));
+    pane.ShowPane(FALSE, FALSE, FALSE);
+    EXPECT_FALSE(pane.IsWindowVisible());
+    pane.ShowPane(TRUE, FALSE, FALSE);
+    EXPECT_TRUE(pane.IsWindowVisible());
+    pane.DestroyWindow();
+}

@@ -121,4 +121,11 @@ TEST_F(DocumentsTest, APaneThatCannotBeMadeLeavesTheSplitterAsItWas) {
     frame->DestroyWindow();
 }
 
+TEST(SplitterDefaults, ASplitterHasNoBarsBeforeItIsMade) {
+    CSplitterWnd splitter;
+    EXPECT_EQ(splitter.GetScrollStyle(), 0U);
+    EXPECT_EQ(splitter.GetRowCount(), 0);
+    EXPECT_EQ(splitter.GetColumnCount(), 0);
+}
+
 }  // namespace documents_test

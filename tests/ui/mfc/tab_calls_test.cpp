@@ -363,4 +363,34 @@ TEST(GlobalDataCalls, EveryColourIsTheSystemsOwn) {
     for (const auto& [color, id] : colors) EXPECT_EQ(color, ::GetSysColor(id)) << id;
 }
 
+TEST_F(TabWindow, IsDrawnAnewWhenItsColoursChange) {
+    make();
+    add(L"one");
+    tabs.ShowWindow(SW_SHOW);
+    const auto stale = [&](auto change) {
+        tabs.ValidateRect(nullptr);
+        change();
+        CRect rect;
+        return tabs.GetUpdateRect(&rect) != FALSE;
+    };
+    EXPECT_FALSE(stale([] {}));
+    EXPECT_TRUE(stale([&] { tabs.SetAutoColors(CArray<COLORREF, COLORREF>()); }));
+    EXPECT_TRUE(stale([&] { tabs.EnableAutoColor(); }));
+    EXPECT_TRUE(stale([&] { tabs.SetTabBkColor(0, RGB(1, 2, 3)); }));
+    EXPECT_TRUE(stale([&] { tabs.SetTabTextColor(0, RGB(1, 2, 3)); }));
+    EXPECT_TRUE(stale([&] { tabs.SetActiveTabColor(RGB(1, 2, 3)); }));
+    EXPECT_TRUE(stale([&] { tabs.SetActiveTabTextColor(RGB(1, 2, 3)); }));
+}
+
+TEST(StatusProgress, ItsTextLeavesTheBarBehindItAlone) {
+    ui_test::Canvas canvas(80, 24, RGB(255, 0, 255));
+    canvas.dc.SetBkColor(RGB(0, 255, 0));
+    canvas.dc.SetBkMode(OPAQUE);
+    CMFCVisualManager::GetInstance()->OnDrawStatusBarProgress(&canvas.dc, nullptr, CRect(2, 2, 78, 22), 100,
+                                                              50, RGB(10, 20, 30), RGB(10, 20, 30),
+                                                              RGB(250, 250, 250), TRUE);
+    EXPECT_EQ(canvas.count(RGB(0, 255, 0)), 0);
+    EXPECT_GT(canvas.count(RGB(10, 20, 30)), 300);
+}
+
 }  // namespace tab_test

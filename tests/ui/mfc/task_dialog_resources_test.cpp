@@ -4,7 +4,8 @@
 #include "ui_test.h"
 
 TEST(TaskDialogResources, EachTextIsAButtonAndIdsWithoutOneAreLeftOut) {
-    CTaskDialog dialog(L"content", L"instruction", L"title", 499, 503, TDCBF_OK_BUTTON);
+    CTaskDialog dialog(L"content", L"instruction", L"title", 499, 503, TDCBF_OK_BUTTON | TDCBF_CANCEL_BUTTON);
+    EXPECT_EQ(dialog.GetCommonButtonCount(), 2);
     for (const int id : {500, 501}) EXPECT_TRUE(dialog.IsCommandControlEnabled(id)) << id;
     for (const int id : {499, 502, 503}) EXPECT_FALSE(dialog.IsCommandControlEnabled(id)) << id;
     dialog.SetCommandControlOptions(501, FALSE, FALSE);
