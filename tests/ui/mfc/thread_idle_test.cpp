@@ -95,13 +95,12 @@ TEST(ThreadIdle, TemporaryObjectsGoAtTheSecondStep) {
     Thread thread;
     const HWND window =
         ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr);
-    CWnd* const first = CWnd::FromHandle(window);
-    EXPECT_EQ(CWnd::FromHandle(window), first);
+    ui_test::ParentWindow owner;
+    CWnd::FromHandle(window)->SetOwner(&owner);
     thread.OnIdle(0);
-    EXPECT_EQ(CWnd::FromHandle(window), first);
-    EXPECT_NE(first, nullptr);
+    EXPECT_EQ(CWnd::FromHandle(window)->GetOwner(), &owner) << "the same object";
     thread.OnIdle(1);
-    EXPECT_NE(CWnd::FromHandle(window), nullptr);
+    EXPECT_NE(CWnd::FromHandle(window)->GetOwner(), &owner) << "another one knows nothing of it";
     ::DestroyWindow(window);
 }
 
