@@ -4,6 +4,8 @@
 #include <kmfc/tab_window.h>
 #include <kmfc/visual_manager.h>
 
+#include <algorithm>
+
 #include "look.h"
 
 using kmfc::present_look;
@@ -28,7 +30,11 @@ struct Outline {
     CPoint points[4];
 };
 
-void fill_outline(CDC& dc, const Outline& outline, CBrush& fill) {
+void fill_outline(CDC& dc, Outline outline, CBrush& fill) {
+    // Without a pen the fill ends before its right and its lower edge.
+    const LONG lowest = std::max(outline.points[0].y, outline.points[1].y);
+    for (CPoint& point : outline.points) point.y += point.y == lowest ? 1 : 0;
+    ++outline.points[2].x, ++outline.points[3].x;
     CPen edge(PS_NULL, 0, RGB(0, 0, 0));
     CPen* const formerPen = dc.SelectObject(&edge);
     CBrush* const formerBrush = dc.SelectObject(&fill);
