@@ -333,9 +333,10 @@ TEST_F(FileDialogInit, TheEndOfASizingLaysThePlacesOut) {
         ::ValidateRect(places, nullptr);
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
         EXPECT_EQ(placeOf(places), placeOf(bar));
-        ::ValidateRect(places, nullptr);
+        ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        EXPECT_FALSE(::GetUpdateRect(places, nullptr, FALSE));
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
-        EXPECT_TRUE(::GetUpdateRect(places, nullptr, FALSE)) << "it is painted anew";
+        EXPECT_TRUE(::GetUpdateRect(places, nullptr, FALSE)) << "it is painted anew, even in its place";
     });
 }
 

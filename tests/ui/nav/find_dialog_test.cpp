@@ -2,6 +2,8 @@
 #include "find_fixture.h"
 #include "in_language.h"
 #include "message_text.h"
+#include "resting_mouse.h"
+#include "told_message.h"
 #include "without_strings.h"
 
 namespace {
@@ -150,18 +152,78 @@ TEST_F(FindTexts, AreBuiltInWhereTheLibraryHasNone) {
 }
 
 TEST_F(FindTest, GivesEachFieldItsTip) {
-    run([this] {
-        EXPECT_EQ(tipOf(item(IDC_FIND_NEW)),
-                  L"Clears the search results and sets all search options back to their defaults.");
-        EXPECT_EQ(tipOf(item(IDC_FIND_TYPE)),
-                  L"The type of the files to find: one of those that the file selection dialog supports.");
-        EXPECT_EQ(tipOf(item(IDC_FIND_ANY_DATE)), L"Searches without a filter by date.");
-        for (const int id : {IDC_FIND_RESULTS, IDC_FIND_NAME, IDC_FIND_LOCATION, IDC_FIND_BROWSE,
-                             IDC_FIND_SUBFOLDERS, IDC_FIND_BY_DATE})
-            EXPECT_GT(tipOf(item(id)).size(), 20u) << id;
-        EXPECT_EQ(tipOf(item(IDC_FIND_STOP)), L"");
+    const std::pair<int, const wchar_t*> tips[] = {
+        {IDC_FIND_NEW, L"Clears the search results and sets all search options back to their defaults."},
+        {IDC_FIND_RESULTS,
+         L"Lists all files that were found. To pass a file to the file selection dialog, select it and "
+         L"choose "
+         L"OK. With a file selection dialog that takes several files, several can be passed from the search "
+         L"results."},
+        {IDC_FIND_NAME,
+         L"All or part of the names of the files to find. Put each of several names in quotation marks."},
+        {IDC_FIND_TYPE,
+         L"The type of the files to find: one of those that the file selection dialog supports."},
+        {IDC_FIND_LOCATION,
+         L"Where to search. Type a location, choose one from the list, or choose Browse. Put each of several "
+         L"locations in quotation marks."},
+        {IDC_FIND_BROWSE, L"Shows the Browse for Folder dialog, where a location to search can be chosen."},
+        {IDC_FIND_SUBFOLDERS, L"Searches all subfolders of the location, too."},
+        {IDC_FIND_ANY_DATE, L"Searches without a filter by date."},
+        {IDC_FIND_BY_DATE, L"Searches only for files created or modified within a time."}};
+    run([&, this] {
+        for (const auto& [id, tip] : tips) EXPECT_EQ(tipOf(item(id)), tip) << id;
+        for (const int id : {IDC_FIND_START, IDC_FIND_STOP, IDOK, IDCANCEL, IDHELP, IDC_FIND_BETWEEN})
+            EXPECT_EQ(tipOf(item(id)), L"") << id;
         cancel();
     });
+}
+
+TEST_F(FindTest, TheMouseAtRestBringsATip) {
+    run([this] {
+        const auto tipOver = [this](int id) {
+            CRect place;
+            ::GetWindowRect(item(id), &place);
+            std::wstring shown;
+            EXPECT_TRUE(RestMouse(place.CenterPoint(), [&] {
+                return (shown = ShownTip()) == tipOf(item(id));
+            })) << id;
+            return shown;
+        };
+        EXPECT_NE(tipOver(IDC_FIND_NEW), L"");
+        EXPECT_NE(tipOver(IDC_FIND_BROWSE), L"");
+        ::SendMessageW(item(IDC_FIND_TABS), TCM_SETCURFOCUS, 1, 0);
+        EXPECT_NE(tipOver(IDC_FIND_BY_DATE), L"");
+        cancel();
+    });
+}
+
+TEST_F(FindTest, ThePagesAreMadeInTheOrderOfTheirTabs) {
+    std::vector<int> made;
+    const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+        if (message.message != WM_INITDIALOG) return;
+        for (const int of : {IDC_FIND_NAME, IDC_FIND_ANY_DATE})
+            if (::GetDlgItem(message.hwnd, of) != nullptr) made.push_back(of);
+    });
+    run([this] { cancel(); });
+    EXPECT_EQ(made, (std::vector<int>{IDC_FIND_NAME, IDC_FIND_ANY_DATE}));
+}
+
+TEST_F(FindTest, ANewSearchAsksInTheUsersLanguage) {
+    const std::pair<LANGID, const wchar_t*> questions[] = {
+        {ui_test::kEnglish, L"This will clear the current search results."},
+        {ui_test::kChinese, L"此举将清除当前搜索结果。"}};
+    for (const auto& [language, question] : questions) {
+        const ui_test::InLanguage user(language);
+        ForgetMessages();
+        run([this] {
+            ui_test::when_dialog(L"Test Caption",
+                                 [](HWND box) { ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
+            command(IDC_FIND_NEW);
+            cancel();
+        });
+        EXPECT_EQ(ToldMessages(),
+                  (std::vector<ToldMessage>{{L"Test Caption", question, kToldOkCancel, nullptr}}));
+    }
 }
 
 TEST_F(FindTest, StartsIdle) {

@@ -1,5 +1,7 @@
 // The settings that override a layout's page set-up, and the end of the export dialog.
 #include "export_fixture.h"
+#include "in_language.h"
+#include "told_message.h"
 #include "without_strings.h"
 
 namespace {
@@ -150,6 +152,25 @@ TEST_F(ExportEnd, TheCaptionNamesTheFormat) {
     dialog.SetDefaultFileExtension(L"DWFX");
     EXPECT_TRUE(throwsForHeld(L"one.dwg", L"Save As DWFx"));
     EXPECT_EQ(messages.size(), 2u);
+}
+
+TEST_F(ExportEnd, ThatAnotherHoldsItIsToldInTheUsersLanguageWithAWarningSign) {
+    const Held held(folder + L"one.dwg");
+    const std::wstring path = (folder + L"one.dwg").GetString();
+    ForgetMessages();
+    EXPECT_TRUE(throwsForHeld(L"one.dwg", L"Save As PDF"));
+    {
+        const ui_test::InLanguage chinese(ui_test::kChinese);
+        EXPECT_TRUE(throwsForHeld(L"one.dwg", L"另存为 PDF"));
+    }
+    EXPECT_EQ(
+        ToldMessages(),
+        (std::vector<ToldMessage>{
+            {L"Save As PDF",
+             L"<" + path + L"> is currently open in another program.\nPlease close the file and try again.",
+             kToldOk, WarningSign()},
+            {L"另存为 PDF", L"<" + path + L"> 当前已在其他程序中打开。\n请关闭该文件，然后重试。", kToldOk,
+             WarningSign()}}));
 }
 
 TEST_F(ExportEnd, TheWordsForItHaveDefaults) {
