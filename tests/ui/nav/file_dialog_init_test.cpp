@@ -208,6 +208,49 @@ TEST_F(FileDialogInit, ThePreviewShowsTheFirstFileSelected) {
     });
 }
 
+TEST_F(FileDialogInit, AChangedNameIsShownThenToldThenSelected) {
+    dialog.SetPreviewVisible(1);
+    look([&](HWND window) {
+        const HWND preview = own(window, 57022), box = ::GetDlgItem(window, kNameBox);
+        const HWND combo = ::GetWindow(box, GW_CHILD);
+        const HWND edit = ::FindWindowExW(combo != nullptr ? combo : box, nullptr, L"Edit", nullptr);
+        ASSERT_NE(edit, nullptr);
+        ::SetFocus(edit);
+        ::SetDlgItemTextW(window, kNameBox, L"one.dwg");
+        OFNOTIFYW notice = {};
+        notice.hdr = {window, 0, static_cast<UINT>(CDN_SELCHANGE)};
+        dialog.calls.clear();
+        {
+            ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.hwnd == preview && message.message == WM_PAINT) dialog.calls.push_back("preview");
+                if (message.hwnd == edit && message.message == EM_SETSEL) dialog.calls.push_back("select");
+                if (message.hwnd == edit && message.message == EM_SCROLLCARET)
+                    dialog.calls.push_back("scroll");
+            });
+            ::SendMessageW(own(window), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+        }
+        EXPECT_EQ(dialog.calls, (std::vector<std::string>{"preview", "name", "select", "scroll"}));
+    });
+}
+
+TEST_F(FileDialogInit, AChangedTypeIsSelectedBeforeTheOwnerHearsOfIt) {
+    look([&](HWND window) {
+        OFNOTIFYW notice = {};
+        notice.hdr = {window, 0, static_cast<UINT>(CDN_TYPECHANGE)};
+        notice.lpOFN = &dialog.GetImpObject()->m_fileDialog->GetOFN();
+        notice.lpOFN->nFilterIndex = 3;
+        dialog.calls.clear();
+        {
+            ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.message == CB_SETCURSEL && message.hwnd == ::GetDlgItem(window, kTypeBox))
+                    dialog.calls.push_back("select " + std::to_string(static_cast<int>(message.wParam)));
+            });
+            ::SendMessageW(own(window), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+        }
+        EXPECT_EQ(dialog.calls, (std::vector<std::string>{"select 2", "filter"}));
+    });
+}
+
 TEST_F(FileDialogInit, TheRecentFolderIsTheDialogsOwnAndIsMade) {
     giveRecentFolder();
     look([&](HWND) { EXPECT_TRUE(::GetFileAttributesW(recentFolder()) & FILE_ATTRIBUTE_DIRECTORY); });
