@@ -390,7 +390,15 @@ TEST_F(FileDialogInit, TheirParentGrowsToTheBottomOfTheBar) {
         ::SetWindowPos(holder, nullptr, 3, 5, place.Width(), 50, SWP_NOZORDER);
         const CPoint corner = placeOf(holder).TopLeft();
         ASSERT_NE(corner, place.TopLeft());
-        ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+        {
+            std::vector<UINT> flags;
+            const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.hwnd == holder && message.message == WM_WINDOWPOSCHANGING)
+                    flags.push_back(ui_test::position_flags(message));
+            });
+            ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+            EXPECT_EQ(flags, (std::vector<UINT>{SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE}));
+        }
         EXPECT_EQ(placeOf(holder).TopLeft(), corner) << "in its place";
         EXPECT_EQ(placeOf(holder).bottom, placeOf(bar).bottom);
         EXPECT_EQ(placeOf(holder).Width(), place.Width());

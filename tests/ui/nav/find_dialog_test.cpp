@@ -1,4 +1,6 @@
 // The find dialog at its start: its texts, its controls, where they stand.
+#include <map>
+
 #include "find_fixture.h"
 #include "in_language.h"
 #include "message_text.h"
@@ -355,6 +357,58 @@ TEST_F(FindLayoutTest, PartsFollowTheSize) {
         EXPECT_EQ(place(IDHELP).top, tops[1]);
         EXPECT_EQ(place(IDC_FIND_TABS).Height(), height);
         EXPECT_EQ(place(item(IDC_FIND_NAME), page(0)).Height(), name);
+        cancel();
+    });
+}
+
+TEST_F(FindLayoutTest, WhatMovesStaysInItsLayerAndThePagesLieAbove) {
+    run([this] {
+        std::map<HWND, std::vector<WINDOWPOS>> moves;
+        {
+            const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.message == WM_WINDOWPOSCHANGING)
+                    moves[message.hwnd].push_back(*reinterpret_cast<const WINDOWPOS*>(message.lParam));
+            });
+            ::SetWindowPos(dialog, nullptr, 0, 0, 803, 611, SWP_NOMOVE | SWP_NOZORDER);
+        }
+        const auto flagsOf = [&](HWND part) {
+            EXPECT_FALSE(moves[part].empty());
+            return moves[part].empty() ? 0 : moves[part].front().flags & (SWP_NOZORDER | SWP_NOACTIVATE);
+        };
+        constexpr UINT kInItsLayer = SWP_NOZORDER | SWP_NOACTIVATE;
+        for (const int id :
+             {IDC_FIND_START, IDC_FIND_STOP, IDC_FIND_NEW, IDOK, IDCANCEL, IDHELP, IDC_FIND_TABS,
+              IDC_FIND_RESULTS, IDC_FIND_NAME, IDC_FIND_TYPE, IDC_FIND_LOCATION, IDC_FIND_BROWSE})
+            EXPECT_EQ(flagsOf(item(id)), kInItsLayer) << id;
+        EXPECT_EQ(flagsOf(::FindWindowExW(dialog, nullptr, STATUSCLASSNAMEW, nullptr)), kInItsLayer);
+        for (const int index : {0, 1}) {
+            EXPECT_EQ(flagsOf(page(index)), static_cast<UINT>(SWP_NOACTIVATE)) << index;
+            EXPECT_EQ(moves[page(index)].front().hwndInsertAfter, HWND_TOP) << index;
+        }
+        cancel();
+    });
+}
+
+TEST_F(FindTest, TheStatusHasOnePaneInTheFontOfTheDialog) {
+    run([this] {
+        const HWND bar = ::FindWindowExW(dialog, nullptr, STATUSCLASSNAMEW, nullptr);
+        EXPECT_EQ(::SendMessageW(bar, SB_GETPARTS, 0, 0), 1);
+        EXPECT_EQ(::SendMessageW(bar, WM_GETFONT, 0, 0), ::SendMessageW(dialog, WM_GETFONT, 0, 0));
+        cancel();
+    });
+}
+
+TEST_F(FindTest, ItsAnswersToTheTabsAndTheListAreNone) {
+    run([this] {
+        const auto answer = [this](int id, UINT code) {
+            NMLISTVIEW notice = {};
+            notice.hdr = {item(id), static_cast<UINT_PTR>(id), code};
+            return ::SendMessageW(dialog, WM_NOTIFY, static_cast<WPARAM>(id),
+                                  reinterpret_cast<LPARAM>(&notice));
+        };
+        EXPECT_EQ(answer(IDC_FIND_TABS, TCN_SELCHANGE), 0);
+        EXPECT_EQ(answer(IDC_FIND_RESULTS, NM_DBLCLK), 0);
+        EXPECT_EQ(answer(IDC_FIND_RESULTS, LVN_COLUMNCLICK), 0);
         cancel();
     });
 }

@@ -2,6 +2,7 @@
 #include <atomic>
 
 #include "find_fixture.h"
+#include "open_handles.h"
 #include "replaced_import.h"
 
 namespace {
@@ -570,6 +571,41 @@ TEST_F(FindSearchTest, TheThreadHoldsTheLibraryAndGivesItBackAtItsEnd) {
         cancel();
     });
     EXPECT_EQ(givenBack.load(), toolkit);
+}
+
+TEST_F(FindSearchTest, NoHandleOfAFileOrThreadStaysOpen) {
+    smallTree();
+    for (const auto walk : {kKtUiFindSettled, kKtUiFindOnce}) {
+        KtUiSetFindFileWalk(walk);
+        run([&] {
+            const OpenHandles handles(::GetModuleHandleW(L"ktui.dll"));
+            search();
+            EXPECT_GT(rows(), 0);
+            EXPECT_GE(OpenHandles::Opened(), walk == kKtUiFindSettled ? 1 + rows() : 1) << "thread and files";
+            EXPECT_EQ(OpenHandles::Left(), 0u);
+            cancel();
+        });
+    }
+}
+
+std::atomic<int> iconsDestroyed = 0;
+
+BOOL WINAPI countsIcon(HICON icon) {
+    ++iconsDestroyed;
+    return ::DestroyIcon(icon);
+}
+
+TEST_F(FindSearchTest, TheIconOfEachRowIsGivenBack) {
+    smallTree();
+    run([&] {
+        const ui_test::ReplacedImport counts(::GetModuleHandleW(L"ktui.dll"), "DestroyIcon", &countsIcon);
+        EXPECT_TRUE(counts.isThere());
+        iconsDestroyed = 0;
+        search();
+        EXPECT_GT(rows(), 0);
+        EXPECT_EQ(iconsDestroyed, rows());
+        cancel();
+    });
 }
 
 TEST_F(FindSearchTest, EnterInTheNameBoxSearches) {

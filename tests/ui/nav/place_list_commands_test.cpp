@@ -95,7 +95,7 @@ TEST_F(PlaceListCommands, TheMenuHasItsEntriesInOrder) {
     list->ClientToScreen(&place);
     EXPECT_EQ(menuPlace, place);
     EXPECT_EQ(menuOwner, list->m_hWnd);
-    EXPECT_FALSE(menuFlags & TPM_RETURNCMD) << "the list gets the command";
+    EXPECT_EQ(menuFlags, static_cast<UINT>(TPM_RIGHTBUTTON)) << "the list gets the command";
 }
 
 TEST_F(PlaceListCommands, TheTextsAreBuiltInWhereTheLibraryHasNone) {

@@ -1,6 +1,7 @@
 // The settings that override a layout's page set-up, and the end of the export dialog.
 #include "export_fixture.h"
 #include "in_language.h"
+#include "open_handles.h"
 #include "told_message.h"
 #include "without_strings.h"
 
@@ -125,6 +126,13 @@ TEST_F(ExportEnd, AFreeFileIsTheResult) {
     ASSERT_EQ(data.GetCount(), 1);
     EXPECT_EQ(data.GetAt(0)->GetText(), folder + L"one.dwg");
     EXPECT_EQ(dialog.count("ok"), 1);
+}
+
+TEST_F(ExportEnd, AFileThatWasTriedIsLeftClosed) {
+    const OpenHandles handles(toolkit());
+    EXPECT_EQ(acceptFile(L"one.dwg"), IDOK);
+    EXPECT_GT(OpenHandles::Opened(), 0);
+    EXPECT_EQ(OpenHandles::Left(), 0u);
 }
 
 TEST_F(ExportEnd, ANewFileIsTheResultAndIsntMade) {
