@@ -573,6 +573,52 @@ TEST_F(FindSearchTest, TheThreadHoldsTheLibraryAndGivesItBackAtItsEnd) {
     EXPECT_EQ(givenBack.load(), toolkit);
 }
 
+/// How the system was asked about a file, and for the text of its date.
+struct AskedOfSystem {
+    std::wstring opened, typed;
+    std::vector<DWORD> opening, typing, dating;
+} askedOfSystem;
+
+HANDLE WINAPI opensFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                        DWORD creation, DWORD flags, HANDLE sample) {
+    askedOfSystem.opened = path;
+    askedOfSystem.opening = {access, share, creation, flags};
+    return ::CreateFileW(path, access, share, security, creation, flags, sample);
+}
+DWORD_PTR WINAPI asksType(LPCWSTR path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
+    askedOfSystem.typed = path;
+    askedOfSystem.typing = {attributes, size, flags};
+    return ::SHGetFileInfoW(path, attributes, info, size, flags);
+}
+int WINAPI dateFormat(LCID locale, DWORD flags, const SYSTEMTIME* time, LPCWSTR format, LPWSTR text,
+                      int room) {
+    askedOfSystem.dating = {locale, flags, time->wYear, format != nullptr};
+    return ::GetDateFormatW(locale, flags, time, format, text, room);
+}
+
+TEST_F(FindSearchTest, TheSystemIsAskedAboutAFileThatStaysAsItIs) {
+    makeFile(L"a.dwg");
+    setWritten(L"a.dwg", 1'600'000'000);
+    run([&] {
+        const HMODULE toolkit = ::GetModuleHandleW(L"ktui.dll");
+        const ui_test::ReplacedImport opens(toolkit, "CreateFileW", &opensFile);
+        const ui_test::ReplacedImport types(toolkit, "SHGetFileInfoW", &asksType);
+        const ui_test::ReplacedImport dates(toolkit, "GetDateFormatW", &dateFormat);
+        EXPECT_TRUE(opens.isThere() && types.isThere() && dates.isThere());
+        askedOfSystem = {};
+        search();
+        cancel();
+    });
+    const std::wstring path = (root + L"a.dwg").GetString();
+    EXPECT_EQ(askedOfSystem.opened, path);
+    EXPECT_EQ(askedOfSystem.opening, (std::vector<DWORD>{0, FILE_SHARE_READ, OPEN_EXISTING, 0}));
+    EXPECT_EQ(askedOfSystem.typed, path);
+    EXPECT_EQ(askedOfSystem.typing,
+              (std::vector<DWORD>{FILE_ATTRIBUTE_NORMAL, sizeof(SHFILEINFOW),
+                                  SHGFI_USEFILEATTRIBUTES | SHGFI_ICON | SHGFI_TYPENAME}));
+    EXPECT_EQ(askedOfSystem.dating, (std::vector<DWORD>{LOCALE_USER_DEFAULT, 0, 2020, 0}));
+}
+
 TEST_F(FindSearchTest, NoHandleOfAFileOrThreadStaysOpen) {
     smallTree();
     for (const auto walk : {kKtUiFindSettled, kKtUiFindOnce}) {

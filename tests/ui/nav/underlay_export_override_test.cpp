@@ -1,4 +1,6 @@
 // The settings that override a layout's page set-up, and the end of the export dialog.
+#include <shlwapi.h>
+
 #include "export_fixture.h"
 #include "in_language.h"
 #include "open_handles.h"
@@ -126,6 +128,23 @@ TEST_F(ExportEnd, AFreeFileIsTheResult) {
     ASSERT_EQ(data.GetCount(), 1);
     EXPECT_EQ(data.GetAt(0)->GetText(), folder + L"one.dwg");
     EXPECT_EQ(dialog.count("ok"), 1);
+}
+
+std::vector<DWORD> opening;
+
+HANDLE WINAPI opensFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                        DWORD creation, DWORD flags, HANDLE sample) {
+    if (::lstrcmpW(::PathFindFileNameW(path), L"one.dwg") == 0) opening = {access, share, creation, flags};
+    return ::CreateFileW(path, access, share, security, creation, flags, sample);
+}
+
+TEST_F(ExportEnd, AFileIsTriedForWritingBesideReaders) {
+    const ui_test::ReplacedImport opens(toolkit(), "CreateFileW", &opensFile);
+    ASSERT_TRUE(opens.isThere());
+    opening.clear();
+    EXPECT_EQ(acceptFile(L"one.dwg"), IDOK);
+    EXPECT_EQ(opening, (std::vector<DWORD>{GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                                           OPEN_ALWAYS, FILE_FLAG_BACKUP_SEMANTICS}));
 }
 
 TEST_F(ExportEnd, AFileThatWasTriedIsLeftClosed) {
