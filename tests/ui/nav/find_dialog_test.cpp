@@ -398,6 +398,21 @@ TEST_F(FindTest, TheStatusHasOnePaneInTheFontOfTheDialog) {
     });
 }
 
+std::vector<UINT> madeImages;
+
+HIMAGELIST WINAPI makesImages(int width, int height, UINT flags, int first, int more) {
+    madeImages = {static_cast<UINT>(width), static_cast<UINT>(height), flags, static_cast<UINT>(first),
+                  static_cast<UINT>(more)};
+    return ::ImageList_Create(width, height, flags, first, more);
+}
+
+TEST_F(FindTest, TheImagesOfTheRowsGrowOneByOne) {
+    const ui_test::ReplacedImport makes(::GetModuleHandleW(L"ktui.dll"), "ImageList_Create", &makesImages);
+    ASSERT_TRUE(makes.isThere());
+    run([this] { cancel(); });
+    EXPECT_EQ(madeImages, (std::vector<UINT>{16, 16, ILC_COLOR24 | ILC_MASK, 1, 1}));
+}
+
 TEST_F(FindTest, ItsAnswersToTheTabsAndTheListAreNone) {
     run([this] {
         const auto answer = [this](int id, UINT code) {
