@@ -233,6 +233,27 @@ TEST_F(FindSearchTest, AFileThatCannotBeOpenedHasNeitherSizeNorTime) {
     });
 }
 
+BOOL WINAPI tellsNoLength(HANDLE, LARGE_INTEGER*) { return FALSE; }
+BOOL WINAPI tellsNoTime(HANDLE, FILETIME*, FILETIME*, FILETIME*) { return FALSE; }
+
+TEST_F(FindSearchTest, AFileThatTellsOnlyItsSizeOrOnlyItsTimeHasNeither) {
+    makeFile(L"a.dwg", 20000);
+    const auto factsWithout = [this](const char* call, auto* refuses) {
+        FoundTexts facts;
+        run([&] {
+            const ui_test::ReplacedImport none(::GetModuleHandleW(L"ktui.dll"), call, refuses);
+            EXPECT_TRUE(none.isThere());
+            search();
+            EXPECT_EQ(rows(), 1);
+            facts = {cell(0, 0), cell(0, 2), cell(0, 4)};
+            cancel();
+        });
+        return facts;
+    };
+    EXPECT_EQ(factsWithout("GetFileSizeEx", &tellsNoLength), (FoundTexts{L"a.dwg", L"", L""}));
+    EXPECT_EQ(factsWithout("GetFileTime", &tellsNoTime), (FoundTexts{L"a.dwg", L"", L""}));
+}
+
 TEST_F(FindSearchTest, EachRowHasAnImageOfItsOwnAndTheFirstIsSelected) {
     smallTree();
     run([&] {
