@@ -200,7 +200,10 @@ public:
         Open();
         EXPECT_TRUE(ui_test::pump_until([] { return waiting() == 0; }));
     }
-    static void Open() { isOpen() = true; }
+    static void Open() {
+        isOpen() = true;
+        isOpen().notify_all();
+    }
     static std::atomic<int>& waiting() {
         static std::atomic<int> count = 0;
         return count;
@@ -216,7 +219,7 @@ private:
         static const auto leaves = reinterpret_cast<decltype(&::CoUninitialize)>(
             reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"ole32.dll"), "CoUninitialize")));
         ++waiting();
-        while (!isOpen()) ::SwitchToThread();
+        isOpen().wait(false);
         leaves();
         --waiting();
     }
