@@ -83,6 +83,12 @@ TEST_F(UnderlayExport, ItsSettingsHaveTheirFlags) {
     });
 }
 
+TEST_F(UnderlayExport, HasTheTypesOfItsFilters) {
+    look([&](HWND) {
+        EXPECT_STREQ(dialog.GetImpObject()->m_fileDialog->GetOFN().lpstrFilter, L"Drawing(*.dwg)");
+    });
+}
+
 TEST_F(UnderlayExport, WithoutTheFlagItIsTheUsualDialog) {
     dialog.ConvertFlagsToState(0);
     look([&](HWND window) { EXPECT_EQ(own(window, 57212), nullptr); });
