@@ -31,12 +31,12 @@ std::vector<FindFileType> FileTypesOf(const wchar_t* filter);
 
 /// A time by its calendar fields, local.
 struct CalendarTime {
-    int year = 0;
-    int month = 0;  ///< from 1
-    int day = 0;    ///< from 1
-    int hour = 0;
-    int minute = 0;
-    int second = 0;
+    int year;
+    int month;  ///< from 1
+    int day;    ///< from 1
+    int hour;
+    int minute;
+    int second;
 };
 
 /// `now` with its fields set back by `months`. Kept: nothing is borrowed of the year, so the month may be 0

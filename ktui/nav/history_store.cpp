@@ -15,7 +15,6 @@ CString HistoryStore::valueName(int index) const {
 void HistoryStore::Load() {
     m_items.RemoveAll();
     const CKbUiRegistryAccess access(HKEY_CURRENT_USER, key());
-    if (!access.IsOpen()) return;
     for (const CString& text : HistoryIn(m_valueFormat, m_maximum,
                                          [&access](const CString& name) { return access.GetString(name); }))
         m_items.Add(text);

@@ -41,7 +41,7 @@ bool hasFile(const SupportFolder& folder, const CString& name) {
     return ::PathFileExistsW(file.path) && !::PathIsDirectoryW(file.path);
 }
 
-void tell(const CString& text) { KtUiMessageBox(nullptr, text, MB_OK | MB_ICONEXCLAMATION); }
+void tell(const CString& text) { KtUiMessageBox(nullptr, text, MB_ICONEXCLAMATION); }
 
 void tellNotFound(const CString& name, const std::vector<SupportFolder>& folders) {
     CString text;

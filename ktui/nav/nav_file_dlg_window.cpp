@@ -56,7 +56,7 @@ void CNavFileDlg::chooseFolder() {
     if (!ktutPathExists(path)) {
         KtUiMessageBox(nullptr,
                        LoadToolkitString(IDS_NAV_LOCATION_NOT_USABLE, L"Cannot use the location specified."),
-                       MB_OK | MB_ICONEXCLAMATION);
+                       MB_ICONEXCLAMATION);
         return;
     }
     ::lstrcpynW(m_ofn.lpstrFile, path, static_cast<int>(std::min<DWORD>(MAX_PATH, m_ofn.nMaxFile)));

@@ -53,8 +53,7 @@ void CPlaceList::OnContextMenu(CWnd*, CPoint point) {
     CMenu menu;
     menu.CreatePopupMenu();
     const auto append = [&menu](UINT command, UINT text, const wchar_t* fallback, bool isGrey) {
-        menu.AppendMenu(MF_STRING | (isGrey ? MF_GRAYED : MF_ENABLED), command,
-                        LoadToolkitString(text, fallback));
+        menu.AppendMenu(isGrey ? MF_GRAYED : MF_ENABLED, command, LoadToolkitString(text, fallback));
     };
     append(IDM_PLACE_REMOVE, IDS_PLACE_REMOVE, L"R&emove", item == nullptr);
     append(IDM_PLACE_ADD_CURRENT, IDS_PLACE_ADD_CURRENT, L"Add &Current Folder",
@@ -66,7 +65,7 @@ void CPlaceList::OnContextMenu(CWnd*, CPoint point) {
     append(IDM_PLACE_RESTORE, IDS_PLACES_RESTORE, L"&Restore Standard Folders", false);
     // Asked for by a key, the menu comes where the mouse is, since that is where its row is.
     if (point == CPoint(-1, -1)) ::GetCursorPos(&point);
-    menu.TrackPopupMenu(TPM_LEFTALIGN | TPM_RIGHTBUTTON, point.x, point.y, this);
+    menu.TrackPopupMenu(TPM_RIGHTBUTTON, point.x, point.y, this);
 }
 
 void CPlaceList::OnRemove() {

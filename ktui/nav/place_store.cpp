@@ -10,7 +10,6 @@ constexpr const wchar_t* kPlacesKey = L"AllAnavDialogs";
 
 std::vector<StoredPlace> LoadStoredPlaces(const CString& rootKey) {
     const CKbUiRegistryAccess key(HKEY_CURRENT_USER, rootKey + kPlacesKey);
-    if (!key.IsOpen()) return {};
     return PlacesIn([&key](const CString& name) { return key.GetString(name); });
 }
 

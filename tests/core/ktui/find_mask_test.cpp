@@ -30,6 +30,14 @@ TEST(FindMask, CaseDoesNotCount) {
     EXPECT_TRUE(fits(L"*Plan?.dWg", L"MY-pLAN1.DwG"));
 }
 
+TEST(FindMask, AnEndingMayHaveAnyLetters) {
+    EXPECT_TRUE(fits(L"*\u56fe.dwg", L"\u5e73\u9762\u56fe.DWG"));
+    EXPECT_TRUE(fits(L"*\u56fe", L"\u56fe"));
+    EXPECT_FALSE(fits(L"*\u56fe.dwg", L"\u5e73\u9762.dwg"));
+    EXPECT_FALSE(fits(L"*a.dwg", L"x\u56fe.dwg"));
+    EXPECT_FALSE(fits(L"*\u56fe.dwg", L"xa.dwg"));
+}
+
 TEST(FindMask, StarPointStarFitsEveryName) {
     EXPECT_TRUE(fits(L"*.*", L"README"));
     EXPECT_TRUE(fits(L"*.*", L"a.b"));

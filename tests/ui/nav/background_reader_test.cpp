@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "open_handles.h"
 #include "replaced_import.h"
 #include "ui_test.h"
 
@@ -143,6 +144,15 @@ TEST_F(BackgroundReader, EachThreadLeavesTheApartmentThatItEntered) {
     ask("two");
     EXPECT_TRUE(comes({"one answered", "two answered"}));
     EXPECT_EQ(apartmentsLeft, 2);
+}
+
+TEST_F(BackgroundReader, KeepsNoHandleOfItsThreads) {
+    const OpenHandles handles(::GetModuleHandleW(nullptr));
+    ask("one");
+    ask("two");
+    EXPECT_TRUE(comes({"one answered", "two answered"}));
+    EXPECT_EQ(OpenHandles::Opened(), 2);
+    EXPECT_EQ(OpenHandles::Left(), 0u);
 }
 
 TEST_F(BackgroundReader, TellsOnceThatAReadingIsSlow) {

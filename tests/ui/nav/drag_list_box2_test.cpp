@@ -224,6 +224,16 @@ TEST_F(DragList2, AnEmptyListIsNotDragged) {
     EXPECT_NE(::GetCapture(), list.m_hWnd);
 }
 
+TEST_F(DragList2, AListOfOneRowIsDragged) {
+    list.ResetContent();
+    add(L"a");
+    down(in(0));
+    move(in(0));
+    EXPECT_EQ(list.calls, (std::vector<std::string>{"begin"}));
+    EXPECT_EQ(::GetCapture(), list.m_hWnd);
+    ::ReleaseCapture();
+}
+
 TEST_F(DragList2, LosingTheFocusEndsThePress) {
     list.SetFocus();
     down(in(1));

@@ -1,8 +1,10 @@
 // The buttons of the navigation file dialog: Locate, Find, Options.
 #include <od_string.h>
 
+#include "in_language.h"
 #include "open_drawing.h"
 #include "shown_fixture.h"
+#include "told_message.h"
 #include "without_strings.h"
 
 namespace {
@@ -111,6 +113,25 @@ TEST_F(FileDialogCommands, ANameOfNothingIsNotValid) {
     empty.Format(text, L"");
     point.Format(text, L".");
     EXPECT_EQ(messages, (std::vector<std::wstring>{empty.GetString(), point.GetString()}));
+}
+
+TEST_F(FileDialogCommands, WhatLocateTellsHasAWarningSignAndTheUsersLanguage) {
+    const auto toldFor = [this](const wchar_t* name) {
+        ForgetMessages();
+        look([&, name](HWND window) {
+            answerMessage();
+            locate(window, name);
+        });
+        return ToldMessages();
+    };
+    host.supportFolders.clear();
+    EXPECT_EQ(toldFor(L"a"),
+              (std::vector<ToldMessage>{{L"Test Caption", L"\"a\"\n", kToldOk, WarningSign()}}));
+    EXPECT_EQ(toldFor(L"."), (std::vector<ToldMessage>{{L"Test Caption", L"The file name is not valid: \".\"",
+                                                        kToldOk, WarningSign()}}));
+    const ui_test::InLanguage chinese(ui_test::kChinese);
+    EXPECT_EQ(toldFor(L"."),
+              (std::vector<ToldMessage>{{L"Test Caption", L"文件名无效：\".\"", kToldOk, WarningSign()}}));
 }
 
 TEST_F(FileDialogCommands, TheWordsForItHaveADefault) {

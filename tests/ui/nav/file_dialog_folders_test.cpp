@@ -1,7 +1,9 @@
 // A navigation dialog that chooses a folder.
 #include <shlobj.h>
 
+#include "in_language.h"
 #include "shown_fixture.h"
+#include "told_message.h"
 #include "without_strings.h"
 
 namespace {
@@ -125,6 +127,29 @@ TEST_F(FileDialogFolders, ItIsSaidInABoxWithNothingButOk) {
         ::SendMessageW(window, WM_COMMAND, IDOK, 0);
     });
     EXPECT_EQ(buttons.size(), 1u);
+}
+
+TEST_F(FileDialogFolders, ItIsSaidInTheUsersLanguageWithAWarningSign) {
+    const std::pair<LANGID, const wchar_t*> texts[] = {
+        {ui_test::kEnglish, L"Cannot use the location specified."},
+        {ui_test::kChinese, L"无法使用指定的位置。"}};
+    for (const auto& [language, text] : texts) {
+        const ui_test::InLanguage user(language);
+        ForgetMessages();
+        look([&](HWND window) {
+            answerMessage();
+            ::SetDlgItemTextW(window, kNameBox, L"missing");
+            ::SendMessageW(window, WM_COMMAND, IDOK, 0);
+        });
+        EXPECT_EQ(ToldMessages(),
+                  (std::vector<ToldMessage>{{L"Test Caption", text, kToldOk, WarningSign()}}));
+    }
+}
+
+TEST_F(FileDialogFolders, TheirLabelSpeaksTheUsersLanguage) {
+    look([&](HWND window) { EXPECT_EQ(text_of(::GetDlgItem(window, 1090)), L"Folder"); });
+    const ui_test::InLanguage chinese(ui_test::kChinese);
+    look([&](HWND window) { EXPECT_EQ(text_of(::GetDlgItem(window, 1090)), L"文件夹"); });
 }
 
 TEST_F(FileDialogFolders, OnlyThePressOfOkCounts) {

@@ -208,6 +208,49 @@ TEST_F(FileDialogInit, ThePreviewShowsTheFirstFileSelected) {
     });
 }
 
+TEST_F(FileDialogInit, AChangedNameIsShownThenToldThenSelected) {
+    dialog.SetPreviewVisible(1);
+    look([&](HWND window) {
+        const HWND preview = own(window, 57022), box = ::GetDlgItem(window, kNameBox);
+        const HWND combo = ::GetWindow(box, GW_CHILD);
+        const HWND edit = ::FindWindowExW(combo != nullptr ? combo : box, nullptr, L"Edit", nullptr);
+        ASSERT_NE(edit, nullptr);
+        ::SetFocus(edit);
+        ::SetDlgItemTextW(window, kNameBox, L"one.dwg");
+        OFNOTIFYW notice = {};
+        notice.hdr = {window, 0, static_cast<UINT>(CDN_SELCHANGE)};
+        dialog.calls.clear();
+        {
+            ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.hwnd == preview && message.message == WM_PAINT) dialog.calls.push_back("preview");
+                if (message.hwnd == edit && message.message == EM_SETSEL) dialog.calls.push_back("select");
+                if (message.hwnd == edit && message.message == EM_SCROLLCARET)
+                    dialog.calls.push_back("scroll");
+            });
+            ::SendMessageW(own(window), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+        }
+        EXPECT_EQ(dialog.calls, (std::vector<std::string>{"preview", "name", "select", "scroll"}));
+    });
+}
+
+TEST_F(FileDialogInit, AChangedTypeIsSelectedBeforeTheOwnerHearsOfIt) {
+    look([&](HWND window) {
+        OFNOTIFYW notice = {};
+        notice.hdr = {window, 0, static_cast<UINT>(CDN_TYPECHANGE)};
+        notice.lpOFN = &dialog.GetImpObject()->m_fileDialog->GetOFN();
+        notice.lpOFN->nFilterIndex = 3;
+        dialog.calls.clear();
+        {
+            ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.message == CB_SETCURSEL && message.hwnd == ::GetDlgItem(window, kTypeBox))
+                    dialog.calls.push_back("select " + std::to_string(static_cast<int>(message.wParam)));
+            });
+            ::SendMessageW(own(window), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+        }
+        EXPECT_EQ(dialog.calls, (std::vector<std::string>{"select 2", "filter"}));
+    });
+}
+
 TEST_F(FileDialogInit, TheRecentFolderIsTheDialogsOwnAndIsMade) {
     giveRecentFolder();
     look([&](HWND) { EXPECT_TRUE(::GetFileAttributesW(recentFolder()) & FILE_ATTRIBUTE_DIRECTORY); });
@@ -333,9 +376,10 @@ TEST_F(FileDialogInit, TheEndOfASizingLaysThePlacesOut) {
         ::ValidateRect(places, nullptr);
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
         EXPECT_EQ(placeOf(places), placeOf(bar));
-        ::ValidateRect(places, nullptr);
+        ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        EXPECT_FALSE(::GetUpdateRect(places, nullptr, FALSE));
         ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
-        EXPECT_TRUE(::GetUpdateRect(places, nullptr, FALSE)) << "it is painted anew";
+        EXPECT_TRUE(::GetUpdateRect(places, nullptr, FALSE)) << "it is painted anew, even in its place";
     });
 }
 
@@ -346,7 +390,15 @@ TEST_F(FileDialogInit, TheirParentGrowsToTheBottomOfTheBar) {
         ::SetWindowPos(holder, nullptr, 3, 5, place.Width(), 50, SWP_NOZORDER);
         const CPoint corner = placeOf(holder).TopLeft();
         ASSERT_NE(corner, place.TopLeft());
-        ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+        {
+            std::vector<UINT> flags;
+            const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.hwnd == holder && message.message == WM_WINDOWPOSCHANGING)
+                    flags.push_back(ui_test::position_flags(message));
+            });
+            ::SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+            EXPECT_EQ(flags, (std::vector<UINT>{SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE}));
+        }
         EXPECT_EQ(placeOf(holder).TopLeft(), corner) << "in its place";
         EXPECT_EQ(placeOf(holder).bottom, placeOf(bar).bottom);
         EXPECT_EQ(placeOf(holder).Width(), place.Width());

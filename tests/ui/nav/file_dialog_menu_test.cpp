@@ -12,6 +12,7 @@ struct Tracked {
     UINT flags = 99;
     POINT at = {};
     HWND owner = nullptr;
+    bool isZonePressed = false;
     std::vector<std::pair<UINT, std::wstring>> entries;
 } tracked;
 
@@ -20,6 +21,8 @@ BOOL WINAPI trackMenu(HMENU menu, UINT flags, int x, int y, int, HWND owner, con
     tracked.flags = flags;
     tracked.at = {x, y};
     tracked.owner = owner;
+    const HWND ok = ::GetDlgItem(::GetParent(owner), IDOK);
+    tracked.isZonePressed = (::SendMessageW(ok, BM_GETSTATE, 0, 0) & BST_DROPDOWNPUSHED) != 0;
     tracked.entries.clear();
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
         wchar_t text[100] = {};
@@ -78,6 +81,8 @@ TEST_F(FileDialogMenu, OpensAtTheLowerLeftOfTheButton) {
         EXPECT_EQ(tracked.at.x, button.left);
         EXPECT_EQ(tracked.at.y, button.bottom);
         EXPECT_EQ(tracked.owner, own(window));
+        EXPECT_TRUE(tracked.isZonePressed);
+        EXPECT_FALSE(::SendDlgItemMessageW(window, IDOK, BM_GETSTATE, 0, 0) & BST_DROPDOWNPUSHED);
         EXPECT_EQ(data.GetCount(), 0);
     });
 }

@@ -86,6 +86,8 @@ TEST_F(FindDatesTest, AtFirstThereIsNoFilter) {
     run([&] {
         EXPECT_TRUE(isChecked(IDC_FIND_ANY_DATE));
         EXPECT_FALSE(isChecked(IDC_FIND_BY_DATE));
+        for (const int range : {IDC_FIND_BETWEEN, IDC_FIND_MONTHS, IDC_FIND_DAYS})
+            EXPECT_EQ(isChecked(range), range == IDC_FIND_BETWEEN) << range;
         EXPECT_EQ(text(IDC_FIND_MONTH_COUNT), L"1");
         EXPECT_EQ(text(IDC_FIND_DAY_COUNT), L"1");
         EXPECT_EQ(picked(IDC_FIND_TO_DATE).wYear, 2026);

@@ -1,7 +1,11 @@
 // The find dialog at its start: its texts, its controls, where they stand.
+#include <map>
+
 #include "find_fixture.h"
 #include "in_language.h"
 #include "message_text.h"
+#include "resting_mouse.h"
+#include "told_message.h"
 #include "without_strings.h"
 
 namespace {
@@ -150,18 +154,78 @@ TEST_F(FindTexts, AreBuiltInWhereTheLibraryHasNone) {
 }
 
 TEST_F(FindTest, GivesEachFieldItsTip) {
-    run([this] {
-        EXPECT_EQ(tipOf(item(IDC_FIND_NEW)),
-                  L"Clears the search results and sets all search options back to their defaults.");
-        EXPECT_EQ(tipOf(item(IDC_FIND_TYPE)),
-                  L"The type of the files to find: one of those that the file selection dialog supports.");
-        EXPECT_EQ(tipOf(item(IDC_FIND_ANY_DATE)), L"Searches without a filter by date.");
-        for (const int id : {IDC_FIND_RESULTS, IDC_FIND_NAME, IDC_FIND_LOCATION, IDC_FIND_BROWSE,
-                             IDC_FIND_SUBFOLDERS, IDC_FIND_BY_DATE})
-            EXPECT_GT(tipOf(item(id)).size(), 20u) << id;
-        EXPECT_EQ(tipOf(item(IDC_FIND_STOP)), L"");
+    const std::pair<int, const wchar_t*> tips[] = {
+        {IDC_FIND_NEW, L"Clears the search results and sets all search options back to their defaults."},
+        {IDC_FIND_RESULTS,
+         L"Lists all files that were found. To pass a file to the file selection dialog, select it and "
+         L"choose "
+         L"OK. With a file selection dialog that takes several files, several can be passed from the search "
+         L"results."},
+        {IDC_FIND_NAME,
+         L"All or part of the names of the files to find. Put each of several names in quotation marks."},
+        {IDC_FIND_TYPE,
+         L"The type of the files to find: one of those that the file selection dialog supports."},
+        {IDC_FIND_LOCATION,
+         L"Where to search. Type a location, choose one from the list, or choose Browse. Put each of several "
+         L"locations in quotation marks."},
+        {IDC_FIND_BROWSE, L"Shows the Browse for Folder dialog, where a location to search can be chosen."},
+        {IDC_FIND_SUBFOLDERS, L"Searches all subfolders of the location, too."},
+        {IDC_FIND_ANY_DATE, L"Searches without a filter by date."},
+        {IDC_FIND_BY_DATE, L"Searches only for files created or modified within a time."}};
+    run([&, this] {
+        for (const auto& [id, tip] : tips) EXPECT_EQ(tipOf(item(id)), tip) << id;
+        for (const int id : {IDC_FIND_START, IDC_FIND_STOP, IDOK, IDCANCEL, IDHELP, IDC_FIND_BETWEEN})
+            EXPECT_EQ(tipOf(item(id)), L"") << id;
         cancel();
     });
+}
+
+TEST_F(FindTest, TheMouseAtRestBringsATip) {
+    run([this] {
+        const auto tipOver = [this](int id) {
+            CRect place;
+            ::GetWindowRect(item(id), &place);
+            std::wstring shown;
+            EXPECT_TRUE(RestMouse(place.CenterPoint(), [&] {
+                return (shown = ShownTip()) == tipOf(item(id));
+            })) << id;
+            return shown;
+        };
+        EXPECT_NE(tipOver(IDC_FIND_NEW), L"");
+        EXPECT_NE(tipOver(IDC_FIND_BROWSE), L"");
+        ::SendMessageW(item(IDC_FIND_TABS), TCM_SETCURFOCUS, 1, 0);
+        EXPECT_NE(tipOver(IDC_FIND_BY_DATE), L"");
+        cancel();
+    });
+}
+
+TEST_F(FindTest, ThePagesAreMadeInTheOrderOfTheirTabs) {
+    std::vector<int> made;
+    const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+        if (message.message != WM_INITDIALOG) return;
+        for (const int of : {IDC_FIND_NAME, IDC_FIND_ANY_DATE})
+            if (::GetDlgItem(message.hwnd, of) != nullptr) made.push_back(of);
+    });
+    run([this] { cancel(); });
+    EXPECT_EQ(made, (std::vector<int>{IDC_FIND_NAME, IDC_FIND_ANY_DATE}));
+}
+
+TEST_F(FindTest, ANewSearchAsksInTheUsersLanguage) {
+    const std::pair<LANGID, const wchar_t*> questions[] = {
+        {ui_test::kEnglish, L"This will clear the current search results."},
+        {ui_test::kChinese, L"此举将清除当前搜索结果。"}};
+    for (const auto& [language, question] : questions) {
+        const ui_test::InLanguage user(language);
+        ForgetMessages();
+        run([this] {
+            ui_test::when_dialog(L"Test Caption",
+                                 [](HWND box) { ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
+            command(IDC_FIND_NEW);
+            cancel();
+        });
+        EXPECT_EQ(ToldMessages(),
+                  (std::vector<ToldMessage>{{L"Test Caption", question, kToldOkCancel, nullptr}}));
+    }
 }
 
 TEST_F(FindTest, StartsIdle) {
@@ -293,6 +357,73 @@ TEST_F(FindLayoutTest, PartsFollowTheSize) {
         EXPECT_EQ(place(IDHELP).top, tops[1]);
         EXPECT_EQ(place(IDC_FIND_TABS).Height(), height);
         EXPECT_EQ(place(item(IDC_FIND_NAME), page(0)).Height(), name);
+        cancel();
+    });
+}
+
+TEST_F(FindLayoutTest, WhatMovesStaysInItsLayerAndThePagesLieAbove) {
+    run([this] {
+        std::map<HWND, std::vector<WINDOWPOS>> moves;
+        {
+            const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+                if (message.message == WM_WINDOWPOSCHANGING)
+                    moves[message.hwnd].push_back(*reinterpret_cast<const WINDOWPOS*>(message.lParam));
+            });
+            ::SetWindowPos(dialog, nullptr, 0, 0, 803, 611, SWP_NOMOVE | SWP_NOZORDER);
+        }
+        const auto flagsOf = [&](HWND part) {
+            EXPECT_FALSE(moves[part].empty());
+            return moves[part].empty() ? 0 : moves[part].front().flags & (SWP_NOZORDER | SWP_NOACTIVATE);
+        };
+        constexpr UINT kInItsLayer = SWP_NOZORDER | SWP_NOACTIVATE;
+        for (const int id :
+             {IDC_FIND_START, IDC_FIND_STOP, IDC_FIND_NEW, IDOK, IDCANCEL, IDHELP, IDC_FIND_TABS,
+              IDC_FIND_RESULTS, IDC_FIND_NAME, IDC_FIND_TYPE, IDC_FIND_LOCATION, IDC_FIND_BROWSE})
+            EXPECT_EQ(flagsOf(item(id)), kInItsLayer) << id;
+        EXPECT_EQ(flagsOf(::FindWindowExW(dialog, nullptr, STATUSCLASSNAMEW, nullptr)), kInItsLayer);
+        for (const int index : {0, 1}) {
+            EXPECT_EQ(flagsOf(page(index)), static_cast<UINT>(SWP_NOACTIVATE)) << index;
+            EXPECT_EQ(moves[page(index)].front().hwndInsertAfter, HWND_TOP) << index;
+        }
+        cancel();
+    });
+}
+
+TEST_F(FindTest, TheStatusHasOnePaneInTheFontOfTheDialog) {
+    run([this] {
+        const HWND bar = ::FindWindowExW(dialog, nullptr, STATUSCLASSNAMEW, nullptr);
+        EXPECT_EQ(::SendMessageW(bar, SB_GETPARTS, 0, 0), 1);
+        EXPECT_EQ(::SendMessageW(bar, WM_GETFONT, 0, 0), ::SendMessageW(dialog, WM_GETFONT, 0, 0));
+        cancel();
+    });
+}
+
+std::vector<UINT> madeImages;
+
+HIMAGELIST WINAPI makesImages(int width, int height, UINT flags, int first, int more) {
+    madeImages = {static_cast<UINT>(width), static_cast<UINT>(height), flags, static_cast<UINT>(first),
+                  static_cast<UINT>(more)};
+    return ::ImageList_Create(width, height, flags, first, more);
+}
+
+TEST_F(FindTest, TheImagesOfTheRowsGrowOneByOne) {
+    const ui_test::ReplacedImport makes(::GetModuleHandleW(L"ktui.dll"), "ImageList_Create", &makesImages);
+    ASSERT_TRUE(makes.isThere());
+    run([this] { cancel(); });
+    EXPECT_EQ(madeImages, (std::vector<UINT>{16, 16, ILC_COLOR24 | ILC_MASK, 1, 1}));
+}
+
+TEST_F(FindTest, ItsAnswersToTheTabsAndTheListAreNone) {
+    run([this] {
+        const auto answer = [this](int id, UINT code) {
+            NMLISTVIEW notice = {};
+            notice.hdr = {item(id), static_cast<UINT_PTR>(id), code};
+            return ::SendMessageW(dialog, WM_NOTIFY, static_cast<WPARAM>(id),
+                                  reinterpret_cast<LPARAM>(&notice));
+        };
+        EXPECT_EQ(answer(IDC_FIND_TABS, TCN_SELCHANGE), 0);
+        EXPECT_EQ(answer(IDC_FIND_RESULTS, NM_DBLCLK), 0);
+        EXPECT_EQ(answer(IDC_FIND_RESULTS, LVN_COLUMNCLICK), 0);
         cancel();
     });
 }

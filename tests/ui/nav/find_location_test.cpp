@@ -256,6 +256,8 @@ TEST_F(FindLocationTest, ABrowsedFolderIsAddedAndSelected) {
         browseAnswer.clear();
         click(IDC_FIND_BROWSE);
         EXPECT_EQ(browsed.ulFlags, static_cast<UINT>(BIF_RETURNONLYFSDIRS | BIF_RETURNFSANCESTORS));
+        EXPECT_EQ(browsed.hwndOwner, page(0));
+        EXPECT_EQ(browsed.pidlRoot, nullptr);
         EXPECT_EQ(locations().size(), before);
         browseAnswer = (root + L"a").GetString();
         click(IDC_FIND_BROWSE);

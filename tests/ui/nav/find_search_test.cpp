@@ -2,6 +2,7 @@
 #include <atomic>
 
 #include "find_fixture.h"
+#include "open_handles.h"
 #include "replaced_import.h"
 
 namespace {
@@ -230,6 +231,27 @@ TEST_F(FindSearchTest, AFileThatCannotBeOpenedHasNeitherSizeNorTime) {
         EXPECT_EQ(cell(0, 4), L"");
         cancel();
     });
+}
+
+BOOL WINAPI tellsNoLength(HANDLE, LARGE_INTEGER*) { return FALSE; }
+BOOL WINAPI tellsNoTime(HANDLE, FILETIME*, FILETIME*, FILETIME*) { return FALSE; }
+
+TEST_F(FindSearchTest, AFileThatTellsOnlyItsSizeOrOnlyItsTimeHasNeither) {
+    makeFile(L"a.dwg", 20000);
+    const auto factsWithout = [this](const char* call, auto* refuses) {
+        FoundTexts facts;
+        run([&] {
+            const ui_test::ReplacedImport none(::GetModuleHandleW(L"ktui.dll"), call, refuses);
+            EXPECT_TRUE(none.isThere());
+            search();
+            EXPECT_EQ(rows(), 1);
+            facts = {cell(0, 0), cell(0, 2), cell(0, 4)};
+            cancel();
+        });
+        return facts;
+    };
+    EXPECT_EQ(factsWithout("GetFileSizeEx", &tellsNoLength), (FoundTexts{L"a.dwg", L"", L""}));
+    EXPECT_EQ(factsWithout("GetFileTime", &tellsNoTime), (FoundTexts{L"a.dwg", L"", L""}));
 }
 
 TEST_F(FindSearchTest, EachRowHasAnImageOfItsOwnAndTheFirstIsSelected) {
@@ -570,6 +592,87 @@ TEST_F(FindSearchTest, TheThreadHoldsTheLibraryAndGivesItBackAtItsEnd) {
         cancel();
     });
     EXPECT_EQ(givenBack.load(), toolkit);
+}
+
+/// How the system was asked about a file, and for the text of its date.
+struct AskedOfSystem {
+    std::wstring opened, typed;
+    std::vector<DWORD> opening, typing, dating;
+} askedOfSystem;
+
+HANDLE WINAPI opensFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                        DWORD creation, DWORD flags, HANDLE sample) {
+    askedOfSystem.opened = path;
+    askedOfSystem.opening = {access, share, creation, flags};
+    return ::CreateFileW(path, access, share, security, creation, flags, sample);
+}
+DWORD_PTR WINAPI asksType(LPCWSTR path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
+    askedOfSystem.typed = path;
+    askedOfSystem.typing = {attributes, size, flags};
+    return ::SHGetFileInfoW(path, attributes, info, size, flags);
+}
+int WINAPI dateFormat(LCID locale, DWORD flags, const SYSTEMTIME* time, LPCWSTR format, LPWSTR text,
+                      int room) {
+    askedOfSystem.dating = {locale, flags, time->wYear, format != nullptr};
+    return ::GetDateFormatW(locale, flags, time, format, text, room);
+}
+
+TEST_F(FindSearchTest, TheSystemIsAskedAboutAFileThatStaysAsItIs) {
+    makeFile(L"a.dwg");
+    setWritten(L"a.dwg", 1'600'000'000);
+    run([&] {
+        const HMODULE toolkit = ::GetModuleHandleW(L"ktui.dll");
+        const ui_test::ReplacedImport opens(toolkit, "CreateFileW", &opensFile);
+        const ui_test::ReplacedImport types(toolkit, "SHGetFileInfoW", &asksType);
+        const ui_test::ReplacedImport dates(toolkit, "GetDateFormatW", &dateFormat);
+        EXPECT_TRUE(opens.isThere() && types.isThere() && dates.isThere());
+        askedOfSystem = {};
+        search();
+        cancel();
+    });
+    const std::wstring path = (root + L"a.dwg").GetString();
+    EXPECT_EQ(askedOfSystem.opened, path);
+    EXPECT_EQ(askedOfSystem.opening, (std::vector<DWORD>{0, FILE_SHARE_READ, OPEN_EXISTING, 0}));
+    EXPECT_EQ(askedOfSystem.typed, path);
+    EXPECT_EQ(askedOfSystem.typing,
+              (std::vector<DWORD>{FILE_ATTRIBUTE_NORMAL, sizeof(SHFILEINFOW),
+                                  SHGFI_USEFILEATTRIBUTES | SHGFI_ICON | SHGFI_TYPENAME}));
+    EXPECT_EQ(askedOfSystem.dating, (std::vector<DWORD>{LOCALE_USER_DEFAULT, 0, 2020, 0}));
+}
+
+TEST_F(FindSearchTest, NoHandleOfAFileOrThreadStaysOpen) {
+    smallTree();
+    for (const auto walk : {kKtUiFindSettled, kKtUiFindOnce}) {
+        KtUiSetFindFileWalk(walk);
+        run([&] {
+            const OpenHandles handles(::GetModuleHandleW(L"ktui.dll"));
+            search();
+            EXPECT_GT(rows(), 0);
+            EXPECT_GE(OpenHandles::Opened(), walk == kKtUiFindSettled ? 1 + rows() : 1) << "thread and files";
+            EXPECT_EQ(OpenHandles::Left(), 0u);
+            cancel();
+        });
+    }
+}
+
+std::atomic<int> iconsDestroyed = 0;
+
+BOOL WINAPI countsIcon(HICON icon) {
+    ++iconsDestroyed;
+    return ::DestroyIcon(icon);
+}
+
+TEST_F(FindSearchTest, TheIconOfEachRowIsGivenBack) {
+    smallTree();
+    run([&] {
+        const ui_test::ReplacedImport counts(::GetModuleHandleW(L"ktui.dll"), "DestroyIcon", &countsIcon);
+        EXPECT_TRUE(counts.isThere());
+        iconsDestroyed = 0;
+        search();
+        EXPECT_GT(rows(), 0);
+        EXPECT_EQ(iconsDestroyed, rows());
+        cancel();
+    });
 }
 
 TEST_F(FindSearchTest, EnterInTheNameBoxSearches) {

@@ -4,8 +4,10 @@
 
 #include <ktdsres/never_blocked_ids.h>
 
+#include "in_language.h"
 #include "shown_fixture.h"
 #include "slow_preview.h"
+#include "without_strings.h"
 
 namespace {
 
@@ -168,6 +170,42 @@ TEST_F(NeverBlockedPreviews, ThePaneIsEmptyAMomentThenSaysThatItReadsThenShowsTh
     EXPECT_TRUE(pane.ComesToShowPreview());
     // In the middle, at its own size.
     EXPECT_EQ(pane.inked, CRect(CPoint(70, 55), CSize(20, 10)));
+}
+
+/// The words drawn since the last look, without those that were only measured.
+std::vector<std::wstring> wordsDrawn;
+
+int WINAPI notesWords(HDC dc, LPCWSTR text, int length, LPRECT place, UINT form) {
+    if (!(form & DT_CALCRECT)) wordsDrawn.push_back(text);
+    return ::DrawTextW(dc, text, length, place, form);
+}
+
+TEST_F(NeverBlockedPreviews, ItsWordsAreTheUsersLanguagesOrBuiltIn) {
+    const ui_test::ReplacedImport notes(::GetModuleHandleW(L"kmfc.dll"), "DrawTextW", &notesWords);
+    ASSERT_TRUE(notes.isThere());
+    const NeverBlocked limit(kShort);
+    const auto said = [&] {
+        wordsDrawn.clear();
+        Pane pane(parent);
+        pane.Show(folder / "slow.dwg");
+        std::vector<std::wstring> words;
+        EXPECT_TRUE(pane.ComesToShow([&] {
+            for (const std::wstring& each : wordsDrawn)
+                if (words.empty() || words.back() != each) words.push_back(each);
+            return words.size() == 2;
+        }));
+        return words;
+    };
+    using Words = std::vector<std::wstring>;
+    EXPECT_EQ(said(), (Words{L"Reading the preview...", L"The file does not answer."}));
+    const Words chinese = {L"正在读取预览...", L"文件没有响应。"};
+    {
+        const ui_test::InLanguage user(ui_test::kChinese);
+        EXPECT_EQ(said(), chinese);
+    }
+    const ui_test::WithoutStrings strings;
+    EXPECT_EQ(said(), chinese);
+    previews.Open(L"slow.dwg");
 }
 
 TEST_F(NeverBlockedPreviews, WhatIsShownIsReadOnce) {

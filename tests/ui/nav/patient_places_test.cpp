@@ -2,6 +2,7 @@
 #include <ktui/nav/patient_places.h>
 #include <ktui/nav/place_shell.h>
 
+#include <atomic>
 #include <condition_variable>
 #include <map>
 #include <mutex>
@@ -185,6 +186,60 @@ TEST_F(PatientPlacesList, AnIconThatDoesNotComeInTimeIsGivenUpAndTheNextOneRead)
     ASSERT_TRUE(ui_test::pump_until([] { return SlowFolders::Waiting() == 0; }));
     ui_test::pump_until([] { return false; }, 100);
     EXPECT_NE(item(0).m_iconRequest, 0u) << "late";
+}
+
+/// Threads that have read, and are kept from saying so until it goes.
+class SilentThreads {
+public:
+    SilentThreads() : m_leaves(::GetModuleHandleW(nullptr), "CoUninitialize", &leave) {
+        EXPECT_TRUE(m_leaves.isThere());
+        waiting() = 0;
+        isOpen() = false;
+    }
+    ~SilentThreads() {
+        Open();
+        EXPECT_TRUE(ui_test::pump_until([] { return waiting() == 0; }));
+    }
+    static void Open() {
+        isOpen() = true;
+        isOpen().notify_all();
+    }
+    static std::atomic<int>& waiting() {
+        static std::atomic<int> count = 0;
+        return count;
+    }
+
+private:
+    static std::atomic<bool>& isOpen() {
+        static std::atomic<bool> open = false;
+        return open;
+    }
+    static void WINAPI leave() {
+        // By its name: this module's own calls come here.
+        static const auto leaves = reinterpret_cast<decltype(&::CoUninitialize)>(
+            reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"ole32.dll"), "CoUninitialize")));
+        ++waiting();
+        isOpen().wait(false);
+        leaves();
+        --waiting();
+    }
+    ui_test::ReplacedImport m_leaves;
+};
+
+TEST_F(PatientPlacesList, AnIconThatWasReadButNotToldInTimeIsGivenUp) {
+    const NeverBlocked limit(kShort);
+    storePlace(0, kMyComputer, L"computer");
+    storePlace(1, L"", nullptr);
+    const SilentThreads threads;
+    open();
+    ASSERT_TRUE(ui_test::pump_until([] { return SilentThreads::waiting() == 1; }));
+    ui_test::pump_until([] { return false; }, 2 * kShort);
+    EXPECT_EQ(iconOf(0), plain());
+    EXPECT_NE(item(0).m_iconRequest, 0u);
+    SilentThreads::Open();
+    ASSERT_TRUE(ui_test::pump_until([] { return SilentThreads::waiting() == 0; }));
+    ui_test::pump_until([] { return false; }, 100);
+    EXPECT_EQ(iconOf(0), plain()) << "late";
 }
 
 TEST_F(PatientPlacesList, IconsFindTheirRowsWhereverTheyHaveGone) {

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "nav_fixture.h"
+#include "resting_mouse.h"
 
 /// What the platform's dialog answers and does as far as places go.
 class StandInDialog : public CWnd {
@@ -221,19 +222,11 @@ protected:
         send(WM_MOUSEMOVE, point);
         ui_test::pump();
     }
-    /// Rests the real mouse at a point of the list until `done`, and puts it there again where a virtual
-    /// desktop loses it; false after some seconds.
+    /// Rests the real mouse at a point of the list until `done`; false after some seconds.
     bool restAt(CPoint point, const std::function<bool()>& done) {
         toldCursor().reset();
         list->ClientToScreen(&point);
-        if (!ui_test::move_cursor(point)) return false;
-        return ui_test::pump_until(
-            [&] {
-                CPoint now;
-                if (::GetCursorPos(&now) && now != point) ui_test::move_cursor(point);
-                return done();
-            },
-            5000);
+        return RestMouse(point, done);
     }
     LRESULT send(UINT message, CPoint at, WPARAM keys = 0) {
         return list->SendMessage(message, keys, MAKELPARAM(at.x, at.y));

@@ -95,7 +95,7 @@ TEST_F(PlaceListCommands, TheMenuHasItsEntriesInOrder) {
     list->ClientToScreen(&place);
     EXPECT_EQ(menuPlace, place);
     EXPECT_EQ(menuOwner, list->m_hWnd);
-    EXPECT_FALSE(menuFlags & TPM_RETURNCMD) << "the list gets the command";
+    EXPECT_EQ(menuFlags, static_cast<UINT>(TPM_RIGHTBUTTON)) << "the list gets the command";
 }
 
 TEST_F(PlaceListCommands, TheTextsAreBuiltInWhereTheLibraryHasNone) {
@@ -122,6 +122,33 @@ TEST_F(PlaceListCommands, TheTextsAreBuiltInWhereTheLibraryHasNone) {
                   L"The path entered is invalid. It must be a full path to an existing folder.",
                   L"Are you sure you want to remove '" + std::wstring(folder(L"two")) + L"' from Places?",
                   L"Would you like to save the changes you made to the Places list?"}));
+}
+
+TEST_F(PlaceListCommands, EverythingIsSaidInTheUsersLanguage) {
+    const ui_test::InLanguage chinese(ui_test::kChinese);
+    openWith({L"one", L"two"});
+    platform.folder = folder(L"Three");
+    askForMenu(in(1));
+    EXPECT_EQ(menuItems, (std::vector<MenuItem>{{1125, L"删除(&E)", false},
+                                                {1126, L"添加当前文件夹(&C)", false},
+                                                {1127, L"添加(&A)", false},
+                                                {1128, L"特性(&P)", false},
+                                                {0, L"-", false},
+                                                {1129, L"恢复标准文件夹(&R)", false}}));
+    inDialog(L"位置项特性", [](HWND box) {
+        ::SetDlgItemTextW(box, 57027, L"no folder");
+        press(box, IDOK);
+        press(box, IDCANCEL);
+    });
+    command(kProperties);
+    command(kRemove);
+    list->SavePlaces(1);
+    const std::wstring two = folder(L"two").GetString();
+    EXPECT_EQ(messages(),
+              (std::vector<Shown>{
+                  {false, L"输入的路径无效。必须是现有文件夹的完整路径。", MB_OK},
+                  {false, L"确定要从位置列表中删除“" + two + L"”吗？", MB_YESNO | MB_ICONEXCLAMATION},
+                  {false, L"是否保存对位置列表所做的更改？", MB_YESNO | MB_ICONQUESTION}}));
 }
 
 TEST_F(PlaceListCommands, WithoutARowRemoveAndPropertiesAreGrey) {

@@ -293,6 +293,23 @@ TEST_F(DxfOptions, TheVariablesAreShown) {
     EXPECT_EQ(shownAtFirst(), (DxfShown{false, true, false, false, false, L"7"}));
 }
 
+TEST_F(DxfOptions, EachRunOfASheetBeginsWithSixteenDecimals) {
+    CSaveOptionSheet sheet(&parent);
+    const auto shownBy = [&] {
+        DxfShown result = {};
+        ui_test::when_dialog(L"Save As Options", [&result](HWND window) {
+            result = shown(showDxf(window));
+            press(window, IDCANCEL);
+        });
+        sheet.DoModal();
+        return result;
+    };
+    document.numbers[L"DXFSAVEPRECISION"] = 7;
+    EXPECT_EQ(shownBy(), (DxfShown{true, false, false, true, false, L"7"}));
+    document.numbers.clear();
+    EXPECT_EQ(shownBy(), (DxfShown{true, false, false, true, false, L"16"}));
+}
+
 TEST_F(DxfOptions, OnlyATextHasDecimals) {
     run([](HWND sheet) {
         const HWND dxf = showDxf(sheet);

@@ -68,11 +68,15 @@ public:
     }
     HRESULT STDMETHODCALLTYPE EnumObjects(HWND, DWORD kinds, IEnumIDList** children) override {
         EXPECT_EQ(kinds, static_cast<DWORD>(SHCONTF_FOLDERS));
+        *children = nullptr;
+        if (listing != S_OK) return listing;
         m_children.AddRef();
         *children = &m_children;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE BindToObject(LPCITEMIDLIST, LPBC, REFIID, void** folder) override {
+        *folder = nullptr;
+        if (FAILED(binding)) return binding;
         AddRef();
         *folder = static_cast<IShellFolder*>(this);
         return S_OK;
@@ -100,6 +104,8 @@ public:
         return E_NOTIMPL;
     }
 
+    HRESULT binding = S_OK, listing = S_OK;  ///< what the folder answers; anything else gives nothing
+
 private:
     std::vector<Child> m_all;
     Children m_children;
@@ -108,6 +114,8 @@ private:
 ComputerFolder* shown = nullptr;
 
 HRESULT WINAPI desktop(IShellFolder** folder) {
+    *folder = nullptr;
+    if (shown == nullptr) return E_FAIL;
     shown->AddRef();
     *folder = shown;
     return S_OK;
@@ -134,4 +142,25 @@ TEST(ShellPlaces, InTheComputerAreThoseOfTheFileSystem) {
         EXPECT_EQ(listed(PlacesInComputer()), L"System (C:) = C:\\\nData (D:) = D:\\\n");
     }
     shown = nullptr;
+}
+
+TEST(ShellPlaces, AreNoneWhereTheShellDoesNotListThem) {
+    const ui_test::ReplacedImport shell(::GetModuleHandleW(nullptr), "SHGetDesktopFolder", &desktop);
+    ASSERT_TRUE(shell.isThere());
+    shown = nullptr;
+    EXPECT_EQ(listed(PlacesInComputer()), L"");
+    EXPECT_FALSE(ComputerPlace());
+    const auto listedBy = [](HRESULT binding, HRESULT listing) {
+        ComputerFolder folder({{L"System (C:)", L"C:\\", S_OK, SFGAO_FILESYSTEM}});
+        folder.binding = binding;
+        folder.listing = listing;
+        shown = &folder;
+        const std::wstring places = listed(PlacesInComputer());
+        shown = nullptr;
+        return places;
+    };
+    EXPECT_EQ(listedBy(S_OK, S_OK), L"System (C:) = C:\\\n");
+    EXPECT_EQ(listedBy(E_FAIL, S_OK), L"");
+    EXPECT_EQ(listedBy(S_OK, E_FAIL), L"");
+    EXPECT_EQ(listedBy(S_OK, S_FALSE), L"") << "it says that all is well and has none";
 }

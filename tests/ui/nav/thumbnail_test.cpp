@@ -22,10 +22,10 @@ constexpr COLORREF kGrey = RGB(0x55, 0x55, 0x55);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr GUID kExtractImage = {0xBB2E617C, 0x0920, 0x11D1, {0x9A, 0x0B, 0x00, 0xC0, 0x4F, 0xC2, 0xD6, 0xC1}};
 
-/// What the shell is asked, in order, and which step fails; the steps count from 1.
+/// What the shell is asked, in order, and which step fails or gives nothing; the steps count from 1.
 struct Record {
     std::vector<std::wstring> calls;
-    int failing = 0, steps = 0;
+    int failing = 0, empty = 0, steps = 0;
     int references = 0;
     HBITMAP bitmap = nullptr;
 
@@ -33,6 +33,8 @@ struct Record {
         calls.push_back(call);
         return ++steps == failing ? E_FAIL : S_OK;
     }
+    /// Whether the step that was just taken gives nothing and says that all is well.
+    bool isEmpty() const { return steps == empty; }
 } record;
 
 std::wstring idText(PCUIDLIST_RELATIVE list) {
@@ -78,7 +80,7 @@ public:
     HRESULT STDMETHODCALLTYPE BindToObject(PCUIDLIST_RELATIVE list, LPBC, REFIID id, void** object) override {
         const HRESULT result =
             record.step(L"bind " + idText(list) + (id == IID_IShellFolder ? L" folder" : L" other"));
-        if (FAILED(result)) return result;
+        if (FAILED(result) || record.isEmpty()) return result;
         m_inner->AddRef();
         *object = m_inner;
         return result;
@@ -87,7 +89,7 @@ public:
                                             void** object) override {
         const HRESULT result = record.step(L"object " + std::to_wstring(count) + L" " + idText(lists[0]) +
                                            (id == kExtractImage ? L" extractor" : L" other"));
-        if (FAILED(result)) return result;
+        if (FAILED(result) || record.isEmpty()) return result;
         extractor.AddRef();
         *object = static_cast<IExtractImage*>(&extractor);
         return result;
@@ -134,7 +136,7 @@ public:
 HRESULT WINAPI getDesktop(IShellFolder** found) {
     const HRESULT result = record.step(L"desktop");
     *found = nullptr;
-    if (FAILED(result)) return result;
+    if (FAILED(result) || record.isEmpty()) return result;
     desktop.AddRef();
     *found = &desktop;
     return result;
@@ -272,6 +274,17 @@ TEST_F(Thumbnail, IsNoneWhereAStepFailsAndNothingIsLeft) {
         record.failing = step;
         EXPECT_EQ(ktuiGetThumbnail(path.c_str(), 5, 5), nullptr) << step;
         EXPECT_EQ(record.calls.size(), calls[step - 1]) << step;
+        EXPECT_EQ(record.references, 0) << step;
+    }
+}
+
+TEST_F(Thumbnail, IsNoneWhereAStepGivesNothingAndSaysThatAllIsWell) {
+    const std::wstring path = file(L"a.png", "x");
+    for (const int step : {1, 3, 5}) {
+        record = Record();
+        record.empty = step;
+        EXPECT_EQ(ktuiGetThumbnail(path.c_str(), 5, 5), nullptr) << step;
+        EXPECT_EQ(record.steps, step);
         EXPECT_EQ(record.references, 0) << step;
     }
 }

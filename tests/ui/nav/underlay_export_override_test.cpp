@@ -1,5 +1,10 @@
 // The settings that override a layout's page set-up, and the end of the export dialog.
+#include <shlwapi.h>
+
 #include "export_fixture.h"
+#include "in_language.h"
+#include "open_handles.h"
+#include "told_message.h"
 #include "without_strings.h"
 
 namespace {
@@ -125,6 +130,30 @@ TEST_F(ExportEnd, AFreeFileIsTheResult) {
     EXPECT_EQ(dialog.count("ok"), 1);
 }
 
+std::vector<DWORD> opening;
+
+HANDLE WINAPI opensFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                        DWORD creation, DWORD flags, HANDLE sample) {
+    if (::lstrcmpW(::PathFindFileNameW(path), L"one.dwg") == 0) opening = {access, share, creation, flags};
+    return ::CreateFileW(path, access, share, security, creation, flags, sample);
+}
+
+TEST_F(ExportEnd, AFileIsTriedForWritingBesideReaders) {
+    const ui_test::ReplacedImport opens(toolkit(), "CreateFileW", &opensFile);
+    ASSERT_TRUE(opens.isThere());
+    opening.clear();
+    EXPECT_EQ(acceptFile(L"one.dwg"), IDOK);
+    EXPECT_EQ(opening, (std::vector<DWORD>{GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                                           OPEN_ALWAYS, FILE_FLAG_BACKUP_SEMANTICS}));
+}
+
+TEST_F(ExportEnd, AFileThatWasTriedIsLeftClosed) {
+    const OpenHandles handles(toolkit());
+    EXPECT_EQ(acceptFile(L"one.dwg"), IDOK);
+    EXPECT_GT(OpenHandles::Opened(), 0);
+    EXPECT_EQ(OpenHandles::Left(), 0u);
+}
+
 TEST_F(ExportEnd, ANewFileIsTheResultAndIsntMade) {
     EXPECT_EQ(acceptFile(L"fresh.pdf"), IDOK);
     ASSERT_EQ(data.GetCount(), 1);
@@ -150,6 +179,25 @@ TEST_F(ExportEnd, TheCaptionNamesTheFormat) {
     dialog.SetDefaultFileExtension(L"DWFX");
     EXPECT_TRUE(throwsForHeld(L"one.dwg", L"Save As DWFx"));
     EXPECT_EQ(messages.size(), 2u);
+}
+
+TEST_F(ExportEnd, ThatAnotherHoldsItIsToldInTheUsersLanguageWithAWarningSign) {
+    const Held held(folder + L"one.dwg");
+    const std::wstring path = (folder + L"one.dwg").GetString();
+    ForgetMessages();
+    EXPECT_TRUE(throwsForHeld(L"one.dwg", L"Save As PDF"));
+    {
+        const ui_test::InLanguage chinese(ui_test::kChinese);
+        EXPECT_TRUE(throwsForHeld(L"one.dwg", L"另存为 PDF"));
+    }
+    EXPECT_EQ(
+        ToldMessages(),
+        (std::vector<ToldMessage>{
+            {L"Save As PDF",
+             L"<" + path + L"> is currently open in another program.\nPlease close the file and try again.",
+             kToldOk, WarningSign()},
+            {L"另存为 PDF", L"<" + path + L"> 当前已在其他程序中打开。\n请关闭该文件，然后重试。", kToldOk,
+             WarningSign()}}));
 }
 
 TEST_F(ExportEnd, TheWordsForItHaveDefaults) {

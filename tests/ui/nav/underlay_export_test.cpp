@@ -83,6 +83,12 @@ TEST_F(UnderlayExport, ItsSettingsHaveTheirFlags) {
     });
 }
 
+TEST_F(UnderlayExport, HasTheTypesOfItsFilters) {
+    look([&](HWND) {
+        EXPECT_STREQ(dialog.GetImpObject()->m_fileDialog->GetOFN().lpstrFilter, L"Drawing(*.dwg)");
+    });
+}
+
 TEST_F(UnderlayExport, WithoutTheFlagItIsTheUsualDialog) {
     dialog.ConvertFlagsToState(0);
     look([&](HWND window) { EXPECT_EQ(own(window, 57212), nullptr); });
@@ -368,7 +374,16 @@ TEST_F(UnderlayExport, StepsAsideWhileTheUserPicksAWindow) {
             ASSERT_EQ(main.heard.size(), 1u) << "told before the pick";
             EXPECT_EQ(main.heard[0].datum, 1);
         };
+        std::vector<UINT> flags;
+        const ui_test::SentMessages watch([&](const CWPSTRUCT& message) {
+            if (message.hwnd == window && message.message == WM_WINDOWPOSCHANGING)
+                flags.push_back(ui_test::position_flags(message));
+        });
         click(window, 57211);
+        constexpr UINT kInPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER;
+        ASSERT_EQ(flags.size(), 2u);
+        EXPECT_EQ(flags[0] & (kInPlace | SWP_HIDEWINDOW), kInPlace | SWP_HIDEWINDOW);
+        EXPECT_EQ(flags[1] & (kInPlace | SWP_SHOWWINDOW), kInPlace | SWP_SHOWWINDOW);
         EXPECT_TRUE(isHidden);
         EXPECT_TRUE(::IsWindowVisible(window));
         ::GetWindowRect(window, &after);
