@@ -21,16 +21,17 @@ public:
 
 private:
     int column() const { return (m_text.attachment - 1) % 3; }
-    double boxWidth() const { return m_text.width > 0 ? m_text.width : m_block.width; }
     /// The top edge and the left edge of the box, from the position.
     double top() const { return m_block.height * ((m_text.attachment - 1) / 3) / 2; }
-    double left() const { return -boxWidth() * column() / 2; }
+    double left() const { return -m_block.width * column() / 2; }
     OdGePoint3d at(double x, double y) const { return m_text.position + m_text.along * x + m_text.up * y; }
     EntityPen penFor(const LetterFormat& format) const;
     void drawLine(const ParagraphLine& line);
-    void drawLetters(const LetterFormat& format, const std::wstring& letters, double x, double y,
-                     int horizontal, double share);
-    void drawStack(const LinePiece& piece, double x, double y);
+    void drawLetters(const LetterFormat& format, std::wstring_view letters, double x, double y,
+                     int horizontal);
+    void drawPiece(const LinePiece& piece, double x, double y);
+    void drawSpaced(const LinePiece& piece, double x, double y);
+    void drawStack(const LinePiece& piece, double x, double middle);
     void drawMarks(const LinePiece& piece, double x, double y);
     void drawBar(const LetterFormat& format, double x1, double y1, double x2, double y2);
 
@@ -47,15 +48,15 @@ EntityPen ParagraphDrawer::penFor(const LetterFormat& format) const {
     return own;
 }
 
-void ParagraphDrawer::drawLetters(const LetterFormat& format, const std::wstring& letters, double x, double y,
-                                  int horizontal, double share) {
+void ParagraphDrawer::drawLetters(const LetterFormat& format, std::wstring_view letters, double x, double y,
+                                  int horizontal) {
     PlacedText placed;
-    placed.text = OdString(letters);
+    placed.text = OdString(std::wstring(letters));
     placed.position = at(x, y);
     placed.along = m_text.along;
     placed.up = m_text.up;
-    placed.height = format.height * share;
-    placed.widthFactor = format.widthFactor * format.spacing;
+    placed.height = format.height;
+    placed.widthFactor = format.widthFactor;
     placed.horizontal = horizontal;
     placed.font = format.font;
     penFor(format).text(placed);
@@ -76,41 +77,61 @@ void ParagraphDrawer::drawMarks(const LinePiece& piece, double x, double y) {
     if (format.isStruck) line(TextMarkKind::kThrough);
 }
 
-/// One number over the other, around the middle of the capitals.
-void ParagraphDrawer::drawStack(const LinePiece& piece, double x, double y) {
-    constexpr double kGap = 0.15, kMiddle = 0.5;  // in the height of the text
+/// One number over the other, around the middle of the stack.
+void ParagraphDrawer::drawStack(const LinePiece& piece, double x, double middle) {
     const ParagraphRun& run = piece.run;
-    const double height = run.format.height, middle = y + kMiddle * height;
-    const double upper = middle + kGap * height, lower = middle - (kGap + kStackShare) * height;
+    const double height = run.format.height, centre = x + piece.width / 2;
     if (run.stack == L'#') {
-        drawLetters(run.format, run.upper, x, upper - kGap * height, 0, kStackShare);
-        drawLetters(run.format, run.lower, x + piece.width, lower + kGap * height, 2, kStackShare);
-        const double centre = x + piece.width / 2, reach = height * kStackShare;
-        drawBar(run.format, centre - reach / 2, middle - reach, centre + reach / 2, middle + reach);
+        drawLetters(run.format, run.upper, x, middle, 0);
+        drawLetters(run.format, run.lower, x + piece.width, middle - height, 2);
+        drawBar(run.format, centre - height / 2, middle - height, centre + height / 2, middle + height);
         return;
     }
-    const double centre = x + piece.width / 2;
-    drawLetters(run.format, run.upper, centre, upper, 1, kStackShare);
-    drawLetters(run.format, run.lower, centre, lower, 1, kStackShare);
+    drawLetters(run.format, run.upper, centre, middle + kStackGap * height, 1);
+    drawLetters(run.format, run.lower, centre, middle - (kStackGap + 1) * height, 1);
     if (run.stack == L'/') drawBar(run.format, x, middle, x + piece.width, middle);
+}
+
+/// Letters farther apart or closer than they come, one by one.
+void ParagraphDrawer::drawSpaced(const LinePiece& piece, double x, double y) {
+    const LetterFormat& format = piece.run.format;
+    const double scale = format.height * format.widthFactor * format.spacing;
+    const std::wstring_view letters = piece.run.text;
+    for (std::size_t begin = 0, end = 0; begin < letters.size() && !m_pen.work().isOver(); begin = end) {
+        // The second half of a character of two isn't one by itself.
+        for (++end; end < letters.size() && letters[end] >= 0xDC00 && letters[end] < 0xE000;) ++end;
+        const std::wstring_view letter = letters.substr(begin, end - begin);
+        if (letter != L" ") drawLetters(format, letter, x, y, 0);
+        x += m_pen.work().textWidth(format.font, letter) * scale;
+    }
+}
+
+void ParagraphDrawer::drawPiece(const LinePiece& piece, double x, double y) {
+    if (piece.run.format.spacing != 1)
+        drawSpaced(piece, x, y);
+    else
+        drawLetters(piece.run.format, piece.run.text, x, y, 0);
 }
 
 void ParagraphDrawer::drawLine(const ParagraphLine& line) {
     const int align =
         line.align == ParagraphAlign::kByAttachment ? column() : static_cast<int>(line.align) - 1;
     const double y = top() - line.down;
-    const double edge = left() + boxWidth() * align / 2;
+    const PlacedColumn& within = m_block.columns[line.column];
+    const double edge = left() + within.left + within.width * align / 2;
     const double anchor = align == 2 ? edge - (line.align == ParagraphAlign::kRight ? line.indent : 0)
                                      : edge + line.indent / (align + 1);
-    double x = anchor - line.width * align / 2;
+    const double x = anchor - line.width * align / 2;
     for (const LinePiece& piece : line.pieces) {
+        const double base = y + Rise(piece.run, line.height);
+        const bool isAlone = line.pieces.size() == 1 && piece.x == 0 && piece.run.format.spacing == 1;
         if (piece.run.stack != 0)
-            drawStack(piece, x + piece.x, y);
-        else if (line.pieces.size() == 1)
-            drawLetters(piece.run.format, piece.run.text, anchor, y, align, 1);
+            drawStack(piece, x + piece.x, base);
+        else if (isAlone)
+            drawLetters(piece.run.format, piece.run.text, anchor, base, align);
         else
-            drawLetters(piece.run.format, piece.run.text, x + piece.x, y, 0, 1);
-        drawMarks(piece, x + piece.x, y);
+            drawPiece(piece, x + piece.x, base);
+        drawMarks(piece, x + piece.x, base);
     }
 }
 
@@ -119,15 +140,16 @@ void ParagraphDrawer::draw() {
 }
 
 void ParagraphDrawer::fillBehind(const ParagraphBackground& behind) {
-    const double x1 = left() - behind.margin, x2 = left() + boxWidth() + behind.margin;
-    const double y1 = top() - m_block.height - behind.margin, y2 = top() + behind.margin;
-    const std::vector<OdGePoint3d> box = {at(x1, y1), at(x2, y1), at(x2, y2), at(x1, y2)};
     EntityPen own = m_pen;
-    if (behind.isPaper) {
-        own.wipe(box);
-    } else {
-        m_pen.rules().setColor(own.look(), behind.color, m_pen.byBlock());
-        own.fill(box);
+    if (!behind.isPaper) m_pen.rules().setColor(own.look(), behind.color, m_pen.byBlock());
+    for (const PlacedColumn& each : m_block.columns) {
+        const double x1 = left() + each.left - behind.margin, x2 = x1 + each.width + 2 * behind.margin;
+        const double y1 = top() - each.height - behind.margin, y2 = top() + behind.margin;
+        const std::vector<OdGePoint3d> box = {at(x1, y1), at(x2, y1), at(x2, y2), at(x1, y2)};
+        if (behind.isPaper)
+            own.wipe(box);
+        else
+            own.fill(box);
     }
 }
 
@@ -143,7 +165,9 @@ void DrawPlacedParagraph(const PlacedParagraph& text, const EntityPen& pen,
     start.widthFactor = text.widthFactor;
     start.font = text.font;
     LayoutSettings settings;
-    settings.width = text.width;
+    settings.columns = text.columns;
+    settings.width = text.columns.areThere() ? text.columns.width : text.width;
+    settings.align = static_cast<ParagraphAlign>((text.attachment - 1) % 3 + 1);
     settings.height = text.height;
     settings.spacing = text.lineSpacing > 0 ? text.lineSpacing : 1;
     settings.isExact = text.hasExactSpacing;
@@ -196,6 +220,7 @@ void DrawParagraph(const OdDbEntity& entity, EntityPen& pen) {
     placed.attachment = text->attachment();
     placed.height = text->textHeight();
     placed.width = std::max(text->width(), 0.0);
+    placed.columns = ColumnsOf(*text);
     placed.lineSpacing = groups.real(44, 1);
     placed.hasExactSpacing = groups.integer(73) == kExact;
     const auto style = text->textStyle().open<OdDbTextStyleTableRecord>();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "entity_pen.h"
+#include "rules/paragraph_columns.h"
 
 /// A text box in the coordinates of a pen.
 struct PlacedParagraph {
@@ -12,6 +13,7 @@ struct PlacedParagraph {
     int attachment = 1;  ///< which place of the box is at `position`: 1 top left to 9 bottom right
     double height = 0;
     double width = 0;  ///< at which lines break; 0 for none
+    ParagraphColumns columns = {};
     double lineSpacing = 1;
     bool hasExactSpacing = false;
     double widthFactor = 1;

@@ -80,10 +80,14 @@ TEST(DimensionTexts, DecimalsLoseTheirZerosAndHaveTheirSeparator) {
 
 TEST(DimensionTexts, FractionsAreStacked) {
     const Drawn level = dimension("|277 4|276 0|144 .78125|271 4");
-    EXPECT_EQ(said(level), L"1'-3(21:5)(21:8)\"");
+    EXPECT_EQ(said(level), L"1'-358\"");
     EXPECT_EQ(level.paths().size(), 6u) << "with a bar";
     const Drawn slanted = dimension("|277 5|276 1|144 .78125|271 4");
-    EXPECT_EQ(said(slanted), L"15(21:5)(21:8)");
+    EXPECT_EQ(said(slanted), L"1558");
+    EXPECT_EQ(said("|277 4|276 0|144 .78125|271 4|146 .5"), L"1'-3(15:5)(15:8)\"") << "smaller numbers";
+    // Numbers of 3 with 0.45 on either side of the bar, around the middle of the whole number.
+    EXPECT_NEAR(level.text(1).position.y - level.text(0).position.y, 1.5 + 0.45, 1e-9);
+    EXPECT_NEAR(level.text(2).position.y - level.text(0).position.y, 1.5 - 0.45 - 3, 1e-9);
     EXPECT_NE(slanted.paths().back().points.front().y, slanted.paths().back().points.back().y);
     EXPECT_EQ(level.paths().back().points.front().y, level.paths().back().points.back().y);
 }
@@ -100,6 +104,13 @@ TEST(DimensionTexts, TolerancesAreEqualOrStacked) {
     const Drawn stacked = dimension("|71 1|47 .25|48 .1");
     EXPECT_GT(stacked.text(1).position.y, stacked.text(2).position.y) << "plus above minus";
     EXPECT_EQ(stacked.paths().size(), 5u) << "no bar between them";
+    // Half as high: 1.5 each and 0.45 between them beside 3, below, in the middle and above.
+    const double lower[] = {0, 1.5 - 0.225 - 1.5, 3 - 3.45};
+    for (int row = 0; row < 3; ++row) {
+        const Drawn beside = dimension("|71 1|47 .25|48 .1|146 .5|283 " + std::to_string(row));
+        EXPECT_NEAR(beside.text(2).position.y - beside.text(0).position.y, lower[row], 1e-9) << row;
+        EXPECT_NEAR(beside.text(1).position.y - beside.text(2).position.y, 1.5 + 0.45, 1e-9) << row;
+    }
 }
 
 TEST(DimensionTexts, LimitsStandInPlaceOfTheNumber) {
