@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "kinds/draw_functions.h"
 #include "kinds/draw_single_line.h"
 #include "kinds/entity_cast.h"
+#include "rules/embedded_object.h"
 #include "rules/paragraph_layout.h"
 #include "rules/text_codes.h"
 
@@ -181,15 +183,14 @@ void DrawPlacedParagraph(const PlacedParagraph& text, const EntityPen& pen,
 
 namespace {
 
-ParagraphBackground backgroundOf(const OdDbMText& text) {
+ParagraphBackground backgroundOf(const OdGroupList& groups) {
     constexpr int kFilled = 1, kPaper = 2;
     constexpr double kUsualScale = 1.5;
-    const OdGroupList& groups = text.groups();
     ParagraphBackground behind;
     const auto flags = static_cast<int>(groups.integer(90));
     behind.isThere = (flags & (kFilled | kPaper)) != 0;
     behind.isPaper = (flags & kPaper) != 0;
-    behind.margin = (groups.real(45, kUsualScale) - 1) * text.textHeight();
+    behind.margin = (groups.real(45, kUsualScale) - 1) * groups.real(40);
     behind.color.setColorIndex(static_cast<int>(groups.integer(63, OdCmColor::kForeground)));
     if (OdGroup rgb; groups.find(421, rgb))
         behind.color.setRGB(static_cast<std::uint8_t>(rgb.integer >> 16),
@@ -198,36 +199,57 @@ ParagraphBackground backgroundOf(const OdDbMText& text) {
     return behind;
 }
 
-}  // namespace
+OdString contentsOf(const OdGroupList& groups) {
+    std::string whole;
+    OdGroup group;
+    for (std::uint32_t at = 0; groups.find(3, group, at); at = group.end) whole += group.text;
+    if (groups.find(1, group)) whole += group.text;
+    return OdString(odWide(whole));
+}
 
-void DrawParagraph(const OdDbEntity& entity, EntityPen& pen) {
+/// Where and how a text stands by the groups that an MTEXT has, without its columns.
+PlacedParagraph paragraphOf(const OdGroupList& groups, const OdDbObjectId& textStyle) {
     constexpr int kExact = 2;
-    const auto* text = As<OdDbMText>(entity);
-    if (text == nullptr) return;
-    const OdGroupList& groups = text->groups();
-    const OdGeVector3d normal = entity.normal();
-    const SpaceTransform plane = SpaceTransform::OfNormal(normal);
+    const OdGePoint3d normal = groups.point(210, {0, 0, 1});
+    const SpaceTransform plane = SpaceTransform::OfNormal({normal.x, normal.y, normal.z});
     PlacedParagraph placed;
-    placed.contents = text->contents();
-    placed.position = text->location();
+    placed.contents = contentsOf(groups);
+    placed.position = groups.point(10);
     OdGroup group;
     // The direction is one of space, an angle one of the text's plane.
     const bool hasAngle = groups.find(50, group), hasDirection = groups.find(11, group);
-    const double angle = text->rotation();
+    const double angle = groups.real(50) * std::numbers::pi / 180;
     const SpaceVector byAngle = plane.turned({std::cos(angle), std::sin(angle), 0});
     placed.along = hasDirection && !hasAngle ? Unit(groups.point(11), byAngle) : byAngle;
     placed.up = Unit(Cross(plane.z, placed.along), plane.y);
-    placed.attachment = text->attachment();
-    placed.height = text->textHeight();
-    placed.width = std::max(text->width(), 0.0);
-    placed.columns = ColumnsOf(*text);
+    placed.attachment = static_cast<int>(groups.integer(71, 1));
+    placed.height = groups.real(40);
+    placed.width = std::max(groups.real(41), 0.0);
     placed.lineSpacing = groups.real(44, 1);
     placed.hasExactSpacing = groups.integer(73) == kExact;
-    const auto style = text->textStyle().open<OdDbTextStyleTableRecord>();
-    placed.font = FontOfStyle(text->textStyle());
+    const auto style = textStyle.open<OdDbTextStyleTableRecord>();
+    placed.font = FontOfStyle(textStyle);
     if (style) {
         placed.font.oblique = style->obliquingAngle();
         placed.widthFactor = style->xScale() > 0 ? style->xScale() : 1;
     }
-    DrawPlacedParagraph(placed, pen, backgroundOf(*text));
+    return placed;
+}
+
+}  // namespace
+
+void DrawParagraph(const OdDbEntity& entity, EntityPen& pen) {
+    const auto* text = As<OdDbMText>(entity);
+    if (text == nullptr) return;
+    PlacedParagraph placed = paragraphOf(text->groups(), text->textStyle());
+    placed.columns = ColumnsOf(*text);
+    DrawPlacedParagraph(placed, pen, backgroundOf(text->groups()));
+}
+
+bool DrawEmbeddedParagraph(const OdDbText& holder, const EntityPen& pen) {
+    const OdGroupList groups = EmbeddedObject(holder.groups());
+    const PlacedParagraph placed = paragraphOf(groups, holder.textStyle());
+    if (placed.contents.isEmpty()) return false;
+    DrawPlacedParagraph(placed, pen, backgroundOf(groups));
+    return true;
 }

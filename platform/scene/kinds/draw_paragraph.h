@@ -28,6 +28,10 @@ struct ParagraphBackground {
     OdCmColor color;
 };
 
+/// Draws the MTEXT that an entity holds as its embedded object, an attribute of several lines; false for
+/// none.
+bool DrawEmbeddedParagraph(const OdDbText& holder, const EntityPen& pen);
+
 /// Draws the text, with what lies behind it first.
 void DrawPlacedParagraph(const PlacedParagraph& text, const EntityPen& pen,
                          const ParagraphBackground& behind = {});

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "rules/embedded_object.h"
+
 namespace {
 
 constexpr int kMostColumns = 10000;
@@ -17,28 +19,27 @@ struct ColumnGroups {
     std::vector<double> heights;
 };
 
+int countOf(const OdGroup& group) {
+    return static_cast<int>(std::clamp<std::int64_t>(group.integer, 0, kMostColumns));
+}
+
 /// As the embedded object of a newer file has them.
 ColumnGroups embeddedGroups(const OdGroupList& groups) {
-    constexpr int kEmbeddedObject = 101;
+    const OdGroupList embedded = EmbeddedObject(groups);
     ColumnGroups found;
     OdGroup group;
-    bool isWithin = false;
-    for (std::uint32_t at = groups.ownEnd(); groups.read(at, group) && !odIsExtendedDataCode(group.code);
-         at = group.end) {
-        isWithin = isWithin || group.code == kEmbeddedObject;
-        if (isWithin) switch (group.code) {
-                case 41: found.height = group.real; break;
-                case 44: found.width = group.real; break;
-                case 45: found.gutter = group.real; break;
-                case 46: found.heights.push_back(group.real); break;
-                case 71: found.kind = static_cast<int>(group.integer); break;
-                case 72:
-                    found.count = static_cast<int>(std::clamp<std::int64_t>(group.integer, 0, kMostColumns));
-                    break;
-                case 73: found.hasAutomaticHeight = group.integer != 0; break;
-                case 74: found.isReversed = group.integer != 0; break;
-                default: break;
-            }
+    for (std::uint32_t at = 0; embedded.read(at, group); at = group.end) {
+        switch (group.code) {
+            case 41: found.height = group.real; break;
+            case 44: found.width = group.real; break;
+            case 45: found.gutter = group.real; break;
+            case 46: found.heights.push_back(group.real); break;
+            case 71: found.kind = static_cast<int>(group.integer); break;
+            case 72: found.count = countOf(group); break;
+            case 73: found.hasAutomaticHeight = group.integer != 0; break;
+            case 74: found.isReversed = group.integer != 0; break;
+            default: break;
+        }
     }
     return found;
 }
@@ -101,9 +102,7 @@ void ExtendedGroups::takeInfo(const OdGroup& group) {
 void ExtendedGroups::set(int code, const OdGroup& value) {
     switch (code) {
         case 75: found.kind = static_cast<int>(value.integer); break;
-        case 76:
-            found.count = static_cast<int>(std::clamp<std::int64_t>(value.integer, 0, kMostColumns));
-            break;
+        case 76: found.count = countOf(value); break;
         case 78: found.isReversed = value.integer != 0; break;
         case 79: found.hasAutomaticHeight = value.integer != 0; break;
         case 48: found.width = value.real; break;

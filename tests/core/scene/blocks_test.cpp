@@ -144,6 +144,39 @@ TEST(SceneBlocks, AttributesHavePlacesAndLayersOfTheirOwn) {
     EXPECT_TRUE(drawn(attribute("RED", "0"), "0").texts().empty()) << "none is shown";
 }
 
+TEST(SceneBlocks, AnAttributeOfSeveralLinesIsItsParagraph) {
+    const std::string lines =
+        "|101 Embedded Object|10 50|20 30|30 0|40 3|41 0|71 1|72 5|1 second|7 Standard|11 0|21 1|31 0|73 "
+        "2|44 0.9";
+    const std::string attributes = attribute("GREEN", "0") + "|71 2|72 0" + lines;
+    const auto drawn = [](const std::string& more) {
+        return Drawn(Parts{.tables = table("LAYER", "0 LAYER|2 GREEN|70 0|62 3"),
+                           .blocks = block("B", "0 POINT|8 0"),
+                           .entities = "0 INSERT|8 0|66 1|2 B|10 100|20 0|30 0|" + more + "|0 SEQEND|8 0"});
+    };
+    std::string withStart = attributes;
+    withStart.replace(withStart.find("1 second"), 8, "3 first\\P|1 second");
+    const Drawn both = drawn(withStart);
+    ASSERT_EQ(both.texts().size(), 2u);
+    EXPECT_EQ(both.text(0).text, L"first");
+    EXPECT_TRUE(isAt(both.text(0).position, 53, 30)) << "it runs upwards, from its top";
+    EXPECT_TRUE(isAt(both.text(1).position, 57.5, 30));
+    EXPECT_NEAR(both.text(0).rotation, kPi / 2, 1e-12);
+    EXPECT_EQ(both.text(0).height, 3);
+    EXPECT_EQ(both.text(0).style.color.colorIndex(), 3) << "on the attribute's layer";
+    EXPECT_EQ(drawn(attribute("GREEN", "1") + lines).texts().size(), 0u) << "an invisible one";
+    const Drawn without = drawn(attribute("GREEN", "0") + "|101 Embedded Object|10 50|20 30|30 0|40 3");
+    ASSERT_EQ(without.texts().size(), 1u) << "no words in it";
+    EXPECT_EQ(without.text().text, L"VALUE");
+    EXPECT_TRUE(isAt(without.text().position, 7, 8));
+    const std::string constant = "0 ATTDEF|8 0|10 7|20 8|30 0|40 2|1 VALUE|2 TAG|70 2" + lines;
+    const Drawn inside(
+        Parts{.blocks = block("B", constant), .entities = "0 INSERT|8 0|2 B|10 100|20 0|30 0"});
+    EXPECT_EQ(inside.text().text, L"second");
+    EXPECT_TRUE(isAt(inside.text().position, 153, 30)) << "in the block";
+    EXPECT_EQ(Drawn(constant).text().text, L"TAG") << "outside of blocks";
+}
+
 TEST(SceneBlocks, DefinitionsOfAttributesShowTheirTagOutsideAndConstantOnesTheirTextInside) {
     const auto definition = [](const char* flags) {
         return std::string("0 ATTDEF|8 0|10 1|20 2|30 0|40 3|1 text|3 prompt|2 TAG|70 ") + flags;
