@@ -280,7 +280,8 @@ TEST(SceneBlocks, TheOrderOfATableIsTheDrawingOrder) {
 Scene clipped(
     const std::string& boundary, const std::string& settings = "71 1|72 0|73 0",
     const std::string& toBlock = "40 0|40 .5|40 0|40 -25|40 -.5|40 0|40 0|40 50|40 0|40 0|40 .5|40 0",
-    const std::string& toBoundary = "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0") {
+    const std::string& toBoundary = "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0",
+    const std::string& beside = "") {
     return Drawn(
                Parts{.blocks = block("B", "0 LINE|8 0|10 0|20 0|30 0|11 10|21 0|31 0"),
                      .entities =
@@ -288,11 +289,57 @@ Scene clipped(
                          "2|43 2|50 90|0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0",
                      .objects =
                          "0 DICTIONARY|5 A1|330 A0|100 AcDbDictionary|3 ACAD_FILTER|360 A2|0 DICTIONARY|5 "
-                         "A2|330 A1|100 AcDbDictionary|3 SPATIAL|360 A3|0 SPATIAL_FILTER|5 A3|330 A2|100 "
+                         "A2|330 A1|100 AcDbDictionary|3 SPATIAL|360 A3|0 SPATIAL_FILTER|5 A3|102 "
+                         "{ACAD_XDICTIONARY|360 A4|102 "
+                         "}|330 A2|100 "
                          "AcDbFilter|100 AcDbSpatialFilter|70 2|" +
                          boundary + "|210 0|220 0|230 1|11 0|21 0|31 0|" + settings + "|" + toBlock + "|" +
-                         toBoundary})
+                         toBoundary + beside})
         .scene;
+}
+
+/// The scene of a clip that the file calls inverted.
+Scene invertedClip(const std::string& own, const std::string& hidden, const std::string& shown) {
+    return clipped(
+        own, "71 1|72 0|73 0", "40 0|40 .5|40 0|40 -25|40 -.5|40 0|40 0|40 50|40 0|40 0|40 .5|40 0",
+        "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0",
+        "|0 DICTIONARY|5 A4|330 A3|100 AcDbDictionary|3 ACAD_XREC_ROUNDTRIP|360 A5|0 XRECORD|5 A5|330 "
+        "A4|100 AcDbXrecord|280 1|102 ACAD_INVERTEDCLIP_ROUNDTRIP|" +
+            hidden + "|102 ACAD_INVERTEDCLIP_ROUNDTRIP_COMPARE|" + shown);
+}
+
+TEST(SceneReferences, AnInvertedBoundaryHidesWhatIsWithin) {
+    const std::string inner = "10 95|20 54|30 0|10 105|20 54|30 0|10 100|20 60|30 0";
+    const std::string outer = "10 80|20 40|30 0|10 120|20 80|30 0";
+    // Round the rectangle, then round the triangle: what is between them is seen.
+    const std::vector<OdGePoint2d> expected = {{80, 40}, {120, 40}, {120, 80}, {80, 80}, {80, 40},
+                                               {95, 54}, {105, 54}, {100, 60}, {95, 54}};
+    const auto outline = [](const Scene& scene) {
+        ScenePath path;
+        if (scene.clips.size() == 1) path.points = scene.clips[0].outline;
+        return path;
+    };
+    EXPECT_TRUE(goesThrough(outline(invertedClip("10 80|20 40|10 120|20 80", inner, outer)), expected));
+    EXPECT_TRUE(
+        goesThrough(outline(invertedClip("10 95|20 54|10 105|20 54|10 100|20 60", outer, outer)), expected))
+        << "the clip's own is the hidden one";
+    EXPECT_TRUE(goesThrough(outline(invertedClip("10 80|20 40|10 110|20 80", inner, outer)), expected))
+        << "the outline of what is shown is larger";
+    EXPECT_TRUE(goesThrough(
+        outline(invertedClip("10 80|20 40|10 120|20 80", "10 95|20 54|30 0|10 105|20 60|30 0", outer)),
+        {{80, 40},
+         {120, 40},
+         {120, 80},
+         {80, 80},
+         {80, 40},
+         {95, 54},
+         {105, 54},
+         {105, 60},
+         {95, 60},
+         {95, 54}}))
+        << "two corners are a rectangle";
+    EXPECT_EQ(outline(invertedClip("10 80|20 40|10 120|20 80", "10 95|20 54|30 0", outer)).points.size(), 4u)
+        << "one place hides nothing";
 }
 
 TEST(SceneReferences, AreSeenThroughTheirBoundary) {
