@@ -158,13 +158,15 @@ std::wstring inStack(const std::wstring& text) {
 
 using Writer = std::function<std::wstring(double value, bool isTolerance)>;
 
+/// A measure in one kind of units: what stands around its number, and how far it may be off.
+struct MeasuredNumber {
+    double value = 0, plus = 0, minus = 0;
+    std::wstring before, behind;
+};
+
 /// The number with its tolerance, or the limits between which it lies.
-std::wstring withTolerance(double value, std::wstring_view sign, const DimensionStyle& style,
-                           const Writer& write) {
-    const std::wstring pattern(style.text(kPattern).view());
-    const auto [before, behind] = around(pattern.substr(0, pattern.find(L"[]")), L"<>");
-    const std::wstring start = before + std::wstring(sign);
-    const double plus = style.real(kPlus, 0), minus = style.real(kMinus, 0);
+std::wstring withTolerance(const MeasuredNumber& number, const DimensionStyle& style, const Writer& write) {
+    const auto& [value, plus, minus, start, behind] = number;
     const double share = style.real(kToleranceScale, 1);
     const int row = style.integer(kToleranceRow, kMiddleRow);
     const auto stack = [&](int place, const std::wstring& upper, const std::wstring& lower) {
@@ -176,8 +178,8 @@ std::wstring withTolerance(double value, std::wstring_view sign, const Dimension
     const std::wstring main = start + write(value, false) + behind;
     if (style.integer(kTolerance, 0) == 0 || (plus == 0 && minus == 0)) return main;
     if (plus == minus) return main + inHeight(share, row, L"\u00B1" + write(plus, true) + behind);
-    const auto signedText = [&write, &end = behind](double size) {
-        const std::wstring text = write(std::abs(size), true) + end;
+    const auto signedText = [&](double size) {
+        const std::wstring text = write(std::abs(size), true) + number.behind;
         return size == 0 ? text : (size < 0 ? L"-" : L"+") + text;
     };
     return main + stack(row, signedText(plus), signedText(-minus));
@@ -189,6 +191,29 @@ NumberForm unstacked(NumberForm form) {
     return form;
 }
 
+/// How a tolerance is written beside a number in `form`.
+NumberForm toleranceForm(const NumberForm& form, int decimals, int zeros) {
+    NumberForm tolerance = unstacked(form);
+    tolerance.decimals = decimals;
+    tolerance.zeros = zeros;
+    return tolerance;
+}
+
+/// Writes numbers in `form`, and tolerances in `tolerance`.
+Writer writerOf(const NumberForm& form, const NumberForm& tolerance, const DimensionStyle& style) {
+    const NumberForm number = style.integer(kLimits, 0) != 0 ? unstacked(form) : form;
+    return [number, tolerance](double each, bool isTolerance) {
+        return numberText(each, isTolerance ? tolerance : number);
+    };
+}
+
+/// A measure with what the style's pattern puts around it.
+MeasuredNumber mainNumber(double value, std::wstring_view sign, const DimensionStyle& style) {
+    const std::wstring pattern(style.text(kPattern).view());
+    const auto [before, behind] = around(pattern.substr(0, pattern.find(L"[]")), L"<>");
+    return {value, style.real(kPlus, 0), style.real(kMinus, 0), before + std::wstring(sign), behind};
+}
+
 std::wstring alternateText(double value, std::wstring_view sign, const DimensionStyle& style) {
     if (style.integer(kAlternate, 0) == 0) return {};
     NumberForm form;
@@ -197,10 +222,15 @@ std::wstring alternateText(double value, std::wstring_view sign, const Dimension
     form.fractionShare = style.real(kToleranceScale, 1);
     form.zeros = style.integer(kAlternateZeros, 0);
     form.separator = separatorOf(style);
-    const double other =
-        rounded(value * style.real(kAlternateFactor, 25.4), style.real(kAlternateRounding, 0));
+    const NumberForm tolerance =
+        toleranceForm(form, style.integer(kAlternateToleranceDecimals, form.decimals),
+                      style.integer(kAlternateToleranceZeros, form.zeros));
+    const double factor = style.real(kAlternateFactor, 25.4);
     const auto [before, behind] = around(std::wstring(style.text(kAlternatePattern).view()), L"[]");
-    return L"[" + before + std::wstring(sign) + numberText(other, form) + behind + L"]";
+    const MeasuredNumber number = {rounded(value * factor, style.real(kAlternateRounding, 0)),
+                                   style.real(kPlus, 0) * factor, style.real(kMinus, 0) * factor,
+                                   before + std::wstring(sign), behind};
+    return L"[" + withTolerance(number, style, writerOf(form, tolerance, style)) + L"]";
 }
 
 }  // namespace
@@ -208,14 +238,10 @@ std::wstring alternateText(double value, std::wstring_view sign, const Dimension
 DimensionMeasure LengthMeasure(double length, std::wstring_view sign, const DimensionStyle& style) {
     const double value = rounded(length * std::abs(style.real(kMeasureFactor, 1)), style.real(kRounding, 0));
     const NumberForm form = mainForm(style);
-    NumberForm tolerance = unstacked(form);
-    tolerance.decimals = style.integer(kToleranceDecimals, form.decimals);
-    tolerance.zeros = style.integer(kToleranceZeros, form.zeros);
-    const bool hasLimits = style.integer(kLimits, 0) != 0;
+    const NumberForm tolerance = toleranceForm(form, style.integer(kToleranceDecimals, form.decimals),
+                                               style.integer(kToleranceZeros, form.zeros));
     DimensionMeasure measure;
-    measure.main = withTolerance(value, sign, style, [&](double each, bool isTolerance) {
-        return numberText(each, isTolerance ? tolerance : hasLimits ? unstacked(form) : form);
-    });
+    measure.main = withTolerance(mainNumber(value, sign, style), style, writerOf(form, tolerance, style));
     measure.alternate = alternateText(value, sign, style);
     return measure;
 }
@@ -238,7 +264,7 @@ DimensionMeasure AngleMeasure(double angle, const DimensionStyle& style) {
         if (units == kDegreesMinutesSeconds) std::replace(text.begin(), text.end(), L'd', L'\u00B0');
         return text;
     };
-    return {withTolerance(angle * 180 / std::numbers::pi, {}, style, write), {}};
+    return {withTolerance(mainNumber(angle * 180 / std::numbers::pi, {}, style), style, write), {}};
 }
 
 OdString DimensionWords(const OdString& own, const DimensionMeasure& measure) {

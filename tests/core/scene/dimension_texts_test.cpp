@@ -130,6 +130,16 @@ TEST(DimensionTexts, OtherUnitsStandBehind) {
     EXPECT_EQ(said("|170 0|143 25.4|171 0", "|1 [] is <>"), L" is 20.00");
 }
 
+TEST(DimensionTexts, OtherUnitsHaveTheToleranceToo) {
+    const std::string millimetres = "|170 1|143 10|171 1|272 2";
+    EXPECT_EQ(said(millimetres + "|71 1|47 .25|48 .25"), L"20.00\u00B10.25 [200.0\u00B12.5]");
+    EXPECT_EQ(said(millimetres + "|71 1|47 .25|48 .1|274 2|286 8"), L"20.00+0.25-0.10 [200.0+2.5-1]");
+    EXPECT_EQ(said(millimetres + "|71 1|47 .25|48 .25|4 ca. [] mm"),
+              L"20.00\u00B10.25 [ca. 200.0 mm\u00B12.5 mm]");
+    EXPECT_EQ(said(millimetres + "|72 1|47 .25|48 .1"), L"20.2519.90 [202.5199.0]") << "limits";
+    EXPECT_EQ(said(millimetres + "|47 .25|48 .1"), L"20.00 [200.0]") << "not asked for";
+}
+
 TEST(DimensionTexts, AnglesHaveUnitsOfTheirOwn) {
     const auto angle = [](const std::string& style) {
         return said(
