@@ -59,6 +59,8 @@ TEST(SceneColumns, DynamicOnesMayHaveHeightsOfTheirOwn) {
 }
 
 TEST(SceneColumns, ATextMayAskForTheNextColumn) {
+    EXPECT_EQ(places(inColumns("a\\Nb\\Pc", "41 9|71 1|72 4|73 0|74 0")), "a 10,19; b 17,19; c 17,17.5; ")
+        << "the paragraph behind it doesn't";
     EXPECT_EQ(places(inColumns("a\\Nb\\Pc\\Nd\\Pe", "41 9|71 1|72 2|73 0|74 0")),
               "a 10,19; b 17,19; c 17,17.5; d 17,16; e 17,14.5; ")
         << "there is none behind the last one";
@@ -162,6 +164,8 @@ TEST(SceneTabs, WithoutStopsTheyGoFourHeightsOn) {
 }
 
 TEST(SceneTabs, AStopMayBeForTheMiddleOrTheEnd) {
+    EXPECT_EQ(places(paragraph("\\ptr8;a^Ibc ^Id", "71 1")), "a 10,19; bc  16,19; d 22,19; ")
+        << "blanks behind the words don't count";
     EXPECT_EQ(places(paragraph("\\ptr8,c12;a^Ibc d^Iee", "71 1")), "a 10,19; bc d 14,19; ee 21,19; ");
     EXPECT_EQ(places(paragraph("\\ptr3;a^Ibcd", "71 1")), "a 10,19; bcd 14,19; ")
         << "what has no room there goes on";
