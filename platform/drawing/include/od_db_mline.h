@@ -12,6 +12,8 @@ struct OdDbMlineVertex {
     OdGePoint3d miter;      ///< along which the lines' places are measured
     /// For each line: its place along the miter, then where along the piece it begins, ends, begins again.
     std::vector<std::vector<double>> lines;
+    /// The same for the edges of the fill along each line; empty lists where the file has none.
+    std::vector<std::vector<double>> fills;
 };
 
 /// One line of a style.

@@ -56,8 +56,12 @@ std::vector<OdDbMlineVertex> OdDbMline::vertices() const {
         place(vertex.point, 11, group);
         place(vertex.direction, 12, group);
         place(vertex.miter, 13, group);
-        if (group.code == 74) vertex.lines.emplace_back();
+        if (group.code == 74) {
+            vertex.lines.emplace_back();
+            vertex.fills.emplace_back();
+        }
         if (group.code == 41 && !vertex.lines.empty()) vertex.lines.back().push_back(group.real);
+        if (group.code == 42 && !vertex.fills.empty()) vertex.fills.back().push_back(group.real);
     }
     return all;
 }

@@ -18,20 +18,31 @@ OdGePoint3d placeOf(const OdDbMlineVertex& vertex, std::size_t line) {
     return vertex.point + vertex.miter * (isThere ? vertex.lines[line].front() : 0);
 }
 
-/// One line of a piece, with the gaps that cuts made: begin, end, begin and so on along the piece.
+/// From where to where there is something along a piece.
+struct Part {
+    OdGePoint3d begin, end;
+};
+
+/// The parts between cuts: of one line, or of the fill's edge along it. `places` has where it lies along the
+/// miter, and then where along the piece it begins, ends, begins and so on.
+std::vector<Part> partsOf(const OdDbMlineVertex& from, const OdDbMlineVertex& to, std::size_t line,
+                          const std::vector<std::vector<double>>& places) {
+    const OdGePoint3d end = placeOf(to, line);
+    if (line >= places.size() || places[line].size() < 2) return {{placeOf(from, line), end}};
+    const std::vector<double>& own = places[line];
+    const OdGePoint3d start = from.point + from.miter * own[0];
+    const SpaceVector direction = Unit(from.direction, {1, 0, 0});
+    std::vector<Part> parts;
+    for (std::size_t i = 1; i < own.size(); i += 2)
+        parts.push_back(
+            {start + direction * own[i], i + 1 < own.size() ? start + direction * own[i + 1] : end});
+    return parts;
+}
+
+/// One line of a piece, with the gaps that cuts made.
 void drawPiece(const OdDbMlineVertex& from, const OdDbMlineVertex& to, std::size_t line,
                const EntityPen& pen) {
-    const OdGePoint3d start = placeOf(from, line), end = placeOf(to, line);
-    const SpaceVector direction = Unit(from.direction, {1, 0, 0});
-    std::vector<double> cuts;
-    if (line < from.lines.size() && from.lines[line].size() > 1)
-        cuts.assign(from.lines[line].begin() + 1, from.lines[line].end());
-    if (cuts.size() <= 1) {
-        pen.stroke(start + direction * (cuts.empty() ? 0 : cuts.front()), end);
-        return;
-    }
-    for (std::size_t i = 0; i < cuts.size(); i += 2)
-        pen.stroke(start + direction * cuts[i], i + 1 < cuts.size() ? start + direction * cuts[i + 1] : end);
+    for (const Part& part : partsOf(from, to, line, from.lines)) pen.stroke(part.begin, part.end);
 }
 
 /// The outermost lines: first and last by their place along the miter.
@@ -50,7 +61,15 @@ void fill(const Vertices& vertices, bool closed, const EntityPen& pen) {
     const std::size_t pieces = closed ? vertices.size() : vertices.size() - 1;
     for (std::size_t i = 0; i < pieces; ++i) {
         const OdDbMlineVertex &from = vertices[i], &to = vertices[(i + 1) % vertices.size()];
-        pen.fill({placeOf(from, low), placeOf(to, low), placeOf(to, high), placeOf(from, high)});
+        std::vector<Part> lower = partsOf(from, to, low, from.fills),
+                          upper = partsOf(from, to, high, from.fills);
+        // Edges whose cuts don't belong together bound no parts.
+        if (lower.size() != upper.size()) {
+            lower = {{placeOf(from, low), placeOf(to, low)}};
+            upper = {{placeOf(from, high), placeOf(to, high)}};
+        }
+        for (std::size_t part = 0; part < lower.size(); ++part)
+            pen.fill({lower[part].begin, lower[part].end, upper[part].end, upper[part].begin});
     }
 }
 

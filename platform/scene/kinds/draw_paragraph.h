@@ -3,6 +3,7 @@
 #pragma once
 
 #include "entity_pen.h"
+#include "rules/paragraph_columns.h"
 
 /// A text box in the coordinates of a pen.
 struct PlacedParagraph {
@@ -12,6 +13,7 @@ struct PlacedParagraph {
     int attachment = 1;  ///< which place of the box is at `position`: 1 top left to 9 bottom right
     double height = 0;
     double width = 0;  ///< at which lines break; 0 for none
+    ParagraphColumns columns = {};
     double lineSpacing = 1;
     bool hasExactSpacing = false;
     double widthFactor = 1;
@@ -25,6 +27,10 @@ struct ParagraphBackground {
     double margin = 0;     ///< around the box, drawing units
     OdCmColor color;
 };
+
+/// Draws the MTEXT that an entity holds as its embedded object, an attribute of several lines; false for
+/// none.
+bool DrawEmbeddedParagraph(const OdDbText& holder, const EntityPen& pen);
 
 /// Draws the text, with what lies behind it first.
 void DrawPlacedParagraph(const PlacedParagraph& text, const EntityPen& pen,

@@ -6,8 +6,8 @@
 #include <od_db_symbols.h>
 
 #include "block_walk.h"
+#include "kinds/draw_attribute.h"
 #include "kinds/draw_functions.h"
-#include "kinds/draw_single_line.h"
 #include "kinds/entity_cast.h"
 #include "rules/reference_clip.h"
 
@@ -28,7 +28,7 @@ void drawAttributes(const OdDbBlockReference& reference, const EntityPen& pen) {
         const LayerLook& layer = pen.rules().layerOf(*attribute, pen.level().surrounding);
         if (layer.isFrozen || layer.isOff) continue;
         const EntityPen own(pen.work(), pen.level(), pen.rules().lookOf(*attribute, pen.level().surrounding));
-        DrawSingleLine(*attribute, attribute->textString(), own);
+        DrawAttributeText(*attribute, own);
     }
 }
 

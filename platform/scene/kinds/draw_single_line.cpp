@@ -91,13 +91,3 @@ void DrawSingleLine(const OdDbText& text, const OdString& words, const EntityPen
 void DrawTextLine(const OdDbEntity& entity, EntityPen& pen) {
     if (const auto* text = As<OdDbText>(entity)) DrawSingleLine(*text, text->textString(), pen);
 }
-
-/// Outside of blocks a definition shows its tag; inside of them nothing, unless all references show its text.
-void DrawAttributeDefinition(const OdDbEntity& entity, EntityPen& pen) {
-    const auto* definition = As<OdDbAttributeDefinition>(entity);
-    if (definition == nullptr) return;
-    if (pen.level().surrounding.byBlock == nullptr)
-        DrawSingleLine(*definition, definition->tag(), pen);
-    else if (definition->isConstant() && !definition->isInvisible())
-        DrawSingleLine(*definition, definition->textString(), pen);
-}

@@ -41,7 +41,8 @@ constexpr int kArrowSize = 41, kExtensionOffset = 42, kExtensionBeyond = 44, kRo
               kArrow = 342, kFirstArrow = 343, kSecondArrow = 344, kHasTwoArrows = 173, kLineWeight = 371,
               kExtensionWeight = 372, kUnits = 277, kFormerUnits = 270, kFractions = 276, kTolerance = 71,
               kLimits = 72, kPlus = 47, kMinus = 48, kToleranceScale = 146, kToleranceDecimals = 272,
-              kToleranceZeros = 284, kAlternate = 170, kAlternateFactor = 143, kAlternateDecimals = 171,
-              kAlternateUnits = 273, kAlternatePattern = 4, kAlternateZeros = 285, kAlternateRounding = 148,
-              kAngleUnits = 275, kAngleZeros = 79, kArcSymbol = 90;
+              kToleranceZeros = 284, kToleranceRow = 283, kAlternateToleranceDecimals = 274,
+              kAlternateToleranceZeros = 286, kAlternate = 170, kAlternateFactor = 143,
+              kAlternateDecimals = 171, kAlternateUnits = 273, kAlternatePattern = 4, kAlternateZeros = 285,
+              kAlternateRounding = 148, kAngleUnits = 275, kAngleZeros = 79, kArcSymbol = 90;
 }  // namespace dimension_codes

@@ -14,6 +14,7 @@ using namespace dimension_codes;
 enum LengthUnits { kScientific = 1, kDecimal, kEngineering, kArchitectural, kFractional };
 enum AngleUnits { kDegrees, kDegreesMinutesSeconds, kSurveyor = 4 };
 enum Fractions { kLevel, kSlanted, kNotStacked };
+constexpr int kMiddleRow = 1;
 
 /// How a number is written.
 struct NumberForm {
@@ -21,6 +22,7 @@ struct NumberForm {
     int decimals = 4;
     int zeros = 0;  ///< which are left out: 0 to 3 of feet and inches, 4 leading and 8 trailing ones
     int fractions = kNotStacked;
+    double fractionShare = 1;  ///< height of the numbers of a fraction, in that of the text
     wchar_t separator = L'.';
 };
 
@@ -62,19 +64,27 @@ void arrangeFeet(std::wstring& text, int zeros) {
     if (isZero) text.erase(feet + 1);
 }
 
-/// A fraction becomes a stack.
-void stackFraction(std::wstring& text, int fractions) {
+/// `text` in a share of the height around it, below, in the middle or above beside the rest.
+std::wstring inHeight(double share, int row, const std::wstring& text) {
+    wchar_t factor[kKtdbBufferSize] = {};
+    if (!(share > 0) || ktdbRToS(share, kDecimal, 8, factor) != kKtdbOk) return text;
+    const int place = std::clamp(row, 0, 2);
+    return L"{\\A" + std::to_wstring(place) + L";\\H" + std::wstring(factor) + L"x;" + text + L"}";
+}
+
+/// A fraction becomes a stack, whose numbers have a share of the height.
+void stackFraction(std::wstring& text, int fractions, double share) {
     const std::size_t slash = text.find(L'/');
     if (fractions == kNotStacked || slash == std::wstring::npos) return;
     const auto isDigit = [](wchar_t c) { return c >= L'0' && c <= L'9'; };
     std::size_t begin = slash, end = slash + 1;
     while (begin > 0 && isDigit(text[begin - 1])) --begin;
     while (end < text.size() && isDigit(text[end])) ++end;
-    text.insert(end, L";");
     if (fractions == kSlanted) text[slash] = L'#';
+    const std::wstring stack = inHeight(share, kMiddleRow, L"\\S" + text.substr(begin, end - begin) + L";");
     // The blank in front of it would be a gap.
-    const bool hasBlank = begin > 0 && text[begin - 1] == L' ';
-    text.replace(hasBlank ? begin - 1 : begin, hasBlank ? 1 : 0, L"\\S");
+    if (begin > 0 && text[begin - 1] == L' ') --begin;
+    text.replace(begin, end - begin, stack);
 }
 
 std::wstring numberText(double value, const NumberForm& form) {
@@ -87,7 +97,7 @@ std::wstring numberText(double value, const NumberForm& form) {
     if (form.units != kArchitectural && form.units != kFractional) dropZeros(text, form.zeros);
     if (form.separator > L' ' && form.separator < 127)
         std::replace(text.begin(), text.end(), L'.', form.separator);
-    stackFraction(text, form.fractions);
+    stackFraction(text, form.fractions, form.fractionShare);
     return text;
 }
 
@@ -121,6 +131,7 @@ NumberForm mainForm(const DimensionStyle& style) {
         takeFormerUnits(style.integer(kFormerUnits, kDecimal), form);
     }
     form.decimals = style.integer(kDecimals, 4);
+    form.fractionShare = style.real(kToleranceScale, 1);
     form.zeros = style.integer(kZeros, 8);
     form.separator = separatorOf(style);
     return form;
@@ -135,13 +146,6 @@ std::pair<std::wstring, std::wstring> around(const std::wstring& pattern, const 
     return {pattern.substr(0, at), pattern.substr(at + 2)};
 }
 
-/// `text` in a share of the height around it.
-std::wstring inHeight(double share, const std::wstring& text) {
-    wchar_t factor[kKtdbBufferSize] = {};
-    if (!(share > 0) || ktdbRToS(share, kDecimal, 8, factor) != kKtdbOk) return text;
-    return L"{\\H" + std::wstring(factor) + L"x;" + text + L"}";
-}
-
 /// A part of a stack, in which some characters would part it.
 std::wstring inStack(const std::wstring& text) {
     std::wstring escaped;
@@ -154,30 +158,31 @@ std::wstring inStack(const std::wstring& text) {
 
 using Writer = std::function<std::wstring(double value, bool isTolerance)>;
 
-/// The number with its tolerance, or the limits between which it lies. Parts of a stack are smaller than the
-/// text by themselves.
-std::wstring withTolerance(double value, std::wstring_view sign, const DimensionStyle& style,
-                           const Writer& write) {
-    constexpr double kStackShare = 0.7;
-    const std::wstring pattern(style.text(kPattern).view());
-    const auto [before, behind] = around(pattern.substr(0, pattern.find(L"[]")), L"<>");
-    const std::wstring start = before + std::wstring(sign);
-    const double plus = style.real(kPlus, 0), minus = style.real(kMinus, 0);
+/// A measure in one kind of units: what stands around its number, and how far it may be off.
+struct MeasuredNumber {
+    double value = 0, plus = 0, minus = 0;
+    std::wstring before, behind;
+};
+
+/// The number with its tolerance, or the limits between which it lies.
+std::wstring withTolerance(const MeasuredNumber& number, const DimensionStyle& style, const Writer& write) {
+    const auto& [value, plus, minus, start, behind] = number;
     const double share = style.real(kToleranceScale, 1);
-    const auto stack = [&](const std::wstring& upper, const std::wstring& lower) {
-        return inHeight(share / kStackShare, L"\\S" + inStack(upper) + L"^" + inStack(lower) + L";");
+    const int row = style.integer(kToleranceRow, kMiddleRow);
+    const auto stack = [&](int place, const std::wstring& upper, const std::wstring& lower) {
+        return inHeight(share, place, L"\\S" + inStack(upper) + L"^" + inStack(lower) + L";");
     };
     if (style.integer(kLimits, 0) != 0)
-        return stack(start + write(value + plus, false) + behind,
+        return stack(kMiddleRow, start + write(value + plus, false) + behind,
                      start + write(value - minus, false) + behind);
     const std::wstring main = start + write(value, false) + behind;
     if (style.integer(kTolerance, 0) == 0 || (plus == 0 && minus == 0)) return main;
-    if (plus == minus) return main + inHeight(share, L"\u00B1" + write(plus, true) + behind);
-    const auto signedText = [&write, &end = behind](double size) {
-        const std::wstring text = write(std::abs(size), true) + end;
+    if (plus == minus) return main + inHeight(share, row, L"\u00B1" + write(plus, true) + behind);
+    const auto signedText = [&](double size) {
+        const std::wstring text = write(std::abs(size), true) + number.behind;
         return size == 0 ? text : (size < 0 ? L"-" : L"+") + text;
     };
-    return main + stack(signedText(plus), signedText(-minus));
+    return main + stack(row, signedText(plus), signedText(-minus));
 }
 
 /// Nothing in a stack may end it.
@@ -186,17 +191,46 @@ NumberForm unstacked(NumberForm form) {
     return form;
 }
 
+/// How a tolerance is written beside a number in `form`.
+NumberForm toleranceForm(const NumberForm& form, int decimals, int zeros) {
+    NumberForm tolerance = unstacked(form);
+    tolerance.decimals = decimals;
+    tolerance.zeros = zeros;
+    return tolerance;
+}
+
+/// Writes numbers in `form`, and tolerances in `tolerance`.
+Writer writerOf(const NumberForm& form, const NumberForm& tolerance, const DimensionStyle& style) {
+    const NumberForm number = style.integer(kLimits, 0) != 0 ? unstacked(form) : form;
+    return [number, tolerance](double each, bool isTolerance) {
+        return numberText(each, isTolerance ? tolerance : number);
+    };
+}
+
+/// A measure with what the style's pattern puts around it.
+MeasuredNumber mainNumber(double value, std::wstring_view sign, const DimensionStyle& style) {
+    const std::wstring pattern(style.text(kPattern).view());
+    const auto [before, behind] = around(pattern.substr(0, pattern.find(L"[]")), L"<>");
+    return {value, style.real(kPlus, 0), style.real(kMinus, 0), before + std::wstring(sign), behind};
+}
+
 std::wstring alternateText(double value, std::wstring_view sign, const DimensionStyle& style) {
     if (style.integer(kAlternate, 0) == 0) return {};
     NumberForm form;
     takeFormerUnits(style.integer(kAlternateUnits, kDecimal), form);
     form.decimals = style.integer(kAlternateDecimals, 2);
+    form.fractionShare = style.real(kToleranceScale, 1);
     form.zeros = style.integer(kAlternateZeros, 0);
     form.separator = separatorOf(style);
-    const double other =
-        rounded(value * style.real(kAlternateFactor, 25.4), style.real(kAlternateRounding, 0));
+    const NumberForm tolerance =
+        toleranceForm(form, style.integer(kAlternateToleranceDecimals, form.decimals),
+                      style.integer(kAlternateToleranceZeros, form.zeros));
+    const double factor = style.real(kAlternateFactor, 25.4);
     const auto [before, behind] = around(std::wstring(style.text(kAlternatePattern).view()), L"[]");
-    return L"[" + before + std::wstring(sign) + numberText(other, form) + behind + L"]";
+    const MeasuredNumber number = {rounded(value * factor, style.real(kAlternateRounding, 0)),
+                                   style.real(kPlus, 0) * factor, style.real(kMinus, 0) * factor,
+                                   before + std::wstring(sign), behind};
+    return L"[" + withTolerance(number, style, writerOf(form, tolerance, style)) + L"]";
 }
 
 }  // namespace
@@ -204,14 +238,10 @@ std::wstring alternateText(double value, std::wstring_view sign, const Dimension
 DimensionMeasure LengthMeasure(double length, std::wstring_view sign, const DimensionStyle& style) {
     const double value = rounded(length * std::abs(style.real(kMeasureFactor, 1)), style.real(kRounding, 0));
     const NumberForm form = mainForm(style);
-    NumberForm tolerance = unstacked(form);
-    tolerance.decimals = style.integer(kToleranceDecimals, form.decimals);
-    tolerance.zeros = style.integer(kToleranceZeros, form.zeros);
-    const bool hasLimits = style.integer(kLimits, 0) != 0;
+    const NumberForm tolerance = toleranceForm(form, style.integer(kToleranceDecimals, form.decimals),
+                                               style.integer(kToleranceZeros, form.zeros));
     DimensionMeasure measure;
-    measure.main = withTolerance(value, sign, style, [&](double each, bool isTolerance) {
-        return numberText(each, isTolerance ? tolerance : hasLimits ? unstacked(form) : form);
-    });
+    measure.main = withTolerance(mainNumber(value, sign, style), style, writerOf(form, tolerance, style));
     measure.alternate = alternateText(value, sign, style);
     return measure;
 }
@@ -234,7 +264,7 @@ DimensionMeasure AngleMeasure(double angle, const DimensionStyle& style) {
         if (units == kDegreesMinutesSeconds) std::replace(text.begin(), text.end(), L'd', L'\u00B0');
         return text;
     };
-    return {withTolerance(angle * 180 / std::numbers::pi, {}, style, write), {}};
+    return {withTolerance(mainNumber(angle * 180 / std::numbers::pi, {}, style), style, write), {}};
 }
 
 OdString DimensionWords(const OdString& own, const DimensionMeasure& measure) {

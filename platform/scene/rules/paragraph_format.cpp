@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr std::size_t kDeepest = 64;  // braces within braces
+constexpr std::size_t kDeepest = 64;    // braces within braces
+constexpr std::size_t kMostTabs = 100;  // stops of one paragraph
 
 /// A number at the start of a text; 0 where there is none.
 double numberOf(std::wstring_view text) {
@@ -30,7 +31,7 @@ double numberOf(std::wstring_view text) {
 
 class Reader {
 public:
-    Reader(std::wstring_view contents, const LetterFormat& start) : m_rest(contents) {
+    Reader(std::wstring_view contents, const LetterFormat& start) : m_rest(contents), m_unit(start.height) {
         m_formats.push_back(start);
         m_paragraphs.emplace_back();
     }
@@ -50,11 +51,13 @@ private:
     void takeHeight(std::wstring_view value);
     void takeFont(std::wstring_view value);
     void takeParagraphSetting(std::wstring_view value);
+    void takeTabs(std::wstring_view value);
     void takeStack(std::wstring_view value);
     bool takeCharacterCode(wchar_t code);
     std::wstring_view upToSemicolon();
 
     std::wstring_view m_rest;
+    double m_unit;  // of indents and tabs, in drawing units
     std::vector<LetterFormat> m_formats;
     std::vector<Paragraph> m_paragraphs;
 };
@@ -72,6 +75,7 @@ void Reader::put(wchar_t letter) {
 void Reader::endParagraph() {
     Paragraph next = m_paragraphs.back();
     next.runs.clear();
+    next.beginsColumn = false;
     m_paragraphs.push_back(std::move(next));
 }
 
@@ -102,7 +106,27 @@ void Reader::takeFont(std::wstring_view value) {
     font.italic = value.find(L"|i1") != std::wstring_view::npos;
 }
 
-/// Letters with numbers, parted by commas: i the first line's indent, l and r those of all, q the alignment.
+/// Numbers parted by commas, some behind the letter of an alignment. They stand for those that were set
+/// before.
+void Reader::takeTabs(std::wstring_view value) {
+    std::vector<TabStop>& tabs = m_paragraphs.back().tabs;
+    tabs.clear();
+    while (!value.empty() && tabs.size() < kMostTabs) {
+        const std::size_t end = std::min(value.find(L','), value.size());
+        std::wstring_view part = value.substr(0, end);
+        TabStop stop;
+        if (!part.empty() && (part[0] == L'c' || part[0] == L'r')) {
+            stop.align = part[0] == L'c' ? ParagraphAlign::kCentre : ParagraphAlign::kRight;
+            part.remove_prefix(1);
+        }
+        stop.place = numberOf(part) * m_unit;
+        if (stop.place > 0) tabs.push_back(stop);
+        value.remove_prefix(std::min(end + 1, value.size()));
+    }
+}
+
+/// Letters with numbers, parted by commas: i the first line's indent, l and r those of all, q the alignment,
+/// and last t the stops of tabs.
 void Reader::takeParagraphSetting(std::wstring_view value) {
     Paragraph& paragraph = m_paragraphs.back();
     while (!value.empty()) {
@@ -111,9 +135,10 @@ void Reader::takeParagraphSetting(std::wstring_view value) {
         if (!part.empty() && part[0] == L'x') part.remove_prefix(1);
         const wchar_t kind = part.empty() ? L' ' : part[0];
         const std::wstring_view rest = part.empty() ? part : part.substr(1);
-        if (kind == L'i') paragraph.firstIndent = numberOf(rest);
-        if (kind == L'l') paragraph.leftIndent = numberOf(rest);
-        if (kind == L'r') paragraph.rightIndent = numberOf(rest);
+        if (kind == L'i') paragraph.firstIndent = numberOf(rest) * m_unit;
+        if (kind == L'l') paragraph.leftIndent = numberOf(rest) * m_unit;
+        if (kind == L'r') paragraph.rightIndent = numberOf(rest) * m_unit;
+        if (kind == L't') return takeTabs(value.substr(value.find(L't') + 1));
         if (kind == L'q' && !rest.empty())
             paragraph.align = rest[0] == L'c'   ? ParagraphAlign::kCentre
                               : rest[0] == L'r' ? ParagraphAlign::kRight
@@ -148,8 +173,11 @@ void Reader::takeStack(std::wstring_view value) {
 bool Reader::takeSwitch(wchar_t code) {
     switch (code) {
         case L'P':
-        case L'X':
-        case L'N': endParagraph(); return true;
+        case L'X': endParagraph(); return true;
+        case L'N':
+            endParagraph();
+            m_paragraphs.back().beginsColumn = true;
+            return true;
         case L'~': put(L'\u00A0'); return true;
         case L'\\':
         case L'{':
@@ -210,6 +238,7 @@ void Reader::takeSetting(wchar_t code) {
             format().hasColor = true;
             break;
         }
+        case L'A': format().row = static_cast<int>(std::min(std::max(number, 0.0), 2.0)); break;
         case L'f':
         case L'F': takeFont(value); break;
         case L'p': takeParagraphSetting(value); break;
@@ -241,7 +270,7 @@ void Reader::takeLetter() {
     if (letter == L'\n')
         endParagraph();
     else if (letter != L'\r')
-        put(letter == L'\t' ? L' ' : letter);
+        put(letter);
 }
 
 std::vector<Paragraph> Reader::read() {
@@ -271,7 +300,7 @@ bool operator==(const LetterFormat& a, const LetterFormat& b) {
                x.oblique == y.oblique;
     };
     return a.height == b.height && a.widthFactor == b.widthFactor && a.spacing == b.spacing &&
-           sameFont(a.font, b.font) && a.hasColor == b.hasColor && a.color == b.color &&
+           a.row == b.row && sameFont(a.font, b.font) && a.hasColor == b.hasColor && a.color == b.color &&
            a.isUnderlined == b.isUnderlined && a.isOverlined == b.isOverlined && a.isStruck == b.isStruck;
 }
 

@@ -392,6 +392,38 @@ TEST(SceneMultilines, JointsFillAndRoundCapsAreTheStyles) {
     EXPECT_LT(distanceTo(drawn("1024").path(4), 11, 0), 0.01);
 }
 
+TEST(SceneMultilines, AFillHasTheGapsOfItsCuts) {
+    // From 0, 0 to 10, 0, one wide to either side.
+    const auto drawn = [](const char* upper, const char* lower) {
+        const std::string ahead = "|31 0|12 1|22 0|32 0|13 0|23 1|33 0";
+        const std::string whole = "|74 2|41 1|41 0|75 0|74 2|41 -1|41 0|75 0";
+        return Drawn(Parts{
+            .entities =
+                "0 MLINE|8 0|100 AcDbMline|2 S|340 C0|40 1|70 0|71 1|72 2|73 2|10 0|20 0|30 0|11 0|21 0" +
+                ahead + "|74 2|41 1|41 0|" + upper + "|74 2|41 -1|41 0|" + lower + "|11 10|21 0" + ahead +
+                whole,
+            .objects =
+                "0 MLINESTYLE|5 C0|330 0|100 AcDbMlineStyle|2 S|70 1|62 4|71 2|49 1|62 256|6 BYLAYER|49 "
+                "-1|62 256|6 BYLAYER"});
+    };
+    const Drawn cut = drawn("75 4|42 1|42 0|42 3|42 5", "75 4|42 -1|42 0|42 4|42 6");
+    ASSERT_EQ(cut.paths().size(), 4u) << "two areas and two lines";
+    EXPECT_TRUE(goesThrough(cut.path(0), {{0, -1}, {4, -1}, {3, 1}, {0, 1}}));
+    EXPECT_TRUE(goesThrough(cut.path(1), {{6, -1}, {10, -1}, {10, 1}, {5, 1}}));
+    EXPECT_TRUE(cut.path(0).filled && cut.path(1).filled);
+    EXPECT_TRUE(
+        goesThrough(drawn("75 2|42 1|42 2", "75 2|42 -1|42 2").path(0), {{2, -1}, {10, -1}, {10, 1}, {2, 1}}))
+        << "from where it begins";
+    EXPECT_TRUE(goesThrough(drawn("75 5|42 1|42 1|42 2|42 8|42 9", "75 5|42 -1|42 1|42 2|42 8|42 9").path(1),
+                            {{8, -1}, {9, -1}, {9, 1}, {8, 1}}))
+        << "to where it ends";
+    for (const char* lower : {"75 0", "75 1|42 -1", "75 2|42 -1|42 0"}) {
+        const Drawn whole = drawn("75 4|42 1|42 0|42 3|42 5", lower);
+        ASSERT_EQ(whole.paths().size(), 3u) << "cuts of one edge alone";
+        EXPECT_TRUE(goesThrough(whole.path(0), {{0, -1}, {10, -1}, {10, 1}, {0, 1}}));
+    }
+}
+
 TEST(ScenePictures, APictureThatIsNotShownHasNoNameAndAWipeoutAFrameByItsSetting) {
     std::string hidden = kPicture;
     hidden.replace(hidden.find("70 1"), 4, "70 0");

@@ -144,6 +144,39 @@ TEST(SceneBlocks, AttributesHavePlacesAndLayersOfTheirOwn) {
     EXPECT_TRUE(drawn(attribute("RED", "0"), "0").texts().empty()) << "none is shown";
 }
 
+TEST(SceneBlocks, AnAttributeOfSeveralLinesIsItsParagraph) {
+    const std::string lines =
+        "|101 Embedded Object|10 50|20 30|30 0|40 3|41 0|71 1|72 5|1 second|7 Standard|11 0|21 1|31 0|73 "
+        "2|44 0.9";
+    const std::string attributes = attribute("GREEN", "0") + "|71 2|72 0" + lines;
+    const auto drawn = [](const std::string& more) {
+        return Drawn(Parts{.tables = table("LAYER", "0 LAYER|2 GREEN|70 0|62 3"),
+                           .blocks = block("B", "0 POINT|8 0"),
+                           .entities = "0 INSERT|8 0|66 1|2 B|10 100|20 0|30 0|" + more + "|0 SEQEND|8 0"});
+    };
+    std::string withStart = attributes;
+    withStart.replace(withStart.find("1 second"), 8, "3 first\\P|1 second");
+    const Drawn both = drawn(withStart);
+    ASSERT_EQ(both.texts().size(), 2u);
+    EXPECT_EQ(both.text(0).text, L"first");
+    EXPECT_TRUE(isAt(both.text(0).position, 53, 30)) << "it runs upwards, from its top";
+    EXPECT_TRUE(isAt(both.text(1).position, 57.5, 30));
+    EXPECT_NEAR(both.text(0).rotation, kPi / 2, 1e-12);
+    EXPECT_EQ(both.text(0).height, 3);
+    EXPECT_EQ(both.text(0).style.color.colorIndex(), 3) << "on the attribute's layer";
+    EXPECT_EQ(drawn(attribute("GREEN", "1") + lines).texts().size(), 0u) << "an invisible one";
+    const Drawn without = drawn(attribute("GREEN", "0") + "|101 Embedded Object|10 50|20 30|30 0|40 3");
+    ASSERT_EQ(without.texts().size(), 1u) << "no words in it";
+    EXPECT_EQ(without.text().text, L"VALUE");
+    EXPECT_TRUE(isAt(without.text().position, 7, 8));
+    const std::string constant = "0 ATTDEF|8 0|10 7|20 8|30 0|40 2|1 VALUE|2 TAG|70 2" + lines;
+    const Drawn inside(
+        Parts{.blocks = block("B", constant), .entities = "0 INSERT|8 0|2 B|10 100|20 0|30 0"});
+    EXPECT_EQ(inside.text().text, L"second");
+    EXPECT_TRUE(isAt(inside.text().position, 153, 30)) << "in the block";
+    EXPECT_EQ(Drawn(constant).text().text, L"TAG") << "outside of blocks";
+}
+
 TEST(SceneBlocks, DefinitionsOfAttributesShowTheirTagOutsideAndConstantOnesTheirTextInside) {
     const auto definition = [](const char* flags) {
         return std::string("0 ATTDEF|8 0|10 1|20 2|30 0|40 3|1 text|3 prompt|2 TAG|70 ") + flags;
@@ -247,7 +280,8 @@ TEST(SceneBlocks, TheOrderOfATableIsTheDrawingOrder) {
 Scene clipped(
     const std::string& boundary, const std::string& settings = "71 1|72 0|73 0",
     const std::string& toBlock = "40 0|40 .5|40 0|40 -25|40 -.5|40 0|40 0|40 50|40 0|40 0|40 .5|40 0",
-    const std::string& toBoundary = "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0") {
+    const std::string& toBoundary = "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0",
+    const std::string& beside = "") {
     return Drawn(
                Parts{.blocks = block("B", "0 LINE|8 0|10 0|20 0|30 0|11 10|21 0|31 0"),
                      .entities =
@@ -255,11 +289,57 @@ Scene clipped(
                          "2|43 2|50 90|0 LINE|8 0|10 0|20 0|30 0|11 1|21 0|31 0",
                      .objects =
                          "0 DICTIONARY|5 A1|330 A0|100 AcDbDictionary|3 ACAD_FILTER|360 A2|0 DICTIONARY|5 "
-                         "A2|330 A1|100 AcDbDictionary|3 SPATIAL|360 A3|0 SPATIAL_FILTER|5 A3|330 A2|100 "
+                         "A2|330 A1|100 AcDbDictionary|3 SPATIAL|360 A3|0 SPATIAL_FILTER|5 A3|102 "
+                         "{ACAD_XDICTIONARY|360 A4|102 "
+                         "}|330 A2|100 "
                          "AcDbFilter|100 AcDbSpatialFilter|70 2|" +
                          boundary + "|210 0|220 0|230 1|11 0|21 0|31 0|" + settings + "|" + toBlock + "|" +
-                         toBoundary})
+                         toBoundary + beside})
         .scene;
+}
+
+/// The scene of a clip that the file calls inverted.
+Scene invertedClip(const std::string& own, const std::string& hidden, const std::string& shown) {
+    return clipped(
+        own, "71 1|72 0|73 0", "40 0|40 .5|40 0|40 -25|40 -.5|40 0|40 0|40 50|40 0|40 0|40 .5|40 0",
+        "40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0",
+        "|0 DICTIONARY|5 A4|330 A3|100 AcDbDictionary|3 ACAD_XREC_ROUNDTRIP|360 A5|0 XRECORD|5 A5|330 "
+        "A4|100 AcDbXrecord|280 1|102 ACAD_INVERTEDCLIP_ROUNDTRIP|" +
+            hidden + "|102 ACAD_INVERTEDCLIP_ROUNDTRIP_COMPARE|" + shown);
+}
+
+TEST(SceneReferences, AnInvertedBoundaryHidesWhatIsWithin) {
+    const std::string inner = "10 95|20 54|30 0|10 105|20 54|30 0|10 100|20 60|30 0";
+    const std::string outer = "10 80|20 40|30 0|10 120|20 80|30 0";
+    // Round the rectangle, then round the triangle: what is between them is seen.
+    const std::vector<OdGePoint2d> expected = {{80, 40}, {120, 40}, {120, 80}, {80, 80}, {80, 40},
+                                               {95, 54}, {105, 54}, {100, 60}, {95, 54}};
+    const auto outline = [](const Scene& scene) {
+        ScenePath path;
+        if (scene.clips.size() == 1) path.points = scene.clips[0].outline;
+        return path;
+    };
+    EXPECT_TRUE(goesThrough(outline(invertedClip("10 80|20 40|10 120|20 80", inner, outer)), expected));
+    EXPECT_TRUE(
+        goesThrough(outline(invertedClip("10 95|20 54|10 105|20 54|10 100|20 60", outer, outer)), expected))
+        << "the clip's own is the hidden one";
+    EXPECT_TRUE(goesThrough(outline(invertedClip("10 80|20 40|10 110|20 80", inner, outer)), expected))
+        << "the outline of what is shown is larger";
+    EXPECT_TRUE(goesThrough(
+        outline(invertedClip("10 80|20 40|10 120|20 80", "10 95|20 54|30 0|10 105|20 60|30 0", outer)),
+        {{80, 40},
+         {120, 40},
+         {120, 80},
+         {80, 80},
+         {80, 40},
+         {95, 54},
+         {105, 54},
+         {105, 60},
+         {95, 60},
+         {95, 54}}))
+        << "two corners are a rectangle";
+    EXPECT_EQ(outline(invertedClip("10 80|20 40|10 120|20 80", "10 95|20 54|30 0", outer)).points.size(), 4u)
+        << "one place hides nothing";
 }
 
 TEST(SceneReferences, AreSeenThroughTheirBoundary) {

@@ -80,10 +80,14 @@ TEST(DimensionTexts, DecimalsLoseTheirZerosAndHaveTheirSeparator) {
 
 TEST(DimensionTexts, FractionsAreStacked) {
     const Drawn level = dimension("|277 4|276 0|144 .78125|271 4");
-    EXPECT_EQ(said(level), L"1'-3(21:5)(21:8)\"");
+    EXPECT_EQ(said(level), L"1'-358\"");
     EXPECT_EQ(level.paths().size(), 6u) << "with a bar";
     const Drawn slanted = dimension("|277 5|276 1|144 .78125|271 4");
-    EXPECT_EQ(said(slanted), L"15(21:5)(21:8)");
+    EXPECT_EQ(said(slanted), L"1558");
+    EXPECT_EQ(said("|277 4|276 0|144 .78125|271 4|146 .5"), L"1'-3(15:5)(15:8)\"") << "smaller numbers";
+    // Numbers of 3 with 0.45 on either side of the bar, around the middle of the whole number.
+    EXPECT_NEAR(level.text(1).position.y - level.text(0).position.y, 1.5 + 0.45, 1e-9);
+    EXPECT_NEAR(level.text(2).position.y - level.text(0).position.y, 1.5 - 0.45 - 3, 1e-9);
     EXPECT_NE(slanted.paths().back().points.front().y, slanted.paths().back().points.back().y);
     EXPECT_EQ(level.paths().back().points.front().y, level.paths().back().points.back().y);
 }
@@ -100,6 +104,13 @@ TEST(DimensionTexts, TolerancesAreEqualOrStacked) {
     const Drawn stacked = dimension("|71 1|47 .25|48 .1");
     EXPECT_GT(stacked.text(1).position.y, stacked.text(2).position.y) << "plus above minus";
     EXPECT_EQ(stacked.paths().size(), 5u) << "no bar between them";
+    // Half as high: 1.5 each and 0.45 between them beside 3, below, in the middle and above.
+    const double lower[] = {0, 1.5 - 0.225 - 1.5, 3 - 3.45};
+    for (int row = 0; row < 3; ++row) {
+        const Drawn beside = dimension("|71 1|47 .25|48 .1|146 .5|283 " + std::to_string(row));
+        EXPECT_NEAR(beside.text(2).position.y - beside.text(0).position.y, lower[row], 1e-9) << row;
+        EXPECT_NEAR(beside.text(1).position.y - beside.text(2).position.y, 1.5 + 0.45, 1e-9) << row;
+    }
 }
 
 TEST(DimensionTexts, LimitsStandInPlaceOfTheNumber) {
@@ -117,6 +128,16 @@ TEST(DimensionTexts, OtherUnitsStandBehind) {
     EXPECT_EQ(said("|170 1|143 25.4|171 0", "|1 about <>"), L"about 20.00 [508]");
     EXPECT_EQ(said("|170 1|143 25.4|171 0", "|1 [] is <>"), L"[508] is 20.00");
     EXPECT_EQ(said("|170 0|143 25.4|171 0", "|1 [] is <>"), L" is 20.00");
+}
+
+TEST(DimensionTexts, OtherUnitsHaveTheToleranceToo) {
+    const std::string millimetres = "|170 1|143 10|171 1|272 2";
+    EXPECT_EQ(said(millimetres + "|71 1|47 .25|48 .25"), L"20.00\u00B10.25 [200.0\u00B12.5]");
+    EXPECT_EQ(said(millimetres + "|71 1|47 .25|48 .1|274 2|286 8"), L"20.00+0.25-0.10 [200.0+2.5-1]");
+    EXPECT_EQ(said(millimetres + "|71 1|47 .25|48 .25|4 ca. [] mm"),
+              L"20.00\u00B10.25 [ca. 200.0 mm\u00B12.5 mm]");
+    EXPECT_EQ(said(millimetres + "|72 1|47 .25|48 .1"), L"20.2519.90 [202.5199.0]") << "limits";
+    EXPECT_EQ(said(millimetres + "|47 .25|48 .1"), L"20.00 [200.0]") << "not asked for";
 }
 
 TEST(DimensionTexts, AnglesHaveUnitsOfTheirOwn) {

@@ -1,5 +1,5 @@
 // Texts on one line: justification, fitting, turns and mirrors, codes; and paragraphs.
-#include "drawn.h"
+#include "paragraphs.h"
 
 namespace {
 
@@ -137,29 +137,6 @@ TEST(SceneTexts, ATextWithoutHeightOrWordsIsNothing) {
     EXPECT_TRUE(Drawn("0 TEXT|8 0|10 0|20 0|30 0|40 1|1 ").texts().empty());
 }
 
-/// Paragraphs in which every letter is as wide as it is high.
-struct Paragraphs {
-    explicit Paragraphs(const std::string& entity) : drawing(drawingOf({.entities = entity})) {
-        SceneOptions options;
-        options.textWidth = [](const SceneFont&, std::wstring_view words) {
-            return static_cast<double>(words.size());
-        };
-        scene = BuildScene(*drawing, drawing->modelSpaceId(), options);
-    }
-    std::wstring words() const {
-        std::wstring all;
-        for (const SceneText& each : scene.texts)
-            all += (all.empty() ? L"" : L"/") + std::wstring(each.text.view());
-        return all;
-    }
-    OdDbDatabasePtr drawing;
-    Scene scene;
-};
-
-std::string paragraph(const std::string& contents, const std::string& more = "71 1") {
-    return "0 MTEXT|8 0|10 10|20 20|30 0|40 1|" + more + "|1 " + contents;
-}
-
 TEST(SceneParagraphs, LinesStandFiveThirdsApartUnderTheTop) {
     const Paragraphs drawn(paragraph("ab\\Pcd"));
     ASSERT_EQ(drawn.scene.texts.size(), 2u);
@@ -254,11 +231,21 @@ TEST(SceneParagraphs, LinesUnderOverAndThroughLettersRunAlongThem) {
 TEST(SceneParagraphs, AStackIsOneNumberOverTheOther) {
     const Paragraphs drawn(paragraph("a\\S12/3;"));
     ASSERT_EQ(drawn.words(), L"a/12/3");
-    // 0.7 high, around half the height of capitals; the wider number is 1.4 wide.
-    EXPECT_TRUE(isAt(drawn.scene.texts[1].position, 11.7, 19 + 0.65));
-    EXPECT_TRUE(isAt(drawn.scene.texts[2].position, 11.7, 19 + 0.5 - 0.85));
-    EXPECT_NEAR(drawn.scene.texts[1].height, 0.7, 1e-12);
-    EXPECT_TRUE(goesThrough(drawn.scene.paths.at(0), {{11, 19.5}, {12.4, 19.5}}));
+    // As high as the text, 0.15 from the bar; the lower one stands on the base line. The wider one is 2 wide.
+    EXPECT_TRUE(isAt(drawn.scene.texts[1].position, 12, 19 + 1.3));
+    EXPECT_TRUE(isAt(drawn.scene.texts[2].position, 12, 19));
+    EXPECT_EQ(drawn.scene.texts[1].height, 1);
+    EXPECT_TRUE(goesThrough(drawn.scene.paths.at(0), {{11, 20.15}, {13, 20.15}}));
+    const Paragraphs middle(paragraph("a{\\A1;\\H0.5x;\\S1/2;}"));
+    EXPECT_TRUE(isAt(middle.scene.texts.at(1).position, 11.25, 19.5 + 0.075));
+    EXPECT_TRUE(isAt(middle.scene.texts.at(2).position, 11.25, 19.5 - 0.575));
+    EXPECT_TRUE(goesThrough(middle.scene.paths.at(0), {{11, 19.5}, {11.5, 19.5}}));
+    const Paragraphs above(paragraph("a{\\A2;\\H0.5x;\\S1^2;}"));
+    EXPECT_TRUE(isAt(above.scene.texts.at(1).position, 11.25, 19.5)) << "its top is that of the line";
+    const Paragraphs slanted(paragraph("a{\\A1;\\H0.5x;\\S1#2;}"));
+    EXPECT_TRUE(isAt(slanted.scene.texts.at(1).position, 11, 19.5));
+    EXPECT_TRUE(isAt(slanted.scene.texts.at(2).position, 12, 19)) << "at its right end";
+    EXPECT_TRUE(goesThrough(slanted.scene.paths.at(0), {{11.25, 19}, {11.75, 20}}));
     EXPECT_TRUE(Paragraphs(paragraph("\\S+1^-2;")).scene.paths.empty()) << "a tolerance has no bar";
     EXPECT_EQ(Paragraphs(paragraph("\\S+1^-2;")).words(), L"+1/-2");
     EXPECT_EQ(Paragraphs(paragraph("\\S1#2;")).scene.paths.size(), 1u);
@@ -320,9 +307,12 @@ TEST(SceneParagraphs, TextsOfAnyLengthEnd) {
 }
 
 TEST(SceneParagraphs, LettersMayBeSpacedAndSettingsOfAParagraphHoldOn) {
-    const Paragraphs spaced(paragraph("{\\T2;ab}c"));
-    EXPECT_NEAR(spaced.scene.texts.at(1).position.x, 14, 1e-9);
-    EXPECT_NEAR(spaced.scene.texts.at(0).widthFactor, 2, 1e-9);
+    const Paragraphs spaced(paragraph("{\\T2;\\La b}c"));
+    EXPECT_EQ(spaced.words(), L"a/b/c");
+    EXPECT_NEAR(spaced.scene.texts.at(1).position.x, 14, 1e-9) << "two letters of twice their width further";
+    EXPECT_NEAR(spaced.scene.texts.at(2).position.x, 16, 1e-9);
+    EXPECT_NEAR(spaced.scene.texts.at(0).widthFactor, 1, 1e-9) << "letters keep their width";
+    EXPECT_TRUE(goesThrough(spaced.scene.paths.at(0), {{10, 18.8}, {16, 18.8}}));
     const Paragraphs centred(paragraph("\\pqc;a\\Pb", "71 1|41 10"));
     EXPECT_EQ(centred.scene.texts.at(1).horizontal, 1);
     EXPECT_NEAR(centred.scene.texts.at(1).position.x, 15, 1e-9);
