@@ -126,6 +126,26 @@ constexpr double kMm = 72 / 25.4;
 
 }  // namespace
 
+TEST_F(DrawingPlots, APageThatWasStoppedIsCutAndThoseAfterItAreNot) {
+    const OdDbDatabasePtr drawing = sample("bracket.dxf");
+    const OdDbLayoutPtr layout = layoutOf(*drawing, L"*Model_Space");
+    const SceneExtents area = ModelExtents(*drawing);
+    DrawingPlot plot = plotOf(drawing, {true, true});
+    std::stop_source stopped;
+    std::atomic<int> percent = 0;
+    plot.setProgress(stopped.get_token(), &percent);
+    plot.addModel(area, *layout, false);
+    EXPECT_FALSE(plot.isCut());
+    EXPECT_GT(percent, 90);
+    stopped.request_stop();
+    plot.addModel(area, *layout, false);
+    EXPECT_TRUE(plot.isCut());
+    plot.setProgress({}, nullptr);
+    plot.addModel(area, *layout, false);
+    EXPECT_TRUE(plot.isCut()) << "the file is, whatever is whole in it";
+    EXPECT_TRUE(ModelExtents(*drawing, stopped.get_token()).isEmpty());
+}
+
 TEST_F(DrawingPlots, SampleDrawingsAreWholeFilesWithTheirTexts) {
     const std::pair<const char*, const char*> samples[] = {
         {"bracket.dxf", nullptr}, {"floor_plan.dxf", nullptr}, {"site_plan.dxf", nullptr}};
