@@ -9,7 +9,7 @@
 namespace {
 
 constexpr UINT_PTR kLookTimer = 1;
-constexpr UINT kLookInterval = 50;  // milliseconds
+constexpr UINT kLookInterval = 20;  // milliseconds
 
 bool isSet(HANDLE event, DWORD patience = 0) {
     return ::WaitForSingleObject(event, patience) == WAIT_OBJECT_0;

@@ -9,7 +9,11 @@
 #include <cstdlib>
 #include <string>
 
+#include <kh_plot_service.h>
+
 #include "../../../platform/standin/resource.h"
+#include "../standin/temporary_folder.h"
+#include "heavy_drawing.h"
 #include "leak_fixture.h"
 
 namespace {
@@ -124,6 +128,22 @@ TEST_F(StandinLeaks, AThousandPlotStyleDialogsLeaveNothing) {
     const size_t growth = systemGrowth(IDD_PLOT_STYLES);
     leaks::expect_no_growth([&] { openPlotStyles(); }, growth, leaks::kShownGdiSlack);
     EXPECT_EQ(seen, leaks::kTimes + leaks::kWarmUp);
+}
+
+TEST_F(StandinLeaks, AThousandExportsWithTheirThreadsAndWindowsLeaveNothing) {
+    ui_test::addEntity(*drawing, ui_test::newLine(0, 0, 100, 50));
+    ui_test::addEntity(*drawing, ui_test::newMeasuredText());
+    static_cast<CKhPlotSvr*>(host.serviceManager()->getService(kKhPlotService))->setPlotArea(1, true);
+    host.SetExportPatience(0);
+    ui_test::TemporaryFolder folder;
+    const std::wstring file = folder.write(L"a.pdf", "");
+    const size_t growth = systemGrowth(IDD_EXPORT_WAIT);
+    leaks::expect_no_growth(
+        [&] {
+            CString message;
+            ASSERT_TRUE(host.ExportDrawing(file.c_str(), message)) << CStringA(message).GetString();
+        },
+        growth, leaks::kShownGdiSlack);
 }
 
 TEST_F(StandinLeaks, TheyComeUpFilled) {
