@@ -136,7 +136,7 @@ struct KTSCENE_API Scene {
     bool showsLineWeights = true;  ///< whether lines are drawn with their weights, or all thin
     /// How many entities of which kind (names as in a file) have no look here.
     std::map<std::string, int> notDrawn;
-    /// Shape fonts that no file gives, whose texts a screen font stands for.
+    /// Shape fonts that were asked for and not found, whose texts a screen font stands for.
     std::set<std::wstring> missingFonts;
     /// Whether the building ended before everything was drawn: at the work limit, or because it was stopped.
     bool isCut = false;

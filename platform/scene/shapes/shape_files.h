@@ -10,6 +10,8 @@
 class ShapeFiles {
 public:
     explicit ShapeFiles(SceneShapeFile source) : m_source(std::move(source)) {}
+    /// Whether anybody is asked for files.
+    bool haveSource() const { return m_source != nullptr; }
     /// The file with a name; null if nobody has it.
     const ShapeFile* file(const OdString& name);
     /// The file of a text style.

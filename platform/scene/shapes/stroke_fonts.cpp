@@ -46,7 +46,7 @@ const ShapeFile* StrokeFonts::fileOf(const SceneFont& font) {
     if (name.isEmpty()) return nullptr;
     const ShapeFile* const file = m_files.file(name);
     if (file != nullptr && file->isFont()) return file;
-    m_missing.emplace(name.view());
+    if (m_files.haveSource()) m_missing.emplace(name.view());
     return nullptr;
 }
 

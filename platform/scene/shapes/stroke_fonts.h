@@ -32,7 +32,7 @@ public:
         bool isWritten;
     };
     std::vector<Run> runs(const SceneFont& font, std::wstring_view text);
-    /// The files of shape fonts that weren't there or are none.
+    /// The files of shape fonts that were asked for and weren't there, or are none.
     const std::set<std::wstring>& missing() const { return m_missing; }
 
 private:

@@ -172,6 +172,15 @@ TEST(StrokeTexts, AScreenFontStandsForWhatIsMissing) {
     EXPECT_TRUE(outlines.missingFonts.empty());
 }
 
+TEST(StrokeTexts, WhereNobodyIsAskedForFilesNoneIsMissing) {
+    const OdDbDatabasePtr drawing =
+        drawingOf({.tables = table("STYLE", "0 STYLE|5 A7|2 S|70 0|40 0|41 1|50 0|71 0|42 1|3 plain.shx|4 "),
+                   .entities = text("I")});
+    const Scene scene = BuildScene(*drawing, drawing->modelSpaceId());
+    EXPECT_EQ(scene.texts.size(), 1u);
+    EXPECT_TRUE(scene.missingFonts.empty());
+}
+
 TEST(StrokeTexts, TextsOfALinetypeAreWrittenToo) {
     const OdDbDatabasePtr drawing =
         drawingOf({.tables = table("STYLE", "0 STYLE|5 A7|2 S|70 0|40 0|41 1|50 0|71 0|42 1|3 plain.shx|4 ") +
