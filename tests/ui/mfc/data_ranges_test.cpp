@@ -1,46 +1,18 @@
 // Numbers at the ends of their types and ranges: what is taken, what is refused and by which words.
 #include <afxcmn.h>
 
-#include <functional>
 #include <limits>
 
-#include "ui_test.h"
+#include "exchange_dialog.h"
 
 namespace {
 
 constexpr int kEdit = 1001, kOtherEdit = 1002, kCheck = 1003, kRadio = 1004;
 
-class RangeDialog : public CDialog {
-public:
-    std::function<void(CDataExchange*)> exchange;
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        CDialog::DoDataExchange(pDX);
-        if (exchange) exchange(pDX);
-    }
-};
-
-struct DataRanges : ::testing::Test {
-    void SetUp() override {
-        ASSERT_TRUE(dialog.Create(400, &parent));
+struct DataRanges : ui_test::Exchange<400> {
+    DataRanges() {
         dialog.ShowWindow(SW_SHOW);
         ui_test::pump();
-    }
-    void TearDown() override { dialog.DestroyWindow(); }
-    bool exchanges(BOOL save, std::function<void(CDataExchange*)> what) {
-        dialog.exchange = std::move(what);
-        return dialog.UpdateData(save) != FALSE;
-    }
-    /// What the user is told when something is refused.
-    CString told(std::function<void(CDataExchange*)> what) {
-        CString message;
-        ui_test::when_dialog(AfxGetAppName(), [&](HWND box) {
-            message = ui_test::text_of(::GetDlgItem(box, 0xFFFF));
-            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-        });
-        EXPECT_FALSE(exchanges(TRUE, std::move(what)));
-        return message;
     }
     /// The value of a text that is taken.
     template <class T>
@@ -66,9 +38,6 @@ struct DataRanges : ::testing::Test {
         dialog.GetDlgItemText(kEdit, text);
         return text;
     }
-
-    ui_test::ParentWindow parent;
-    RangeDialog dialog;
 };
 
 const wchar_t* const kWhole = L"Enter a whole number.";

@@ -3,27 +3,14 @@
 #include <afxdtctl.h>
 #include <afxext.h>
 
-#include <functional>
-
-#include "ui_test.h"
+#include "exchange_dialog.h"
 
 namespace {
 
 constexpr int kList = 51, kCombo = 52, kDropped = 53, kBar = 54, kDate = 55, kMonth = 56;
 
-class Dialog : public CDialog {
-public:
-    std::function<void(CDataExchange*)> exchange;
-
-protected:
-    void DoDataExchange(CDataExchange* context) override {
-        if (exchange) exchange(context);
-    }
-};
-
-struct ExchangeControls : ::testing::Test {
+struct ExchangeControls : ui_test::Exchange<401> {
     ExchangeControls() {
-        EXPECT_TRUE(dialog.Create(401, &parent));
         const CRect place(0, 0, 150, 100);
         list.Create(WS_CHILD, place, &dialog, kList);
         combo.Create(WS_CHILD | CBS_DROPDOWN, place, &dialog, kCombo);
@@ -38,24 +25,7 @@ struct ExchangeControls : ::testing::Test {
         }
         bar.SetScrollRange(0, 50);
     }
-    ~ExchangeControls() override { dialog.DestroyWindow(); }
-    bool exchanges(BOOL save, std::function<void(CDataExchange*)> what) {
-        dialog.exchange = std::move(what);
-        return dialog.UpdateData(save) != FALSE;
-    }
-    /// What the user is told when something is refused.
-    CString told(std::function<void(CDataExchange*)> what) {
-        CString message;
-        ui_test::when_dialog(AfxGetAppName(), [&](HWND box) {
-            message = ui_test::text_of(::GetDlgItem(box, 0xFFFF));
-            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-        });
-        EXPECT_FALSE(exchanges(TRUE, std::move(what)));
-        return message;
-    }
 
-    ui_test::ParentWindow parent;
-    Dialog dialog;
     CListBox list;
     CComboBox combo, dropped;
     CScrollBar bar;

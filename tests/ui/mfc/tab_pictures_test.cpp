@@ -224,22 +224,23 @@ TEST_F(TabPictures, ShowWhichHasTheFocus) {
 TEST_F(TabPictures, ShowTheSignThatClosesOnTheActiveOne) {
     make(CMFCTabCtrl::STYLE_3D, CMFCTabCtrl::LOCATION_TOP);
     tabs.m_rectCloseButton = CRect(14, 2, 25, 13);
-    EXPECT_EQ(drawn(CRect(1, 1, 31, 14), 0, TRUE),
-              "                                \n"
-              " HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH \n"
-              " HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              " #oooooooooooooo??ooo??ooooooo# \n"
-              " #oooooooooooooo?t?o?t?ooooooo# \n"
-              " #ooooooooooooooo?t?t?oooooooo# \n"
-              " #oooooooooooooooo?t?ooooooooo# \n"
-              " #ooooooooooooooo?t?t?oooooooo# \n"
-              " #oooooooooooooo?t?o?t?ooooooo# \n"
-              " #oooooooooooooo??ooo??ooooooo# \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              "                                \n");
+    const std::string resting =
+        "                                \n"
+        " HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH \n"
+        " HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH \n"
+        " #oooooooooooooooooooooooooooo# \n"
+        " #oooooooooooooo??ooo??ooooooo# \n"
+        " #oooooooooooooo?t?o?t?ooooooo# \n"
+        " #ooooooooooooooo?t?t?oooooooo# \n"
+        " #oooooooooooooooo?t?ooooooooo# \n"
+        " #ooooooooooooooo?t?t?oooooooo# \n"
+        " #oooooooooooooo?t?o?t?ooooooo# \n"
+        " #oooooooooooooo??ooo??ooooooo# \n"
+        " #oooooooooooooooooooooooooooo# \n"
+        " #oooooooooooooooooooooooooooo# \n"
+        " #oooooooooooooooooooooooooooo# \n"
+        "                                \n";
+    EXPECT_EQ(drawn(CRect(1, 1, 31, 14), 0, TRUE), resting);
     tabs.m_bTabCloseButtonHighlighted = TRUE;
     EXPECT_EQ(drawn(CRect(1, 1, 31, 14), 0, TRUE),
               "                                \n"
@@ -275,22 +276,7 @@ TEST_F(TabPictures, ShowTheSignThatClosesOnTheActiveOne) {
               " #oooooooooooooooooooooooooooo# \n"
               "                                \n");
     tabs.m_bTabCloseButtonHighlighted = FALSE;
-    EXPECT_EQ(drawn(CRect(1, 1, 31, 14), 0, TRUE),
-              "                                \n"
-              " HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH \n"
-              " HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              " #oooooooooooooo??ooo??ooooooo# \n"
-              " #oooooooooooooo?t?o?t?ooooooo# \n"
-              " #ooooooooooooooo?t?t?oooooooo# \n"
-              " #oooooooooooooooo?t?ooooooooo# \n"
-              " #ooooooooooooooo?t?t?oooooooo# \n"
-              " #oooooooooooooo?t?o?t?ooooooo# \n"
-              " #oooooooooooooo??ooo??ooooooo# \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              " #oooooooooooooooooooooooooooo# \n"
-              "                                \n");
+    EXPECT_EQ(drawn(CRect(1, 1, 31, 14), 0, TRUE), resting);
 }
 
 TEST_F(TabPictures, ShowTheirIconsInTheMiddleOfTheirHeight) {

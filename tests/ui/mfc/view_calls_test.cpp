@@ -25,18 +25,6 @@ protected:
 };
 IMPLEMENT_DYNCREATE(PlainView, CView)
 
-bool enabled(CCmdTarget& target, UINT id) {
-    CCmdUI item;
-    item.m_nID = id;
-    CMenu menu;
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, id, L"item");
-    item.m_pMenu = &menu;
-    item.m_nIndexMax = 1;
-    item.DoUpdate(&target, FALSE);
-    return (menu.GetMenuState(0, MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) == 0;
-}
-
 void command(CWnd& window, UINT id) { window.SendMessage(WM_COMMAND, id); }
 
 std::wstring content(CWnd& window) { return std::wstring(ui_test::text_of(window.m_hWnd)); }
@@ -60,8 +48,8 @@ TEST_F(DocumentsTest, APlainViewScrollsAndSelectsNothing) {
     EXPECT_FALSE(plain.view->OnScrollBy(CSize(1, 1)));
     EXPECT_EQ(plain.view->GetScrollBarCtrl(SB_HORZ), nullptr);
     EXPECT_EQ(CView::GetParentSplitter(plain.view, TRUE), nullptr);
-    EXPECT_FALSE(enabled(*plain.view, ID_WINDOW_SPLIT));
-    EXPECT_FALSE(enabled(*plain.view, ID_NEXT_PANE));
+    EXPECT_FALSE(is_enabled(*plain.view, ID_WINDOW_SPLIT));
+    EXPECT_FALSE(is_enabled(*plain.view, ID_NEXT_PANE));
 }
 
 TEST_F(DocumentsTest, AClickInAViewActivatesIt) {
@@ -90,7 +78,7 @@ TEST_F(DocumentsTest, TextGoesThroughTheClipboard) {
     view.SendMessage(EM_SETSEL, 0, 3);
     command(view, ID_EDIT_COPY);
     EXPECT_EQ(content(view), L"one two");
-    EXPECT_TRUE(enabled(view, ID_EDIT_PASTE));
+    EXPECT_TRUE(is_enabled(view, ID_EDIT_PASTE));
     view.SendMessage(EM_SETSEL, 7, 7);
     command(view, ID_EDIT_PASTE);
     EXPECT_EQ(content(view), L"one twoone");
@@ -113,7 +101,7 @@ TEST_F(DocumentsTest, TextGoesThroughTheClipboard) {
     ::OpenClipboard(view.m_hWnd);
     ::EmptyClipboard();
     ::CloseClipboard();
-    EXPECT_FALSE(enabled(view, ID_EDIT_PASTE));
+    EXPECT_FALSE(is_enabled(view, ID_EDIT_PASTE));
     view.DeleteContents();
     EXPECT_EQ(content(view), L"");
 }
@@ -215,7 +203,7 @@ TEST_F(SplitterTest, APaneIsActivatedByItsPlace) {
     EXPECT_EQ(splitter().GetActivePane(&row, &col), splitter().GetPane(0, 1));
     EXPECT_EQ(row, 0);
     EXPECT_EQ(col, 1);
-    EXPECT_TRUE(enabled(*frame->GetActiveView(), ID_NEXT_PANE));
+    EXPECT_TRUE(is_enabled(*frame->GetActiveView(), ID_NEXT_PANE));
     command(*frame->GetActiveView(), ID_NEXT_PANE);
     EXPECT_EQ(frame->GetActiveView(), splitter().GetPane(0, 0));
     command(*frame->GetActiveView(), ID_PREV_PANE);

@@ -30,6 +30,9 @@ protected:
         DDX_Text(dx, IDC_FORM_SECOND, second);
     }
 };
+/// Whether a command's item would be enabled.
+bool is_enabled(CCmdTarget& target, UINT id);
+
 /// A frame with one view of class `View`, 400 by 300 pixels inside.
 template <class View>
 struct ViewFrame {
