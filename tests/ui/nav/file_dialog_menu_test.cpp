@@ -103,32 +103,6 @@ TEST_F(FileDialogMenu, OnlyTheNoticeOfItsOwnDropDownZoneCounts) {
     });
 }
 
-/// A control that answers itself what it tells its parent.
-class AnsweringControl : public CWnd {
-public:
-    UINT heardCode = 0;
-
-protected:
-    BOOL OnChildNotify(UINT, WPARAM, LPARAM lParam, LRESULT* result) override {
-        heardCode = reinterpret_cast<const NMHDR*>(lParam)->code;
-        *result = 77;
-        return TRUE;
-    }
-};
-
-TEST_F(FileDialogMenu, OtherNoticesComeBackToWhoeverToldThem) {
-    look([&](HWND window) {
-        CWnd* const ok = CWnd::FromHandle(::GetDlgItem(window, IDOK));
-        AnsweringControl control;
-        ASSERT_TRUE(control.Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 5, 5), ok, 9));
-        NMHDR notice = {control.m_hWnd, 9, static_cast<UINT>(NM_CLICK)};
-        EXPECT_EQ(ok->SendMessage(WM_NOTIFY, 9, reinterpret_cast<LPARAM>(&notice)), 77);
-        EXPECT_EQ(control.heardCode, static_cast<UINT>(NM_CLICK));
-        EXPECT_EQ(tracked.times, 0);
-        control.DestroyWindow();
-    });
-}
-
 TEST_F(FileDialogMenu, EachSettingHasItsEntries) {
     struct Case {
         int readOnlyHidden, flags;
