@@ -171,10 +171,11 @@ TEST_F(FileDialogCommands, WhatIsFoundIsTypedInItsFolder) {
     look([&](HWND window) {
         ::SetFocus(::GetDlgItem(window, IDCANCEL));
         bool dispatched = false;
-        CString typedThen = L"?";
+        CString typedThen = L"?", folderThen;
         ui_test::later([&] {
             dispatched = true;
             typedThen = typed(window);
+            folderThen = folderOf(window);
         });
         const ULONGLONG begin = ::GetTickCount64();
         while (::GetTickCount64() < begin + 20) {  // the timer is due, and waits for the loop
@@ -184,9 +185,41 @@ TEST_F(FileDialogCommands, WhatIsFoundIsTypedInItsFolder) {
         EXPECT_EQ(typed(window), L"pattern.pat");
         EXPECT_TRUE(dispatched);
         EXPECT_EQ(typedThen, L"") << "what waits comes before the name";
+        EXPECT_EQ(folderThen, folder + L"second") << "and behind the folder";
         const HWND focus = ::GetFocus(), box = ::GetDlgItem(window, kNameBox);
         EXPECT_TRUE(focus == box || ::IsChild(box, focus));
         EXPECT_EQ(data.GetCount(), 0);
+    });
+}
+
+/// What a window is told of a pressed key, which it answers with a message of its own.
+class PressedKey : public CWnd {
+public:
+    static constexpr UINT kAnswer = WM_APP + 7;
+    PressedKey() {
+        CreateEx(0, AfxRegisterWndClass(0), L"chooser", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
+    }
+    ~PressedKey() override { DestroyWindow(); }
+    std::vector<UINT> heard;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_KEYDOWN) PostMessage(kAnswer);
+        if (message == WM_KEYDOWN || message == WM_CHAR || message == kAnswer) heard.push_back(message);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(FileDialogCommands, AKeyThatWaitsWhileTheFolderIsShownHasItsLetterFirst) {
+    finding.answer = true;
+    finding.foundFolder = (folder + L"second").GetString();
+    finding.foundFile = L"pattern.pat";
+    look([&](HWND window) {
+        PressedKey other;
+        other.PostMessage(WM_KEYDOWN, 'A', 0x001E0001);
+        click(window, 57012);
+        EXPECT_EQ(other.heard, (std::vector<UINT>{WM_KEYDOWN, WM_CHAR, PressedKey::kAnswer}));
+        EXPECT_EQ(typed(window), L"pattern.pat");
     });
 }
 

@@ -230,6 +230,40 @@ TEST_F(FileDialogFolders, TheItemWithTheFocusIsUnmarkedForIt) {
     ::RemoveDirectoryW(folder + L"templates\\inner");
 }
 
+TEST_F(FileDialogFolders, OtherItemsStayMarkedForIt) {
+    ::CreateDirectoryW(folder + L"another", nullptr);
+    const SystemOfMajor system(5);
+    look([&](HWND window) {
+        const auto mark = [&](int row, UINT state) {
+            LVITEMW item = {};
+            item.state = state;
+            item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+            ::SendMessageW(fileList(window), LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                           reinterpret_cast<LPARAM>(&item));
+        };
+        const auto marked = [&] {
+            std::vector<int> rows;
+            for (LRESULT row = -1; (row = ::SendMessageW(fileList(window), LVM_GETNEXTITEM,
+                                                         static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0;)
+                rows.push_back(static_cast<int>(row));
+            return rows;
+        };
+        ASSERT_GE(::SendMessageW(fileList(window), LVM_GETITEMCOUNT, 0, 0), 2);
+        mark(-1, 0);
+        mark(1, LVIS_SELECTED);
+        ASSERT_EQ(::SendMessageW(fileList(window), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED),
+                  -1);
+        notify(window, kFolderChange);
+        notify(window, kNameChange);
+        EXPECT_EQ(marked(), std::vector<int>{1}) << "none has the focus";
+        mark(0, LVIS_FOCUSED);
+        notify(window, kFolderChange);
+        notify(window, kNameChange);
+        EXPECT_EQ(marked(), std::vector<int>{1}) << "another has the focus";
+    });
+    ::RemoveDirectoryW(folder + L"another");
+}
+
 TEST_F(FileDialogFolders, InADialogForFilesNoFolderIsEntered) {
     dialog.SetFoldersOnly(0);
     look([&](HWND window) {

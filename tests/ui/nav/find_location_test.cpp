@@ -276,6 +276,7 @@ TEST_F(FindLocationTest, ABrowsedFolderIsAddedAndSelected) {
 struct Tip {
     std::wstring text;  ///< empty for none
     CRect place;        ///< on the screen
+    HWND window = nullptr;
 };
 
 Tip shownTipWithPlace() {
@@ -292,9 +293,10 @@ Tip shownTipWithPlace() {
             if (::SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)) &&
                 (tool.uFlags & TTF_TRACK))
                 reinterpret_cast<Tip*>(parameter)->text = text;
-            if (!reinterpret_cast<Tip*>(parameter)->text.empty())
-                ::GetWindowRect(window, &reinterpret_cast<Tip*>(parameter)->place);
-            return reinterpret_cast<Tip*>(parameter)->text.empty();
+            if (reinterpret_cast<Tip*>(parameter)->text.empty()) return TRUE;
+            ::GetWindowRect(window, &reinterpret_cast<Tip*>(parameter)->place);
+            reinterpret_cast<Tip*>(parameter)->window = window;
+            return FALSE;
         },
         reinterpret_cast<LPARAM>(&shown));
     return shown;
@@ -442,6 +444,66 @@ TEST_F(FindLocationTest, ARowWiderThanTheListIsToldInATip) {
         ::SendMessageW(rowList, LB_SETCURSEL, 0, 0);
         ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, 2));
         EXPECT_EQ(shownTip(), L"");
+        cancel();
+    });
+}
+
+/// The rows that the location box drops.
+HWND droppedRows(HWND box) {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    ::GetComboBoxInfo(reinterpret_cast<HWND>(::SendMessageW(box, CBEM_GETCOMBOCONTROL, 0, 0)), &info);
+    return info.hwndList;
+}
+
+TEST_F(FindLocationTest, TheTipOfARowStandsOverItsTextAndIsMadeOnce) {
+    makeFolder(CString(L'w', 100));
+    const CString wide = root + CString(L'w', 100);
+    startFolder = wide;
+    run([&] {
+        const HWND rowList = droppedRows(item(IDC_FIND_LOCATION));
+        // Well below the edge of the screen, so that its own places are others than the screen's.
+        ::SetWindowPos(rowList, nullptr, 0, 150, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        const WPARAM last = locations().size() - 1;
+        ::SendMessageW(rowList, LB_SETCURSEL, last, 0);
+        CRect row;
+        ::SendMessageW(rowList, LB_GETITEMRECT, last, reinterpret_cast<LPARAM>(&row));
+        ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(30, row.top + 2));
+        const Tip tip = shownTipWithPlace();
+        EXPECT_EQ(tip.text, wide.GetString());
+        CRect onScreen = row;
+        ::MapWindowPoints(rowList, nullptr, reinterpret_cast<POINT*>(&onScreen), 2);
+        EXPECT_GT(onScreen.top, 150);
+        EXPECT_LE(std::abs(tip.place.top - onScreen.top), kTipMargin);
+        ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(31, row.top + 2));
+        EXPECT_EQ(shownTipWithPlace().window, tip.window);
+        ::SendMessageW(rowList, WM_MOUSELEAVE, 0, 0);
+        EXPECT_EQ(shownTip(), L"");
+        ::SendMessageW(rowList, WM_MOUSEMOVE, 0, MAKELPARAM(32, row.top + 2));
+        EXPECT_EQ(shownTipWithPlace().window, tip.window) << "hidden, it waits to be shown again";
+        cancel();
+    });
+}
+
+TEST_F(FindLocationTest, TheTipOfTheBoxIsMadeOnce) {
+    makeFolder(CString(L'w', 100));
+    startFolder = root + CString(L'w', 100);
+    run([&] {
+        const HWND box = item(IDC_FIND_LOCATION);
+        const HWND edit = reinterpret_cast<HWND>(::SendMessageW(box, CBEM_GETEDITCONTROL, 0, 0));
+        const auto tipAt = [&](int x) {
+            ::SetFocus(list());
+            ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(x, 5));
+            ui_test::pump();
+            return shownTipWithPlace().window;
+        };
+        const HWND tip = tipAt(5);
+        EXPECT_NE(tip, nullptr);
+        EXPECT_EQ(tipAt(6), tip);
+        ::SetFocus(edit);
+        ::PostMessageW(edit, WM_MOUSEMOVE, 0, MAKELPARAM(7, 5));
+        EXPECT_TRUE(ui_test::pump_until([] { return shownTip().empty(); }));
+        EXPECT_EQ(tipAt(8), tip) << "hidden, it waits to be shown again";
         cancel();
     });
 }

@@ -211,6 +211,24 @@ TEST_F(PlaceListPaint, TheGroundHasOneColourBesideAndBeneathTheRows) {
         for (int x = 0; x < picture.width(); x += 7) EXPECT_EQ(picture.at(x, y), kGround) << x << " " << y;
 }
 
+TEST_F(PlaceListPaint, TheSystemIsGivenOneBrushOfTheGround) {
+    openWith({L"one"});
+    CClientDC dc(list.get());
+    const auto brushFor = [&] {
+        dc.SetBkColor(RGB(1, 2, 3));
+        return list->GetParent()->SendMessage(WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                              reinterpret_cast<LPARAM>(list->m_hWnd));
+    };
+    const LRESULT brush = brushFor();
+    LOGBRUSH ground = {};
+    ASSERT_NE(::GetObjectW(reinterpret_cast<HBRUSH>(brush), sizeof ground, &ground), 0);
+    EXPECT_EQ(ground.lbStyle, static_cast<UINT>(BS_SOLID));
+    EXPECT_EQ(ground.lbColor, kGround);
+    EXPECT_EQ(dc.GetBkColor(), kGround);
+    EXPECT_EQ(brushFor(), brush);
+    EXPECT_EQ(dc.GetBkColor(), kGround);
+}
+
 TEST_F(PlaceListPaint, ErasingFillsAllOfIt) {
     openWith({L"one"});
     CRect client;

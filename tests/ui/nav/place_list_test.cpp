@@ -51,6 +51,29 @@ TEST_F(PlaceListTest, TheStandardFoldersAreTheShells) {
     EXPECT_EQ(list->RecentFolder(), L"C:\\recent files");
 }
 
+/// The shell's caption of a folder, whose identifier list it frees.
+std::wstring captionAndFree(LPITEMIDLIST folder) {
+    SHFILEINFOW info = {};
+    ::SHGetFileInfoW(reinterpret_cast<LPCWSTR>(folder), 0, &info, sizeof info,
+                     SHGFI_PIDL | SHGFI_DISPLAYNAME);
+    ::CoTaskMemFree(folder);
+    return info.szDisplayName;
+}
+
+TEST_F(PlaceListTest, EachStandardFolderIsThatOfTheShellByPlaceAndCaption) {
+    open();
+    const int folders[] = {CSIDL_PERSONAL, CSIDL_FAVORITES, CSIDL_DESKTOP, CSIDL_NETWORK};
+    for (int row = 1; row <= 4; ++row) {
+        LPITEMIDLIST wanted = nullptr, there = nullptr;
+        ASSERT_EQ(::SHGetSpecialFolderLocation(nullptr, folders[row - 1], &wanted), S_OK);
+        ASSERT_EQ(::SHParseDisplayName(path(row).c_str(), nullptr, &there, 0, nullptr), S_OK) << row;
+        const std::wstring caption = captionAndFree(wanted);
+        EXPECT_NE(caption, L"") << row;
+        EXPECT_EQ(item(row).m_display, caption.c_str()) << row;
+        EXPECT_EQ(captionAndFree(there), caption) << row;
+    }
+}
+
 TEST_F(PlaceListTest, TheRecentFolderIsNamedInTheUsersLanguage) {
     const ui_test::InLanguage chinese(ui_test::kChinese);
     open();
