@@ -1,4 +1,5 @@
 // What the platform's file dialog is given by a navigation dialog.
+#include <ktui/nav/never_blocked.h>
 #include <shlobj.h>
 
 #include "nav_fixture.h"
@@ -300,6 +301,14 @@ TEST_F(NavStart, TheNameOfTheDialogsDataIsThatOfItsTemplateInTheResourceLibrary)
     CString name;
     fresh.GetDialogName(name);
     EXPECT_EQ(name, L"KTDSRES.DLL-ABC-0");
+}
+
+TEST_F(NavStart, WhereNothingMayBlockAFolderThatAnswersIsBegunWith) {
+    KtUiSetNeverBlocked(10000);
+    plain.SetForceInitialFolder(L"C:\\windows");
+    plain.DoModal();
+    EXPECT_EQ(given.folder, L"C:\\windows");
+    KtUiSetNeverBlocked(0);
 }
 
 TEST_F(NavStart, EachRunHasAFileDialogOfItsOwn) {
