@@ -13,9 +13,7 @@ std::vector<CString> LayoutStore::names() const {
     const CKbUiRegistryAccess key(HKEY_CURRENT_USER, m_key);
     std::vector<CString> names;
     for (DWORD index = 0; key.IsOpen(); ++index) {
-        constexpr int kBuffer = 256;  // characters that EnumValueNames needs
         CString name;
-        name.GetBuffer(kBuffer);
         DWORD type = REG_NONE;
         if (!key.EnumValueNames(index, name, &type)) break;
         if (type == REG_SZ && !name.IsEmpty()) names.push_back(name);

@@ -277,6 +277,17 @@ TEST_F(PaletteLayouts, ADockedPaneFloatsWhereItFloatedThen) {
     EXPECT_EQ(textOf(placeOf(*bars[0]->GetParentMiniFrame())), textOf(place));
 }
 
+TEST_F(PaletteLayouts, APaneThatHadNotFloatedThenFloatsWhereItDidSince) {
+    fillFrame(1);
+    bars[0]->m_recentDockInfo.m_rectRecentFloatingRect.SetRectEmpty();
+    ASSERT_TRUE(layouts.Save(L"before"));
+    const CRect place(210, 220, 370, 390);
+    ASSERT_TRUE(bars[0]->FloatPane(place));
+    frame->DockPane(bars[0].get());
+    ASSERT_TRUE(layouts.Apply(L"before"));
+    EXPECT_EQ(textOf(CRect(bars[0]->m_recentDockInfo.m_rectRecentFloatingRect)), textOf(place));
+}
+
 TEST_F(PaletteLayouts, TabsThatHideGoOnHidingWithoutTheFirst) {
     fillFrame(3);
     for (std::size_t i = 1; i < 3; ++i)

@@ -29,7 +29,11 @@ TEST_F(MiniFrame, IsAToolWindowThatBelongsToItsParent) {
     EXPECT_EQ(mini.GetTitle(), L"small");
     wchar_t name[100] = L"";
     ::GetClassNameW(mini.m_hWnd, name, 100);
-    EXPECT_NE(::GetClassLongPtrW(mini.m_hWnd, GCL_STYLE) & CS_DBLCLKS, 0U) << CStringA(name);
+    EXPECT_EQ(::GetClassLongPtrW(mini.m_hWnd, GCL_STYLE),
+              static_cast<ULONG_PTR>(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW))
+        << CStringA(name);
+    EXPECT_EQ(reinterpret_cast<HCURSOR>(::GetClassLongPtrW(mini.m_hWnd, GCLP_HCURSOR)),
+              ::LoadCursorW(nullptr, IDC_ARROW));
 }
 
 TEST_F(MiniFrame, ItsEdgesSizeItMoveItOrNeither) {

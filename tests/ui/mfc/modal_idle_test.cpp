@@ -256,6 +256,42 @@ TEST_F(ModalIdle, TemplatesComeFromMemoryToo) {
     fromBytes.DestroyWindow();
 }
 
+TEST_F(ModalIdle, TemplatesMayLieInMemoryThatMoves) {
+    const auto words = edit_template(0, 0);
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, words.size() * sizeof(words[0]));
+    memcpy(::GlobalLock(memory), words.data(), words.size() * sizeof(words[0]));
+    ::GlobalUnlock(memory);
+    CDialog modeless;
+    ASSERT_TRUE(modeless.CreateIndirect(memory, &owner));
+    EXPECT_NE(modeless.GetDlgItem(1001), nullptr);
+    EXPECT_EQ(::GlobalFlags(memory) & GMEM_LOCKCOUNT, 0U) << "it may move again";
+    modeless.DestroyWindow();
+    class Held : public CDialog {
+    public:
+        HGLOBAL memory = nullptr;
+        UINT locks = 0;
+
+    protected:
+        BOOL OnInitDialog() override {
+            CDialog::OnInitDialog();
+            locks = ::GlobalFlags(memory) & GMEM_LOCKCOUNT;
+            EndDialog(GetDlgItem(1001) != nullptr ? 6 : 7);
+            return TRUE;
+        }
+    };
+    Held modal;
+    modal.memory = memory;
+    modal.InitModalIndirect(memory, &owner);
+    EXPECT_EQ(modal.DoModal(), 6);
+    EXPECT_EQ(modal.locks, 1U) << "it stays where it is for as long as the dialog";
+    EXPECT_EQ(::GlobalFlags(memory) & GMEM_LOCKCOUNT, 0U);
+    ::GlobalFree(memory);
+    CDialog none;
+    EXPECT_FALSE(none.CreateIndirect(static_cast<HGLOBAL>(nullptr), &owner));
+    none.InitModalIndirect(static_cast<HGLOBAL>(nullptr), &owner);
+    EXPECT_EQ(none.DoModal(), -1);
+}
+
 TEST_F(ModalIdle, WithoutAParentTheMainWindowOwnsADialog) {
     AfxGetApp()->m_pMainWnd = &owner;
     CDialog dialog;

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "opened_menu.h"
 #include "ui_test.h"
 
 namespace {
@@ -26,11 +27,6 @@ BEGIN_MESSAGE_MAP(Listener, CWnd)
 END_MESSAGE_MAP()
 
 /// What is seen of a menu while it is open.
-struct Opened {
-    CString first;  ///< text of its first item
-    CRect place{0, 0, 0, 0};
-};
-
 class SplitButton : public ::testing::Test {
 protected:
     SplitButton() {
@@ -39,22 +35,9 @@ protected:
         own.AppendMenu(MF_STRING, 77, L"own entry");
     }
     /// Presses the arrow; closes the menu once it is seen.
-    Opened drop() {
-        Opened opened;
-        ui_test::when_window(
-            [](HWND window) {
-                wchar_t name[16] = {};
-                ::GetClassNameW(window, name, 16);
-                return wcscmp(name, L"#32768") == 0;
-            },
-            [&](HWND window) {
-                constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
-                const auto menu = reinterpret_cast<HMENU>(::SendMessageW(window, kGetMenu, 0, 0));
-                ::GetMenuStringW(menu, 0, opened.first.GetBufferSetLength(40), 40, MF_BYPOSITION);
-                opened.first.ReleaseBuffer();
-                ::GetWindowRect(window, &opened.place);
-                ::EndMenu();
-            });
+    ui_test::OpenedMenu drop() {
+        ui_test::OpenedMenu opened;
+        ui_test::read_next_menu(opened);
         NMBCDROPDOWN arrow = {};
         arrow.hdr = {button.m_hWnd, kButton, static_cast<UINT>(BCN_DROPDOWN)};
         button.GetClientRect(&arrow.rcButton);
@@ -78,7 +61,7 @@ TEST_F(SplitButton, ADefaultOneStaysOneAndOthersBecomePlain) {
 
 TEST_F(SplitButton, TheMenuDropsBelowItAndTheParentHears) {
     button.SetDropDownMenu(&own);
-    const Opened opened = drop();
+    const ui_test::OpenedMenu opened = drop();
     EXPECT_EQ(opened.first, L"own entry");
     CRect place;
     button.GetWindowRect(&place);

@@ -15,6 +15,8 @@ class DocumentHolder;
 class DocumentTabs;
 }  // namespace kmfc::docking
 
+class CMDIChildWndEx;
+
 /// The main window of a program with several documents, with a docking manager.
 class KMFC_API CMDIFrameWndEx : public DockingFrame<CMDIFrameWnd> {
     DECLARE_DYNCREATE(CMDIFrameWndEx)
@@ -63,6 +65,19 @@ public:
     /// It has no window while there are no tabs.
     CMFCTabCtrl& GetMDITabs();
 
+    /// Keeps which documents are open, which is active, and in which groups they are, below the registry path
+    /// `lpszProfileName` (CWinAppEx::GetRegSectionPath), or the application's own for null. Call it before
+    /// the frame closes its documents. Documents without a name are left out, and how wide groups are isn't
+    /// kept. FALSE if the registry can't be written.
+    virtual BOOL SaveMDIState(LPCTSTR lpszProfileName);
+    /// Opens those documents again, by CreateDocumentWindow, and puts them into groups where the frame shows
+    /// groups. What can't be opened is left out. FALSE, and nothing is opened, if nothing was kept or it
+    /// isn't whole.
+    virtual BOOL LoadMDIState(LPCTSTR lpszProfileName);
+    /// Opens a document that SaveMDIState kept, whose name is what GetDocumentName answered then; `pObj` is
+    /// null. Null if it can't be opened, as here a file that isn't there.
+    virtual CMDIChildWndEx* CreateDocumentWindow(LPCTSTR lpcszDocName, CObject* pObj);
+
     void RecalcLayout(BOOL bNotify = TRUE) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
@@ -99,6 +114,10 @@ public:
     /// The tab's icon, which stays the window's; null for none.
     virtual HICON GetFrameIcon() const;
 
+    /// What SaveMDIState keeps of the document: its path; null or empty for one that isn't kept. `pObj`, if
+    /// not null, gets null. Good until the next call.
+    virtual LPCTSTR GetDocumentName(CObject** pObj);
+
     void ActivateFrame(int nCmdShow = -1) override;
     void OnUpdateFrameTitle(BOOL bAddToTitle) override;
     BOOL DestroyWindow() override;
@@ -113,4 +132,6 @@ protected:
 
 private:
     kmfc::docking::DocumentHolder* tabs() const;
+
+    CString m_documentName;
 };
