@@ -4,8 +4,8 @@
     tools/make_shape_fonts.py            writes them anew
     tools/make_shape_fonts.py --check    says whether the files are what this program makes
 
-Letters stand on a grid: each stroke is a row of points, x and y a digit each, strokes are parted by a bar. Small
-letters have the strokes of the capitals.
+Letters stand on a grid: each stroke is a row of points, x and y a digit each ("/" means -1, "." means -2), strokes
+are parted by a bar. Digits are of one width; other letters begin at their leftmost point and are followed by a gap.
 """
 import pathlib
 import struct
@@ -13,7 +13,7 @@ import sys
 
 TARGET = pathlib.Path(__file__).resolve().parent.parent / "samples" / "drafter" / "fonts"
 
-HEIGHT, DEPTH, ADVANCE = 6, 2, 6
+HEIGHT, DEPTH, ADVANCE, GAP, BLANK = 6, 2, 6, 2, 4
 
 LETTERS = {
     " ": "", "!": "26 22|21 20", '"': "16 14|36 34", "#": "10 16|30 36|02 42|04 44", "$": "45 36 16 05 04 13 33 42 41 30 10 01|27 2/",
@@ -33,7 +33,22 @@ LETTERS = {
     "Q": "10 01 05 16 36 45 41 30 10|22 40", "R": "00 06 36 45 44 33 03|23 40", "S": "45 36 16 05 04 13 33 42 41 30 10 01",
     "T": "06 46|26 20", "U": "06 01 10 30 41 46", "V": "06 20 46", "W": "06 00 23 40 46", "X": "00 46|06 40",
     "Y": "06 23 46|23 20", "Z": "06 46 00 40",
+    "a": "34 30|33 24 14 03 01 10 20 31", "b": "06 00|03 14 24 33 31 20 10 01", "c": "33 24 14 03 01 10 20 31",
+    "d": "36 30|33 24 14 03 01 10 20 31", "e": "02 32 33 24 14 03 01 10 20 31", "f": "36 26 15 10|04 34",
+    "g": "34 3/ 2. 1. 0/|33 24 14 03 01 10 20 31", "h": "06 00|03 14 24 33 30", "i": "14 10|15 16", "j": "14 1/ 0.|15 16",
+    "k": "06 00|01 34|12 30", "l": "06 01 10", "m": "04 00|03 14 23 20|23 34 43 40", "n": "04 00|03 14 24 33 30",
+    "o": "10 01 03 14 24 33 31 20 10", "p": "04 0.|03 14 24 33 31 20 10 01", "q": "34 3.|33 24 14 03 01 10 20 31",
+    "r": "04 00|03 14 24", "s": "33 24 14 03 12 22 31 20 10 01", "t": "16 11 20 30|04 34", "u": "04 01 10 20 31|34 30",
+    "v": "04 20 44", "w": "04 10 23 30 44", "x": "04 30|00 34", "y": "04 20|44 20 1.", "z": "04 34 00 30",
 }
+
+# By their numbers in Unicode.
+SIGNS = {
+    0xB0: "14 05 16 25 14", 0xB1: "26 22|04 44|01 41", 0xB2: "06 16 15 03 13", 0xB3: "06 16 05 14 03",
+    0x2205: "10 01 05 16 36 45 41 30 10|0/ 47",
+}
+# The numbers that fonts of few letters have for some of them.
+OWN_NUMBERS = {0xB0: 127, 0xB1: 128, 0x2205: 129}
 
 CHINESE = {
     "一": "03 83", "二": "15 75|01 81", "三": "07 87|14 74|01 81", "十": "04 84|48 40", "工": "17 77|47 41|01 81",
@@ -53,9 +68,9 @@ def strokes(text):
             yield [tuple(ord(c) - ord("0") for c in point) for point in stroke.split()]
 
 
-def outline(text, advance):
-    """The drawing codes of a letter: pen up 2, pen down 1, a move 8 with both distances, the end 0."""
-    code, at = bytearray(), (0, 0)
+def outline(text, advance, left=0):
+    """The drawing codes of a letter: pen up 2, pen down 1, a move 8 with both distances, the end 0. Column `left` is its first."""
+    code, at = bytearray(), (left, 0)
 
     def move(to):
         nonlocal at
@@ -70,14 +85,23 @@ def outline(text, advance):
         for point in points[1:]:
             move(point)
     code.append(2)
-    move((advance, 0))
+    move((left + advance, 0))
     code.append(0)
     return bytes(code)
 
 
-def letters():
-    table = {ord(c): outline(text, ADVANCE) for c, text in LETTERS.items()}
-    table.update({ord(c.lower()): table[ord(c)] for c in "ABCDEFGHIJKLMNOPQRSTUVWXYZ"})
+def letter(number, text):
+    """The drawing codes of a letter, moved to where letters begin."""
+    columns = [x for points in strokes(text) for x, _ in points]
+    if chr(number).isdigit() and number < 128 or number == 0x2205:
+        return outline(text, ADVANCE)
+    return outline(text, max(columns) - min(columns) + GAP, min(columns)) if columns else outline(text, BLANK)
+
+
+def letters(own_numbers):
+    """The letters by their numbers; `own_numbers` where some have others than those of Unicode."""
+    table = {ord(c): letter(ord(c), text) for c, text in LETTERS.items()}
+    table.update({own_numbers.get(n, n): letter(n, text) for n, text in SIGNS.items()})
     return sorted(table.items())
 
 
@@ -86,14 +110,16 @@ def header(layout):
 
 
 def shape_font(name):
-    records = [(0, name + b"\0" + bytes((HEIGHT, DEPTH, 0, 0)))] + [(c, b"\0" + body) for c, body in letters()]
+    records = [(0, name + b"\0" + bytes((HEIGHT, DEPTH, 0, 0)))]
+    records += [(c, b"\0" + body) for c, body in letters(OWN_NUMBERS)]
     out = header("shapes 1.0") + struct.pack("<HHH", records[0][0], records[-1][0], len(records))
     out += b"".join(struct.pack("<HH", c, len(body)) for c, body in records)
     return out + b"".join(body for _, body in records) + b"EOF"
 
 
 def unicode_font(name):
-    records = [(0, name + b"\0" + bytes((HEIGHT, DEPTH, 0, 0, 0, 0)))] + [(c, b"\0" + body) for c, body in letters()]
+    records = [(0, name + b"\0" + bytes((HEIGHT, DEPTH, 0, 0, 0, 0)))]
+    records += [(c, b"\0" + body) for c, body in letters({})]
     out = header("unifont 1.0") + struct.pack("<H", len(records))
     return out + b"".join(struct.pack("<HH", c, len(body)) + body for c, body in records)
 

@@ -140,7 +140,14 @@ bool EntityPen::writeStrokes(const PlacedText& text) const {
     path.style.dashes.clear();
     path.isLetters = true;
     m_work.add(std::move(path));
+    if (m_work.options().use == SceneUse::kPaper) noteStrokes(text, std::abs(across) * written.width);
     return true;
+}
+
+/// Notes what the strokes of a text that is `width` wide say.
+void EntityPen::noteStrokes(PlacedText text, double width) const {
+    text.fitWidth = width;
+    if (std::optional<SceneText> letters = lettersOf(text)) m_work.addStrokeText(std::move(*letters));
 }
 
 void EntityPen::text(const PlacedText& text) const {
@@ -167,12 +174,16 @@ void EntityPen::text(const PlacedText& text) const {
     }
 }
 
-/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
 void EntityPen::writeLetters(const PlacedText& text) const {
+    if (std::optional<SceneText> letters = lettersOf(text)) m_work.add(std::move(*letters));
+}
+
+/// Any mapping of a text is a turn, a slant, a width and a height, perhaps with the letters backwards.
+std::optional<SceneText> EntityPen::lettersOf(const PlacedText& text) const {
     const OdGePoint2d along = Flat(m_level.place.turned(text.along)) * text.widthFactor;
     const OdGePoint2d up = Flat(m_level.place.turned(text.up + text.along * std::tan(text.font.oblique)));
     const double width = Length(along);
-    if (!(width > 0) || !(text.height > 0)) return;
+    if (!(width > 0) || !(text.height > 0)) return std::nullopt;
     OdGePoint2d line = along * (1 / width);
     double above = Cross(line, up);
     SceneText item;
@@ -182,7 +193,7 @@ void EntityPen::writeLetters(const PlacedText& text) const {
         above = -above;
         item.widthFactor = -1;
     }
-    if (!(above > 0)) return;
+    if (!(above > 0)) return std::nullopt;
     item.text = text.text;
     item.position = onPlane(text.position);
     item.height = text.height * above;
@@ -195,5 +206,5 @@ void EntityPen::writeLetters(const PlacedText& text) const {
     item.font.oblique = std::atan2(Dot(line, up), above);
     item.style = m_look.style;
     item.entity = m_level.entity;
-    m_work.add(std::move(item));
+    return item;
 }

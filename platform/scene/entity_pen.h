@@ -2,6 +2,8 @@
 // which entity of the space it belongs. Internal to the module.
 #pragma once
 
+#include <optional>
+
 #include "geometry/space_transform.h"
 #include "rules/style_rules.h"
 #include "scene_work.h"
@@ -79,7 +81,9 @@ public:
 
 private:
     bool writeStrokes(const PlacedText& text) const;
+    std::optional<SceneText> lettersOf(const PlacedText& text) const;
     void writeLetters(const PlacedText& text) const;
+    void noteStrokes(PlacedText text, double width) const;
     ScenePath newPath() const;
     std::vector<OdGePoint2d> flattened(const std::vector<OdGePoint3d>& points) const;
     void addStroke(ScenePath path) const;

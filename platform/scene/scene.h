@@ -64,6 +64,8 @@ constexpr double kDescenderShare = 1.0 / 3;
 struct SceneFont {
     OdString family;  ///< of a TrueType font, where the style names it
     OdString file;
+    OdString bigFile =
+        {};  ///< of the shape font that has the letters of East Asian code pages; empty for none
     bool bold = false;
     bool italic = false;
     double oblique = 0;  ///< slant in radians, to the right above 0
@@ -131,12 +133,15 @@ struct KTSCENE_API SceneExtents {
 struct KTSCENE_API Scene {
     std::vector<ScenePath> paths;
     std::vector<SceneText> texts;
+    /// On paper, the texts whose strokes are among the paths: not to be drawn, but found and copied. Each is
+    /// as wide as its strokes (SceneText::fitWidth).
+    std::vector<SceneText> strokeTexts;
     std::vector<SceneImage> images;
     std::vector<SceneClip> clips;
     bool showsLineWeights = true;  ///< whether lines are drawn with their weights, or all thin
     /// How many entities of which kind (names as in a file) have no look here.
     std::map<std::string, int> notDrawn;
-    /// Shape fonts that were asked for and not found, whose texts a screen font stands for.
+    /// Shape fonts that were asked for and not found, for which another font stands.
     std::set<std::wstring> missingFonts;
     /// Whether the building ended before everything was drawn: at the work limit, or because it was stopped.
     bool isCut = false;

@@ -43,6 +43,8 @@ struct SceneOptions {
     SceneTextWidth textWidth = {};
     /// Without one, shapes aren't drawn.
     SceneShapeFile shapeFile = {};
+    /// The shape font whose strokes stand for those of one that isn't there; without it a screen font does.
+    OdString shapeFontInPlace = {};
     /// Without one, pictures are frames with the names of their files.
     ScenePictureFile picture = {};
     /// When this much work is done (about one for each point, 40 for each path, text and entity), building

@@ -15,6 +15,15 @@ bool isDrawable(const OdGePoint2d& point) {
     return std::abs(point.x) < kFarthest && std::abs(point.y) < kFarthest;
 }
 
+bool isWhole(const SceneText& text) {
+    return !text.text.isEmpty() && isDrawable(text.position) && std::isfinite(text.widthFactor) &&
+           text.height > 0 && isDrawable({text.height, 0});
+}
+
+std::size_t costOf(const SceneText& text) {
+    return kPieceCost + static_cast<std::size_t>(text.text.length());
+}
+
 }  // namespace
 
 SceneWork::SceneWork(OdDbDatabase& drawing, const SceneOptions& options)
@@ -56,13 +65,16 @@ void SceneWork::add(ScenePath path) {
 }
 
 void SceneWork::add(SceneText text) {
-    const bool isWhole = isDrawable(text.position) && std::isfinite(text.widthFactor) && text.height > 0 &&
-                         isDrawable({text.height, 0});
-    if (text.text.isEmpty() || !isWhole || !spend(kPieceCost + static_cast<std::size_t>(text.text.length())))
-        return;
+    if (!isWhole(text) || !spend(costOf(text))) return;
     text.clip = m_clip;
     text.pathsBelow = m_scene.paths.size();
     m_scene.texts.push_back(std::move(text));
+}
+
+void SceneWork::addStrokeText(SceneText text) {
+    if (!isWhole(text) || !spend(costOf(text))) return;
+    text.clip = m_clip;
+    m_scene.strokeTexts.push_back(std::move(text));
 }
 
 void SceneWork::add(SceneImage image) {

@@ -5,6 +5,8 @@
 #include <set>
 #include <vector>
 
+#include <od_code_pages.h>
+
 #include "pictures/picture_files.h"
 #include "rules/line_pattern.h"
 #include "scene_options.h"
@@ -36,6 +38,8 @@ public:
 
     void add(ScenePath path);
     void add(SceneText text);
+    /// Notes a text whose strokes were added.
+    void addStrokeText(SceneText text);
     void add(SceneImage image);
     /// A line without end: from `base` along `direction`, and backwards too for `bothWays`.
     void addEndless(ScenePath path, const OdGePoint2d& base, const OdGePoint2d& direction, bool bothWays);
@@ -67,7 +71,7 @@ private:
     SceneOptions m_options;
     LinePatterns m_patterns;
     ShapeFiles m_shapes;
-    StrokeFonts m_strokes{m_shapes};
+    StrokeFonts m_strokes{m_shapes, m_options.shapeFontInPlace, oddbCodePage(m_drawing)};
     PictureFiles m_pictures;
     Scene m_scene;
     std::vector<Endless> m_endless;

@@ -78,6 +78,8 @@ std::string bytesAt(const OdString& path) {
     return bytes;
 }
 
+OdString g_shapeFontInPlace;
+
 ScenePictureFile picturesOf(const OdDbDatabase& drawing, PictureReading reading) {
     const std::wstring_view path = drawing.getFilename().view();
     const std::size_t end = path.find_last_of(L"\\/");
@@ -101,16 +103,21 @@ std::vector<OdString> fontFilesOf(OdDbDatabase& drawing) {
     for (auto each = styles->newIterator(); !each->done(); each->step()) {
         OdDbSymbolTableRecordPtr record;
         each->getRecord(record);
-        files.push_back(static_cast<OdDbTextStyleTableRecord&>(*record).fileName());
+        const auto& style = static_cast<OdDbTextStyleTableRecord&>(*record);
+        for (const OdString& file : {style.fileName(), style.bigFontFileName()})
+            if (!file.isEmpty()) files.push_back(file);
     }
     return files;
 }
 
 }  // namespace
 
+void SetShapeFontInPlace(const OdString& file) { g_shapeFontInPlace = file; }
+
 SceneOptions ScreenSceneOptions() {
     SceneOptions options;
     options.shapeFile = [](const OdString& name) { return bytesAt(pathOfShapes(name)); };
+    options.shapeFontInPlace = g_shapeFontInPlace;
     options.textWidth = textWidths(&FamilyOf);
     return options;
 }
@@ -148,6 +155,7 @@ SceneFamily BackgroundFamilies(OdDbDatabase& drawing) {
 
 SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
     Answers paths;
+    if (!g_shapeFontInPlace.isEmpty()) paths[g_shapeFontInPlace] = pathOfShapes(g_shapeFontInPlace);
     for (const OdString& file : fontFilesOf(drawing)) {
         paths[file] = pathOfShapes(file);
         // Styles may leave the extension of a shape font out.
@@ -160,6 +168,7 @@ SceneOptions BackgroundSceneOptions(OdDbDatabase& drawing) {
     options.shapeFile = [paths = std::move(paths)](const OdString& name) {
         return bytesAt(answerFor(paths, name));
     };
+    options.shapeFontInPlace = g_shapeFontInPlace;
     options.picture = picturesOf(drawing, PictureReading::kAll);
     options.textWidth = textWidths(BackgroundFamilies(drawing));
     return options;

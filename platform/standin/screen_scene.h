@@ -8,6 +8,10 @@
 /// The family of the screen that a font's letters come from.
 using SceneFamily = std::function<OdString(const SceneFont& font)>;
 
+/// The file of the shape font that stands for one that isn't found, in every scene with options from here; at
+/// first none, and a screen font stands for it. For the thread of the user interface.
+STANDIN_API void SetShapeFontInPlace(const OdString& file);
+
 /// Options by which texts are as wide as TextFace shows them, and shapes come from the files that the host
 /// finds.
 STANDIN_API SceneOptions ScreenSceneOptions();

@@ -2,6 +2,7 @@
 
 #include <ktut.h>
 
+#include "screen_scene.h"
 #include "standin_facets.h"
 
 CStandinHost::CStandinHost(CWinApp& application) : m_facets(std::make_unique<StandinFacets>(application)) {
@@ -13,6 +14,7 @@ CStandinHost::CStandinHost(CWinApp& application) : m_facets(std::make_unique<Sta
 }
 
 CStandinHost::~CStandinHost() {
+    ::SetShapeFontInPlace({});
     CKhSystem::install(m_former);
     oddbSetHostApplicationServices(m_facets->formerServices);
 }
@@ -34,6 +36,10 @@ void CStandinHost::SetCurrentDocument(KtApDocument* document) {
 
 void CStandinHost::SetSupportDirectories(std::vector<CString> folders) {
     m_facets->runtime.setSupportFolders(std::move(folders));
+}
+
+void CStandinHost::SetShapeFontInPlace(const wchar_t* file) {
+    ::SetShapeFontInPlace(file != nullptr ? OdString(file) : OdString());
 }
 
 void CStandinHost::SetPathVariable(const wchar_t* name, const wchar_t* value) {

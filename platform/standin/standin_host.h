@@ -53,6 +53,9 @@ public:
     /// The file that remembers what was read from font files; null or empty for none. At first one in the
     /// user's local application data.
     void SetFontCacheFile(const wchar_t* path);
+    /// The shape font whose strokes stand for those of one that a drawing names and nobody finds: a path, or
+    /// a name that is looked for in the support directories. Null or empty, as at first, for a screen font.
+    void SetShapeFontInPlace(const wchar_t* file);
     /// Makes the font file `name`, which the user asked for, one of the fonts, wherever it is: a path, or a
     /// name that is looked for in the support directories and among the fonts. Answers its first style, owned
     /// by the font list; null if there is no such file or it is no font, with `message` the reason to show,

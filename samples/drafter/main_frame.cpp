@@ -257,6 +257,7 @@ void CMainFrame::useOptions(const DrafterOptions& options) {
     std::vector<CString> folders = FoldersOf(options.supportFolders);
     if (folders.empty()) folders = {folder + L"fonts", folder + L"support"};
     m_host.SetSupportDirectories(std::move(folders));
+    m_host.SetShapeFontInPlace(folder + L"fonts\\drafter.shx");
     m_host.SetPathVariable(L"PrinterStyleSheetDir",
                            options.styleSheets.IsEmpty() ? folder + L"Plot Styles" : options.styleSheets);
 }

@@ -7,6 +7,7 @@
 
 #include "ask_file.h"
 #include "resource.h"
+#include "text_sample.h"
 #include "unit_texts.h"
 
 namespace {
@@ -179,20 +180,9 @@ void CTextStyleDialog::KeepStyle(std::size_t index) {
 }
 
 void CTextStyleDialog::showSample() {
-    const TextStyleValues& style = m_styles[current()];
     CString words;
     words.LoadString(IDS_SAMPLE_TEXT);
-    SceneText text;
-    text.text = words.GetString();
-    text.height = 1;
-    text.widthFactor = style.width;
-    text.horizontal = 1;
-    text.vertical = 2;
-    text.font = {style.family, style.file, style.bold, style.italic, style.slant};
-    text.style.color.setColorIndex(OdCmColor::kForeground);
-    Scene scene;
-    scene.texts.push_back(std::move(text));
-    m_sample.SetScene(std::move(scene));
+    m_sample.SetScene(TextSample(m_styles[current()], words));
 }
 
 std::vector<const CKhFontStyle*> CTextStyleDialog::hostStyles() {

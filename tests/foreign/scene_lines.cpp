@@ -1,10 +1,12 @@
 // Draws model space of drawings and says what is drawn, as standard input asks: a line for each of the file
-// and, behind a tab, a kind that is left out (or nothing). Answers with "L" and the places of each line or
-// boundary, "T" and the letters of each text, and "end"; or "refused".
+// and, behind a tab, a kind that is left out (or nothing, or "-" for an answer without places). Answers with
+// "L" and the places of each line or boundary, "T" and the letters of each text, and "end"; or "refused".
+// With a shape font as its argument texts are in the strokes of that.
 #include <scene_options.h>
 
 #include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <iostream>
 #include <string>
 
@@ -29,7 +31,7 @@ void say(const ScenePath& path) {
     }
 }
 
-void say(const std::string& path, const std::string& kind) {
+void say(const std::string& path, const std::string& kind, const std::string& font) {
     OdDbDatabasePtr drawing(new OdDbDatabase);
     if (drawing->readDxf(odWide(path).c_str()) != kOdOk) {
         std::printf("refused\n");
@@ -37,19 +39,28 @@ void say(const std::string& path, const std::string& kind) {
     }
     for (OdDbEntity* entity : drawing->modelSpaceId().open<OdDbBlockTableRecord>(OdDb::kForWrite)->entities())
         if (kind == entity->dxfName()) entity->erase();
-    const Scene scene = BuildScene(*drawing, drawing->modelSpaceId());
-    for (const ScenePath& each : scene.paths)
-        if (!each.isEndless) say(each);
-    for (const SceneText& text : scene.texts) std::printf("T %s\n", odUtf8(text.text.view()).c_str());
+    SceneOptions options;
+    if (!font.empty()) options.shapeFile = [&font](const OdString&) { return font; };
+    const Scene scene = BuildScene(*drawing, drawing->modelSpaceId(), options);
+    if (kind != "-") {
+        for (const ScenePath& each : scene.paths)
+            if (!each.isEndless) say(each);
+        for (const SceneText& text : scene.texts) std::printf("T %s\n", odUtf8(text.text.view()).c_str());
+    }
     std::printf("end\n");
 }
 
 }  // namespace
 
-int main() {
+int main(int count, char** arguments) {
+    std::string font;
+    if (count > 1) {
+        std::ifstream file(arguments[1], std::ios::binary);
+        font.assign(std::istreambuf_iterator<char>(file), {});
+    }
     for (std::string line; std::getline(std::cin, line);) {
         const std::size_t tab = std::min(line.find('\t'), line.size());
-        say(line.substr(0, tab), tab < line.size() ? line.substr(tab + 1) : "");
+        say(line.substr(0, tab), tab < line.size() ? line.substr(tab + 1) : "", font);
         std::fflush(stdout);
     }
     return 0;

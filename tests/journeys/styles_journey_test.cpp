@@ -169,8 +169,8 @@ TEST_F(Styles, ATextStylesSizesAreEditedMarkedAndStored) {
     EXPECT_EQ(style->textSize(), 2.25);
     EXPECT_EQ(style->xScale(), 0.8);
     EXPECT_NEAR(style->obliquingAngle(), -12 * 3.14159265358979 / 180, 1e-9);
-    EXPECT_EQ(style->fileName(), L"romans.shx") << "a font that was not picked stays";
-    EXPECT_EQ(style->bigFontFileName(), L"gbcbig.shx");
+    EXPECT_EQ(style->fileName(), L"drafter.shx") << "a font that was not picked stays";
+    EXPECT_EQ(style->bigFontFileName(), L"drafterc.shx");
     EXPECT_EQ(textStyle(*drawing, L"TITLES")->typeFace(), L"Arial");
     EXPECT_EQ(drawing->textstyle(), style->objectId());
 }

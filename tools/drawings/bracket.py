@@ -14,8 +14,8 @@ def make():
     d = Drawing("AC1018", LUNITS=2, LUPREC=2, AUNITS=0, AUPREC=1, MEASUREMENT=1, INSUNITS=4, LTSCALE=1.0, CLAYER="OUTLINE",
                 CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="Standard", PSTYLEMODE=1,
                 LWDISPLAY=1, TEXTSIZE=3.5, DIMTXT=2.5, DIMASZ=2.5)
-    d.style("Standard", "isocp.shx")
-    d.style("TITLE", "isocp.shx", 0, 0.9)
+    d.style("Standard", "drafter.shx")
+    d.style("TITLE", "drafter.shx", 0, 0.9)
     d.linetype("CENTER", "Center ____ _ ____ _ ____", 12, -2, 2, -2)
     d.linetype("HIDDEN", "Hidden __ __ __ __ __", 3, -1.5)
     d.linetype("PHANTOM", "Phantom ____ _ _ ____", 12, -2, 2, -2, 2, -2)

@@ -21,8 +21,8 @@ def make():
     d = Drawing("AC1015", LUNITS=4, LUPREC=4, AUNITS=1, AUPREC=2, MEASUREMENT=0, INSUNITS=1, LTSCALE=24.0, CLAYER="A-WALL",
                 CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="ARCHITECTURAL", PSTYLEMODE=1,
                 LWDISPLAY=1, TEXTSIZE=6.0, DIMTXT=5.0, DIMASZ=4.0)
-    d.style("Standard", "romans.shx")
-    d.style("ROOMS", "romand.shx")
+    d.style("Standard", "drafter.shx")
+    d.style("ROOMS", "drafteru.shx")
     d.style("TITLE", "tahoma.ttf", family="Tahoma")
     d.linetype("DASHED", "Dashed __ __ __ __", 0.5, -0.25)
     d.linetype("CENTER", "Center ____ _ ____ _", 1.25, -0.25, 0.25, -0.25)

@@ -11,9 +11,9 @@ def make():
     d = Drawing("AC1015", LUNITS=2, LUPREC=3, AUNITS=4, AUPREC=4, MEASUREMENT=1, INSUNITS=6, LTSCALE=1.0, CLAYER="C-SITE",
                 CELTYPE="ByLayer", CECOLOR=256, CELWEIGHT=-1, TEXTSTYLE="Standard", DIMSTYLE="SURVEY", PSTYLEMODE=0,
                 LWDISPLAY=1, TEXTSIZE=1.5, DIMTXT=1.2, DIMASZ=1.0)
-    d.style("Standard", "romans.shx")
+    d.style("Standard", "drafter.shx")
     d.style("TITLES", "arial.ttf", family="Arial")
-    d.style("NOTES", "romans.shx", big="gbcbig.shx", slant=10.0)
+    d.style("NOTES", "drafter.shx", big="drafterc.shx", slant=10.0)
     d.linetype("BOUNDARY", "Boundary ____ ____ . ____ ____ .", 3, -0.8, 3, -0.8, 0, -0.8)
     d.linetype("CENTER", "Center ____ _ ____ _", 3, -0.6, 0.6, -0.6)
     d.linetype("DASHED", "Dashed __ __ __", 1.2, -0.6)

@@ -68,6 +68,7 @@ SceneFont FontOfStyle(const OdDbObjectId& style) {
     if (!record) return font;
     font.family = record->typeFace();
     font.file = record->fileName();
+    font.bigFile = record->bigFontFileName();
     font.bold = record->isBold();
     font.italic = record->isItalic();
     return font;

@@ -94,14 +94,17 @@ void Reader::takeHeight(std::wstring_view value) {
     if (number > 0) format().height = isFactor ? format().height * number : number;
 }
 
-/// The name of a family or a file, then its cut and code page, parted by bars.
+/// The name of a family or a file, that of a big font behind a comma, then cut and code page, parted by bars.
 void Reader::takeFont(std::wstring_view value) {
     SceneFont& font = format().font;
-    const std::size_t end = value.find(L'|');
-    const OdString name(std::wstring(value.substr(0, end)));
-    const bool isFile = value.substr(0, end).find(L'.') != std::wstring_view::npos;
+    const std::wstring_view names = value.substr(0, value.find(L'|'));
+    const std::size_t comma = names.find(L',');
+    const OdString name(std::wstring(names.substr(0, comma)));
+    const bool hasBigFont = comma != std::wstring_view::npos;
+    const bool isFile = hasBigFont || names.find(L'.') != std::wstring_view::npos;
     font.family = isFile ? OdString() : name;
     font.file = isFile ? name : OdString();
+    font.bigFile = hasBigFont ? OdString(std::wstring(names.substr(comma + 1))) : OdString();
     font.bold = value.find(L"|b1") != std::wstring_view::npos;
     font.italic = value.find(L"|i1") != std::wstring_view::npos;
 }
@@ -296,8 +299,8 @@ std::vector<Paragraph> Reader::read() {
 
 bool operator==(const LetterFormat& a, const LetterFormat& b) {
     const auto sameFont = [](const SceneFont& x, const SceneFont& y) {
-        return x.family == y.family && x.file == y.file && x.bold == y.bold && x.italic == y.italic &&
-               x.oblique == y.oblique;
+        return x.family == y.family && x.file == y.file && x.bigFile == y.bigFile && x.bold == y.bold &&
+               x.italic == y.italic && x.oblique == y.oblique;
     };
     return a.height == b.height && a.widthFactor == b.widthFactor && a.spacing == b.spacing &&
            a.row == b.row && sameFont(a.font, b.font) && a.hasColor == b.hasColor && a.color == b.color &&

@@ -182,6 +182,20 @@ void LineBreaker::place() {
     m_block.width = step * static_cast<double>(count) - columns.gutter;
 }
 
+double heightOfStack(const ParagraphRun& run) {
+    return (run.stack == L'#' ? 2 : 2 * (1 + kStackGap)) * run.format.height;
+}
+
+/// How far the stacks of a line reach above its letters.
+double stacksAbove(const ParagraphLine& line) {
+    double above = 0;
+    for (const LinePiece& piece : line.pieces)
+        if (piece.run.stack != 0)
+            above =
+                std::max(above, Rise(piece.run, line.height) + heightOfStack(piece.run) / 2 - line.height);
+    return above;
+}
+
 ParagraphBlock LineBreaker::take() {
     const ParagraphColumns& columns = m_settings.columns;
     double down = 0;
@@ -190,7 +204,8 @@ ParagraphBlock LineBreaker::take() {
     for (ParagraphLine& line : m_block.lines) {
         if (line.height <= 0) line.height = m_settings.height;
         const double step = m_settings.isExact ? m_settings.height : line.height;
-        down = isFirst ? line.height : down + step * kBaseLineDistance * m_settings.spacing;
+        const double higher = m_settings.isExact ? 0 : stacksAbove(line);
+        down = isFirst ? line.height : down + step * kBaseLineDistance * m_settings.spacing + higher;
         const std::size_t column = m_block.columns.size() - 1;
         const double most = columns.heightOf(column);
         const bool isFull = line.beginsColumn || (most > 0 && down > most * (1 + kNear));
@@ -219,7 +234,7 @@ ParagraphBlock LineBreaker::take() {
 double Rise(const ParagraphRun& run, double lineHeight) {
     const double own = run.format.height;
     if (run.stack == 0) return (lineHeight - own) * run.format.row / 2;
-    const double stack = run.stack == L'#' ? 2 * own : 2 * (1 + kStackGap) * own;
+    const double stack = heightOfStack(run);
     return stack / 2 + (lineHeight - stack) * run.format.row / 2;
 }
 

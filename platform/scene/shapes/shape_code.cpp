@@ -26,7 +26,7 @@ int little16(const std::string& bytes, std::size_t at) {
 /// Follows the code of a shape with a pen.
 class Tracer {
 public:
-    explicit Tracer(const std::map<int, std::string>& codes) : m_codes(codes) {}
+    explicit Tracer(const ShapeCodes& codes) : m_codes(codes) {}
     void run(const std::string& code, int depth);
     ShapeLines take();
     /// Where the pen stands.
@@ -39,13 +39,16 @@ private:
     void fractionalArc(const std::string& code, std::size_t at);
     void bulge(int x, int y, int height);
     std::size_t special(unsigned byte, const std::string& code, std::size_t at, int depth);
+    std::size_t following(unsigned byte, const std::string& code, std::size_t at) const;
+    void within(const std::string& code, std::size_t at, int depth);
+    void part(const std::string& code, std::size_t at, int depth);
     void arc(double radius, double start, double sweep);
     void begin() {
         if (m_lines.empty() || !m_lines.back().empty()) m_lines.emplace_back();
     }
     void put(const OdGePoint2d& point);
 
-    const std::map<int, std::string>& m_codes;
+    const ShapeCodes& m_codes;
     ShapeLines m_lines;
     OdGePoint2d m_at;
     double m_scale = 1;
@@ -129,10 +132,51 @@ void Tracer::bulge(int x, int y, int height) {
     m_at = to;
 }
 
+/// How many bytes belong to a byte that is no vector.
+std::size_t Tracer::following(unsigned byte, const std::string& code, std::size_t at) const {
+    constexpr std::size_t kFollowing[] = {0, 0, 0, 1, 1, 0, 0, 1, 2, 0, 2, 5, 3, 0, 0, 0};
+    constexpr std::size_t kOfPart = 7, kOfWideNumber = 2;
+    if (byte != 7) return kFollowing[byte];
+    if (m_codes.hasParts && at < code.size() && code[at] == 0) return kOfPart;
+    return m_codes.hasWideNumbers ? kOfWideNumber : kFollowing[byte];
+}
+
+int big16(const std::string& bytes, std::size_t at) {
+    return static_cast<unsigned char>(bytes[at]) << 8 | static_cast<unsigned char>(bytes[at + 1]);
+}
+
+/// A shape within this one, by its number.
+void Tracer::within(const std::string& code, std::size_t at, int depth) {
+    if (m_codes.hasParts && code[at] == 0) return part(code, at + 1, depth);
+    const int number = m_codes.hasWideNumbers ? big16(code, at) : static_cast<unsigned char>(code[at]);
+    if (const auto inner = m_codes.shapes.find(number); inner != m_codes.shapes.end())
+        run(inner->second, depth + 1);
+}
+
+/// A part: its number in two bytes, where it stands beside the pen, and its width and height there. The pen
+/// stays.
+void Tracer::part(const std::string& code, std::size_t at, int depth) {
+    const auto inner = m_codes.shapes.find(big16(code, at));
+    if (inner == m_codes.shapes.end()) return;
+    Tracer drawn(m_codes);
+    drawn.m_count = m_count;
+    drawn.run(inner->second, depth + 1);
+    m_count = drawn.m_count;
+    const double x = static_cast<signed char>(code[at + 2]), y = static_cast<signed char>(code[at + 3]);
+    const double wide = static_cast<unsigned char>(code[at + 4]) / m_codes.partWidth;
+    const double high = static_cast<unsigned char>(code[at + 5]) / m_codes.partHeight;
+    for (std::vector<OdGePoint2d>& line : drawn.take()) {
+        for (OdGePoint2d& point : line)
+            point = m_at + OdGePoint2d{x + point.x * wide, y + point.y * high} * m_scale;
+        if (!m_lines.empty() && m_lines.back().empty()) m_lines.pop_back();
+        m_lines.push_back(std::move(line));
+    }
+    begin();
+}
+
 /// Takes a byte that is no vector, with what follows it; answers the place of the next one.
 std::size_t Tracer::special(unsigned byte, const std::string& code, std::size_t at, int depth) {
-    constexpr std::size_t kFollowing[] = {0, 0, 0, 1, 1, 0, 0, 1, 2, 0, 2, 5, 3, 0, 0, 0};
-    const std::size_t next = at + kFollowing[byte];
+    const std::size_t next = at + following(byte, code, at);
     if (next > code.size()) return code.size();
     const auto number = [&](std::size_t i) { return static_cast<signed char>(code[at + i]); };
     switch (byte) {
@@ -152,10 +196,7 @@ std::size_t Tracer::special(unsigned byte, const std::string& code, std::size_t 
             m_stack.pop_back();
             begin();
             break;
-        case 7:
-            if (const auto inner = m_codes.find(static_cast<unsigned char>(code[at])); inner != m_codes.end())
-                run(inner->second, depth + 1);
-            break;
+        case 7: within(code, at, depth); break;
         case 8: moveBy(number(0), number(1)); break;
         case 10: octantArc(static_cast<unsigned char>(code[at]), number(1)); break;
         case 11: fractionalArc(code, at); break;
@@ -193,8 +234,7 @@ void Tracer::run(const std::string& code, int depth) {
                 at += step;
             }
         } else if (skips) {
-            constexpr std::size_t kFollowing[] = {0, 0, 0, 1, 1, 0, 0, 1, 2, 0, 2, 5, 3, 0, 0, 0};
-            at += kFollowing[byte];
+            at += following(byte, code, at);
         } else {
             at = special(byte, code, at, depth);
         }
@@ -213,9 +253,12 @@ ShapeFile::ShapeFile(const std::string& bytes) {
     const std::size_t end = bytes.find('\x1A');
     if (end == std::string::npos) return;
     const std::string kind = lowered(bytes.substr(0, end));
-    m_isUnicode = kind.rfind("autocad-86 unifont", 0) == 0;
+    m_isUnicode = m_codes.hasWideNumbers = kind.rfind("autocad-86 unifont", 0) == 0;
+    m_isBig = m_codes.hasParts = kind.rfind("autocad-86 bigfont", 0) == 0;
     if (m_isUnicode)
         readUnicode(bytes, end + 1);
+    else if (m_isBig)
+        readBig(bytes, end + 1);
     else if (kind.rfind("autocad-86 shapes", 0) == 0)
         readIndexed(bytes, end + 1);
 }
@@ -246,17 +289,44 @@ void ShapeFile::readUnicode(const std::string& bytes, std::size_t at) {
     }
 }
 
+/// The length of an entry, the count of shapes, that of ranges of first bytes, and these; then for each shape
+/// its number, length and place in the file.
+void ShapeFile::readBig(const std::string& bytes, std::size_t at) {
+    constexpr std::size_t kRange = 4, kEntry = 8;
+    const int count = little16(bytes, at + 2), ranges = little16(bytes, at + 4);
+    if (count < 0 || ranges < 0) return;
+    at += 6 + static_cast<std::size_t>(ranges) * kRange;
+    for (int i = 0; i < count && at + kEntry <= bytes.size(); ++i, at += kEntry) {
+        const auto length = static_cast<std::size_t>(little16(bytes, at + 2));
+        const std::size_t place = static_cast<std::size_t>(little16(bytes, at + 4)) |
+                                  static_cast<std::size_t>(little16(bytes, at + 6)) << 16;
+        // Entries without a shape are left over.
+        if (length == 0 || place > bytes.size() || length > bytes.size() - place) continue;
+        take(little16(bytes, at), bytes.substr(place, length));
+    }
+}
+
+/// Takes what describes a font: the height of capitals, and in a big font with parts 0, the orientations, and
+/// the width of its letters.
+void ShapeFile::describe(const std::string& measures) {
+    const auto measure = [&](std::size_t i) {
+        return i < measures.size() ? static_cast<unsigned char>(measures[i]) : 0;
+    };
+    m_isFont = measure(0) != 0;
+    if (!m_isFont) return;
+    m_capitalHeight = m_codes.partWidth = m_codes.partHeight = measure(0);
+    if (measure(1) == 0 && measure(3) != 0) m_codes.partWidth = measure(3);
+}
+
 void ShapeFile::take(int number, const std::string& whole) {
     const std::size_t nameEnd = whole.find('\0');
     if (nameEnd == std::string::npos) return;
     if (number == 0) {
-        // A font is described in place of a shape: its height stands behind the name.
-        m_isFont = nameEnd + 1 < whole.size() && whole[nameEnd + 1] != 0;
-        if (m_isFont) m_capitalHeight = static_cast<unsigned char>(whole[nameEnd + 1]);
+        describe(whole.substr(nameEnd + 1));
         return;
     }
     m_numbers.emplace(lowered(whole.substr(0, nameEnd)), number);
-    m_codes.emplace(number, whole.substr(nameEnd + 1));
+    m_codes.shapes.emplace(number, whole.substr(nameEnd + 1));
 }
 
 int ShapeFile::numberOf(const std::string& name) const {
@@ -265,16 +335,16 @@ int ShapeFile::numberOf(const std::string& name) const {
 }
 
 ShapeLines ShapeFile::lines(int number) const {
-    const auto code = m_codes.find(number);
-    if (code == m_codes.end()) return {};
+    const auto code = m_codes.shapes.find(number);
+    if (code == m_codes.shapes.end()) return {};
     Tracer tracer(m_codes);
     tracer.run(code->second, 0);
     return tracer.take();
 }
 
 OdGePoint2d ShapeFile::end(int number) const {
-    const auto code = m_codes.find(number);
-    if (code == m_codes.end()) return {};
+    const auto code = m_codes.shapes.find(number);
+    if (code == m_codes.shapes.end()) return {};
     Tracer tracer(m_codes);
     tracer.run(code->second, 0);
     return tracer.place();

@@ -2,14 +2,17 @@
 
 #include <algorithm>
 
+#include <od_code_pages.h>
+
 #include "geometry/space_transform.h"
+#include "shapes/big_font_pages.h"
 
 namespace {
 
 /// The file of a shape font with its extension, which styles may leave out; empty for another font.
-OdString shapeFontFile(const SceneFont& font) {
-    if (!font.family.isEmpty() || font.file.isEmpty()) return {};
-    std::wstring name(font.file.view());
+OdString shapeFontFile(const OdString& file) {
+    if (file.isEmpty()) return {};
+    std::wstring name(file.view());
     const std::size_t dot = name.find_last_of(L"./\\");
     if (dot == std::wstring::npos || name[dot] != L'.') return OdString(name + L".shx");
     std::wstring extension = name.substr(dot);
@@ -41,13 +44,38 @@ int numberOf(const ShapeFile& file, wchar_t letter) {
 
 }  // namespace
 
-const ShapeFile* StrokeFonts::fileOf(const SceneFont& font) {
-    const OdString name = shapeFontFile(font);
-    if (name.isEmpty()) return nullptr;
+const ShapeFile* StrokeFonts::fontIn(const OdString& name, bool isBig) {
     const ShapeFile* const file = m_files.file(name);
-    if (file != nullptr && file->isFont()) return file;
+    return file != nullptr && file->isFont() && file->isBig() == isBig ? file : nullptr;
+}
+
+const ShapeFile* StrokeFonts::named(const OdString& file, bool isBig) {
+    const OdString name = shapeFontFile(file);
+    if (name.isEmpty()) return nullptr;
+    if (const ShapeFile* const found = fontIn(name, isBig)) return found;
     if (m_files.haveSource()) m_missing.emplace(name.view());
-    return nullptr;
+    return isBig ? nullptr : fontIn(m_inPlace, false);
+}
+
+const ShapeFile* StrokeFonts::fileOf(const SceneFont& font) {
+    return font.family.isEmpty() ? named(font.file, false) : nullptr;
+}
+
+/// A letter in a font, whose file is `file`, or else in its big font.
+StrokeFonts::Place StrokeFonts::find(const ShapeFile& file, const SceneFont& font, wchar_t letter) {
+    if (const int number = numberOf(file, letter); number != 0) return {&file, number};
+    const int number = letter < 0x80 || font.bigFile.isEmpty() ? 0 : numberInBigFont(font.bigFile, letter);
+    if (number == 0) return {};
+    const ShapeFile* const big = named(font.bigFile, true);
+    return big != nullptr && big->has(number) ? Place{big, number} : Place{};
+}
+
+/// The two bytes of a character, the first the higher one; 0 if it hasn't two.
+int StrokeFonts::numberInBigFont(const OdString& file, wchar_t letter) const {
+    const int page = IsEastAsian(m_codePage) ? m_codePage : CodePageOfBigFont(file.view());
+    std::string bytes;
+    if (page == 0 || !odBytesOfCharacter(page, {&letter, 1}, bytes) || bytes.size() != 2) return 0;
+    return static_cast<unsigned char>(bytes[0]) << 8 | static_cast<unsigned char>(bytes[1]);
 }
 
 const StrokeFonts::Letter& StrokeFonts::letter(const ShapeFile& file, int number) {
@@ -68,21 +96,25 @@ template <class Use>
 bool StrokeFonts::eachLetter(const SceneFont& font, std::wstring_view text, Use use) {
     const ShapeFile* const file = fileOf(font);
     if (file == nullptr) return false;
-    const bool isWhole =
-        std::all_of(text.begin(), text.end(), [file](wchar_t each) { return numberOf(*file, each) != 0; });
-    if (!isWhole) return false;
-    for (const wchar_t each : text) use(letter(*file, numberOf(*file, each)));
+    std::vector<Place> places;
+    places.reserve(text.size());
+    for (const wchar_t each : text) {
+        places.push_back(find(*file, font, each));
+        if (places.back().file == nullptr) return false;
+    }
+    for (const Place& place : places) use(letter(*place.file, place.number));
     return true;
 }
 
 std::vector<StrokeFonts::Run> StrokeFonts::runs(const SceneFont& font, std::wstring_view text) {
     const ShapeFile* const file = fileOf(font);
     if (file == nullptr) return {{text, false}};
+    const auto isWritten = [&](wchar_t each) { return find(*file, font, each).file != nullptr; };
     std::vector<Run> found;
     for (std::size_t begin = 0, end = 0; begin < text.size(); begin = end) {
-        const bool isWritten = numberOf(*file, text[begin]) != 0;
-        while (end < text.size() && (numberOf(*file, text[end]) != 0) == isWritten) ++end;
-        found.push_back({text.substr(begin, end - begin), isWritten});
+        const bool first = isWritten(text[begin]);
+        while (end < text.size() && isWritten(text[end]) == first) ++end;
+        found.push_back({text.substr(begin, end - begin), first});
     }
     return found;
 }

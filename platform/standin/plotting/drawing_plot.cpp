@@ -55,10 +55,8 @@ SceneExtents ModelExtents(OdDbDatabase& drawing, std::stop_token stop) {
 }
 
 Scene DrawingPlot::scene(const OdDbObjectId& block) {
-    SceneOptions options;
+    SceneOptions options = m_files;
     options.use = SceneUse::kPaper;
-    options.shapeFile = m_shapes;
-    options.picture = m_pictures;
     PlotTextWidths widths(m_faces);
     options.textWidth = [&widths](const SceneFont& font, std::wstring_view text) {
         return widths.of(font, text);

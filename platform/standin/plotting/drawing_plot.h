@@ -26,11 +26,12 @@ public:
     DrawingPlot(OdDbDatabase& drawing, PlotFaces faces, const PlotLook& look)
         : m_drawing(drawing), m_faces(std::move(faces)), m_look(look) {}
 
-    /// Where pages take shapes and pictures from; without it shapes are missing, and of pictures the frames
-    /// are drawn.
-    void setFiles(SceneShapeFile shapes, ScenePictureFile pictures) {
-        m_shapes = std::move(shapes);
-        m_pictures = std::move(pictures);
+    /// Where pages take shapes, shape fonts and pictures from: of `files` nothing else counts. Without it
+    /// shapes are missing, texts are in the letters of `faces`, and of pictures the frames are drawn.
+    void setFiles(const SceneOptions& files) {
+        m_files.shapeFile = files.shapeFile;
+        m_files.shapeFontInPlace = files.shapeFontInPlace;
+        m_files.picture = files.picture;
     }
 
     /// Once `stop` is asked for, pages end where they are. `percent`, if not null, is how far the page at
@@ -58,8 +59,7 @@ private:
 
     OdDbDatabase& m_drawing;
     PlotFaces m_faces;
-    SceneShapeFile m_shapes;
-    ScenePictureFile m_pictures;
+    SceneOptions m_files;
     PlotLook m_look;
     PdfWriter m_file;
     PdfPage* m_last = nullptr;

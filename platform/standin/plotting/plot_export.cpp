@@ -99,9 +99,8 @@ DrawingExport::DrawingExport(OdDbDatabase& drawing, const ExportRequest& request
       m_isOneFile(getExportOption(kExportMultiSheet) != 0) {
     m_look.layers = getExportOption(kExportLayers) != 0;
     m_look.merges = getExportOption(kExportMerge) != 0;
-    SceneOptions found = BackgroundSceneOptions(drawing);
-    m_shapes = std::move(found.shapeFile);
-    m_pictures = std::move(found.picture);
+    m_files = BackgroundSceneOptions(drawing);
+    m_files.textWidth = {};
 }
 
 void DrawingExport::write(std::stop_token stop) {
@@ -174,7 +173,7 @@ UINT DrawingExport::writeLayouts(const std::vector<OdDbLayoutPtr>& layouts, bool
 
 DrawingPlot DrawingExport::start(const std::stop_token& stop) {
     DrawingPlot plot(m_drawing, m_faces, m_look);
-    plot.setFiles(m_shapes, m_pictures);
+    plot.setFiles(m_files);
     plot.setProgress(stop, &m_percent);
     return plot;
 }

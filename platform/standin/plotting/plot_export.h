@@ -59,8 +59,7 @@ private:
     OdDbDatabase& m_drawing;
     ExportRequest m_request;
     CString m_path;
-    SceneShapeFile m_shapes;
-    ScenePictureFile m_pictures;
+    SceneOptions m_files;
     SceneFamily m_family;
     PlotFaces m_faces;
     PlotLook m_look;

@@ -25,6 +25,12 @@ bool hasDot(const ScenePath& path) {
     return false;
 }
 
+/// Letters without an outline: they show nothing, and are found and copied where strokes are drawn.
+PlotFace UnseenFace() {
+    constexpr double kAdvance = 600;
+    return {"strokes", [](char32_t) { return Glyph{kAdvance, {}}; }};
+}
+
 /// Draws the pieces of one scene.
 class Plotter {
 public:
@@ -36,7 +42,8 @@ public:
 
 private:
     void draw(const ScenePath& path);
-    void draw(const SceneText& text);
+    void draw(const SceneText& text) { write(text, m_faces(text.font)); }
+    void write(const SceneText& text, const PlotFace& face);
     void draw(const SceneImage& image);
     void seeThrough(const Scene& scene, int clip);
     PdfPoint at(const OdGePoint2d& p) const { return pointOf(m_place.apply(p)); }
@@ -80,6 +87,10 @@ void Plotter::draw(const Scene& scene) {
         };
     };
     InOrder(scene, drawEach(scene.paths), drawEach(scene.texts), drawEach(scene.images));
+    for (const SceneText& text : scene.strokeTexts) {
+        seeThrough(scene, text.clip);
+        write(text, UnseenFace());
+    }
     seeThrough(scene, kNoClip);
 }
 
@@ -172,10 +183,9 @@ void Plotter::draw(const ScenePath& path) {
     if (isInLayer) m_page.endLayer();
 }
 
-void Plotter::draw(const SceneText& text) {
+void Plotter::write(const SceneText& text, const PlotFace& face) {
     const double em = text.height * m_place.scale / kCapitalShare;
     if (text.text.isEmpty() || em <= 0) return;
-    const PlotFace face = m_faces(text.font);
     const std::vector<PdfRun> runs = m_file.fonts().encode(face.name, text.text.view(), face.source);
     double length = 0;
     for (const PdfRun& run : runs) length += run.width;

@@ -112,6 +112,6 @@ TEST(SampleDrawings, DimensionAndTextStylesDiffer) {
     const auto titles = styles->getAt(L"TITLES").open<OdDbTextStyleTableRecord>();
     EXPECT_EQ(titles->typeFace(), L"Arial");
     const auto notes = styles->getAt(L"NOTES").open<OdDbTextStyleTableRecord>();
-    EXPECT_EQ(notes->fileName(), L"romans.shx");
-    EXPECT_EQ(notes->bigFontFileName(), L"gbcbig.shx");
+    EXPECT_EQ(notes->fileName(), L"drafter.shx");
+    EXPECT_EQ(notes->bigFontFileName(), L"drafterc.shx");
 }

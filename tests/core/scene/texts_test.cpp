@@ -247,6 +247,16 @@ TEST(SceneParagraphs, AStackIsOneNumberOverTheOther) {
     EXPECT_TRUE(isAt(slanted.scene.texts.at(2).position, 12, 19)) << "at its right end";
     EXPECT_TRUE(goesThrough(slanted.scene.paths.at(0), {{11.25, 19}, {11.75, 20}}));
     EXPECT_TRUE(Paragraphs(paragraph("\\S+1^-2;")).scene.paths.empty()) << "a tolerance has no bar";
+    const auto distance = [](const std::string& second, const std::string& more = "71 1") {
+        const Paragraphs lines(paragraph("a\\Pb" + second, more));
+        return lines.scene.texts[0].position.y - lines.scene.texts[1].position.y;
+    };
+    EXPECT_NEAR(distance(""), 5.0 / 3, 1e-9);
+    EXPECT_NEAR(distance("\\S1/2;"), 5.0 / 3 + 1.3, 1e-9) << "it doesn't stand in the line above";
+    EXPECT_NEAR(distance("{\\A1;\\S1/2;}"), 5.0 / 3 + 0.65, 1e-9);
+    EXPECT_NEAR(distance("\\S1#2;"), 5.0 / 3 + 1, 1e-9);
+    EXPECT_NEAR(distance("{\\H0.4x;\\S1/2;}"), 5.0 / 3, 1e-9) << "one that isn't higher than its line";
+    EXPECT_NEAR(distance("\\S1/2;", "71 1|73 2"), 5.0 / 3, 1e-9) << "exact distances stay";
     EXPECT_EQ(Paragraphs(paragraph("\\S+1^-2;")).words(), L"+1/-2");
     EXPECT_EQ(Paragraphs(paragraph("\\S1#2;")).scene.paths.size(), 1u);
     EXPECT_EQ(Paragraphs(paragraph("\\Sx\\/y/2;")).words(), L"x/y/2")

@@ -57,6 +57,20 @@ struct Picture {
 bool isWhite(const std::array<int, 3>& c) { return c[0] > 250 && c[1] > 250 && c[2] > 250; }
 bool isDark(const std::array<int, 3>& c) { return c[0] < 140 && c[1] < 140 && c[2] < 140; }
 
+/// Whether a word of poppler's list of boxes begins at `x` and stands around the height `y`, in points from
+/// the upper left.
+bool hasWordAt(const std::string& boxes, const std::string& word, double x, double y) {
+    const std::string end = ">" + word + "</word>";
+    for (std::size_t hit = boxes.find(end); hit != std::string::npos; hit = boxes.find(end, hit + 1)) {
+        double left = 0, top = 0, right = 0, bottom = 0;
+        const char* const box = boxes.c_str() + boxes.rfind("<word", hit);
+        const int read = std::sscanf(box, "<word xMin=\"%lf\" yMin=\"%lf\" xMax=\"%lf\" yMax=\"%lf\"", &left,
+                                     &top, &right, &bottom);
+        if (read == 4 && std::abs(left - x) < 0.5 && top < y && y < bottom + 1) return true;
+    }
+    return false;
+}
+
 class DrawingPlots : public ::testing::Test {
 protected:
     DrawingPlots() : folder(fs::temp_directory_path() / ("ktui-plot-" + std::to_string(::rand()))) {
@@ -176,6 +190,39 @@ TEST_F(DrawingPlots, SampleDrawingsAreWholeFilesWithTheirTexts) {
         EXPECT_GT(found, 0) << name;
         EXPECT_FALSE(pictureOf(path).pixels.empty());
     }
+}
+
+TEST_F(DrawingPlots, TextsInStrokesAreFoundWhereTheyAreDrawn) {
+    const OdDbDatabasePtr drawing = sample("bracket.dxf");
+    DrawingPlot plot(*drawing, plot_test::face, {});
+    SceneOptions options;
+    options.shapeFile = [](const OdString& name) {
+        std::ifstream file(std::string(KTUI_SAMPLE_FONTS) + "/" + odUtf8(name.view()), std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    plot.setFiles(options);
+    const OdDbLayoutPtr layout = layoutOf(*drawing, L"*Model_Space");
+    const SceneExtents area = ModelExtents(*drawing);
+    plot.addModel(area, *layout, false);
+    const std::string path = save(plot);
+    EXPECT_NE(outputOf("qpdf --check " + path).find("No syntax or stream encoding errors"),
+              std::string::npos);
+    options.use = SceneUse::kPaper;
+    const Scene scene = BuildScene(*drawing, drawing->modelSpaceId(), options);
+    EXPECT_TRUE(scene.texts.empty());
+    const PaperPlace place = PlaceArea(*layout, area, false);
+    const std::string boxes = outputOf("pdftotext -bbox " + path + " -");
+    const double pageHeight = pictureOf(path).height;
+    int found = 0;
+    for (const SceneText& text : scene.strokeTexts) {
+        if (text.rotation != 0 || text.horizontal != 0) continue;
+        const std::wstring word(text.text.view().substr(0, text.text.view().find(L' ')));
+        if (word.size() < 4 || word.find_first_of(L"&<>\"") != std::wstring::npos) continue;
+        const OdGePoint2d at = place.apply(text.position);
+        EXPECT_TRUE(hasWordAt(boxes, odUtf8(word), at.x, pageHeight - at.y)) << odUtf8(word) << "\n" << boxes;
+        ++found;
+    }
+    EXPECT_GT(found, 3);
 }
 
 TEST_F(DrawingPlots, LinesOfASampleLieWhereTheyBelongInTheirColors) {
@@ -381,9 +428,11 @@ TEST_F(DrawingPlots, PicturesLieInTheFileWhereTheDrawingHasThem) {
     ASSERT_EQ(drawing->readDxfBytes(file), kOdOk);
     layoutOf(*drawing, L"*Model_Space")->setPlotPaperSize(220, 220);
     DrawingPlot plot = plotOf(drawing);
-    plot.setFiles({}, [&](const OdString& name) {
+    SceneOptions files;
+    files.picture = [&](const OdString& name) {
         return FoundPicture{name == L"a.png" ? shown : nullptr, false};
-    });
+    };
+    plot.setFiles(files);
     SceneExtents area;
     area.add({0, 0});
     area.add({200, 200});

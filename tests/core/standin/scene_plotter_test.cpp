@@ -267,6 +267,33 @@ TEST_F(Plotted, AFittedTextTakesUpItsWidthAndABackwardOneRunsToTheLeft) {
     EXPECT_TRUE(has(plot(shown), "-20 0 0 10 0 0 Tm")) << plot(shown);
 }
 
+TEST_F(Plotted, WhatStrokesSayIsWrittenLastInLettersThatShowNothing) {
+    SceneText text;
+    text.text = L"AB";
+    text.height = 7.2;
+    text.fitWidth = 24;
+    text.clip = 0;
+    ScenePath line;
+    line.points = {{0, 0}, {9, 0}};
+    Scene shown;
+    shown.clips = {{{{1, 1}, {2, 1}, {2, 2}}, kNoClip}};
+    shown.strokeTexts = {text};
+    shown.paths = {line};
+    PdfWriter file;
+    PdfPage& page = file.addPage(100, 100);
+    PlotScene(file, page, shown, place, plot_test::face, look);
+    const std::string& content = page.content();
+    // Letters of 0.6 em each.
+    const std::size_t letters = content.find("20 0 0 10 0 0 Tm"), clip = content.find("W* n");
+    ASSERT_NE(letters, std::string::npos) << content;
+    EXPECT_LT(content.find("S\n"), clip);
+    EXPECT_LT(clip, letters);
+    ASSERT_EQ(file.fonts().fonts().size(), 1u);
+    ASSERT_EQ(file.fonts().fonts()[0].size(), 2u);
+    EXPECT_EQ(file.fonts().fonts()[0][1].character, U'B');
+    for (const PdfFonts::Entry& entry : file.fonts().fonts()[0]) EXPECT_TRUE(entry.glyph.pieces.empty());
+}
+
 TEST_F(Plotted, LayersThatAreOffFrozenOrNotPlottedAreLeftOut) {
     addLine(0, 0, 1, 1);
     OdDbLayerTablePtr layers;

@@ -267,11 +267,16 @@ TEST_F(Exports, LettersOfShapeFontsAndPicturesComeFromTheirFiles) {
     ASSERT_EQ(document.drawing->readDxf(path.c_str()), kOdOk);
     plot().setPlotArea(1, true);
     std::string file = exported();
-    EXPECT_EQ(count(file, "/Subtype /Type3"), 0) << "strokes are lines";
+    EXPECT_EQ(count(file, "/FontBBox [0 0 0 0"), 1) << "strokes are lines; their letters show nothing";
+    EXPECT_EQ(count(file, "/Subtype /Type3"), 1);
     EXPECT_EQ(count(file, "/Subtype /Image"), 1);
     host.SetSupportDirectories({});
     ASSERT_TRUE(::DeleteFileW((files.path() + L"\\blue.bmp").c_str()));
     file = exported();
     EXPECT_GT(count(file, "/Subtype /Type3"), 0) << "a font of the screen's stands for it";
+    EXPECT_EQ(count(file, "/FontBBox [0 0 0 0"), 0);
     EXPECT_EQ(count(file, "/Subtype /Image"), 0);
+    host.SetShapeFontInPlace((std::filesystem::path(program).parent_path() / L"fonts/drafter.shx").c_str());
+    file = exported();
+    EXPECT_EQ(count(file, "/FontBBox [0 0 0 0"), 1) << "or a shape font that the host names";
 }

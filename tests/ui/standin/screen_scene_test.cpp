@@ -74,16 +74,48 @@ TEST_F(ScreenScene, OnAnotherThreadShapesComeFromTheFilesOfTheStyles) {
     host.SetSupportDirectories({CString(files.path().c_str())});
     addStyle(L"SIGNS", L"signs.shx");
     addStyle(L"GONE", L"gone.shx");
+    files.write(L"asia.shx", "letters");
+    OdDbTextStyleTablePtr styles;
+    drawing->getTextStyleTable(styles);
+    styles->getAt(L"SIGNS").open<OdDbTextStyleTableRecord>(OdDb::kForWrite)->setBigFontFileName(L"asia.shx");
     const SceneOptions there = BackgroundSceneOptions(*drawing);
-    std::string found, gone = "?", unnamed = "?";
+    std::string found, big, gone = "?", unnamed = "?";
     std::thread([&] {
+        big = there.shapeFile(L"asia.shx");
         found = there.shapeFile(L"signs.shx");
         gone = there.shapeFile(L"gone.shx");
         unnamed = there.shapeFile(L"other.shx");
     }).join();
     EXPECT_EQ(found, "shapes");
+    EXPECT_EQ(big, "letters");
     EXPECT_EQ(gone, "");
     EXPECT_EQ(unnamed, "");
+}
+
+TEST_F(ScreenScene, TheShapeFontThatStandsForMissingOnesIsFoundOnAnotherThreadToo) {
+    EXPECT_TRUE(ScreenSceneOptions().shapeFontInPlace.isEmpty());
+    EXPECT_TRUE(BackgroundSceneOptions(*drawing).shapeFontInPlace.isEmpty());
+    ui_test::TemporaryFolder files;
+    files.write(L"plain.shx", "strokes");
+    host.SetSupportDirectories({CString(files.path().c_str())});
+    host.SetShapeFontInPlace(L"plain.shx");
+    EXPECT_EQ(ScreenSceneOptions().shapeFontInPlace, L"plain.shx");
+    const SceneOptions there = BackgroundSceneOptions(*drawing);
+    EXPECT_EQ(there.shapeFontInPlace, L"plain.shx");
+    std::string found;
+    std::thread([&] { found = there.shapeFile(L"plain.shx"); }).join();
+    EXPECT_EQ(found, "strokes");
+    host.SetShapeFontInPlace(nullptr);
+    EXPECT_TRUE(ScreenSceneOptions().shapeFontInPlace.isEmpty());
+}
+
+TEST_F(ScreenScene, TheShapeFontThatStandsForMissingOnesGoesWithTheHost) {
+    {
+        CStandinHost another(*AfxGetApp());
+        another.SetShapeFontInPlace(L"plain.shx");
+        ASSERT_FALSE(ScreenSceneOptions().shapeFontInPlace.isEmpty());
+    }
+    EXPECT_TRUE(ScreenSceneOptions().shapeFontInPlace.isEmpty());
 }
 
 }  // namespace
