@@ -37,7 +37,7 @@ BOOL CKbUiTabChildDialog::PreTranslateMessage(MSG* message) {
 bool CKbUiTabChildDialog::moveFocusToOK() {
     CKbUiTabMainDialog* main = GetMainDialog();
     const HWND ok = main != nullptr ? ::GetDlgItem(main->m_hWnd, IDOK) : nullptr;
-    if (ok == nullptr || !::IsWindowEnabled(ok)) return true;
+    if (!::IsWindowEnabled(ok)) return true;  // nor is a button that isn't there
     ::SetFocus(ok);
     // A control that is left with a bad value may have taken the focus back.
     return ::GetFocus() == ok;

@@ -97,8 +97,10 @@ bool start() {
     how.cb = sizeof how;
     PROCESS_INFORMATION made = {};
     std::wstring line = program;
-    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &made))
+    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &made)) {
+        std::printf("the program does not start: error %lu\n", ::GetLastError());
         return false;
+    }
     process = made.hProcess;
     processId = made.dwProcessId;
     return true;

@@ -31,12 +31,14 @@ public:
     static inline std::vector<Asked> asked;
     static inline bool hasData = true, transparent = false, active = true;
     static inline HDC dc = nullptr;
+    static inline HDC wanted = nullptr;  ///< where all has to be drawn; null leaves that open
     static inline HWND opened = nullptr;
 
     FakeTheme() : m_former(KtUiTestDoor().exchangeThemeApi(api())) {
         asked.clear();
         hasData = active = true;
         transparent = false;
+        wanted = nullptr;
     }
     ~FakeTheme() { KtUiTestDoor().exchangeThemeApi(m_former); }
 
@@ -56,12 +58,15 @@ private:
         asked.push_back({theme == handle() ? "transparent?" : "another transparent?", part, state});
         return transparent;
     }
-    static HRESULT WINAPI drawParent(HWND window, HDC, RECT* rect) {
+    static void expectWanted(HDC target) { EXPECT_TRUE(wanted == nullptr || target == wanted); }
+    static HRESULT WINAPI drawParent(HWND window, HDC target, RECT* rect) {
+        expectWanted(target);
         asked.push_back({window == opened ? "parent" : "another's parent", 0, 0, CRect(*rect)});
         return S_OK;
     }
     static HRESULT WINAPI draw(HTHEME theme, HDC target, int part, int state, const RECT* rect,
                                const RECT* clip) {
+        expectWanted(target);
         dc = target;
         ::FillRect(target, rect, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
         const char* call = theme != handle()         ? "draw another"
@@ -71,7 +76,9 @@ private:
         asked.push_back({call, part, state, CRect(*rect)});
         return S_OK;
     }
-    static HRESULT WINAPI content(HTHEME theme, HDC, int part, int state, const RECT* bounds, RECT* result) {
+    static HRESULT WINAPI content(HTHEME theme, HDC target, int part, int state, const RECT* bounds,
+                                  RECT* result) {
+        expectWanted(target);
         asked.push_back({theme == handle() ? "content" : "another content", part, state, CRect(*bounds)});
         *result = *bounds;
         ::InflateRect(result, -3, -3);

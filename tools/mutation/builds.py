@@ -9,6 +9,7 @@ from .weaving import mutants_at, weave
 
 FLAGS = "-w -Wno-error -Wno-narrowing -ftemplate-depth=2000"
 ERROR = re.compile(r"^([^\s:][^:\n]*):(\d+):(\d+): (?:fatal )?error: (.*)$", re.M)
+UNLINKED = re.compile(r"^([^\s:][^:\n]*):(\d+): undefined reference to ", re.M)
 MENTION = re.compile(r"^([^\s:][^:\n]*):(\d+):(\d+):", re.M)
 
 
@@ -83,6 +84,11 @@ def at_fault(output, tree):
     """From a compiler's messages: the numbers of the mutants that don't compile, and the names of constants that have
     to stay constant."""
     numbers, constants = set(), set()
+    # A reference to a class's own constant, which another program has no place for, is seen by the linker alone.
+    for path, line in UNLINKED.findall(output):
+        name = next((w for w in tree.woven if path.endswith(w)), None)
+        if name:
+            numbers |= set(mutants_at(tree.woven[name], int(line), 1))
     blocks = re.split(r"(?=^[^\s:][^:\n]*:\d+:\d+: (?:fatal )?error: )", output, flags=re.M)
     for before, block in zip([""] + blocks, blocks):
         error = ERROR.match(block)

@@ -30,6 +30,28 @@ FoundTemplate find_template(LPCTSTR name) {
     return {module, loaded != nullptr ? static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)) : nullptr};
 }
 
+/// A template in the caller's memory, held at its place for as long as the object lives, or in a resource
+/// that the caller loaded.
+class HeldTemplate {
+public:
+    explicit HeldTemplate(HGLOBAL memory) : m_memory(memory) {
+        if (memory == nullptr) return;
+        m_locked = ::GlobalLock(memory);
+        m_bytes = static_cast<LPCDLGTEMPLATE>(m_locked != nullptr ? m_locked : ::LockResource(memory));
+    }
+    ~HeldTemplate() {
+        if (m_locked != nullptr) ::GlobalUnlock(m_memory);
+    }
+    HeldTemplate(const HeldTemplate&) = delete;
+    HeldTemplate& operator=(const HeldTemplate&) = delete;
+    LPCDLGTEMPLATE bytes() const { return m_bytes; }
+
+private:
+    HGLOBAL m_memory;
+    void* m_locked = nullptr;
+    LPCDLGTEMPLATE m_bytes = nullptr;
+};
+
 /// Whether a template gives the dialog no place of its own.
 bool leaves_place_open(LPCDLGTEMPLATE bytes) {
     // An extended template starts with version 1 and a signature of ones; its place comes later.
@@ -95,8 +117,8 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
 }
 
 BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst) {
-    auto* dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate));
-    return CreateFromTemplate(dialogTemplate, pParentWnd, hInst, nullptr);
+    const HeldTemplate held(hDialogTemplate);
+    return CreateFromTemplate(held.bytes(), pParentWnd, hInst, nullptr);
 }
 
 BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit) {
@@ -140,13 +162,14 @@ void CDialog::PostModal() {
 
 INT_PTR CDialog::DoModal() {
     LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
+    const HeldTemplate held(m_lpszTemplateName == nullptr ? m_hDialogTemplate : nullptr);
     HINSTANCE module = AfxGetResourceHandle();
     if (m_lpszTemplateName != nullptr) {
         const FoundTemplate found = find_template(m_lpszTemplateName);
         module = found.module;
         dialogTemplate = found.bytes;
     } else if (m_hDialogTemplate != nullptr) {
-        dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(m_hDialogTemplate));
+        dialogTemplate = held.bytes();
     }
     if (dialogTemplate == nullptr) return -1;
 

@@ -73,6 +73,18 @@ TEST(RepeatToWidth, OneAndABitHasNoCopiesAround) {
     EXPECT_EQ(text, L"...");
 }
 
+TEST(RepeatToWidth, WhatIsLeftOverIsFilledToTheLastCharacterThatFits) {
+    // 90 of 50: four characters of the text fit into the 40 that are left over, and the ellipsis takes three.
+    EXPECT_EQ(Repeat(L"abcde", 90), L"a...");
+    EXPECT_EQ(Repeat(L"abcde", 89), L"...");
+    // 120 of 50: a copy on either side, and seven characters in the 70 between them.
+    EXPECT_EQ(Repeat(L"abcde", 120).size(), 17u);
+    EXPECT_EQ(Repeat(L"abcde", 119).size(), 16u);
+    // 220 of 50: two copies on either side leave 70 again, for seven characters.
+    EXPECT_EQ(Repeat(L"abcde", 220).size(), 27u);
+    EXPECT_EQ(Repeat(L"abcde", 219).size(), 26u);
+}
+
 TEST(RepeatToWidth, MiddlePieceStandsBetweenTheCopies) {
     // 130 of 50: one copy on either side, and the doubled text cut to 80 in the middle.
     const std::wstring text = Repeat(L"abcde", 130);
@@ -88,5 +100,13 @@ TEST(RepeatToWidth, FirstDeletionGoesByTheLengthOfTheText) {
     EXPECT_EQ(text,
               L"abcdef"
               L"abce...cdef"
+              L"abcdef");
+}
+
+TEST(RepeatToWidth, LaterDeletionsGoByTheLengthOfThePiece) {
+    // Two characters too many: the d at 3 of 12, then the a at 5 of 11. The ellipsis takes 4, 5 and 6 of ten.
+    EXPECT_EQ(Repeat(L"abcdef", 60 + 100),
+              L"abcdef"
+              L"abce...def"
               L"abcdef");
 }

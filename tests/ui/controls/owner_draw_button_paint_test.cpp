@@ -19,7 +19,9 @@ struct ButtonPaint : ButtonTest<> {
     /// Draws the button on `canvas`, its states being 0 or not.
     void draw(Canvas& canvas, int isDefault, int isDisabled, int isPressed, int hasFocus) {
         const HGDIOBJ former = ::SelectObject(canvas.dc.m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
+        FakeTheme::wanted = canvas.dc.m_hDC;
         button.DrawButton(canvas.dc, kWidth, kHeight, isDefault, isDisabled, isPressed, hasFocus);
+        FakeTheme::wanted = nullptr;
         ::SelectObject(canvas.dc.m_hDC, former);
     }
     /// What the theme is asked for a face of `state`.

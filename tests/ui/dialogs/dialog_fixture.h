@@ -84,9 +84,9 @@ protected:
         calls.push_back("finish");
         CKtUiDialog::OnInitDialogFinish();
     }
-    void EnableFloatingWindows(int enable) override { calls.push_back(enable ? "floating 1" : "floating 0"); }
+    void EnableFloatingWindows(int enable) override { calls.push_back("floating " + std::to_string(enable)); }
     int EnableMultiDocumentActivation(int enable) override {
-        calls.push_back(enable ? "activation 1" : "activation 0");
+        calls.push_back("activation " + std::to_string(enable));
         return 0;
     }
     KBUI_REPLY OnNotifyControlChange(unsigned id, __int64 data) override { return note("change", id, data); }

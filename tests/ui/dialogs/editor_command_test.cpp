@@ -305,6 +305,17 @@ TEST_F(EditorCommandOrder, TheFocusAndTheEnabledStateAreThoseFromBeforeTheHiding
     EXPECT_TRUE(inner.m_textTip->IsWindowEnabled());
 }
 
+TEST_F(EditorCommandOrder, WhatIsKeptIsFromBeforeTheHiding) {
+    SentMessages sent([&](const CWPSTRUCT& message) {
+        if (message.hwnd == inner.m_hWnd && message.message == WM_WINDOWPOSCHANGING &&
+            (ui_test::position_flags(message) & SWP_HIDEWINDOW))
+            inner.EnableWindow(FALSE);
+    });
+    inner.BeginEditorCommand();
+    EXPECT_FALSE(inner.IsWindowEnabled());
+    EXPECT_EQ(inner.m_wasEnabled, 1);
+}
+
 TEST_F(EditorCommandOrder, TheTipWindowFollowsADisabledDialog) {
     inner.EnableWindow(FALSE);
     inner.BeginEditorCommand();

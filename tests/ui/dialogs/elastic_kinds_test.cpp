@@ -156,6 +156,16 @@ TEST_F(ElasticKinds, WhenNoControlMovedNothingIsPaintedAfresh) {
     EXPECT_FALSE(::GetUpdateRect(dialog.m_hWnd, nullptr, FALSE));
 }
 
+TEST_F(ElasticKinds, AControlThatIsGoneMovesNothing) {
+    dialog.MoveControlX(IDC_FIRST, 100);
+    dialog.GetDlgItem(IDC_FIRST)->DestroyWindow();
+    dialog.ShowWindow(SW_SHOW);
+    ui_test::pump();
+    dialog.ValidateRect(nullptr);
+    size(4, 10);
+    EXPECT_FALSE(::GetUpdateRect(dialog.m_hWnd, nullptr, FALSE));
+}
+
 TEST_F(ElasticKinds, ControlsAreMovedWithoutRepaint) {
     dialog.MoveControlX(IDC_FIRST, 100);
     const HWND first = dialog.GetDlgItem(IDC_FIRST)->m_hWnd;

@@ -54,7 +54,7 @@ protected:
     void OnInitDialogBegin() override { calls.push_back("begin"); }
     void OnInitDialogFinish() override { calls.push_back(m_icon == nullptr ? "finish" : "finish with icon"); }
     void DoDataExchange(CDataExchange*) override { calls.push_back("exchange"); }
-    void EnableFloatingWindows(int enable) override { calls.push_back(enable ? "floating 1" : "floating 0"); }
+    void EnableFloatingWindows(int enable) override { calls.push_back("floating " + std::to_string(enable)); }
     KBUI_REPLY OnNotifyControlChange(unsigned id, __int64 data) override { return note("change", id, data); }
     KBUI_REPLY OnNotifyControlValid(unsigned id, int valid) override { return note("valid", id, valid); }
     KBUI_REPLY OnNotifyGeneric(unsigned id, __int64 data) override { return note("generic", id, data); }
@@ -145,6 +145,31 @@ TEST_F(FileTest, HelpIsOpenedByItsOwnOperationOnly) {
     CString path;
     EXPECT_EQ(dialog.FindContextHelpFullPath(L"topic.htm", path), 1);
     EXPECT_EQ(path, L"C:\\help\\topic.htm");
+}
+
+TEST_F(FileTest, HelpIsAnsweredAsThePlatformAnswersIt) {
+    /// Hands a question for help to the dialog's own handler.
+    class Asked : public OpenFile {
+    public:
+        LRESULT platformsAnswer = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_HELP) return OnHelpInfo(reinterpret_cast<HELPINFO*>(lParam));
+            return OpenFile::WindowProc(message, wParam, lParam);
+        }
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            return message == WM_HELP ? platformsAnswer : OpenFile::DefWindowProc(message, wParam, lParam);
+        }
+    } asked;
+    asked.Create(IDD_ELASTIC, &holder);
+    HELPINFO info = {};
+    info.cbSize = sizeof info;
+    EXPECT_EQ(asked.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), 0);
+    asked.platformsAnswer = 6;
+    EXPECT_EQ(asked.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), 6);
+    EXPECT_EQ(host.helpCalls, 0);
+    asked.DestroyWindow();
 }
 
 TEST_F(FileTest, HideAndShowCountWhateverTheStateIs) {
@@ -270,6 +295,19 @@ TEST_F(FileTest, TheEnabledStateComesBack) {
     dialog.EnableWindow(TRUE);
     dialog.CompleteEditorCommand(1);
     EXPECT_FALSE(dialog.IsWindowEnabled());
+}
+
+TEST_F(FileTest, WhatIsKeptIsFromBeforeTheHiding) {
+    CWnd* const focused = dialog.GetDlgItem(IDC_SECOND);
+    focused->SetFocus();
+    ui_test::SentMessages sent([&](const CWPSTRUCT& message) {
+        if (message.hwnd == dialog.m_hWnd && message.message == WM_SHOWWINDOW && message.wParam == FALSE)
+            dialog.EnableWindow(FALSE);
+    });
+    dialog.BeginEditorCommand();
+    EXPECT_FALSE(dialog.IsWindowEnabled());
+    EXPECT_EQ(dialog.m_wasEnabled, 1);
+    EXPECT_EQ(dialog.m_savedFocus, focused->m_hWnd);
 }
 
 TEST_F(FileTest, TheOrderIsDialogParentsMainAndBack) {

@@ -178,6 +178,23 @@ TEST_F(TabNotification, LeavingIsRefusedByAPageAndByAnItemWithoutOne) {
     EXPECT_NE(notify(TCN_SELCHANGING), 0);
 }
 
+TEST_F(TabNotification, TheDialogHearsOfALeavingThatIsAllowedAndOfEachArrival) {
+    addPages(2);
+    notify(TCN_SELCHANGING);
+    EXPECT_EQ(dialog.heard, (std::vector<int>{static_cast<int>(TCN_SELCHANGING)}));
+    dialog.heard.clear();
+    notify(TCN_SELCHANGE);
+    EXPECT_EQ(dialog.heard, (std::vector<int>{static_cast<int>(TCN_SELCHANGE)}));
+    dialog.heard.clear();
+    a.mayLeave = false;
+    notify(TCN_SELCHANGING);
+    EXPECT_TRUE(dialog.heard.empty());
+    dialog.tab.CTabCtrl::DeleteItem(1);
+    dialog.tab.CTabCtrl::DeleteItem(0);
+    notify(TCN_SELCHANGING);
+    EXPECT_TRUE(dialog.heard.empty()) << "without a selection";
+}
+
 TEST_F(TabNotification, ArrivingGivesTheControlTheFocus) {
     addPages(2);
     dialog.GetDlgItem(IDOK)->SetFocus();

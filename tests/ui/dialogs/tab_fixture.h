@@ -36,7 +36,10 @@ protected:
         note("exchange");
         if (failing) exchange->Fail();
     }
-    void OnTabActivation(int active) override { note(active ? "in" : "out"); }
+    void OnTabActivation(int active) override {
+        const char* const calls[] = {"out", "in"};
+        note(active == 0 || active == 1 ? calls[active] : "neither in nor out");
+    }
     int OnTabChanging() override {
         note("leave?");
         return mayLeave;
@@ -81,6 +84,12 @@ public:
     bool bindsTab = true;
     std::function<void()> onInit;  ///< at the end of OnInitDialog
     std::function<void()> onSave;  ///< when its own data is exchanged
+    std::vector<int> heard;        ///< notifications of the strip that came as far as the dialog's own map
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (id == IDC_TABS && HIWORD(code) == WM_NOTIFY) heard.push_back(static_cast<short>(LOWORD(code)));
+        return CKtUiTabMainDialog::OnCmdMsg(id, code, extra, info);
+    }
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override {

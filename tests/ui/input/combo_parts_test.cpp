@@ -219,6 +219,19 @@ TEST_F(ComboChildren, ThatHaveTheirWindowAreNotTakenAgain) {
     EXPECT_EQ(combo.GetEditBox()->GetKbUiParent(), &other);
 }
 
+TEST_F(ComboChildren, ThatWereAllTakenAndThenLetGoAreNotTakenAgain) {
+    make(CBS_DROPDOWN);
+    combo.askColor(WM_CTLCOLORLISTBOX, combo.listWindow());
+    combo.askColor(WM_CTLCOLOREDIT, combo.editWindow());
+    ASSERT_EQ(combo.m_flags & 4, 4u);
+    combo.GetEditBox()->UnsubclassWindow();
+    combo.askColor(WM_CTLCOLOREDIT, combo.editWindow());
+    EXPECT_EQ(combo.GetEditBox()->m_hWnd, nullptr);
+    combo.GetListBox()->UnsubclassWindow();
+    combo.askColor(WM_CTLCOLORLISTBOX, combo.listWindow());
+    EXPECT_EQ(combo.GetListBox()->m_hWnd, nullptr);
+}
+
 TEST_F(ComboChildren, AMaskGoesToTheEdit) {
     CKbUiEdit edit;
     combo.SetEditBox(&edit, FALSE);
@@ -234,7 +247,9 @@ TEST_F(ComboChildren, StartWithoutAnything) {
     struct Fresh : CKbUiComboBox {
         using CKbUiComboBox::m_lastMousePoint;
         using CKbUiComboBox::m_tipItem;
+        using CKbUiComboBox::m_tipRect;
     } fresh;
+    EXPECT_EQ(fresh.m_tipRect, CRect(0, 0, 0, 0));
     EXPECT_EQ(fresh.m_tipItem, 0);
     EXPECT_EQ(fresh.m_lastMousePoint, CPoint(0, 0));
     EXPECT_TRUE(fresh.GetToolTipText().IsEmpty());

@@ -286,6 +286,26 @@ TEST(EditTip, ClippedTextGivesOneOverTheWholeText) {
     EXPECT_EQ(rect, CRect(formatting.left, formatting.top, formatting.left + width, formatting.top + height));
 }
 
+TEST(EditTip, TextIsMeasuredAsItIsDrawnInTheControlsFont) {
+    InHolder<CKbUiEdit> in;
+    CFont large;
+    large.CreatePointFont(180, L"Tahoma");
+    in.edit.SetFont(&large, FALSE);
+    CClientDC dc(&in.edit);
+    CFont* const former = dc.SelectObject(&large);
+    for (const wchar_t* text : {L"three", L"two\nlines and more", L"a&b", L""}) {
+        CRect drawn(0, 0, 0, 0);
+        dc.DrawText(text, -1, &drawn, DT_CALCRECT);
+        int width = -1, height = -1;
+        in.edit.GetTextExtent(text, width, height);
+        EXPECT_EQ(CSize(width, height), drawn.Size()) << CStringA(text).GetString();
+        int contentWidth = -1, contentHeight = -1;
+        in.edit.GetContentExtent(text, contentWidth, contentHeight);
+        EXPECT_EQ(CSize(contentWidth, contentHeight), drawn.Size());
+    }
+    dc.SelectObject(former);
+}
+
 TEST(EditTip, SupportAndHitGoByTheClientArea) {
     InHolder<CKbUiEdit> in;
     CPoint inside(5, 5);

@@ -1,6 +1,10 @@
 // The alert: its texts, its two layouts, its default and its answers.
 #include <ktui/tips/messages/alert_dialog.h>
 
+#include <algorithm>
+#include <map>
+
+#include "picture.h"
 #include "task_dialog_fixture.h"
 
 using namespace ui_test;
@@ -58,6 +62,43 @@ TEST_F(Alert, ShowsTheCallersWordsAndTheSign) {
     EXPECT_EQ(first, L"Overwrite");
     EXPECT_EQ(second, L"Rename");
     EXPECT_GT(pixels, 16);
+}
+
+namespace {
+
+/// How many pixels of each colour the warning has, without the colour of its ground.
+std::map<COLORREF, int> ColorsOfTheWarning() {
+    const HBITMAP bitmap = ::LoadBitmapW(::GetModuleHandleW(L"ktui.dll"), L"WARNINGBMP");
+    BITMAP size = {};
+    ::GetObjectW(bitmap, sizeof size, &size);
+    CDC memory;
+    memory.CreateCompatibleDC(nullptr);
+    const HGDIOBJ former = ::SelectObject(memory.m_hDC, bitmap);
+    std::map<COLORREF, int> colors;
+    for (int y = 0; y < size.bmHeight; ++y)
+        for (int x = 0; x < size.bmWidth; ++x) ++colors[memory.GetPixel(x, y)];
+    colors.erase(memory.GetPixel(0, 0));
+    ::SelectObject(memory.m_hDC, former);
+    ::DeleteObject(bitmap);
+    return colors;
+}
+
+}  // namespace
+
+TEST_F(Alert, TheSignIsTheWarning) {
+    const std::map<COLORREF, int> colors = ColorsOfTheWarning();
+    ASSERT_FALSE(colors.empty());
+    const auto [color, count] = *std::max_element(
+        colors.begin(), colors.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+    ASSERT_GT(count, 50);
+    int shown = 0;
+    Ask(0, [&, wanted = color](HWND box) {
+        const HWND sign = ::GetDlgItem(box, kSign);
+        ::RedrawWindow(sign, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        shown = Picture(*CWnd::FromHandle(sign)).count(wanted);
+        press(box, IDCANCEL);
+    });
+    EXPECT_EQ(shown, count);
 }
 
 TEST_F(Alert, EachButtonHasItsAnswer) {

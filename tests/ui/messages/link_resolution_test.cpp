@@ -1,5 +1,8 @@
 // Links of the toolkit's own task dialog on a monitor of a higher resolution than the screen's.
+#include <afxglobals.h>
 #include <ktui/host/appearance.h>
+
+#include <cmath>
 
 #include "canvas.h"
 #include "task_dialog_fixture.h"
@@ -92,4 +95,29 @@ TEST_F(LinkAtAHigherResolution, HasItsTextsBesideAWiderColumnAndFurtherApart) {
         wanted.dc.DrawText(L"The former drawing is lost.", -1, &area, DT_WORDBREAK);
         wanted.dc.SelectObject(former);
     });
+}
+
+TEST_F(LinkAtAHigherResolution, HasLettersOfItsMonitorsResolution) {
+    LOGFONT regular = {};
+    afxGlobalData.fontRegular.GetLogFont(&regular);
+    const int height = std::abs(::MulDiv(static_cast<int>(regular.lfHeight), 144, 96));
+    int text = 0, title = 0;
+    Run([&](HWND box) {
+        text = font_height(BodyOf(box));
+        title = font_height(::GetDlgItem(box, 101));
+        ::PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    });
+    EXPECT_EQ(text, height);
+    EXPECT_EQ(title, std::lround(height * 1.6));
+}
+
+TEST_F(LinkAtAHigherResolution, HasButtonsOfItsMonitorsResolution) {
+    dialog.SetCommonButtons(1);
+    CSize ok;
+    Run([&](HWND box) {
+        ok = child_of(box, IDOK).rect.Size();
+        press(box, IDOK);
+    });
+    // 36 quarters of 12 pixels, 12 eighths of 24.
+    EXPECT_EQ(ok, CSize(108, 36));
 }

@@ -389,6 +389,43 @@ TEST_F(LinkPaint, UnderThePointerItHasTheHoverColourAndAFrameUntilItLeaves) {
     });
 }
 
+namespace {
+
+std::vector<TRACKMOUSEEVENT> tracked;
+
+BOOL WINAPI NoteTracking(TRACKMOUSEEVENT* event) {
+    if (event != nullptr) tracked.push_back(*event);
+    return TRUE;
+}
+
+}  // namespace
+
+TEST_F(LinkPaint, UnderThePointerItAsksToHearThatItLeaves) {
+    const ReplacedImport tracking(toolkit, "TrackMouseEvent", &NoteTracking);
+    ASSERT_TRUE(tracking.isThere());
+    tracked.clear();
+    Look([&](HWND box) {
+        const HWND link = ::GetDlgItem(box, 101);
+        ::SendMessageW(link, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+        ASSERT_EQ(tracked.size(), 1u);
+        EXPECT_EQ(tracked[0].cbSize, sizeof(TRACKMOUSEEVENT));
+        EXPECT_EQ(tracked[0].dwFlags, static_cast<DWORD>(TME_LEAVE));
+        EXPECT_EQ(tracked[0].hwndTrack, link);
+    });
+}
+
+TEST_F(LinkPaint, TheFramesOfHoverAndFocusAreTheSystemsHotAndHighlightColours) {
+    const SchemeColor hot(COLOR_HOTLIGHT, RGB(10, 120, 30)), highlight(COLOR_HIGHLIGHT, RGB(140, 20, 60));
+    Look([&](HWND box) {
+        const CSize size = SizeOf(box);
+        Canvas canvas(size.cx, size.cy);
+        ::SendDlgItemMessageW(box, 101, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+        Draw(box, canvas, ODS_FOCUS);
+        EXPECT_EQ(canvas.at(0, 0), RGB(10, 120, 30));
+        EXPECT_EQ(canvas.at(1, 1), RGB(140, 20, 60));
+    });
+}
+
 TEST_F(LinkPaint, LosingTheFocusEndsTheHover) {
     Look([&](HWND box) {
         const HWND link = ::GetDlgItem(box, 101);

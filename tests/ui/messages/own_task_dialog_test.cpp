@@ -316,3 +316,12 @@ TEST_F(OwnTaskDialog, FiveThousandCharactersWidenItToNoMoreThanTheWorkArea) {
     EXPECT_LE(client.Height(), client.Width() * 11 / 10 + 1);
     EXPECT_GT(body.Height(), 200);
 }
+
+TEST_F(OwnTaskDialog, WithoutABoxNobodyHearsOfAClickOnIt) {
+    dialog.SetContent(L"body");
+    Run([&](HWND box) {
+        ::SendMessageW(box, WM_COMMAND, MAKEWPARAM(ui_test::kCheckBoxId, BN_CLICKED), 0);
+        press(box, IDOK);
+    });
+    EXPECT_TRUE(dialog.clicks.empty());
+}

@@ -196,3 +196,33 @@ TEST_F(TallTaskDialog, ACommandAboveComesIntoViewAtTheTop) {
         EXPECT_GT(Position(box), 0);
     });
 }
+
+TEST_F(TallTaskDialog, ScrollingLeavesEachChildItsPlaceAcrossAndItsSize) {
+    Look([&](HWND box) {
+        const std::vector<Child> before = children_of(box);
+        Scroll(box, SB_PAGEDOWN);
+        const int down = Position(box);
+        EXPECT_GT(down, 0);
+        const std::vector<Child> after = children_of(box);
+        ASSERT_EQ(after.size(), before.size());
+        for (std::size_t i = 0; i < before.size(); ++i)
+            EXPECT_EQ(after[i].rect, before[i].rect - CPoint(0, down)) << after[i].id;
+    });
+}
+
+TEST_F(TallTaskDialog, TheWheelIsItsOwnOnlyWhereThereIsSomethingToScroll) {
+    const auto turned = [](HWND box) { return ::SendMessageW(box, WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0); };
+    LRESULT tall = 0, small = 1;
+    Look([&](HWND box) { tall = turned(box); });
+    CKtUiTaskDialog one;
+    one.SetWindowTitle(L"task");
+    one.SetContent(L"body");
+    one.SetCommonButtons(8);
+    when_dialog(L"task", [&](HWND box) {
+        small = turned(box);
+        press(box, IDCANCEL);
+    });
+    one.DoModal(parent.m_hWnd);
+    EXPECT_EQ(tall, 1);
+    EXPECT_EQ(small, 0);
+}

@@ -174,6 +174,23 @@ TEST(ShxFontList, MeasuringLeavesTheHeightAlone) {
     EXPECT_EQ(item.itemHeight, 77u);
 }
 
+TEST(ShxFontList, ItemsGrowToTheirIconOnlyForAHostThatFollowsTheSystem) {
+    const auto heightAfterFilling = [](BOOL follows, UINT before) {
+        ListInHolder in;
+        in.list.SetItemHeight(0, before);
+        KtUiFollowSystemAppearance(follows);
+        in.list.FillList(false);
+        KtUiFollowSystemAppearance(FALSE);
+        return in.list.GetItemHeight(0);
+    };
+    for (const UINT height : {9u, 15u, 16u, 40u}) EXPECT_EQ(heightAfterFilling(FALSE, height), int(height));
+    // The icon has 15 pixels, with a line between it and the next.
+    EXPECT_EQ(heightAfterFilling(TRUE, 9), 16);
+    EXPECT_EQ(heightAfterFilling(TRUE, 15), 16);
+    EXPECT_EQ(heightAfterFilling(TRUE, 16), 16);
+    EXPECT_EQ(heightAfterFilling(TRUE, 40), 40);
+}
+
 TEST(ShxFontList, IconGoesWithTheList) {
     HICON icon = nullptr;
     {

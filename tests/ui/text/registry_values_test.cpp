@@ -125,10 +125,12 @@ TEST_F(RegistryValues, NamesOf255CharactersAreEnumeratedAndLongerValueNamesAreFa
     CString name;
     EXPECT_TRUE(key.EnumKeyNames(0, name));
     EXPECT_STREQ(name, most.c_str());
+    EXPECT_EQ(name.GetLength(), 255);
     name.Empty();
     DWORD type = 0;
     EXPECT_TRUE(key.EnumValueNames(0, name, &type));
     EXPECT_STREQ(name, most.c_str());
+    EXPECT_EQ(name.GetLength(), 255);
     EXPECT_EQ(type, static_cast<DWORD>(REG_DWORD));
     CKbUiRegistryDeleteAccess(HKEY_CURRENT_USER, kKey).DeleteValue(most.c_str());
     store(tooLong.c_str(), REG_DWORD, &number, sizeof number);

@@ -183,6 +183,14 @@ TEST_F(RichTip, ATextHasTheColoursOfTheHostsScheme) {
     EXPECT_GT(picture.count(RGB(200, 0, 0)), 0);
 }
 
+TEST_F(RichTip, IsPaintedBeforeTheCallReturns) {
+    tip.Activate(CPoint(100, 100), L"Layer", false);
+    EXPECT_FALSE(::GetUpdateRect(tip.m_hWnd, nullptr, FALSE));
+    tip.Activate(CPoint(100, 130), lines);
+    EndDelay();
+    EXPECT_FALSE(::GetUpdateRect(tip.m_hWnd, nullptr, FALSE));
+}
+
 TEST_F(RichTip, LeavesItsBackgroundToItsPainting) {
     EXPECT_EQ(tip.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(::GetDC(tip.m_hWnd))), 1);
 }

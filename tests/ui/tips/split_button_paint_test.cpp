@@ -48,6 +48,9 @@ int Count(const char* name) {
     return count;
 }
 
+/// What is drawn is drawn on the device context that was given.
+void ExpectGiven(HDC dc) { EXPECT_TRUE(paintedOn == nullptr || dc == paintedOn); }
+
 /// A theme that writes down what is drawn with it.
 ThemeApi WatchedTheme() {
     ThemeApi api = KtUiTestDoor().exchangeThemeApi(ThemeApi());
@@ -68,21 +71,23 @@ ThemeApi WatchedTheme() {
     api.drawThemeBackground = [](HTHEME theme, HDC dc, int part, int state, const RECT* rect,
                                  const RECT* clip) -> HRESULT {
         EXPECT_EQ(theme, kTheme);
-        EXPECT_TRUE(paintedOn == nullptr || dc == paintedOn);
+        ExpectGiven(dc);
         calls.push_back(
             {"background", part, state, CRect(*rect), clip != nullptr ? CRect(*clip) : CRect(*rect)});
         return S_OK;
     };
-    api.drawThemeEdge = [](HTHEME theme, HDC, int part, int state, const RECT* rect, UINT edge, UINT sides,
+    api.drawThemeEdge = [](HTHEME theme, HDC dc, int part, int state, const RECT* rect, UINT edge, UINT sides,
                            RECT*) -> HRESULT {
         EXPECT_EQ(theme, kTheme);
+        ExpectGiven(dc);
         EXPECT_EQ(sides, static_cast<UINT>(BF_LEFT));
         calls.push_back({"edge", part, state, CRect(*rect), {}, edge});
         return S_OK;
     };
-    api.drawThemeText = [](HTHEME theme, HDC, int part, int state, LPCWSTR text, int, DWORD flags, DWORD,
+    api.drawThemeText = [](HTHEME theme, HDC dc, int part, int state, LPCWSTR text, int, DWORD flags, DWORD,
                            const RECT* rect) -> HRESULT {
         EXPECT_EQ(theme, kTheme);
+        ExpectGiven(dc);
         calls.push_back({"theme text", part, state, CRect(*rect), {}, flags, text});
         return S_OK;
     };
@@ -90,15 +95,18 @@ ThemeApi WatchedTheme() {
 }
 
 int WINAPI NoteText(HDC dc, LPCWSTR text, int length, RECT* rect, UINT flags) {
+    ExpectGiven(dc);
     calls.push_back(
         {"text", ::GetBkMode(dc), static_cast<int>(::GetTextColor(dc)), CRect(*rect), {}, flags, text});
     return ::DrawTextW(dc, text, length, rect, flags);
 }
-BOOL WINAPI NoteFocus(HDC, const RECT* rect) {
+BOOL WINAPI NoteFocus(HDC dc, const RECT* rect) {
+    ExpectGiven(dc);
     calls.push_back({"focus", 0, 0, CRect(*rect)});
     return TRUE;
 }
-BOOL WINAPI NoteIcon(HDC, int x, int y, HICON, int width, int height, UINT, HBRUSH, UINT flags) {
+BOOL WINAPI NoteIcon(HDC dc, int x, int y, HICON, int width, int height, UINT, HBRUSH, UINT flags) {
+    ExpectGiven(dc);
     calls.push_back({"glyph", 0, 0, CRect(CPoint(x, y), CSize(width, height)), {}, flags});
     return TRUE;
 }
@@ -107,7 +115,9 @@ HICON WINAPI NoteGlyph(HIMAGELIST list, int index, UINT flags) {
     calls.push_back({"image", index});
     return ::ImageList_GetIcon(list, index, flags);
 }
-BOOL WINAPI NoteState(HDC, HBRUSH, DRAWSTATEPROC, LPARAM data, WPARAM, int x, int y, int, int, UINT flags) {
+BOOL WINAPI NoteState(HDC dc, HBRUSH, DRAWSTATEPROC, LPARAM data, WPARAM, int x, int y, int, int,
+                      UINT flags) {
+    ExpectGiven(dc);
     calls.push_back({"state", static_cast<int>(data != 0), 0, CRect(x, y, x, y), {}, flags});
     return TRUE;
 }
@@ -115,13 +125,28 @@ BOOL WINAPI NoteFrame(HDC dc, RECT* rect, UINT type, UINT state) {
     CRect clip;
     ::GetClipBox(dc, &clip);
     EXPECT_EQ(type, static_cast<UINT>(DFC_BUTTON));
+    ExpectGiven(dc);
     calls.push_back({"frame", 0, 0, CRect(*rect), clip, state});
     return ::DrawFrameControl(dc, rect, type, state);
 }
 BOOL WINAPI NoteEdge(HDC dc, RECT* rect, UINT edge, UINT sides) {
+    ExpectGiven(dc);
     EXPECT_EQ(sides, static_cast<UINT>(BF_LEFT));
     calls.push_back({"edge", 0, 0, CRect(*rect), {}, edge});
     return ::DrawEdge(dc, rect, edge, sides);
+}
+
+HDC WINAPI NoteBeginning(HWND window, PAINTSTRUCT* paint) {
+    const HDC dc = ::BeginPaint(window, paint);
+    calls.push_back({"begin"});
+    paintedOn = dc;
+    return dc;
+}
+BOOL WINAPI NoteEnd(HWND window, const PAINTSTRUCT* paint) {
+    EXPECT_EQ(paint->hdc, paintedOn);
+    paintedOn = nullptr;
+    calls.push_back({"end"});
+    return ::EndPaint(window, paint);
 }
 
 std::vector<HGDIOBJ> iconParts;  ///< the bitmaps that were handed out, less those that were given back
@@ -494,6 +519,22 @@ TEST_F(SplitButtonPaint, NothingIsDrawnOnTheScreenWhileRedrawingIsSuspended) {
     EXPECT_EQ(Count("frame"), 2) << "a picture that is asked for is drawn all the same";
 }
 
+TEST_F(SplitButtonPaint, TheScreenIsPaintedBetweenItsBeginningAndItsEnd) {
+    const ReplacedImport beginning(toolkit, "BeginPaint", &NoteBeginning);
+    const ReplacedImport end(toolkit, "EndPaint", &NoteEnd);
+    ASSERT_TRUE(beginning.isThere() && end.isThere());
+    parentOfPainted = parent.m_hWnd;
+    ::InvalidateRect(window, nullptr, FALSE);
+    EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, 0, 0), 0);
+    ASSERT_GT(calls.size(), 4u);
+    EXPECT_EQ(calls.front().name, "begin");
+    EXPECT_EQ(calls.back().name, "end");
+    EXPECT_EQ(Count("begin"), 1);
+    EXPECT_EQ(Count("end"), 1);
+    Paint();
+    EXPECT_EQ(Count("begin") + Count("end"), 0) << "what was given is the caller's";
+}
+
 TEST_F(SplitButtonPaint, PaintingOnTheScreenValidatesIt) {
     ::InvalidateRect(window, nullptr, FALSE);
     EXPECT_EQ(KtUiTestDoor().splitButtonMessage(&record, window, WM_PAINT, 0, 0), 0);
@@ -526,6 +567,7 @@ TEST_F(SplitButtonPaint, AnOlderSystemsThemedIconIsDrawnHere) {
     UseTheme();
     record.m_word = BS_ICON;
     const HICON picture = ::LoadIconW(nullptr, IDI_HAND);
+    ::SetWindowLongW(window, GWL_STYLE, ::GetWindowLongW(window, GWL_STYLE) | BS_ICON);
     ::SendMessageW(window, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(picture));
     Paint();
     ASSERT_EQ(calls.size(), 3u);
@@ -536,6 +578,7 @@ TEST_F(SplitButtonPaint, AnOlderSystemsThemedIconIsDrawnHere) {
     EXPECT_EQ(calls[1].state, 1);
     EXPECT_EQ(calls[1].rect, kAll);
     EXPECT_EQ(calls[2].name, "state");
+    EXPECT_EQ(calls[2].part, 1) << "the icon is handed over";
     const int size = ::GetSystemMetrics(SM_CXICON);
     EXPECT_EQ(calls[2].rect.TopLeft(), CPoint((kWidth - size) / 2, (kHeight - size) / 2));
     EXPECT_EQ(calls[2].flags, static_cast<UINT>(DST_ICON | DSS_NORMAL));

@@ -49,6 +49,7 @@ struct Notice {
     RECT zone;
     DWORD wordThen;
     LRESULT stateThen;
+    CRect paintedLater;  ///< what has to be painted anew by then
 };
 std::vector<Notice> notices;
 
@@ -74,8 +75,10 @@ LRESULT CALLBACK WatchedProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     }
     if (message == WM_NOTIFY) {
         const auto* notice = reinterpret_cast<const NMBCDROPDOWN*>(lParam);
+        CRect update;
+        ::GetUpdateRect(window, &update, FALSE);
         notices.push_back({notice->hdr.code, notice->rcButton, recordOf(window)->m_word,
-                           ::SendMessageW(window, BM_GETSTATE, 0, 0)});
+                           ::SendMessageW(window, BM_GETSTATE, 0, 0), update});
         EXPECT_EQ(notice->hdr.hwndFrom, window);
         EXPECT_EQ(wParam, static_cast<WPARAM>(kId));
         return 0;
@@ -287,6 +290,15 @@ TEST_F(SplitButton, ClickInTheZoneSendsOneNotice) {
     EXPECT_EQ(update.left, 0);
 }
 
+TEST_F(SplitButton, OnlyTheZoneIsPaintedAnewWhileItIsPressed) {
+    Make(12);
+    ::SetFocus(window);
+    ::ValidateRect(window, nullptr);
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, At(kInside));
+    ASSERT_EQ(notices.size(), 1u);
+    EXPECT_EQ(notices[0].paintedLater, CRect(84, 0, 100, 24));
+}
+
 TEST_F(SplitButton, ClickOutsideTheZoneIsAnOrdinaryOne) {
     Make(12);
     Send(WM_LBUTTONDOWN, MK_LBUTTON, At(kOutside));
@@ -346,11 +358,14 @@ TEST_F(SplitButton, WithoutARecordControlsOfVersion6AreAskedThemselves) {
 TEST_F(SplitButton, ThemeGoesWithTheWindowAndItsChanges) {
     Make(12);
     static int opened, closed;
+    static HWND openedFor;
     opened = closed = 0;
+    openedFor = nullptr;
     ThemeApi api = KtUiTestDoor().exchangeThemeApi(ThemeApi());
     ThemeApi watched = api;
-    watched.openThemeData = [](HWND, LPCWSTR list) -> HTHEME {
+    watched.openThemeData = [](HWND asked, LPCWSTR list) -> HTHEME {
         EXPECT_STREQ(list, L"BUTTON");
+        openedFor = asked;
         ++opened;
         return reinterpret_cast<HTHEME>(static_cast<ULONG_PTR>(0x55));
     };
@@ -368,6 +383,7 @@ TEST_F(SplitButton, ThemeGoesWithTheWindowAndItsChanges) {
     ::ValidateRect(window, nullptr);
     send(WM_THEMECHANGED);
     EXPECT_EQ(opened, 1);
+    EXPECT_EQ(openedFor, window);
     EXPECT_EQ(closed, 0);
     EXPECT_TRUE(NeedsPaint());
     send(WM_THEMECHANGED);
