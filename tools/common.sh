@@ -56,6 +56,8 @@ make_prefix() {
 # start_display: an X server of our own, unless one was started by an outer script. Sets DISPLAY.
 start_display() {
     [ -n "${KTUI_DISPLAY:-}" ] && { export DISPLAY=$KTUI_DISPLAY; return 0; }
+    # Two servers that both make this folder at once end with an error, as on a machine where none has run yet.
+    mkdir -p -m 1777 /tmp/.X11-unix 2>/dev/null
     local number=$((100 + BASHPID % 400)) tries=0
     while [ -e /tmp/.X$number-lock ]; do number=$((number + 1)); done
     Xvfb ":$number" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
